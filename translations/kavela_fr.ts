@@ -13699,19 +13699,19 @@ Les pénalités sont laissées de côté.</translation>
     <name>kavela::desktop::PenaltiesActions</name>
     <message>
         <source>Crews</source>
-        <translation type="unfinished"></translation>
+        <translation>Équipages</translation>
     </message>
     <message>
         <source>&amp;Open split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir des fichiers d’intermédiaires…</translation>
     </message>
     <message>
         <source>Open a &amp;folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir &amp;un dossier…</translation>
     </message>
     <message>
         <source>Read &amp;again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Relire</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
@@ -13723,51 +13723,51 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le tableau en CSV…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation>&amp;Enregistrer le graphique…</translation>
+        <translation>Enregistrer &amp;le graphique…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Affi&amp;cher</translation>
     </message>
     <message>
         <source>&amp;Course</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Parcours</translation>
     </message>
     <message>
         <source>&amp;Rates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Taux</translation>
     </message>
     <message>
         <source>&amp;Details</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Détails</translation>
     </message>
     <message>
         <source>Cost in &amp;places</source>
-        <translation type="unfinished"></translation>
+        <translation>Coût e&amp;n places</translation>
     </message>
     <message>
         <source>Risk and &amp;speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Risque et &amp;vitesse</translation>
     </message>
     <message>
         <source>&amp;Next course</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcours &amp;suivant</translation>
     </message>
     <message>
         <source>Pre&amp;vious course</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Parcours précédent</translation>
     </message>
     <message>
         <source>&amp;All runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les &amp;manches</translation>
     </message>
     <message>
         <source>The &amp;whole chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout le &amp;graphique</translation>
     </message>
 </context>
 <context>
@@ -13778,15 +13778,15 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Drop split files (.kvx) or a folder of them here</source>
-        <translation type="unfinished"></translation>
+        <translation>Déposez ici des fichiers d’intermédiaires (.kvx) ou un dossier qui en contient</translation>
     </message>
     <message>
         <source>Open split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir des fichiers d’intermédiaires…</translation>
     </message>
     <message>
         <source>Open a folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un dossier…</translation>
     </message>
     <message>
         <source>Course</source>
@@ -13794,15 +13794,15 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Rates</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Détails</translation>
     </message>
     <message>
         <source>Cost in places</source>
-        <translation type="unfinished"></translation>
+        <translation>Coût en places</translation>
     </message>
     <message>
         <source>Risk and speed</source>
@@ -13822,11 +13822,11 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Open a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un dossier</translation>
     </message>
     <message>
         <source>Which gates are touched and missed, by whom, and what it cost: of one race, of several, or of a whole season. Files are only read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelles portes sont touchées et manquées, par qui, et ce que cela a coûté : pour une course, plusieurs, ou toute une saison. Les fichiers sont seulement lus.</translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -13834,7 +13834,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>There is no split file (.kvx) here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucun fichier d’intermédiaires (.kvx) ici.</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -13875,7 +13875,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Cre&amp;w</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;quipage</translation>
     </message>
     <message>
         <source>All</source>
@@ -13894,31 +13894,31 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Pole</source>
-        <translation type="unfinished"></translation>
+        <translation>Fiche</translation>
     </message>
     <message>
         <source>With</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec</translation>
     </message>
     <message>
         <source>Another at this gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Une autre à cette porte</translation>
     </message>
     <message>
         <source>Choose what else happened at the gate in front; M adds it</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez ce qui s’est encore passé à la porte au premier plan ; M l’ajoute</translation>
     </message>
     <message>
         <source>Moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Moment</translation>
     </message>
     <message>
         <source>Gate is</source>
-        <translation type="unfinished"></translation>
+        <translation>La porte est</translation>
     </message>
     <message>
         <source>Boat moves</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bateau va</translation>
     </message>
     <message>
         <source>Style</source>
@@ -13926,27 +13926,27 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Eyes</source>
-        <translation type="unfinished"></translation>
+        <translation>Regard</translation>
     </message>
     <message>
         <source>Gate %1: %2 s. The lists change its penalty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1 : %2 s. Les listes changent sa pénalité.</translation>
     </message>
     <message>
         <source>Gate %1: %2 s. M adds a penalty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte %1 : %2 s. M ajoute une pénalité.</translation>
     </message>
     <message>
         <source>The seconds differ from the penalties listed at gate %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les secondes diffèrent des pénalités listées à la porte %1.</translation>
     </message>
     <message>
         <source>The course has no gates yet: Ctrl+G sets it up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le parcours n’a pas encore de portes : Ctrl+G les règle.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; begins a second one.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » en commence une deuxième.</translation>
     </message>
     <message>
         <source>penalty at gate %1</source>
@@ -13954,7 +13954,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>penalty removed</source>
-        <translation type="unfinished"></translation>
+        <translation>pénalité retirée</translation>
     </message>
 </context>
 <context>
@@ -13997,7 +13997,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Enter a time or a position first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez d’abord un temps ou une position.</translation>
     </message>
     <message>
         <source>date</source>
@@ -14009,7 +14009,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Known where the run was taken over from a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Connu là où la manche a été reprise d’un fichier d’intermédiaires</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -14017,22 +14017,22 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>removal of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait d’une manche</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PhonePageDialog</name>
     <message>
         <source>&amp;Cut the runs out of their films</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Couper les manches de leurs films</translation>
     </message>
     <message>
         <source>Page for an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Page pour un athlète</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer…</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
@@ -14044,26 +14044,26 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>One file for the telephone, of one race as it was last saved. Films lie in the folder beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un seul fichier pour le téléphone, d’une course telle qu’enregistrée en dernier. Les films sont dans le dossier à côté.</translation>
     </message>
     <message>
         <source>One file for the telephone, the season of %1 files as they were last saved. Films lie in the folder beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un seul fichier pour le téléphone, la saison de %1 fichiers tels qu’enregistrés en dernier. Les films sont dans le dossier à côté.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PhonePages</name>
     <message>
         <source>No clip of %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas d’extrait de %1 : %2</translation>
     </message>
     <message>
         <source>Save the page of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la page de %1</translation>
     </message>
     <message>
         <source>Pages (*.html *.htm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages (*.html *.htm)</translation>
     </message>
     <message>
         <source>The page cannot be written over a race that it is made from.</source>
@@ -14071,11 +14071,11 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Making the page…</source>
-        <translation type="unfinished"></translation>
+        <translation>Création de la page…</translation>
     </message>
     <message>
         <source>Page for an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Page pour un athlète</translation>
     </message>
     <message>
         <source>%1 is written.</source>
@@ -14087,22 +14087,22 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Show in &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Montrer dans le dossier</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PivotDialog</name>
     <message>
         <source>Pivot</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau croisé</translation>
     </message>
     <message>
         <source>one column for all</source>
-        <translation type="unfinished"></translation>
+        <translation>une colonne pour tous</translation>
     </message>
     <message>
         <source>How many</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien</translation>
     </message>
     <message>
         <source>Sum</source>
@@ -14110,7 +14110,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne</translation>
     </message>
     <message>
         <source>Median</source>
@@ -14126,30 +14126,30 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Make</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer</translation>
     </message>
     <message>
         <source>A &amp;row for each</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Une ligne pour chaque</translation>
     </message>
     <message>
         <source>A &amp;column for each</source>
-        <translation type="unfinished"></translation>
+        <translation>Une &amp;colonne pour chaque</translation>
     </message>
     <message>
         <source>&amp;Of</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;De</translation>
     </message>
     <message>
         <source>&amp;Tell</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Indiquer</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PlaceGrid</name>
     <message>
         <source>Places at the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Places aux portes</translation>
     </message>
     <message>
         <source>Gate %1</source>
@@ -14157,74 +14157,74 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>, which is not on the cross course</source>
-        <translation type="unfinished"></translation>
+        <translation>, qui n’est pas sur le parcours de cross</translation>
     </message>
     <message>
         <source>, replaced by a later order</source>
-        <translation type="unfinished"></translation>
+        <translation>, remplacé par un ordre ultérieur</translation>
     </message>
     <message>
         <source>No order yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore d’ordre.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PlanView</name>
     <message>
         <source>The week&apos;s date is in no calendar, so that it has no days.</source>
-        <translation type="unfinished"></translation>
+        <translation>La date de la semaine n’est dans aucun calendrier : elle n’a donc pas de jours.</translation>
     </message>
     <message>
         <source>new session</source>
-        <translation type="unfinished"></translation>
+        <translation>nouvelle séance</translation>
     </message>
     <message>
         <source>session</source>
-        <translation type="unfinished"></translation>
+        <translation>séance</translation>
     </message>
     <message>
         <source>removal of a session</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait d’une séance</translation>
     </message>
     <message>
         <source>copied session</source>
-        <translation type="unfinished"></translation>
+        <translation>séance copiée</translation>
     </message>
     <message>
         <source>move of a session</source>
-        <translation type="unfinished"></translation>
+        <translation>déplacement d’une séance</translation>
     </message>
     <message>
         <source>There is no week there in this season.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de semaine à cet endroit de la saison.</translation>
     </message>
     <message>
         <source>Week %1 is copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>La semaine %1 est copiée.</translation>
     </message>
     <message>
         <source>One of the two weeks has a date that is in no calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’une des deux semaines a une date qui n’est dans aucun calendrier.</translation>
     </message>
     <message>
         <source>copy of a week</source>
-        <translation type="unfinished"></translation>
+        <translation>copie d’une semaine</translation>
     </message>
     <message>
         <source>Week %1 now holds the copied week; %2 sessions that stood there went. Ctrl+Z brings them back.</source>
-        <translation type="unfinished"></translation>
+        <translation>La semaine %1 contient maintenant la semaine copiée ; %2 séances qui s’y trouvaient sont parties. Ctrl+Z les rétablit.</translation>
     </message>
     <message>
         <source>repeated weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>semaines répétées</translation>
     </message>
     <message>
         <source>%1 weeks were written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 semaines ont été écrites.</translation>
     </message>
     <message>
         <source>There is no week behind the chosen ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucune semaine après celles choisies.</translation>
     </message>
     <message>
         <source>Repeat</source>
@@ -14233,63 +14233,64 @@ Les pénalités sont laissées de côté.</translation>
     <message>
         <source>How often do the %1 chosen weeks follow themselves?
 Sessions, totals, load, cycles, place, tests and goals of the weeks behind are replaced; their events and health stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de fois les %1 semaines choisies se répètent-elles à la suite ?
+Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivantes sont remplacés ; leurs compétitions et leur santé restent.</translation>
     </message>
     <message>
         <source>emptied weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>semaines vidées</translation>
     </message>
     <message>
         <source>planned totals</source>
-        <translation type="unfinished"></translation>
+        <translation>totaux prévus</translation>
     </message>
     <message>
         <source>new week</source>
-        <translation type="unfinished"></translation>
+        <translation>nouvelle semaine</translation>
     </message>
     <message>
         <source>removal of the last week</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait de la dernière semaine</translation>
     </message>
     <message>
         <source>Totals of the week</source>
-        <translation type="unfinished"></translation>
+        <translation>Totaux de la semaine</translation>
     </message>
     <message>
         <source>Totals of the chosen weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>Totaux des semaines choisies</translation>
     </message>
     <message>
         <source>Totals of the mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Totaux du mésocycle</translation>
     </message>
     <message>
         <source>Totals of the season</source>
-        <translation type="unfinished"></translation>
+        <translation>Totaux de la saison</translation>
     </message>
     <message>
         <source>planned sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>séances prévues</translation>
     </message>
     <message>
         <source>planned quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>quantité prévue</translation>
     </message>
     <message>
         <source>Add an athlete with Ctrl+N to begin a plan.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez un athlète avec Ctrl+N pour commencer un plan.</translation>
     </message>
     <message>
         <source>Add a season with Ctrl+Shift+N: 52 empty weeks to fill.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez une saison avec Ctrl+Maj+N : 52 semaines vides à remplir.</translation>
     </message>
     <message>
         <source>This season has no weeks. Add one with the menu Week.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette saison n’a pas de semaines. Ajoutez-en une par le menu Semaine.</translation>
     </message>
     <message>
         <source>This season has no week of today.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette saison n’a pas la semaine d’aujourd’hui.</translation>
     </message>
 </context>
 <context>
@@ -14300,19 +14301,19 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Picture…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Photo…</translation>
     </message>
     <message>
         <source>&amp;No picture</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sans photo</translation>
     </message>
     <message>
         <source>Picture of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Photo de l’athlète</translation>
     </message>
     <message>
         <source>Pictures (*.png *.jpg *.jpeg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Images (*.png *.jpg *.jpeg)</translation>
     </message>
     <message>
         <source>&amp;Name</source>
@@ -14320,44 +14321,44 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Catégories</translation>
     </message>
     <message>
         <source>&amp;E-mail</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;E-mail</translation>
     </message>
     <message>
         <source>P&amp;hone</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Téléphone</translation>
     </message>
     <message>
         <source>The file is no picture, cannot be read, or is larger than 8 MB.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’est pas une image, ne peut pas être lu, ou dépasse 8 Mo.</translation>
     </message>
     <message>
         <source>The athlete needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’athlète doit avoir un nom.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PlanningDocument</name>
     <message>
         <source>online planning</source>
-        <translation type="unfinished"></translation>
+        <translation>planification en ligne</translation>
     </message>
     <message>
         <source>The planning “%1” will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>La planification « %1 » sera remplacée.</translation>
     </message>
     <message>
         <source>1 athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>1 athlète</translation>
     </message>
     <message numerus="yes">
         <source>%n athletes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n athlète</numerusform>
+            <numerusform>%n athlètes</numerusform>
         </translation>
     </message>
 </context>
@@ -14373,11 +14374,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Edit the athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modifier l’athlète…</translation>
     </message>
     <message>
         <source>&amp;Remove the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Retirer l’athlète</translation>
     </message>
     <message>
         <source>New &amp;season</source>
@@ -14385,91 +14386,91 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Remove the s&amp;eason</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer &amp;la saison</translation>
     </message>
     <message>
         <source>&amp;Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Séan&amp;ce</translation>
     </message>
     <message>
         <source>Sessions are in the plan: show &amp;it</source>
-        <translation type="unfinished"></translation>
+        <translation>Les séances sont &amp;dans le plan : l’afficher</translation>
     </message>
     <message>
         <source>&amp;New session…</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;ouvelle séance…</translation>
     </message>
     <message>
         <source>&amp;Edit the session…</source>
-        <translation type="unfinished"></translation>
+        <translation>Modi&amp;fier la séance…</translation>
     </message>
     <message>
         <source>&amp;Remove the session</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;etirer la séance</translation>
     </message>
     <message>
         <source>&amp;Copy the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;pier la séance</translation>
     </message>
     <message>
         <source>&amp;Paste the session</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Coller la séance</translation>
     </message>
     <message>
         <source>Move to the week &amp;before</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer à la semaine précéden&amp;te</translation>
     </message>
     <message>
         <source>Move to the week be&amp;hind</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer à la semaine s&amp;uivante</translation>
     </message>
     <message>
         <source>&amp;Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem&amp;aine</translation>
     </message>
     <message>
         <source>&amp;Previous week</source>
-        <translation type="unfinished"></translation>
+        <translation>Semai&amp;ne précédente</translation>
     </message>
     <message>
         <source>&amp;Next week</source>
-        <translation type="unfinished"></translation>
+        <translation>Se&amp;maine suivante</translation>
     </message>
     <message>
         <source>&amp;This week</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette sema&amp;ine</translation>
     </message>
     <message>
         <source>&amp;Copy the week</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier la &amp;semaine</translation>
     </message>
     <message>
         <source>Paste the &amp;week</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller &amp;la semaine</translation>
     </message>
     <message>
         <source>&amp;Repeat the chosen weeks…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Répéter les semaines choisies…</translation>
     </message>
     <message>
         <source>&amp;Empty the chosen weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vider les semaines choisies</translation>
     </message>
     <message>
         <source>P&amp;lan what is in the sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Prévoir ce &amp;qui est dans les séances</translation>
     </message>
     <message>
         <source>&amp;Add a week at the end</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une semaine à la &amp;fin</translation>
     </message>
     <message>
         <source>Re&amp;move the last week</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer la &amp;dernière semaine</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>A&amp;ffichage</translation>
+        <translation>Affic&amp;hage</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
@@ -14477,23 +14478,23 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapports : aperçu, &amp;PDF, impression…</translation>
     </message>
     <message>
         <source>Week as a &amp;calendar file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine &amp;en fichier de calendrier…</translation>
     </message>
     <message>
         <source>Import heart-rate &amp;variability…</source>
-        <translation type="unfinished"></translation>
+        <translation>Imp&amp;orter la variabilité de la fréquence cardiaque…</translation>
     </message>
     <message>
         <source>Open an o&amp;nline planning…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir &amp;une planification en ligne…</translation>
     </message>
     <message>
         <source>Sa&amp;ve online…</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;nregistrer en ligne…</translation>
     </message>
     <message>
         <source>Athletes</source>
@@ -14505,35 +14506,35 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Plan</source>
-        <translation type="unfinished"></translation>
+        <translation>Plan</translation>
     </message>
     <message>
         <source>Goals</source>
-        <translation type="unfinished"></translation>
+        <translation>Objectifs</translation>
     </message>
     <message>
         <source>Body and heart</source>
-        <translation type="unfinished"></translation>
+        <translation>Corps et cœur</translation>
     </message>
     <message>
         <source>Gym</source>
-        <translation type="unfinished"></translation>
+        <translation>Musculation</translation>
     </message>
     <message>
         <source>Ranking and races</source>
-        <translation type="unfinished"></translation>
+        <translation>Classement et courses</translation>
     </message>
     <message>
         <source>Interval sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Séances d’intervalles</translation>
     </message>
     <message>
         <source>%1 measurements of heart-rate variability of this older file hold only a highest and a lowest value, for which the present version has no place: their dates are taken over, their values are not. Saving keeps the file as it was beside the new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mesures de variabilité de la fréquence cardiaque de cet ancien fichier ne contiennent qu’une valeur haute et une valeur basse, qui n’ont pas de place dans la version actuelle : leurs dates sont reprises, leurs valeurs non. L’enregistrement garde le fichier d’origine à côté du nouveau.</translation>
     </message>
     <message>
         <source>new athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>nouvel athlète</translation>
     </message>
     <message>
         <source>athlete</source>
@@ -14541,19 +14542,19 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>removal of an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait d’un athlète</translation>
     </message>
     <message>
         <source>Add an athlete first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez d’abord un athlète.</translation>
     </message>
     <message>
         <source>new season</source>
-        <translation type="unfinished"></translation>
+        <translation>nouvelle saison</translation>
     </message>
     <message>
         <source>removal of a season</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait d’une saison</translation>
     </message>
 </context>
 <context>
@@ -14568,23 +14569,23 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Backwards, again: faster</source>
-        <translation type="unfinished"></translation>
+        <translation>En arrière, encore une fois : plus vite</translation>
     </message>
     <message>
         <source>Stop; held, J and L step a frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt ; maintenu, J et L avancent d’une image</translation>
     </message>
     <message>
         <source>Forwards, again: faster</source>
-        <translation type="unfinished"></translation>
+        <translation>En avant, encore une fois : plus vite</translation>
     </message>
     <message>
         <source>Slow motion backwards</source>
-        <translation type="unfinished"></translation>
+        <translation>Ralenti en arrière</translation>
     </message>
     <message>
         <source>Slow motion forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Ralenti en avant</translation>
     </message>
     <message>
         <source>&amp;Slower</source>
@@ -14596,93 +14597,93 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse &amp;normale</translation>
     </message>
     <message>
         <source>S&amp;ound, at normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Son, à vitesse normale</translation>
     </message>
     <message>
         <source>One frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>Une image en arrière</translation>
     </message>
     <message>
         <source>One frame forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Une image en avant</translation>
     </message>
     <message>
         <source>One second back</source>
-        <translation type="unfinished"></translation>
+        <translation>Une seconde en arrière</translation>
     </message>
     <message>
         <source>One second forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Une seconde en avant</translation>
     </message>
     <message>
         <source>Ten seconds back</source>
-        <translation type="unfinished"></translation>
+        <translation>Dix secondes en arrière</translation>
     </message>
     <message>
         <source>Ten seconds forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Dix secondes en avant</translation>
     </message>
     <message>
         <source>To the beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>Au début</translation>
     </message>
     <message>
         <source>To the end</source>
-        <translation type="unfinished"></translation>
+        <translation>À la fin</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PlotInteraction</name>
     <message>
         <source>Show everything</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout afficher</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom avant</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom arrière</translation>
     </message>
     <message>
         <source>Show all series</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher toutes les séries</translation>
     </message>
     <message>
         <source>Copy the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier l’image</translation>
     </message>
     <message>
         <source>Copy the values</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier les valeurs</translation>
     </message>
     <message>
         <source>Save as picture (PNG)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer en image (PNG)…</translation>
     </message>
     <message>
         <source>Save as drawing (SVG)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer en dessin (SVG)…</translation>
     </message>
     <message>
         <source>Save as table (CSV)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer en tableau (CSV)…</translation>
     </message>
     <message>
         <source>The chart was not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Le graphique n’a pas été enregistré</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PotentialPanel</name>
     <message>
         <source>The best of every own section put together, without penalties. What is left is how far the best run is from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le meilleur de chaque secteur propre mis bout à bout, sans pénalités. Le reste est ce qui en sépare la meilleure manche.</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -14690,7 +14691,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Potential</source>
-        <translation type="unfinished"></translation>
+        <translation>Potentiel</translation>
     </message>
     <message>
         <source>Best run</source>
@@ -14709,7 +14710,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Why it is refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourquoi c’est refusé</translation>
     </message>
     <message>
         <source>Import power-meter data</source>
@@ -14717,15 +14718,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Samples: %1. Lines refused: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Échantillons : %1. Lignes refusées : %2.</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"></translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>It &amp;begins after the session&apos;s start by</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Commence après le début de la séance de</translation>
     </message>
     <message>
         <source>Import</source>
@@ -14733,42 +14734,42 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>%1 of them lie in the session, which lasts %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 d’entre eux se trouvent dans la séance, qui dure %2.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ProgressionPanel</name>
     <message>
         <source>Behind the winners</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrière les vainqueurs</translation>
     </message>
     <message>
         <source>Behind the fastest splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrière les intermédiaires les plus rapides</translation>
     </message>
     <message>
         <source>Behind whom</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrière qui</translation>
     </message>
     <message>
         <source>The winners&apos; totals have penalties in them, the fastest splits have not</source>
-        <translation type="unfinished"></translation>
+        <translation>Les temps totaux des vainqueurs contiennent les pénalités, les intermédiaires les plus rapides non</translation>
     </message>
     <message>
         <source>The team has no race of this athlete in these years.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’équipe n’a aucune course de cet athlète dans ces années.</translation>
     </message>
     <message>
         <source>Open the &amp;winner&apos;s run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir la manche du vainqueur</translation>
     </message>
     <message>
         <source>In split taking, where a split file has the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans la prise de temps intermédiaires, là où un fichier d’intermédiaires a la manche</translation>
     </message>
     <message>
         <source>With a missed gate: left out of spread, trend and changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Avec une porte manquée : absente de la dispersion, de la tendance et des évolutions</translation>
     </message>
     <message>
         <source>Year</source>
@@ -14780,7 +14781,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Place</source>
-        <translation>Place</translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -14788,7 +14789,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>Jour</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -14800,11 +14801,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Winner&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>Du vainqueur</translation>
     </message>
     <message>
         <source>Winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Vainqueur</translation>
     </message>
     <message>
         <source>not known</source>
@@ -14816,7 +14817,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>On splits, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur inters, %</translation>
     </message>
     <message>
         <source>Result</source>
@@ -14824,7 +14825,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>The way of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le chemin de %1</translation>
     </message>
     <message>
         <source>Behind the winner, %</source>
@@ -14832,7 +14833,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Behind the fastest splits, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrière les intermédiaires les plus rapides, %</translation>
     </message>
     <message>
         <source>Heats</source>
@@ -14840,15 +14841,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Final</source>
-        <translation type="unfinished"></translation>
+        <translation>Finale</translation>
     </message>
     <message>
         <source>Semifinal</source>
-        <translation type="unfinished"></translation>
+        <translation>Demi-finale</translation>
     </message>
     <message>
         <source>Other runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres manches</translation>
     </message>
     <message>
         <source>Percent</source>
@@ -14856,21 +14857,21 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Missed gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Porte manquée</translation>
     </message>
     <message>
         <source>3rd of finals, median</source>
-        <translation type="unfinished"></translation>
+        <translation>3e des finales, médiane</translation>
     </message>
     <message>
         <source>A run with a missed gate stands in the table alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une manche avec une porte manquée ne figure que dans le tableau.</translation>
     </message>
     <message numerus="yes">
         <source>%n runs with a missed gate stand in the table alone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manche avec une porte manquée ne figure que dans le tableau.</numerusform>
+            <numerusform>%n manches avec une porte manquée ne figurent que dans le tableau.</numerusform>
         </translation>
     </message>
 </context>
@@ -14878,85 +14879,85 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::QueryEdit</name>
     <message>
         <source>Query</source>
-        <translation type="unfinished"></translation>
+        <translation>Requête</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::QueryFault</name>
     <message>
         <source>%1 (at letter %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (à la lettre %2)</translation>
     </message>
     <message>
         <source>Writes “%1” there</source>
-        <translation type="unfinished"></translation>
+        <translation>Y écrit « %1 »</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::QueryForm</name>
     <message>
         <source>Fi&amp;nd</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Chercher</translation>
     </message>
     <message>
         <source>Words that its words begin with; a whole name in quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>Mots par lesquels commencent les siens ; un nom entier entre guillemets</translation>
     </message>
     <message>
         <source>Seconds, or 1:32.45; %1 in front leaves out the limit itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes, ou 1:32.45 ; %1 devant exclut la limite elle-même</translation>
     </message>
     <message>
         <source>At l&amp;east</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Au moins</translation>
     </message>
     <message>
         <source>no limit</source>
-        <translation type="unfinished"></translation>
+        <translation>sans limite</translation>
     </message>
     <message>
         <source>At &amp;most</source>
-        <translation type="unfinished"></translation>
+        <translation>Au &amp;plus</translation>
     </message>
     <message>
         <source>G&amp;roups by</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Groupes par</translation>
     </message>
     <message>
         <source>Up to three columns with commas between them</source>
-        <translation type="unfinished"></translation>
+        <translation>Jusqu’à trois colonnes séparées par des virgules</translation>
     </message>
     <message>
         <source>no groups</source>
-        <translation type="unfinished"></translation>
+        <translation>sans groupes</translation>
     </message>
     <message>
         <source>&amp;Best</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Meilleur</translation>
     </message>
     <message>
         <source>all</source>
-        <translation type="unfinished"></translation>
+        <translation>tous</translation>
     </message>
     <message>
         <source>S&amp;ort by</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trier par</translation>
     </message>
     <message>
         <source>as found</source>
-        <translation type="unfinished"></translation>
+        <translation>comme trouvé</translation>
     </message>
     <message>
         <source>From the largest do&amp;wn</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Du plus grand au plus petit</translation>
     </message>
     <message>
         <source>Only the f&amp;irst</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seulement les premiers</translation>
     </message>
     <message>
         <source>Near it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Proche : %1</translation>
     </message>
 </context>
 <context>
@@ -15304,54 +15305,54 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RacesSection</name>
     <message>
         <source>No runs yet: take them from the season&apos;s split files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore aucune manche : prenez-les dans les fichiers d’intermédiaires de la saison.</translation>
     </message>
     <message>
         <source>&lt;b&gt;%1&lt;/b&gt; runs, &lt;b&gt;%2&lt;/b&gt; of them clean (%3 %)  ·  touches per run &lt;b&gt;%4&lt;/b&gt;  ·  missed gates per run &lt;b&gt;%5&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;%1&lt;/b&gt; manches, dont &lt;b&gt;%2&lt;/b&gt; sans pénalité (%3 %)  ·  touches par manche &lt;b&gt;%4&lt;/b&gt;  ·  portes manquées par manche &lt;b&gt;%5&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Take from split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre dans des fichiers d’intermédiaires…</translation>
     </message>
     <message>
         <source>Races and penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses et pénalités</translation>
     </message>
     <message>
         <source>Choose &amp;files…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Choisir des fichiers…</translation>
     </message>
     <message>
         <source>Choose a f&amp;older…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir &amp;un dossier…</translation>
     </message>
     <message>
         <source>Files and folders can be dropped here too</source>
-        <translation type="unfinished"></translation>
+        <translation>Des fichiers et dossiers peuvent aussi être déposés ici</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RadioBox</name>
     <message>
         <source>Team radio</source>
-        <translation type="unfinished"></translation>
+        <translation>Radio d’équipe</translation>
     </message>
     <message>
         <source>Records what you say about the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistre ce que vous dites de la manche</translation>
     </message>
     <message>
         <source>Plays the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Lit l’enregistrement</translation>
     </message>
     <message>
         <source>Attach…</source>
-        <translation type="unfinished"></translation>
+        <translation>Joindre…</translation>
     </message>
     <message>
         <source>Takes a sound file into the split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Place un fichier son dans le fichier d’intermédiaires</translation>
     </message>
     <message>
         <source>Save as…</source>
@@ -15359,15 +15360,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Writes the recording into a file of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit l’enregistrement dans un fichier à part</translation>
     </message>
     <message>
         <source>Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus tôt</translation>
     </message>
     <message>
         <source>Moves the recording up</source>
-        <translation type="unfinished"></translation>
+        <translation>Monte l’enregistrement</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -15375,19 +15376,19 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Takes the recording out of the split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Retire l’enregistrement du fichier d’intermédiaires</translation>
     </message>
     <message>
         <source>%1 · %2, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2, %3</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Play</source>
@@ -15395,35 +15396,35 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Recording, %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement, %1 s</translation>
     </message>
     <message>
         <source>Record what you say to the athlete, or attach a voice message.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrez ce que vous dites à l’athlète, ou joignez un message vocal.</translation>
     </message>
     <message>
         <source>This computer has no microphone that can be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet ordinateur n’a pas de microphone utilisable.</translation>
     </message>
     <message>
         <source>The microphone gave no sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le microphone n’a donné aucun son.</translation>
     </message>
     <message>
         <source>Attach a recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Joindre un enregistrement</translation>
     </message>
     <message>
         <source>Sounds (*.m4a *.mp3 *.wav *.aiff *.aif *.caf *.ogg *.opus *.flac *.aac *.amr);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sons (*.m4a *.mp3 *.wav *.aiff *.aif *.caf *.ogg *.opus *.flac *.aac *.amr);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>%1 has %2: recordings up to %3 can be kept in a split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fait %2 : un fichier d’intermédiaires peut garder des enregistrements jusqu’à %3.</translation>
     </message>
     <message>
         <source>%1 cannot be played: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être lu : %2</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -15431,53 +15432,53 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Recording %1 cannot be played: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement %1 ne peut pas être lu : %2</translation>
     </message>
     <message>
         <source>recording %1</source>
-        <translation type="unfinished"></translation>
+        <translation>enregistrement %1</translation>
     </message>
     <message>
         <source>Save the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer l’enregistrement</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RangeLine</name>
     <message>
         <source>Click to go there. Drag the ends of the coloured part to choose what the film shows; near a split they take it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez pour y aller. Faites glisser les bords de la partie colorée pour choisir ce que montre le film ; près d’un intermédiaire, ils s’y calent.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RankingModel</name>
     <message>
         <source>%1 (was %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (avant : %2)</translation>
     </message>
     <message>
         <source>was %1, now %2</source>
-        <translation type="unfinished"></translation>
+        <translation>avant : %1, maintenant : %2</translation>
     </message>
     <message>
         <source>A time of 0 counts as the formula says and puts the athlete far in front. Edit &gt; Make times of 0 missing results.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un temps de 0 compte comme le dit la formule et place l’athlète loin devant. Édition &gt; Changer les temps de 0 en résultats absents.</translation>
     </message>
     <message>
         <source>Dropped: the worst result</source>
-        <translation type="unfinished"></translation>
+        <translation>Écarté : le plus mauvais résultat</translation>
     </message>
     <message>
         <source>Dropped too: a bonus stands among the results</source>
-        <translation type="unfinished"></translation>
+        <translation>Écarté aussi : un bonus figure parmi les résultats</translation>
     </message>
     <message>
         <source>Counted</source>
-        <translation type="unfinished"></translation>
+        <translation>Compté</translation>
     </message>
     <message>
         <source>#</source>
-        <translation type="unfinished"></translation>
+        <translation>#</translation>
     </message>
     <message>
         <source>SURNAME Name</source>
@@ -15501,7 +15502,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Pre</source>
-        <translation type="unfinished"></translation>
+        <translation>Pré</translation>
     </message>
     <message>
         <source>correction</source>
@@ -15517,15 +15518,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Tried only. Really: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement un essai. En réalité : %1</translation>
     </message>
     <message>
         <source>no result</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de résultat</translation>
     </message>
     <message>
         <source>Enter the time first: the penalty belongs to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez d’abord le temps : la pénalité s’y rattache.</translation>
     </message>
     <message>
         <source>penalty</source>
@@ -15533,7 +15534,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>result removed</source>
-        <translation type="unfinished"></translation>
+        <translation>résultat retiré</translation>
     </message>
     <message>
         <source>result</source>
@@ -15544,15 +15545,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RankingPanel</name>
     <message>
         <source>entry of the ranking list</source>
-        <translation type="unfinished"></translation>
+        <translation>entrée du classement</translation>
     </message>
     <message>
         <source>removal from the ranking list</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait du classement</translation>
     </message>
     <message>
         <source>Take the season&apos;s statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre les statistiques de la saison</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -15560,34 +15561,34 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>There is no split file in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne contient aucun fichier d’intermédiaires.</translation>
     </message>
     <message>
         <source>Reading split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture des fichiers d’intermédiaires…</translation>
     </message>
     <message>
         <source>season statistics from split files</source>
-        <translation type="unfinished"></translation>
+        <translation>statistiques de la saison d’après les fichiers d’intermédiaires</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RankingSection</name>
     <message>
         <source>Add a release</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une édition</translation>
     </message>
     <message>
         <source>Remove the release</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer l’édition</translation>
     </message>
     <message>
         <source>Ranking list</source>
-        <translation type="unfinished"></translation>
+        <translation>Classement</translation>
     </message>
     <message>
         <source>Add release</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une édition</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -15614,7 +15615,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Runs that came past</source>
-        <translation type="unfinished"></translation>
+        <translation>Manches passées par là</translation>
     </message>
     <message>
         <source>Touches</source>
@@ -15622,11 +15623,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Rate %</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux %</translation>
     </message>
     <message>
         <source>Touches of 100 passages</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches sur 100 passages</translation>
     </message>
     <message>
         <source>90 %</source>
@@ -15634,31 +15635,31 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Where the rate lies with 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Où se trouve le taux, à 90 %</translation>
     </message>
     <message>
         <source>Ranked %</source>
-        <translation type="unfinished"></translation>
+        <translation>Classé %</translation>
     </message>
     <message>
         <source>Drawn towards what all have in common, the more the fewer the passages</source>
-        <translation type="unfinished"></translation>
+        <translation>Ramené vers ce que tous ont en commun, d’autant plus que les passages sont peu nombreux</translation>
     </message>
     <message>
         <source>Ranked 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Classé 90 %</translation>
     </message>
     <message>
         <source>Where the ranked rate lies</source>
-        <translation type="unfinished"></translation>
+        <translation>Où se trouve le taux classé</translation>
     </message>
     <message>
         <source>Above %</source>
-        <translation type="unfinished"></translation>
+        <translation>Au-dessus %</translation>
     </message>
     <message>
         <source>The chance to be above what all have in common; from 95 the row is bold</source>
-        <translation type="unfinished"></translation>
+        <translation>La probabilité d’être au-dessus de ce que tous ont en commun ; à partir de 95 la ligne est en gras</translation>
     </message>
     <message>
         <source>Missed</source>
@@ -15670,19 +15671,19 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Missed %</source>
-        <translation type="unfinished"></translation>
+        <translation>Manquées %</translation>
     </message>
     <message>
         <source>Missed 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Manquées 90 %</translation>
     </message>
     <message>
         <source>&amp;Rates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Taux</translation>
     </message>
     <message>
         <source>No run that is asked for has its penalties by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune manche demandée n’a ses pénalités par porte.</translation>
     </message>
 </context>
 <context>
@@ -15693,57 +15694,57 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>%1 of %2 files</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fichiers sur %2</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RecordedSoundPlayer</name>
     <message>
         <source>This computer has no loudspeaker.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet ordinateur n’a pas de haut-parleur.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RecordingDialog</name>
     <message>
         <source>The film begins %1 after the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film commence %1 après l’enregistrement.</translation>
     </message>
     <message>
         <source>The film begins %1 before the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film commence %1 avant l’enregistrement.</translation>
     </message>
     <message>
         <source>Its clock gains %1 s in 100 s, which is taken out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Son horloge avance de %1 s en 100 s, ce qui est corrigé.</translation>
     </message>
     <message>
         <source>The recording is of another athlete and another day.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement est d’un autre athlète et d’un autre jour.</translation>
     </message>
     <message>
         <source>The recording is of another athlete.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement est d’un autre athlète.</translation>
     </message>
     <message>
         <source>The recording is of another day.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement est d’un autre jour.</translation>
     </message>
     <message>
         <source>Recording of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement d’une manche</translation>
     </message>
     <message>
         <source>Choose a &amp;recording…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Choisir un enregistrement…</translation>
     </message>
     <message>
         <source>&amp;Attach the part of this run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Joindre la partie de cette manche</translation>
     </message>
     <message>
         <source>Take o&amp;ff what is attached</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Retirer ce qui est joint</translation>
     </message>
     <message>
         <source>Close</source>
@@ -15751,31 +15752,31 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Common moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Moment commun</translation>
     </message>
     <message>
         <source>A later one, against drift</source>
-        <translation type="unfinished"></translation>
+        <translation>Un plus tardif, contre la dérive</translation>
     </message>
     <message>
         <source>From the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Du film</translation>
     </message>
     <message>
         <source>From the chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Du graphique</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>film %1</source>
-        <translation type="unfinished"></translation>
+        <translation>film %1</translation>
     </message>
     <message>
         <source>recording %1</source>
-        <translation type="unfinished"></translation>
+        <translation>enregistrement %1</translation>
     </message>
     <message>
         <source>Reading %1…</source>
@@ -15787,66 +15788,66 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>No recording yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore aucun enregistrement</translation>
     </message>
     <message>
         <source>Choose the recording (.kvb) of the run, or drop it here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez l’enregistrement (.kvb) de la manche, ou déposez-le ici.</translation>
     </message>
     <message>
         <source>The boat&apos;s acceleration stands here.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’accélération du bateau apparaît ici.</translation>
     </message>
     <message>
         <source>Find a moment that film and recording both show, such as the first stroke or a hit on the boat: go there in the film, click it in the chart, and set both.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouvez un moment visible sur le film et dans l’enregistrement, comme le premier coup de pagaie ou un choc sur le bateau : allez-y dans le film, cliquez-le dans le graphique, et posez les deux.</translation>
     </message>
     <message>
         <source>Forward acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Accélération vers l’avant</translation>
     </message>
     <message>
         <source>Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Accélération</translation>
     </message>
     <message>
         <source>Yaw rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse de lacet</translation>
     </message>
     <message>
         <source>film –</source>
-        <translation type="unfinished"></translation>
+        <translation>film –</translation>
     </message>
     <message>
         <source>recording –</source>
-        <translation type="unfinished"></translation>
+        <translation>enregistrement –</translation>
     </message>
     <message>
         <source>The run has to be marked first: its start and its splits.</source>
-        <translation type="unfinished"></translation>
+        <translation>La manche doit d’abord être marquée : son départ et ses intermédiaires.</translation>
     </message>
     <message>
         <source>Recording: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement : %1</translation>
     </message>
     <message>
         <source>Run: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Manche : %1</translation>
     </message>
     <message>
         <source>Nothing of the recording lies within the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien de l’enregistrement ne se trouve dans la manche.</translation>
     </message>
     <message>
         <source>The part of %1 is attached.</source>
-        <translation type="unfinished"></translation>
+        <translation>La partie de %1 est jointe.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RecordingList</name>
     <message>
         <source>%1 a second</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 par seconde</translation>
     </message>
     <message>
         <source>position</source>
@@ -15854,31 +15855,31 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>no position</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de position</translation>
     </message>
     <message>
         <source>heart</source>
-        <translation type="unfinished"></translation>
+        <translation>cœur</translation>
     </message>
     <message>
         <source>no heart</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de cœur</translation>
     </message>
     <message>
         <source>watch</source>
-        <translation type="unfinished"></translation>
+        <translation>montre</translation>
     </message>
     <message>
         <source>no watch</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de montre</translation>
     </message>
     <message>
         <source>looking for strokes…</source>
-        <translation type="unfinished"></translation>
+        <translation>recherche des coups de pagaie…</translation>
     </message>
     <message>
         <source>%1 strokes, %2 turns</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 coups de pagaie, %2 virages</translation>
     </message>
     <message>
         <source>side unknown</source>
@@ -15897,19 +15898,19 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>recording taken off</source>
-        <translation type="unfinished"></translation>
+        <translation>enregistrement détaché</translation>
     </message>
     <message>
         <source>Attach it all the same</source>
-        <translation type="unfinished"></translation>
+        <translation>Le joindre malgré tout</translation>
     </message>
     <message>
         <source>Recording of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement de la manche</translation>
     </message>
     <message>
         <source>Recordings (*.kvb);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements (*.kvb);;Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
@@ -15920,11 +15921,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Later b&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Plus tard de</translation>
     </message>
     <message>
         <source>Drag a curve with Shift, or press A, to move it in time</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites glisser une courbe avec Maj, ou appuyez sur A, pour la déplacer dans le temps</translation>
     </message>
     <message>
         <source>s</source>
@@ -15932,11 +15933,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Mass in motion</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Masse en mouvement</translation>
     </message>
     <message>
         <source>Athlete, boat and kit</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète, bateau et équipement</translation>
     </message>
     <message>
         <source>kg</source>
@@ -15944,42 +15945,42 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Drag</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Résistance</translation>
     </message>
     <message>
         <source>Resistance of the hull over the square of its speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Résistance de la coque rapportée au carré de sa vitesse</translation>
     </message>
     <message>
         <source>N·s²/m²</source>
-        <translation type="unfinished"></translation>
+        <translation>N·s²/m²</translation>
     </message>
     <message>
         <source>&amp;Boat</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bateau</translation>
     </message>
     <message>
         <source>Kayak</source>
-        <translation type="unfinished"></translation>
+        <translation>Kayak</translation>
     </message>
     <message>
         <source>Canoe</source>
-        <translation type="unfinished"></translation>
+        <translation>Canoë</translation>
     </message>
     <message>
         <source>P&amp;hone</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Téléphone</translation>
     </message>
     <message>
         <source>Which side of the phone points to the bow; used where the position does not tell</source>
-        <translation type="unfinished"></translation>
+        <translation>Quel côté du téléphone pointe vers l’avant ; utilisé là où la position ne le dit pas</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RenameFilmsDialog</name>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenant</translation>
     </message>
     <message>
         <source>Then</source>
@@ -15987,31 +15988,31 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>stays</source>
-        <translation type="unfinished"></translation>
+        <translation>reste</translation>
     </message>
     <message>
         <source>stays: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>reste : %1</translation>
     </message>
     <message>
         <source>Rename films</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer des films</translation>
     </message>
     <message>
         <source>How the films are to be called: {name}, {category}, {phase}, {bib} and {number} stand for what is known of each. Split files of the folder follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment les films doivent s’appeler : {name}, {category}, {phase}, {bib} et {number} remplacent ce qu’on sait de chacun. Les fichiers d’intermédiaires du dossier suivent.</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer</translation>
     </message>
     <message>
         <source>%1 of %2 films get another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 films sur %2 changent de nom.</translation>
     </message>
     <message>
         <source>%1 lack what the pattern asks for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il manque à %1 films ce que demande le modèle.</translation>
     </message>
 </context>
 <context>
@@ -16022,17 +16023,17 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Leaving the program stops that, and nothing of an unfinished film is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter le programme arrête cela, et rien d’un film inachevé n’est gardé.</translation>
     </message>
     <message>
         <source>Stop and leave</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter et quitter</translation>
     </message>
     <message numerus="yes">
         <source>%n films are still being composed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n film est encore en composition.</numerusform>
+            <numerusform>%n films sont encore en composition.</numerusform>
         </translation>
     </message>
 </context>
@@ -16040,26 +16041,26 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::ReplayBar</name>
     <message>
         <source>Place in the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Place dans la séance</translation>
     </message>
     <message>
         <source>Speed of the replay ([ slower, ] faster)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse de relecture ([ plus lent, ] plus vite)</translation>
     </message>
     <message>
         <source>Pause (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause (Espace)</translation>
     </message>
     <message>
         <source>Play (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire (Espace)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ReportPreview</name>
     <message>
         <source>Save as PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer en PDF</translation>
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
@@ -16067,7 +16068,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport</translation>
     </message>
     <message>
         <source>%1 %</source>
@@ -16075,23 +16076,23 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus petit</translation>
     </message>
     <message>
         <source>Larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus grand</translation>
     </message>
     <message>
         <source>Fit width</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuster à la largeur</translation>
     </message>
     <message>
         <source>Print…</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer…</translation>
     </message>
     <message>
         <source>Save as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer en PDF…</translation>
     </message>
     <message>
         <source>Close</source>
@@ -16099,35 +16100,35 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>No pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune page</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Page %1 sur %2</translation>
     </message>
     <message>
         <source>Preview – Kavela</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu – Kavela</translation>
     </message>
     <message>
         <source>%1, preview – Kavela</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, aperçu – Kavela</translation>
     </message>
     <message>
         <source>Saved as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré sous %1</translation>
     </message>
     <message>
         <source>Table as shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau tel qu’affiché</translation>
     </message>
     <message>
         <source>Race report</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport de course</translation>
     </message>
     <message>
         <source>Run sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Fiche de manche</translation>
     </message>
 </context>
 <context>
@@ -16138,7 +16139,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Official results from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats officiels de %1</translation>
     </message>
     <message>
         <source>Import</source>
@@ -16154,7 +16155,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Type a part of the name for another line; an emptied cell stands for none</source>
-        <translation type="unfinished"></translation>
+        <translation>Tapez une partie du nom pour une autre ligne ; une cellule vidée signifie aucune</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -16162,58 +16163,58 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Real time now</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps réel actuel</translation>
     </message>
     <message>
         <source>No line</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune ligne</translation>
     </message>
     <message>
         <source>“%1” stands in %2 lines of the list: it must be in one.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » figure dans %2 lignes de la liste : il doit figurer dans une seule.</translation>
     </message>
     <message>
         <source>%1 lines come into the file. Real time and penalty are taken for %2 of %3 runs: those that are ticked.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lignes entrent dans le fichier. Temps réel et pénalité sont repris pour %2 manches sur %3 : celles cochées.</translation>
     </message>
     <message>
         <source>No line was found for %1. A part of the name, typed in the last column, chooses one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune ligne n’a été trouvée pour %1. Une partie du nom, tapée dans la dernière colonne, en choisit une.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ResultsPage</name>
     <message>
         <source>→ goes on</source>
-        <translation type="unfinished"></translation>
+        <translation>→ qualifié</translation>
     </message>
     <message>
         <source>out</source>
-        <translation type="unfinished"></translation>
+        <translation>éliminé</translation>
     </message>
     <message>
         <source>★ wins</source>
-        <translation type="unfinished"></translation>
+        <translation>★ gagne</translation>
     </message>
     <message>
         <source>⚠ Not finished: no order was taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Inachevé : aucun ordre n’a été pris.</translation>
     </message>
     <message>
         <source>⚠ Not finished. Gates without an order: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Inachevé. Portes sans ordre : %1.</translation>
     </message>
     <message>
         <source>⚠ Not all boats were seen at the last gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Tous les bateaux n’ont pas été vus à la dernière porte.</translation>
     </message>
     <message>
         <source>Gates without an order: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Portes sans ordre : %1.</translation>
     </message>
     <message>
         <source>Final</source>
-        <translation type="unfinished"></translation>
+        <translation>Finale</translation>
     </message>
     <message>
         <source>Finals</source>
@@ -16225,11 +16226,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Quarterfinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Quarts de finale</translation>
     </message>
     <message>
         <source>Round %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tour %1</translation>
     </message>
     <message>
         <source>Boat</source>
@@ -16245,7 +16246,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Gained</source>
-        <translation type="unfinished"></translation>
+        <translation>Gagné</translation>
     </message>
     <message>
         <source>Lost</source>
@@ -16269,109 +16270,109 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Succeeded</source>
-        <translation type="unfinished"></translation>
+        <translation>Réussies</translation>
     </message>
     <message>
         <source>Success</source>
-        <translation type="unfinished"></translation>
+        <translation>Réussite</translation>
     </message>
     <message>
         <source>Attacked</source>
-        <translation type="unfinished"></translation>
+        <translation>Attaqué</translation>
     </message>
     <message>
         <source>Held</source>
-        <translation type="unfinished"></translation>
+        <translation>Contenues</translation>
     </message>
     <message>
         <source>Defence</source>
-        <translation type="unfinished"></translation>
+        <translation>Défense</translation>
     </message>
     <message>
         <source>not told</source>
-        <translation type="unfinished"></translation>
+        <translation>non indiqué</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>Où</translation>
     </message>
     <message>
         <source>No results yet: they follow from the orders at the gates that are taken on the page of heats.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore aucun résultat : ils découlent des ordres aux portes pris sur la page des séries.</translation>
     </message>
     <message>
         <source>Attacks and defences</source>
-        <translation type="unfinished"></translation>
+        <translation>Attaques et défenses</translation>
     </message>
     <message>
         <source>Where attacks succeed</source>
-        <translation type="unfinished"></translation>
+        <translation>Où les attaques réussissent</translation>
     </message>
     <message>
         <source>Heat %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Série %1</translation>
     </message>
     <message>
         <source>Shows the heat on its film</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre la série sur son film</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ResultsView</name>
     <message>
         <source>Nobody is in the team yet. Add the first athlete with Ctrl+N.</source>
-        <translation type="unfinished"></translation>
+        <translation>Personne n’est encore dans l’équipe. Ajoutez le premier athlète avec Ctrl+N.</translation>
     </message>
     <message>
         <source>No athlete fits the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun athlète ne correspond à la recherche.</translation>
     </message>
     <message>
         <source>Choose the boat %1 races in: menu Team, “Add a category”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez le bateau de course de %1 : menu Équipe, « Ajouter une catégorie ».</translation>
     </message>
     <message>
         <source>Add the first season with Ctrl+Shift+N, or drop a split file or a list of results here to take results over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez la première saison avec Ctrl+Maj+N, ou déposez ici un fichier d’intermédiaires ou une liste de résultats pour reprendre des résultats.</translation>
     </message>
     <message>
         <source>The first two seasons (✓) count for the categorization. Alt+Up, Alt+Down or dragging changes the order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les deux premières saisons (✓) comptent pour la catégorisation. Alt+Haut, Alt+Bas ou un glissement changent l’ordre.</translation>
     </message>
     <message>
         <source>Choose a race to see and edit its runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une course pour voir et modifier ses manches.</translation>
     </message>
     <message>
         <source>new season</source>
-        <translation type="unfinished"></translation>
+        <translation>nouvelle saison</translation>
     </message>
     <message>
         <source>new race</source>
-        <translation type="unfinished"></translation>
+        <translation>nouvelle course</translation>
     </message>
     <message>
         <source>order of the seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>ordre des saisons</translation>
     </message>
     <message>
         <source>order of the races</source>
-        <translation type="unfinished"></translation>
+        <translation>ordre des courses</translation>
     </message>
     <message>
         <source>removal of a race</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait d’une course</translation>
     </message>
     <message>
         <source>removal of a season</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait d’une saison</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RollForm</name>
     <message>
         <source>Part of the roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Partie de l’esquimautage</translation>
     </message>
     <message>
         <source>Time</source>
@@ -16387,11 +16388,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Going over</source>
-        <translation type="unfinished"></translation>
+        <translation>Retournement</translation>
     </message>
     <message>
         <source>Coming up</source>
-        <translation type="unfinished"></translation>
+        <translation>Redressement</translation>
     </message>
     <message>
         <source>Total</source>
@@ -16402,7 +16403,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RowModel</name>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>oui</translation>
     </message>
 </context>
 <context>
@@ -16413,23 +16414,23 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Compare with a run of another race</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparer avec une manche d’une autre course</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparer</translation>
     </message>
     <message>
         <source>&amp;Race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Course</translation>
     </message>
     <message>
         <source>&amp;Other file…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Autre fichier…</translation>
     </message>
     <message>
         <source>R&amp;un</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Manche</translation>
     </message>
     <message>
         <source>Name</source>
@@ -16438,15 +16439,16 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <message>
         <source>No other race lies in this folder.
 Choose a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune autre course n’est dans ce dossier.
+Choisissez un fichier.</translation>
     </message>
     <message>
         <source>not a race</source>
-        <translation type="unfinished"></translation>
+        <translation>pas une course</translation>
     </message>
     <message>
         <source>Open a race</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une course</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -16464,46 +16466,46 @@ Choose a file.</source>
     <name>kavela::desktop::RunFilms</name>
     <message>
         <source>Import videos with Ctrl+I, or drop a folder of videos here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importez des vidéos avec Ctrl+I, ou déposez ici un dossier de vidéos.</translation>
     </message>
     <message>
         <source>%1 is not in the folder of the split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas dans le dossier du fichier d’intermédiaires.</translation>
     </message>
     <message>
         <source>All films are found</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les films sont trouvés</translation>
     </message>
     <message>
         <source>%1 of %2 films are there. Not found: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 films sur %2 sont là. Introuvables : %3.</translation>
     </message>
     <message>
         <source>Import video</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer une vidéo</translation>
     </message>
     <message>
         <source>Add another camera of this run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une autre caméra de cette manche</translation>
     </message>
     <message>
         <source>camera added</source>
-        <translation type="unfinished"></translation>
+        <translation>caméra ajoutée</translation>
     </message>
     <message>
         <source>Attach the film of a fixed camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Joindre le film d’une caméra fixe</translation>
     </message>
     <message>
         <source>fixed camera attached</source>
-        <translation type="unfinished"></translation>
+        <translation>caméra fixe jointe</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RunForm</name>
     <message>
         <source>A comma and minutes, such as 1:32,34, are taken too</source>
-        <translation type="unfinished"></translation>
+        <translation>Une virgule et des minutes, comme 1:32,34, sont aussi acceptées</translation>
     </message>
     <message>
         <source>Crew</source>
@@ -16519,15 +16521,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Main</translation>
     </message>
     <message>
         <source>Real time</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps réel</translation>
     </message>
     <message>
         <source>Real penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Pénalité réelle</translation>
     </message>
     <message>
         <source>Sprint</source>
@@ -16535,82 +16537,82 @@ Choose a file.</source>
     </message>
     <message>
         <source>sprint time</source>
-        <translation type="unfinished"></translation>
+        <translation>temps de sprint</translation>
     </message>
     <message>
         <source>Total %1 s,</source>
-        <translation type="unfinished"></translation>
+        <translation>Total %1 s,</translation>
     </message>
     <message>
         <source>penalties %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>pénalités %1 s</translation>
     </message>
     <message>
         <source>Expected %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Attendu %1 s</translation>
     </message>
     <message>
         <source>Perfect time %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps parfait %1 s</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RunPanel</name>
     <message>
         <source>A clean run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une manche sans pénalité.</translation>
     </message>
     <message>
         <source>Touched: gate %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Touchée : porte %1.</translation>
     </message>
     <message>
         <source>Missed: gate %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manquée : porte %1.</translation>
     </message>
     <message>
         <source>To best</source>
-        <translation type="unfinished"></translation>
+        <translation>Au meilleur</translation>
     </message>
     <message>
         <source>Select a run to see its sections. Select two to compare them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez une manche pour voir ses secteurs. Sélectionnez-en deux pour les comparer.</translation>
     </message>
     <message>
         <source> against %1</source>
-        <translation type="unfinished"></translation>
+        <translation> face à %1</translation>
     </message>
     <message>
         <source>penalties %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>pénalités %1 s</translation>
     </message>
     <message>
         <source>Total %1 s,</source>
-        <translation type="unfinished"></translation>
+        <translation>Total %1 s,</translation>
     </message>
     <message>
         <source>Total –,</source>
-        <translation type="unfinished"></translation>
+        <translation>Total –,</translation>
     </message>
     <message>
         <source>Real %1 s,</source>
-        <translation type="unfinished"></translation>
+        <translation>Réel %1 s,</translation>
     </message>
     <message>
         <source>Expected %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Attendu %1 s</translation>
     </message>
     <message>
         <source>Best own sections %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Meilleurs secteurs propres %1 s</translation>
     </message>
     <message>
         <source>A time must be above 0. Check the marks of this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un temps doit être au-dessus de 0. Vérifiez les marques de cette manche.</translation>
     </message>
     <message>
         <source>Not the whole course</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas tout le parcours</translation>
     </message>
     <message>
         <source>Gap</source>
@@ -16641,57 +16643,57 @@ Choose a file.</source>
     </message>
     <message>
         <source>Type any part of a name, phase, category or race</source>
-        <translation type="unfinished"></translation>
+        <translation>Tapez n’importe quelle partie d’un nom, d’une phase, d’une catégorie ou d’une course</translation>
     </message>
     <message>
         <source>Find a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher une manche</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RunsToEnter</name>
     <message>
         <source>perhaps %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>peut-être %1 ?</translation>
     </message>
     <message>
         <source>another run is better</source>
-        <translation type="unfinished"></translation>
+        <translation>une autre manche est meilleure</translation>
     </message>
     <message>
         <source>; xTime %1 stays</source>
-        <translation type="unfinished"></translation>
+        <translation>; xTime %1 reste</translation>
     </message>
     <message>
         <source>line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ligne %1</translation>
     </message>
     <message>
         <source>(no run)</source>
-        <translation type="unfinished"></translation>
+        <translation>(aucune manche)</translation>
     </message>
     <message>
         <source>has no result in this race</source>
-        <translation type="unfinished"></translation>
+        <translation>n’a pas de résultat dans cette course</translation>
     </message>
     <message>
         <source>no result</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de résultat</translation>
     </message>
     <message>
         <source>(line %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(ligne %1)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RunsToEnter::Outcome</name>
     <message>
         <source>place %1</source>
-        <translation type="unfinished"></translation>
+        <translation>place %1</translation>
     </message>
     <message>
         <source>place %1, was %2</source>
-        <translation type="unfinished"></translation>
+        <translation>place %1, avant %2</translation>
     </message>
 </context>
 <context>
@@ -16702,23 +16704,23 @@ Choose a file.</source>
     </message>
     <message>
         <source>Folders and files that are searched</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossiers et fichiers où l’on cherche</translation>
     </message>
     <message>
         <source>Add folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un dossier…</translation>
     </message>
     <message>
         <source>The chosen folder or file is not searched any more</source>
-        <translation type="unfinished"></translation>
+        <translation>On ne cherche plus dans le dossier ou fichier choisi</translation>
     </message>
     <message>
         <source>⚠ One could not be read…</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Un n’a pas pu être lu…</translation>
     </message>
     <message>
         <source>Search a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher dans un dossier</translation>
     </message>
     <message>
         <source>Search files</source>
@@ -16730,9 +16732,9 @@ Choose a file.</source>
     </message>
     <message numerus="yes">
         <source>⚠ %n could not be read…</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>⚠ %n n’a pas pu être lu…</numerusform>
+            <numerusform>⚠ %n n’ont pas pu être lus…</numerusform>
         </translation>
     </message>
 </context>
@@ -16744,23 +16746,23 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Open a team…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir une équipe…</translation>
     </message>
     <message>
         <source>Add &amp;split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajouter des fichiers d’intermédiaires…</translation>
     </message>
     <message>
         <source>Add a &amp;folder of races…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter &amp;un dossier de courses…</translation>
     </message>
     <message>
         <source>Read &amp;again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Relire</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation>&amp;Arrêter la lecture</translation>
+        <translation>Arrêter &amp;la lecture</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
@@ -16768,98 +16770,98 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Reports to look at and print…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapports à regarder &amp;et imprimer…</translation>
     </message>
     <message>
         <source>Report of the &amp;athlete as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport &amp;de l’athlète en PDF…</translation>
     </message>
     <message>
         <source>Report of the tea&amp;m as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport de l’équipe en &amp;PDF…</translation>
     </message>
     <message>
         <source>Save the tab&amp;le as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le &amp;tableau en CSV…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation>&amp;Enregistrer le graphique…</translation>
+        <translation>Enregistrer le &amp;graphique…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Affi&amp;cher</translation>
     </message>
     <message>
         <source>&amp;Progression</source>
-        <translation type="unfinished"></translation>
+        <translation>Progre&amp;ssion</translation>
     </message>
     <message>
         <source>P&amp;hases</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;hases</translation>
     </message>
     <message>
         <source>&amp;Spread</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispersio&amp;n</translation>
     </message>
     <message>
         <source>&amp;Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tendance</translation>
     </message>
     <message>
         <source>Head to h&amp;ead</source>
-        <translation type="unfinished"></translation>
+        <translation>F&amp;ace à face</translation>
     </message>
     <message>
         <source>&amp;Medals and finals</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Médailles et finales</translation>
     </message>
     <message>
         <source>E&amp;xpected places</source>
-        <translation type="unfinished"></translation>
+        <translation>Places attend&amp;ues</translation>
     </message>
     <message>
         <source>&amp;What it takes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce &amp;qu’il faut</translation>
     </message>
     <message>
         <source>&amp;Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ath&amp;lètes</translation>
     </message>
     <message>
         <source>The who&amp;le chart</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;out le graphique</translation>
     </message>
     <message>
         <source>Athl&amp;ete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlèt&amp;e</translation>
     </message>
     <message>
         <source>The &amp;next athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète sui&amp;vant</translation>
     </message>
     <message>
         <source>The athlete &amp;before</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète &amp;précédent</translation>
     </message>
     <message>
         <source>&amp;Show the athlete of the row</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer l’athlète &amp;de la ligne</translation>
     </message>
     <message>
         <source>Expect the places of a &amp;field…</source>
-        <translation type="unfinished"></translation>
+        <translation>Attend&amp;re les places d’un plateau…</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
-        <translation>&amp;Page pour un athlète…</translation>
+        <translation>Pa&amp;ge pour un athlète…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SeasonHeader</name>
     <message>
         <source>Add the races…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter les courses…</translation>
     </message>
     <message>
         <source>&amp;Category</source>
@@ -16867,42 +16869,42 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Years</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Années</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Athlète</translation>
+        <translation>A&amp;thlète</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SeasonModel</name>
     <message>
         <source>✓ counts</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ compte</translation>
     </message>
     <message>
         <source>The first two seasons count for the categorization. Move a season by dragging it, or with Alt+Up and Alt+Down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les deux premières saisons comptent pour la catégorisation. Déplacez une saison en la faisant glisser, ou avec Alt+Haut et Alt+Bas.</translation>
     </message>
     <message>
         <source>Final classification of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Classement final de la course</translation>
     </message>
     <message>
         <source>Position in the ICF world ranking at the end of the season</source>
-        <translation type="unfinished"></translation>
+        <translation>Position au classement mondial ICF à la fin de la saison</translation>
     </message>
     <message>
         <source>Points in the ICF world ranking</source>
-        <translation type="unfinished"></translation>
+        <translation>Points au classement mondial ICF</translation>
     </message>
     <message>
         <source>Season, race</source>
-        <translation type="unfinished"></translation>
+        <translation>Saison, course</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>Place</source>
@@ -16918,35 +16920,35 @@ Choose a file.</source>
     </message>
     <message>
         <source>ICF ranking position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position au classement ICF</translation>
     </message>
     <message>
         <source>ICF ranking points</source>
-        <translation type="unfinished"></translation>
+        <translation>Points au classement ICF</translation>
     </message>
     <message>
         <source>There is a season %1 already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a déjà une saison %1.</translation>
     </message>
     <message>
         <source>year</source>
-        <translation type="unfinished"></translation>
+        <translation>année</translation>
     </message>
     <message>
         <source>final position</source>
-        <translation type="unfinished"></translation>
+        <translation>place finale</translation>
     </message>
     <message>
         <source>“%1” is none of the events.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est aucune des compétitions.</translation>
     </message>
     <message>
         <source>event</source>
-        <translation type="unfinished"></translation>
+        <translation>compétition</translation>
     </message>
     <message>
         <source>location</source>
-        <translation type="unfinished"></translation>
+        <translation>lieu</translation>
     </message>
 </context>
 <context>
@@ -16965,15 +16967,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>No whole run of this athlete can be held against the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune manche complète de cet athlète ne peut être comparée à la référence.</translation>
     </message>
     <message>
         <source>Nothing stands out: there is no clip to choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne ressort : il n’y a pas d’extrait à choisir.</translation>
     </message>
     <message>
         <source>&amp;Show this run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Montrer cette manche</translation>
     </message>
     <message>
         <source>By</source>
@@ -16993,7 +16995,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Seconds, of all runs together</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes, de toutes les manches ensemble</translation>
     </message>
     <message>
         <source>Lost, %</source>
@@ -17001,7 +17003,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Of the reference&apos;s time there</source>
-        <translation type="unfinished"></translation>
+        <translation>Du temps de la référence à cet endroit</translation>
     </message>
     <message>
         <source>90 %</source>
@@ -17009,15 +17011,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>A run</source>
-        <translation type="unfinished"></translation>
+        <translation>Par manche</translation>
     </message>
     <message>
         <source>Seconds lost in a run on the average</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes perdues en moyenne par manche</translation>
     </message>
     <message>
         <source>Of the gap, %</source>
-        <translation type="unfinished"></translation>
+        <translation>De l’écart, %</translation>
     </message>
     <message>
         <source>Verdict</source>
@@ -17025,11 +17027,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>What the interval says: losing where all of it is above 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que dit l’intervalle : en perte là où il est tout entier au-dessus de 0</translation>
     </message>
     <message>
         <source>See</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir</translation>
     </message>
     <message>
         <source>Run</source>
@@ -17037,45 +17039,45 @@ Choose a file.</source>
     </message>
     <message>
         <source>Open a folder of races to see an athlete&apos;s season.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrez un dossier de courses pour voir la saison d’un athlète.</translation>
     </message>
     <message>
         <source>%1: no whole run in %2 files can be held against the %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : aucune manche complète dans %2 fichiers ne peut être comparée à la référence (%3).</translation>
     </message>
     <message>
         <source>%1 on %2: %3 in %4; gap a run %5, penalties %6</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 face à %2 : %3 dans %4 ; écart par manche %5, pénalités %6</translation>
     </message>
     <message>
         <source>one whole run</source>
-        <translation type="unfinished"></translation>
+        <translation>une manche complète</translation>
     </message>
     <message>
         <source>one file</source>
-        <translation type="unfinished"></translation>
+        <translation>un fichier</translation>
     </message>
     <message>
         <source>Train: nothing stands out from these runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>À travailler : rien ne ressort de ces manches.</translation>
     </message>
     <message>
         <source>%1. %2: %3, %4 s a run</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2 : %3, %4 s par manche</translation>
     </message>
     <message>
         <source>Train:</source>
-        <translation type="unfinished"></translation>
+        <translation>À travailler :</translation>
     </message>
     <message>
         <source>gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>porte %1</translation>
     </message>
     <message numerus="yes">
         <source>%n whole runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manche complète</numerusform>
+            <numerusform>%n manches complètes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -17090,19 +17092,19 @@ Choose a file.</source>
     <name>kavela::desktop::SeasonPages</name>
     <message>
         <source>Progression</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression</translation>
     </message>
     <message>
         <source>Phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Phases</translation>
     </message>
     <message>
         <source>From which phase to which</source>
-        <translation type="unfinished"></translation>
+        <translation>De quelle phase à laquelle</translation>
     </message>
     <message>
         <source>Run 1 to run 2 of the heats</source>
-        <translation type="unfinished"></translation>
+        <translation>De la manche 1 à la manche 2 des qualifications</translation>
     </message>
     <message>
         <source>Semifinal to final</source>
@@ -17110,11 +17112,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Heats to final, percent behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Des qualifications à la finale, pourcentage de retard</translation>
     </message>
     <message>
         <source>Spread</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispersion</translation>
     </message>
     <message>
         <source>Trend</source>
@@ -17122,15 +17124,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Behind whom</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrière qui</translation>
     </message>
     <message>
         <source>Behind the winners</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrière les vainqueurs</translation>
     </message>
     <message>
         <source>Behind the fastest splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrière les intermédiaires les plus rapides</translation>
     </message>
     <message>
         <source>Head to head</source>
@@ -17142,7 +17144,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>How far</source>
-        <translation type="unfinished"></translation>
+        <translation>Jusqu’où</translation>
     </message>
     <message>
         <source>Medals</source>
@@ -17162,7 +17164,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>What it takes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qu’il faut</translation>
     </message>
     <message>
         <source>Athletes</source>
@@ -17177,15 +17179,15 @@ Choose a file.</source>
     <name>kavela::desktop::SeasonReports</name>
     <message>
         <source>The team</source>
-        <translation type="unfinished"></translation>
+        <translation>L’équipe</translation>
     </message>
     <message>
         <source>Save the report of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le rapport de %1</translation>
     </message>
     <message>
         <source>Save the report of the team</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le rapport de l’équipe</translation>
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
@@ -17193,7 +17195,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>The report cannot be written over a file that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le rapport ne peut pas être écrit par-dessus un fichier dont il est tiré.</translation>
     </message>
 </context>
 <context>
@@ -17204,15 +17206,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Drop a team (.kvteam) and the folder of its races here</source>
-        <translation type="unfinished"></translation>
+        <translation>Déposez ici une équipe (.kvteam) et le dossier de ses courses</translation>
     </message>
     <message>
         <source>Open a team…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une équipe…</translation>
     </message>
     <message>
         <source>Add a folder of races…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un dossier de courses…</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -17228,11 +17230,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Teams (*.kvteam);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Équipes (*.kvteam);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Add split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter des fichiers d’intermédiaires</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -17240,23 +17242,23 @@ Choose a file.</source>
     </message>
     <message>
         <source>Add a folder of races</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un dossier de courses</translation>
     </message>
     <message>
         <source>Whose places to expect</source>
-        <translation type="unfinished"></translation>
+        <translation>De qui attendre les places</translation>
     </message>
     <message>
         <source>A name a line, as a start list has them. Nothing for the team and those who raced most often.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nom par ligne, comme dans une liste de départ. Rien : l’équipe et ceux qui ont couru le plus souvent.</translation>
     </message>
     <message>
         <source>%1 could not be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’a pas pu être lu : %2</translation>
     </message>
     <message>
         <source>How every athlete of a team stands over the seasons: behind the winners, against rivals, and against chance. Files are only read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où en est chaque athlète d’une équipe au fil des saisons : derrière les vainqueurs, face aux rivaux, et face au hasard. Les fichiers sont seulement lus.</translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -17264,48 +17266,48 @@ Choose a file.</source>
     </message>
     <message>
         <source>Nobody of this team races in any category yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Personne de cette équipe ne court encore dans une catégorie.</translation>
     </message>
     <message>
         <source>No split files: winners and rivals are the team&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de fichiers d’intermédiaires : vainqueurs et rivaux sont ceux de l’équipe</translation>
     </message>
     <message>
         <source>Races from 1 split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Courses d’un fichier d’intermédiaires</translation>
     </message>
     <message>
         <source>1 run compared</source>
-        <translation type="unfinished"></translation>
+        <translation>1 manche comparée</translation>
     </message>
     <message>
         <source>several athletes are called %1: their runs cannot be told apart</source>
-        <translation type="unfinished"></translation>
+        <translation>plusieurs athlètes s’appellent %1 : leurs manches ne peuvent pas être distinguées</translation>
     </message>
     <message>
         <source>nobody in these races is called %1</source>
-        <translation type="unfinished"></translation>
+        <translation>personne ne s’appelle %1 dans ces courses</translation>
     </message>
     <message>
         <source>too few runs to expect a place of %1 of the field</source>
-        <translation type="unfinished"></translation>
+        <translation>trop peu de manches pour attendre une place de %1 du plateau</translation>
     </message>
     <message>
         <source>the team could not be read again: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>l’équipe n’a pas pu être relue : %1</translation>
     </message>
     <message numerus="yes">
         <source>Races from %n split files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Courses de %n fichier d’intermédiaires</numerusform>
+            <numerusform>Courses de %n fichiers d’intermédiaires</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n runs compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manche comparée</numerusform>
+            <numerusform>%n manches comparées</numerusform>
         </translation>
     </message>
 </context>
@@ -17313,19 +17315,19 @@ Choose a file.</source>
     <name>kavela::desktop::SectionChart</name>
     <message>
         <source>Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Boîte</translation>
     </message>
     <message>
         <source>Quartiles, and the runs far from them</source>
-        <translation type="unfinished"></translation>
+        <translation>Quartiles, et les manches qui s’en écartent beaucoup</translation>
     </message>
     <message>
         <source>Strip</source>
-        <translation type="unfinished"></translation>
+        <translation>Bande</translation>
     </message>
     <message>
         <source>A dot for every run</source>
-        <translation type="unfinished"></translation>
+        <translation>Un point par manche</translation>
     </message>
     <message>
         <source>Behind best</source>
@@ -17333,7 +17335,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Seconds behind the best of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes derrière le meilleur du secteur</translation>
     </message>
     <message>
         <source>Time</source>
@@ -17341,27 +17343,27 @@ Choose a file.</source>
     </message>
     <message>
         <source>Seconds in the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes dans le secteur</translation>
     </message>
     <message>
         <source>No section has been timed yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun secteur n’a encore été chronométré.</translation>
     </message>
     <message>
         <source>Seconds in each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes dans chaque secteur</translation>
     </message>
     <message>
         <source>Seconds behind the best of each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes derrière le meilleur de chaque secteur</translation>
     </message>
     <message>
         <source>Times of %1 by section</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps de %1 par secteur</translation>
     </message>
     <message>
         <source>, penalties included</source>
-        <translation type="unfinished"></translation>
+        <translation>, pénalités comprises</translation>
     </message>
     <message>
         <source>← slower      faster →</source>
@@ -17369,11 +17371,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Not timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Non chronométré</translation>
     </message>
     <message>
         <source>Quarter of the runs under</source>
-        <translation type="unfinished"></translation>
+        <translation>Un quart des manches au-dessous de</translation>
     </message>
     <message>
         <source>Median</source>
@@ -17381,11 +17383,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Quarter of the runs over</source>
-        <translation type="unfinished"></translation>
+        <translation>Un quart des manches au-dessus de</translation>
     </message>
     <message>
         <source>Slowest</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus lent</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -17393,7 +17395,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Behind the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Derrière le meilleur</translation>
     </message>
     <message>
         <source>Place</source>
@@ -17413,15 +17415,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Fastest</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus rapide</translation>
     </message>
     <message>
         <source>Lower quartile</source>
-        <translation type="unfinished"></translation>
+        <translation>Quartile inférieur</translation>
     </message>
     <message>
         <source>Upper quartile</source>
-        <translation type="unfinished"></translation>
+        <translation>Quartile supérieur</translation>
     </message>
     <message>
         <source>Sections</source>
@@ -17429,7 +17431,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Distribution of the times of each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Répartition des temps de chaque secteur</translation>
     </message>
 </context>
 <context>
@@ -17440,31 +17442,31 @@ Choose a file.</source>
     </message>
     <message>
         <source>Turn %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Virage %1</translation>
     </message>
     <message>
         <source>Stretch %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tronçon %1</translation>
     </message>
     <message>
         <source>Lap %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tour %1</translation>
     </message>
     <message>
         <source>La&amp;ps</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tours</translation>
     </message>
     <message>
         <source>number of laps</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre de tours</translation>
     </message>
     <message>
         <source>Distance between the &amp;gates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Distance entre les portes</translation>
     </message>
     <message>
         <source>distance</source>
-        <translation type="unfinished"></translation>
+        <translation>distance</translation>
     </message>
     <message>
         <source>m</source>
@@ -17472,11 +17474,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Turn li&amp;mit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seuil de virage</translation>
     </message>
     <message>
         <source>A faster rotation of the boat is a turn, a slower one straight paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>Une rotation plus rapide du bateau est un virage, une plus lente de la navigation en ligne</translation>
     </message>
     <message>
         <source>rad/s</source>
@@ -17484,7 +17486,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Told by the strokes that were recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>D’après les coups de pagaie enregistrés</translation>
     </message>
     <message>
         <source>Time
@@ -17495,55 +17497,64 @@ Choose a file.</source>
     <message>
         <source>Straight
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>En ligne
+(s)</translation>
     </message>
     <message>
         <source>Rotation
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation
+(s)</translation>
     </message>
     <message>
         <source>Speed
 (m/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse
+(m/s)</translation>
     </message>
     <message>
         <source>Follows from distance and time until it is typed</source>
-        <translation type="unfinished"></translation>
+        <translation>Découle de la distance et du temps jusqu’à une saisie</translation>
     </message>
     <message>
         <source>Stroke rate
 (1/min)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadence
+(1/min)</translation>
     </message>
     <message>
         <source>Efficiency
 (m/stroke)</source>
-        <translation type="unfinished"></translation>
+        <translation>Efficacité
+(m/coup)</translation>
     </message>
     <message>
         <source>Follows from speed and stroke rate until typed</source>
-        <translation type="unfinished"></translation>
+        <translation>Découle de la vitesse et de la cadence jusqu’à une saisie</translation>
     </message>
     <message>
         <source>Left
 (rad/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche
+(rad/s)</translation>
     </message>
     <message>
         <source>Left
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche
+(s)</translation>
     </message>
     <message>
         <source>Right
 (rad/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite
+(rad/s)</translation>
     </message>
     <message>
         <source>Right
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite
+(s)</translation>
     </message>
     <message>
         <source>Sections</source>
@@ -17551,40 +17562,40 @@ Choose a file.</source>
     </message>
     <message>
         <source>The time in straight line is part of the time of its section: it cannot be longer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps en ligne droite fait partie du temps de son secteur : il ne peut pas être plus long.</translation>
     </message>
     <message>
         <source>section %1</source>
-        <translation type="unfinished"></translation>
+        <translation>secteur %1</translation>
     </message>
     <message>
         <source>turn %1</source>
-        <translation type="unfinished"></translation>
+        <translation>virage %1</translation>
     </message>
     <message>
         <source>Total: %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Total : %1 s</translation>
     </message>
     <message>
         <source>Total: – · %1 of %2 sections are timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Total : – · %1 secteurs sur %2 sont chronométrés</translation>
     </message>
     <message>
         <source> · %1 strokes recorded</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 coups de pagaie enregistrés</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SelectionDocument</name>
     <message>
         <source>1 race</source>
-        <translation type="unfinished"></translation>
+        <translation>1 course</translation>
     </message>
     <message numerus="yes">
         <source>%n races</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n course</numerusform>
+            <numerusform>%n courses</numerusform>
         </translation>
     </message>
 </context>
@@ -17596,31 +17607,31 @@ Choose a file.</source>
     </message>
     <message>
         <source>Race location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu de la course</translation>
     </message>
     <message>
         <source>race added</source>
-        <translation type="unfinished"></translation>
+        <translation>course ajoutée</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Rename which race?</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer quelle course ?</translation>
     </message>
     <message>
         <source>race renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>course renommée</translation>
     </message>
     <message>
         <source>Remove which race?</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer quelle course ?</translation>
     </message>
     <message>
         <source>race removed</source>
-        <translation type="unfinished"></translation>
+        <translation>course retirée</translation>
     </message>
     <message>
         <source>Category</source>
@@ -17628,11 +17639,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Category of the athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie des athlètes</translation>
     </message>
     <message>
         <source>category added</source>
-        <translation type="unfinished"></translation>
+        <translation>catégorie ajoutée</translation>
     </message>
     <message>
         <source>Add a category first.</source>
@@ -17640,11 +17651,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>%1 is in this category already.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est déjà dans cette catégorie.</translation>
     </message>
     <message>
         <source>athlete added</source>
-        <translation type="unfinished"></translation>
+        <translation>athlète ajouté</translation>
     </message>
     <message>
         <source>athlete</source>
@@ -17652,18 +17663,18 @@ Choose a file.</source>
     </message>
     <message>
         <source>athlete removed</source>
-        <translation type="unfinished"></translation>
+        <translation>athlète retiré</translation>
     </message>
     <message>
         <source>times of 0</source>
-        <translation type="unfinished"></translation>
+        <translation>temps de 0</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SelectionTakeOverDialog</name>
     <message>
         <source>Results of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats de %1</translation>
     </message>
     <message>
         <source>&amp;Take over</source>
@@ -17671,7 +17682,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Athletes who get a result: %1, of them new in the selection: %2. Without a result then: %3. Runs and lines that stay out: %4. A click on an athlete chooses another one, or adds the name to the selection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlètes qui reçoivent un résultat : %1, dont nouveaux dans la sélection : %2. Ensuite sans résultat : %3. Manches et lignes non reprises : %4. Un clic sur un athlète en choisit un autre, ou ajoute le nom à la sélection.</translation>
     </message>
 </context>
 <context>
@@ -17682,83 +17693,83 @@ Choose a file.</source>
     </message>
     <message>
         <source>Copy the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier le tableau</translation>
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rapports : aperçu, PDF, impression…</translation>
     </message>
     <message>
         <source>Make times of 0 &amp;missing results</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Changer les temps de 0 en résultats absents</translation>
     </message>
     <message>
         <source>&amp;Copy the table</source>
-        <translation>&amp;Copier le tableau</translation>
+        <translation>Copier &amp;le tableau</translation>
     </message>
     <message>
         <source>&amp;What if</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Et si</translation>
     </message>
     <message>
         <source>&amp;Races</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;ourses</translation>
     </message>
     <message>
         <source>&amp;Add a race…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajouter une course…</translation>
     </message>
     <message>
         <source>&amp;Rename a race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer &amp;une course…</translation>
     </message>
     <message>
         <source>Remo&amp;ve a race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;tirer une course…</translation>
     </message>
     <message>
         <source>Results from &amp;split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats &amp;de fichiers d’intermédiaires…</translation>
     </message>
     <message>
         <source>Results from a &amp;list (position, total, penalty)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats d’une liste (&amp;position, total, pénalité)…</translation>
     </message>
     <message>
         <source>Results from a list with &amp;categories and clubs…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ré&amp;sultats d’une liste avec catégories et clubs…</translation>
     </message>
     <message>
         <source>&amp;Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>At&amp;hlètes</translation>
     </message>
     <message>
         <source>Add a &amp;category…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter u&amp;ne catégorie…</translation>
     </message>
     <message>
         <source>&amp;Add an athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;jouter un athlète…</translation>
     </message>
     <message>
         <source>&amp;Edit the athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modifier l’athlète…</translation>
     </message>
     <message>
         <source>&amp;Remove the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Retirer l’athlète</translation>
     </message>
     <message>
         <source>&amp;Import athletes…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importer des athlètes…</translation>
     </message>
     <message>
         <source>&amp;How a list has to look</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Comment une liste doit être faite</translation>
     </message>
     <message>
         <source>Category %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorie %1</translation>
     </message>
     <message>
         <source>Categories</source>
@@ -17770,19 +17781,19 @@ Choose a file.</source>
     </message>
     <message>
         <source>Official times</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps officiels</translation>
     </message>
     <message>
         <source>xTimes</source>
-        <translation type="unfinished"></translation>
+        <translation>xTimes</translation>
     </message>
     <message>
         <source>What if…</source>
-        <translation type="unfinished"></translation>
+        <translation>Et si…</translation>
     </message>
     <message>
         <source>Try other times and penalties; nothing of it is kept (W)</source>
-        <translation type="unfinished"></translation>
+        <translation>Essayer d’autres temps et pénalités ; rien n’en est gardé (W)</translation>
     </message>
     <message>
         <source>Selection %1</source>
@@ -17790,42 +17801,42 @@ Choose a file.</source>
     </message>
     <message>
         <source>What if: times and penalties typed now are tried only. End it (W) to go back to the real results.</source>
-        <translation type="unfinished"></translation>
+        <translation>Et si : les temps et pénalités saisis maintenant ne sont qu’un essai. Terminez-le (W) pour revenir aux résultats réels.</translation>
     </message>
     <message>
         <source>Add the races of the selection first (Ctrl+R), then athletes (Ctrl+N, or drop a .csv file).</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez d’abord les courses de la sélection (Ctrl+R), puis les athlètes (Ctrl+N, ou déposez un fichier .csv).</translation>
     </message>
     <message>
         <source>Now add a category (Ctrl+G), such as MK1; then its athletes (Ctrl+N, or drop a .csv file).</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez maintenant une catégorie (Ctrl+G), comme MK1 ; puis ses athlètes (Ctrl+N, ou déposez un fichier .csv).</translation>
     </message>
     <message>
         <source>Add the athletes of the category (Ctrl+N, or drop a .csv file), then their results: type them, or take them over from split files (Ctrl+I).</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez les athlètes de la catégorie (Ctrl+N, ou déposez un fichier .csv), puis leurs résultats : saisissez-les, ou reprenez-les de fichiers d’intermédiaires (Ctrl+I).</translation>
     </message>
     <message numerus="yes">
         <source>%n result(s) have a time of 0, which puts their athletes far in front. Edit &gt; Make times of 0 missing results.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n résultat a un temps de 0, ce qui place son athlète loin devant. Édition &gt; Changer les temps de 0 en résultats absents.</numerusform>
+            <numerusform>%n résultats ont un temps de 0, ce qui place leurs athlètes loin devant. Édition &gt; Changer les temps de 0 en résultats absents.</numerusform>
         </translation>
     </message>
     <message>
         <source>End what if</source>
-        <translation type="unfinished"></translation>
+        <translation>Finir l’essai</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>No bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans bonus</translation>
     </message>
     <message>
         <source>Bonus %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus %1</translation>
     </message>
 </context>
 <context>
@@ -17836,41 +17847,41 @@ Choose a file.</source>
     </message>
     <message>
         <source>Time (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps (s)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SeriesDrawing</name>
     <message>
         <source>%1: low</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : bas</translation>
     </message>
     <message>
         <source>%1: high</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : haut</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SessionCharts</name>
     <message>
         <source>none was recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>rien n’a été enregistré</translation>
     </message>
     <message>
         <source>there are no turns</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de virages</translation>
     </message>
     <message>
         <source>there are no strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de coups de pagaie</translation>
     </message>
     <message>
         <source>not known, since nothing tells which side of the phone points to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>inconnu, car rien ne dit quel côté du téléphone pointe vers l’avant</translation>
     </message>
     <message>
         <source>not known, since there are no positions that tell the speed</source>
-        <translation type="unfinished"></translation>
+        <translation>inconnu, car il n’y a pas de positions qui donnent la vitesse</translation>
     </message>
     <message>
         <source>Stroke rate</source>
@@ -17898,7 +17909,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Phases</translation>
     </message>
     <message>
         <source>Roll</source>
@@ -17906,22 +17917,22 @@ Choose a file.</source>
     </message>
     <message>
         <source>Pitch</source>
-        <translation type="unfinished"></translation>
+        <translation>Tangage</translation>
     </message>
     <message>
         <source>end</source>
-        <translation type="unfinished"></translation>
+        <translation>fin</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SessionDialog</name>
     <message>
         <source>at</source>
-        <translation type="unfinished"></translation>
+        <translation>à</translation>
     </message>
     <message>
         <source>Training session</source>
-        <translation type="unfinished"></translation>
+        <translation>Séance d’entraînement</translation>
     </message>
     <message>
         <source>&amp;Title</source>
@@ -17929,7 +17940,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>When</source>
-        <translation type="unfinished"></translation>
+        <translation>Quand</translation>
     </message>
     <message>
         <source>&amp;Place</source>
@@ -17941,11 +17952,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>On the water</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur l’eau</translation>
     </message>
     <message>
         <source>In the gym</source>
-        <translation type="unfinished"></translation>
+        <translation>En salle</translation>
     </message>
     <message>
         <source>Others</source>
@@ -17953,42 +17964,42 @@ Choose a file.</source>
     </message>
     <message>
         <source>not in this week</source>
-        <translation type="unfinished"></translation>
+        <translation>pas dans cette semaine</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SessionMarks</name>
     <message>
         <source>%1 marks: two make a segment</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 marques : deux font un segment</translation>
     </message>
     <message>
         <source>%1 segments</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 segments</translation>
     </message>
     <message>
         <source>mark</source>
-        <translation type="unfinished"></translation>
+        <translation>marque</translation>
     </message>
     <message>
         <source>removal of a mark</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait d’une marque</translation>
     </message>
     <message>
         <source>removal of all marks</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait de toutes les marques</translation>
     </message>
     <message>
         <source>There is a mark already</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a déjà une marque</translation>
     </message>
     <message>
         <source>move of a mark</source>
-        <translation type="unfinished"></translation>
+        <translation>déplacement d’une marque</translation>
     </message>
     <message>
         <source>Mark at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque à %1</translation>
     </message>
 </context>
 <context>
@@ -18003,15 +18014,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Segments</source>
-        <translation type="unfinished"></translation>
+        <translation>Segments</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distance</translation>
     </message>
     <message>
         <source>Left and right</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche et droite</translation>
     </message>
     <message>
         <source> m</source>
@@ -18019,30 +18030,30 @@ Choose a file.</source>
     </message>
     <message>
         <source>Values every</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs tous les</translation>
     </message>
     <message>
         <source>Strokes (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Coups de pagaie (%1)</translation>
     </message>
     <message>
         <source>Turns (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Virages (%1)</translation>
     </message>
     <message>
         <source>from the first mark</source>
-        <translation type="unfinished"></translation>
+        <translation>depuis la première marque</translation>
     </message>
     <message>
         <source>from the start</source>
-        <translation type="unfinished"></translation>
+        <translation>depuis le départ</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SessionView</name>
     <message>
         <source>Speed against stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse selon la cadence</translation>
     </message>
     <message>
         <source>Stroke rate (1/min)</source>
@@ -18054,7 +18065,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>The speed of the strokes is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vitesse des coups de pagaie n’est pas connue.</translation>
     </message>
     <message>
         <source>Left</source>
@@ -18066,27 +18077,27 @@ Choose a file.</source>
     </message>
     <message>
         <source>Side unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Côté inconnu</translation>
     </message>
     <message>
         <source>Information…</source>
-        <translation type="unfinished"></translation>
+        <translation>Informations…</translation>
     </message>
     <message>
         <source>Athlete, place, kind and equipment</source>
-        <translation type="unfinished"></translation>
+        <translation>Athlète, lieu, type et matériel</translation>
     </message>
     <message>
         <source>Name the phone&apos;s mount</source>
-        <translation type="unfinished"></translation>
+        <translation>Nommer la fixation du téléphone</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>Show the selected stretch alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher seulement le tronçon sélectionné</translation>
     </message>
     <message>
         <source>Keep</source>
@@ -18094,7 +18105,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Cut the session to the selected stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper la séance au tronçon sélectionné</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -18102,7 +18113,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Take the selected stretch out</source>
-        <translation type="unfinished"></translation>
+        <translation>Ôter le tronçon sélectionné</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -18114,11 +18125,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Colour of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du parcours</translation>
     </message>
     <message>
         <source>%1 – %2: %3 s, %4 strokes, %5/min, %6 m, %7 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2 : %3 s, %4 coups de pagaie, %5/min, %6 m, %7 m/s</translation>
     </message>
 </context>
 <context>
@@ -18129,7 +18140,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Sessions (*.bms);;Sessions (*.sbm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Séances (*.bms);;Séances (*.sbm)</translation>
     </message>
     <message>
         <source>All files (*)</source>
@@ -18149,38 +18160,38 @@ Choose a file.</source>
     </message>
     <message>
         <source>Sessions (*.sbm *.bms)</source>
-        <translation type="unfinished"></translation>
+        <translation>Séances (*.sbm *.bms)</translation>
     </message>
     <message>
         <source>power of the power meter</source>
-        <translation type="unfinished"></translation>
+        <translation>puissance du capteur de puissance</translation>
     </message>
     <message>
         <source>Save the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la séance</translation>
     </message>
     <message>
         <source>Save with it</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer avec</translation>
     </message>
     <message>
         <source>Save without it</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer sans</translation>
     </message>
     <message>
         <source>Saved without the power meter&apos;s data, which are still here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré sans les données du capteur de puissance, qui sont encore ici.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SettingsWindow</name>
     <message>
         <source>Look and tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspect et tableaux</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo</translation>
     </message>
     <message>
         <source>Split taking</source>
@@ -18192,63 +18203,63 @@ Choose a file.</source>
     </message>
     <message>
         <source>At start</source>
-        <translation type="unfinished"></translation>
+        <translation>Au démarrage</translation>
     </message>
     <message>
         <source>The decoded frames of all open films together take at most %1, and never more than a quarter of this computer&apos;s memory of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les images décodées de tous les films ouverts prennent ensemble au plus %1, et jamais plus d’un quart de la mémoire de cet ordinateur (%2).</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages</translation>
     </message>
     <message>
         <source>Every change takes effect at once, another language when Kavela starts again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque changement agit aussitôt, une autre langue au prochain démarrage de Kavela.</translation>
     </message>
     <message>
         <source>As the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme le système</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Clair</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombre</translation>
     </message>
     <message>
         <source>The environment variable KAVELA_SCHEME decides for this session.</source>
-        <translation type="unfinished"></translation>
+        <translation>La variable d’environnement KAVELA_SCHEME décide pour cette session.</translation>
     </message>
     <message>
         <source>Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenêtres</translation>
     </message>
     <message>
         <source>The environment variable KAVELA_LANGUAGE decides for this session.</source>
-        <translation type="unfinished"></translation>
+        <translation>La variable d’environnement KAVELA_LANGUAGE décide pour cette session.</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message>
         <source>Race: best green, others red</source>
-        <translation type="unfinished"></translation>
+        <translation>Course : le meilleur en vert, les autres en rouge</translation>
     </message>
     <message>
         <source>Training: cells tinted by rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Entraînement : cellules teintées selon le rang</translation>
     </message>
     <message>
         <source>Colours of the split table</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleurs du tableau des intermédiaires</translation>
     </message>
     <message>
         <source>One a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un par ligne.</translation>
     </message>
     <message>
         <source>none</source>
@@ -18256,15 +18267,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir…</translation>
     </message>
     <message>
         <source>Choose a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un dossier</translation>
     </message>
     <message>
         <source>Choose a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un fichier</translation>
     </message>
     <message>
         <source>None</source>
@@ -18272,46 +18283,46 @@ Choose a file.</source>
     </message>
     <message>
         <source>Look for a newer version once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher une version plus récente une fois par jour</translation>
     </message>
     <message>
         <source>Where it is looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>Où la chercher</translation>
     </message>
     <message>
         <source>This is no https address. It is looked for where it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas une adresse https. On cherche là où l’on cherchait.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ShareActions</name>
     <message>
         <source>&amp;Open a folder to share…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir un dossier à partager…</translation>
     </message>
     <message>
         <source>Sha&amp;re</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Partager</translation>
     </message>
     <message>
         <source>&amp;Compare both sides</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Comparer les deux côtés</translation>
     </message>
     <message>
         <source>&amp;Start with the ticked files</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Démarrer avec les fichiers cochés</translation>
     </message>
     <message>
         <source>C&amp;ancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>&amp;Tick all but deletions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout cocher sauf les suppressions</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
-        <translation>&amp;Tout décocher</translation>
+        <translation>To&amp;ut décocher</translation>
     </message>
     <message>
         <source>Ser&amp;ver</source>
@@ -18319,11 +18330,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Sign in…</source>
-        <translation>Se &amp;connecter…</translation>
+        <translation>S&amp;e connecter…</translation>
     </message>
     <message>
         <source>&amp;Forget the password</source>
-        <translation>&amp;Oublier le mot de passe</translation>
+        <translation>Oublier &amp;le mot de passe</translation>
     </message>
 </context>
 <context>
@@ -18338,11 +18349,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>On this computer, with everything below it but hidden files</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur cet ordinateur, avec tout ce qu’il contient sauf les fichiers cachés</translation>
     </message>
     <message>
         <source>the folder that is shared</source>
-        <translation type="unfinished"></translation>
+        <translation>le dossier partagé</translation>
     </message>
     <message>
         <source>&amp;Address</source>
@@ -18350,19 +18361,19 @@ Choose a file.</source>
     </message>
     <message>
         <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
-        <translation type="unfinished"></translation>
+        <translation>D’un dossier sur un serveur WebDAV : Nextcloud, ownCloud, un NAS, Apache…</translation>
     </message>
     <message>
         <source>Choose the folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir le dossier…</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparer</translation>
     </message>
     <message>
         <source>Shows what differs; nothing is changed by it</source>
-        <translation type="unfinished"></translation>
+        <translation>Montre ce qui diffère ; rien n’en est modifié</translation>
     </message>
     <message>
         <source>Start</source>
@@ -18370,7 +18381,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Shares the ticked files</source>
-        <translation type="unfinished"></translation>
+        <translation>Partage les fichiers cochés</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -18378,35 +18389,35 @@ Choose a file.</source>
     </message>
     <message>
         <source>Nothing is shared before it is shown here</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’est partagé avant d’être montré ici</translation>
     </message>
     <message>
         <source>Another folder is shared once this one is done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre dossier sera partagé une fois celui-ci terminé.</translation>
     </message>
     <message>
         <source>The folder to share</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier à partager</translation>
     </message>
     <message>
         <source>There is no folder to share yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas encore de dossier à partager.</translation>
     </message>
     <message>
         <source>“%1” is no folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas un dossier.</translation>
     </message>
     <message>
         <source>Both sides are looked at…</source>
-        <translation type="unfinished"></translation>
+        <translation>Examen des deux côtés…</translation>
     </message>
     <message>
         <source>%1: %2 of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2 sur %3</translation>
     </message>
     <message>
         <source>%1: %2 files</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2 fichiers</translation>
     </message>
     <message>
         <source>%1 (on the server)</source>
@@ -18414,20 +18425,21 @@ Choose a file.</source>
     </message>
     <message>
         <source>%1 (here)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (ici)</translation>
     </message>
     <message>
         <source>Delete 1 file?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer 1 fichier ?</translation>
     </message>
     <message>
         <source>Delete %1 files?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer %1 fichiers ?</translation>
     </message>
     <message>
         <source>
 and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>
+et %1 autres</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -18435,7 +18447,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Files are being shared…</source>
-        <translation type="unfinished"></translation>
+        <translation>Partage des fichiers…</translation>
     </message>
     <message>
         <source>This computer has no password store that is open. The password holds until this window is closed.</source>
@@ -18447,15 +18459,15 @@ and %1 more</source>
     </message>
     <message>
         <source>%v of %m files</source>
-        <translation type="unfinished"></translation>
+        <translation>%v sur %m fichiers</translation>
     </message>
     <message>
         <source>Files are being shared</source>
-        <translation type="unfinished"></translation>
+        <translation>Des fichiers sont en cours de partage</translation>
     </message>
     <message>
         <source>What is done stays done; sharing again goes on with the rest.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est fait reste fait ; un nouveau partage continue avec le reste.</translation>
     </message>
     <message>
         <source>Stop and close</source>
@@ -18466,50 +18478,50 @@ and %1 more</source>
     <name>kavela::desktop::SiteList</name>
     <message>
         <source>Other servers that films may come from</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres serveurs d’où peuvent venir les films</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitActions</name>
     <message>
         <source>&amp;Open a film…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir un film…</translation>
     </message>
     <message>
         <source>Open the &amp;race of the film in split taking</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir &amp;la course du film dans la prise de temps intermédiaires</translation>
     </message>
     <message>
         <source>&amp;Save the race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer la course</translation>
     </message>
     <message>
         <source>Save what is seen as a &amp;picture…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer &amp;ce qui est vu en image…</translation>
     </message>
     <message>
         <source>Save the &amp;water round the marks…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer l’eau &amp;autour des marques…</translation>
     </message>
     <message>
         <source>Save what is seen of the slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer ce qui est vu de l’image à fente</translation>
     </message>
     <message>
         <source>Pictures (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Images (*.png)</translation>
     </message>
     <message>
         <source>The picture could not be saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image n’a pas pu être enregistrée : %1</translation>
     </message>
     <message>
         <source>Save the water round the marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer l’eau autour des marques</translation>
     </message>
     <message>
         <source>Bands (*.bands)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bandes (*.bands)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -18517,107 +18529,107 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Undo the mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler la &amp;marque</translation>
     </message>
     <message>
         <source>&amp;Redo the mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rétablir la marque</translation>
     </message>
     <message>
         <source>&amp;Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Li&amp;gnes</translation>
     </message>
     <message>
         <source>Draw a &amp;new line</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessiner &amp;une nouvelle ligne</translation>
     </message>
     <message>
         <source>Ne&amp;xt line</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne &amp;suivante</translation>
     </message>
     <message>
         <source>&amp;Previous line</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne &amp;précédente</translation>
     </message>
     <message>
         <source>&amp;Turn the arrow: boats come from the other side</source>
-        <translation type="unfinished"></translation>
+        <translation>Retourner la &amp;flèche : les bateaux viennent de l’autre côté</translation>
     </message>
     <message>
         <source>&amp;Remove the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;tirer la ligne</translation>
     </message>
     <message>
         <source>Draw a box round one &amp;boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessiner un cadre autour d’un &amp;bateau</translation>
     </message>
     <message>
         <source>&amp;Look for boats that cross it</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher les bateaux &amp;qui la franchissent</translation>
     </message>
     <message>
         <source>&amp;Hair line</source>
-        <translation type="unfinished"></translation>
+        <translation>Rét&amp;icule</translation>
     </message>
     <message>
         <source>One frame &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>U&amp;ne image plus tôt</translation>
     </message>
     <message>
         <source>One frame &amp;later</source>
-        <translation type="unfinished"></translation>
+        <translation>Un&amp;e image plus tard</translation>
     </message>
     <message>
         <source>Ten frames earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Dix images plus tôt</translation>
     </message>
     <message>
         <source>Ten frames later</source>
-        <translation type="unfinished"></translation>
+        <translation>Dix images plus tard</translation>
     </message>
     <message>
         <source>A tenth of a frame earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dixième d’image plus tôt</translation>
     </message>
     <message>
         <source>A tenth of a frame later</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dixième d’image plus tard</translation>
     </message>
     <message>
         <source>&amp;Next proposal</source>
-        <translation type="unfinished"></translation>
+        <translation>Pr&amp;oposition suivante</translation>
     </message>
     <message>
         <source>&amp;Previous proposal</source>
-        <translation type="unfinished"></translation>
+        <translation>Proposition pré&amp;cédente</translation>
     </message>
     <message>
         <source>To the &amp;beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Au début</translation>
     </message>
     <message>
         <source>&amp;Closer</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus p&amp;rès</translation>
     </message>
     <message>
         <source>&amp;Farther</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus &amp;loin</translation>
     </message>
     <message>
         <source>The &amp;whole film</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fil&amp;m entier</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation>&amp;Marquer</translation>
+        <translation>Marq&amp;uer</translation>
     </message>
     <message>
         <source>&amp;Mark the run at the hair line</source>
-        <translation type="unfinished"></translation>
+        <translation>Marquer la manc&amp;he au réticule</translation>
     </message>
     <message>
         <source>Take the mark &amp;away</source>
-        <translation type="unfinished"></translation>
+        <translation>Enle&amp;ver la marque</translation>
     </message>
     <message>
         <source>&amp;Previous run</source>
@@ -18629,19 +18641,19 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Refuse the proposal at the hair line</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;fuser la proposition au réticule</translation>
     </message>
     <message>
         <source>&amp;Forget what was refused on this line</source>
-        <translation type="unfinished"></translation>
+        <translation>Oublier ce &amp;qui a été refusé sur cette ligne</translation>
     </message>
     <message>
         <source>Accept a&amp;ll proposals</source>
-        <translation type="unfinished"></translation>
+        <translation>Accepter &amp;toutes les propositions</translation>
     </message>
     <message>
         <source>Accept a&amp;ll proposals: why not yet?</source>
-        <translation type="unfinished"></translation>
+        <translation>Accepter toutes les propositions : pourquoi pas &amp;encore ?</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -18653,80 +18665,80 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Slower</source>
-        <translation>Pl&amp;us lent</translation>
+        <translation>Plus le&amp;nt</translation>
     </message>
     <message>
         <source>&amp;Faster</source>
-        <translation>Plus &amp;vite</translation>
+        <translation>Plus v&amp;ite</translation>
     </message>
     <message>
         <source>&amp;Normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse no&amp;rmale</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitKeeping</name>
     <message>
         <source>The lines in %1 cannot be read: %2. The file is put aside before new lines take its name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les lignes dans %1 ne peuvent pas être lues : %2. Le fichier est mis de côté avant que de nouvelles lignes prennent son nom.</translation>
     </message>
     <message>
         <source>The lines could not be kept in %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Les lignes n’ont pas pu être conservées dans %1 : %2</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitLoader</name>
     <message>
         <source>The film ends early, after %1 frames.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film finit trop tôt, après %1 images.</translation>
     </message>
     <message>
         <source>%1 frames cannot be decoded: their columns are black.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 images ne peuvent pas être décodées : leurs colonnes sont noires.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitPanel</name>
     <message>
         <source>Open the &amp;race…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir la course…</translation>
     </message>
     <message>
         <source>Times &amp;finer than the frame</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Temps plus fins que l’image</translation>
     </message>
     <message>
         <source>Draw a box round one boat (B), then look for boats (Ctrl+B): where they may have crossed is listed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessinez un cadre autour d’un bateau (B), puis cherchez les bateaux (Ctrl+B) : là où ils ont pu passer est listé ici.</translation>
     </message>
     <message>
         <source>The time of the split follows the hair line between two frames; the mark itself stays on the frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps de l’intermédiaire suit le réticule entre deux images ; la marque elle-même reste sur l’image.</translation>
     </message>
     <message>
         <source>marks</source>
-        <translation type="unfinished"></translation>
+        <translation>marques</translation>
     </message>
     <message>
         <source>Line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1</translation>
     </message>
     <message>
         <source>Marks go into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Les marques vont dans %1</translation>
     </message>
     <message>
         <source>Marks need the race of this film in split taking.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les marques demandent la course de ce film dans la prise de temps intermédiaires.</translation>
     </message>
     <message>
         <source>No run of %1 has the film %2. Add it there as a film of the runs or as a fixed camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune manche de %1 n’a le film %2. Ajoutez-le là-bas comme film des manches ou comme caméra fixe.</translation>
     </message>
     <message>
         <source>The runs that are seen on this film are listed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les manches visibles sur ce film sont listées ici.</translation>
     </message>
 </context>
 <context>
@@ -18745,34 +18757,34 @@ and %1 more</source>
     </message>
     <message>
         <source>There is no run to be marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucune manche à marquer.</translation>
     </message>
     <message>
         <source>This run has no film %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette manche n’a pas de film %1.</translation>
     </message>
     <message>
         <source>%1 in the slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dans l’image à fente</translation>
     </message>
     <message>
         <source>This run is not marked here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette manche n’est pas marquée ici.</translation>
     </message>
     <message>
         <source>mark removed in the slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>marque retirée dans l’image à fente</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitSaving</name>
     <message>
         <source>The water round the marks is in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’eau autour des marques est dans %1.</translation>
     </message>
     <message>
         <source>The water round the marks could not be saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L’eau autour des marques n’a pas pu être enregistrée : %1</translation>
     </message>
 </context>
 <context>
@@ -18783,7 +18795,7 @@ and %1 more</source>
     </message>
     <message>
         <source>What stood on the line over the film, over time. A click goes there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui se trouvait sur la ligne au fil du film. Un clic y va.</translation>
     </message>
 </context>
 <context>
@@ -18802,7 +18814,7 @@ and %1 more</source>
     </message>
     <message>
         <source>  (%1%2 of a frame)</source>
-        <translation type="unfinished"></translation>
+        <translation>  (%1%2 d’une image)</translation>
     </message>
 </context>
 <context>
@@ -18821,71 +18833,71 @@ and %1 more</source>
     </message>
     <message>
         <source>Open the film of a fixed camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le film d’une caméra fixe</translation>
     </message>
     <message>
         <source>Open the film of a camera on a tripod (Ctrl+O).</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrez le film d’une caméra sur trépied (Ctrl+O).</translation>
     </message>
     <message>
         <source>Press N and draw a line across the water in the film above: what stands on it is shown here over time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Appuyez sur N et dessinez une ligne en travers de l’eau dans le film ci-dessus : ce qui s’y trouve est montré ici au fil du temps.</translation>
     </message>
     <message>
         <source>Reading the film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture du film…</translation>
     </message>
     <message>
         <source>Reading the film:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture du film :</translation>
     </message>
     <message>
         <source>Looking for boats:</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche de bateaux :</translation>
     </message>
     <message>
         <source>Draw a line first: N.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessinez d’abord une ligne : N.</translation>
     </message>
     <message>
         <source>%1 proposals were refused on this line. They are forgotten with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 propositions ont été refusées sur cette ligne. Elles sont oubliées avec elle.</translation>
     </message>
     <message>
         <source>Remove the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer la ligne</translation>
     </message>
     <message>
         <source>There is no proposal before this.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucune proposition avant celle-ci.</translation>
     </message>
     <message>
         <source>There is no proposal behind this.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucune proposition après celle-ci.</translation>
     </message>
     <message>
         <source>Marks need the race of this film: open it in split taking.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les marques demandent la course de ce film : ouvrez-la dans la prise de temps intermédiaires.</translation>
     </message>
     <message>
         <source>Draw a box round one boat first: B.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessinez d’abord un cadre autour d’un bateau : B.</translation>
     </message>
     <message>
         <source>Proposals are accepted one by one</source>
-        <translation type="unfinished"></translation>
+        <translation>Les propositions s’acceptent une à une</translation>
     </message>
     <message>
         <source>There is no slit picture yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas encore d’image à fente.</translation>
     </message>
     <message>
         <source>That part is not read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette partie n’est pas encore lue.</translation>
     </message>
     <message>
         <source>There is nothing to learn from yet: look for boats, then mark and refuse what was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a encore rien dont apprendre : cherchez des bateaux, puis marquez et refusez ce qui a été trouvé.</translation>
     </message>
 </context>
 <context>
@@ -18915,7 +18927,7 @@ and %1 more</source>
     </message>
     <message>
         <source>The times of this run were taken without marks on the video. Marking it anew replaces them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les temps de cette manche ont été pris sans marques sur la vidéo. La marquer à nouveau les remplace.</translation>
     </message>
     <message>
         <source>Mark anew</source>
@@ -18943,7 +18955,7 @@ and %1 more</source>
     </message>
     <message>
         <source>There is no mark yet that could be moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a encore aucune marque à déplacer.</translation>
     </message>
     <message>
         <source>mark removed</source>
@@ -18951,34 +18963,38 @@ and %1 more</source>
     </message>
     <message>
         <source>Split %1 is expected behind the end of the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’intermédiaire %1 est attendu après la fin du film.</translation>
     </message>
     <message>
         <source>Split %1 is expected here</source>
-        <translation type="unfinished"></translation>
+        <translation>L’intermédiaire %1 est attendu ici</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SplitTableModel</name>
     <message>
         <source>Not timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Non chronométré</translation>
     </message>
     <message>
         <source>%1, %2: %3 s
 place %4 of %5
 %6 s behind the best, %7 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 : %3 s
+place %4 sur %5
+%6 s derrière le meilleur, %7 %</translation>
     </message>
     <message>
         <source>%1, %2: %3 s
 %4
 It counts for nothing: no place, no gap, never a best.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 : %3 s
+%4
+Il ne compte pour rien : pas de place, pas d’écart, jamais un meilleur.</translation>
     </message>
     <message>
         <source>The best of every section, put together</source>
-        <translation type="unfinished"></translation>
+        <translation>Le meilleur de chaque secteur, mis bout à bout</translation>
     </message>
     <message>
         <source>%1 in %2</source>
@@ -18994,12 +19010,13 @@ It counts for nothing: no place, no gap, never a best.</source>
     </message>
     <message>
         <source>Gates %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Portes %1</translation>
     </message>
     <message>
         <source>Section %1: the colours and the penalties in brackets are those of the first ten sections only.
 Place, gap and percent are there as in any other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteur %1 : les couleurs et les pénalités entre parenthèses sont seulement celles des dix premiers secteurs.
+Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -19019,29 +19036,29 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>%1 penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de pénalité</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SplitsShown</name>
     <message>
         <source>%1?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ?</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::StartListDialog</name>
     <message>
         <source>Start list</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste de départ</translation>
     </message>
     <message>
         <source>12,Ann Lee,K1W,10:01:30</source>
-        <translation type="unfinished"></translation>
+        <translation>12,Ann Lee,K1W,10:01:30</translation>
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>Jour</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -19049,15 +19066,15 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre</translation>
     </message>
     <message>
         <source>From a file…</source>
-        <translation type="unfinished"></translation>
+        <translation>D’un fichier…</translation>
     </message>
     <message>
         <source>Paste the list: bib, name, category and start time or order, or with titles in its first line. Boats that are in this phase already are corrected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Collez la liste : dossard, nom, catégorie et heure ou ordre de départ, ou avec des titres en première ligne. Les bateaux déjà dans cette phase sont corrigés.</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
@@ -19065,7 +19082,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Starts: %1. Lines that cannot be taken: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Départs : %1. Lignes qui ne peuvent pas être reprises : %2.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
@@ -19076,31 +19093,31 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::StatisticsDialog</name>
     <message>
         <source>%1 in races, %2 in all</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en course, %2 en tout</translation>
     </message>
     <message>
         <source>Left out</source>
-        <translation type="unfinished"></translation>
+        <translation>Laissé de côté</translation>
     </message>
     <message>
         <source>Because it</source>
-        <translation type="unfinished"></translation>
+        <translation>Parce qu’il</translation>
     </message>
     <message>
         <source>Season statistics from split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistiques de la saison d’après les fichiers d’intermédiaires</translation>
     </message>
     <message>
         <source>Runs found: %1, in %2 files. They replace what stands there now: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manches trouvées : %1, dans %2 fichiers. Elles remplacent ce qui est là maintenant : %3.</translation>
     </message>
     <message>
         <source>None of the files has a run of this athlete and season. Nothing is replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun des fichiers n’a de manche de cet athlète et de cette saison. Rien n’est remplacé.</translation>
     </message>
     <message>
         <source>&amp;Replace the statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Remplacer les statistiques</translation>
     </message>
 </context>
 <context>
@@ -19111,19 +19128,19 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>way of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>option de la manche</translation>
     </message>
     <message>
         <source>way renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>option renommée</translation>
     </message>
     <message>
         <source>A time is a number of seconds such as 4.35, or 1:04.35</source>
-        <translation type="unfinished"></translation>
+        <translation>Un temps est un nombre de secondes comme 4.35, ou 1:04.35</translation>
     </message>
     <message>
         <source>time of a way</source>
-        <translation type="unfinished"></translation>
+        <translation>temps d’une option</translation>
     </message>
     <message>
         <source>Taken</source>
@@ -19131,7 +19148,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Way</source>
-        <translation type="unfinished"></translation>
+        <translation>Option</translation>
     </message>
     <message>
         <source>Time</source>
@@ -19143,27 +19160,27 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>The tick is at the way that the run took. Names and times are edited by a double click.</source>
-        <translation type="unfinished"></translation>
+        <translation>La coche est sur l’option que la manche a prise. Noms et temps se modifient par double-clic.</translation>
     </message>
     <message>
         <source>Add a way</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une option</translation>
     </message>
     <message>
         <source>A section, or a name for the place</source>
-        <translation type="unfinished"></translation>
+        <translation>Un secteur, ou un nom pour l’endroit</translation>
     </message>
     <message>
         <source>Another way, such as spin or direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Une autre option, comme rotation ou direct</translation>
     </message>
     <message>
         <source>Take its time</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre son temps</translation>
     </message>
     <message>
         <source>comment on ways</source>
-        <translation type="unfinished"></translation>
+        <translation>commentaire des options</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -19179,11 +19196,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Compared</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparées</translation>
     </message>
     <message>
         <source>Time from</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps depuis</translation>
     </message>
     <message>
         <source>Section</source>
@@ -19191,55 +19208,55 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Without a name</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans nom</translation>
     </message>
     <message>
         <source>The run took the fastest way.</source>
-        <translation type="unfinished"></translation>
+        <translation>La manche a pris l’option la plus rapide.</translation>
     </message>
     <message>
         <source>The way of the run cost %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’option de la manche a coûté %1 s.</translation>
     </message>
     <message>
         <source>Choose a section or name a place, and add it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un secteur ou nommez un endroit, et ajoutez-le.</translation>
     </message>
     <message>
         <source>Add the ways of paddling this place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez les options pour passer cet endroit.</translation>
     </message>
     <message>
         <source>M marks where %1 ends</source>
-        <translation type="unfinished"></translation>
+        <translation>M marque où %1 finit</translation>
     </message>
     <message>
         <source>M marks where %1 begins</source>
-        <translation type="unfinished"></translation>
+        <translation>M marque où %1 commence</translation>
     </message>
     <message>
         <source>Choose a section, or write a name for the place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un secteur, ou écrivez un nom pour l’endroit.</translation>
     </message>
     <message>
         <source>ways at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>options à %1</translation>
     </message>
     <message>
         <source>way added</source>
-        <translation type="unfinished"></translation>
+        <translation>option ajoutée</translation>
     </message>
     <message>
         <source>Add a way and select it first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez d’abord une option et sélectionnez-la.</translation>
     </message>
     <message>
         <source>%1 was not timed there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’y a pas été chronométré.</translation>
     </message>
     <message>
         <source>%1 is timed: %2 s. Empty its time to mark it anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est chronométrée : %2 s. Videz son temps pour la marquer à nouveau.</translation>
     </message>
     <message>
         <source>Start</source>
@@ -19247,19 +19264,19 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>The end of a way comes after its beginning at %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fin d’une option vient après son début à %1.</translation>
     </message>
     <message>
         <source>way timed</source>
-        <translation type="unfinished"></translation>
+        <translation>option chronométrée</translation>
     </message>
     <message>
         <source>way removed</source>
-        <translation type="unfinished"></translation>
+        <translation>option retirée</translation>
     </message>
     <message>
         <source>ways removed</source>
-        <translation type="unfinished"></translation>
+        <translation>options retirées</translation>
     </message>
 </context>
 <context>
@@ -19278,15 +19295,15 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Strokes/min</source>
-        <translation type="unfinished"></translation>
+        <translation>Coups/min</translation>
     </message>
     <message>
         <source>A marks a stroke on the left, D on the right, M with the other hand than before.</source>
-        <translation type="unfinished"></translation>
+        <translation>A marque un coup de pagaie à gauche, D à droite, M de l’autre main que le précédent.</translation>
     </message>
     <message>
         <source>Rate now</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadence actuelle</translation>
     </message>
     <message>
         <source>Style</source>
@@ -19294,46 +19311,46 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>%1 per minute, %2 strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 par minute, %2 coups de pagaie</translation>
     </message>
     <message>
         <source>left stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>coup de pagaie à gauche</translation>
     </message>
     <message>
         <source>right stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>coup de pagaie à droite</translation>
     </message>
     <message>
         <source>other hand</source>
-        <translation type="unfinished"></translation>
+        <translation>autre main</translation>
     </message>
     <message>
         <source>style of the stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>style du coup de pagaie</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SummaryPanel</name>
     <message>
         <source>Retired athletes are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les athlètes qui ont arrêté sont laissés de côté.</translation>
     </message>
     <message>
         <source>Two seasons are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deux saisons sont nécessaires.</translation>
     </message>
     <message>
         <source>The first two seasons have no race with a final position.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les deux premières saisons n’ont aucune course avec une place finale.</translation>
     </message>
     <message>
         <source> and </source>
-        <translation type="unfinished"></translation>
+        <translation> et </translation>
     </message>
     <message>
         <source>Over the seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Au fil des saisons</translation>
     </message>
     <message>
         <source>All seasons</source>
@@ -19341,61 +19358,61 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Categorization</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorisation</translation>
     </message>
     <message>
         <source>, born %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, naissance %1</translation>
     </message>
     <message>
         <source>One race has no final position. It counts as a medal here, not in the categorization.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une course n’a pas de place finale. Elle compte ici comme une médaille, pas dans la catégorisation.</translation>
     </message>
     <message>
         <source>%1 races have no final position. They count as medals here, not in the categorization.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 courses n’ont pas de place finale. Elles comptent ici comme des médailles, pas dans la catégorisation.</translation>
     </message>
     <message>
         <source>Counted: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Comptées : %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TableDocument</name>
     <message>
         <source>Join the athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Relier les athlètes</translation>
     </message>
     <message>
         <source>Say who line %1 is</source>
-        <translation type="unfinished"></translation>
+        <translation>Dire qui est la ligne %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TablesActions</name>
     <message>
         <source>&amp;Open a list…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir une liste…</translation>
     </message>
     <message>
         <source>Open what was &amp;copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir &amp;ce qui a été copié</translation>
     </message>
     <message>
         <source>A&amp;nother list of this file…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Une autre liste de ce fichier…</translation>
     </message>
     <message>
         <source>&amp;Keep with the race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver &amp;avec la course…</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le tableau en CSV…</translation>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
-        <translation>&amp;Enregistrer le graphique…</translation>
+        <translation>Enregistrer &amp;le graphique…</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -19403,119 +19420,119 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nnuler</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rétablir</translation>
     </message>
     <message>
         <source>The first line holds the &amp;titles</source>
-        <translation type="unfinished"></translation>
+        <translation>La &amp;première ligne contient les titres</translation>
     </message>
     <message>
         <source>The first line is a ro&amp;w</source>
-        <translation type="unfinished"></translation>
+        <translation>La pre&amp;mière ligne est une ligne de données</translation>
     </message>
     <message>
         <source>No &amp;groups</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sans groupes</translation>
     </message>
     <message>
         <source>&amp;Column</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Colonne</translation>
     </message>
     <message>
         <source>&amp;Sort</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trier</translation>
     </message>
     <message>
         <source>Sort &amp;downwards</source>
-        <translation type="unfinished"></translation>
+        <translation>Tr&amp;ier en ordre décroissant</translation>
     </message>
     <message>
         <source>&amp;Group by it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grouper selon elle</translation>
     </message>
     <message>
         <source>&amp;Tint it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;La teinter</translation>
     </message>
     <message>
         <source>&amp;Chart of it</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;on graphique</translation>
     </message>
     <message>
         <source>&amp;Keep rows with…</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder les lignes &amp;avec…</translation>
     </message>
     <message>
         <source>&amp;Leave it out</source>
-        <translation type="unfinished"></translation>
+        <translation>La laiss&amp;er de côté</translation>
     </message>
     <message>
         <source>&amp;Read it as</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;La lire comme</translation>
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajo&amp;uter</translation>
     </message>
     <message>
         <source>&amp;Total</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Total</translation>
     </message>
     <message>
         <source>&amp;Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rang</translation>
     </message>
     <message>
         <source>&amp;Gap to the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart &amp;au meilleur</translation>
     </message>
     <message>
         <source>&amp;Percent behind the best</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pourcentage derrière le meilleur</translation>
     </message>
     <message>
         <source>Percenti&amp;le</source>
-        <translation>&amp;Percentile</translation>
+        <translation>Perce&amp;ntile</translation>
     </message>
     <message>
         <source>&amp;Another column…</source>
-        <translation type="unfinished"></translation>
+        <translation>Autre &amp;colonne…</translation>
     </message>
     <message>
         <source>P&amp;ivot…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ta&amp;bleau croisé…</translation>
     </message>
     <message>
         <source>A&amp;thletes</source>
-        <translation type="unfinished"></translation>
+        <translation>At&amp;hlètes</translation>
     </message>
     <message>
         <source>&amp;Join a team…</source>
-        <translation type="unfinished"></translation>
+        <translation>Relier une é&amp;quipe…</translation>
     </message>
     <message>
         <source>&amp;Who is meant?…</source>
-        <translation type="unfinished"></translation>
+        <translation>Qui est &amp;visé ?…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;fficher</translation>
     </message>
     <message>
         <source>What was &amp;refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a été refu&amp;sé</translation>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
-        <translation>Du &amp;bleu à l’orange au lieu du vert au rouge</translation>
+        <translation>&amp;Du bleu à l’orange au lieu du vert au rouge</translation>
     </message>
     <message>
         <source>The &amp;whole chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout &amp;le graphique</translation>
     </message>
 </context>
 <context>
@@ -19526,19 +19543,19 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Drop a list of results here</source>
-        <translation type="unfinished"></translation>
+        <translation>Déposez ici une liste de résultats</translation>
     </message>
     <message>
         <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte (CSV, tabulations, colonnes séparées par des blancs), classeur (.xlsx, .ods), ce qui a été copié d’une page, ou une course qui porte une liste. Les listes sont seulement lues.</translation>
     </message>
     <message>
         <source>Open a list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une liste…</translation>
     </message>
     <message>
         <source>Open what was copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir ce qui a été copié</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -19546,7 +19563,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Kept with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservé avec %1</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
@@ -19558,35 +19575,35 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>“%1” cannot be opened as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être ouvert en tableau</translation>
     </message>
     <message>
         <source>What was copied is no list</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a été copié n’est pas une liste</translation>
     </message>
     <message>
         <source>Which of its lists?</source>
-        <translation type="unfinished"></translation>
+        <translation>Laquelle de ses listes ?</translation>
     </message>
     <message>
         <source>What was copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a été copié</translation>
     </message>
     <message>
         <source>This step cannot be taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette étape ne peut pas être faite</translation>
     </message>
     <message>
         <source>Keep rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder des lignes</translation>
     </message>
     <message>
         <source>Rows whose “%1” contains this are kept; the cell as it stands keeps just its like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les lignes dont « %1 » contient ceci sont gardées ; la cellule telle quelle ne garde que ses semblables.</translation>
     </message>
     <message>
         <source> table</source>
-        <translation type="unfinished"></translation>
+        <translation> tableau</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
@@ -19598,27 +19615,27 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Begin anew?</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout recommencer ?</translation>
     </message>
     <message>
         <source>What you made of this list is given up; the file stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que vous avez fait de cette liste est abandonné ; le fichier reste.</translation>
     </message>
     <message>
         <source>Begin anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout recommencer</translation>
     </message>
     <message>
         <source>Join a team</source>
-        <translation type="unfinished"></translation>
+        <translation>Relier une équipe</translation>
     </message>
     <message>
         <source>Teams (*.kvteam);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Équipes (*.kvteam);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>The rows cannot be joined</source>
-        <translation type="unfinished"></translation>
+        <translation>Les lignes ne peuvent pas être reliées</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -19626,15 +19643,15 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Nobody of the team</source>
-        <translation type="unfinished"></translation>
+        <translation>Personne de l’équipe</translation>
     </message>
     <message>
         <source>Who is %1 in line %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>Qui est %1 à la ligne %2 ?</translation>
     </message>
     <message>
         <source>Keep with the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver avec la course</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -19646,44 +19663,44 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>The table was not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Le tableau n’a pas été enregistré</translation>
     </message>
     <message>
         <source>The list that it is made from stays as it is. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>La liste dont il est tiré reste telle quelle. Choisissez un autre nom.</translation>
     </message>
     <message>
         <source>Saving the table…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement du tableau…</translation>
     </message>
     <message>
         <source>1 row</source>
-        <translation type="unfinished"></translation>
+        <translation>1 ligne</translation>
     </message>
     <message>
         <source>1 column</source>
-        <translation type="unfinished"></translation>
+        <translation>1 colonne</translation>
     </message>
     <message>
         <source>%1 refused (F7)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 refusées (F7)</translation>
     </message>
     <message>
         <source>%1 that only you can tell (F6)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 que vous seul pouvez dire (F6)</translation>
     </message>
     <message numerus="yes">
         <source>%n rows</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ligne</numerusform>
+            <numerusform>%n lignes</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n columns</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n colonne</numerusform>
+            <numerusform>%n colonnes</numerusform>
         </translation>
     </message>
 </context>
@@ -19695,23 +19712,23 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>There is no film to tag.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de film à étiqueter.</translation>
     </message>
     <message>
         <source>There is no tag %1 yet: type its name above.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas encore d’étiquette %1 : tapez son nom ci-dessus.</translation>
     </message>
     <message>
         <source>This tag is of the split file: split taking moves it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette étiquette est du fichier d’intermédiaires : la prise de temps intermédiaires la déplace.</translation>
     </message>
     <message>
         <source>No tag is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune étiquette n’est choisie.</translation>
     </message>
     <message>
         <source>There is no film to cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de film à couper.</translation>
     </message>
 </context>
 <context>
@@ -19726,39 +19743,39 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Play just the tagged part</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire seulement la partie étiquetée</translation>
     </message>
     <message>
         <source>Rename the tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer l’étiquette</translation>
     </message>
     <message>
         <source>Gives the selected tag the name above</source>
-        <translation type="unfinished"></translation>
+        <translation>Donne à l’étiquette choisie le nom ci-dessus</translation>
     </message>
     <message>
         <source>M sets the tag at the frame shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>M pose l’étiquette à l’image affichée.</translation>
     </message>
     <message>
         <source>Enter sets the tag %1 at the frame shown. Esc gives the keys back to the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée pose l’étiquette %1 à l’image affichée. Échap rend les touches au film.</translation>
     </message>
     <message>
         <source>Choose or type the name of the tag first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez ou tapez d’abord le nom de l’étiquette.</translation>
     </message>
     <message>
         <source>tag %1</source>
-        <translation type="unfinished"></translation>
+        <translation>étiquette %1</translation>
     </message>
     <message>
         <source>Select a tag and write its new name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une étiquette et écrivez son nouveau nom.</translation>
     </message>
     <message>
         <source>tag renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>étiquette renommée</translation>
     </message>
 </context>
 <context>
@@ -19781,7 +19798,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>not in the team</source>
-        <translation type="unfinished"></translation>
+        <translation>pas dans l’équipe</translation>
     </message>
     <message>
         <source>Leave out</source>
@@ -19789,31 +19806,31 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Add %1 to the team</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter %1 à l’équipe</translation>
     </message>
     <message>
         <source>perhaps %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>peut-être %1 ?</translation>
     </message>
     <message>
         <source>%1 is added to the athlete&apos;s boats</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est ajouté aux bateaux de l’athlète</translation>
     </message>
     <message>
         <source>the same stands there</source>
-        <translation type="unfinished"></translation>
+        <translation>la même chose y figure</translation>
     </message>
     <message>
         <source>Take results over</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre des résultats</translation>
     </message>
     <message>
         <source>Choose the event</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la compétition</translation>
     </message>
     <message>
         <source>&amp;Event</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Compétition</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -19821,19 +19838,19 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Season</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Saison</translation>
     </message>
     <message>
         <source>The positions are the &amp;final ones of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Les &amp;positions sont les places finales de la course</translation>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation>&amp;Catégorie</translation>
+        <translation>C&amp;atégorie</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
-        <translation>&amp;Phase</translation>
+        <translation>P&amp;hase</translation>
     </message>
     <message>
         <source>&amp;Day</source>
@@ -19841,7 +19858,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre</translation>
     </message>
     <message>
         <source>Tick &amp;all</source>
@@ -19853,7 +19870,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>(line %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(ligne %1)</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
@@ -19865,25 +19882,25 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Take over 1 line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reprendre 1 ligne</translation>
     </message>
     <message>
         <source>Choose the event of the race.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez la compétition de la course.</translation>
     </message>
     <message>
         <source>Nothing in the file belongs to an athlete of the team. A click on “not in the team” chooses one, or adds the name to the team.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien dans le fichier n’est d’un athlète de l’équipe. Un clic sur « pas dans l’équipe » en choisit un, ou ajoute le nom à l’équipe.</translation>
     </message>
     <message>
         <source>%1 of %2 lines are ticked; %3 stay out. A click on an athlete chooses another one, or adds the name to the team.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 lignes sur %2 sont cochées ; %3 ne sont pas reprises. Un clic sur un athlète en choisit un autre, ou ajoute le nom à l’équipe.</translation>
     </message>
     <message numerus="yes">
         <source>&amp;Take over %n lines</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>R&amp;eprendre %n ligne</numerusform>
+            <numerusform>R&amp;eprendre %n lignes</numerusform>
         </translation>
     </message>
 </context>
@@ -19895,11 +19912,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source> rad/s</source>
-        <translation type="unfinished"></translation>
+        <translation> rad/s</translation>
     </message>
     <message>
         <source>Take a test in from a recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre un test d’un enregistrement</translation>
     </message>
     <message>
         <source>&amp;Test</source>
@@ -19915,35 +19932,35 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>La&amp;ps</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;ours</translation>
     </message>
     <message>
         <source>&amp;Distance between the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Distance entre les portes</translation>
     </message>
     <message>
         <source>T&amp;urn limit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seuil de virage</translation>
     </message>
     <message>
         <source>&amp;Suggest the marks again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Proposer à nouveau les marques</translation>
     </message>
     <message>
         <source>Take in</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre</translation>
     </message>
     <message>
         <source>Lap %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tour %1</translation>
     </message>
     <message>
         <source>Stretch %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tronçon %1</translation>
     </message>
     <message>
         <source>Eight %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Huit %1</translation>
     </message>
     <message>
         <source>Start</source>
@@ -19951,16 +19968,17 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>%1 strokes and %2 turns were found.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 coups de pagaie et %2 virages ont été trouvés.</translation>
     </message>
     <message>
         <source>Ends at
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Finit à
+(s)</translation>
     </message>
     <message>
         <source>Seconds from the beginning of the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes depuis le début de l’enregistrement</translation>
     </message>
     <message>
         <source>Time
@@ -19970,43 +19988,43 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Length of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueur du secteur</translation>
     </message>
     <message>
         <source>No such test was found in the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun test de ce genre n’a été trouvé dans l’enregistrement.</translation>
     </message>
     <message>
         <source>Each mark has to be later than the one before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque marque doit être plus tardive que la précédente.</translation>
     </message>
     <message>
         <source>Laps found in the recording: %1 of %2. What is taken in has no more of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tours trouvés dans l’enregistrement : %1 sur %2. Ce qui est repris n’en a pas davantage.</translation>
     </message>
     <message>
         <source>Eights found in the recording: %1 of %2. What is taken in has no more of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Huit trouvés dans l’enregistrement : %1 sur %2. Ce qui est repris n’en a pas davantage.</translation>
     </message>
     <message>
         <source>Rotation and marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation et marques</translation>
     </message>
     <message>
         <source>Time from the beginning of the recording (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps depuis le début de l’enregistrement (s)</translation>
     </message>
     <message>
         <source>Rotation (rad/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation (rad/s)</translation>
     </message>
     <message>
         <source>Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation</translation>
     </message>
     <message>
         <source>Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Marques</translation>
     </message>
 </context>
 <context>
@@ -20041,19 +20059,19 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Mouvement</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>oui</translation>
     </message>
     <message>
         <source>Take in tests from “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre des tests de « %1 »</translation>
     </message>
     <message>
         <source>Take in</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre</translation>
     </message>
     <message>
         <source>&amp;Test</source>
@@ -20061,19 +20079,19 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Take %1 runs in</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre %1 manches</translation>
     </message>
     <message>
         <source>Each section of the run becomes a lap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque secteur de la manche devient un tour.</translation>
     </message>
     <message>
         <source>Each section of the run becomes a stretch of the sprint.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque secteur de la manche devient un tronçon du sprint.</translation>
     </message>
     <message>
         <source>The first five sections become the splits, with their marks in the video; the motion samples of the run tell its rotation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les cinq premiers secteurs deviennent les intermédiaires, avec leurs marques sur la vidéo ; les échantillons de mouvement de la manche donnent sa rotation.</translation>
     </message>
 </context>
 <context>
@@ -20399,27 +20417,27 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TeamAthleteDialog</name>
     <message>
         <source>New athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvel athlète</translation>
     </message>
     <message>
         <source>Written in capitals in the team</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit en capitales dans l’équipe</translation>
     </message>
     <message>
         <source>Such as 1998</source>
-        <translation type="unfinished"></translation>
+        <translation>Par exemple 1998</translation>
     </message>
     <message>
         <source>&amp;Surname</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nom de famille</translation>
     </message>
     <message>
         <source>&amp;Given name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Prénom</translation>
     </message>
     <message>
         <source>&amp;Born in</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Année de naissance</translation>
     </message>
     <message>
         <source>Boats</source>
@@ -20430,21 +20448,21 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TeamDocument</name>
     <message>
         <source>It is no team file, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas un fichier d’équipe, ou il est abîmé : %1</translation>
     </message>
     <message>
         <source>averages</source>
-        <translation type="unfinished"></translation>
+        <translation>moyennes</translation>
     </message>
     <message>
         <source>1 athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>1 athlète</translation>
     </message>
     <message numerus="yes">
         <source>%n athletes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n athlète</numerusform>
+            <numerusform>%n athlètes</numerusform>
         </translation>
     </message>
 </context>
@@ -20452,15 +20470,15 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TeamWindow</name>
     <message>
         <source>Take results over</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre des résultats</translation>
     </message>
     <message>
         <source>Split files and result lists (*.kvx *.csv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers d’intermédiaires et listes de résultats (*.kvx *.csv *.txt);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>“%1” cannot be taken over</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être repris</translation>
     </message>
     <message>
         <source>There are no results in it.</source>
@@ -20472,7 +20490,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>There are no runs in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne contient aucune manche.</translation>
     </message>
     <message>
         <source>results taken over</source>
@@ -20484,46 +20502,46 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>new athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>nouvel athlète</translation>
     </message>
     <message>
         <source>removal of an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait d’un athlète</translation>
     </message>
     <message>
         <source>new category</source>
-        <translation type="unfinished"></translation>
+        <translation>nouvelle catégorie</translation>
     </message>
     <message>
         <source>removal of a category</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait d’une catégorie</translation>
     </message>
     <message>
         <source>Choose an athlete and a category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez d’abord un athlète et une catégorie.</translation>
     </message>
     <message>
         <source>Add a season first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez d’abord une saison.</translation>
     </message>
     <message>
         <source>Choose a category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez d’abord une catégorie.</translation>
     </message>
     <message>
         <source>No athlete comes into question in %1: two seasons are needed, with a final position in one of the first two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun athlète n’entre en ligne de compte en %1 : il faut deux saisons, avec une place finale dans l’une des deux premières.</translation>
     </message>
     <message>
         <source>Categorization %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Catégorisation %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TestListPanel</name>
     <message>
         <source>All tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les tests</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -20531,7 +20549,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Ticked tests are laid over the chosen one (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Les tests cochés sont superposés à celui choisi (Espace)</translation>
     </message>
     <message>
         <source>Date</source>
@@ -20543,30 +20561,30 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>All athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les athlètes</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TestSessionWindow</name>
     <message>
         <source>Time (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps (s)</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>There are no values in this attempt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucune valeur dans cet essai.</translation>
     </message>
     <message>
         <source>Heart rate (1/min)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fréquence cardiaque (1/min)</translation>
     </message>
     <message>
         <source>Test session</source>
@@ -20574,7 +20592,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs</translation>
     </message>
     <message>
         <source>&amp;Export the table…</source>
@@ -20587,7 +20605,8 @@ Place, gap and percent are there as in any other.</source>
     <message>
         <source>Attempt %1
 %2 stroke values, %3 of the sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Essai %1
+%2 valeurs de coups de pagaie, %3 du sprint</translation>
     </message>
     <message>
         <source>All kinds</source>
@@ -20595,7 +20614,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Sprint data</source>
-        <translation type="unfinished"></translation>
+        <translation>Données de sprint</translation>
     </message>
     <message>
         <source>Export the table</source>
@@ -20610,21 +20629,21 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TestsDocument</name>
     <message>
         <source>It is no file of tests, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas un fichier de tests, ou il est abîmé : %1</translation>
     </message>
     <message>
         <source>removal of tests</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait de tests</translation>
     </message>
     <message>
         <source>1 test</source>
-        <translation type="unfinished"></translation>
+        <translation>1 test</translation>
     </message>
     <message numerus="yes">
         <source>%n tests</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n test</numerusform>
+            <numerusform>%n tests</numerusform>
         </translation>
     </message>
 </context>
@@ -20632,7 +20651,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TestsWindow</name>
     <message>
         <source>Take tests in from a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre des tests d’un fichier d’intermédiaires</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -20640,31 +20659,31 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Take a test in from a recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre un test d’un enregistrement</translation>
     </message>
     <message>
         <source>Recordings (*.kvb);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements (*.kvb);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>“%1” cannot be taken in</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être repris</translation>
     </message>
     <message>
         <source>There are no runs in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne contient aucune manche.</translation>
     </message>
     <message>
         <source>tests taken in</source>
-        <translation type="unfinished"></translation>
+        <translation>tests repris</translation>
     </message>
     <message>
         <source>test taken in</source>
-        <translation type="unfinished"></translation>
+        <translation>test repris</translation>
     </message>
     <message>
         <source>It is no raw recording, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas un enregistrement brut, ou il est abîmé : %1</translation>
     </message>
     <message>
         <source>Tests</source>
@@ -20676,7 +20695,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs</translation>
     </message>
     <message>
         <source>Table</source>
@@ -20684,87 +20703,87 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>One ticked test is of another kind and left out here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un test coché est d’un autre type et laissé de côté ici.</translation>
     </message>
     <message>
         <source>%1 ticked tests are of another kind and left out here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tests cochés sont d’un autre type et laissés de côté ici.</translation>
     </message>
     <message>
         <source>new eight test</source>
-        <translation type="unfinished"></translation>
+        <translation>nouveau test en huit</translation>
     </message>
     <message>
         <source>new sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>nouveau sprint</translation>
     </message>
     <message>
         <source>new lap test</source>
-        <translation type="unfinished"></translation>
+        <translation>nouveau test par tours</translation>
     </message>
     <message>
         <source>copy of a test</source>
-        <translation type="unfinished"></translation>
+        <translation>copie d’un test</translation>
     </message>
     <message>
         <source>Export the table of tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter le tableau des tests</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte séparé par des points-virgules (*.csv);;Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TickStrip</name>
     <message>
         <source>Other marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres marques</translation>
     </message>
     <message>
         <source>A click shows the frame of a mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic montre l’image d’une marque</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TimeLine</name>
     <message>
         <source>Time line</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne de temps</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TimerFace</name>
     <message>
         <source>%1 – paused</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – en pause</translation>
     </message>
     <message>
         <source>Set %1 of %2   ·   Repetition %3 of %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Série %1 sur %2   ·   Répétition %3 sur %4</translation>
     </message>
     <message>
         <source>Well done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bien joué.</translation>
     </message>
     <message>
         <source>Next: the end</source>
-        <translation type="unfinished"></translation>
+        <translation>Ensuite : la fin</translation>
     </message>
     <message>
         <source>Next: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ensuite : %1 %2</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ToolWindow</name>
     <message>
         <source>%1 files (*.%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers %1 (*.%2)</translation>
     </message>
     <message>
         <source>%1, saving…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, enregistrement…</translation>
     </message>
     <message>
         <source>&amp;File</source>
@@ -20776,11 +20795,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer</translation>
     </message>
     <message>
         <source>Save &amp;as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer &amp;sous…</translation>
     </message>
     <message>
         <source>Open</source>
@@ -20796,11 +20815,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rétablir</translation>
     </message>
     <message>
         <source>Open it again</source>
@@ -20808,35 +20827,35 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Keep what is here</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder ce qui est ici</translation>
     </message>
     <message>
         <source>⚠ Another program changed “%1”. What is shown here is from before.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Un autre programme a modifié « %1 ». Ce qui est affiché ici date d’avant.</translation>
     </message>
     <message>
         <source>⚠ “%1” is no longer in its folder. Saving puts it there again.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ « %1 » n’est plus dans son dossier. L’enregistrer l’y remet.</translation>
     </message>
     <message>
         <source>Opening “%1” again gives up what was not saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir « %1 » à nouveau abandonne ce qui n’a pas été enregistré ici.</translation>
     </message>
     <message>
         <source>Bring &amp;back earlier work…</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre &amp;un travail antérieur…</translation>
     </message>
     <message>
         <source>&amp;Home</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ccueil</translation>
     </message>
     <message>
         <source>Se&amp;ttings…</source>
-        <translation>&amp;Réglages…</translation>
+        <translation>Ré&amp;glages…</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>Fer&amp;mer</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -20844,38 +20863,38 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Saving… The window closes when the file is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement… La fenêtre se ferme quand le fichier est écrit.</translation>
     </message>
     <message>
         <source>Saving… What is to be opened follows when the file is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement… Ce qui doit s’ouvrir suit quand le fichier est écrit.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TotalsChart</name>
     <message>
         <source>No run has a time for the whole course yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune manche n’a encore de temps pour tout le parcours.</translation>
     </message>
     <message>
         <source>Time and penalties of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps et pénalités de %1</translation>
     </message>
     <message>
         <source>Seconds on the course, without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes sur le parcours, sans pénalités</translation>
     </message>
     <message>
         <source> · %1 without a total</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 sans total</translation>
     </message>
     <message>
         <source>Penalty seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes de pénalité</translation>
     </message>
     <message>
         <source>← slower      faster →</source>
@@ -20907,87 +20926,87 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionné</translation>
     </message>
     <message>
         <source>Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>Totaux</translation>
     </message>
     <message>
         <source>Total time against penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps total selon les pénalités</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrackDocument</name>
     <message>
         <source>It is no path on a film, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas une trajectoire sur un film, ou elle est abîmée : %1</translation>
     </message>
     <message>
         <source>a path of 1 frame</source>
-        <translation type="unfinished"></translation>
+        <translation>une trajectoire de 1 image</translation>
     </message>
     <message>
         <source>a path of %1 frames</source>
-        <translation type="unfinished"></translation>
+        <translation>une trajectoire de %1 images</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrackLine</name>
     <message>
         <source>Coloured where the path is known; diamonds are the boxes that were drawn. Click to go there.</source>
-        <translation type="unfinished"></translation>
+        <translation>En couleur là où la trajectoire est connue ; les losanges sont les cadres dessinés. Cliquez pour y aller.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrackOffsetDialog</name>
     <message>
         <source>Track of a watch</source>
-        <translation type="unfinished"></translation>
+        <translation>Trace d’une montre</translation>
     </message>
     <message>
         <source>The clock of the watch is perhaps wrong. Say when the track began in truth.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’horloge de la montre est peut-être fausse. Indiquez quand la trace a commencé en réalité.</translation>
     </message>
     <message>
         <source>With the &amp;recording</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Avec l’enregistrement</translation>
     </message>
     <message>
         <source>Both were started at the same moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Les deux ont été lancés au même moment</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement</translation>
     </message>
     <message>
         <source>Track, by its clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Trace, selon son horloge</translation>
     </message>
     <message>
         <source>The track &amp;began</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;La trace a commencé</translation>
     </message>
     <message>
         <source>Join it</source>
-        <translation type="unfinished"></translation>
+        <translation>La relier</translation>
     </message>
     <message>
         <source>%1 of %2 positions and %3 of %4 heart rates lie in the recording, or a minute around it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 positions sur %2 et %3 fréquences cardiaques sur %4 se trouvent dans l’enregistrement, ou à une minute près.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrackOverlay</name>
     <message>
         <source>Box round what is followed</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadre autour de ce qui est suivi</translation>
     </message>
     <message>
         <source>Draw a box round boat, head or gate. By keys: B proposes a box, arrows move it, with Shift they size it, Enter takes it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessinez un cadre autour d’un bateau, d’une tête ou d’une porte. Au clavier : B propose un cadre, les flèches le déplacent, avec Maj elles le redimensionnent, Entrée le prend.</translation>
     </message>
 </context>
 <context>
@@ -20998,31 +21017,31 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Paths on films (*.track.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Trajectoires sur films (*.track.json)</translation>
     </message>
     <message>
         <source>Open a film, then draw a box round what is to be followed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrez un film, puis dessinez un cadre autour de ce qui doit être suivi.</translation>
     </message>
     <message>
         <source>Following: %p %</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivi : %p %</translation>
     </message>
     <message>
         <source>Draw a box round what is to be followed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessinez un cadre autour de ce qui doit être suivi.</translation>
     </message>
     <message>
         <source>No known point yet. Tick Path &gt; Click known points, then click the foot of a gate&apos;s poles in the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore aucun point connu. Cochez Trajectoire &gt; Cliquer des points connus, puis cliquez le pied des fiches d’une porte dans l’image.</translation>
     </message>
     <message>
         <source>&amp;Take it away</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;L’enlever</translation>
     </message>
     <message>
         <source>removal of a known point</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait d’un point connu</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -21030,47 +21049,47 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Figures</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffres</translation>
     </message>
     <message>
         <source>Known points</source>
-        <translation type="unfinished"></translation>
+        <translation>Points connus</translation>
     </message>
     <message>
         <source>A place on the water is a number of metres, -10000 to 10000</source>
-        <translation type="unfinished"></translation>
+        <translation>Une place sur l’eau est un nombre de mètres, de -10000 à 10000</translation>
     </message>
     <message>
         <source>metres of a known point</source>
-        <translation type="unfinished"></translation>
+        <translation>mètres d’un point connu</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Point</translation>
     </message>
     <message>
         <source>Across</source>
-        <translation type="unfinished"></translation>
+        <translation>En travers</translation>
     </message>
     <message>
         <source>Along</source>
-        <translation type="unfinished"></translation>
+        <translation>En long</translation>
     </message>
     <message>
         <source>&amp;Open a film or a path…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir un film ou une trajectoire…</translation>
     </message>
     <message>
         <source>&amp;Export the path as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exporter la trajectoire en CSV…</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation>&amp;Lecture</translation>
+        <translation>Le&amp;cture</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation>Lire &amp;ou mettre en pause</translation>
+        <translation>Lire ou &amp;mettre en pause</translation>
     </message>
     <message>
         <source>One frame ba&amp;ck</source>
@@ -21082,162 +21101,162 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>P&amp;ath</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trajectoire</translation>
     </message>
     <message>
         <source>Propose a &amp;box</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Proposer un cadre</translation>
     </message>
     <message>
         <source>&amp;Take the box of this frame away</source>
-        <translation type="unfinished"></translation>
+        <translation>Enlever le cadre &amp;de cette image</translation>
     </message>
     <message>
         <source>To the next &amp;gap</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Au prochain trou</translation>
     </message>
     <message>
         <source>&amp;Stop following</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter le &amp;suivi</translation>
     </message>
     <message>
         <source>Click &amp;known points</source>
-        <translation type="unfinished"></translation>
+        <translation>Cli&amp;quer des points connus</translation>
     </message>
     <message>
         <source>&amp;Forget the known points</source>
-        <translation type="unfinished"></translation>
+        <translation>Ou&amp;blier les points connus</translation>
     </message>
     <message>
         <source>It lies on the &amp;water</source>
-        <translation type="unfinished"></translation>
+        <translation>Il est su&amp;r l’eau</translation>
     </message>
     <message>
         <source>whether it lies on the water</source>
-        <translation type="unfinished"></translation>
+        <translation>présence sur l’eau</translation>
     </message>
     <message>
         <source>Open a film or a path on one</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un film ou une trajectoire sur un film</translation>
     </message>
     <message>
         <source>Films and paths (*.mp4 *.mov *.m4v *.mkv *.avi *.mts *.track.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Films et trajectoires (*.mp4 *.mov *.m4v *.mkv *.avi *.mts *.track.json);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>The film %1 is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film %1 n’est pas là.</translation>
     </message>
     <message>
         <source>%1 s · frame %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s · image %2</translation>
     </message>
     <message>
         <source>The film is still being read. Draw the box again in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film est encore en cours de lecture. Redessinez le cadre dans un moment.</translation>
     </message>
     <message>
         <source>Stop following first, with Escape.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêtez d’abord le suivi, avec Échap.</translation>
     </message>
     <message>
         <source>box</source>
-        <translation type="unfinished"></translation>
+        <translation>cadre</translation>
     </message>
     <message>
         <source>Following. Escape stops it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivi en cours. Échap l’arrête.</translation>
     </message>
     <message>
         <source>The boxes were changed meanwhile, so that the path was not taken over. Draw the box again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les cadres ont été changés entre-temps, si bien que la trajectoire n’a pas été reprise. Redessinez le cadre.</translation>
     </message>
     <message>
         <source>path</source>
-        <translation type="unfinished"></translation>
+        <translation>trajectoire</translation>
     </message>
     <message>
         <source>Lost at %1 s. Draw a new box here, or where it is seen again; what lies between stays a gap until both sides meet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdu à %1 s. Dessinez un nouveau cadre ici, ou là où il réapparaît ; l’intervalle reste un trou jusqu’à ce que les deux côtés se rejoignent.</translation>
     </message>
     <message>
         <source>Followed without a gap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivi sans trou.</translation>
     </message>
     <message>
         <source>Followed, with one gap. G goes there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivi, avec un trou. G y va.</translation>
     </message>
     <message>
         <source>Followed, with %1 gaps. G goes to the next one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivi, avec %1 trous. G va au suivant.</translation>
     </message>
     <message>
         <source>No box was drawn in this frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun cadre n’a été dessiné dans cette image.</translation>
     </message>
     <message>
         <source>removal of a box</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait d’un cadre</translation>
     </message>
     <message>
         <source>The path has no gap.</source>
-        <translation type="unfinished"></translation>
+        <translation>La trajectoire n’a pas de trou.</translation>
     </message>
     <message>
         <source>Click the foot of a gate&apos;s poles where they meet the water, four for metres or two for a scale only, then type where they stand. P ends it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez le pied des fiches d’une porte à la surface de l’eau, quatre pour des mètres ou deux pour une échelle seulement, puis tapez où elles se trouvent. P termine.</translation>
     </message>
     <message>
         <source>Four known points are the most. Take one away first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quatre points connus au plus. Enlevez-en d’abord un.</translation>
     </message>
     <message>
         <source>The known points belong into one frame; this is where the first one was clicked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les points connus doivent être dans une même image ; celle-ci est celle où le premier a été cliqué.</translation>
     </message>
     <message>
         <source>known point</source>
-        <translation type="unfinished"></translation>
+        <translation>point connu</translation>
     </message>
     <message>
         <source>removal of the known points</source>
-        <translation type="unfinished"></translation>
+        <translation>retrait des points connus</translation>
     </message>
     <message>
         <source>Two points give a scale only: lengths and speeds hold near them and along the line between them. Four give the perspective too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deux points ne donnent qu’une échelle : longueurs et vitesses valent près d’eux et le long de la ligne entre eux. Quatre donnent aussi la perspective.</translation>
     </message>
     <message>
         <source>What is followed is not on the water, such as a head: its metres are off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est suivi n’est pas sur l’eau, comme une tête : ses mètres sont faussés.</translation>
     </message>
     <message>
         <source>Export the path</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter la trajectoire</translation>
     </message>
     <message>
         <source>Tables (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableaux (*.csv)</translation>
     </message>
     <message>
         <source>%1 is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est là.</translation>
     </message>
     <message>
         <source>The path could not be exported</source>
-        <translation type="unfinished"></translation>
+        <translation>La trajectoire n’a pas pu être exportée</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TradeOffPanel</name>
     <message>
         <source>In percent of the median of its group</source>
-        <translation type="unfinished"></translation>
+        <translation>En pour cent de la médiane de son groupe</translation>
     </message>
     <message>
         <source>By paddling time</source>
-        <translation type="unfinished"></translation>
+        <translation>Selon le temps de navigation</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -21253,38 +21272,38 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Exact interval of the touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalle exact des touches</translation>
     </message>
     <message>
         <source>Missed a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manquées par manche</translation>
     </message>
     <message>
         <source>Paddling %</source>
-        <translation type="unfinished"></translation>
+        <translation>Navigation %</translation>
     </message>
     <message>
         <source>Total %</source>
-        <translation type="unfinished"></translation>
+        <translation>Total %</translation>
     </message>
     <message>
         <source>No group has enough whole runs to be divided.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun groupe n’a assez de manches complètes pour être divisé.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrialList</name>
     <message>
         <source>New athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvel athlète</translation>
     </message>
     <message>
         <source>Enter adds a time trial of that athlete; Esc gives the keys back to the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée ajoute un contre-la-montre de cet athlète ; Échap rend les touches au film</translation>
     </message>
     <message>
         <source>A time trial needs the name of its athlete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un contre-la-montre demande le nom de son athlète.</translation>
     </message>
     <message>
         <source>Pos</source>
@@ -21304,15 +21323,15 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>⚠ missing</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ manque</translation>
     </message>
     <message>
         <source>%1 is not in the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas dans le dossier</translation>
     </message>
     <message>
         <source>Add an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un athlète</translation>
     </message>
     <message>
         <source>Re&amp;name the athlete</source>
@@ -21320,7 +21339,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Film…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Film…</translation>
     </message>
     <message>
         <source>R&amp;emove the trial</source>
@@ -21332,7 +21351,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Chooses the film of the selected trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisit le film du contre-la-montre sélectionné</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -21340,7 +21359,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Removes the selected trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Retire le contre-la-montre sélectionné</translation>
     </message>
 </context>
 <context>
@@ -21375,19 +21394,19 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>%1 boats</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bateaux</translation>
     </message>
     <message>
         <source>How many boats go on to the heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien de bateaux passent dans les séries</translation>
     </message>
     <message>
         <source>Make heats from the trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire les séries d’après les contre-la-montre</translation>
     </message>
     <message>
         <source>Heats of four, the fastest against the slowest. Heats that exist stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Séries de quatre, les plus rapides face aux plus lents. Les séries existantes restent.</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -21399,15 +21418,15 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>A click shows the frame of a split</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic montre l’image d’un intermédiaire</translation>
     </message>
     <message>
         <source>gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>porte %1</translation>
     </message>
     <message>
         <source>roll</source>
-        <translation type="unfinished"></translation>
+        <translation>esquimautage</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -21415,58 +21434,58 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>time trial of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>contre-la-montre de %1</translation>
     </message>
     <message>
         <source>films imported</source>
-        <translation type="unfinished"></translation>
+        <translation>films importés</translation>
     </message>
     <message>
         <source>film of the trial</source>
-        <translation type="unfinished"></translation>
+        <translation>film du contre-la-montre</translation>
     </message>
     <message>
         <source>athlete renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>athlète renommé</translation>
     </message>
     <message>
         <source>time trial removed</source>
-        <translation type="unfinished"></translation>
+        <translation>contre-la-montre retiré</translation>
     </message>
     <message>
         <source>No trial has a time yet: heats are made from the fastest ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun contre-la-montre n’a encore de temps : les séries se font avec les plus rapides.</translation>
     </message>
     <message>
         <source>There are heats already. They stay as they are, and those from the trials come behind them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a déjà des séries. Elles restent telles quelles, et celles tirées des contre-la-montre viennent à leur suite.</translation>
     </message>
     <message>
         <source>Make heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire les séries</translation>
     </message>
     <message>
         <source>heats from the trials</source>
-        <translation type="unfinished"></translation>
+        <translation>séries d’après les contre-la-montre</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::Updates</name>
     <message>
         <source>Newer versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Versions plus récentes</translation>
     </message>
     <message>
         <source>May Kavela look once a day whether there is a newer version? It tells the server the version that you have, and nothing else. Without a yes it never looks by itself. You can change this in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kavela peut-il chercher une fois par jour s’il y a une version plus récente ? Il indique au serveur la version que vous avez, et rien d’autre. Sans un oui, il ne cherche jamais de lui-même. Cela se change dans les réglages.</translation>
     </message>
     <message>
         <source>Yes, look once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Oui, chercher une fois par jour</translation>
     </message>
     <message>
         <source>Looking for a newer version…</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche d’une version plus récente…</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -21501,7 +21520,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Turn to the</source>
-        <translation type="unfinished"></translation>
+        <translation>Virage vers</translation>
     </message>
     <message>
         <source>Style</source>
@@ -21513,7 +21532,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Gate %1 is no upstream gate. N goes to the next one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La porte %1 n’est pas une remontée. N passe à la suivante.</translation>
     </message>
     <message>
         <source>%1 of gate %2</source>
@@ -21529,11 +21548,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>The marks of gate %1 are removed. Ctrl+Z brings them back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les marques de la porte %1 sont retirées. Ctrl+Z les rétablit.</translation>
     </message>
     <message>
         <source>Gate %1 is no upstream gate</source>
-        <translation type="unfinished"></translation>
+        <translation>La porte %1 n’est pas une remontée</translation>
     </message>
     <message>
         <source>Gate %1: M marks the %2</source>
@@ -21545,11 +21564,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>%1 s in the gate</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s dans la porte</translation>
     </message>
     <message>
         <source>gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>porte %1</translation>
     </message>
 </context>
 <context>
@@ -21558,26 +21577,28 @@ Place, gap and percent are there as in any other.</source>
         <source>No test yet.
 
 Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encore aucun test.
+
+Ajoutez-en un à la main avec Ctrl+N, ou déposez ici des fichiers d’intermédiaires et des enregistrements.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::VariabilityDialog</name>
     <message>
         <source>There is no measurement in this list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucune mesure dans cette liste.</translation>
     </message>
     <message>
         <source>All %1 measurements of this list are there already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les %1 mesures de cette liste sont toutes déjà là.</translation>
     </message>
     <message>
         <source>1 measurement is new.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 mesure est nouvelle.</translation>
     </message>
     <message>
         <source>1 other is there already.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 autre est déjà là.</translation>
     </message>
     <message>
         <source>Import variability</source>
@@ -21585,11 +21606,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>1 line is left out:</source>
-        <translation type="unfinished"></translation>
+        <translation>1 ligne est laissée de côté :</translation>
     </message>
     <message>
         <source>Add 1 measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter 1 mesure</translation>
     </message>
     <message>
         <source>Line</source>
@@ -21597,34 +21618,34 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Reason</source>
-        <translation type="unfinished"></translation>
+        <translation>Raison</translation>
     </message>
     <message numerus="yes">
         <source>%n measurements are new.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n mesure est nouvelle.</numerusform>
+            <numerusform>%n mesures sont nouvelles.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n others are there already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n autre est déjà là.</numerusform>
+            <numerusform>%n autres sont déjà là.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n lines are left out:</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ligne est laissée de côté :</numerusform>
+            <numerusform>%n lignes sont laissées de côté :</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Add %n measurements</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ajouter %n mesure</numerusform>
+            <numerusform>Ajouter %n mesures</numerusform>
         </translation>
     </message>
 </context>
@@ -21632,11 +21653,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WaterfallChart</name>
     <message>
         <source>One of the two has no total, so there is no sum. The sections that both have stand in the table and in the other charts.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’une des deux n’a pas de total, il n’y a donc pas de somme. Les secteurs communs figurent dans le tableau et dans les autres graphiques.</translation>
     </message>
     <message>
         <source>Sections, penalties and timing from total to total</source>
-        <translation type="unfinished"></translation>
+        <translation>Secteurs, pénalités et chronométrage d’un total à l’autre</translation>
     </message>
     <message>
         <source>penalties</source>
@@ -21644,7 +21665,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>timing</source>
-        <translation type="unfinished"></translation>
+        <translation>chronométrage</translation>
     </message>
     <message>
         <source>Seconds</source>
@@ -21652,11 +21673,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiché</translation>
     </message>
     <message>
         <source>Up to here</source>
-        <translation type="unfinished"></translation>
+        <translation>Jusqu’ici</translation>
     </message>
     <message>
         <source>Part</source>
@@ -21695,7 +21716,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>done on</source>
-        <translation type="unfinished"></translation>
+        <translation>fait le</translation>
     </message>
     <message>
         <source>Endurance test</source>
@@ -21707,23 +21728,23 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Injured part</source>
-        <translation type="unfinished"></translation>
+        <translation>Partie blessée</translation>
     </message>
     <message>
         <source>Health notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes de santé</translation>
     </message>
     <message>
         <source>“%1” are no dates. Write them as 2026-03-10, with commas between.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » : ce ne sont pas des dates. Écrivez-les comme 2026-03-10, séparées par des virgules.</translation>
     </message>
     <message>
         <source>dates of tests</source>
-        <translation type="unfinished"></translation>
+        <translation>dates des tests</translation>
     </message>
     <message>
         <source>load</source>
-        <translation type="unfinished"></translation>
+        <translation>charge</translation>
     </message>
     <message>
         <source>Load</source>
@@ -21731,27 +21752,27 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>health</source>
-        <translation type="unfinished"></translation>
+        <translation>santé</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Santé</translation>
     </message>
     <message>
         <source>One per line</source>
-        <translation type="unfinished"></translation>
+        <translation>Un par ligne</translation>
     </message>
     <message>
         <source>goals of the week</source>
-        <translation type="unfinished"></translation>
+        <translation>objectifs de la semaine</translation>
     </message>
     <message>
         <source>Goals</source>
-        <translation type="unfinished"></translation>
+        <translation>Objectifs</translation>
     </message>
     <message>
         <source>Week %1 · from %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine %1 · du %2</translation>
     </message>
     <message>
         <source>Week %1</source>
@@ -21759,7 +21780,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>%1 weeks are chosen: load, cycles and place go into all of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 semaines sont choisies : charge, cycles et lieu vont dans toutes.</translation>
     </message>
 </context>
 <context>
@@ -21786,7 +21807,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>On no day of this week</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun jour de cette semaine</translation>
     </message>
     <message>
         <source>Session</source>
@@ -21797,11 +21818,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WhyKeys</name>
     <message>
         <source>Go to a number first, or hold Alt and click on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Allez d’abord à un nombre, ou maintenez Alt et cliquez dessus.</translation>
     </message>
     <message>
         <source>Nothing was computed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été calculé ici.</translation>
     </message>
 </context>
 <context>
@@ -21819,15 +21840,15 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>dropped: worst</source>
-        <translation type="unfinished"></translation>
+        <translation>écarté : le plus mauvais</translation>
     </message>
     <message>
         <source>dropped: bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>écarté : bonus</translation>
     </message>
     <message>
         <source>no result</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de résultat</translation>
     </message>
     <message>
         <source>Result</source>
@@ -21843,11 +21864,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Select an athlete to see where the score comes from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un athlète pour voir d’où vient le score.</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Bonus</source>
@@ -21855,51 +21876,52 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Score: %1 / 3 = %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Score : %1 / 3 = %2</translation>
     </message>
     <message>
         <source>Place: was %1, now %2. Score: was %3, now %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Place : avant %1, maintenant %2. Score : avant %3, maintenant %4.</translation>
     </message>
     <message>
         <source>%1 s in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s en %2</translation>
     </message>
     <message>
         <source>A place better with a total of
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Une place meilleure avec un total de
+%1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::WhyWindow</name>
     <message>
         <source>Rule: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Règle : %1</translation>
     </message>
     <message>
         <source>Within %1</source>
-        <translation type="unfinished"></translation>
+        <translation>À %1 près</translation>
     </message>
     <message>
         <source>Source: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Source : %1</translation>
     </message>
     <message>
         <source>Why this number?</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourquoi ce nombre ?</translation>
     </message>
     <message>
         <source>Why %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourquoi %1</translation>
     </message>
     <message>
         <source>What went into it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui y est entré</translation>
     </message>
     <message>
         <source>Enter opens a number made on the way, and shows the place of a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée ouvre un nombre calculé en chemin, et montre la place d’une valeur</translation>
     </message>
     <message>
         <source>From</source>
@@ -21907,34 +21929,34 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>Où</translation>
     </message>
     <message>
         <source>Show this place (Enter)</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer cette place (Entrée)</translation>
     </message>
     <message>
         <source>%1, link</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, lien</translation>
     </message>
     <message>
         <source>&amp;Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier en texte</translation>
     </message>
     <message>
         <source>The whole explanation (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Toute l’explication (%1)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::Workspace</name>
     <message>
         <source>Save the changes to %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les changements de %1 ?</translation>
     </message>
 </context>
 <context>
@@ -21945,7 +21967,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mois</translation>
     </message>
     <message>
         <source>Macrocycle</source>
