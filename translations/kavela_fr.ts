@@ -126,7 +126,7 @@
     </message>
     <message>
         <source>Volume and intensity are numbers such as 4.5</source>
-        <translation>Volume et intensité sont des nombres comme 4,5</translation>
+        <translation>Volume et intensité sont des nombres comme 4.5</translation>
     </message>
     <message>
         <source>, rest %1</source>
@@ -357,15 +357,15 @@
     </message>
     <message>
         <source>&amp;Why this number?</source>
-        <translation>&amp;Pourquoi ce nombre ?</translation>
+        <translation>Pourquoi &amp;ce nombre ?</translation>
     </message>
     <message>
         <source>&amp;Change keys…</source>
-        <translation>&amp;Changer les touches…</translation>
+        <translation>C&amp;hanger les touches…</translation>
     </message>
     <message>
         <source>&amp;Full screen</source>
-        <translation>Pl&amp;ein écran</translation>
+        <translation>&amp;Plein écran</translation>
     </message>
     <message>
         <source>Where are the films now?</source>
@@ -420,7 +420,7 @@
     <name>QueryForm</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Athlète</translation>
+        <translation>A&amp;thlète</translation>
     </message>
     <message>
         <source>anyone</source>
@@ -448,7 +448,7 @@
     </message>
     <message>
         <source>&amp;Year</source>
-        <translation>A&amp;nnée</translation>
+        <translation>&amp;Année</translation>
     </message>
     <message>
         <source>&amp;Gate</source>
@@ -456,7 +456,7 @@
     </message>
     <message>
         <source>&amp;Up or down</source>
-        <translation>&amp;Descendue ou remontée</translation>
+        <translation>Descendue ou &amp;remontée</translation>
     </message>
     <message>
         <source>both</source>
@@ -464,7 +464,7 @@
     </message>
     <message>
         <source>&amp;Direction</source>
-        <translation>Di&amp;rection</translation>
+        <translation>&amp;Direction</translation>
     </message>
     <message>
         <source>&amp;Style</source>
@@ -472,7 +472,7 @@
     </message>
     <message>
         <source>&amp;Kind</source>
-        <translation>&amp;Type</translation>
+        <translation>T&amp;ype</translation>
     </message>
 </context>
 <context>
@@ -2886,7 +2886,7 @@
     </message>
     <message>
         <source>Too few to tell: {} in {}.</source>
-        <translation>Trop peu pour conclure : {} en {}.</translation>
+        <translation>Trop peu pour conclure : {} sur {}.</translation>
     </message>
     <message>
         <source>Only one {}: there is nothing to compare it with.</source>
@@ -2933,7 +2933,7 @@
     </message>
     <message>
         <source>{} touches a run in {}, all in one third of the field.</source>
-        <translation>{} touches par manche en {}, toutes dans un seul tiers du plateau.</translation>
+        <translation>{} touches par manche sur {}, toutes dans un seul tiers du plateau.</translation>
     </message>
     <message>
         <source>{:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
@@ -3143,7 +3143,7 @@
     </message>
     <message>
         <source>0.3 · spread</source>
-        <translation>0,3 · dispersion</translation>
+        <translation>0.3 · dispersion</translation>
     </message>
     <message>
         <source>Hopkins, 2004</source>
@@ -3351,7 +3351,7 @@
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation>%1 en %2</translation>
+        <translation>%1 dans %2</translation>
     </message>
     <message>
         <source>Losses and penalties · %1on the reference &quot;%2&quot; · %3</source>
@@ -3974,7 +3974,7 @@
     </message>
     <message>
         <source>Met</source>
-        <translation>Rencontres</translation>
+        <translation>Duels</translation>
     </message>
     <message>
         <source>Head to head</source>
@@ -5220,11 +5220,11 @@
     </message>
     <message>
         <source>Mark one frame &amp;earlier</source>
-        <translation>&amp;Marque une image plus tôt</translation>
+        <translation>Marque &amp;une image plus tôt</translation>
     </message>
     <message>
         <source>Mark one frame &amp;later</source>
-        <translation>Marque &amp;une image plus tard</translation>
+        <translation>Marque une &amp;image plus tard</translation>
     </message>
     <message>
         <source>&amp;Remove the selected mark</source>
@@ -5236,7 +5236,7 @@
     </message>
     <message>
         <source>&amp;Next mark</source>
-        <translation>Marque &amp;suivante</translation>
+        <translation>&amp;Marque suivante</translation>
     </message>
     <message>
         <source>Nobody is called “%1” in these files.</source>
@@ -5924,7 +5924,7 @@
     </message>
     <message>
         <source>Met</source>
-        <translation>Rencontres</translation>
+        <translation>Duels</translation>
     </message>
     <message>
         <source>Won</source>
@@ -6020,43 +6020,43 @@
     </message>
     <message>
         <source>Import .s&amp;bm file</source>
-        <translation>Importer un &amp;fichier .sbm</translation>
+        <translation>I&amp;mporter un fichier .sbm</translation>
     </message>
     <message>
         <source>Import from a &amp;watch or logger…</source>
-        <translation>Importer d’une montre &amp;ou d’un enregistreur…</translation>
+        <translation>Importer &amp;d’une montre ou d’un enregistreur…</translation>
     </message>
     <message>
         <source>Move the trac&amp;k of the watch in time…</source>
-        <translation>Déplacer &amp;la trace de la montre dans le temps…</translation>
+        <translation>Déplacer la &amp;trace de la montre dans le temps…</translation>
     </message>
     <message>
         <source>Import &amp;power-meter data…</source>
-        <translation>Importer les données du &amp;capteur de puissance…</translation>
+        <translation>Importer les données du capteur de &amp;puissance…</translation>
     </message>
     <message>
         <source>Save the edited .&amp;kvb file</source>
-        <translation>&amp;Enregistrer le fichier .kvb modifié</translation>
+        <translation>Enregistrer le fichier .&amp;kvb modifié</translation>
     </message>
     <message>
         <source>&amp;Export the strokes…</source>
-        <translation>E&amp;xporter les coups de pagaie…</translation>
+        <translation>Exporter les &amp;coups de pagaie…</translation>
     </message>
     <message>
         <source>Export the &amp;turns…</source>
-        <translation>Exporter les &amp;virages…</translation>
+        <translation>Exporter &amp;les virages…</translation>
     </message>
     <message>
         <source>Export the se&amp;gments…</source>
-        <translation>Expor&amp;ter les segments…</translation>
+        <translation>E&amp;xporter les segments…</translation>
     </message>
     <message>
         <source>Export the values per &amp;distance…</source>
-        <translation>Exporter les valeurs par &amp;distance…</translation>
+        <translation>Exporter les &amp;valeurs par distance…</translation>
     </message>
     <message>
         <source>Mount of the p&amp;hone</source>
-        <translation>Fix&amp;ation du téléphone</translation>
+        <translation>&amp;Fixation du téléphone</translation>
     </message>
     <message>
         <source>Found from the position</source>
@@ -6064,11 +6064,11 @@
     </message>
     <message>
         <source>Session &amp;information…</source>
-        <translation>I&amp;nformations de la séance…</translation>
+        <translation>&amp;Informations de la séance…</translation>
     </message>
     <message>
         <source>&amp;Analyse the recording again</source>
-        <translation>Anal&amp;yser à nouveau l’enregistrement</translation>
+        <translation>Analys&amp;er à nouveau l’enregistrement</translation>
     </message>
     <message>
         <source>&amp;Keep the selected stretch</source>
@@ -6076,19 +6076,19 @@
     </message>
     <message>
         <source>Remove the selected &amp;stretch</source>
-        <translation>&amp;Retirer le tronçon sélectionné</translation>
+        <translation>Retirer &amp;le tronçon sélectionné</translation>
     </message>
     <message>
         <source>Re&amp;move the selected strokes, turns or mark</source>
-        <translation>Retirer les coups de &amp;pagaie, virages ou la marque sélectionnés</translation>
+        <translation>Retirer les coups &amp;de pagaie, virages ou la marque sélectionnés</translation>
     </message>
     <message>
         <source>Select &amp;nothing</source>
-        <translation>Ne rien &amp;sélectionner</translation>
+        <translation>&amp;Ne rien sélectionner</translation>
     </message>
     <message>
         <source>&amp;Segments</source>
-        <translation>Seg&amp;ments</translation>
+        <translation>&amp;Segments</translation>
     </message>
     <message>
         <source>&amp;Mark here</source>
@@ -6096,23 +6096,23 @@
     </message>
     <message>
         <source>Mo&amp;ve the nearest mark here</source>
-        <translation>Amener ici &amp;la marque la plus proche</translation>
+        <translation>Ame&amp;ner ici la marque la plus proche</translation>
     </message>
     <message>
         <source>Nearest mark &amp;earlier</source>
-        <translation>Mar&amp;que la plus proche plus tôt</translation>
+        <translation>Marque &amp;la plus proche plus tôt</translation>
     </message>
     <message>
         <source>Nearest mark &amp;later</source>
-        <translation>Marq&amp;ue la plus proche plus tard</translation>
+        <translation>Marque la plus proche plus &amp;tard</translation>
     </message>
     <message>
         <source>&amp;Remove the nearest mark</source>
-        <translation>R&amp;etirer la marque la plus proche</translation>
+        <translation>Retirer l&amp;a marque la plus proche</translation>
     </message>
     <message>
         <source>Remove &amp;all marks</source>
-        <translation>Retirer &amp;toutes les marques</translation>
+        <translation>&amp;Retirer toutes les marques</translation>
     </message>
     <message>
         <source>&amp;Save the segments</source>
@@ -6120,15 +6120,15 @@
     </message>
     <message>
         <source>&amp;Replay</source>
-        <translation>Rele&amp;cture</translation>
+        <translation>&amp;Relecture</translation>
     </message>
     <message>
         <source>&amp;Play, pause</source>
-        <translation>Lecture, p&amp;ause</translation>
+        <translation>&amp;Lecture, pause</translation>
     </message>
     <message>
         <source>&amp;Slower</source>
-        <translation>Plus le&amp;nt</translation>
+        <translation>&amp;Plus lent</translation>
     </message>
     <message>
         <source>&amp;Faster</source>
@@ -6136,19 +6136,19 @@
     </message>
     <message>
         <source>&amp;Real time</source>
-        <translation>Temps &amp;réel</translation>
+        <translation>&amp;Temps réel</translation>
     </message>
     <message>
         <source>P&amp;revious stroke</source>
-        <translation>Coup &amp;de pagaie précédent</translation>
+        <translation>C&amp;oup de pagaie précédent</translation>
     </message>
     <message>
         <source>&amp;Next stroke</source>
-        <translation>Coup de &amp;pagaie suivant</translation>
+        <translation>&amp;Coup de pagaie suivant</translation>
     </message>
     <message>
         <source>&amp;Start</source>
-        <translation>Dé&amp;but</translation>
+        <translation>&amp;Début</translation>
     </message>
     <message>
         <source>&amp;End</source>
@@ -6160,7 +6160,7 @@
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>Affic&amp;hage</translation>
+        <translation>Affi&amp;chage</translation>
     </message>
     <message>
         <source>&amp;Zoom to the selected stretch</source>
@@ -6168,7 +6168,7 @@
     </message>
     <message>
         <source>&amp;Fit</source>
-        <translation>Aj&amp;uster</translation>
+        <translation>&amp;Ajuster</translation>
     </message>
     <message>
         <source>%1; “%2” is none.</source>
@@ -6256,7 +6256,7 @@
     </message>
     <message>
         <source>Films &amp;from…</source>
-        <translation>Fil&amp;ms depuis…</translation>
+        <translation>&amp;Films depuis…</translation>
     </message>
     <message>
         <source>Reckon with the camera&apos;s &amp;clock</source>
@@ -6264,7 +6264,7 @@
     </message>
     <message>
         <source>&amp;Remove the boat from the list</source>
-        <translation>R&amp;etirer le bateau de la liste</translation>
+        <translation>&amp;Retirer le bateau de la liste</translation>
     </message>
     <message>
         <source>To the next film that is not &amp;timed yet</source>
@@ -6276,27 +6276,27 @@
     </message>
     <message>
         <source>&amp;Previous start</source>
-        <translation>&amp;Départ précédent</translation>
+        <translation>Départ &amp;précédent</translation>
     </message>
     <message>
         <source>&amp;Next start</source>
-        <translation>Départ &amp;suivant</translation>
+        <translation>&amp;Départ suivant</translation>
     </message>
     <message>
         <source>&amp;Agree: the film is named after its boat</source>
-        <translation>&amp;Valider : le film prend le nom de son bateau</translation>
+        <translation>Valider : le film prend le &amp;nom de son bateau</translation>
     </message>
     <message>
         <source>Agree to all that are &amp;sure</source>
-        <translation>Valider tous &amp;ceux qui sont sûrs</translation>
+        <translation>&amp;Valider tous ceux qui sont sûrs</translation>
     </message>
     <message>
         <source>Films from here on: one start &amp;earlier</source>
-        <translation>&amp;Films à partir d’ici : un départ plus tôt</translation>
+        <translation>F&amp;ilms à partir d’ici : un départ plus tôt</translation>
     </message>
     <message>
         <source>Films from here on: one start late&amp;r</source>
-        <translation>Films à &amp;partir d’ici : un départ plus tard</translation>
+        <translation>Films à partir d’ici : &amp;un départ plus tard</translation>
     </message>
     <message>
         <source>Did not start, or did after all</source>
@@ -6340,7 +6340,7 @@
     </message>
     <message>
         <source>Add a &amp;category</source>
-        <translation>Ajouter &amp;une catégorie</translation>
+        <translation>&amp;Ajouter une catégorie</translation>
     </message>
     <message>
         <source>&amp;Team</source>
@@ -6348,7 +6348,7 @@
     </message>
     <message>
         <source>&amp;New athlete…</source>
-        <translation>Nouvel at&amp;hlète…</translation>
+        <translation>&amp;Nouvel athlète…</translation>
     </message>
     <message>
         <source>Remo&amp;ve the athlete</source>
@@ -6360,11 +6360,11 @@
     </message>
     <message>
         <source>New &amp;season</source>
-        <translation>Nouv&amp;elle saison</translation>
+        <translation>Nouvelle &amp;saison</translation>
     </message>
     <message>
         <source>New &amp;race</source>
-        <translation>&amp;Nouvelle course</translation>
+        <translation>Nouvelle &amp;course</translation>
     </message>
     <message>
         <source>Move season or race &amp;up</source>
@@ -6372,7 +6372,7 @@
     </message>
     <message>
         <source>Move season or race &amp;down</source>
-        <translation>&amp;Descendre la saison ou la course</translation>
+        <translation>D&amp;escendre la saison ou la course</translation>
     </message>
     <message>
         <source>Where the athlete &amp;loses time…</source>
@@ -6380,7 +6380,7 @@
     </message>
     <message>
         <source>S&amp;eason of the athlete</source>
-        <translation>&amp;Saison de l’athlète</translation>
+        <translation>Saison &amp;de l’athlète</translation>
     </message>
     <message>
         <source>Compute all a&amp;verages again</source>
@@ -6388,27 +6388,27 @@
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation>&amp;Chercher un athlète</translation>
+        <translation>Chercher &amp;un athlète</translation>
     </message>
     <message>
         <source>Take &amp;results over…</source>
-        <translation>Re&amp;prendre des résultats…</translation>
+        <translation>Reprendre &amp;des résultats…</translation>
     </message>
     <message>
         <source>Cate&amp;gorization report…</source>
-        <translation>R&amp;apport de catégorisation…</translation>
+        <translation>Rapport de &amp;catégorisation…</translation>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
-        <translation>Enregistrer le &amp;graphique…</translation>
+        <translation>Enregistrer &amp;le graphique…</translation>
     </message>
     <message>
         <source>&amp;Edit the cell</source>
-        <translation>Modi&amp;fier la cellule</translation>
+        <translation>&amp;Modifier la cellule</translation>
     </message>
     <message>
         <source>&amp;Remove what is chosen</source>
-        <translation>Retirer ce &amp;qui est choisi</translation>
+        <translation>&amp;Retirer ce qui est choisi</translation>
     </message>
     <message>
         <source>Athletes</source>
@@ -6632,19 +6632,19 @@
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation>&amp;Test</translation>
+        <translation>T&amp;est</translation>
     </message>
     <message>
         <source>New &amp;lap test</source>
-        <translation>No&amp;uveau test par tours</translation>
+        <translation>N&amp;ouveau test par tours</translation>
     </message>
     <message>
         <source>New &amp;sprint</source>
-        <translation>Nou&amp;veau sprint</translation>
+        <translation>&amp;Nouveau sprint</translation>
     </message>
     <message>
         <source>New &amp;eight test</source>
-        <translation>&amp;Nouveau test en huit</translation>
+        <translation>Nouveau test &amp;en huit</translation>
     </message>
     <message>
         <source>&amp;Duplicate the test</source>
@@ -6652,35 +6652,35 @@
     </message>
     <message>
         <source>&amp;Previous test</source>
-        <translation>T&amp;est précédent</translation>
+        <translation>Test &amp;précédent</translation>
     </message>
     <message>
         <source>Ne&amp;xt test</source>
-        <translation>Test su&amp;ivant</translation>
+        <translation>&amp;Test suivant</translation>
     </message>
     <message>
         <source>&amp;Compare with the athlete&apos;s other tests</source>
-        <translation>Comparer aux autres tests &amp;de l’athlète</translation>
+        <translation>Comparer &amp;aux autres tests de l’athlète</translation>
     </message>
     <message>
         <source>&amp;Tick every listed test</source>
-        <translation>C&amp;ocher tous les tests listés</translation>
+        <translation>&amp;Cocher tous les tests listés</translation>
     </message>
     <message>
         <source>&amp;Untick all</source>
-        <translation>Tout dé&amp;cocher</translation>
+        <translation>Tout &amp;décocher</translation>
     </message>
     <message>
         <source>&amp;Values</source>
-        <translation>Valeu&amp;rs</translation>
+        <translation>&amp;Valeurs</translation>
     </message>
     <message>
         <source>&amp;Table</source>
-        <translation>T&amp;ableau</translation>
+        <translation>&amp;Tableau</translation>
     </message>
     <message>
         <source>Charts by &amp;lap or stretch</source>
-        <translation>&amp;Graphiques par tour ou tronçon</translation>
+        <translation>Graphiques par tour &amp;ou tronçon</translation>
     </message>
     <message>
         <source>Charts by t&amp;urn</source>
@@ -6688,23 +6688,23 @@
     </message>
     <message>
         <source>Charts by &amp;stroke</source>
-        <translation>Grap&amp;hiques par coup de pagaie</translation>
+        <translation>Graphiques par coup &amp;de pagaie</translation>
     </message>
     <message>
         <source>&amp;List of tests</source>
-        <translation>Liste des &amp;tests</translation>
+        <translation>&amp;Liste des tests</translation>
     </message>
     <message>
         <source>Choose an &amp;athlete</source>
-        <translation>Choisir &amp;un athlète</translation>
+        <translation>&amp;Choisir un athlète</translation>
     </message>
     <message>
         <source>Take in from a split &amp;file…</source>
-        <translation>Reprendre d’un &amp;fichier d’intermédiaires…</translation>
+        <translation>Reprendre d’&amp;un fichier d’intermédiaires…</translation>
     </message>
     <message>
         <source>Take in from a &amp;recording…</source>
-        <translation>Repre&amp;ndre d’un enregistrement…</translation>
+        <translation>Reprendre &amp;d’un enregistrement…</translation>
     </message>
     <message>
         <source>&amp;Export the table…</source>
@@ -6712,7 +6712,7 @@
     </message>
     <message>
         <source>&amp;Copy the table</source>
-        <translation>Copi&amp;er le tableau</translation>
+        <translation>&amp;Copier le tableau</translation>
     </message>
     <message>
         <source>Course</source>
@@ -6841,7 +6841,7 @@
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Athlète</translation>
+        <translation>A&amp;thlète</translation>
     </message>
     <message>
         <source>&amp;From</source>
@@ -6849,11 +6849,11 @@
     </message>
     <message>
         <source>&amp;Preview and print…</source>
-        <translation>Aperçu &amp;et impression…</translation>
+        <translation>&amp;Aperçu et impression…</translation>
     </message>
     <message>
         <source>&amp;Save as PDF…</source>
-        <translation>Enregistrer en &amp;PDF…</translation>
+        <translation>&amp;Enregistrer en PDF…</translation>
     </message>
     <message>
         <source>One A4 page: where time is lost on the %1, what to train, penalties.</source>
@@ -7167,7 +7167,7 @@
     </message>
     <message>
         <source>Add heart rate</source>
-        <translation>Ajouter une fréquence cardiaque</translation>
+        <translation>Ajouter une fréquence</translation>
     </message>
     <message>
         <source>Heart-rate variability</source>
@@ -7264,11 +7264,11 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>Lag</source>
-        <translation>Décalage</translation>
+        <translation>Décal.</translation>
     </message>
     <message>
         <source>Off by</source>
-        <translation>Erreur</translation>
+        <translation>Dévie de</translation>
     </message>
     <message>
         <source>Attach a film…</source>
@@ -7802,7 +7802,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>Add s&amp;plit files…</source>
-        <translation>&amp;Ajouter des fichiers d’intermédiaires…</translation>
+        <translation>Ajouter des f&amp;ichiers d’intermédiaires…</translation>
     </message>
     <message>
         <source>Add &amp;films…</source>
@@ -7818,15 +7818,15 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>&amp;Take it out</source>
-        <translation>&amp;Le retirer</translation>
+        <translation>Le &amp;retirer</translation>
     </message>
     <message>
         <source>Move it &amp;up</source>
-        <translation>Le &amp;monter</translation>
+        <translation>&amp;Le monter</translation>
     </message>
     <message>
         <source>Move it &amp;down</source>
-        <translation>L&amp;e descendre</translation>
+        <translation>Le &amp;descendre</translation>
     </message>
     <message>
         <source>Four films are the most. Take one out first.</source>
@@ -8003,7 +8003,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>Add s&amp;plit files…</source>
-        <translation>&amp;Ajouter des fichiers d’intermédiaires…</translation>
+        <translation>Ajouter des f&amp;ichiers d’intermédiaires…</translation>
     </message>
     <message>
         <source>Add &amp;films…</source>
@@ -8011,51 +8011,51 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>&amp;Compose the film…</source>
-        <translation>Composer &amp;le film…</translation>
+        <translation>&amp;Composer le film…</translation>
     </message>
     <message>
         <source>Films being composed: &amp;jobs</source>
-        <translation>&amp;Films en composition : tâches</translation>
+        <translation>Films en composition : &amp;tâches</translation>
     </message>
     <message>
         <source>&amp;Find a run or a film</source>
-        <translation>Chercher &amp;une manche ou un film</translation>
+        <translation>Chercher une &amp;manche ou un film</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation>L&amp;ecture</translation>
+        <translation>&amp;Lecture</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation>Lire &amp;ou mettre en pause</translation>
+        <translation>&amp;Lire ou mettre en pause</translation>
     </message>
     <message>
         <source>From the &amp;beginning</source>
-        <translation>De&amp;puis le début</translation>
+        <translation>&amp;Depuis le début</translation>
     </message>
     <message>
         <source>One frame ba&amp;ck</source>
-        <translation>Une &amp;image en arrière</translation>
+        <translation>U&amp;ne image en arrière</translation>
     </message>
     <message>
         <source>One frame &amp;on</source>
-        <translation>U&amp;ne image en avant</translation>
+        <translation>Une &amp;image en avant</translation>
     </message>
     <message>
         <source>P&amp;art</source>
-        <translation>Pa&amp;rtie</translation>
+        <translation>&amp;Partie</translation>
     </message>
     <message>
         <source>&amp;Begin here</source>
-        <translation>Co&amp;mmencer ici</translation>
+        <translation>&amp;Commencer ici</translation>
     </message>
     <message>
         <source>&amp;End here</source>
-        <translation>&amp;Finir ici</translation>
+        <translation>Finir &amp;ici</translation>
     </message>
     <message>
         <source>The &amp;whole run</source>
-        <translation>La manc&amp;he entière</translation>
+        <translation>&amp;La manche entière</translation>
     </message>
     <message>
         <source>part that is shown</source>
@@ -8063,11 +8063,11 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>&amp;Align the second film by two points</source>
-        <translation>Ali&amp;gner le deuxième film par deux points</translation>
+        <translation>Aligner le &amp;deuxième film par deux points</translation>
     </message>
     <message>
         <source>&amp;Forget the points</source>
-        <translation>Ou&amp;blier les points</translation>
+        <translation>Oublier les &amp;points</translation>
     </message>
     <message>
         <source>The film could not be composed: %1</source>
@@ -8458,7 +8458,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>&amp;Gate</source>
-        <translation>&amp;Porte</translation>
+        <translation>P&amp;orte</translation>
     </message>
     <message>
         <source>&amp;Split line</source>
@@ -8470,19 +8470,19 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>&amp;Line of a run</source>
-        <translation>&amp;Trajectoire d’une manche</translation>
+        <translation>Trajectoire &amp;d’une manche</translation>
     </message>
     <message>
         <source>&amp;Text</source>
-        <translation>T&amp;exte</translation>
+        <translation>&amp;Texte</translation>
     </message>
     <message>
         <source>&amp;Photo below…</source>
-        <translation>Photo &amp;au-dessous…</translation>
+        <translation>&amp;Photo au-dessous…</translation>
     </message>
     <message>
         <source>Only whit&amp;e below</source>
-        <translation>Seulement &amp;du blanc au-dessous</translation>
+        <translation>&amp;Seulement du blanc au-dessous</translation>
     </message>
     <message>
         <source>text</source>
@@ -8676,15 +8676,15 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     <name>kavela::desktop::CrossActions</name>
     <message>
         <source>&amp;Open a split file…</source>
-        <translation>&amp;Ouvrir un fichier d’intermédiaires…</translation>
+        <translation>Ouvr&amp;ir un fichier d’intermédiaires…</translation>
     </message>
     <message>
         <source>&amp;Save data</source>
-        <translation>&amp;Enregistrer les données</translation>
+        <translation>Enregistrer &amp;les données</translation>
     </message>
     <message>
         <source>Open a &amp;folder of films…</source>
-        <translation>Ouvrir &amp;un dossier de films…</translation>
+        <translation>Ouvrir un &amp;dossier de films…</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
@@ -8692,15 +8692,15 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&amp;Import films of time trials…</source>
-        <translation>&amp;Importer les films des contre-la-montre…</translation>
+        <translation>Importer les films des &amp;contre-la-montre…</translation>
     </message>
     <message>
         <source>Film of the selected trial or &amp;heat…</source>
-        <translation>&amp;Film du contre-la-montre ou de la série choisis…</translation>
+        <translation>Film du con&amp;tre-la-montre ou de la série choisis…</translation>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
-        <translation>Où &amp;sont les films maintenant ?…</translation>
+        <translation>Où so&amp;nt les films maintenant ?…</translation>
     </message>
     <message>
         <source>Split &amp;taking of this race</source>
@@ -8720,27 +8720,27 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&amp;Course of the cross race</source>
-        <translation>Parcours &amp;du cross</translation>
+        <translation>&amp;Parcours du cross</translation>
     </message>
     <message>
         <source>&amp;Previous trial or heat</source>
-        <translation>&amp;Contre-la-montre ou série précédents</translation>
+        <translation>Contre-la-montre &amp;ou série précédents</translation>
     </message>
     <message>
         <source>&amp;Next trial or heat</source>
-        <translation>Contre-&amp;la-montre ou série suivants</translation>
+        <translation>Contre-la-&amp;montre ou série suivants</translation>
     </message>
     <message>
         <source>Copy the &amp;results</source>
-        <translation>Copier les &amp;résultats</translation>
+        <translation>Copier &amp;les résultats</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation>M&amp;arquer</translation>
+        <translation>&amp;Marquer</translation>
     </message>
     <message>
         <source>&amp;Mark the frame shown</source>
-        <translation>Mar&amp;quer l’image affichée</translation>
+        <translation>&amp;Marquer l’image affichée</translation>
     </message>
     <message>
         <source>To the first mark</source>
@@ -8748,7 +8748,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Next &amp;gate</source>
-        <translation>Por&amp;te suivante</translation>
+        <translation>&amp;Porte suivante</translation>
     </message>
     <message>
         <source>Previous g&amp;ate</source>
@@ -8756,15 +8756,15 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Split, gate or boat &amp;%1</source>
-        <translation>Intermédiaire, porte ou &amp;bateau %1</translation>
+        <translation>&amp;Intermédiaire, porte ou bateau %1</translation>
     </message>
     <message>
         <source>&amp;Time trials</source>
-        <translation>Co&amp;ntre-la-montre</translation>
+        <translation>C&amp;ontre-la-montre</translation>
     </message>
     <message>
         <source>&amp;Add an athlete</source>
-        <translation>Ajouter &amp;un athlète</translation>
+        <translation>&amp;Ajouter un athlète</translation>
     </message>
     <message>
         <source>M marks the &amp;splits</source>
@@ -8772,19 +8772,19 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>M marks the &amp;upstream gates</source>
-        <translation>M marqu&amp;e les remontées</translation>
+        <translation>&amp;M marque les remontées</translation>
     </message>
     <message>
         <source>M marks the &amp;roll</source>
-        <translation>M marque l’e&amp;squimautage</translation>
+        <translation>M marqu&amp;e l’esquimautage</translation>
     </message>
     <message>
         <source>Re&amp;name the athlete</source>
-        <translation>Reno&amp;mmer l’athlète</translation>
+        <translation>&amp;Renommer l’athlète</translation>
     </message>
     <message>
         <source>R&amp;emove the trial</source>
-        <translation>&amp;Retirer le contre-la-montre</translation>
+        <translation>Retirer &amp;le contre-la-montre</translation>
     </message>
     <message>
         <source>Make &amp;heats from the trials</source>
@@ -8796,15 +8796,15 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&amp;Add a heat…</source>
-        <translation>A&amp;jouter une série…</translation>
+        <translation>&amp;Ajouter une série…</translation>
     </message>
     <message>
         <source>A&amp;ttack, beginning here</source>
-        <translation>&amp;Attaque qui commence ici</translation>
+        <translation>Attaque &amp;qui commence ici</translation>
     </message>
     <message>
         <source>&amp;End of the attack</source>
-        <translation>Fin &amp;de l’attaque</translation>
+        <translation>&amp;Fin de l’attaque</translation>
     </message>
     <message>
         <source>Compare &amp;films of the heat…</source>
@@ -8812,19 +8812,19 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&amp;Names of the boats…</source>
-        <translation>N&amp;oms des bateaux…</translation>
+        <translation>&amp;Noms des bateaux…</translation>
     </message>
     <message>
         <source>&amp;Remove the heat</source>
-        <translation>Retirer &amp;la série</translation>
+        <translation>&amp;Retirer la série</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>Affic&amp;hage</translation>
+        <translation>Affi&amp;chage</translation>
     </message>
     <message>
         <source>&amp;Results</source>
-        <translation>Rés&amp;ultats</translation>
+        <translation>&amp;Résultats</translation>
     </message>
     <message>
         <source>Time trial</source>
@@ -9019,7 +9019,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&amp;Acceleration</source>
-        <translation>&amp;Accélération</translation>
+        <translation>A&amp;ccélération</translation>
     </message>
     <message>
         <source>g</source>
@@ -9043,7 +9043,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>An&amp;gles</source>
-        <translation>A&amp;ngles</translation>
+        <translation>&amp;Angles</translation>
     </message>
     <message>
         <source>Radians</source>
@@ -9055,7 +9055,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&amp;Speed</source>
-        <translation>Vite&amp;sse</translation>
+        <translation>&amp;Vitesse</translation>
     </message>
     <message>
         <source>m/s</source>
@@ -9613,11 +9613,11 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Open an&amp;other…</source>
-        <translation>&amp;Ouvrir un autre…</translation>
+        <translation>Ouvrir &amp;un autre…</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation>O&amp;uvrir</translation>
+        <translation>&amp;Ouvrir</translation>
     </message>
     <message>
         <source>None was opened yet.</source>
@@ -10017,7 +10017,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     <name>kavela::desktop::FactsForm</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Athlète</translation>
+        <translation>A&amp;thlète</translation>
     </message>
     <message>
         <source>Name of the athlete</source>
@@ -10088,23 +10088,23 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     <name>kavela::desktop::FetchActions</name>
     <message>
         <source>&amp;Open a source…</source>
-        <translation>&amp;Ouvrir une source…</translation>
+        <translation>Ou&amp;vrir une source…</translation>
     </message>
     <message>
         <source>&amp;Save the source…</source>
-        <translation>&amp;Enregistrer la source…</translation>
+        <translation>Enregistrer &amp;la source…</translation>
     </message>
     <message>
         <source>Choose the &amp;list of bibs…</source>
-        <translation>&amp;Choisir la liste des dossards…</translation>
+        <translation>Choisir la liste &amp;des dossards…</translation>
     </message>
     <message>
         <source>Choose the &amp;folder for the films…</source>
-        <translation>Choisir &amp;le dossier des films…</translation>
+        <translation>&amp;Choisir le dossier des films…</translation>
     </message>
     <message>
         <source>&amp;Time the films of the folder</source>
-        <translation>Chronométrer les &amp;films du dossier</translation>
+        <translation>C&amp;hronométrer les films du dossier</translation>
     </message>
     <message>
         <source>Fet&amp;ch</source>
@@ -10116,7 +10116,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&amp;Fetch the ticked films</source>
-        <translation>Réc&amp;upérer les films cochés</translation>
+        <translation>&amp;Récupérer les films cochés</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -10124,11 +10124,11 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Tick &amp;all</source>
-        <translation>&amp;Tout cocher</translation>
+        <translation>Tout &amp;cocher</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
-        <translation>Tout &amp;décocher</translation>
+        <translation>&amp;Tout décocher</translation>
     </message>
     <message>
         <source>Ser&amp;ver</source>
@@ -10136,15 +10136,15 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&amp;Sign in…</source>
-        <translation>Se co&amp;nnecter…</translation>
+        <translation>&amp;Se connecter…</translation>
     </message>
     <message>
         <source>&amp;Forget the password</source>
-        <translation>Oublier le mot de &amp;passe</translation>
+        <translation>&amp;Oublier le mot de passe</translation>
     </message>
     <message>
         <source>&amp;Other servers</source>
-        <translation>Autres ser&amp;veurs</translation>
+        <translation>&amp;Autres serveurs</translation>
     </message>
 </context>
 <context>
@@ -10163,7 +10163,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&amp;Bibs from</source>
-        <translation>&amp;Dossards de</translation>
+        <translation>D&amp;ossards de</translation>
     </message>
     <message>
         <source>Start list or results (a column is called bib), or a split file</source>
@@ -10175,7 +10175,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>F&amp;older</source>
-        <translation>D&amp;ossier</translation>
+        <translation>&amp;Dossier</translation>
     </message>
     <message>
         <source>Where the films are put; no file there is ever overwritten</source>
@@ -10211,7 +10211,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Other se&amp;rvers that films may come from</source>
-        <translation>Autres &amp;serveurs d’où peuvent venir les films</translation>
+        <translation>&amp;Autres serveurs d’où peuvent venir les films</translation>
     </message>
     <message>
         <source>Show what would be fetched</source>
@@ -10495,27 +10495,27 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     <name>kavela::desktop::FilmsActions</name>
     <message>
         <source>&amp;Open a folder…</source>
-        <translation>&amp;Ouvrir un dossier…</translation>
+        <translation>Ouvrir un &amp;dossier…</translation>
     </message>
     <message>
         <source>Folders opened &amp;before</source>
-        <translation>&amp;Dossiers ouverts auparavant</translation>
+        <translation>Dossiers ou&amp;verts auparavant</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
-        <translation>&amp;Relire</translation>
+        <translation>Rel&amp;ire</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>Édi&amp;tion</translation>
+        <translation>É&amp;dition</translation>
     </message>
     <message>
         <source>&amp;Undo the renaming</source>
-        <translation>&amp;Annuler le changement de noms</translation>
+        <translation>Annuler le changement &amp;de noms</translation>
     </message>
     <message>
         <source>&amp;Rename them again</source>
-        <translation>&amp;Les renommer à nouveau</translation>
+        <translation>Les renommer à &amp;nouveau</translation>
     </message>
     <message>
         <source>&amp;Filter the films</source>
@@ -10523,7 +10523,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Re&amp;name films…</source>
-        <translation>R&amp;enommer les films…</translation>
+        <translation>Renommer &amp;les films…</translation>
     </message>
     <message>
         <source>F&amp;ilms</source>
@@ -10531,19 +10531,19 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&amp;Play from the beginning</source>
-        <translation>Lire de&amp;puis le début</translation>
+        <translation>Lire &amp;depuis le début</translation>
     </message>
     <message>
         <source>&amp;Next film</source>
-        <translation>Film &amp;suivant</translation>
+        <translation>&amp;Film suivant</translation>
     </message>
     <message>
         <source>Pre&amp;vious film</source>
-        <translation>Film pré&amp;cédent</translation>
+        <translation>Film &amp;précédent</translation>
     </message>
     <message>
         <source>&amp;List</source>
-        <translation>L&amp;iste</translation>
+        <translation>&amp;Liste</translation>
     </message>
     <message>
         <source>&amp;Tiles</source>
@@ -10551,15 +10551,15 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>T&amp;ags</source>
-        <translation>Éti&amp;quettes</translation>
+        <translation>É&amp;tiquettes</translation>
     </message>
     <message>
         <source>Mark as &amp;watched</source>
-        <translation>Si&amp;gnaler comme vu</translation>
+        <translation>&amp;Signaler comme vu</translation>
     </message>
     <message>
         <source>Mark as n&amp;ot watched</source>
-        <translation>Signaler comme &amp;non vu</translation>
+        <translation>Signaler &amp;comme non vu</translation>
     </message>
     <message>
         <source>A &amp;click plays</source>
@@ -10567,11 +10567,11 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>The next one &amp;follows</source>
-        <translation>Le suivan&amp;t s’enchaîne</translation>
+        <translation>L&amp;e suivant s’enchaîne</translation>
     </message>
     <message>
         <source>Begin at the first &amp;mark</source>
-        <translation>C&amp;ommencer à la première marque</translation>
+        <translation>Commencer à la première &amp;marque</translation>
     </message>
     <message>
         <source>&amp;Tags</source>
@@ -10579,7 +10579,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&amp;Tag this frame</source>
-        <translation>Étiquete&amp;r cette image</translation>
+        <translation>Étiqueter &amp;cette image</translation>
     </message>
     <message>
         <source>Tag with a &amp;saved name</source>
@@ -10595,19 +10595,19 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Tag one frame &amp;earlier</source>
-        <translation>Étiquette une image &amp;plus tôt</translation>
+        <translation>Étiquette &amp;une image plus tôt</translation>
     </message>
     <message>
         <source>Tag one frame &amp;later</source>
-        <translation>Étiqu&amp;ette une image plus tard</translation>
+        <translation>Étiquette une &amp;image plus tard</translation>
     </message>
     <message>
         <source>&amp;Remove the selected tag</source>
-        <translation>Retirer &amp;l’étiquette choisie</translation>
+        <translation>&amp;Retirer l’étiquette choisie</translation>
     </message>
     <message>
         <source>&amp;Previous tag</source>
-        <translation>Étiquette pré&amp;cédente</translation>
+        <translation>Étiquette &amp;précédente</translation>
     </message>
     <message>
         <source>&amp;Next tag</source>
@@ -10615,7 +10615,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Play &amp;just the part around a tag</source>
-        <translation>Lire seule&amp;ment autour d’une étiquette</translation>
+        <translation>&amp;Lire seulement autour d’une étiquette</translation>
     </message>
     <message>
         <source>&amp;Cut</source>
@@ -10627,19 +10627,19 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>The cut &amp;ends here</source>
-        <translation>La coupe &amp;finit ici</translation>
+        <translation>&amp;La coupe finit ici</translation>
     </message>
     <message>
         <source>&amp;Give the ends up</source>
-        <translation>Abandonner les &amp;bornes</translation>
+        <translation>&amp;Abandonner les bornes</translation>
     </message>
     <message>
         <source>Cut by &amp;copying…</source>
-        <translation>C&amp;ouper par copie…</translation>
+        <translation>&amp;Couper par copie…</translation>
     </message>
     <message>
         <source>Cut e&amp;xactly…</source>
-        <translation>Co&amp;uper exactement…</translation>
+        <translation>Couper &amp;exactement…</translation>
     </message>
     <message>
         <source>Films</source>
@@ -10697,23 +10697,23 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
-        <translation>&amp;Relire</translation>
+        <translation>Rel&amp;ire</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation>&amp;Arrêter la lecture</translation>
+        <translation>Arrêter &amp;la lecture</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation>&amp;Fichiers qui n’ont pas pu être lus…</translation>
+        <translation>Fichiers qui &amp;n’ont pas pu être lus…</translation>
     </message>
     <message>
         <source>Save the result as &amp;CSV…</source>
-        <translation>&amp;Enregistrer le résultat en CSV…</translation>
+        <translation>Enre&amp;gistrer le résultat en CSV…</translation>
     </message>
     <message>
         <source>&amp;Query</source>
-        <translation>Re&amp;quête</translation>
+        <translation>&amp;Requête</translation>
     </message>
     <message>
         <source>&amp;Type a query</source>
@@ -10721,11 +10721,11 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&amp;Fields</source>
-        <translation>C&amp;hamps</translation>
+        <translation>&amp;Champs</translation>
     </message>
     <message>
         <source>&amp;Queries</source>
-        <translation>Req&amp;uêtes</translation>
+        <translation>&amp;Requêtes</translation>
     </message>
     <message>
         <source>&amp;Keep this query</source>
@@ -10733,7 +10733,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&amp;Give up the kept query</source>
-        <translation>Abandonner &amp;la requête conservée</translation>
+        <translation>&amp;Abandonner la requête conservée</translation>
     </message>
     <message>
         <source>Resul&amp;t</source>
@@ -10745,15 +10745,15 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Open its &amp;race</source>
-        <translation>Ou&amp;vrir sa course</translation>
+        <translation>&amp;Ouvrir sa course</translation>
     </message>
     <message>
         <source>Its &amp;time losses</source>
-        <translation>Ses &amp;pertes de temps</translation>
+        <translation>&amp;Ses pertes de temps</translation>
     </message>
     <message>
         <source>The rows of the &amp;group</source>
-        <translation>Les lignes &amp;du groupe</translation>
+        <translation>&amp;Les lignes du groupe</translation>
     </message>
 </context>
 <context>
@@ -11905,7 +11905,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Athlète</translation>
+        <translation>A&amp;thlète</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -11913,7 +11913,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Kind</source>
-        <translation>&amp;Type</translation>
+        <translation>T&amp;ype</translation>
     </message>
     <message>
         <source>&amp;Weight</source>
@@ -11925,7 +11925,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Paddle length</source>
-        <translation>Longueur &amp;de la pagaie</translation>
+        <translation>L&amp;ongueur de la pagaie</translation>
     </message>
     <message>
         <source>cm</source>
@@ -11945,7 +11945,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Hand po&amp;sition</source>
-        <translation>Position des &amp;mains</translation>
+        <translation>Position &amp;des mains</translation>
     </message>
 </context>
 <context>
@@ -11991,15 +11991,15 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Rest between repetitions</source>
-        <translation>Réc&amp;upération entre répétitions</translation>
+        <translation>Récupér&amp;ation entre répétitions</translation>
     </message>
     <message>
         <source>Rest &amp;between sets</source>
-        <translation>Récupér&amp;ation entre séries</translation>
+        <translation>Réc&amp;upération entre séries</translation>
     </message>
     <message>
         <source>&amp;Kind of rest</source>
-        <translation>Type &amp;de récupération</translation>
+        <translation>T&amp;ype de récupération</translation>
     </message>
     <message>
         <source>&amp;Volume</source>
@@ -12011,7 +12011,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Description</source>
-        <translation>Descripti&amp;on</translation>
+        <translation>&amp;Description</translation>
     </message>
 </context>
 <context>
@@ -12606,31 +12606,31 @@ Les pénalités sont laissées de côté.</translation>
     <name>kavela::desktop::LossesActions</name>
     <message>
         <source>&amp;Open races…</source>
-        <translation>&amp;Ouvrir des courses…</translation>
+        <translation>Ouvrir &amp;des courses…</translation>
     </message>
     <message>
         <source>Open a &amp;folder of races…</source>
-        <translation>Ouvrir &amp;un dossier de courses…</translation>
+        <translation>Ouvrir un dossier de &amp;courses…</translation>
     </message>
     <message>
         <source>&amp;Read all again</source>
-        <translation>&amp;Tout relire</translation>
+        <translation>Tout rel&amp;ire</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation>&amp;Arrêter la lecture</translation>
+        <translation>Arrêter &amp;la lecture</translation>
     </message>
     <message>
         <source>&amp;Page of an athlete: PDF, preview, print…</source>
-        <translation>&amp;Page d’un athlète : PDF, aperçu, impression…</translation>
+        <translation>Page d’u&amp;n athlète : PDF, aperçu, impression…</translation>
     </message>
     <message>
         <source>Save the table as &amp;CSV…</source>
-        <translation>&amp;Enregistrer le tableau en CSV…</translation>
+        <translation>Enregistrer le &amp;tableau en CSV…</translation>
     </message>
     <message>
         <source>&amp;Save the chart…</source>
-        <translation>Enregistrer &amp;le graphique…</translation>
+        <translation>Enregistrer le &amp;graphique…</translation>
     </message>
     <message>
         <source>&amp;Run</source>
@@ -12642,39 +12642,39 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>The &amp;next in rank</source>
-        <translation>La &amp;suivante au classement</translation>
+        <translation>&amp;La suivante au classement</translation>
     </message>
     <message>
         <source>The &amp;one in front</source>
-        <translation>La p&amp;récédente au classement</translation>
+        <translation>La &amp;précédente au classement</translation>
     </message>
     <message>
         <source>&amp;Season of the athlete, or the run</source>
-        <translation>Saison &amp;de l’athlète, ou la manche</translation>
+        <translation>&amp;Saison de l’athlète, ou la manche</translation>
     </message>
     <message>
         <source>Re&amp;ference</source>
-        <translation>Ré&amp;férence</translation>
+        <translation>&amp;Référence</translation>
     </message>
     <message>
         <source>The &amp;winner</source>
-        <translation>Le &amp;vainqueur</translation>
+        <translation>&amp;Le vainqueur</translation>
     </message>
     <message>
         <source>The &amp;fastest paddling</source>
-        <translation>Le plus rapide en &amp;navigation</translation>
+        <translation>Le &amp;plus rapide en navigation</translation>
     </message>
     <message>
         <source>The &amp;ideal run</source>
-        <translation>La manche &amp;idéale</translation>
+        <translation>La &amp;manche idéale</translation>
     </message>
     <message>
         <source>The &amp;median of the finalists</source>
-        <translation>&amp;La médiane des finalistes</translation>
+        <translation>La médiane &amp;des finalistes</translation>
     </message>
     <message>
         <source>The crew&apos;s &amp;own best other run</source>
-        <translation>La meille&amp;ure autre manche de l’équipage</translation>
+        <translation>La m&amp;eilleure autre manche de l’équipage</translation>
     </message>
     <message>
         <source>The run that is &amp;shown</source>
@@ -12682,23 +12682,23 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>Affic&amp;hage</translation>
+        <translation>Affi&amp;chage</translation>
     </message>
     <message>
         <source>&amp;Sum from total to total</source>
-        <translation>Somme d’un &amp;temps total à l’autre</translation>
+        <translation>Somme d’&amp;un temps total à l’autre</translation>
     </message>
     <message>
         <source>&amp;Heat map</source>
-        <translation>Cart&amp;e thermique</translation>
+        <translation>&amp;Carte thermique</translation>
     </message>
     <message>
         <source>Sections that lost &amp;most</source>
-        <translation>Secteurs des &amp;plus grandes pertes</translation>
+        <translation>Secteurs des plus &amp;grandes pertes</translation>
     </message>
     <message>
         <source>Gap &amp;along the course</source>
-        <translation>É&amp;cart le long du parcours</translation>
+        <translation>Écart &amp;le long du parcours</translation>
     </message>
     <message>
         <source>Table of s&amp;ections</source>
@@ -12710,11 +12710,11 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Table of &amp;gates</source>
-        <translation>Tableau &amp;des portes</translation>
+        <translation>Tableau des &amp;portes</translation>
     </message>
     <message>
         <source>Table of &amp;notes</source>
-        <translation>Ta&amp;bleau des notes</translation>
+        <translation>&amp;Tableau des notes</translation>
     </message>
     <message>
         <source>Table of &amp;ways</source>
@@ -12722,15 +12722,15 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Show the whole &amp;chart</source>
-        <translation>Afficher tout le &amp;graphique</translation>
+        <translation>&amp;Afficher tout le graphique</translation>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
-        <translation>Du bleu à l’orange au lieu du &amp;vert au rouge</translation>
+        <translation>&amp;Du bleu à l’orange au lieu du vert au rouge</translation>
     </message>
     <message>
         <source>Fil&amp;ms</source>
-        <translation>&amp;Films</translation>
+        <translation>Film&amp;s</translation>
     </message>
     <message>
         <source>&amp;Play the section of both runs</source>
@@ -12738,11 +12738,11 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Film this loss…</source>
-        <translation>Filme&amp;r cette perte…</translation>
+        <translation>&amp;Filmer cette perte…</translation>
     </message>
     <message>
         <source>&amp;Hide the films</source>
-        <translation>M&amp;asquer les films</translation>
+        <translation>&amp;Masquer les films</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -12750,7 +12750,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
-        <translation>Page pour &amp;un athlète…</translation>
+        <translation>&amp;Page pour un athlète…</translation>
     </message>
 </context>
 <context>
@@ -12993,15 +12993,15 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Open recordings…</source>
-        <translation>&amp;Ouvrir des enregistrements…</translation>
+        <translation>Ouvrir &amp;des enregistrements…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation>&amp;Enregistrer le graphique…</translation>
+        <translation>Enregistrer le &amp;graphique…</translation>
     </message>
     <message>
         <source>&amp;Recording</source>
-        <translation>E&amp;nregistrement</translation>
+        <translation>&amp;Enregistrement</translation>
     </message>
     <message>
         <source>&amp;Convert</source>
@@ -13013,7 +13013,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Open the converted session</source>
-        <translation>Ouvrir &amp;la séance convertie</translation>
+        <translation>&amp;Ouvrir la séance convertie</translation>
     </message>
     <message>
         <source>&amp;Previous recording</source>
@@ -13021,7 +13021,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Next recording</source>
-        <translation>Enregistrement &amp;suivant</translation>
+        <translation>&amp;Enregistrement suivant</translation>
     </message>
     <message>
         <source>&amp;Show or hide</source>
@@ -13029,7 +13029,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Show this one a&amp;lone</source>
-        <translation>A&amp;fficher celui-ci seul</translation>
+        <translation>Afficher celui-ci &amp;seul</translation>
     </message>
     <message>
         <source>&amp;Remove from the list</source>
@@ -13037,7 +13037,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Time</source>
-        <translation>Te&amp;mps</translation>
+        <translation>&amp;Temps</translation>
     </message>
     <message>
         <source>&amp;Undo the move</source>
@@ -13045,15 +13045,15 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Redo the move</source>
-        <translation>Réta&amp;blir le déplacement</translation>
+        <translation>&amp;Rétablir le déplacement</translation>
     </message>
     <message>
         <source>Align the &amp;starts</source>
-        <translation>Ali&amp;gner les départs</translation>
+        <translation>&amp;Aligner les départs</translation>
     </message>
     <message>
         <source>Align by the &amp;clock</source>
-        <translation>Aligner par l’&amp;horloge</translation>
+        <translation>Aligner par &amp;l’horloge</translation>
     </message>
     <message>
         <source>&amp;Align here: the cursor to the clicked moment</source>
@@ -13065,23 +13065,23 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Earlier</source>
-        <translation>Pl&amp;us tôt</translation>
+        <translation>Plus &amp;tôt</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation>Plus &amp;tard</translation>
+        <translation>&amp;Plus tard</translation>
     </message>
     <message>
         <source>&amp;Previous stroke</source>
-        <translation>&amp;Coup de pagaie précédent</translation>
+        <translation>Co&amp;up de pagaie précédent</translation>
     </message>
     <message>
         <source>&amp;Next stroke</source>
-        <translation>Coup de &amp;pagaie suivant</translation>
+        <translation>&amp;Coup de pagaie suivant</translation>
     </message>
     <message>
         <source>&amp;Charts</source>
-        <translation>Graphi&amp;ques</translation>
+        <translation>&amp;Graphiques</translation>
     </message>
     <message>
         <source>Axes of the &amp;phone</source>
@@ -13093,7 +13093,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Mark strokes and turns</source>
-        <translation>Marquer coups de pagaie &amp;et virages</translation>
+        <translation>&amp;Marquer coups de pagaie et virages</translation>
     </message>
     <message>
         <source>Zoom &amp;in</source>
@@ -13101,11 +13101,11 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Zoom &amp;out</source>
-        <translation>Zoo&amp;m arrière</translation>
+        <translation>Zoom &amp;arrière</translation>
     </message>
     <message>
         <source>Show &amp;everything</source>
-        <translation>Tout a&amp;fficher</translation>
+        <translation>&amp;Tout afficher</translation>
     </message>
 </context>
 <context>
@@ -13703,31 +13703,31 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Open split files…</source>
-        <translation>&amp;Ouvrir des fichiers d’intermédiaires…</translation>
+        <translation>Ou&amp;vrir des fichiers d’intermédiaires…</translation>
     </message>
     <message>
         <source>Open a &amp;folder…</source>
-        <translation>Ouvrir &amp;un dossier…</translation>
+        <translation>Ouvrir un &amp;dossier…</translation>
     </message>
     <message>
         <source>Read &amp;again</source>
-        <translation>&amp;Relire</translation>
+        <translation>Rel&amp;ire</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation>&amp;Arrêter la lecture</translation>
+        <translation>Arrêter &amp;la lecture</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation>&amp;Fichiers qui n’ont pas pu être lus…</translation>
+        <translation>Fichiers qui &amp;n’ont pas pu être lus…</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
-        <translation>&amp;Enregistrer le tableau en CSV…</translation>
+        <translation>Enregistrer le &amp;tableau en CSV…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation>Enregistrer &amp;le graphique…</translation>
+        <translation>Enregistrer le &amp;graphique…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
@@ -13739,7 +13739,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Rates</source>
-        <translation>&amp;Taux</translation>
+        <translation>T&amp;aux</translation>
     </message>
     <message>
         <source>&amp;Details</source>
@@ -13747,11 +13747,11 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Cost in &amp;places</source>
-        <translation>Coût e&amp;n places</translation>
+        <translation>&amp;Coût en places</translation>
     </message>
     <message>
         <source>Risk and &amp;speed</source>
-        <translation>Risque et &amp;vitesse</translation>
+        <translation>&amp;Risque et vitesse</translation>
     </message>
     <message>
         <source>&amp;Next course</source>
@@ -13759,15 +13759,15 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Pre&amp;vious course</source>
-        <translation>&amp;Parcours précédent</translation>
+        <translation>Parc&amp;ours précédent</translation>
     </message>
     <message>
         <source>&amp;All runs</source>
-        <translation>Toutes les &amp;manches</translation>
+        <translation>Toutes &amp;les manches</translation>
     </message>
     <message>
         <source>The &amp;whole chart</source>
-        <translation>Tout le &amp;graphique</translation>
+        <translation>&amp;Tout le graphique</translation>
     </message>
 </context>
 <context>
@@ -14036,7 +14036,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Athlète</translation>
+        <translation>A&amp;thlète</translation>
     </message>
     <message>
         <source>Choose one of the athletes of the list.</source>
@@ -14366,7 +14366,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     <name>kavela::desktop::PlanningWindow</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Athlète</translation>
+        <translation>A&amp;thlète</translation>
     </message>
     <message>
         <source>&amp;New athlete…</source>
@@ -14390,67 +14390,67 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>&amp;Session</source>
-        <translation>Séan&amp;ce</translation>
+        <translation>&amp;Séance</translation>
     </message>
     <message>
         <source>Sessions are in the plan: show &amp;it</source>
-        <translation>Les séances sont &amp;dans le plan : l’afficher</translation>
+        <translation>Les séances sont dans le &amp;plan : l’afficher</translation>
     </message>
     <message>
         <source>&amp;New session…</source>
-        <translation>N&amp;ouvelle séance…</translation>
+        <translation>&amp;Nouvelle séance…</translation>
     </message>
     <message>
         <source>&amp;Edit the session…</source>
-        <translation>Modi&amp;fier la séance…</translation>
+        <translation>&amp;Modifier la séance…</translation>
     </message>
     <message>
         <source>&amp;Remove the session</source>
-        <translation>R&amp;etirer la séance</translation>
+        <translation>&amp;Retirer la séance</translation>
     </message>
     <message>
         <source>&amp;Copy the session</source>
-        <translation>Co&amp;pier la séance</translation>
+        <translation>&amp;Copier la séance</translation>
     </message>
     <message>
         <source>&amp;Paste the session</source>
-        <translation>&amp;Coller la séance</translation>
+        <translation>Coller &amp;la séance</translation>
     </message>
     <message>
         <source>Move to the week &amp;before</source>
-        <translation>Déplacer à la semaine précéden&amp;te</translation>
+        <translation>Déplacer à la &amp;semaine précédente</translation>
     </message>
     <message>
         <source>Move to the week be&amp;hind</source>
-        <translation>Déplacer à la semaine s&amp;uivante</translation>
+        <translation>&amp;Déplacer à la semaine suivante</translation>
     </message>
     <message>
         <source>&amp;Week</source>
-        <translation>Sem&amp;aine</translation>
+        <translation>S&amp;emaine</translation>
     </message>
     <message>
         <source>&amp;Previous week</source>
-        <translation>Semai&amp;ne précédente</translation>
+        <translation>Semaine &amp;précédente</translation>
     </message>
     <message>
         <source>&amp;Next week</source>
-        <translation>Se&amp;maine suivante</translation>
+        <translation>&amp;Semaine suivante</translation>
     </message>
     <message>
         <source>&amp;This week</source>
-        <translation>Cette sema&amp;ine</translation>
+        <translation>&amp;Cette semaine</translation>
     </message>
     <message>
         <source>&amp;Copy the week</source>
-        <translation>Copier la &amp;semaine</translation>
+        <translation>Copier &amp;la semaine</translation>
     </message>
     <message>
         <source>Paste the &amp;week</source>
-        <translation>Coller &amp;la semaine</translation>
+        <translation>C&amp;oller la semaine</translation>
     </message>
     <message>
         <source>&amp;Repeat the chosen weeks…</source>
-        <translation>&amp;Répéter les semaines choisies…</translation>
+        <translation>Répé&amp;ter les semaines choisies…</translation>
     </message>
     <message>
         <source>&amp;Empty the chosen weeks</source>
@@ -14462,19 +14462,19 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>&amp;Add a week at the end</source>
-        <translation>Ajouter une semaine à la &amp;fin</translation>
+        <translation>&amp;Ajouter une semaine à la fin</translation>
     </message>
     <message>
         <source>Re&amp;move the last week</source>
-        <translation>Retirer la &amp;dernière semaine</translation>
+        <translation>&amp;Retirer la dernière semaine</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>Affic&amp;hage</translation>
+        <translation>Affi&amp;chage</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation>&amp;Chercher un athlète</translation>
+        <translation>Chercher &amp;un athlète</translation>
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
@@ -14482,19 +14482,19 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Week as a &amp;calendar file…</source>
-        <translation>Semaine &amp;en fichier de calendrier…</translation>
+        <translation>&amp;Semaine en fichier de calendrier…</translation>
     </message>
     <message>
         <source>Import heart-rate &amp;variability…</source>
-        <translation>Imp&amp;orter la variabilité de la fréquence cardiaque…</translation>
+        <translation>&amp;Importer la variabilité de la fréquence cardiaque…</translation>
     </message>
     <message>
         <source>Open an o&amp;nline planning…</source>
-        <translation>Ouvrir &amp;une planification en ligne…</translation>
+        <translation>&amp;Ouvrir une planification en ligne…</translation>
     </message>
     <message>
         <source>Sa&amp;ve online…</source>
-        <translation>E&amp;nregistrer en ligne…</translation>
+        <translation>&amp;Enregistrer en ligne…</translation>
     </message>
     <message>
         <source>Athletes</source>
@@ -14565,7 +14565,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation>Lire &amp;ou mettre en pause</translation>
+        <translation>&amp;Lire ou mettre en pause</translation>
     </message>
     <message>
         <source>Backwards, again: faster</source>
@@ -14909,7 +14909,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>At l&amp;east</source>
-        <translation>&amp;Au moins</translation>
+        <translation>Au &amp;moins</translation>
     </message>
     <message>
         <source>no limit</source>
@@ -14917,7 +14917,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>At &amp;most</source>
-        <translation>Au &amp;plus</translation>
+        <translation>&amp;Au plus</translation>
     </message>
     <message>
         <source>G&amp;roups by</source>
@@ -14933,7 +14933,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>&amp;Best</source>
-        <translation>&amp;Meilleur</translation>
+        <translation>M&amp;eilleur</translation>
     </message>
     <message>
         <source>all</source>
@@ -14964,7 +14964,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     <name>kavela::desktop::RaceActions</name>
     <message>
         <source>Open it &amp;again</source>
-        <translation>&amp;Ouvrir à nouveau</translation>
+        <translation>Ouvrir à &amp;nouveau</translation>
     </message>
     <message>
         <source>Ti&amp;me it on video</source>
@@ -14972,11 +14972,11 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>&amp;Report: preview, PDF, print…</source>
-        <translation>&amp;Rapport : aperçu, PDF, impression…</translation>
+        <translation>Rapport : aperçu, PDF, &amp;impression…</translation>
     </message>
     <message>
         <source>Save the table as &amp;CSV…</source>
-        <translation>&amp;Enregistrer le tableau en CSV…</translation>
+        <translation>Enregistrer le &amp;tableau en CSV…</translation>
     </message>
     <message>
         <source>Cop&amp;y the selected runs</source>
@@ -14988,11 +14988,11 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>&amp;Gap to the reference</source>
-        <translation>Éc&amp;art à la référence</translation>
+        <translation>Écart à &amp;la référence</translation>
     </message>
     <message>
         <source>&amp;Place</source>
-        <translation>&amp;Place</translation>
+        <translation>Pl&amp;ace</translation>
     </message>
     <message>
         <source>Per&amp;cent behind the best</source>
@@ -15000,15 +15000,15 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Percenti&amp;le</source>
-        <translation>Perce&amp;ntile</translation>
+        <translation>&amp;Percentile</translation>
     </message>
     <message>
         <source>&amp;Reference: the best</source>
-        <translation>Référence : le &amp;meilleur</translation>
+        <translation>Référence : &amp;le meilleur</translation>
     </message>
     <message>
         <source>Reference: the &amp;median</source>
-        <translation>Ré&amp;férence : la médiane</translation>
+        <translation>&amp;Référence : la médiane</translation>
     </message>
     <message>
         <source>Reference: the &amp;selected row</source>
@@ -15016,31 +15016,31 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>&amp;Table</source>
-        <translation>Ta&amp;bleau</translation>
+        <translation>&amp;Tableau</translation>
     </message>
     <message>
         <source>&amp;Accumulated times</source>
-        <translation>Temps c&amp;umulés</translation>
+        <translation>&amp;Temps cumulés</translation>
     </message>
     <message>
         <source>Penalties &amp;included</source>
-        <translation>Pénalités c&amp;omprises</translation>
+        <translation>Pé&amp;nalités comprises</translation>
     </message>
     <message>
         <source>Penalties &amp;visible</source>
-        <translation>Pénalités &amp;visibles</translation>
+        <translation>&amp;Pénalités visibles</translation>
     </message>
     <message>
         <source>C&amp;olumns</source>
-        <translation>&amp;Colonnes</translation>
+        <translation>C&amp;olonnes</translation>
     </message>
     <message>
         <source>&amp;Find a name</source>
-        <translation>C&amp;hercher un nom</translation>
+        <translation>&amp;Chercher un nom</translation>
     </message>
     <message>
         <source>Show all r&amp;uns</source>
-        <translation>Afficher toutes &amp;les manches</translation>
+        <translation>&amp;Afficher toutes les manches</translation>
     </message>
     <message>
         <source>&amp;Tint cells by rank</source>
@@ -15048,35 +15048,35 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
-        <translation>Du bleu à l’orange &amp;au lieu du vert au rouge</translation>
+        <translation>&amp;Du bleu à l’orange au lieu du vert au rouge</translation>
     </message>
     <message>
         <source>&amp;Compare</source>
-        <translation>Com&amp;parer</translation>
+        <translation>&amp;Comparer</translation>
     </message>
     <message>
         <source>&amp;Ideal run on top</source>
-        <translation>Manche &amp;idéale en tête</translation>
+        <translation>&amp;Manche idéale en tête</translation>
     </message>
     <message>
         <source>A &amp;run of another race…</source>
-        <translation>Une manche &amp;d’une autre course…</translation>
+        <translation>&amp;Une manche d’une autre course…</translation>
     </message>
     <message>
         <source>&amp;Films of the selected runs…</source>
-        <translation>Films des &amp;manches sélectionnées…</translation>
+        <translation>&amp;Films des manches sélectionnées…</translation>
     </message>
     <message>
         <source>With &amp;official results…</source>
-        <translation>Avec les &amp;résultats officiels…</translation>
+        <translation>&amp;Avec les résultats officiels…</translation>
     </message>
     <message>
         <source>The results list as a &amp;table</source>
-        <translation>La liste des résultats &amp;en tableau</translation>
+        <translation>&amp;La liste des résultats en tableau</translation>
     </message>
     <message>
         <source>&amp;Clear the comparison</source>
-        <translation>E&amp;ffacer la comparaison</translation>
+        <translation>&amp;Effacer la comparaison</translation>
     </message>
     <message>
         <source>C&amp;harts</source>
@@ -15084,63 +15084,63 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>&amp;Gaps along the course</source>
-        <translation>Écart&amp;s le long du parcours</translation>
+        <translation>Écarts &amp;le long du parcours</translation>
     </message>
     <message>
         <source>T&amp;imes of the sections</source>
-        <translation>Temps des secte&amp;urs</translation>
+        <translation>Temps des &amp;secteurs</translation>
     </message>
     <message>
         <source>P&amp;enalties at the gates</source>
-        <translation>Pé&amp;nalités aux portes</translation>
+        <translation>Pénalités &amp;aux portes</translation>
     </message>
     <message>
         <source>&amp;Totals</source>
-        <translation>Temps t&amp;otaux</translation>
+        <translation>&amp;Temps totaux</translation>
     </message>
     <message>
         <source>&amp;Penalties</source>
-        <translation>Péna&amp;lités</translation>
+        <translation>&amp;Pénalités</translation>
     </message>
     <message>
         <source>Time &amp;losses</source>
-        <translation>Pertes de &amp;temps</translation>
+        <translation>P&amp;ertes de temps</translation>
     </message>
     <message>
         <source>Show the &amp;whole chart</source>
-        <translation>&amp;Afficher tout le graphique</translation>
+        <translation>A&amp;fficher tout le graphique</translation>
     </message>
     <message>
         <source>&amp;Save the chart…</source>
-        <translation>Enregistrer le gra&amp;phique…</translation>
+        <translation>Enregistrer le &amp;graphique…</translation>
     </message>
     <message>
         <source>&amp;Window</source>
-        <translation>&amp;Fenêtre</translation>
+        <translation>F&amp;enêtre</translation>
     </message>
     <message>
         <source>Races &amp;side by side</source>
-        <translation>&amp;Courses côte à côte</translation>
+        <translation>C&amp;ourses côte à côte</translation>
     </message>
     <message>
         <source>&amp;Larger: the table or the chart alone</source>
-        <translation>Plus gran&amp;d : le tableau ou le graphique seul</translation>
+        <translation>Plus &amp;grand : le tableau ou le graphique seul</translation>
     </message>
     <message>
         <source>&amp;Next race</source>
-        <translation>Cou&amp;rse suivante</translation>
+        <translation>&amp;Course suivante</translation>
     </message>
     <message>
         <source>&amp;Previous race</source>
-        <translation>Cours&amp;e précédente</translation>
+        <translation>Course &amp;précédente</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
-        <translation>Page pour un at&amp;hlète…</translation>
+        <translation>&amp;Page pour un athlète…</translation>
     </message>
     <message>
         <source>&amp;Draw the course…</source>
-        <translation>Dess&amp;iner le parcours…</translation>
+        <translation>&amp;Dessiner le parcours…</translation>
     </message>
 </context>
 <context>
@@ -15321,11 +15321,11 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Choose &amp;files…</source>
-        <translation>&amp;Choisir des fichiers…</translation>
+        <translation>Choisir &amp;des fichiers…</translation>
     </message>
     <message>
         <source>Choose a f&amp;older…</source>
-        <translation>Choisir &amp;un dossier…</translation>
+        <translation>&amp;Choisir un dossier…</translation>
     </message>
     <message>
         <source>Files and folders can be dropped here too</source>
@@ -15679,7 +15679,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>&amp;Rates</source>
-        <translation>&amp;Taux</translation>
+        <translation>T&amp;aux</translation>
     </message>
     <message>
         <source>No run that is asked for has its penalties by gate.</source>
@@ -16084,7 +16084,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Fit width</source>
-        <translation>Ajuster à la largeur</translation>
+        <translation>Toute la largeur</translation>
     </message>
     <message>
         <source>Print…</source>
@@ -16746,19 +16746,19 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>&amp;Open a team…</source>
-        <translation>&amp;Ouvrir une équipe…</translation>
+        <translation>Ou&amp;vrir une équipe…</translation>
     </message>
     <message>
         <source>Add &amp;split files…</source>
-        <translation>&amp;Ajouter des fichiers d’intermédiaires…</translation>
+        <translation>Ajouter des fic&amp;hiers d’intermédiaires…</translation>
     </message>
     <message>
         <source>Add a &amp;folder of races…</source>
-        <translation>Ajouter &amp;un dossier de courses…</translation>
+        <translation>Ajouter un dossier de &amp;courses…</translation>
     </message>
     <message>
         <source>Read &amp;again</source>
-        <translation>&amp;Relire</translation>
+        <translation>Rel&amp;ire</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
@@ -16766,23 +16766,23 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation>&amp;Fichiers qui n’ont pas pu être lus…</translation>
+        <translation>Fichiers qui &amp;n’ont pas pu être lus…</translation>
     </message>
     <message>
         <source>&amp;Reports to look at and print…</source>
-        <translation>Rapports à regarder &amp;et imprimer…</translation>
+        <translation>Rapports à regarder et i&amp;mprimer…</translation>
     </message>
     <message>
         <source>Report of the &amp;athlete as PDF…</source>
-        <translation>Rapport &amp;de l’athlète en PDF…</translation>
+        <translation>Rappor&amp;t de l’athlète en PDF…</translation>
     </message>
     <message>
         <source>Report of the tea&amp;m as PDF…</source>
-        <translation>Rapport de l’équipe en &amp;PDF…</translation>
+        <translation>Rapport &amp;de l’équipe en PDF…</translation>
     </message>
     <message>
         <source>Save the tab&amp;le as CSV…</source>
-        <translation>Enregistrer le &amp;tableau en CSV…</translation>
+        <translation>Enregistrer le ta&amp;bleau en CSV…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
@@ -16794,23 +16794,23 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>&amp;Progression</source>
-        <translation>Progre&amp;ssion</translation>
+        <translation>P&amp;rogression</translation>
     </message>
     <message>
         <source>P&amp;hases</source>
-        <translation>P&amp;hases</translation>
+        <translation>&amp;Phases</translation>
     </message>
     <message>
         <source>&amp;Spread</source>
-        <translation>Dispersio&amp;n</translation>
+        <translation>&amp;Dispersion</translation>
     </message>
     <message>
         <source>&amp;Trend</source>
-        <translation>&amp;Tendance</translation>
+        <translation>T&amp;endance</translation>
     </message>
     <message>
         <source>Head to h&amp;ead</source>
-        <translation>F&amp;ace à face</translation>
+        <translation>&amp;Face à face</translation>
     </message>
     <message>
         <source>&amp;Medals and finals</source>
@@ -16818,27 +16818,27 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>E&amp;xpected places</source>
-        <translation>Places attend&amp;ues</translation>
+        <translation>Places &amp;attendues</translation>
     </message>
     <message>
         <source>&amp;What it takes</source>
-        <translation>Ce &amp;qu’il faut</translation>
+        <translation>&amp;Ce qu’il faut</translation>
     </message>
     <message>
         <source>&amp;Athletes</source>
-        <translation>Ath&amp;lètes</translation>
+        <translation>A&amp;thlètes</translation>
     </message>
     <message>
         <source>The who&amp;le chart</source>
-        <translation>T&amp;out le graphique</translation>
+        <translation>Tout &amp;le graphique</translation>
     </message>
     <message>
         <source>Athl&amp;ete</source>
-        <translation>Athlèt&amp;e</translation>
+        <translation>A&amp;thlète</translation>
     </message>
     <message>
         <source>The &amp;next athlete</source>
-        <translation>Athlète sui&amp;vant</translation>
+        <translation>&amp;Athlète suivant</translation>
     </message>
     <message>
         <source>The athlete &amp;before</source>
@@ -16846,15 +16846,15 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>&amp;Show the athlete of the row</source>
-        <translation>Montrer l’athlète &amp;de la ligne</translation>
+        <translation>&amp;Montrer l’athlète de la ligne</translation>
     </message>
     <message>
         <source>Expect the places of a &amp;field…</source>
-        <translation>Attend&amp;re les places d’un plateau…</translation>
+        <translation>Attendre &amp;les places d’un plateau…</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
-        <translation>Pa&amp;ge pour un athlète…</translation>
+        <translation>&amp;Page pour un athlète…</translation>
     </message>
 </context>
 <context>
@@ -17454,7 +17454,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>La&amp;ps</source>
-        <translation>&amp;Tours</translation>
+        <translation>T&amp;ours</translation>
     </message>
     <message>
         <source>number of laps</source>
@@ -17697,23 +17697,23 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
-        <translation>&amp;Rapports : aperçu, PDF, impression…</translation>
+        <translation>Rapports : aperçu, &amp;PDF, impression…</translation>
     </message>
     <message>
         <source>Make times of 0 &amp;missing results</source>
-        <translation>&amp;Changer les temps de 0 en résultats absents</translation>
+        <translation>Changer &amp;les temps de 0 en résultats absents</translation>
     </message>
     <message>
         <source>&amp;Copy the table</source>
-        <translation>Copier &amp;le tableau</translation>
+        <translation>&amp;Copier le tableau</translation>
     </message>
     <message>
         <source>&amp;What if</source>
-        <translation>&amp;Et si</translation>
+        <translation>E&amp;t si</translation>
     </message>
     <message>
         <source>&amp;Races</source>
-        <translation>C&amp;ourses</translation>
+        <translation>&amp;Courses</translation>
     </message>
     <message>
         <source>&amp;Add a race…</source>
@@ -17725,7 +17725,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Remo&amp;ve a race…</source>
-        <translation>Re&amp;tirer une course…</translation>
+        <translation>&amp;Retirer une course…</translation>
     </message>
     <message>
         <source>Results from &amp;split files…</source>
@@ -17737,19 +17737,19 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Results from a list with &amp;categories and clubs…</source>
-        <translation>Ré&amp;sultats d’une liste avec catégories et clubs…</translation>
+        <translation>Résultats d’une &amp;liste avec catégories et clubs…</translation>
     </message>
     <message>
         <source>&amp;Athletes</source>
-        <translation>At&amp;hlètes</translation>
+        <translation>A&amp;thlètes</translation>
     </message>
     <message>
         <source>Add a &amp;category…</source>
-        <translation>Ajouter u&amp;ne catégorie…</translation>
+        <translation>Ajouter &amp;une catégorie…</translation>
     </message>
     <message>
         <source>&amp;Add an athlete…</source>
-        <translation>A&amp;jouter un athlète…</translation>
+        <translation>&amp;Ajouter un athlète…</translation>
     </message>
     <message>
         <source>&amp;Edit the athlete…</source>
@@ -17944,7 +17944,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>&amp;Place</source>
-        <translation>&amp;Place</translation>
+        <translation>Pl&amp;ace</translation>
     </message>
     <message>
         <source>&amp;Description</source>
@@ -18298,7 +18298,7 @@ Choisissez un fichier.</translation>
     <name>kavela::desktop::ShareActions</name>
     <message>
         <source>&amp;Open a folder to share…</source>
-        <translation>&amp;Ouvrir un dossier à partager…</translation>
+        <translation>Ouvrir un &amp;dossier à partager…</translation>
     </message>
     <message>
         <source>Sha&amp;re</source>
@@ -18318,11 +18318,11 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>&amp;Tick all but deletions</source>
-        <translation>&amp;Tout cocher sauf les suppressions</translation>
+        <translation>Tout cocher &amp;sauf les suppressions</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
-        <translation>To&amp;ut décocher</translation>
+        <translation>&amp;Tout décocher</translation>
     </message>
     <message>
         <source>Ser&amp;ver</source>
@@ -18330,11 +18330,11 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>&amp;Sign in…</source>
-        <translation>S&amp;e connecter…</translation>
+        <translation>&amp;Se connecter…</translation>
     </message>
     <message>
         <source>&amp;Forget the password</source>
-        <translation>Oublier &amp;le mot de passe</translation>
+        <translation>&amp;Oublier le mot de passe</translation>
     </message>
 </context>
 <context>
@@ -18485,15 +18485,15 @@ et %1 autres</translation>
     <name>kavela::desktop::SlitActions</name>
     <message>
         <source>&amp;Open a film…</source>
-        <translation>&amp;Ouvrir un film…</translation>
+        <translation>Ou&amp;vrir un film…</translation>
     </message>
     <message>
         <source>Open the &amp;race of the film in split taking</source>
-        <translation>Ouvrir &amp;la course du film dans la prise de temps intermédiaires</translation>
+        <translation>Ouvrir la course du film dans la &amp;prise de temps intermédiaires</translation>
     </message>
     <message>
         <source>&amp;Save the race</source>
-        <translation>&amp;Enregistrer la course</translation>
+        <translation>Enregistrer &amp;la course</translation>
     </message>
     <message>
         <source>Save what is seen as a &amp;picture…</source>
@@ -18501,7 +18501,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>Save the &amp;water round the marks…</source>
-        <translation>Enregistrer l’eau &amp;autour des marques…</translation>
+        <translation>Enregistrer l’eau autour &amp;des marques…</translation>
     </message>
     <message>
         <source>Save what is seen of the slit picture</source>
@@ -18529,11 +18529,11 @@ et %1 autres</translation>
     </message>
     <message>
         <source>&amp;Undo the mark</source>
-        <translation>Annuler la &amp;marque</translation>
+        <translation>Annuler &amp;la marque</translation>
     </message>
     <message>
         <source>&amp;Redo the mark</source>
-        <translation>&amp;Rétablir la marque</translation>
+        <translation>Rétablir la &amp;marque</translation>
     </message>
     <message>
         <source>&amp;Lines</source>
@@ -18541,11 +18541,11 @@ et %1 autres</translation>
     </message>
     <message>
         <source>Draw a &amp;new line</source>
-        <translation>Dessiner &amp;une nouvelle ligne</translation>
+        <translation>&amp;Dessiner une nouvelle ligne</translation>
     </message>
     <message>
         <source>Ne&amp;xt line</source>
-        <translation>Ligne &amp;suivante</translation>
+        <translation>&amp;Ligne suivante</translation>
     </message>
     <message>
         <source>&amp;Previous line</source>
@@ -18557,27 +18557,27 @@ et %1 autres</translation>
     </message>
     <message>
         <source>&amp;Remove the line</source>
-        <translation>Re&amp;tirer la ligne</translation>
+        <translation>&amp;Retirer la ligne</translation>
     </message>
     <message>
         <source>Draw a box round one &amp;boat</source>
-        <translation>Dessiner un cadre autour d’un &amp;bateau</translation>
+        <translation>Dessiner &amp;un cadre autour d’un bateau</translation>
     </message>
     <message>
         <source>&amp;Look for boats that cross it</source>
-        <translation>Chercher les bateaux &amp;qui la franchissent</translation>
+        <translation>&amp;Chercher les bateaux qui la franchissent</translation>
     </message>
     <message>
         <source>&amp;Hair line</source>
-        <translation>Rét&amp;icule</translation>
+        <translation>&amp;Réticule</translation>
     </message>
     <message>
         <source>One frame &amp;earlier</source>
-        <translation>U&amp;ne image plus tôt</translation>
+        <translation>&amp;Une image plus tôt</translation>
     </message>
     <message>
         <source>One frame &amp;later</source>
-        <translation>Un&amp;e image plus tard</translation>
+        <translation>Une &amp;image plus tard</translation>
     </message>
     <message>
         <source>Ten frames earlier</source>
@@ -18597,11 +18597,11 @@ et %1 autres</translation>
     </message>
     <message>
         <source>&amp;Next proposal</source>
-        <translation>Pr&amp;oposition suivante</translation>
+        <translation>Proposition &amp;suivante</translation>
     </message>
     <message>
         <source>&amp;Previous proposal</source>
-        <translation>Proposition pré&amp;cédente</translation>
+        <translation>P&amp;roposition précédente</translation>
     </message>
     <message>
         <source>To the &amp;beginning</source>
@@ -18609,7 +18609,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>&amp;Closer</source>
-        <translation>Plus p&amp;rès</translation>
+        <translation>&amp;Plus près</translation>
     </message>
     <message>
         <source>&amp;Farther</source>
@@ -18617,19 +18617,19 @@ et %1 autres</translation>
     </message>
     <message>
         <source>The &amp;whole film</source>
-        <translation>Le fil&amp;m entier</translation>
+        <translation>Le &amp;film entier</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation>Marq&amp;uer</translation>
+        <translation>&amp;Marquer</translation>
     </message>
     <message>
         <source>&amp;Mark the run at the hair line</source>
-        <translation>Marquer la manc&amp;he au réticule</translation>
+        <translation>Marquer &amp;la manche au réticule</translation>
     </message>
     <message>
         <source>Take the mark &amp;away</source>
-        <translation>Enle&amp;ver la marque</translation>
+        <translation>&amp;Enlever la marque</translation>
     </message>
     <message>
         <source>&amp;Previous run</source>
@@ -18637,23 +18637,23 @@ et %1 autres</translation>
     </message>
     <message>
         <source>&amp;Next run</source>
-        <translation>Manche &amp;suivante</translation>
+        <translation>&amp;Manche suivante</translation>
     </message>
     <message>
         <source>&amp;Refuse the proposal at the hair line</source>
-        <translation>Re&amp;fuser la proposition au réticule</translation>
+        <translation>&amp;Refuser la proposition au réticule</translation>
     </message>
     <message>
         <source>&amp;Forget what was refused on this line</source>
-        <translation>Oublier ce &amp;qui a été refusé sur cette ligne</translation>
+        <translation>&amp;Oublier ce qui a été refusé sur cette ligne</translation>
     </message>
     <message>
         <source>Accept a&amp;ll proposals</source>
-        <translation>Accepter &amp;toutes les propositions</translation>
+        <translation>&amp;Accepter toutes les propositions</translation>
     </message>
     <message>
         <source>Accept a&amp;ll proposals: why not yet?</source>
-        <translation>Accepter toutes les propositions : pourquoi pas &amp;encore ?</translation>
+        <translation>Accepter &amp;toutes les propositions : pourquoi pas encore ?</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -18661,19 +18661,19 @@ et %1 autres</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation>Lire &amp;ou mettre en pause</translation>
+        <translation>&amp;Lire ou mettre en pause</translation>
     </message>
     <message>
         <source>&amp;Slower</source>
-        <translation>Plus le&amp;nt</translation>
+        <translation>&amp;Plus lent</translation>
     </message>
     <message>
         <source>&amp;Faster</source>
-        <translation>Plus v&amp;ite</translation>
+        <translation>Plus &amp;vite</translation>
     </message>
     <message>
         <source>&amp;Normal speed</source>
-        <translation>Vitesse no&amp;rmale</translation>
+        <translation>Vitesse &amp;normale</translation>
     </message>
 </context>
 <context>
@@ -18998,7 +18998,7 @@ Il ne compte pour rien : pas de place, pas d’écart, jamais un meilleur.</tr
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation>%1 en %2</translation>
+        <translation>%1 dans %2</translation>
     </message>
     <message>
         <source>Ideal run</source>
@@ -19392,7 +19392,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     <name>kavela::desktop::TablesActions</name>
     <message>
         <source>&amp;Open a list…</source>
-        <translation>&amp;Ouvrir une liste…</translation>
+        <translation>Ou&amp;vrir une liste…</translation>
     </message>
     <message>
         <source>Open what was &amp;copied</source>
@@ -19400,15 +19400,15 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>A&amp;nother list of this file…</source>
-        <translation>&amp;Une autre liste de ce fichier…</translation>
+        <translation>Une autre liste &amp;de ce fichier…</translation>
     </message>
     <message>
         <source>&amp;Keep with the race…</source>
-        <translation>Conserver &amp;avec la course…</translation>
+        <translation>Co&amp;nserver avec la course…</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
-        <translation>&amp;Enregistrer le tableau en CSV…</translation>
+        <translation>Enregistrer le &amp;tableau en CSV…</translation>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
@@ -19420,7 +19420,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation>A&amp;nnuler</translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
@@ -19428,11 +19428,11 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>The first line holds the &amp;titles</source>
-        <translation>La &amp;première ligne contient les titres</translation>
+        <translation>&amp;La première ligne contient les titres</translation>
     </message>
     <message>
         <source>The first line is a ro&amp;w</source>
-        <translation>La pre&amp;mière ligne est une ligne de données</translation>
+        <translation>La &amp;première ligne est une ligne de données</translation>
     </message>
     <message>
         <source>No &amp;groups</source>
@@ -19440,7 +19440,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Column</source>
-        <translation>&amp;Colonne</translation>
+        <translation>C&amp;olonne</translation>
     </message>
     <message>
         <source>&amp;Sort</source>
@@ -19448,7 +19448,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Sort &amp;downwards</source>
-        <translation>Tr&amp;ier en ordre décroissant</translation>
+        <translation>Trier &amp;en ordre décroissant</translation>
     </message>
     <message>
         <source>&amp;Group by it</source>
@@ -19460,7 +19460,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Chart of it</source>
-        <translation>S&amp;on graphique</translation>
+        <translation>&amp;Son graphique</translation>
     </message>
     <message>
         <source>&amp;Keep rows with…</source>
@@ -19468,7 +19468,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Leave it out</source>
-        <translation>La laiss&amp;er de côté</translation>
+        <translation>La laisser &amp;de côté</translation>
     </message>
     <message>
         <source>&amp;Read it as</source>
@@ -19488,43 +19488,43 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Gap to the best</source>
-        <translation>Écart &amp;au meilleur</translation>
+        <translation>Écart au &amp;meilleur</translation>
     </message>
     <message>
         <source>&amp;Percent behind the best</source>
-        <translation>&amp;Pourcentage derrière le meilleur</translation>
+        <translation>Pourcentage &amp;derrière le meilleur</translation>
     </message>
     <message>
         <source>Percenti&amp;le</source>
-        <translation>Perce&amp;ntile</translation>
+        <translation>&amp;Percentile</translation>
     </message>
     <message>
         <source>&amp;Another column…</source>
-        <translation>Autre &amp;colonne…</translation>
+        <translation>&amp;Autre colonne…</translation>
     </message>
     <message>
         <source>P&amp;ivot…</source>
-        <translation>Ta&amp;bleau croisé…</translation>
+        <translation>Tableau &amp;croisé…</translation>
     </message>
     <message>
         <source>A&amp;thletes</source>
-        <translation>At&amp;hlètes</translation>
+        <translation>A&amp;thlètes</translation>
     </message>
     <message>
         <source>&amp;Join a team…</source>
-        <translation>Relier une é&amp;quipe…</translation>
+        <translation>&amp;Relier une équipe…</translation>
     </message>
     <message>
         <source>&amp;Who is meant?…</source>
-        <translation>Qui est &amp;visé ?…</translation>
+        <translation>&amp;Qui est visé ?…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
-        <translation>A&amp;fficher</translation>
+        <translation>Affi&amp;cher</translation>
     </message>
     <message>
         <source>What was &amp;refused</source>
-        <translation>Ce qui a été refu&amp;sé</translation>
+        <translation>&amp;Ce qui a été refusé</translation>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
@@ -19532,7 +19532,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>The &amp;whole chart</source>
-        <translation>Tout &amp;le graphique</translation>
+        <translation>&amp;Tout le graphique</translation>
     </message>
 </context>
 <context>
@@ -19830,7 +19830,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Event</source>
-        <translation>&amp;Compétition</translation>
+        <translation>C&amp;ompétition</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -19842,15 +19842,15 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>The positions are the &amp;final ones of the race</source>
-        <translation>Les &amp;positions sont les places finales de la course</translation>
+        <translation>Les positions sont les places &amp;finales de la course</translation>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation>C&amp;atégorie</translation>
+        <translation>&amp;Catégorie</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
-        <translation>P&amp;hase</translation>
+        <translation>&amp;Phase</translation>
     </message>
     <message>
         <source>&amp;Day</source>
@@ -19862,11 +19862,11 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Tick &amp;all</source>
-        <translation>&amp;Tout cocher</translation>
+        <translation>Tout &amp;cocher</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
-        <translation>Tout &amp;décocher</translation>
+        <translation>&amp;Tout décocher</translation>
     </message>
     <message>
         <source>(line %1)</source>
@@ -19899,8 +19899,8 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     <message numerus="yes">
         <source>&amp;Take over %n lines</source>
         <translation>
-            <numerusform>R&amp;eprendre %n ligne</numerusform>
-            <numerusform>R&amp;eprendre %n lignes</numerusform>
+            <numerusform>Reprendre %n &amp;ligne</numerusform>
+            <numerusform>Reprendre %n &amp;lignes</numerusform>
         </translation>
     </message>
 </context>
@@ -19920,11 +19920,11 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation>&amp;Test</translation>
+        <translation>T&amp;est</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Athlète</translation>
+        <translation>A&amp;thlète</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -20075,7 +20075,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation>&amp;Test</translation>
+        <translation>T&amp;est</translation>
     </message>
     <message>
         <source>Take %1 runs in</source>
@@ -20098,11 +20098,11 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     <name>kavela::desktop::TakingActions</name>
     <message>
         <source>&amp;Open a folder of videos…</source>
-        <translation>&amp;Ouvrir un dossier de vidéos…</translation>
+        <translation>Ouvrir un dossier de &amp;vidéos…</translation>
     </message>
     <message>
         <source>&amp;Save data</source>
-        <translation>&amp;Enregistrer les données</translation>
+        <translation>Enregistrer &amp;les données</translation>
     </message>
     <message>
         <source>Import &amp;video…</source>
@@ -20110,27 +20110,27 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Import split &amp;file…</source>
-        <translation>Importer &amp;un fichier d’intermédiaires…</translation>
+        <translation>Impor&amp;ter un fichier d’intermédiaires…</translation>
     </message>
     <message>
         <source>Import official &amp;results…</source>
-        <translation>Importer &amp;les résultats officiels…</translation>
+        <translation>Im&amp;porter les résultats officiels…</translation>
     </message>
     <message>
         <source>Compare &amp;with official results…</source>
-        <translation>&amp;Comparer avec les résultats officiels…</translation>
+        <translation>Comparer au&amp;x résultats officiels…</translation>
     </message>
     <message>
         <source>&amp;Recording of the run…</source>
-        <translation>Enregistrement &amp;de la manche…</translation>
+        <translation>E&amp;nregistrement de la manche…</translation>
     </message>
     <message>
         <source>Run s&amp;heet: preview, PDF, print…</source>
-        <translation>&amp;Fiche de manche : aperçu, PDF, impression…</translation>
+        <translation>Fic&amp;he de manche : aperçu, PDF, impression…</translation>
     </message>
     <message>
         <source>&amp;Export data…</source>
-        <translation>E&amp;xporter les données…</translation>
+        <translation>Exporter les &amp;données…</translation>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
@@ -20138,7 +20138,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Compare fil&amp;ms of the run…</source>
-        <translation>Com&amp;parer les films de la manche…</translation>
+        <translation>&amp;Comparer les films de la manche…</translation>
     </message>
     <message>
         <source>Kayak &amp;cross of this race</source>
@@ -20150,7 +20150,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Race and &amp;course…</source>
-        <translation>Cou&amp;rse et parcours…</translation>
+        <translation>Course &amp;et parcours…</translation>
     </message>
     <message>
         <source>Names of the &amp;films…</source>
@@ -20158,15 +20158,15 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Previous run</source>
-        <translation>M&amp;anche précédente</translation>
+        <translation>Manche &amp;précédente</translation>
     </message>
     <message>
         <source>&amp;Next run</source>
-        <translation>Manche &amp;suivante</translation>
+        <translation>&amp;Manche suivante</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation>C&amp;hercher un athlète</translation>
+        <translation>Chercher &amp;un athlète</translation>
     </message>
     <message>
         <source>Move the run up</source>
@@ -20182,15 +20182,15 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Delete &amp;all data…</source>
-        <translation>&amp;Effacer toutes les données…</translation>
+        <translation>Effacer &amp;toutes les données…</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation>Mar&amp;quer</translation>
+        <translation>&amp;Marquer</translation>
     </message>
     <message>
         <source>&amp;Mark the split</source>
-        <translation>Marquer &amp;l’intermédiaire</translation>
+        <translation>&amp;Marquer l’intermédiaire</translation>
     </message>
     <message>
         <source>To where the next split is e&amp;xpected</source>
@@ -20202,15 +20202,15 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>To split &amp;%1</source>
-        <translation>À l’&amp;intermédiaire %1</translation>
+        <translation>À &amp;l’intermédiaire %1</translation>
     </message>
     <message>
         <source>&amp;Gates</source>
-        <translation>Por&amp;tes</translation>
+        <translation>&amp;Portes</translation>
     </message>
     <message>
         <source>&amp;Touch: 2 s</source>
-        <translation>Touche : &amp;2 s</translation>
+        <translation>&amp;Touche : 2 s</translation>
     </message>
     <message>
         <source>Missed gate: &amp;50 s</source>
@@ -20218,15 +20218,15 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Clean</source>
-        <translation>Sans &amp;pénalité</translation>
+        <translation>&amp;Sans pénalité</translation>
     </message>
     <message>
         <source>&amp;Next gate</source>
-        <translation>Porte s&amp;uivante</translation>
+        <translation>&amp;Porte suivante</translation>
     </message>
     <message>
         <source>&amp;Previous gate</source>
-        <translation>Po&amp;rte précédente</translation>
+        <translation>P&amp;orte précédente</translation>
     </message>
     <message>
         <source>&amp;Cameras</source>
@@ -20238,7 +20238,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
-        <translation>Où &amp;sont les films maintenant ?…</translation>
+        <translation>Où so&amp;nt les films maintenant ?…</translation>
     </message>
     <message>
         <source>Last camera one frame back</source>
@@ -20250,11 +20250,11 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Larger: without the table, the film alone, all again</source>
-        <translation>Plus &amp;grand : sans le tableau, le film seul, tout à nouveau</translation>
+        <translation>&amp;Plus grand : sans le tableau, le film seul, tout à nouveau</translation>
     </message>
     <message>
         <source>The frames shown are &amp;one moment</source>
-        <translation>L&amp;es images affichées sont le même moment</translation>
+        <translation>&amp;Les images affichées sont le même moment</translation>
     </message>
     <message>
         <source>&amp;Draw the course…</source>
@@ -20262,7 +20262,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Sl&amp;it picture of the last camera</source>
-        <translation>Image à &amp;fente de la dernière caméra</translation>
+        <translation>&amp;Image à fente de la dernière caméra</translation>
     </message>
     <message>
         <source>There is no film here that has a slit picture.</source>
@@ -20596,7 +20596,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Export the table…</source>
-        <translation>&amp;Exporter le tableau…</translation>
+        <translation>Exporter &amp;le tableau…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -20847,15 +20847,15 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Home</source>
-        <translation>A&amp;ccueil</translation>
+        <translation>&amp;Accueil</translation>
     </message>
     <message>
         <source>Se&amp;ttings…</source>
-        <translation>Ré&amp;glages…</translation>
+        <translation>&amp;Réglages…</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation>Fer&amp;mer</translation>
+        <translation>&amp;Fermer</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -21077,23 +21077,23 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Open a film or a path…</source>
-        <translation>&amp;Ouvrir un film ou une trajectoire…</translation>
+        <translation>Ouvrir un film ou une &amp;trajectoire…</translation>
     </message>
     <message>
         <source>&amp;Export the path as CSV…</source>
-        <translation>&amp;Exporter la trajectoire en CSV…</translation>
+        <translation>Exporter &amp;la trajectoire en CSV…</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation>Le&amp;cture</translation>
+        <translation>&amp;Lecture</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation>Lire ou &amp;mettre en pause</translation>
+        <translation>&amp;Lire ou mettre en pause</translation>
     </message>
     <message>
         <source>One frame ba&amp;ck</source>
-        <translation>&amp;Une image en arrière</translation>
+        <translation>U&amp;ne image en arrière</translation>
     </message>
     <message>
         <source>One frame &amp;on</source>
@@ -21105,23 +21105,23 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Propose a &amp;box</source>
-        <translation>&amp;Proposer un cadre</translation>
+        <translation>Proposer un &amp;cadre</translation>
     </message>
     <message>
         <source>&amp;Take the box of this frame away</source>
-        <translation>Enlever le cadre &amp;de cette image</translation>
+        <translation>E&amp;nlever le cadre de cette image</translation>
     </message>
     <message>
         <source>To the next &amp;gap</source>
-        <translation>&amp;Au prochain trou</translation>
+        <translation>Au &amp;prochain trou</translation>
     </message>
     <message>
         <source>&amp;Stop following</source>
-        <translation>Arrêter le &amp;suivi</translation>
+        <translation>Arrêter &amp;le suivi</translation>
     </message>
     <message>
         <source>Click &amp;known points</source>
-        <translation>Cli&amp;quer des points connus</translation>
+        <translation>Cliquer &amp;des points connus</translation>
     </message>
     <message>
         <source>&amp;Forget the known points</source>
@@ -21129,7 +21129,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>It lies on the &amp;water</source>
-        <translation>Il est su&amp;r l’eau</translation>
+        <translation>&amp;Il est sur l’eau</translation>
     </message>
     <message>
         <source>whether it lies on the water</source>
@@ -21884,7 +21884,7 @@ Ajoutez-en un à la main avec Ctrl+N, ou déposez ici des fichiers d’interméd
     </message>
     <message>
         <source>%1 s in %2</source>
-        <translation>%1 s en %2</translation>
+        <translation>%1 s à %2</translation>
     </message>
     <message>
         <source>A place better with a total of
