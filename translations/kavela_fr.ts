@@ -8756,7 +8756,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Split, gate or boat &amp;%1</source>
-        <translation>&amp;Intermédiaire, porte ou bateau %1</translation>
+        <translation>Intermédiaire, porte ou bateau &amp;%1</translation>
     </message>
     <message>
         <source>&amp;Time trials</source>
@@ -20194,7 +20194,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>To where the next split is e&amp;xpected</source>
-        <translation>Là &amp;où le prochain intermédiaire est attendu</translation>
+        <translation>&amp;Là où le prochain intermédiaire est attendu</translation>
     </message>
     <message>
         <source>To the start mark</source>
@@ -20202,7 +20202,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>To split &amp;%1</source>
-        <translation>À &amp;l’intermédiaire %1</translation>
+        <translation>À l’intermédiaire &amp;%1</translation>
     </message>
     <message>
         <source>&amp;Gates</source>
