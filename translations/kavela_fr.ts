@@ -5120,7 +5120,7 @@
     </message>
     <message>
         <source>It can go on in the background: the list of jobs (Ctrl+J in Compare films) tells how far it is.</source>
-        <translation>Elle peut continuer en arrière-plan : la liste des tâches (Ctrl+J dans Comparer des films) dit où elle en est.</translation>
+        <translation>La composition peut continuer en arrière-plan : la liste des tâches (Ctrl+J dans Comparer des films) dit où elle en est.</translation>
     </message>
     <message>
         <source>Go on in the background</source>
@@ -15388,7 +15388,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Record</source>
-        <translation>Enregistrer</translation>
+        <translation>Dicter</translation>
     </message>
     <message>
         <source>Play</source>
@@ -15400,7 +15400,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Record what you say to the athlete, or attach a voice message.</source>
-        <translation>Enregistrez ce que vous dites à l’athlète, ou joignez un message vocal.</translation>
+        <translation>Dictez ce que vous voulez dire à l’athlète, ou joignez un message vocal.</translation>
     </message>
     <message>
         <source>This computer has no microphone that can be used.</source>
@@ -15440,7 +15440,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Save the recording</source>
-        <translation>Enregistrer l’enregistrement</translation>
+        <translation>Sauvegarder l’enregistrement</translation>
     </message>
 </context>
 <context>
