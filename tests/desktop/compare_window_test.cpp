@@ -171,7 +171,10 @@ TEST_F(CompareWindowTest, AlignsByPointsThatAreClickedSideBySide) {
             const auto& prepared = window.player().prepared();
             return prepared && prepared->places[0].picture.height == prepared->size.height();
         },
-        CompareWait));
+        CompareWait))
+        << window.player().prepared()->places[0].picture.height << " of "
+        << window.player().prepared()->size.width() << 'x'
+        << window.player().prepared()->size.height();
     for (const QPointF& point : {QPointF(0.1, 0.5), QPointF(0.4, 0.5), QPointF(0.6, 0.25)})
         emit window.view().clicked(point);
     EXPECT_TRUE(window.isAligning());

@@ -288,7 +288,9 @@ TEST_F(LossesWindowTest, TellsWhenTheRunOrItsRivalIsGone) {
 
 TEST_F(LossesWindowTest, WritesThePageForATelephoneFromTheSavedFiles) {
     const QString first = add("first.kvx", threeRuns());
-    ASSERT_TRUE(open({first, add("second.kvx", threeRuns())}, 1));
+    splittakerdata031 second = threeRuns();
+    second.info.comments = "The day after.";
+    ASSERT_TRUE(open({first, add("second.kvx", second)}, 1));
     m_window.askForPhonePage();
     auto* const dialog = m_window.findChild<PhonePageDialog*>();
     ASSERT_TRUE(dialog);

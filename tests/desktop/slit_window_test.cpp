@@ -136,9 +136,14 @@ protected:
     void drawLine() {
         LineOverlay& overlay = m_slit->overlay();
         m_slit->drawLine();
+        ASSERT_TRUE(
+            QTest::qWaitFor([this] { return m_slit->deck().shown(0) != nullptr; }, SlitPatience));
+        QApplication::processEvents(); // the film has its place
         drag(overlay, overlay.placeOf({2, 180}), overlay.placeOf({1918, 180}));
         QTest::qWait(0);
         ASSERT_THAT(m_slit->keeping().file().lines, SizeIs(m_slit->lineNumber() + 1));
+        EXPECT_NEAR(m_slit->line()->x1, 2, 4);
+        EXPECT_NEAR(m_slit->line()->x2, 1918, 4);
         ASSERT_TRUE(QTest::qWaitFor(
             [this] {
                 return !m_slit->loader().isReading() &&

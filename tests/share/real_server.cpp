@@ -94,30 +94,38 @@ void RealServer::put(const std::string& path, const std::string& content) const 
     std::ofstream(file, std::ios::binary) << content;
 }
 
-/// Vouches for itself, and this program is told to believe it: a date is all that can be wrong.
+/// An authority of the server's own vouches for it, and this program is told to believe that one: a
+/// date is all that can be wrong. Its name is its own too, since several servers run in a program.
 void RealServer::makeCertificate(const std::string& end) const {
     (void)m_folder.add("ca.conf", "[ca]\ndefault_ca=own\n[own]\ndatabase=index.txt\nserial=serial\n"
                                   "new_certs_dir=.\ndefault_md=sha256\npolicy=any\n"
                                   "x509_extensions=names\n[any]\ncommonName=supplied\n"
-                                  "[names]\nsubjectAltName=IP:127.0.0.1\n"
-                                  "basicConstraints=critical,CA:TRUE\n");
+                                  "[names]\nsubjectAltName=IP:127.0.0.1\n");
     (void)m_folder.add("index.txt", "");
     (void)m_folder.add("serial", "1000");
+    const QStringList key{"-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1", "-nodes"};
+    const QString authority = "/CN=" + QString::fromStdString(m_folder.path().filename().string());
     ask("openssl",
-        {"req", "-new", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1", "-nodes",
-         "-subj", "/CN=127.0.0.1", "-keyout", "key.pem", "-out", "request.pem"},
+        QStringList{"req", "-x509", "-days", "2", "-subj", authority, "-keyout", "authority.key",
+                    "-out", "authority.pem"} +
+            key,
+        m_folder.path());
+    ask("openssl",
+        QStringList{"req", "-new", "-subj", "/CN=127.0.0.1", "-keyout", "key.pem", "-out",
+                    "request.pem"} +
+            key,
         m_folder.path());
     const QStringList until = end.empty() ? QStringList{"-days", "2"}
                                           : QStringList{"-enddate", QString::fromStdString(end)};
     ask("openssl",
-        QStringList{"ca", "-batch", "-selfsign", "-config", "ca.conf", "-keyfile", "key.pem", "-in",
-                    "request.pem", "-out", "certificate.pem", "-notext", "-startdate",
-                    "20240101000000Z"} +
+        QStringList{"ca", "-batch", "-config", "ca.conf", "-cert", "authority.pem", "-keyfile",
+                    "authority.key", "-in", "request.pem", "-out", "certificate.pem", "-notext",
+                    "-startdate", "20240101000000Z"} +
             until,
         m_folder.path());
     QSslConfiguration trusting = QSslConfiguration::defaultConfiguration();
     trusting.addCaCertificates(
-        QString::fromStdString((m_folder.path() / "certificate.pem").string()));
+        QString::fromStdString((m_folder.path() / "authority.pem").string()));
     QSslConfiguration::setDefaultConfiguration(trusting);
 }
 

@@ -22,12 +22,13 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <span>
 
 namespace kavela::desktop {
 
 namespace {
 
-constexpr int ColumnsOfRecent = 2;
+constexpr std::size_t ColumnsOfRecent = 2;
 constexpr int RowsOfRecent = 2;
 constexpr int LeastRecentHeight = 96; ///< some lines, also where the page scrolls
 
@@ -108,7 +109,16 @@ QWidget* HomeWindow::tiles(const Tools& tools) {
     grid->setHorizontalSpacing(theme::LargeSpacing);
     grid->setVerticalSpacing(theme::Spacing);
     const int columns = static_cast<int>(tools.size());
-    int free = 0; ///< the first row that neither of the last two columns has
+    std::size_t below = 0; ///< the tools of the longer one of these columns
+    for (const ToolGroup& group : std::span(tools).last(std::min(tools.size(), ColumnsOfRecent)))
+        below = std::max(below, group.tools.size());
+    const int rows = static_cast<int>(std::ranges::max(tools, {}, [](const ToolGroup& group) {
+                                          return group.tools.size();
+                                      }).tools.size());
+    const int free = static_cast<int>(below) + 1;
+    // First, so that Tab comes to them before it goes through all tools.
+    grid->addWidget(recentFiles(), free, std::max(0, columns - static_cast<int>(ColumnsOfRecent)),
+                    std::max(RowsOfRecent, rows + 1 - free), static_cast<int>(ColumnsOfRecent));
     int column = 0;
     for (const ToolGroup& group : tools) {
         auto* const heading = label(group.title, theme::titleFont(*this));
@@ -117,11 +127,8 @@ QWidget* HomeWindow::tiles(const Tools& tools) {
         int row = 1;
         for (const Tool& tool : group.tools)
             grid->addWidget(new Tile(tool), row++, column);
-        if (++column > columns - ColumnsOfRecent)
-            free = std::max(free, row);
+        ++column;
     }
-    grid->addWidget(recentFiles(), free, std::max(0, columns - ColumnsOfRecent),
-                    std::max(RowsOfRecent, grid->rowCount() - free), ColumnsOfRecent);
     grid->setColumnStretch(column, 1);
     return box;
 }
