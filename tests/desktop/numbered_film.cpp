@@ -19,7 +19,7 @@ std::string commandFor(const fs::path& film) {
            "color=black:s=16x2:" +
            length +
            ",format=gray,geq=lum='255*gt(bitand(N\\,pow(2\\,X))\\,0)',"
-           "scale=1920:360:flags=neighbor,format=yuv420p[number];"
+           "scale=1920:360:flags=neighbor,setsar=1,format=yuv420p[number];"
            "testsrc2=s=1920x720:" +
            length +
            ",format=yuv420p[moving];[number][moving]vstack\" "
@@ -30,7 +30,7 @@ std::string commandFor(const fs::path& film) {
 } // namespace
 
 fs::path numberedFilm() {
-    const fs::path kept = fs::path(KAVELA_FILM_FOLDER) / "numbered-1080p50.mp4";
+    const fs::path kept = fs::path(KAVELA_FILM_FOLDER) / "numbered-square-1080p50.mp4";
     if (fs::exists(kept))
         return kept;
     fs::create_directories(kept.parent_path());
