@@ -13,11 +13,11 @@
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Result</source>
@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník</translation>
     </message>
     <message>
         <source>not in the selection</source>
@@ -81,19 +81,19 @@
     <name>Desktop</name>
     <message>
         <source>A race</source>
-        <translation type="unfinished"></translation>
+        <translation>Závod</translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmy</translation>
     </message>
     <message>
         <source>The season</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezóna</translation>
     </message>
     <message>
         <source>Training</source>
-        <translation type="unfinished"></translation>
+        <translation>Trénink</translation>
     </message>
 </context>
 <context>
@@ -242,7 +242,7 @@
     <name>MeasureColumns</name>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
 </context>
 <context>
@@ -303,7 +303,7 @@
     </message>
     <message>
         <source>%1 is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 je zapsáno.</translation>
     </message>
 </context>
 <context>
@@ -479,48 +479,49 @@
     <name>RaceExchange</name>
     <message>
         <source>course</source>
-        <translation type="unfinished"></translation>
+        <translation>trať</translation>
     </message>
     <message>
         <source>Names of the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Názvy filmů</translation>
     </message>
     <message>
         <source>How the films are named, such as &quot;{any} {name} {category} {phase}&quot;.
 {name}, {category}, {phase}, {bib}, {number} and {any} stand for what differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak jsou filmy pojmenovány, třeba &quot;{any} {name} {category} {phase}&quot;.
+{name}, {category}, {phase}, {bib}, {number} a {any} zastupují to, co se liší.</translation>
     </message>
     <message>
         <source>Import split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Import souboru mezičasů</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (*.kvx);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Import official results</source>
-        <translation type="unfinished"></translation>
+        <translation>Import oficiálních výsledků</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznamy (*.csv *.txt);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>There are no results in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>V %1 nejsou žádné výsledky.</translation>
     </message>
     <message>
         <source>Create</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytvořit</translation>
     </message>
     <message>
         <source>Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>Přepsat</translation>
     </message>
     <message>
         <source>drawing of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>nákres tratě</translation>
     </message>
 </context>
 <context>
@@ -531,7 +532,7 @@
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí</translation>
     </message>
     <message>
         <source>The chart begins with the first position.</source>
@@ -555,11 +556,11 @@
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Ťuky</translation>
     </message>
     <message>
         <source>Missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojeté branky</translation>
     </message>
     <message>
         <source>Take the season&apos;s statistics from split files to see penalties here.</source>
@@ -575,7 +576,7 @@
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda</translation>
     </message>
     <message>
         <source>Races with a time and a best time stand here.</source>
@@ -627,7 +628,7 @@
     <name>SelectionTakeOver</name>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznamy (*.csv *.txt);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Import athletes</source>
@@ -639,7 +640,7 @@
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat</translation>
     </message>
     <message>
         <source>“%1” cannot be read</source>
@@ -663,7 +664,7 @@
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek %1: %2</translation>
     </message>
     <message>
         <source>Results of which race?</source>
@@ -679,7 +680,7 @@
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (*.kvx);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>There are no results in it.</source>
@@ -702,7 +703,7 @@
     <name>SessionConversion</name>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Čte se…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -760,7 +761,7 @@
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Text oddělený středníky (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -791,7 +792,7 @@
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny soubory (*)</translation>
     </message>
     <message>
         <source>“%1” cannot be read</source>
@@ -912,38 +913,38 @@
     <name>SlitMarking</name>
     <message>
         <source>The film is not read so far.</source>
-        <translation type="unfinished"></translation>
+        <translation>Film není přečten až sem.</translation>
     </message>
     <message>
         <source>There is no proposal at the hair line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na záměrné čáře není žádný návrh.</translation>
     </message>
     <message>
         <source>Nothing can be accepted without a line, its proposals and the race.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez čáry, jejích návrhů a závodu nelze nic přijmout.</translation>
     </message>
     <message>
         <source>proposals accepted</source>
-        <translation type="unfinished"></translation>
+        <translation>návrhy přijaty</translation>
     </message>
 </context>
 <context>
     <name>SplitStatistics</name>
     <message>
         <source>is no split file that can be read</source>
-        <translation type="unfinished"></translation>
+        <translation>není čitelný soubor mezičasů</translation>
     </message>
     <message>
         <source>has no date</source>
-        <translation type="unfinished"></translation>
+        <translation>nemá datum</translation>
     </message>
     <message>
         <source>is of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>patří k %1</translation>
     </message>
     <message>
         <source>has no run of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nemá žádnou jízdu: %1</translation>
     </message>
 </context>
 <context>
@@ -1017,27 +1018,27 @@
     </message>
     <message>
         <source>Mark anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Označit znovu</translation>
     </message>
     <message>
         <source>start mark</source>
-        <translation type="unfinished"></translation>
+        <translation>značka startu</translation>
     </message>
     <message>
         <source>split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>mezičas %1</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>%1:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:  %2</translation>
     </message>
     <message>
         <source>Split %1 was put in between two marks. Ctrl+Z takes it out again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičas %1 byl vložen mezi dvě značky. Ctrl+Z ho zase odebere.</translation>
     </message>
     <message>
         <source>Gate %1 is marked. N goes to the next gate, Shift+M moves the selected mark.</source>
@@ -1061,15 +1062,15 @@
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není vybrána žádná značka. Ctrl a šipky vedou od značky ke značce.</translation>
     </message>
     <message>
         <source>mark moved</source>
-        <translation type="unfinished"></translation>
+        <translation>značka posunuta</translation>
     </message>
     <message>
         <source>mark removed</source>
-        <translation type="unfinished"></translation>
+        <translation>značka odstraněna</translation>
     </message>
     <message>
         <source>Without a start mark the time counts from the beginning of the film.</source>
@@ -1169,11 +1170,11 @@
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Akce</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>On-water test</source>
@@ -2443,19 +2444,19 @@
     </message>
     <message>
         <source>Imported “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Importováno „%1“</translation>
     </message>
     <message>
         <source>“%1” cannot be imported</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze importovat</translation>
     </message>
     <message>
         <source>Watches and phones (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodinky a telefony (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Import from a watch or a phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Import z hodinek nebo telefonu</translation>
     </message>
     <message>
         <source>The rows of the group.</source>
@@ -3011,7 +3012,7 @@
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
-        <translation type="unfinished"></translation>
+        <translation>Příliš málo jízd na to, aby se poznalo, jak kolísají.</translation>
     </message>
     <message>
         <source>From run to run {:.1f} % is chance.</source>
@@ -3339,11 +3340,11 @@
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Úseky</translation>
     </message>
     <message>
         <source>Course</source>
-        <translation type="unfinished"></translation>
+        <translation>Trať</translation>
     </message>
     <message>
         <source>Upstream gates</source>
@@ -3355,11 +3356,11 @@
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Styl</translation>
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>neznámo</translation>
     </message>
     <message>
         <source> (%1 to %2)</source>
@@ -3371,11 +3372,11 @@
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2</translation>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, závod %2</translation>
     </message>
     <message>
         <source>Losses and penalties · %1on the reference &quot;%2&quot; · %3</source>
@@ -3403,7 +3404,7 @@
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízdy</translation>
     </message>
     <message>
         <source>Lost, s</source>
@@ -3411,11 +3412,11 @@
     </message>
     <message>
         <source>A run, s</source>
-        <translation type="unfinished"></translation>
+        <translation>Na jízdu, s</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Procenta</translation>
     </message>
     <message>
         <source>90 % interval</source>
@@ -3423,11 +3424,11 @@
     </message>
     <message>
         <source>Verdict</source>
-        <translation type="unfinished"></translation>
+        <translation>Verdikt</translation>
     </message>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>příliš málo</translation>
     </message>
     <message>
         <source>%1, run %2, %3 %4</source>
@@ -3455,15 +3456,15 @@
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Branky</translation>
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Ťuky</translation>
     </message>
     <message>
         <source>Missed</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojeté</translation>
     </message>
     <message>
         <source>Percent, 90 %</source>
@@ -3483,7 +3484,7 @@
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace</translation>
     </message>
     <message>
         <source>No run tells its penalties by gate.</source>
@@ -3555,15 +3556,15 @@
     </message>
     <message>
         <source>Sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Jednotky</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Veličina</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>plan</source>
@@ -3643,7 +3644,7 @@
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Testy</translation>
     </message>
     <message>
         <source>Morning</source>
@@ -3663,7 +3664,7 @@
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Jednotka</translation>
     </message>
     <message>
         <source>continued</source>
@@ -3687,15 +3688,15 @@
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Poznámky</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>Pen</source>
@@ -3703,7 +3704,7 @@
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem</translation>
     </message>
     <message>
         <source>Gap</source>
@@ -3711,7 +3712,7 @@
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Úsek</translation>
     </message>
     <message>
         <source>Best</source>
@@ -3719,7 +3720,7 @@
     </message>
     <message>
         <source>By</source>
-        <translation type="unfinished"></translation>
+        <translation>Podle</translation>
     </message>
     <message>
         <source>Results</source>
@@ -3731,7 +3732,7 @@
     </message>
     <message>
         <source>Ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ideální jízda</translation>
     </message>
     <message>
         <source>Fastest run</source>
@@ -3739,7 +3740,7 @@
     </message>
     <message>
         <source>Split times</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičasy</translation>
     </message>
     <message>
         <source>There are no runs to show.</source>
@@ -3759,15 +3760,15 @@
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Water</source>
-        <translation type="unfinished"></translation>
+        <translation>Voda</translation>
     </message>
     <message>
         <source>For comparison</source>
@@ -3775,11 +3776,11 @@
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Kat.</translation>
     </message>
     <message>
         <source> Grey: not timed as a whole, never a best.</source>
@@ -3787,11 +3788,11 @@
     </message>
     <message>
         <source>Split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičas %1</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda</translation>
     </message>
     <message>
         <source>%1 s of %2 s; strokes are counted of whole sections.</source>
@@ -3815,7 +3816,7 @@
     </message>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka</translation>
     </message>
     <message>
         <source>Entrance</source>
@@ -3831,23 +3832,23 @@
     </message>
     <message>
         <source>Time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Časové ztráty</translation>
     </message>
     <message>
         <source>Against</source>
-        <translation type="unfinished"></translation>
+        <translation>Proti</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy</translation>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Štítky</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Štítek</translation>
     </message>
     <message>
         <source>In the run at</source>
@@ -3879,11 +3880,11 @@
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí</translation>
     </message>
     <message>
         <source>Penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace</translation>
     </message>
     <message>
         <source>on the film</source>
@@ -3943,7 +3944,7 @@
     </message>
     <message>
         <source>Races</source>
-        <translation type="unfinished"></translation>
+        <translation>Závody</translation>
     </message>
     <message>
         <source>Reached</source>
@@ -3951,15 +3952,15 @@
     </message>
     <message>
         <source>Medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaile</translation>
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finále</translation>
     </message>
     <message>
         <source>Semifinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Semifinále</translation>
     </message>
     <message>
         <source>Medals and finals</source>
@@ -3999,7 +4000,7 @@
     </message>
     <message>
         <source>Met</source>
-        <translation type="unfinished"></translation>
+        <translation>Setkání</translation>
     </message>
     <message>
         <source>Head to head</source>
@@ -4015,7 +4016,7 @@
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník</translation>
     </message>
     <message>
         <source>Chance, %</source>
@@ -4035,7 +4036,7 @@
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodníci</translation>
     </message>
     <message>
         <source>What a rank took: </source>
@@ -4135,7 +4136,7 @@
     </message>
     <message>
         <source>the ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>ideální jízda</translation>
     </message>
     <message>
         <source>the best of each column</source>
@@ -5090,1714 +5091,1714 @@
     <name>kavela::desktop</name>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>the start</source>
-        <translation type="unfinished"></translation>
+        <translation>start</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Stav</translation>
     </message>
     <message>
         <source>To know</source>
-        <translation type="unfinished"></translation>
+        <translation>Poznámka</translation>
     </message>
     <message>
         <source>waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>čeká</translation>
     </message>
     <message>
         <source>there</source>
-        <translation type="unfinished"></translation>
+        <translation>hotovo</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>selhalo</translation>
     </message>
     <message>
         <source>stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>zastaveno</translation>
     </message>
     <message>
         <source>%1, %2:%3 left</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, zbývá %2:%3</translation>
     </message>
     <message>
         <source>A film is still being composed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ještě se skládá jeden film.</translation>
     </message>
     <message>
         <source>%1 films are still being composed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Počet filmů, které se ještě skládají: %1.</translation>
     </message>
     <message>
         <source>It can go on in the background: the list of jobs (Ctrl+J in Compare films) tells how far it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Může to pokračovat na pozadí: seznam úloh (Ctrl+J v Porovnání filmů) ukazuje, jak je to daleko.</translation>
     </message>
     <message>
         <source>Go on in the background</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokračovat na pozadí</translation>
     </message>
     <message>
         <source>Stop it</source>
-        <translation type="unfinished"></translation>
+        <translation>Zastavit</translation>
     </message>
     <message>
         <source>Stay here</source>
-        <translation type="unfinished"></translation>
+        <translation>Zůstat zde</translation>
     </message>
     <message>
         <source>Put together…</source>
-        <translation type="unfinished"></translation>
+        <translation>Skládá se…</translation>
     </message>
     <message>
         <source>Piece %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Část %1 z %2</translation>
     </message>
     <message>
         <source>Checked…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontroluje se…</translation>
     </message>
     <message>
         <source>%1 %, %2 of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %, %2 z %3</translation>
     </message>
     <message>
         <source>Waits</source>
-        <translation type="unfinished"></translation>
+        <translation>Čeká</translation>
     </message>
     <message>
         <source>✓ Fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ Staženo</translation>
     </message>
     <message>
         <source>Fetch</source>
-        <translation type="unfinished"></translation>
+        <translation>Stáhnout</translation>
     </message>
     <message>
         <source>Bib</source>
-        <translation type="unfinished"></translation>
+        <translation>St. č.</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Velikost</translation>
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Server</translation>
     </message>
     <message>
         <source>1 film is ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtnut 1 film</translation>
     </message>
     <message>
         <source>%1 films are ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtnuto filmů: %1</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>staženo: %1</translation>
     </message>
     <message>
         <source>%1 not there yet</source>
-        <translation type="unfinished"></translation>
+        <translation>dosud chybí: %1</translation>
     </message>
     <message>
         <source>%1 failed</source>
-        <translation type="unfinished"></translation>
+        <translation>selhalo: %1</translation>
     </message>
     <message>
         <source>%1 cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>zrušeno: %1</translation>
     </message>
     <message>
         <source>Move the selected mark &amp;here</source>
-        <translation type="unfinished"></translation>
+        <translation>Přesunout vybranou značku &amp;sem</translation>
     </message>
     <message>
         <source>Mark one frame &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Značku o snímek &amp;dříve</translation>
     </message>
     <message>
         <source>Mark one frame &amp;later</source>
-        <translation type="unfinished"></translation>
+        <translation>Značku o snímek &amp;později</translation>
     </message>
     <message>
         <source>&amp;Remove the selected mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstranit vybranou značku</translation>
     </message>
     <message>
         <source>&amp;Previous mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Př&amp;edchozí značka</translation>
     </message>
     <message>
         <source>&amp;Next mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Dalš&amp;í značka</translation>
     </message>
     <message>
         <source>Nobody is called “%1” in these files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nikdo se v těchto souborech nejmenuje „%1“.</translation>
     </message>
     <message>
         <source>Like it: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Podobná jména: %1.</translation>
     </message>
     <message>
         <source>Watched: 80 % of it was shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Zhlédnuto: přehráno 80 % filmu</translation>
     </message>
     <message>
         <source>Of the split file: split taking edits it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ze souboru mezičasů: upravuje se v měření mezičasů</translation>
     </message>
     <message>
         <source>Watched</source>
-        <translation type="unfinished"></translation>
+        <translation>Zhlédnuto</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Délka</translation>
     </message>
     <message>
         <source>Minutes and seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuty a sekundy</translation>
     </message>
     <message>
         <source>At</source>
-        <translation type="unfinished"></translation>
+        <translation>V čase</translation>
     </message>
     <message>
         <source>Moment of the film, minutes and seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Okamžik filmu, minuty a sekundy</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Štítek</translation>
     </message>
     <message>
         <source>Imported “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Importováno „%1“</translation>
     </message>
     <message>
         <source>“%1” cannot be imported</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze importovat</translation>
     </message>
     <message>
         <source>Watches and phones (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodinky a telefony (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Import from a watch or a phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Import z hodinek nebo telefonu</translation>
     </message>
     <message>
         <source>%1 s a run</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s na jízdu</translation>
     </message>
     <message>
         <source>one run</source>
-        <translation type="unfinished"></translation>
+        <translation>jedna jízda</translation>
     </message>
     <message>
         <source>%1 runs</source>
-        <translation type="unfinished"></translation>
+        <translation>jízdy: %1</translation>
     </message>
     <message>
         <source>Where most was lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde se ztratilo nejvíc</translation>
     </message>
     <message>
         <source>Seconds lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztracené sekundy</translation>
     </message>
     <message>
         <source>Of all that was lost, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Ze všech ztrát, %</translation>
     </message>
     <message>
         <source>No section was slower than the reference&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný úsek nebyl pomalejší než u reference.</translation>
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta</translation>
     </message>
     <message>
         <source>Together, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem, %</translation>
     </message>
     <message>
         <source>The gap along the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstup po trati</translation>
     </message>
     <message>
         <source>After section</source>
-        <translation type="unfinished"></translation>
+        <translation>Za úsekem</translation>
     </message>
     <message>
         <source>Seconds behind, without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta v sekundách, bez penalizace</translation>
     </message>
     <message>
         <source>result %1</source>
-        <translation type="unfinished"></translation>
+        <translation>výsledek %1</translation>
     </message>
     <message>
         <source>Lost by what it is lost in</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta podle příčiny</translation>
     </message>
     <message>
         <source>Of the reference&apos;s time, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Z času reference, %</translation>
     </message>
     <message>
         <source>Lost, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta, 90 %</translation>
     </message>
     <message>
         <source>No loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Beze ztráty</translation>
     </message>
     <message>
         <source>By</source>
-        <translation type="unfinished"></translation>
+        <translation>Podle</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Co</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízdy</translation>
     </message>
     <message>
         <source>Lost, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta, %</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>Od</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Do</translation>
     </message>
     <message>
         <source>A run, s</source>
-        <translation type="unfinished"></translation>
+        <translation>Na jízdu, s</translation>
     </message>
     <message>
         <source>No row loses time for sure.</source>
-        <translation type="unfinished"></translation>
+        <translation>V žádném řádku není ztráta jistá.</translation>
     </message>
     <message>
         <source>Most for sure: %1 %2, %3 s a run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejjistější ztráta: %1 %2, %3 s na jízdu.</translation>
     </message>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka</translation>
     </message>
     <message>
         <source>Gate %1 of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1 úseku</translation>
     </message>
     <message>
         <source>Lost in an upstream gate of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta v protivodné brance úseku</translation>
     </message>
     <message>
         <source>%1:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:  %2</translation>
     </message>
     <message>
         <source>upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>protivodná</translation>
     </message>
     <message>
         <source>downstream</source>
-        <translation type="unfinished"></translation>
+        <translation>povodná</translation>
     </message>
     <message>
         <source>several sections</source>
-        <translation type="unfinished"></translation>
+        <translation>více úseků</translation>
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>neznámo</translation>
     </message>
     <message>
         <source>a race without a name</source>
-        <translation type="unfinished"></translation>
+        <translation>závod beze jména</translation>
     </message>
     <message>
         <source>Run %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda %1</translation>
     </message>
     <message>
         <source>winner</source>
-        <translation type="unfinished"></translation>
+        <translation>vítěz</translation>
     </message>
     <message>
         <source>fastest paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>nejrychlejší čistý čas</translation>
     </message>
     <message>
         <source>ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>ideální jízda</translation>
     </message>
     <message>
         <source>median of the finalists</source>
-        <translation type="unfinished"></translation>
+        <translation>medián finalistů</translation>
     </message>
     <message>
         <source>own best other run</source>
-        <translation type="unfinished"></translation>
+        <translation>vlastní nejlepší jiná jízda</translation>
     </message>
     <message>
         <source>a rival</source>
-        <translation type="unfinished"></translation>
+        <translation>soupeř</translation>
     </message>
     <message>
         <source>Open a race to see where time is lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřete závod a uvidíte, kde se ztrácí čas.</translation>
     </message>
     <message>
         <source>The crew has no other whole run here to be held against. Choose another reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Posádka zde nemá jinou úplnou jízdu k porovnání. Zvolte jinou referenci.</translation>
     </message>
     <message>
         <source>There is no %1 here to hold the run against. Choose another reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reference „%1“ tu není. Zvolte jinou.</translation>
     </message>
     <message>
         <source>The two have no section in common that is timed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obě jízdy nemají společný žádný změřený úsek.</translation>
     </message>
     <message>
         <source>%1: nothing to be held against</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: není s čím porovnat</translation>
     </message>
     <message>
         <source>%1  %2 on %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2 proti %3</translation>
     </message>
     <message>
         <source>%1: no section in common with %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: žádný společný úsek s %2</translation>
     </message>
     <message>
         <source>%1  %2 on %3 in %4 (no total)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2 proti %3, závod %4 (bez celkového času)</translation>
     </message>
     <message>
         <source>Explained by notes: %1 of %2 (%3 %)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vysvětleno poznámkami: %1 z %2 (%3 %)</translation>
     </message>
     <message>
         <source>Most was lost in %1: %2 s of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejvíc se ztratilo v úseku %1: %2 s z %3.</translation>
     </message>
     <message>
         <source>Penalties make %1 of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace z toho tvoří %1.</translation>
     </message>
     <message>
         <source>All %1 of the slower sections are needed to explain most of the loss.</source>
-        <translation type="unfinished"></translation>
+        <translation>Většinu ztráty vysvětlí až všechny pomalejší úseky (%1).</translation>
     </message>
     <message>
         <source>%1 alone makes %2 % of what was lost in slower sections.</source>
-        <translation type="unfinished"></translation>
+        <translation>Samotný úsek %1 tvoří %2 % toho, co se v pomalejších úsecích ztratilo.</translation>
     </message>
     <message>
         <source>%1 of %2 slower sections make %3 % of what was lost in them.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2 pomalejších úseků tvoří %3 % toho, co se v nich ztratilo.</translation>
     </message>
     <message>
         <source>Nobody was slower than the reference in a section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nikdo nebyl v žádném úseku pomalejší než reference.</translation>
     </message>
     <message>
         <source>The greatest loss is that of %1 in S%2: %3 on %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Největší ztráta: %1 v S%2, %3 proti %4.</translation>
     </message>
     <message>
         <source>Never behind the %1; %2 at the end of S%3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nikdy ve ztrátě (reference: %1); %2 na konci S%3.</translation>
     </message>
     <message>
         <source>Farthest behind at the end: %1 after S%2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Největší odstup je až na konci: %1 za S%2.</translation>
     </message>
     <message>
         <source>Farthest behind after S%1: %2; %3 after S%4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Největší odstup za S%1: %2; za S%4 %3.</translation>
     </message>
     <message>
         <source>no motion of the boat</source>
-        <translation type="unfinished"></translation>
+        <translation>žádný pohyb lodi</translation>
     </message>
     <message>
         <source>a hole of %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>mezera %1 s</translation>
     </message>
     <message>
         <source>%1 holes, the longest of %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>mezer: %1, nejdelší %2 s</translation>
     </message>
     <message>
         <source>the clock ran backwards once</source>
-        <translation type="unfinished"></translation>
+        <translation>hodiny jednou běžely pozpátku</translation>
     </message>
     <message>
         <source>the clock ran backwards %1 times</source>
-        <translation type="unfinished"></translation>
+        <translation>hodiny běžely pozpátku, počet: %1</translation>
     </message>
     <message>
         <source>a moment stands twice</source>
-        <translation type="unfinished"></translation>
+        <translation>jeden okamžik je zapsán dvakrát</translation>
     </message>
     <message>
         <source>%1 moments stand twice</source>
-        <translation type="unfinished"></translation>
+        <translation>okamžiků zapsaných dvakrát: %1</translation>
     </message>
     <message>
         <source>Top to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Horem ke špičce</translation>
     </message>
     <message>
         <source>Bottom to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Spodkem ke špičce</translation>
     </message>
     <message>
         <source>Right to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Pravou stranou ke špičce</translation>
     </message>
     <message>
         <source>Left to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Levou stranou ke špičce</translation>
     </message>
     <message>
         <source>Back to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Zadní stranou ke špičce</translation>
     </message>
     <message>
         <source>Screen to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Displejem ke špičce</translation>
     </message>
     <message>
         <source>%1 of %2 touched</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2 s ťukem</translation>
     </message>
     <message>
         <source>Touched, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Ťuky, %</translation>
     </message>
     <message>
         <source>Ranked rate, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Srovnávací podíl, 90 %</translation>
     </message>
     <message>
         <source>Touched</source>
-        <translation type="unfinished"></translation>
+        <translation>S ťukem</translation>
     </message>
     <message>
         <source>All in common</source>
-        <translation type="unfinished"></translation>
+        <translation>Všude stejně</translation>
     </message>
     <message>
         <source>No run that is asked for has its penalties by gate. Enter them for each gate to see where they happen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná z hledaných jízd nemá penalizace po brankách. Zadejte je u každé branky a uvidíte, kde vznikají.</translation>
     </message>
     <message>
         <source>Passages</source>
-        <translation type="unfinished"></translation>
+        <translation>Průjezdy</translation>
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Ťuky</translation>
     </message>
     <message>
         <source>Missed</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojeté</translation>
     </message>
     <message>
         <source>Touch rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Podíl ťuků</translation>
     </message>
     <message>
         <source>Ranked rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Srovnávací podíl</translation>
     </message>
     <message>
         <source>Above</source>
-        <translation type="unfinished"></translation>
+        <translation>Nad</translation>
     </message>
     <message>
         <source>Gate %1, upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1, protivodná</translation>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1</translation>
     </message>
     <message>
         <source>%1 missed</source>
-        <translation type="unfinished"></translation>
+        <translation>neprojeto: %1</translation>
     </message>
     <message>
         <source>stands out</source>
-        <translation type="unfinished"></translation>
+        <translation>vyčnívá</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2</translation>
     </message>
     <message>
         <source>(not given)</source>
-        <translation type="unfinished"></translation>
+        <translation>(neuvedeno)</translation>
     </message>
     <message>
         <source>%1: touches at the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ťuky na brankách</translation>
     </message>
     <message>
         <source>Gates in order; ◀ upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Branky v pořadí; ◀ protivodné</translation>
     </message>
     <message>
         <source>Upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Protivodná</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Úsek</translation>
     </message>
     <message>
         <source>Touches %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ťuky %1</translation>
     </message>
     <message>
         <source> (the highest %1, %2 more in the table)</source>
-        <translation type="unfinished"></translation>
+        <translation> (nejvyšších %1, dalších %2 v tabulce)</translation>
     </message>
     <message>
         <source>What was noted of penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Co bylo u penalizací poznamenáno</translation>
     </message>
     <message>
         <source>Of those noted, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Z poznamenaných, %</translation>
     </message>
     <message>
         <source>Share, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Podíl, 90 %</translation>
     </message>
     <message>
         <source>Noted as</source>
-        <translation type="unfinished"></translation>
+        <translation>Poznamenáno jako</translation>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace</translation>
     </message>
     <message>
         <source>Of</source>
-        <translation type="unfinished"></translation>
+        <translation>Z</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Podíl</translation>
     </message>
     <message>
         <source>Most of one kind: %1 %2, %3 of %4 noted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejčastější: %1 %2, %3 z %4 poznamenaných.</translation>
     </message>
     <message>
         <source>fastest third</source>
-        <translation type="unfinished"></translation>
+        <translation>nejrychlejší třetina</translation>
     </message>
     <message>
         <source>middle third</source>
-        <translation type="unfinished"></translation>
+        <translation>střední třetina</translation>
     </message>
     <message>
         <source>slowest third</source>
-        <translation type="unfinished"></translation>
+        <translation>nejpomalejší třetina</translation>
     </message>
     <message>
         <source>Risk and speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Riziko a rychlost</translation>
     </message>
     <message>
         <source>Paddling time, % of the group&apos;s median</source>
-        <translation type="unfinished"></translation>
+        <translation>Čistý čas, % mediánu skupiny</translation>
     </message>
     <message>
         <source>Touches a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ťuky na jízdu</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>Equally fast in all</source>
-        <translation type="unfinished"></translation>
+        <translation>Všude stejně rychle</translation>
     </message>
     <message>
         <source>not planned</source>
-        <translation type="unfinished"></translation>
+        <translation>neplánováno</translation>
     </message>
     <message>
         <source>planned</source>
-        <translation type="unfinished"></translation>
+        <translation>naplánováno</translation>
     </message>
     <message>
         <source>Sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Jednotky</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Veličina</translation>
     </message>
     <message>
         <source>What the sessions add up to, in the unit that they are written in</source>
-        <translation type="unfinished"></translation>
+        <translation>Součet za jednotky, v měrné jednotce, v níž jsou zapsány</translation>
     </message>
     <message>
         <source>In the sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>V jednotkách</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Akce</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>Penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace</translation>
     </message>
     <message>
         <source>Behind best</source>
-        <translation type="unfinished"></translation>
+        <translation>Za nejlepším</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Branky</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Jednotka</translation>
     </message>
     <message>
         <source>Missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojeté branky</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník</translation>
     </message>
     <message>
         <source>From the first run of the heats to the second</source>
-        <translation type="unfinished"></translation>
+        <translation>Z první do druhé kvalifikační jízdy</translation>
     </message>
     <message>
         <source>From the semifinal to the final</source>
-        <translation type="unfinished"></translation>
+        <translation>Ze semifinále do finále</translation>
     </message>
     <message>
         <source>From the heats to the final</source>
-        <translation type="unfinished"></translation>
+        <translation>Z kvalifikace do finále</translation>
     </message>
     <message>
         <source>Medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaile</translation>
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finále</translation>
     </message>
     <message>
         <source>Semifinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Semifinále</translation>
     </message>
     <message>
         <source>too few for a range</source>
-        <translation type="unfinished"></translation>
+        <translation>na rozmezí příliš málo</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 až %2</translation>
     </message>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>příliš málo</translation>
     </message>
     <message>
         <source>Change behind, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Změna ztráty, %</translation>
     </message>
     <message>
         <source>Change, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Změna, %</translation>
     </message>
     <message>
         <source>Races</source>
-        <translation type="unfinished"></translation>
+        <translation>Závody</translation>
     </message>
     <message>
         <source>Typical error, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Typická chyba, %</translation>
     </message>
     <message>
         <source>No change</source>
-        <translation type="unfinished"></translation>
+        <translation>Beze změny</translation>
     </message>
     <message>
         <source>No race of the team has both.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný závod týmu nemá obojí.</translation>
     </message>
     <message>
         <source>How much runs vary by chance</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak moc jízdy kolísají náhodou</translation>
     </message>
     <message>
         <source>Within, %</source>
-        <translation type="unfinished"></translation>
+        <translation>V závodě, %</translation>
     </message>
     <message>
         <source>Own alone, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen vlastní, %</translation>
     </message>
     <message>
         <source>With a missed gate</source>
-        <translation type="unfinished"></translation>
+        <translation>S neprojetou brankou</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
-        <translation type="unfinished"></translation>
+        <translation>Příliš málo jízd na to, aby se poznalo, jak kolísají.</translation>
     </message>
     <message>
         <source>Trend behind the winners</source>
-        <translation type="unfinished"></translation>
+        <translation>Trend ztráty za vítězi</translation>
     </message>
     <message>
         <source>Trend behind the fastest splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Trend ztráty za nejrychlejšími mezičasy</translation>
     </message>
     <message>
         <source>A year, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Za rok, %</translation>
     </message>
     <message>
         <source>Verdict</source>
-        <translation type="unfinished"></translation>
+        <translation>Verdikt</translation>
     </message>
     <message>
         <source>Too few runs of everybody to tell a trend: four over two months are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na trend je jízd každého příliš málo: je třeba čtyř během více než dvou měsíců.</translation>
     </message>
     <message>
         <source>%1 against</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 proti</translation>
     </message>
     <message>
         <source>Against</source>
-        <translation type="unfinished"></translation>
+        <translation>Proti</translation>
     </message>
     <message>
         <source>Ahead, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Vpředu, %</translation>
     </message>
     <message>
         <source>Met</source>
-        <translation type="unfinished"></translation>
+        <translation>Setkání</translation>
     </message>
     <message>
         <source>Won</source>
-        <translation type="unfinished"></translation>
+        <translation>Výhry</translation>
     </message>
     <message>
         <source>Gap, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstup, %</translation>
     </message>
     <message>
         <source>Gap 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstup 90 %</translation>
     </message>
     <message>
         <source>Half</source>
-        <translation type="unfinished"></translation>
+        <translation>Polovina</translation>
     </message>
     <message>
         <source>The athlete met nobody in these races.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník se v těchto závodech s nikým nesetkal.</translation>
     </message>
     <message>
         <source>Of races, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Ze závodů, %</translation>
     </message>
     <message>
         <source>No race of the team has a result that says so.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný závod týmu nemá výsledek, který by to ukázal.</translation>
     </message>
     <message>
         <source>Expected places among %1 boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Očekávaná místa mezi loděmi: %1</translation>
     </message>
     <message>
         <source>Boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Loď</translation>
     </message>
     <message>
         <source>Medal, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaile, %</translation>
     </message>
     <message>
         <source>First, %</source>
-        <translation type="unfinished"></translation>
+        <translation>První, %</translation>
     </message>
     <message>
         <source>Missed gate, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojetá, %</translation>
     </message>
     <message>
         <source>Too few runs to expect places of anybody: each boat needs three, and the boats must have met.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na odhad umístění je jízd příliš málo: každá loď potřebuje tři a lodě se musí potkat.</translation>
     </message>
     <message>
         <source>What ranks took: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Co stačilo na umístění: %1</translation>
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí</translation>
     </message>
     <message>
         <source>Behind the winner, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Za vítězem, %</translation>
     </message>
     <message>
         <source>Quartiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Kvartily</translation>
     </message>
     <message>
         <source>Least</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejméně</translation>
     </message>
     <message>
         <source>Most</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejvíce</translation>
     </message>
     <message>
         <source>%1 would have</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 by měl(a)</translation>
     </message>
     <message>
         <source>Median of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Medián: %1</translation>
     </message>
     <message>
         <source>The first %1, %2 more in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Prvních %1, dalších %2 v tabulce</translation>
     </message>
     <message>
         <source>&amp;Import .kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importovat soubor .kvb</translation>
     </message>
     <message>
         <source>Import .s&amp;bm file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat soubor .s&amp;bm</translation>
     </message>
     <message>
         <source>Import from a &amp;watch or logger…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat z &amp;hodinek nebo záznamníku…</translation>
     </message>
     <message>
         <source>Move the trac&amp;k of the watch in time…</source>
-        <translation type="unfinished"></translation>
+        <translation>Posunout stopu hodinek v č&amp;ase…</translation>
     </message>
     <message>
         <source>Import &amp;power-meter data…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat data &amp;wattmetru…</translation>
     </message>
     <message>
         <source>Save the edited .&amp;kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit upravený soubor .&amp;kvb</translation>
     </message>
     <message>
         <source>&amp;Export the strokes…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportovat záběry…</translation>
     </message>
     <message>
         <source>Export the &amp;turns…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportovat o&amp;braty…</translation>
     </message>
     <message>
         <source>Export the se&amp;gments…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportovat ú&amp;seky…</translation>
     </message>
     <message>
         <source>Export the values per &amp;distance…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportovat hodnoty po &amp;vzdálenosti…</translation>
     </message>
     <message>
         <source>Mount of the p&amp;hone</source>
-        <translation type="unfinished"></translation>
+        <translation>Upevnění &amp;telefonu</translation>
     </message>
     <message>
         <source>Found from the position</source>
-        <translation type="unfinished"></translation>
+        <translation>Zjištěno z polohy</translation>
     </message>
     <message>
         <source>Session &amp;information…</source>
-        <translation type="unfinished"></translation>
+        <translation>In&amp;formace o jednotce…</translation>
     </message>
     <message>
         <source>&amp;Analyse the recording again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Analyzovat záznam znovu</translation>
     </message>
     <message>
         <source>&amp;Keep the selected stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ponechat vybranou část</translation>
     </message>
     <message>
         <source>Remove the selected &amp;stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit &amp;vybranou část</translation>
     </message>
     <message>
         <source>Re&amp;move the selected strokes, turns or mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit vybrané &amp;záběry, obraty nebo značku</translation>
     </message>
     <message>
         <source>Select &amp;nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nic nevybírat</translation>
     </message>
     <message>
         <source>&amp;Segments</source>
-        <translation type="unfinished"></translation>
+        <translation>Ú&amp;seky</translation>
     </message>
     <message>
         <source>&amp;Mark here</source>
-        <translation type="unfinished"></translation>
+        <translation>Z&amp;načka sem</translation>
     </message>
     <message>
         <source>Mo&amp;ve the nearest mark here</source>
-        <translation type="unfinished"></translation>
+        <translation>Přesunout nejbližší značku s&amp;em</translation>
     </message>
     <message>
         <source>Nearest mark &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejbližší značku &amp;dříve</translation>
     </message>
     <message>
         <source>Nearest mark &amp;later</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejbližší značku &amp;později</translation>
     </message>
     <message>
         <source>&amp;Remove the nearest mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstranit nejbližší značku</translation>
     </message>
     <message>
         <source>Remove &amp;all marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit &amp;všechny značky</translation>
     </message>
     <message>
         <source>&amp;Save the segments</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uložit úseky</translation>
     </message>
     <message>
         <source>&amp;Replay</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přehrávání</translation>
     </message>
     <message>
         <source>&amp;Play, pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehrát, &amp;pozastavit</translation>
     </message>
     <message>
         <source>&amp;Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Po&amp;maleji</translation>
     </message>
     <message>
         <source>&amp;Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rychleji</translation>
     </message>
     <message>
         <source>&amp;Real time</source>
-        <translation type="unfinished"></translation>
+        <translation>Skutečným &amp;tempem</translation>
     </message>
     <message>
         <source>P&amp;revious stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Př&amp;edchozí záběr</translation>
     </message>
     <message>
         <source>&amp;Next stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Další záběr</translation>
     </message>
     <message>
         <source>&amp;Start</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Začátek</translation>
     </message>
     <message>
         <source>&amp;End</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Konec</translation>
     </message>
     <message>
         <source>&amp;Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grafy</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zobrazení</translation>
     </message>
     <message>
         <source>&amp;Zoom to the selected stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Přiblížit &amp;vybranou část</translation>
     </message>
     <message>
         <source>&amp;Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Při&amp;způsobit</translation>
     </message>
     <message>
         <source>%1; “%2” is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; „%2“ mezi ně nepatří.</translation>
     </message>
     <message>
         <source>%1 is of release %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 je verze %2.</translation>
     </message>
     <message>
         <source>Its folder %1 cannot be written, so that the analyzer shows it and leaves it as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Do jeho složky %1 nelze zapisovat, proto jej analýza jen ukáže a ponechá, jak je.</translation>
     </message>
     <message>
         <source>Who of the team it is; a question mark: only you can tell</source>
-        <translation type="unfinished"></translation>
+        <translation>Kdo z týmu to je; otazník: to víte jen vy</translation>
     </message>
     <message>
         <source> or </source>
-        <translation type="unfinished"></translation>
+        <translation> nebo </translation>
     </message>
     <message>
         <source>Reckoned from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Vypočteno ze seznamu</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Sloupec</translation>
     </message>
     <message>
         <source>What stands there</source>
-        <translation type="unfinished"></translation>
+        <translation>Co tam stojí</translation>
     </message>
     <message>
         <source>Why it is not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Proč se to nepřevezme</translation>
     </message>
     <message>
         <source>Results list</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledková listina</translation>
     </message>
     <message>
         <source>Attached document</source>
-        <translation type="unfinished"></translation>
+        <translation>Přiložený dokument</translation>
     </message>
     <message>
         <source>Table kept with the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka uchovaná u závodu</translation>
     </message>
     <message>
         <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznamy (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>The least is %1 (%2), the most %3 (%4), of %5 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejmenší je %1 (%2), největší %3 (%4), řádků: %5</translation>
     </message>
     <message>
         <source>; %1 without a number are left out</source>
-        <translation type="unfinished"></translation>
+        <translation>; bez čísla vynecháno: %1</translation>
     </message>
     <message>
         <source>Choose a column of numbers or times: a click on one of its cells, then C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte sloupec čísel nebo časů: klikněte na některou jeho buňku, pak C.</translation>
     </message>
     <message>
         <source>Row</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek</translation>
     </message>
     <message>
         <source>No row has a number in this column.</source>
-        <translation type="unfinished"></translation>
+        <translation>V tomto sloupci nemá žádný řádek číslo.</translation>
     </message>
     <message>
         <source>&amp;Day</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Den</translation>
     </message>
     <message>
         <source>Start &amp;list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Startovní &amp;listina…</translation>
     </message>
     <message>
         <source>Films &amp;from…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filmy z…</translation>
     </message>
     <message>
         <source>Reckon with the camera&apos;s &amp;clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Počítat s &amp;hodinami kamery</translation>
     </message>
     <message>
         <source>&amp;Remove the boat from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstranit loď z listiny</translation>
     </message>
     <message>
         <source>To the next film that is not &amp;timed yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Na další film, který ještě není &amp;změřen</translation>
     </message>
     <message>
         <source>&amp;Open the film of the start in front</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít vpředu film startu</translation>
     </message>
     <message>
         <source>&amp;Previous start</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Předchozí start</translation>
     </message>
     <message>
         <source>&amp;Next start</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Další start</translation>
     </message>
     <message>
         <source>&amp;Agree: the film is named after its boat</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Souhlas: film se pojmenuje podle své lodi</translation>
     </message>
     <message>
         <source>Agree to all that are &amp;sure</source>
-        <translation type="unfinished"></translation>
+        <translation>Souhlas se všemi &amp;jistými</translation>
     </message>
     <message>
         <source>Films from here on: one start &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmy odtud dál: o start dří&amp;ve</translation>
     </message>
     <message>
         <source>Films from here on: one start late&amp;r</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmy odtud dál: o start po&amp;zději</translation>
     </message>
     <message>
         <source>Did not start, or did after all</source>
-        <translation type="unfinished"></translation>
+        <translation>Nestartoval, nebo přece jen ano</translation>
     </message>
     <message>
         <source>Did not finish, or did after all</source>
-        <translation type="unfinished"></translation>
+        <translation>Nedojel, nebo přece jen ano</translation>
     </message>
     <message>
         <source>&amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Poznámky</translation>
     </message>
     <message>
         <source>Stroke on the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Záběr vlevo</translation>
     </message>
     <message>
         <source>Stroke on the right</source>
-        <translation type="unfinished"></translation>
+        <translation>Záběr vpravo</translation>
     </message>
     <message>
         <source>Other hand for the selected stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Druhá ruka u vybraného záběru</translation>
     </message>
     <message>
         <source>Play from the selected tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehrát od vybraného štítku</translation>
     </message>
     <message>
         <source>To the other run of the time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Na druhou jízdu časové ztráty</translation>
     </message>
     <message>
         <source>Record the team radio, or end it</source>
-        <translation type="unfinished"></translation>
+        <translation>Nahrávat týmovou vysílačku, nebo ukončit</translation>
     </message>
     <message>
         <source>Clips of the chosen marks, one after another</source>
-        <translation type="unfinished"></translation>
+        <translation>Výřezy zvolených značek, jeden po druhém</translation>
     </message>
     <message>
         <source>Add a &amp;category</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat &amp;kategorii</translation>
     </message>
     <message>
         <source>&amp;Team</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tým</translation>
     </message>
     <message>
         <source>&amp;New athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nový závodník…</translation>
     </message>
     <message>
         <source>Remo&amp;ve the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstranit závodníka</translation>
     </message>
     <message>
         <source>Re&amp;move the category</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit &amp;kategorii</translation>
     </message>
     <message>
         <source>New &amp;season</source>
-        <translation type="unfinished"></translation>
+        <translation>Nová &amp;sezóna</translation>
     </message>
     <message>
         <source>New &amp;race</source>
-        <translation type="unfinished"></translation>
+        <translation>Nový &amp;závod</translation>
     </message>
     <message>
         <source>Move season or race &amp;up</source>
-        <translation type="unfinished"></translation>
+        <translation>Posunout sezónu nebo závod nahor&amp;u</translation>
     </message>
     <message>
         <source>Move season or race &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>Posunout sezónu nebo závod &amp;dolů</translation>
     </message>
     <message>
         <source>Where the athlete &amp;loses time…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde závodník &amp;ztrácí čas…</translation>
     </message>
     <message>
         <source>S&amp;eason of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;ezóna závodníka</translation>
     </message>
     <message>
         <source>Compute all a&amp;verages again</source>
-        <translation type="unfinished"></translation>
+        <translation>Přepočítat všechny &amp;průměry</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Najít závodníka</translation>
     </message>
     <message>
         <source>Take &amp;results over…</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít výs&amp;ledky…</translation>
     </message>
     <message>
         <source>Cate&amp;gorization report…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zpráva o kate&amp;gorizaci…</translation>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit g&amp;raf…</translation>
     </message>
     <message>
         <source>&amp;Edit the cell</source>
-        <translation type="unfinished"></translation>
+        <translation>Upravit &amp;buňku</translation>
     </message>
     <message>
         <source>&amp;Remove what is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit &amp;vybrané</translation>
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodníci</translation>
     </message>
     <message>
         <source>Selection %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nominace %1</translation>
     </message>
     <message>
         <source>Race analyzer</source>
-        <translation type="unfinished"></translation>
+        <translation>Analýza závodu</translation>
     </message>
     <message>
         <source>Every split of a race side by side, coloured by rank.</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny mezičasy závodu vedle sebe, obarvené podle pořadí.</translation>
     </message>
     <message>
         <source>Open races</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít závody</translation>
     </message>
     <message>
         <source>Split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů</translation>
     </message>
     <message>
         <source>Time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Časové ztráty</translation>
     </message>
     <message>
         <source>Where each run lost its time, section by section, and a season&apos;s pattern.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde která jízda ztratila čas, úsek po úseku, a jak je to za celou sezónu.</translation>
     </message>
     <message>
         <source>Open split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít soubory mezičasů</translation>
     </message>
     <message>
         <source>Split taking</source>
-        <translation type="unfinished"></translation>
+        <translation>Měření mezičasů</translation>
     </message>
     <message>
         <source>Time every run from its video, exact to the frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>Změřte každou jízdu z videa, s přesností na snímek.</translation>
     </message>
     <message>
         <source>Open a folder of videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít složku videí</translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmy</translation>
     </message>
     <message>
         <source>A folder of films played, compared in step, tagged, renamed and cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka filmů: přehrávat, porovnávat v kroku, opatřit štítky, přejmenovat, stříhat.</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít složku filmů</translation>
     </message>
     <message>
         <source>Kayak cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Kayak cross</translation>
     </message>
     <message>
         <source>Time trials, heats and attacks of a cross race, from video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Časovky, rozjížďky a útoky závodu v crossu, z videa.</translation>
     </message>
     <message>
         <source>Open a kayak cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít kayak cross</translation>
     </message>
     <message>
         <source>Compare films</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnání filmů</translation>
     </message>
     <message>
         <source>Two to four runs in one picture, together at a split, as a film to take home.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dvě až čtyři jízdy v jednom obraze, srovnané v mezičase, jako film domů.</translation>
     </message>
     <message>
         <source>Comparisons of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnání filmů</translation>
     </message>
     <message>
         <source>Comparisons</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnání</translation>
     </message>
     <message>
         <source>Comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnání</translation>
     </message>
     <message>
         <source>Team</source>
-        <translation type="unfinished"></translation>
+        <translation>Tým</translation>
     </message>
     <message>
         <source>Results of every athlete, season by season, and their category.</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledky každého závodníka, sezónu po sezóně, a jejich kategorie.</translation>
     </message>
     <message>
         <source>Team results</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledky týmu</translation>
     </message>
     <message>
         <source>Teams</source>
-        <translation type="unfinished"></translation>
+        <translation>Týmy</translation>
     </message>
     <message>
         <source>Selection races</source>
-        <translation type="unfinished"></translation>
+        <translation>Nominační závody</translation>
     </message>
     <message>
         <source>Who is selected, by which results, and why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kdo je nominován, na základě kterých výsledků a proč.</translation>
     </message>
     <message>
         <source>Planning</source>
-        <translation type="unfinished"></translation>
+        <translation>Plánování</translation>
     </message>
     <message>
         <source>Seasons, weeks and sessions, heart, gym and goals of a group.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezóny, týdny a jednotky, srdce, posilovna a cíle skupiny.</translation>
     </message>
     <message>
         <source>Plannings</source>
-        <translation type="unfinished"></translation>
+        <translation>Plánování</translation>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Testy</translation>
     </message>
     <message>
         <source>Lap, sprint and eight tests on the water, compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Testy na kola, sprint a osmičky na vodě, porovnané.</translation>
     </message>
     <message>
         <source>Boat motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Pohyb lodi</translation>
     </message>
     <message>
         <source>Recordings of phone and watch over each other, and converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznamy telefonu a hodinek přes sebe, i převedené.</translation>
     </message>
     <message>
         <source>Open recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít záznamy</translation>
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznamy</translation>
     </message>
     <message>
         <source>Strokes, turns and segments of a recording, on a map and replayed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Záběry, obraty a úseky záznamu, na mapě i přehrané.</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledání</translation>
     </message>
     <message>
         <source>Every gate, penalty and run of all seasons, by one question.</source>
-        <translation type="unfinished"></translation>
+        <translation>Každá branka, penalizace a jízda všech sezón, jedním dotazem.</translation>
     </message>
     <message>
         <source>Search files</source>
-        <translation type="unfinished"></translation>
+        <translation>Prohledat soubory</translation>
     </message>
     <message>
         <source>Which gates are touched, by whom, and what it cost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na kterých brankách se ťuká, kdo a co to stálo.</translation>
     </message>
     <message>
         <source>Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulky</translation>
     </message>
     <message>
         <source>Any list of results, sorted, tinted, reckoned with, and whose it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jakýkoli seznam výsledků: třídit, obarvit, počítat s ním a vidět, čí je.</translation>
     </message>
     <message>
         <source>Open lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít seznamy</translation>
     </message>
     <message>
         <source>Lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznamy</translation>
     </message>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezóna</translation>
     </message>
     <message>
         <source>How a team&apos;s athletes stand: trend, rivals, medals, what it takes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak jsou na tom závodníci týmu: trend, soupeři, medaile a co je k nim třeba.</translation>
     </message>
     <message>
         <source>Open a team</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít tým</translation>
     </message>
     <message>
         <source>Fetch films</source>
-        <translation type="unfinished"></translation>
+        <translation>Stažení filmů</translation>
     </message>
     <message>
         <source>The films of a race from a server, by the bibs of a start list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmy závodu ze serveru, podle startovních čísel listiny.</translation>
     </message>
     <message>
         <source>Open a source of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít zdroj filmů</translation>
     </message>
     <message>
         <source>Sources of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdroje filmů</translation>
     </message>
     <message>
         <source>Test session</source>
-        <translation type="unfinished"></translation>
+        <translation>Testovací jednotka</translation>
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Test</translation>
     </message>
     <message>
         <source>New &amp;lap test</source>
-        <translation type="unfinished"></translation>
+        <translation>Nový test na &amp;kola</translation>
     </message>
     <message>
         <source>New &amp;sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Nový &amp;sprint</translation>
     </message>
     <message>
         <source>New &amp;eight test</source>
-        <translation type="unfinished"></translation>
+        <translation>Nový test &amp;osmičky</translation>
     </message>
     <message>
         <source>&amp;Duplicate the test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Duplikovat test</translation>
     </message>
     <message>
         <source>&amp;Previous test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Předchozí test</translation>
     </message>
     <message>
         <source>Ne&amp;xt test</source>
-        <translation type="unfinished"></translation>
+        <translation>Da&amp;lší test</translation>
     </message>
     <message>
         <source>&amp;Compare with the athlete&apos;s other tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnat s jinými testy &amp;závodníka</translation>
     </message>
     <message>
         <source>&amp;Tick every listed test</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtnout všechny testy v &amp;seznamu</translation>
     </message>
     <message>
         <source>&amp;Untick all</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit všechna zaškrt&amp;nutí</translation>
     </message>
     <message>
         <source>&amp;Values</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hodnoty</translation>
     </message>
     <message>
         <source>&amp;Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Ta&amp;bulka</translation>
     </message>
     <message>
         <source>Charts by &amp;lap or stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafy po &amp;kole či části</translation>
     </message>
     <message>
         <source>Charts by t&amp;urn</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafy po ob&amp;ratu</translation>
     </message>
     <message>
         <source>Charts by &amp;stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafy po zá&amp;běru</translation>
     </message>
     <message>
         <source>&amp;List of tests</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seznam testů</translation>
     </message>
     <message>
         <source>Choose an &amp;athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat z&amp;ávodníka</translation>
     </message>
     <message>
         <source>Take in from a split &amp;file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít ze souboru &amp;mezičasů…</translation>
     </message>
     <message>
         <source>Take in from a &amp;recording…</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít ze zá&amp;znamu…</translation>
     </message>
     <message>
         <source>&amp;Export the table…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportovat tabulku…</translation>
     </message>
     <message>
         <source>&amp;Copy the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopírova&amp;t tabulku</translation>
     </message>
     <message>
         <source>Course</source>
-        <translation type="unfinished"></translation>
+        <translation>Trať</translation>
     </message>
     <message>
         <source>The course drawn: banks, gates, split lines and the lines of runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nakreslená trať: břehy, branky, měřicí čáry a stopy jízd.</translation>
     </message>
     <message>
         <source>Draw the course of a race</source>
-        <translation type="unfinished"></translation>
+        <translation>Nakreslit trať závodu</translation>
     </message>
     <message>
         <source>Tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>Sledování</translation>
     </message>
     <message>
         <source>Boat, gate or head followed through a film: its path and speed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Loď, branka nebo hlava sledovaná filmem: její dráha a rychlost.</translation>
     </message>
     <message>
         <source>Open films</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít filmy</translation>
     </message>
     <message>
         <source>Slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Štěrbinový obraz</translation>
     </message>
     <message>
         <source>A finish camera made of the film of a tripod: every crossing of a line at a glance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cílová kamera z filmu na stativu: každé protnutí čáry na první pohled.</translation>
     </message>
     <message>
         <source>Open films of a fixed camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít filmy pevné kamery</translation>
     </message>
     <message>
         <source>Share folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Sdílené složky</translation>
     </message>
     <message>
         <source>A folder the same here and on the team&apos;s own server, nothing overwritten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka stejná zde i na vlastním serveru týmu, nic se nepřepisuje.</translation>
     </message>
     <message>
         <source>Share a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Sdílet složku</translation>
     </message>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Složky</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthleteDialog</name>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník</translation>
     </message>
     <message>
         <source>SURNAME Name</source>
@@ -6844,7 +6845,7 @@
     </message>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezóna</translation>
     </message>
     <message>
         <source>none yet</source>
@@ -6921,11 +6922,11 @@
     </message>
     <message>
         <source>All categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny kategorie</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník</translation>
     </message>
     <message>
         <source>name</source>
@@ -6992,7 +6993,7 @@
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Komentář</translation>
     </message>
     <message>
         <source>Side</source>
@@ -7000,7 +7001,7 @@
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>side of an attack</source>
@@ -7075,11 +7076,11 @@
     </message>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezóna</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Behind</source>
@@ -7279,11 +7280,11 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CameraPage</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Štítek</translation>
     </message>
     <message>
         <source>Lag</source>
@@ -7378,7 +7379,7 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::Chart</name>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 jízda</translation>
     </message>
     <message>
         <source> · %1 of %2 selected runs</source>
@@ -7394,10 +7395,10 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n jízda</numerusform>
+            <numerusform>%n jízdy</numerusform>
+            <numerusform>%n jízd</numerusform>
         </translation>
     </message>
 </context>
@@ -7405,7 +7406,7 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::ChartPanel</name>
     <message>
         <source>Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafy</translation>
     </message>
     <message>
         <source>&amp;Reference</source>
@@ -7413,7 +7414,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Reference</translation>
     </message>
     <message>
         <source>What the runs are held against</source>
@@ -7421,19 +7422,19 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Přizpůsobit</translation>
     </message>
     <message>
         <source>Show everything again (or double click)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat opět vše (nebo dvojklik)</translation>
     </message>
     <message>
         <source>Save chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit graf…</translation>
     </message>
     <message>
         <source>Save as PNG, SVG or CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit jako PNG, SVG nebo CSV</translation>
     </message>
     <message>
         <source>Best run</source>
@@ -7445,14 +7446,14 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ideální jízda</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ChartTabs</name>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezóna</translation>
     </message>
     <message>
         <source>Race progression</source>
@@ -7472,7 +7473,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Save chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit graf…</translation>
     </message>
     <message>
         <source>As a picture (PNG, SVG) or as CSV (Ctrl+E)</source>
@@ -7484,7 +7485,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>all seasons</source>
@@ -7538,28 +7539,29 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::ClipPair</name>
     <message>
         <source>This run has no film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato jízda nemá film.</translation>
     </message>
     <message>
         <source>The film is not there:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Film tam není:
+%1</translation>
     </message>
     <message>
         <source>Play or pause the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehrát nebo pozastavit klipy</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehrát</translation>
     </message>
     <message>
         <source>Play the clips from their beginnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehrát klipy od začátku</translation>
     </message>
     <message>
         <source>From the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Od začátku</translation>
     </message>
     <message>
         <source>One frame back in the clips</source>
@@ -7642,15 +7644,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>C&amp;olumns</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sloupce</translation>
     </message>
     <message>
         <source>Save the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit tabulku</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Text oddělený středníky (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -7692,7 +7694,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Komentář</translation>
     </message>
     <message>
         <source>athlete</source>
@@ -7746,147 +7748,147 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CompareFilmsPanel</name>
     <message>
         <source>In it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ve filmu</translation>
     </message>
     <message>
         <source>Its place in the composed film. Space chooses it or takes it out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo ve složeném filmu. Mezerník ho vybere nebo vyřadí.</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>It is not marked from the start to a split.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není označeno od startu do mezičasu.</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>Name in the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno ve filmu</translation>
     </message>
     <message>
         <source>name in the film</source>
-        <translation type="unfinished"></translation>
+        <translation>jméno ve filmu</translation>
     </message>
     <message>
         <source>In place of that of the split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo toho ze souboru mezičasů.</translation>
     </message>
     <message>
         <source>category in the film</source>
-        <translation type="unfinished"></translation>
+        <translation>kategorie ve filmu</translation>
     </message>
     <message>
         <source>Starts at [s]</source>
-        <translation type="unfinished"></translation>
+        <translation>Začíná v [s]</translation>
     </message>
     <message>
         <source>The second of the film at which a run without marks starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunda filmu, v níž začíná jízda bez značek.</translation>
     </message>
     <message>
         <source>marked</source>
-        <translation type="unfinished"></translation>
+        <translation>označeno</translation>
     </message>
     <message>
         <source>The start is a second of the film, 0 to 86400</source>
-        <translation type="unfinished"></translation>
+        <translation>Začátek je sekunda filmu, 0 až 86400</translation>
     </message>
     <message>
         <source>start of a film</source>
-        <translation type="unfinished"></translation>
+        <translation>začátek filmu</translation>
     </message>
     <message>
         <source>No.</source>
-        <translation type="unfinished"></translation>
+        <translation>Č.</translation>
     </message>
     <message>
         <source>Find a name, a category, a film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Najít jméno, kategorii, film…</translation>
     </message>
     <message>
         <source>Add split files or films, then tick the two to four that are compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidejte soubory mezičasů nebo filmy a pak zaškrtněte dva až čtyři k porovnání.</translation>
     </message>
     <message>
         <source>Add s&amp;plit files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat soubory &amp;mezičasů…</translation>
     </message>
     <message>
         <source>Add &amp;films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat &amp;filmy…</translation>
     </message>
     <message>
         <source>In the composed film</source>
-        <translation type="unfinished"></translation>
+        <translation>Ve složeném filmu</translation>
     </message>
     <message>
         <source>No film is chosen yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím není vybrán žádný film.</translation>
     </message>
     <message>
         <source>&amp;Take it out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vyřadit</translation>
     </message>
     <message>
         <source>Move it &amp;up</source>
-        <translation type="unfinished"></translation>
+        <translation>Posunout &amp;nahoru</translation>
     </message>
     <message>
         <source>Move it &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>Posunout &amp;dolů</translation>
     </message>
     <message>
         <source>Four films are the most. Take one out first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čtyři filmy jsou nejvíc. Nejdřív jeden vyřaďte.</translation>
     </message>
     <message>
         <source>choice of a film</source>
-        <translation type="unfinished"></translation>
+        <translation>výběr filmu</translation>
     </message>
     <message>
         <source>removal of a film</source>
-        <translation type="unfinished"></translation>
+        <translation>odebrání filmu</translation>
     </message>
     <message>
         <source>order of the films</source>
-        <translation type="unfinished"></translation>
+        <translation>pořadí filmů</translation>
     </message>
     <message>
         <source>path of a film</source>
-        <translation type="unfinished"></translation>
+        <translation>dráha filmu</translation>
     </message>
     <message>
         <source>Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Dráha</translation>
     </message>
     <message>
         <source>Draws the path that was followed on it in the window Tracking.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nakreslí na něj dráhu sledovanou v okně Sledování.</translation>
     </message>
     <message>
         <source>Follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Sledovat</translation>
     </message>
     <message>
         <source>Shows it twice as large, round that path.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukáže ho dvakrát větší, kolem této dráhy.</translation>
     </message>
 </context>
 <context>
@@ -7957,11 +7959,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Úsek</translation>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace</translation>
     </message>
     <message>
         <source>Chart of the gap</source>
@@ -8019,7 +8021,7 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CompareWindow</name>
     <message>
         <source>Compare films</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnání filmů</translation>
     </message>
     <message>
         <source>Compose the &amp;film…</source>
@@ -8027,11 +8029,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Add s&amp;plit files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat soubory &amp;mezičasů…</translation>
     </message>
     <message>
         <source>Add &amp;films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat &amp;filmy…</translation>
     </message>
     <message>
         <source>&amp;Compose the film…</source>
@@ -8047,11 +8049,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přehrávání</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přehrát nebo pozastavit</translation>
     </message>
     <message>
         <source>From the &amp;beginning</source>
@@ -8107,7 +8109,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (*.kvx);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Add films</source>
@@ -8115,7 +8117,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmy (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Tick two to four films to compare them.</source>
@@ -8127,7 +8129,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Four films are the most: these are the first four</source>
@@ -8139,7 +8141,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehrát</translation>
     </message>
     <message>
         <source>%1 of %2 s</source>
@@ -8198,11 +8200,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník</translation>
     </message>
     <message>
         <source>Races</source>
-        <translation type="unfinished"></translation>
+        <translation>Závody</translation>
     </message>
     <message>
         <source>Behind, %</source>
@@ -8218,7 +8220,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Within, %</source>
-        <translation type="unfinished"></translation>
+        <translation>V závodě, %</translation>
     </message>
     <message>
         <source>How much the runs vary by chance</source>
@@ -8226,7 +8228,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>A year, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Za rok, %</translation>
     </message>
     <message>
         <source>Trend behind the winners, over all phases</source>
@@ -8238,15 +8240,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>příliš málo</translation>
     </message>
     <message>
         <source>Medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaile</translation>
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finále</translation>
     </message>
     <message>
         <source>The athletes year by year: %1</source>
@@ -8273,11 +8275,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Race</source>
@@ -8285,15 +8287,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Úsek</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy</translation>
     </message>
     <message>
         <source>2 for a touch, 50 for a missed gate</source>
@@ -8301,7 +8303,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí</translation>
     </message>
     <message>
         <source>As it was</source>
@@ -8360,7 +8362,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>course</source>
-        <translation type="unfinished"></translation>
+        <translation>trať</translation>
     </message>
     <message>
         <source>All %1 gates of the race are drawn. Race and course says how many there are.</source>
@@ -8383,7 +8385,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Branky</translation>
     </message>
     <message>
         <source>Race and course</source>
@@ -8391,27 +8393,27 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Akce</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Jednotka</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Water</source>
-        <translation type="unfinished"></translation>
+        <translation>Voda</translation>
     </message>
     <message>
         <source>Technique</source>
@@ -8431,7 +8433,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Branky</translation>
     </message>
     <message>
         <source>&amp;Upstream gates</source>
@@ -8634,11 +8636,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::CourseStrip</name>
     <message>
         <source>Course</source>
-        <translation type="unfinished"></translation>
+        <translation>Trať</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Branky</translation>
     </message>
     <message>
         <source>Such as 1, 2, 3, 4</source>
@@ -8654,11 +8656,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Which gates does the cross course have?</source>
@@ -8682,7 +8684,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>course</source>
-        <translation type="unfinished"></translation>
+        <translation>trať</translation>
     </message>
     <message numerus="yes">
         <source>%n gates</source>
@@ -8701,7 +8703,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Save data</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uložit data</translation>
     </message>
     <message>
         <source>Open a &amp;folder of films…</source>
@@ -8709,7 +8711,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Open a folder of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít složku filmů</translation>
     </message>
     <message>
         <source>&amp;Import films of time trials…</source>
@@ -8721,7 +8723,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kde jsou filmy nyní?…</translation>
     </message>
     <message>
         <source>Split &amp;taking of this race</source>
@@ -8729,7 +8731,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat v &amp;analýze závodu</translation>
     </message>
     <message>
         <source>Open a split file</source>
@@ -8737,7 +8739,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (*.kvx);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>&amp;Course of the cross race</source>
@@ -8757,7 +8759,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Z&amp;načky</translation>
     </message>
     <message>
         <source>&amp;Mark the frame shown</source>
@@ -8841,7 +8843,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zobrazení</translation>
     </message>
     <message>
         <source>&amp;Results</source>
@@ -8864,7 +8866,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není vybrána žádná značka. Ctrl a šipky vedou od značky ke značce.</translation>
     </message>
 </context>
 <context>
@@ -8945,7 +8947,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek %1: %2</translation>
     </message>
     <message>
         <source>What each column holds was guessed from its title. Choose over a column what it is; a column without a choice is left out.</source>
@@ -8977,11 +8979,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Čte se…</translation>
     </message>
     <message>
         <source>This gives no samples.</source>
@@ -9016,7 +9018,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Times</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Časy</translation>
     </message>
     <message>
         <source>Dates</source>
@@ -9024,7 +9026,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy</translation>
     </message>
     <message>
         <source>Milliseconds</source>
@@ -9131,7 +9133,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 %2°, %3 s</source>
@@ -9139,7 +9141,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>Stroke, rate</source>
@@ -9238,7 +9240,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: no film</source>
@@ -9262,7 +9264,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2</translation>
     </message>
     <message>
         <source>%1 counts again</source>
@@ -9289,11 +9291,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::DayFilms</name>
     <message>
         <source>%1 could not be called %2 again: is that name taken?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 se nepodařilo přejmenovat zpět na %2: není to jméno obsazené?</translation>
     </message>
     <message>
         <source>%1 could not be copied from the card. Is the card out, or the disk full?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 se nepodařilo zkopírovat z karty. Není karta vyjmutá, nebo disk plný?</translation>
     </message>
 </context>
 <context>
@@ -9367,15 +9369,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Bib</source>
-        <translation type="unfinished"></translation>
+        <translation>St. č.</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno</translation>
     </message>
     <message>
         <source>A boat on the list has a name.</source>
@@ -9383,19 +9385,19 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Kat.</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Stav</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>Type the name of another film to correct a single one</source>
@@ -9462,11 +9464,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem</translation>
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí</translation>
     </message>
     <message>
         <source>Gap to the best</source>
@@ -9521,82 +9523,82 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::Desktop</name>
     <message>
         <source>The folder with the races of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka se závody: %1</translation>
     </message>
     <message>
         <source>As it is in split taking now. The file does not hold all of it yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tak, jak je to nyní v měření mezičasů. Soubor ještě neobsahuje všechno.</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Nástroje</translation>
     </message>
     <message>
         <source>Nothing to open in “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>V „%1“ není co otevřít</translation>
     </message>
     <message>
         <source>There is no split file (.kvx) and no film in this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>V této složce není žádný soubor mezičasů (.kvx) ani film.</translation>
     </message>
     <message>
         <source>“%1” is not where it was</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ už není na svém místě</translation>
     </message>
     <message>
         <source>It was in %1. Open it from where it is now, then ask again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bylo to v %1. Otevřete to z nynějšího místa a pak se zeptejte znovu.</translation>
     </message>
     <message>
         <source>%1 (on the server)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (na serveru)</translation>
     </message>
     <message>
         <source>What the server has is no planning.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na serveru není žádné plánování.</translation>
     </message>
     <message>
         <source>Run %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda %1</translation>
     </message>
     <message>
         <source>The run of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda: %1</translation>
     </message>
     <message>
         <source>%1 is not in split taking any more: it was removed there, or has another crew and film.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 už v měření mezičasů není: jízda tam byla odstraněna, nebo má jinou posádku a film.</translation>
     </message>
     <message>
         <source>%1 (*.%2);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (*.%2);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Of single split files, or of all in a folder and below it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Z jednotlivých souborů mezičasů, nebo ze všech ve složce a pod ní?</translation>
     </message>
     <message>
         <source>Split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů…</translation>
     </message>
     <message>
         <source>A folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DetailsPanel</name>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Co</translation>
     </message>
     <message>
         <source>Noted as</source>
-        <translation type="unfinished"></translation>
+        <translation>Poznamenáno jako</translation>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace</translation>
     </message>
     <message>
         <source>of</source>
@@ -9612,7 +9614,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>Where the share lies with 90 %</source>
@@ -9659,7 +9661,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 (*.%2);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (*.%2);;Všechny soubory (*)</translation>
     </message>
 </context>
 <context>
@@ -9678,7 +9680,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -9720,11 +9722,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Co</translation>
     </message>
     <message>
         <source>Then</source>
-        <translation type="unfinished"></translation>
+        <translation>Potom</translation>
     </message>
     <message>
         <source>given up</source>
@@ -9795,7 +9797,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit jako…</translation>
     </message>
     <message>
         <source>“%1” is open in another window. Close it there first, or take another name.</source>
@@ -9834,7 +9836,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::EightForm</name>
     <message>
         <source>Split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičas %1</translation>
     </message>
     <message>
         <source>&amp;Category</source>
@@ -9876,7 +9878,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>mezičas %1</translation>
     </message>
     <message>
         <source>no video</source>
@@ -10032,7 +10034,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Split files (*.kvx)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (*.kvx)</translation>
     </message>
 </context>
 <context>
@@ -10093,7 +10095,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FailedFiles</name>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor</translation>
     </message>
     <message>
         <source>What is wrong</source>
@@ -10175,7 +10177,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FetchWindow</name>
     <message>
         <source>Fetch films</source>
-        <translation type="unfinished"></translation>
+        <translation>Stažení filmů</translation>
     </message>
     <message>
         <source>&amp;Address</source>
@@ -10275,7 +10277,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Open a source of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít zdroj filmů</translation>
     </message>
     <message>
         <source>Sources of films (*.json)</source>
@@ -10338,371 +10340,372 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FilmBrowser</name>
     <message>
         <source>Filter: k1w 12 semi</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtr: k1w 12 semi</translation>
     </message>
     <message>
         <source>No film here. Open a folder of films with Ctrl+O, or drop one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný film. Otevřete složku filmů pomocí Ctrl+O, nebo ji sem přetáhněte.</translation>
     </message>
     <message>
         <source>No tag yet: M sets one where a film stands.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím žádný štítek: M ho nastaví tam, kde film stojí.</translation>
     </message>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznam</translation>
     </message>
     <message>
         <source>Tiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Dlaždice</translation>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Štítky</translation>
     </message>
     <message>
         <source>%1 films</source>
-        <translation type="unfinished"></translation>
+        <translation>filmů: %1</translation>
     </message>
     <message>
         <source>%1 of %2 films</source>
-        <translation type="unfinished"></translation>
+        <translation>filmy: %1 z %2</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmCutting</name>
     <message>
         <source>%1 cut</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 výřez</translation>
     </message>
     <message>
         <source>Cut into a new film</source>
-        <translation type="unfinished"></translation>
+        <translation>Vystřihnout do nového filmu</translation>
     </message>
     <message>
         <source>Films (*.mp4 *.mov *.m4v)</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmy (*.mp4 *.mov *.m4v)</translation>
     </message>
     <message>
         <source>Cutting %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Stříhá se %1…</translation>
     </message>
     <message>
         <source>The film could not be cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Film nelze vystřihnout</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmDeck</name>
     <message>
         <source>The film was closed before it had been read so far.</source>
-        <translation type="unfinished"></translation>
+        <translation>Film byl zavřen dřív, než se sem dočetl.</translation>
     </message>
     <message>
         <source>The film has not been read so far yet: nothing was marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Film ještě není přečten až sem: nic nebylo označeno.</translation>
     </message>
     <message>
         <source>The film has not been read so far yet: no frame to step from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Film ještě není přečten až sem: není snímek, od kterého krokovat.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmPlaying</name>
     <message>
         <source>Choose a film on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte film vlevo.</translation>
     </message>
     <message>
         <source>The film is no longer there:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Film už tam není:
+%1</translation>
     </message>
     <message>
         <source>That was the last one</source>
-        <translation type="unfinished"></translation>
+        <translation>To byl poslední</translation>
     </message>
     <message>
         <source>This is the first one</source>
-        <translation type="unfinished"></translation>
+        <translation>Toto je první</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmShelf</name>
     <message>
         <source>Renaming films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenovávají se filmy…</translation>
     </message>
     <message>
         <source>“%1” has films that are to be renamed, and is open in another window. Close it there first.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ obsahuje filmy k přejmenování a je otevřeno v jiném okně. Nejdřív ho tam zavřete.</translation>
     </message>
     <message>
         <source>A renaming was cut off here, and its note cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenování zde bylo přerušeno a jeho záznam nelze přečíst: %1</translation>
     </message>
     <message>
         <source>Renaming was cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenování bylo přerušeno</translation>
     </message>
     <message numerus="yes">
         <source>%n film(s) of this folder were being renamed when the program ended. No film is lost: the renaming can be completed, or undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n film této složky se právě přejmenovával, když program skončil. Žádný film není ztracen: přejmenování lze dokončit, nebo vrátit.</numerusform>
+            <numerusform>%n filmy této složky se právě přejmenovávaly, když program skončil. Žádný film není ztracen: přejmenování lze dokončit, nebo vrátit.</numerusform>
+            <numerusform>%n filmů této složky se právě přejmenovávalo, když program skončil. Žádný film není ztracen: přejmenování lze dokončit, nebo vrátit.</numerusform>
         </translation>
     </message>
     <message>
         <source>Complete it</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokončit</translation>
     </message>
     <message>
         <source>Undo it</source>
-        <translation type="unfinished"></translation>
+        <translation>Vrátit</translation>
     </message>
     <message>
         <source>This tag is of the split file: split taking edits it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento štítek je ze souboru mezičasů: upravuje se v měření mezičasů.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmStage</name>
     <message>
         <source>Typing: Esc gives the keys back to the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Psaní: Esc vrátí klávesy filmu</translation>
     </message>
     <message>
         <source>Fixed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pevná: %1</translation>
     </message>
     <message>
         <source>Where are the films now?…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde jsou filmy nyní?…</translation>
     </message>
     <message>
         <source>Playing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehrává se %1</translation>
     </message>
     <message>
         <source>Paused, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozastaveno, %1</translation>
     </message>
     <message>
         <source>Camera %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Kamera %1: </translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmTiles</name>
     <message>
         <source>No picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez obrazu</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmView</name>
     <message>
         <source>frame %1   %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>snímek %1   %2 s</translation>
     </message>
     <message>
         <source>  ±%1</source>
-        <translation type="unfinished"></translation>
+        <translation>  ±%1</translation>
     </message>
     <message>
         <source>…</source>
-        <translation type="unfinished"></translation>
+        <translation>…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmsActions</name>
     <message>
         <source>&amp;Open a folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít složku…</translation>
     </message>
     <message>
         <source>Folders opened &amp;before</source>
-        <translation type="unfinished"></translation>
+        <translation>Dříve o&amp;tevřené složky</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
-        <translation type="unfinished"></translation>
+        <translation>Načíst &amp;znovu</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Úpr&amp;avy</translation>
     </message>
     <message>
         <source>&amp;Undo the renaming</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vrátit přejmenování</translation>
     </message>
     <message>
         <source>&amp;Rename them again</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenovat o&amp;pět</translation>
     </message>
     <message>
         <source>&amp;Filter the films</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filtrovat filmy</translation>
     </message>
     <message>
         <source>Re&amp;name films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přej&amp;menovat filmy…</translation>
     </message>
     <message>
         <source>F&amp;ilms</source>
-        <translation type="unfinished"></translation>
+        <translation>F&amp;ilmy</translation>
     </message>
     <message>
         <source>&amp;Play from the beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přehrát od začátku</translation>
     </message>
     <message>
         <source>&amp;Next film</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Další film</translation>
     </message>
     <message>
         <source>Pre&amp;vious film</source>
-        <translation type="unfinished"></translation>
+        <translation>Přede&amp;šlý film</translation>
     </message>
     <message>
         <source>&amp;List</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seznam</translation>
     </message>
     <message>
         <source>&amp;Tiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Dlaž&amp;dice</translation>
     </message>
     <message>
         <source>T&amp;ags</source>
-        <translation type="unfinished"></translation>
+        <translation>Š&amp;títky</translation>
     </message>
     <message>
         <source>Mark as &amp;watched</source>
-        <translation type="unfinished"></translation>
+        <translation>Označit jako &amp;zhlédnuté</translation>
     </message>
     <message>
         <source>Mark as n&amp;ot watched</source>
-        <translation type="unfinished"></translation>
+        <translation>Označit jako &amp;nezhlédnuté</translation>
     </message>
     <message>
         <source>A &amp;click plays</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kliknutí přehraje</translation>
     </message>
     <message>
         <source>The next one &amp;follows</source>
-        <translation type="unfinished"></translation>
+        <translation>Další &amp;následuje</translation>
     </message>
     <message>
         <source>Begin at the first &amp;mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Začít na první z&amp;načce</translation>
     </message>
     <message>
         <source>&amp;Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Ští&amp;tky</translation>
     </message>
     <message>
         <source>&amp;Tag this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Š&amp;títek na tento snímek</translation>
     </message>
     <message>
         <source>Tag with a &amp;saved name</source>
-        <translation type="unfinished"></translation>
+        <translation>Štítek s &amp;uloženým jménem</translation>
     </message>
     <message>
         <source>Saved tag %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložený štítek %1</translation>
     </message>
     <message>
         <source>Move the selected tag &amp;here</source>
-        <translation type="unfinished"></translation>
+        <translation>Přesunout vybraný štítek &amp;sem</translation>
     </message>
     <message>
         <source>Tag one frame &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Štítek o snímek &amp;dříve</translation>
     </message>
     <message>
         <source>Tag one frame &amp;later</source>
-        <translation type="unfinished"></translation>
+        <translation>Štítek o snímek &amp;později</translation>
     </message>
     <message>
         <source>&amp;Remove the selected tag</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstranit vybraný štítek</translation>
     </message>
     <message>
         <source>&amp;Previous tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Př&amp;edchozí štítek</translation>
     </message>
     <message>
         <source>&amp;Next tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Da&amp;lší štítek</translation>
     </message>
     <message>
         <source>Play &amp;just the part around a tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehrát &amp;jen část kolem štítku</translation>
     </message>
     <message>
         <source>&amp;Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Střih</translation>
     </message>
     <message>
         <source>The cut &amp;begins here</source>
-        <translation type="unfinished"></translation>
+        <translation>Výřez &amp;začíná zde</translation>
     </message>
     <message>
         <source>The cut &amp;ends here</source>
-        <translation type="unfinished"></translation>
+        <translation>Výřez zde &amp;končí</translation>
     </message>
     <message>
         <source>&amp;Give the ends up</source>
-        <translation type="unfinished"></translation>
+        <translation>Z&amp;rušit konce</translation>
     </message>
     <message>
         <source>Cut by &amp;copying…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vystřihnout &amp;kopií…</translation>
     </message>
     <message>
         <source>Cut e&amp;xactly…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vystřihnout &amp;přesně…</translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmy</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmsWindow</name>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmy</translation>
     </message>
     <message>
         <source>&amp;Tag that M sets:</source>
-        <translation type="unfinished"></translation>
+        <translation>Štítek, který &amp;M nastaví:</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Vystřihnout</translation>
     </message>
     <message>
         <source>Cut into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vystřiženo do %1</translation>
     </message>
     <message>
         <source>“%1” is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ tam není.</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít složku filmů</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Čte se…</translation>
     </message>
     <message>
         <source>⚠ Not read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Nepřečteno: %1</translation>
     </message>
 </context>
 <context>
@@ -10721,11 +10724,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Read again</source>
-        <translation type="unfinished"></translation>
+        <translation>Načíst &amp;znovu</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zastavit čtení</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
@@ -10784,7 +10787,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FindWindow</name>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledání</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -10812,7 +10815,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -10820,7 +10823,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 jízda</translation>
     </message>
     <message>
         <source>. Reading was stopped: the others are not searched.</source>
@@ -10852,7 +10855,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Text oddělený středníky (*.csv)</translation>
     </message>
     <message numerus="yes">
         <source>%n files</source>
@@ -10864,10 +10867,10 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n jízda</numerusform>
+            <numerusform>%n jízdy</numerusform>
+            <numerusform>%n jízd</numerusform>
         </translation>
     </message>
 </context>
@@ -11029,7 +11032,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>v %1</translation>
     </message>
     <message>
         <source>After %1</source>
@@ -11037,7 +11040,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Úsek</translation>
     </message>
     <message>
         <source>Title</source>
@@ -11076,11 +11079,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízdy</translation>
     </message>
     <message>
         <source>Missed gate, 50 s</source>
@@ -11096,19 +11099,19 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gate %1, upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1, protivodná</translation>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1</translation>
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Ťuky</translation>
     </message>
     <message>
         <source>Missed</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojeté</translation>
     </message>
     <message>
         <source>missed</source>
@@ -11120,18 +11123,18 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Protivodná</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Branky</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GateForm</name>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka</translation>
     </message>
     <message>
         <source>In</source>
@@ -11143,7 +11146,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem</translation>
     </message>
     <message>
         <source>Turn</source>
@@ -11155,7 +11158,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Styl</translation>
     </message>
     <message>
         <source>A click brings a gate in front</source>
@@ -11174,11 +11177,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gate %1, upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1, protivodná</translation>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1</translation>
     </message>
     <message>
         <source>
@@ -11190,7 +11193,7 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     <name>kavela::desktop::Gauge</name>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>neznámo</translation>
     </message>
 </context>
 <context>
@@ -11437,11 +11440,11 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Konec</translation>
     </message>
     <message>
         <source>Attacker</source>
@@ -11453,7 +11456,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Outcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledek</translation>
     </message>
     <message>
         <source>Side</source>
@@ -11461,15 +11464,15 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Komentář</translation>
     </message>
     <message>
         <source>Attacks</source>
-        <translation type="unfinished"></translation>
+        <translation>Útoky</translation>
     </message>
     <message>
         <source>Attack at this frame</source>
@@ -11485,7 +11488,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1</translation>
     </message>
     <message>
         <source>attack</source>
@@ -11611,7 +11614,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>Taken</source>
@@ -11658,7 +11661,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Percent lost by run and section</source>
-        <translation type="unfinished"></translation>
+        <translation>Procenta ztráty podle jízdy a úseku</translation>
     </message>
     <message>
         <source>S%1</source>
@@ -11670,7 +11673,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda</translation>
     </message>
 </context>
 <context>
@@ -11772,7 +11775,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není vybrána žádná značka. Ctrl a šipky vedou od značky ke značce.</translation>
     </message>
     <message>
         <source>order moved</source>
@@ -11819,66 +11822,66 @@ Press Insert to add one.</source>
     <name>kavela::desktop::HomeWindow</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Soubor</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít…</translation>
     </message>
     <message>
         <source>Try the &amp;sample season</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyzkoušet &amp;ukázkovou sezónu</translation>
     </message>
     <message>
         <source>Se&amp;ttings…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nastavení…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>U&amp;končit</translation>
     </message>
     <message>
         <source>Where was the time won and lost, and why?</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde se čas získal a ztratil, a proč?</translation>
     </message>
     <message>
         <source>Try the sample season</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyzkoušet ukázkovou sezónu</translation>
     </message>
     <message>
         <source>Open a file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít soubor…</translation>
     </message>
     <message>
         <source>Recent files</source>
-        <translation type="unfinished"></translation>
+        <translation>Poslední soubory</translation>
     </message>
     <message>
         <source>Nothing opened yet. Drop a split file (.kvx) or a folder here, open one with Ctrl+O, or try the sample season.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím nic otevřeno. Přetáhněte sem soubor mezičasů (*.kvx) nebo složku, otevřete jej pomocí Ctrl+O, nebo vyzkoušejte ukázkovou sezónu.</translation>
     </message>
     <message>
         <source>Work kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Uchovaná práce</translation>
     </message>
     <message>
         <source>in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>v %1</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (*.kvx);;Všechny soubory (*)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::IdealPanel</name>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Úsek</translation>
     </message>
     <message>
         <source>Best</source>
@@ -11886,7 +11889,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>By</source>
-        <translation type="unfinished"></translation>
+        <translation>Podle</translation>
     </message>
     <message>
         <source>Ideal run %1 s</source>
@@ -11971,11 +11974,11 @@ Penalties are left out.</source>
     <name>kavela::desktop::IntervalChart</name>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>příliš málo</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 až %2</translation>
     </message>
 </context>
 <context>
@@ -12069,7 +12072,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Zavřít</translation>
     </message>
     <message>
         <source>Escape</source>
@@ -12089,14 +12092,14 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::IntervalsPanel</name>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Jednotka</translation>
     </message>
     <message>
         <source>Make-up</source>
@@ -12104,7 +12107,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem</translation>
     </message>
     <message>
         <source>Work</source>
@@ -12248,7 +12251,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Zavřít</translation>
     </message>
     <message>
         <source>%1 is the key of “%2” already. “%3” can take it over; “%2” has it no longer then.</source>
@@ -12297,7 +12300,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
 </context>
 <context>
@@ -12323,7 +12326,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::ListPanel</name>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznam</translation>
     </message>
     <message>
         <source>No row is left. Ctrl+Z takes the last step back.</source>
@@ -12373,521 +12376,521 @@ Penalties are left out.</source>
     <name>kavela::desktop::LossChartsPanel</name>
     <message>
         <source>Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafy</translation>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Součet</translation>
     </message>
     <message>
         <source>From the reference&apos;s total to the run&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>Od celkového času reference k času jízdy</translation>
     </message>
     <message>
         <source>Heat map</source>
-        <translation type="unfinished"></translation>
+        <translation>Teplotní mapa</translation>
     </message>
     <message>
         <source>Percent lost by run and section</source>
-        <translation type="unfinished"></translation>
+        <translation>Procenta ztráty podle jízdy a úseku</translation>
     </message>
     <message>
         <source>Most lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Největší ztráty</translation>
     </message>
     <message>
         <source>The sections that lost most, in their order</source>
-        <translation type="unfinished"></translation>
+        <translation>Úseky s největší ztrátou, v jejich pořadí</translation>
     </message>
     <message>
         <source>Along the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Po trati</translation>
     </message>
     <message>
         <source>The gap after each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstup za každým úsekem</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Přizpůsobit</translation>
     </message>
     <message>
         <source>Save chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit graf…</translation>
     </message>
     <message>
         <source>Show everything again (or double click)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat opět vše (nebo dvojklik)</translation>
     </message>
     <message>
         <source>Save as PNG, SVG or CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit jako PNG, SVG nebo CSV</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossHeader</name>
     <message>
         <source>Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Reference</translation>
     </message>
     <message>
         <source>What the run is held against</source>
-        <translation type="unfinished"></translation>
+        <translation>S čím se jízda porovnává</translation>
     </message>
     <message>
         <source>Alt+click or Shift+F1: why</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+klik nebo Shift+F1: proč</translation>
     </message>
     <message>
         <source>Ru&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jízda</translation>
     </message>
     <message>
         <source>hel&amp;d against</source>
-        <translation type="unfinished"></translation>
+        <translation>proti &amp;referenci</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossPage</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Konec</translation>
     </message>
     <message>
         <source>Against</source>
-        <translation type="unfinished"></translation>
+        <translation>Proti</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Procenta</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nová</translation>
     </message>
     <message>
         <source>The next M begins another time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Příští M začne další časovou ztrátu</translation>
     </message>
     <message>
         <source>Add over the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Přičíst za úsek</translation>
     </message>
     <message>
         <source>Another reason</source>
-        <translation type="unfinished"></translation>
+        <translation>Další důvod</translation>
     </message>
     <message>
         <source>To the other run</source>
-        <translation type="unfinished"></translation>
+        <translation>Na druhou jízdu</translation>
     </message>
     <message>
         <source>reason of a time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>důvod časové ztráty</translation>
     </message>
     <message>
         <source>This run</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato jízda</translation>
     </message>
     <message>
         <source>Other run</source>
-        <translation type="unfinished"></translation>
+        <translation>Druhá jízda</translation>
     </message>
     <message>
         <source>Sets this mark at the frame shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Nastaví tuto značku na ukázaný snímek</translation>
     </message>
     <message>
         <source>kind of a time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>druh časové ztráty</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Branky</translation>
     </message>
     <message>
         <source>Part</source>
-        <translation type="unfinished"></translation>
+        <translation>Část</translation>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Styl</translation>
     </message>
     <message>
         <source>Water</source>
-        <translation type="unfinished"></translation>
+        <translation>Voda</translation>
     </message>
     <message>
         <source>comment on a time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>komentář k časové ztrátě</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Komentář</translation>
     </message>
     <message>
         <source>Back to the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Zpět na jízdu</translation>
     </message>
     <message>
         <source>M marks where the stretch starts and makes another time loss.</source>
-        <translation type="unfinished"></translation>
+        <translation>M označí, kde část začíná, a vytvoří další časovou ztrátu.</translation>
     </message>
     <message>
         <source>M marks where the stretch starts and makes a time loss.</source>
-        <translation type="unfinished"></translation>
+        <translation>M označí, kde část začíná, a vytvoří časovou ztrátu.</translation>
     </message>
     <message>
         <source>%1 s (%2 %) against %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s (%2 %) proti %3</translation>
     </message>
     <message>
         <source>Go back to the run that lost the time first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vraťte se nejdřív k jízdě, která čas ztratila.</translation>
     </message>
     <message>
         <source>A time loss needs another run to compare with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Časová ztráta potřebuje druhou jízdu k porovnání.</translation>
     </message>
     <message>
         <source>time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>časová ztráta</translation>
     </message>
     <message>
         <source>Start and end are marked here too. Ctrl+T goes back to the run that lost the time, where M begins its next loss.</source>
-        <translation type="unfinished"></translation>
+        <translation>Začátek a konec se označují i zde. Ctrl+T se vrátí k jízdě, která čas ztratila; tam M začne její další ztrátu.</translation>
     </message>
     <message>
         <source>mark of a time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>značka časové ztráty</translation>
     </message>
     <message>
         <source>time loss removed</source>
-        <translation type="unfinished"></translation>
+        <translation>časová ztráta odstraněna</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossTables</name>
     <message>
         <source>Both runs have no upstream gate timed in common.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obě jízdy nemají společně změřenou žádnou protivodnou branku.</translation>
     </message>
     <message>
         <source>No time lost is noted of this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>U této jízdy není poznamenána žádná ztráta.</translation>
     </message>
     <message>
         <source>No ways are compared in this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>V této jízdě se neporovnávají žádné stopy.</translation>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Úseky</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízdy</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Branky</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Poznámky</translation>
     </message>
     <message>
         <source>Ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopy</translation>
     </message>
     <message>
         <source>&amp;Play both films</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehrát &amp;oba filmy</translation>
     </message>
     <message>
         <source>Hold all against this &amp;run</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnat vše s touto &amp;jízdou</translation>
     </message>
     <message>
         <source>Notes (%1 unfinished)</source>
-        <translation type="unfinished"></translation>
+        <translation>Poznámky (nedokončené: %1)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossesActions</name>
     <message>
         <source>&amp;Open races…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít závody…</translation>
     </message>
     <message>
         <source>Open a &amp;folder of races…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít &amp;složku závodů…</translation>
     </message>
     <message>
         <source>&amp;Read all again</source>
-        <translation type="unfinished"></translation>
+        <translation>Načíst vše &amp;znovu</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zastavit čtení</translation>
     </message>
     <message>
         <source>&amp;Page of an athlete: PDF, preview, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Stránka závodníka: PDF, náhled, tisk…</translation>
     </message>
     <message>
         <source>Save the table as &amp;CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit tabulku jako &amp;CSV…</translation>
     </message>
     <message>
         <source>&amp;Save the chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit &amp;graf…</translation>
     </message>
     <message>
         <source>&amp;Run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jízda</translation>
     </message>
     <message>
         <source>&amp;Find a run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Najít jízdu</translation>
     </message>
     <message>
         <source>The &amp;next in rank</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Další v pořadí</translation>
     </message>
     <message>
         <source>The &amp;one in front</source>
-        <translation type="unfinished"></translation>
+        <translation>O místo &amp;výš</translation>
     </message>
     <message>
         <source>&amp;Season of the athlete, or the run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sezóna závodníka, nebo jízda</translation>
     </message>
     <message>
         <source>Re&amp;ference</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;ference</translation>
     </message>
     <message>
         <source>The &amp;winner</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vítěz</translation>
     </message>
     <message>
         <source>The &amp;fastest paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejrychlejší čistý č&amp;as</translation>
     </message>
     <message>
         <source>The &amp;ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ideální jízda</translation>
     </message>
     <message>
         <source>The &amp;median of the finalists</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Medián finalistů</translation>
     </message>
     <message>
         <source>The crew&apos;s &amp;own best other run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nejlepší jiná jízda posádky</translation>
     </message>
     <message>
         <source>The run that is &amp;shown</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ukázaná jízda</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zobrazení</translation>
     </message>
     <message>
         <source>&amp;Sum from total to total</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Součet od času k času</translation>
     </message>
     <message>
         <source>&amp;Heat map</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Teplotní mapa</translation>
     </message>
     <message>
         <source>Sections that lost &amp;most</source>
-        <translation type="unfinished"></translation>
+        <translation>Úseky s &amp;největší ztrátou</translation>
     </message>
     <message>
         <source>Gap &amp;along the course</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstup po trati</translation>
     </message>
     <message>
         <source>Table of s&amp;ections</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka ú&amp;seků</translation>
     </message>
     <message>
         <source>Table of &amp;runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka &amp;jízd</translation>
     </message>
     <message>
         <source>Table of &amp;gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka &amp;branek</translation>
     </message>
     <message>
         <source>Table of &amp;notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka &amp;poznámek</translation>
     </message>
     <message>
         <source>Table of &amp;ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka s&amp;top</translation>
     </message>
     <message>
         <source>Show the whole &amp;chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat &amp;celý graf</translation>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modrá až oranžová místo zelené až červené</translation>
     </message>
     <message>
         <source>Fil&amp;ms</source>
-        <translation type="unfinished"></translation>
+        <translation>Fil&amp;my</translation>
     </message>
     <message>
         <source>&amp;Play the section of both runs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přehrát úsek obou jízd</translation>
     </message>
     <message>
         <source>&amp;Film this loss…</source>
-        <translation type="unfinished"></translation>
+        <translation>Složit &amp;film této ztráty…</translation>
     </message>
     <message>
         <source>&amp;Hide the films</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;krýt filmy</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízdy</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Stránka pro &amp;závodníka…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossesWindow</name>
     <message>
         <source>Split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda</translation>
     </message>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezóna</translation>
     </message>
     <message>
         <source>Hide the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrýt filmy</translation>
     </message>
     <message>
         <source>Stop reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Zastavit čtení</translation>
     </message>
     <message>
         <source>&amp;Open it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít</translation>
     </message>
     <message>
         <source>Writing %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisuje se %1…</translation>
     </message>
     <message>
         <source>The page was not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stránka nebyla zapsána.</translation>
     </message>
     <message>
         <source>%1 is not in the files any more; another run is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 už v souborech není; je vidět jiná jízda.</translation>
     </message>
     <message>
         <source>%1 is not in the files any more; the winner is the reference now.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 už v souborech není; referencí je nyní vítěz.</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Čte se…</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nelze přečíst: %2</translation>
     </message>
     <message>
         <source>%1 files cannot be read, the first of them %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Nečitelných souborů: %1, první z nich %2: %3</translation>
     </message>
     <message>
         <source>Stopped: not all files were read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zastaveno: nepřečetly se všechny soubory.</translation>
     </message>
     <message>
         <source>There is no run in what was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>V otevřeném není žádná jízda.</translation>
     </message>
     <message>
         <source>Time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Časové ztráty</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a další (%2)</translation>
     </message>
     <message>
         <source>Open races</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít závody</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (*.kvx);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Open a folder of races</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít složku závodů</translation>
     </message>
     <message>
         <source>%1 is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 je zapsáno.</translation>
     </message>
     <message>
         <source>Choose a section first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív vyberte úsek.</translation>
     </message>
     <message>
         <source>No film shows this of either run: a film and both marks are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toto není na filmu žádné z obou jízd: je třeba film a obě značky.</translation>
     </message>
     <message>
         <source>No film shows the run here; that of the reference plays alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný film zde jízdu neukazuje; film reference běží sám.</translation>
     </message>
     <message>
         <source>There is no run to watch beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není jízda, na kterou by se vedle dalo dívat.</translation>
     </message>
     <message>
         <source>No film shows %1 here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný film zde %1 neukazuje.</translation>
     </message>
     <message>
         <source>There is no run to film beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není jízda, která by se dala dát vedle do filmu.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MarkList</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -12907,11 +12910,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Časové ztráty</translation>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Štítky</translation>
     </message>
     <message>
         <source> · camera %1</source>
@@ -12931,7 +12934,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>Mark</source>
@@ -12986,7 +12989,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>From the one before</source>
@@ -13005,11 +13008,11 @@ Penalties are left out.</source>
     <name>kavela::desktop::MotionActions</name>
     <message>
         <source>Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafy</translation>
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznamy</translation>
     </message>
     <message>
         <source>&amp;Open recordings…</source>
@@ -13097,11 +13100,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Next stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Další záběr</translation>
     </message>
     <message>
         <source>&amp;Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grafy</translation>
     </message>
     <message>
         <source>Axes of the &amp;phone</source>
@@ -13189,7 +13192,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Úsek</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -13233,7 +13236,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda</translation>
     </message>
 </context>
 <context>
@@ -13247,7 +13250,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::MotionWindow</name>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznamy</translation>
     </message>
     <message>
         <source>Open it</source>
@@ -13287,7 +13290,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Open recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít záznamy</translation>
     </message>
     <message>
         <source>Raw recordings (*.kvb);;All files (*)</source>
@@ -13295,7 +13298,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2</translation>
     </message>
     <message>
         <source>Reading %1…</source>
@@ -13307,7 +13310,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a další (%2)</translation>
     </message>
 </context>
 <context>
@@ -13322,19 +13325,19 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Another run came to the front: nothing was marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dopředu přišla jiná jízda: nic nebylo označeno.</translation>
     </message>
     <message>
         <source>Nothing can be marked: %1 is not in the folder of the split file. Cameras &gt; Where are the films now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Nelze nic označit: %1 není ve složce souboru mezičasů. Kamery &gt; Kde jsou filmy nyní?</translation>
     </message>
     <message>
         <source>mark moved</source>
-        <translation type="unfinished"></translation>
+        <translation>značka posunuta</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není vybrána žádná značka. Ctrl a šipky vedou od značky ke značce.</translation>
     </message>
     <message>
         <source>This mark lies on another film than the one shown.</source>
@@ -13350,7 +13353,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>mark removed</source>
-        <translation type="unfinished"></translation>
+        <translation>značka odstraněna</translation>
     </message>
 </context>
 <context>
@@ -13361,7 +13364,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace</translation>
     </message>
     <message>
         <source>Upstreams</source>
@@ -13377,7 +13380,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Štítky</translation>
     </message>
     <message>
         <source>Losses</source>
@@ -13389,7 +13392,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopy</translation>
     </message>
     <message>
         <source>Cameras</source>
@@ -13455,7 +13458,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -13506,23 +13509,23 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Results list</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledková listina</translation>
     </message>
     <message>
         <source>Attached document</source>
-        <translation type="unfinished"></translation>
+        <translation>Přiložený dokument</translation>
     </message>
     <message>
         <source>Table kept with the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka uchovaná u závodu</translation>
     </message>
     <message>
         <source>All categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny kategorie</translation>
     </message>
     <message>
         <source>All phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny fáze</translation>
     </message>
     <message>
         <source>Official results</source>
@@ -13632,7 +13635,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>What the server has is no planning.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na serveru není žádné plánování.</translation>
     </message>
     <message>
         <source>The online planning could not be opened.</source>
@@ -13735,7 +13738,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zastavit čtení</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
@@ -13794,7 +13797,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::PenaltiesWindow</name>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace</translation>
     </message>
     <message>
         <source>Drop split files (.kvx) or a folder of them here</source>
@@ -13810,7 +13813,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Course</source>
-        <translation type="unfinished"></translation>
+        <translation>Trať</translation>
     </message>
     <message>
         <source>Rates</source>
@@ -13826,7 +13829,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Risk and speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Riziko a rychlost</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -13834,11 +13837,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Open split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít soubory mezičasů</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (*.kvx);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Open a folder</source>
@@ -13850,7 +13853,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Čte se…</translation>
     </message>
     <message>
         <source>There is no split file (.kvx) here.</source>
@@ -13862,11 +13865,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 jízda</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a další (%2)</translation>
     </message>
     <message numerus="yes">
         <source>%n files</source>
@@ -13878,10 +13881,10 @@ Penalties are left out.</source>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n jízda</numerusform>
+            <numerusform>%n jízdy</numerusform>
+            <numerusform>%n jízd</numerusform>
         </translation>
     </message>
 </context>
@@ -13908,11 +13911,11 @@ Penalties are left out.</source>
     <name>kavela::desktop::PenaltyPage</name>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka</translation>
     </message>
     <message>
         <source>Penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace</translation>
     </message>
     <message>
         <source>Pole</source>
@@ -13944,7 +13947,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Styl</translation>
     </message>
     <message>
         <source>Eyes</source>
@@ -13972,7 +13975,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>penalty at gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizace na brance %1</translation>
     </message>
     <message>
         <source>penalty removed</source>
@@ -13983,11 +13986,11 @@ Penalties are left out.</source>
     <name>kavela::desktop::PhaseModel</name>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>time</source>
@@ -13995,7 +13998,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace</translation>
     </message>
     <message>
         <source>penalty</source>
@@ -14003,11 +14006,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí</translation>
     </message>
     <message>
         <source>position</source>
@@ -14015,7 +14018,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Enter a time or a position first.</source>
@@ -14101,11 +14104,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 je zapsáno.</translation>
     </message>
     <message>
         <source>&amp;Open it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít</translation>
     </message>
     <message>
         <source>Show in &amp;folder</source>
@@ -14128,7 +14131,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Součet</translation>
     </message>
     <message>
         <source>Mean</source>
@@ -14140,11 +14143,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Least</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejméně</translation>
     </message>
     <message>
         <source>Most</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejvíce</translation>
     </message>
     <message>
         <source>Make</source>
@@ -14175,7 +14178,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1</translation>
     </message>
     <message>
         <source>, which is not on the cross course</source>
@@ -14318,7 +14321,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::PlannedAthleteDialog</name>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník</translation>
     </message>
     <message>
         <source>&amp;Picture…</source>
@@ -14392,7 +14395,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;New athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nový závodník…</translation>
     </message>
     <message>
         <source>&amp;Edit the athlete…</source>
@@ -14404,7 +14407,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>New &amp;season</source>
-        <translation type="unfinished"></translation>
+        <translation>Nová &amp;sezóna</translation>
     </message>
     <message>
         <source>Remove the s&amp;eason</source>
@@ -14492,11 +14495,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zobrazení</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Najít závodníka</translation>
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
@@ -14520,11 +14523,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodníci</translation>
     </message>
     <message>
         <source>Planning</source>
-        <translation type="unfinished"></translation>
+        <translation>Plánování</translation>
     </message>
     <message>
         <source>Plan</source>
@@ -14572,90 +14575,90 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>new season</source>
-        <translation type="unfinished"></translation>
+        <translation>nová sezóna</translation>
     </message>
     <message>
         <source>removal of a season</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění sezóny</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PlayMenu</name>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přehrávání</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přehrát nebo pozastavit</translation>
     </message>
     <message>
         <source>Backwards, again: faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozpátku, znovu: rychleji</translation>
     </message>
     <message>
         <source>Stop; held, J and L step a frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Zastavit; při držení J a L krokují po snímku</translation>
     </message>
     <message>
         <source>Forwards, again: faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Vpřed, znovu: rychleji</translation>
     </message>
     <message>
         <source>Slow motion backwards</source>
-        <translation type="unfinished"></translation>
+        <translation>Zpomaleně pozpátku</translation>
     </message>
     <message>
         <source>Slow motion forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Zpomaleně vpřed</translation>
     </message>
     <message>
         <source>&amp;Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Po&amp;maleji</translation>
     </message>
     <message>
         <source>&amp;Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rychleji</translation>
     </message>
     <message>
         <source>&amp;Normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Normální rychlost</translation>
     </message>
     <message>
         <source>S&amp;ound, at normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Z&amp;vuk, při normální rychlosti</translation>
     </message>
     <message>
         <source>One frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>O snímek zpět</translation>
     </message>
     <message>
         <source>One frame forward</source>
-        <translation type="unfinished"></translation>
+        <translation>O snímek vpřed</translation>
     </message>
     <message>
         <source>One second back</source>
-        <translation type="unfinished"></translation>
+        <translation>O sekundu zpět</translation>
     </message>
     <message>
         <source>One second forward</source>
-        <translation type="unfinished"></translation>
+        <translation>O sekundu vpřed</translation>
     </message>
     <message>
         <source>Ten seconds back</source>
-        <translation type="unfinished"></translation>
+        <translation>O deset sekund zpět</translation>
     </message>
     <message>
         <source>Ten seconds forward</source>
-        <translation type="unfinished"></translation>
+        <translation>O deset sekund vpřed</translation>
     </message>
     <message>
         <source>To the beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>Na začátek</translation>
     </message>
     <message>
         <source>To the end</source>
-        <translation type="unfinished"></translation>
+        <translation>Na konec</translation>
     </message>
 </context>
 <context>
@@ -14709,7 +14712,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník</translation>
     </message>
     <message>
         <source>Potential</source>
@@ -14728,7 +14731,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::PowerMeterDialog</name>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek</translation>
     </message>
     <message>
         <source>Why it is refused</source>
@@ -14752,7 +14755,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat</translation>
     </message>
     <message>
         <source>%1 of them lie in the session, which lasts %2.</source>
@@ -14803,11 +14806,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Day</source>
@@ -14815,11 +14818,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem</translation>
     </message>
     <message>
         <source>Winner&apos;s</source>
@@ -14831,7 +14834,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>neznámo</translation>
     </message>
     <message>
         <source>Behind, %</source>
@@ -14851,7 +14854,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Behind the winner, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Za vítězem, %</translation>
     </message>
     <message>
         <source>Behind the fastest splits, %</source>
@@ -14863,7 +14866,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Final</source>
-        <translation type="unfinished"></translation>
+        <translation>Finále</translation>
     </message>
     <message>
         <source>Semifinal</source>
@@ -14875,7 +14878,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Procenta</translation>
     </message>
     <message>
         <source>Missed gate</source>
@@ -14987,236 +14990,236 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RaceActions</name>
     <message>
         <source>Open it &amp;again</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít z&amp;novu</translation>
     </message>
     <message>
         <source>Ti&amp;me it on video</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Změřit z videa</translation>
     </message>
     <message>
         <source>&amp;Report: preview, PDF, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>Z&amp;práva: náhled, PDF, tisk…</translation>
     </message>
     <message>
         <source>Save the table as &amp;CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit tabulku jako &amp;CSV…</translation>
     </message>
     <message>
         <source>Cop&amp;y the selected runs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopírovat vybrané jízdy</translation>
     </message>
     <message>
         <source>&amp;Times</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Časy</translation>
     </message>
     <message>
         <source>&amp;Gap to the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstup od reference</translation>
     </message>
     <message>
         <source>&amp;Place</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Místo</translation>
     </message>
     <message>
         <source>Per&amp;cent behind the best</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Procenta za nejlepším</translation>
     </message>
     <message>
         <source>Percenti&amp;le</source>
-        <translation type="unfinished"></translation>
+        <translation>Percenti&amp;l</translation>
     </message>
     <message>
         <source>&amp;Reference: the best</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reference: nejlepší</translation>
     </message>
     <message>
         <source>Reference: the &amp;median</source>
-        <translation type="unfinished"></translation>
+        <translation>Reference: &amp;medián</translation>
     </message>
     <message>
         <source>Reference: the &amp;selected row</source>
-        <translation type="unfinished"></translation>
+        <translation>Reference: &amp;vybraný řádek</translation>
     </message>
     <message>
         <source>&amp;Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Ta&amp;bulka</translation>
     </message>
     <message>
         <source>&amp;Accumulated times</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Průběžné časy</translation>
     </message>
     <message>
         <source>Penalties &amp;included</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace &amp;započtené</translation>
     </message>
     <message>
         <source>Penalties &amp;visible</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace &amp;viditelné</translation>
     </message>
     <message>
         <source>C&amp;olumns</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sloupce</translation>
     </message>
     <message>
         <source>&amp;Find a name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Najít jméno</translation>
     </message>
     <message>
         <source>Show all r&amp;uns</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat všechny &amp;jízdy</translation>
     </message>
     <message>
         <source>&amp;Tint cells by rank</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tónovat buňky podle pořadí</translation>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modrá až oranžová místo zelené až červené</translation>
     </message>
     <message>
         <source>&amp;Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Porovnat</translation>
     </message>
     <message>
         <source>&amp;Ideal run on top</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ideální jízda nahoře</translation>
     </message>
     <message>
         <source>A &amp;run of another race…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jízda z jiného závodu…</translation>
     </message>
     <message>
         <source>&amp;Films of the selected runs…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filmy vybraných jízd…</translation>
     </message>
     <message>
         <source>With &amp;official results…</source>
-        <translation type="unfinished"></translation>
+        <translation>S &amp;oficiálními výsledky…</translation>
     </message>
     <message>
         <source>The results list as a &amp;table</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledková listina jako &amp;tabulka</translation>
     </message>
     <message>
         <source>&amp;Clear the comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zrušit porovnání</translation>
     </message>
     <message>
         <source>C&amp;harts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grafy</translation>
     </message>
     <message>
         <source>&amp;Gaps along the course</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstupy po trati</translation>
     </message>
     <message>
         <source>T&amp;imes of the sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Časy ú&amp;seků</translation>
     </message>
     <message>
         <source>P&amp;enalties at the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;enalizace na brankách</translation>
     </message>
     <message>
         <source>&amp;Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Celkové časy</translation>
     </message>
     <message>
         <source>&amp;Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Penalizace</translation>
     </message>
     <message>
         <source>Time &amp;losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Časové &amp;ztráty</translation>
     </message>
     <message>
         <source>Show the &amp;whole chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat &amp;celý graf</translation>
     </message>
     <message>
         <source>&amp;Save the chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit &amp;graf…</translation>
     </message>
     <message>
         <source>&amp;Window</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Okno</translation>
     </message>
     <message>
         <source>Races &amp;side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Závody &amp;vedle sebe</translation>
     </message>
     <message>
         <source>&amp;Larger: the table or the chart alone</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Větší: jen tabulka, nebo jen graf</translation>
     </message>
     <message>
         <source>&amp;Next race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Další závod</translation>
     </message>
     <message>
         <source>&amp;Previous race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Předchozí závod</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Stránka pro &amp;závodníka…</translation>
     </message>
     <message>
         <source>&amp;Draw the course…</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;akreslit trať…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RaceDocument</name>
     <message>
         <source>A file of version %1. It could not be rewritten in the current version and stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor verze %1. Nepodařilo se ho přepsat do současné verze, zůstává, jak je.</translation>
     </message>
     <message>
         <source>A file of version %1, rewritten in the current one. The previous file is kept as %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor verze %1, přepsaný do současné. Předchozí soubor je uchován jako %2.</translation>
     </message>
     <message>
         <source>%1 gates, %2 upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>branek: %1, protivodných: %2</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RaceHeader</name>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 jízda</translation>
     </message>
     <message>
         <source>%1 of %2 runs</source>
-        <translation type="unfinished"></translation>
+        <translation>jízdy: %1 z %2</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno</translation>
     </message>
     <message>
         <source>All phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny fáze</translation>
     </message>
     <message>
         <source>All categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny kategorie</translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n jízda</numerusform>
+            <numerusform>%n jízdy</numerusform>
+            <numerusform>%n jízd</numerusform>
         </translation>
     </message>
 </context>
@@ -15224,136 +15227,136 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RaceKeeping</name>
     <message>
         <source>“%1” is open in another window</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ je otevřeno v jiném okně</translation>
     </message>
     <message>
         <source>Save and close it there, then keep the table. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložte a zavřete ho tam, pak tabulku uchovejte. Nic nebylo zapsáno.</translation>
     </message>
     <message>
         <source>Keeping the table with the race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uchovává se tabulka u závodu…</translation>
     </message>
     <message>
         <source>“%1” keeps a table already</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ už jednu tabulku obsahuje</translation>
     </message>
     <message>
         <source>This one takes its place. The official results themselves stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato ji nahradí. Samotné oficiální výsledky zůstanou.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Nahradit</translation>
     </message>
     <message>
         <source>The table was not kept with “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka nebyla u „%1“ uchována</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RaceView</name>
     <message>
         <source>&amp;Run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jízda</translation>
     </message>
     <message>
         <source>I&amp;deal run</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;deální jízda</translation>
     </message>
     <message>
         <source>Pote&amp;ntial</source>
-        <translation type="unfinished"></translation>
+        <translation>Pote&amp;nciál</translation>
     </message>
     <message>
         <source>&amp;Motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Po&amp;hyb</translation>
     </message>
     <message>
         <source>Open it again</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít znovu</translation>
     </message>
     <message>
         <source>gaps to the best</source>
-        <translation type="unfinished"></translation>
+        <translation>odstupy od nejlepšího</translation>
     </message>
     <message>
         <source>gaps to the median</source>
-        <translation type="unfinished"></translation>
+        <translation>odstupy od mediánu</translation>
     </message>
     <message>
         <source>gaps to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>odstupy od %1</translation>
     </message>
     <message>
         <source>the ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>ideální jízda</translation>
     </message>
     <message>
         <source>This course has %1 sections. The colours and the penalties in brackets are those of the first ten; place, gap and percent are there for all of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato trať má úseků: %1. Barvy a penalizace v závorkách jsou jen z prvních deseti; místo, odstup a procenta jsou u všech.</translation>
     </message>
     <message>
         <source>Save the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit tabulku</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Text oddělený středníky (*.csv)</translation>
     </message>
     <message>
         <source>The file on the disk is newer than what you see.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor na disku je novější než to, co vidíte.</translation>
     </message>
     <message>
         <source>The file is not on the disk any more. What you see is what it held.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor už na disku není. Vidíte to, co obsahoval.</translation>
     </message>
     <message>
         <source>All columns in the order of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny sloupce v pořadí tratě</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RaceWindow</name>
     <message>
         <source>Split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů</translation>
     </message>
     <message>
         <source>Races</source>
-        <translation type="unfinished"></translation>
+        <translation>Závody</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RacesSection</name>
     <message>
         <source>No runs yet: take them from the season&apos;s split files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím žádné jízdy: převezměte je ze souborů mezičasů sezóny.</translation>
     </message>
     <message>
         <source>&lt;b&gt;%1&lt;/b&gt; runs, &lt;b&gt;%2&lt;/b&gt; of them clean (%3 %)  ·  touches per run &lt;b&gt;%4&lt;/b&gt;  ·  missed gates per run &lt;b&gt;%5&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>jízd &lt;b&gt;%1&lt;/b&gt;, z toho čistých &lt;b&gt;%2&lt;/b&gt; (%3 %)  ·  ťuků na jízdu &lt;b&gt;%4&lt;/b&gt;  ·  neprojetých branek na jízdu &lt;b&gt;%5&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Take from split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít ze souborů mezičasů…</translation>
     </message>
     <message>
         <source>Races and penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Závody a penalizace</translation>
     </message>
     <message>
         <source>Choose &amp;files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat so&amp;ubory…</translation>
     </message>
     <message>
         <source>Choose a f&amp;older…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat s&amp;ložku…</translation>
     </message>
     <message>
         <source>Files and folders can be dropped here too</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory a složky lze přetáhnout i sem</translation>
     </message>
 </context>
 <context>
@@ -15380,7 +15383,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit jako…</translation>
     </message>
     <message>
         <source>Writes the recording into a file of its own</source>
@@ -15416,7 +15419,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehrát</translation>
     </message>
     <message>
         <source>Recording, %1 s</source>
@@ -15452,7 +15455,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nelze přečíst: %2</translation>
     </message>
     <message>
         <source>Recording %1 cannot be played: %2</source>
@@ -15530,7 +15533,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>correction</source>
-        <translation type="unfinished"></translation>
+        <translation>oprava</translation>
     </message>
     <message>
         <source>Pen</source>
@@ -15581,7 +15584,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (*.kvx);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>There is no split file in it.</source>
@@ -15628,14 +15631,14 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RatesPanel</name>
     <message>
         <source>Passages</source>
-        <translation type="unfinished"></translation>
+        <translation>Průjezdy</translation>
     </message>
     <message>
         <source>Runs that came past</source>
@@ -15643,7 +15646,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Ťuky</translation>
     </message>
     <message>
         <source>Rate %</source>
@@ -15655,7 +15658,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>Where the rate lies with 90 %</source>
@@ -15687,11 +15690,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Missed</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojeté</translation>
     </message>
     <message>
         <source>Missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojeté branky</translation>
     </message>
     <message>
         <source>Missed %</source>
@@ -15714,7 +15717,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::ReadingProgress</name>
     <message>
         <source>Stop reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Zastavit čtení</translation>
     </message>
     <message>
         <source>%1 of %2 files</source>
@@ -15725,7 +15728,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RecordedSoundPlayer</name>
     <message>
         <source>This computer has no loudspeaker.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento počítač nemá reproduktor.</translation>
     </message>
 </context>
 <context>
@@ -15772,7 +15775,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Zavřít</translation>
     </message>
     <message>
         <source>Common moment</source>
@@ -15911,7 +15914,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznamy</translation>
     </message>
 </context>
 <context>
@@ -15941,7 +15944,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RecordingPanel</name>
     <message>
         <source>Found from the position</source>
-        <translation type="unfinished"></translation>
+        <translation>Zjištěno z polohy</translation>
     </message>
     <message>
         <source>Later b&amp;y</source>
@@ -16004,46 +16007,46 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RenameFilmsDialog</name>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Nyní</translation>
     </message>
     <message>
         <source>Then</source>
-        <translation type="unfinished"></translation>
+        <translation>Potom</translation>
     </message>
     <message>
         <source>stays</source>
-        <translation type="unfinished"></translation>
+        <translation>zůstává</translation>
     </message>
     <message>
         <source>stays: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>zůstává: %1</translation>
     </message>
     <message>
         <source>Rename films</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenovat filmy</translation>
     </message>
     <message>
         <source>How the films are to be called: {name}, {category}, {phase}, {bib} and {number} stand for what is known of each. Split files of the folder follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak se mají filmy jmenovat: {name}, {category}, {phase}, {bib} a {number} zastupují to, co se o každém ví. Soubory mezičasů složky se upraví také.</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenovat</translation>
     </message>
     <message>
         <source>%1 of %2 films get another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jiné jméno dostanou filmy: %1 z %2.</translation>
     </message>
     <message>
         <source>%1 lack what the pattern asks for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmům chybí, co vzor žádá: %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RenderQueue</name>
     <message>
         <source>A film is still being composed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ještě se skládá jeden film.</translation>
     </message>
     <message>
         <source>Leaving the program stops that, and nothing of an unfinished film is kept.</source>
@@ -16097,7 +16100,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Smaller</source>
@@ -16121,7 +16124,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Zavřít</translation>
     </message>
     <message>
         <source>No pages</source>
@@ -16160,237 +16163,237 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::ResultsDialog</name>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek %1: %2</translation>
     </message>
     <message>
         <source>Official results from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Oficiální výsledky z %1</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek</translation>
     </message>
     <message>
         <source>Type a part of the name for another line; an emptied cell stands for none</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro jiný řádek napište část jména; prázdná buňka znamená žádný</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Real time now</source>
-        <translation type="unfinished"></translation>
+        <translation>Čistý čas nyní</translation>
     </message>
     <message>
         <source>No line</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný řádek</translation>
     </message>
     <message>
         <source>“%1” stands in %2 lines of the list: it must be in one.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ stojí v řádcích listiny: %2, musí být v jediném.</translation>
     </message>
     <message>
         <source>%1 lines come into the file. Real time and penalty are taken for %2 of %3 runs: those that are ticked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádků, které přijdou do souboru: %1. Čistý čas a penalizace se převezmou pro %2 z %3 jízd: ty zaškrtnuté.</translation>
     </message>
     <message>
         <source>No line was found for %1. A part of the name, typed in the last column, chooses one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenašel se řádek pro: %1. Vybere ho část jména napsaná v posledním sloupci.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ResultsPage</name>
     <message>
         <source>→ goes on</source>
-        <translation type="unfinished"></translation>
+        <translation>→ postupuje</translation>
     </message>
     <message>
         <source>out</source>
-        <translation type="unfinished"></translation>
+        <translation>vypadl(a)</translation>
     </message>
     <message>
         <source>★ wins</source>
-        <translation type="unfinished"></translation>
+        <translation>★ vítězí</translation>
     </message>
     <message>
         <source>⚠ Not finished: no order was taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Nedokončeno: nebylo zaznamenáno žádné pořadí.</translation>
     </message>
     <message>
         <source>⚠ Not finished. Gates without an order: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Nedokončeno. Branky bez pořadí: %1.</translation>
     </message>
     <message>
         <source>⚠ Not all boats were seen at the last gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Na poslední brance nebyly vidět všechny lodě.</translation>
     </message>
     <message>
         <source>Gates without an order: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Branky bez pořadí: %1.</translation>
     </message>
     <message>
         <source>Final</source>
-        <translation type="unfinished"></translation>
+        <translation>Finále</translation>
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finále</translation>
     </message>
     <message>
         <source>Semifinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Semifinále</translation>
     </message>
     <message>
         <source>Quarterfinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Čtvrtfinále</translation>
     </message>
     <message>
         <source>Round %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolo %1</translation>
     </message>
     <message>
         <source>Boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Loď</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Gained</source>
-        <translation type="unfinished"></translation>
+        <translation>Zisk</translation>
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta</translation>
     </message>
     <message>
         <source>Outcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledek</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník</translation>
     </message>
     <message>
         <source>Attacks</source>
-        <translation type="unfinished"></translation>
+        <translation>Útoky</translation>
     </message>
     <message>
         <source>Succeeded</source>
-        <translation type="unfinished"></translation>
+        <translation>Úspěšné</translation>
     </message>
     <message>
         <source>Success</source>
-        <translation type="unfinished"></translation>
+        <translation>Úspěšnost</translation>
     </message>
     <message>
         <source>Attacked</source>
-        <translation type="unfinished"></translation>
+        <translation>Napaden(a)</translation>
     </message>
     <message>
         <source>Held</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubráněno</translation>
     </message>
     <message>
         <source>Defence</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrana</translation>
     </message>
     <message>
         <source>not told</source>
-        <translation type="unfinished"></translation>
+        <translation>neuvedeno</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde</translation>
     </message>
     <message>
         <source>No results yet: they follow from the orders at the gates that are taken on the page of heats.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím žádné výsledky: plynou z pořadí na brankách, která se zaznamenávají na stránce rozjížděk.</translation>
     </message>
     <message>
         <source>Attacks and defences</source>
-        <translation type="unfinished"></translation>
+        <translation>Útoky a obrany</translation>
     </message>
     <message>
         <source>Where attacks succeed</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde se útoky daří</translation>
     </message>
     <message>
         <source>Heat %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozjížďka %1</translation>
     </message>
     <message>
         <source>Shows the heat on its film</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukáže rozjížďku na jejím filmu</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ResultsView</name>
     <message>
         <source>Nobody is in the team yet. Add the first athlete with Ctrl+N.</source>
-        <translation type="unfinished"></translation>
+        <translation>V týmu zatím nikdo není. Přidejte prvního závodníka pomocí Ctrl+N.</translation>
     </message>
     <message>
         <source>No athlete fits the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledání neodpovídá žádný závodník.</translation>
     </message>
     <message>
         <source>Choose the boat %1 races in: menu Team, “Add a category”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolte loď, na které závodí %1: nabídka Tým, „Přidat kategorii“.</translation>
     </message>
     <message>
         <source>Add the first season with Ctrl+Shift+N, or drop a split file or a list of results here to take results over.</source>
-        <translation type="unfinished"></translation>
+        <translation>První sezónu přidejte pomocí Ctrl+Shift+N, nebo sem přetáhněte soubor mezičasů či výsledkovou listinu.</translation>
     </message>
     <message>
         <source>The first two seasons (✓) count for the categorization. Alt+Up, Alt+Down or dragging changes the order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Do kategorizace se počítají první dvě sezóny (✓). Pořadí změní Alt+Nahoru, Alt+Dolů nebo tažení.</translation>
     </message>
     <message>
         <source>Choose a race to see and edit its runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte závod a uvidíte a upravíte jeho jízdy.</translation>
     </message>
     <message>
         <source>new season</source>
-        <translation type="unfinished"></translation>
+        <translation>nová sezóna</translation>
     </message>
     <message>
         <source>new race</source>
-        <translation type="unfinished"></translation>
+        <translation>nový závod</translation>
     </message>
     <message>
         <source>order of the seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>pořadí sezón</translation>
     </message>
     <message>
         <source>order of the races</source>
-        <translation type="unfinished"></translation>
+        <translation>pořadí závodů</translation>
     </message>
     <message>
         <source>removal of a race</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění závodu</translation>
     </message>
     <message>
         <source>removal of a season</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění sezóny</translation>
     </message>
 </context>
 <context>
@@ -16401,7 +16404,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>Roll</source>
@@ -16409,7 +16412,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Styl</translation>
     </message>
     <message>
         <source>Going over</source>
@@ -16421,7 +16424,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem</translation>
     </message>
 </context>
 <context>
@@ -16435,7 +16438,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RunChooser</name>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 jízda</translation>
     </message>
     <message>
         <source>Compare with a run of another race</source>
@@ -16459,7 +16462,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno</translation>
     </message>
     <message>
         <source>No other race lies in this folder.
@@ -16476,14 +16479,14 @@ Choose a file.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (*.kvx);;Všechny soubory (*)</translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n jízda</numerusform>
+            <numerusform>%n jízdy</numerusform>
+            <numerusform>%n jízd</numerusform>
         </translation>
     </message>
 </context>
@@ -16491,39 +16494,39 @@ Choose a file.</source>
     <name>kavela::desktop::RunFilms</name>
     <message>
         <source>Import videos with Ctrl+I, or drop a folder of videos here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Videa importujte pomocí Ctrl+I, nebo sem přetáhněte složku videí.</translation>
     </message>
     <message>
         <source>%1 is not in the folder of the split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 není ve složce souboru mezičasů.</translation>
     </message>
     <message>
         <source>All films are found</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny filmy nalezeny</translation>
     </message>
     <message>
         <source>%1 of %2 films are there. Not found: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na místě jsou filmy: %1 z %2. Nenalezeno: %3.</translation>
     </message>
     <message>
         <source>Import video</source>
-        <translation type="unfinished"></translation>
+        <translation>Import videa</translation>
     </message>
     <message>
         <source>Add another camera of this run</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat další kameru této jízdy</translation>
     </message>
     <message>
         <source>camera added</source>
-        <translation type="unfinished"></translation>
+        <translation>kamera přidána</translation>
     </message>
     <message>
         <source>Attach the film of a fixed camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Připojit film pevné kamery</translation>
     </message>
     <message>
         <source>fixed camera attached</source>
-        <translation type="unfinished"></translation>
+        <translation>pevná kamera připojena</translation>
     </message>
 </context>
 <context>
@@ -16538,11 +16541,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Hand</source>
@@ -16645,11 +16648,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Úsek</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>Pen</source>
@@ -16657,14 +16660,14 @@ Choose a file.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RunPicker</name>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda</translation>
     </message>
     <message>
         <source>Type any part of a name, phase, category or race</source>
@@ -16749,11 +16752,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Search files</source>
-        <translation type="unfinished"></translation>
+        <translation>Prohledat soubory</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (*.kvx);;Všechny soubory (*)</translation>
     </message>
     <message numerus="yes">
         <source>⚠ %n could not be read…</source>
@@ -16768,7 +16771,7 @@ Choose a file.</source>
     <name>kavela::desktop::SeasonActions</name>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodníci</translation>
     </message>
     <message>
         <source>&amp;Open a team…</source>
@@ -16788,7 +16791,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zastavit čtení</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
@@ -16880,7 +16883,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Stránka pro &amp;závodníka…</translation>
     </message>
 </context>
 <context>
@@ -16934,11 +16937,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí</translation>
     </message>
     <message>
         <source>Points</source>
@@ -16981,15 +16984,15 @@ Choose a file.</source>
     <name>kavela::desktop::SeasonPage</name>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 až %2</translation>
     </message>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>příliš málo</translation>
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>neznámo</translation>
     </message>
     <message>
         <source>No whole run of this athlete can be held against the reference.</source>
@@ -17005,19 +17008,19 @@ Choose a file.</source>
     </message>
     <message>
         <source>By</source>
-        <translation type="unfinished"></translation>
+        <translation>Podle</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Co</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízdy</translation>
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta</translation>
     </message>
     <message>
         <source>Seconds, of all runs together</source>
@@ -17025,7 +17028,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Lost, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta, %</translation>
     </message>
     <message>
         <source>Of the reference&apos;s time there</source>
@@ -17033,7 +17036,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>A run</source>
@@ -17049,7 +17052,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Verdict</source>
-        <translation type="unfinished"></translation>
+        <translation>Verdikt</translation>
     </message>
     <message>
         <source>What the interval says: losing where all of it is above 0</source>
@@ -17061,7 +17064,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda</translation>
     </message>
     <message>
         <source>Open a folder of races to see an athlete&apos;s season.</source>
@@ -17176,15 +17179,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaile</translation>
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finále</translation>
     </message>
     <message>
         <source>Semifinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Semifinále</translation>
     </message>
     <message>
         <source>Expected places</source>
@@ -17196,11 +17199,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodníci</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
 </context>
 <context>
@@ -17230,7 +17233,7 @@ Choose a file.</source>
     <name>kavela::desktop::SeasonWindow</name>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezóna</translation>
     </message>
     <message>
         <source>Drop a team (.kvteam) and the folder of its races here</source>
@@ -17250,11 +17253,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Writing %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisuje se %1…</translation>
     </message>
     <message>
         <source>Open a team</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít tým</translation>
     </message>
     <message>
         <source>Teams (*.kvteam);;All files (*)</source>
@@ -17266,7 +17269,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (*.kvx);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Add a folder of races</source>
@@ -17290,7 +17293,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Čte se…</translation>
     </message>
     <message>
         <source>Nobody of this team races in any category yet.</source>
@@ -17361,7 +17364,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Behind best</source>
-        <translation type="unfinished"></translation>
+        <translation>Za nejlepším</translation>
     </message>
     <message>
         <source>Seconds behind the best of the section</source>
@@ -17369,7 +17372,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>Seconds in the section</source>
@@ -17401,7 +17404,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Not timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nezměřeno</translation>
     </message>
     <message>
         <source>Quarter of the runs under</source>
@@ -17421,7 +17424,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízdy</translation>
     </message>
     <message>
         <source>Behind the best</source>
@@ -17429,15 +17432,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Úsek</translation>
     </message>
     <message>
         <source>Title</source>
@@ -17457,7 +17460,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Úseky</translation>
     </message>
     <message>
         <source>Distribution of the times of each section</source>
@@ -17578,7 +17581,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Úseky</translation>
     </message>
     <message>
         <source>The time in straight line is part of the time of its section: it cannot be longer.</source>
@@ -17656,7 +17659,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Category of the athletes</source>
@@ -17710,7 +17713,7 @@ Choose a file.</source>
     <name>kavela::desktop::SelectionWindow</name>
     <message>
         <source>Selection races</source>
-        <translation type="unfinished"></translation>
+        <translation>Nominační závody</translation>
     </message>
     <message>
         <source>Copy the table</source>
@@ -17726,7 +17729,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Copy the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopírova&amp;t tabulku</translation>
     </message>
     <message>
         <source>&amp;What if</source>
@@ -17818,7 +17821,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Selection %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nominace %1</translation>
     </message>
     <message>
         <source>What if: times and penalties typed now are tried only. End it (W) to go back to the real results.</source>
@@ -17966,7 +17969,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Place</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Místo</translation>
     </message>
     <message>
         <source>&amp;Description</source>
@@ -18158,7 +18161,7 @@ Choose a file.</source>
     <name>kavela::desktop::SessionWindow</name>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Jednotka</translation>
     </message>
     <message>
         <source>Sessions (*.bms);;Sessions (*.sbm)</source>
@@ -18166,7 +18169,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Import .kvb file</source>
@@ -18217,11 +18220,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Split taking</source>
-        <translation type="unfinished"></translation>
+        <translation>Měření mezičasů</translation>
     </message>
     <message>
         <source>Boat motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Pohyb lodi</translation>
     </message>
     <message>
         <source>At start</source>
@@ -18363,7 +18366,7 @@ Choose a file.</source>
     <name>kavela::desktop::ShareWindow</name>
     <message>
         <source>Share folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Sdílené složky</translation>
     </message>
     <message>
         <source>F&amp;older</source>
@@ -18399,7 +18402,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Shares the ticked files</source>
@@ -18443,7 +18446,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>%1 (on the server)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (na serveru)</translation>
     </message>
     <message>
         <source>%1 (here)</source>
@@ -18506,560 +18509,565 @@ and %1 more</source>
     <name>kavela::desktop::SlitActions</name>
     <message>
         <source>&amp;Open a film…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít film…</translation>
     </message>
     <message>
         <source>Open the &amp;race of the film in split taking</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít &amp;závod filmu v měření mezičasů</translation>
     </message>
     <message>
         <source>&amp;Save the race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uložit závod</translation>
     </message>
     <message>
         <source>Save what is seen as a &amp;picture…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit viditelné jako o&amp;brázek…</translation>
     </message>
     <message>
         <source>Save the &amp;water round the marks…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit &amp;vodu kolem značek…</translation>
     </message>
     <message>
         <source>Save what is seen of the slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit viditelnou část štěrbinového obrazu</translation>
     </message>
     <message>
         <source>Pictures (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrázky (*.png)</translation>
     </message>
     <message>
         <source>The picture could not be saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrázek nelze uložit: %1</translation>
     </message>
     <message>
         <source>Save the water round the marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit vodu kolem značek</translation>
     </message>
     <message>
         <source>Bands (*.bands)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pásy (*.bands)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Úpr&amp;avy</translation>
     </message>
     <message>
         <source>&amp;Undo the mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zpět značku</translation>
     </message>
     <message>
         <source>&amp;Redo the mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Znov&amp;u značku</translation>
     </message>
     <message>
         <source>&amp;Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Čár&amp;y</translation>
     </message>
     <message>
         <source>Draw a &amp;new line</source>
-        <translation type="unfinished"></translation>
+        <translation>Nakreslit &amp;novou čáru</translation>
     </message>
     <message>
         <source>Ne&amp;xt line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Další čára</translation>
     </message>
     <message>
         <source>&amp;Previous line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Předchozí čára</translation>
     </message>
     <message>
         <source>&amp;Turn the arrow: boats come from the other side</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;točit šipku: lodě přijíždějí z druhé strany</translation>
     </message>
     <message>
         <source>&amp;Remove the line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstranit čáru</translation>
     </message>
     <message>
         <source>Draw a box round one &amp;boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Nakreslit rámeček kolem jedné &amp;lodi</translation>
     </message>
     <message>
         <source>&amp;Look for boats that cross it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hledat lodě, které ji protnou</translation>
     </message>
     <message>
         <source>&amp;Hair line</source>
-        <translation type="unfinished"></translation>
+        <translation>Zá&amp;měrná čára</translation>
     </message>
     <message>
         <source>One frame &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>O snímek &amp;dříve</translation>
     </message>
     <message>
         <source>One frame &amp;later</source>
-        <translation type="unfinished"></translation>
+        <translation>O snímek po&amp;zději</translation>
     </message>
     <message>
         <source>Ten frames earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>O deset snímků dříve</translation>
     </message>
     <message>
         <source>Ten frames later</source>
-        <translation type="unfinished"></translation>
+        <translation>O deset snímků později</translation>
     </message>
     <message>
         <source>A tenth of a frame earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>O desetinu snímku dříve</translation>
     </message>
     <message>
         <source>A tenth of a frame later</source>
-        <translation type="unfinished"></translation>
+        <translation>O desetinu snímku později</translation>
     </message>
     <message>
         <source>&amp;Next proposal</source>
-        <translation type="unfinished"></translation>
+        <translation>Další ná&amp;vrh</translation>
     </message>
     <message>
         <source>&amp;Previous proposal</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Předchozí návrh</translation>
     </message>
     <message>
         <source>To the &amp;beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>Na &amp;začátek</translation>
     </message>
     <message>
         <source>&amp;Closer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Blíž</translation>
     </message>
     <message>
         <source>&amp;Farther</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dál</translation>
     </message>
     <message>
         <source>The &amp;whole film</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Celý film</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Z&amp;načky</translation>
     </message>
     <message>
         <source>&amp;Mark the run at the hair line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Označit jízdu na záměrné čáře</translation>
     </message>
     <message>
         <source>Take the mark &amp;away</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odebrat značku</translation>
     </message>
     <message>
         <source>&amp;Previous run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Předchozí jízda</translation>
     </message>
     <message>
         <source>&amp;Next run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Další jízda</translation>
     </message>
     <message>
         <source>&amp;Refuse the proposal at the hair line</source>
-        <translation type="unfinished"></translation>
+        <translation>Odmítnout &amp;návrh na záměrné čáře</translation>
     </message>
     <message>
         <source>&amp;Forget what was refused on this line</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapomenout odmítnuté na této čáře (&amp;F)</translation>
     </message>
     <message>
         <source>Accept a&amp;ll proposals</source>
-        <translation type="unfinished"></translation>
+        <translation>Přijmout &amp;všechny návrhy</translation>
     </message>
     <message>
         <source>Accept a&amp;ll proposals: why not yet?</source>
-        <translation type="unfinished"></translation>
+        <translation>Přijmout &amp;všechny návrhy: proč ještě ne?</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přehrávání</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přehrát nebo pozastavit</translation>
     </message>
     <message>
         <source>&amp;Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Po&amp;maleji</translation>
     </message>
     <message>
         <source>&amp;Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rychleji</translation>
     </message>
     <message>
         <source>&amp;Normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Normální rychlost</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitKeeping</name>
     <message>
         <source>The lines in %1 cannot be read: %2. The file is put aside before new lines take its name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čáry v %1 nelze přečíst: %2. Soubor se odloží stranou, než jeho jméno dostanou nové čáry.</translation>
     </message>
     <message>
         <source>The lines could not be kept in %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Čáry nelze uchovat v %1: %2</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitLoader</name>
     <message>
         <source>The film ends early, after %1 frames.</source>
-        <translation type="unfinished"></translation>
+        <translation>Film končí předčasně, po snímku %1.</translation>
     </message>
     <message>
         <source>%1 frames cannot be decoded: their columns are black.</source>
-        <translation type="unfinished"></translation>
+        <translation>Snímků, které nelze dekódovat: %1; jejich sloupce jsou černé.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitPanel</name>
     <message>
         <source>Open the &amp;race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít &amp;závod…</translation>
     </message>
     <message>
         <source>Times &amp;finer than the frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Časy &amp;jemnější než snímek</translation>
     </message>
     <message>
         <source>Draw a box round one boat (B), then look for boats (Ctrl+B): where they may have crossed is listed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nakreslete rámeček kolem jedné lodi (B), pak hledejte lodě (Ctrl+B): kde asi projely, se vypíše zde.</translation>
     </message>
     <message>
         <source>The time of the split follows the hair line between two frames; the mark itself stays on the frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas mezičasu se řídí záměrnou čárou mezi dvěma snímky; samotná značka zůstává na snímku.</translation>
     </message>
     <message>
         <source>marks</source>
-        <translation type="unfinished"></translation>
+        <translation>značky</translation>
     </message>
     <message>
         <source>Line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Čára %1</translation>
     </message>
     <message>
         <source>Marks go into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Značky se zapisují do %1</translation>
     </message>
     <message>
         <source>Marks need the race of this film in split taking.</source>
-        <translation type="unfinished"></translation>
+        <translation>Značky potřebují závod tohoto filmu v měření mezičasů.</translation>
     </message>
     <message>
         <source>No run of %1 has the film %2. Add it there as a film of the runs or as a fixed camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná jízda v %1 nemá film %2. Přidejte ho tam jako film jízd nebo jako pevnou kameru.</translation>
     </message>
     <message>
         <source>The runs that are seen on this film are listed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zde se vypíší jízdy, které jsou na tomto filmu vidět.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitRace</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičas %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>There is no run to be marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není zde jízda k označení.</translation>
     </message>
     <message>
         <source>This run has no film %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato jízda nemá film %1.</translation>
     </message>
     <message>
         <source>%1 in the slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ve štěrbinovém obraze</translation>
     </message>
     <message>
         <source>This run is not marked here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato jízda zde není označena.</translation>
     </message>
     <message>
         <source>mark removed in the slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>značka ve štěrbinovém obraze odstraněna</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitSaving</name>
     <message>
         <source>The water round the marks is in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voda kolem značek je v %1.</translation>
     </message>
     <message>
         <source>The water round the marks could not be saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vodu kolem značek nelze uložit: %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitStrip</name>
     <message>
         <source>Slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Štěrbinový obraz</translation>
     </message>
     <message>
         <source>What stood on the line over the film, over time. A click goes there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co bylo na čáře v průběhu filmu. Kliknutí tam skočí.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitView</name>
     <message>
         <source>Slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Štěrbinový obraz</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>frame %1   %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>snímek %1   %2 s</translation>
     </message>
     <message>
         <source>  (%1%2 of a frame)</source>
-        <translation type="unfinished"></translation>
+        <translation>  (%1%2 snímku)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitWindow</name>
     <message>
         <source>Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmy (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Štěrbinový obraz</translation>
     </message>
     <message>
         <source>“%1” is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ tam není.</translation>
     </message>
     <message>
         <source>Open the film of a fixed camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít film pevné kamery</translation>
     </message>
     <message>
         <source>Open the film of a camera on a tripod (Ctrl+O).</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřete film z kamery na stativu (Ctrl+O).</translation>
     </message>
     <message>
         <source>Press N and draw a line across the water in the film above: what stands on it is shown here over time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stiskněte N a nakreslete ve filmu nahoře čáru přes vodu: co je na ní vidět, se zde ukáže v čase.</translation>
     </message>
     <message>
         <source>Reading the film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Čte se film…</translation>
     </message>
     <message>
         <source>Reading the film:</source>
-        <translation type="unfinished"></translation>
+        <translation>Čte se film:</translation>
     </message>
     <message>
         <source>Looking for boats:</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledají se lodě:</translation>
     </message>
     <message>
         <source>Draw a line first: N.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív nakreslete čáru: N.</translation>
     </message>
     <message>
         <source>%1 proposals were refused on this line. They are forgotten with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Návrhů odmítnutých na této čáře: %1. Zapomenou se spolu s ní.</translation>
     </message>
     <message>
         <source>Remove the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit čáru</translation>
     </message>
     <message>
         <source>There is no proposal before this.</source>
-        <translation type="unfinished"></translation>
+        <translation>Předtím už žádný návrh není.</translation>
     </message>
     <message>
         <source>There is no proposal behind this.</source>
-        <translation type="unfinished"></translation>
+        <translation>Potom už žádný návrh není.</translation>
     </message>
     <message>
         <source>Marks need the race of this film: open it in split taking.</source>
-        <translation type="unfinished"></translation>
+        <translation>Značky potřebují závod tohoto filmu: otevřete ho v měření mezičasů.</translation>
     </message>
     <message>
         <source>Draw a box round one boat first: B.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív nakreslete rámeček kolem jedné lodi: B.</translation>
     </message>
     <message>
         <source>Proposals are accepted one by one</source>
-        <translation type="unfinished"></translation>
+        <translation>Návrhy se přijímají jednotlivě</translation>
     </message>
     <message>
         <source>There is no slit picture yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím zde není štěrbinový obraz.</translation>
     </message>
     <message>
         <source>That part is not read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato část ještě není přečtena.</translation>
     </message>
     <message>
         <source>There is nothing to learn from yet: look for boats, then mark and refuse what was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím není z čeho se učit: hledejte lodě, pak nalezené označte a odmítněte.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SplitBar</name>
     <message>
         <source>Split times</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičasy</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SplitMode</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Nothing can be marked: %1 is not in the folder of the split file. Cameras &gt; Where are the films now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Nelze nic označit: %1 není ve složce souboru mezičasů. Kamery &gt; Kde jsou filmy nyní?</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není vybrána žádná značka. Ctrl a šipky vedou od značky ke značce.</translation>
     </message>
     <message>
         <source>Another run came to the front: nothing was marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dopředu přišla jiná jízda: nic nebylo označeno.</translation>
     </message>
     <message>
         <source>The times of this run were taken without marks on the video. Marking it anew replaces them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Časy této jízdy byly změřeny bez značek ve videu. Nové označení je nahradí.</translation>
     </message>
     <message>
         <source>Mark anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Označit znovu</translation>
     </message>
     <message>
         <source>start mark</source>
-        <translation type="unfinished"></translation>
+        <translation>značka startu</translation>
     </message>
     <message>
         <source>split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>mezičas %1</translation>
     </message>
     <message>
         <source>%1:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:  %2</translation>
     </message>
     <message>
         <source>Split %1 was put in between two marks. Ctrl+Z takes it out again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičas %1 byl vložen mezi dvě značky. Ctrl+Z ho zase odebere.</translation>
     </message>
     <message>
         <source>mark moved</source>
-        <translation type="unfinished"></translation>
+        <translation>značka posunuta</translation>
     </message>
     <message>
         <source>There is no mark yet that could be moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není zde zatím žádná značka, kterou by šlo posunout.</translation>
     </message>
     <message>
         <source>mark removed</source>
-        <translation type="unfinished"></translation>
+        <translation>značka odstraněna</translation>
     </message>
     <message>
         <source>Split %1 is expected behind the end of the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičas %1 se čeká až za koncem filmu.</translation>
     </message>
     <message>
         <source>Split %1 is expected here</source>
-        <translation type="unfinished"></translation>
+        <translation>Zde se čeká mezičas %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SplitTableModel</name>
     <message>
         <source>Not timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nezměřeno</translation>
     </message>
     <message>
         <source>%1, %2: %3 s
 place %4 of %5
 %6 s behind the best, %7 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: %3 s
+místo %4 z %5
+%6 s za nejlepším, %7 %</translation>
     </message>
     <message>
         <source>%1, %2: %3 s
 %4
 It counts for nothing: no place, no gap, never a best.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: %3 s
+%4
+Nezapočítává se: žádné místo, žádný odstup, nikdy nejlepší.</translation>
     </message>
     <message>
         <source>The best of every section, put together</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejlepší z každého úseku, poskládáno dohromady</translation>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, závod %2</translation>
     </message>
     <message>
         <source>Ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ideální jízda</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Gates %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Branky %1</translation>
     </message>
     <message>
         <source>Section %1: the colours and the penalties in brackets are those of the first ten sections only.
 Place, gap and percent are there as in any other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Úsek %1: barvy a penalizace v závorkách jsou jen z prvních deseti úseků.
+Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Kat.</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>%1 penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizace: %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SplitsShown</name>
     <message>
         <source>%1?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1?</translation>
     </message>
 </context>
 <context>
@@ -19078,7 +19086,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Take over</source>
@@ -19094,7 +19102,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznamy (*.csv *.txt);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Starts: %1. Lines that cannot be taken: %2.</source>
@@ -19102,7 +19110,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek %1: %2</translation>
     </message>
 </context>
 <context>
@@ -19168,7 +19176,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>Gap</source>
@@ -19200,7 +19208,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Komentář</translation>
     </message>
     <message>
         <source>Add</source>
@@ -19208,7 +19216,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nová</translation>
     </message>
     <message>
         <source>Compared</source>
@@ -19220,7 +19228,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Úsek</translation>
     </message>
     <message>
         <source>Without a name</source>
@@ -19276,7 +19284,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>The end of a way comes after its beginning at %1.</source>
@@ -19299,7 +19307,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::StrokePage</name>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Úsek</translation>
     </message>
     <message>
         <source>Left</source>
@@ -19323,7 +19331,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Styl</translation>
     </message>
     <message>
         <source>%1 per minute, %2 strokes</source>
@@ -19428,19 +19436,19 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit g&amp;raf…</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Úpr&amp;avy</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zpět</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Znov&amp;u</translation>
     </message>
     <message>
         <source>The first line holds the &amp;titles</source>
@@ -19512,7 +19520,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Percenti&amp;le</source>
-        <translation type="unfinished"></translation>
+        <translation>Percenti&amp;l</translation>
     </message>
     <message>
         <source>&amp;Another column…</source>
@@ -19544,7 +19552,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modrá až oranžová místo zelené až červené</translation>
     </message>
     <message>
         <source>The &amp;whole chart</source>
@@ -19555,7 +19563,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TablesWindow</name>
     <message>
         <source>Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulky</translation>
     </message>
     <message>
         <source>Drop a list of results here</source>
@@ -19623,11 +19631,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Text oddělený středníky (*.csv)</translation>
     </message>
     <message>
         <source>Open lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít seznamy</translation>
     </message>
     <message>
         <source>Begin anew?</source>
@@ -19671,11 +19679,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (*.kvx);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Save the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit tabulku</translation>
     </message>
     <message>
         <source>The table was not saved</source>
@@ -19726,85 +19734,85 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TagMode</name>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Štítek</translation>
     </message>
     <message>
         <source>There is no film to tag.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není film, na který dát štítek.</translation>
     </message>
     <message>
         <source>There is no tag %1 yet: type its name above.</source>
-        <translation type="unfinished"></translation>
+        <translation>Štítek %1 zatím není: napište jeho jméno nahoru.</translation>
     </message>
     <message>
         <source>This tag is of the split file: split taking moves it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento štítek je ze souboru mezičasů: posouvá se v měření mezičasů.</translation>
     </message>
     <message>
         <source>No tag is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není vybrán žádný štítek.</translation>
     </message>
     <message>
         <source>There is no film to cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není film ke střihu.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TagPage</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Štítek</translation>
     </message>
     <message>
         <source>Play just the tagged part</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehrát jen část se štítkem</translation>
     </message>
     <message>
         <source>Rename the tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenovat štítek</translation>
     </message>
     <message>
         <source>Gives the selected tag the name above</source>
-        <translation type="unfinished"></translation>
+        <translation>Dá vybranému štítku jméno nahoře</translation>
     </message>
     <message>
         <source>M sets the tag at the frame shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>M nastaví štítek na ukázaný snímek.</translation>
     </message>
     <message>
         <source>Enter sets the tag %1 at the frame shown. Esc gives the keys back to the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter nastaví štítek %1 na ukázaný snímek. Esc vrátí klávesy filmu.</translation>
     </message>
     <message>
         <source>Choose or type the name of the tag first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív vyberte nebo napište jméno štítku.</translation>
     </message>
     <message>
         <source>tag %1</source>
-        <translation type="unfinished"></translation>
+        <translation>štítek %1</translation>
     </message>
     <message>
         <source>Select a tag and write its new name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte štítek a napište jeho nové jméno.</translation>
     </message>
     <message>
         <source>tag renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>štítek přejmenován</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TakeOverDialog</name>
     <message>
         <source>Boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Loď</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Result</source>
@@ -19812,7 +19820,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník</translation>
     </message>
     <message>
         <source>not in the team</source>
@@ -19872,7 +19880,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Day</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Den</translation>
     </message>
     <message>
         <source>Take over</source>
@@ -19892,7 +19900,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a další (%2)</translation>
     </message>
     <message>
         <source>Final position</source>
@@ -19939,7 +19947,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Test</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
@@ -19983,7 +19991,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>%1 strokes and %2 turns were found.</source>
@@ -20048,27 +20056,27 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TakeRunDialog</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Úseky</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem</translation>
     </message>
     <message>
         <source>s</source>
@@ -20092,7 +20100,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Test</translation>
     </message>
     <message>
         <source>Take %1 runs in</source>
@@ -20115,265 +20123,265 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TakingActions</name>
     <message>
         <source>&amp;Open a folder of videos…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít složku videí…</translation>
     </message>
     <message>
         <source>&amp;Save data</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uložit data</translation>
     </message>
     <message>
         <source>Import &amp;video…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat &amp;video…</translation>
     </message>
     <message>
         <source>Import split &amp;file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat soubor &amp;mezičasů…</translation>
     </message>
     <message>
         <source>Import official &amp;results…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat oficiální &amp;výsledky…</translation>
     </message>
     <message>
         <source>Compare &amp;with official results…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Porovnat s oficiálními výsledky…</translation>
     </message>
     <message>
         <source>&amp;Recording of the run…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zá&amp;znam jízdy…</translation>
     </message>
     <message>
         <source>Run s&amp;heet: preview, PDF, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;List jízdy: náhled, PDF, tisk…</translation>
     </message>
     <message>
         <source>&amp;Export data…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportovat data…</translation>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat v &amp;analýze závodu</translation>
     </message>
     <message>
         <source>Compare fil&amp;ms of the run…</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnat &amp;filmy jízdy…</translation>
     </message>
     <message>
         <source>Kayak &amp;cross of this race</source>
-        <translation type="unfinished"></translation>
+        <translation>Kayak &amp;cross tohoto závodu</translation>
     </message>
     <message>
         <source>Open a folder of videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít složku videí</translation>
     </message>
     <message>
         <source>Race and &amp;course…</source>
-        <translation type="unfinished"></translation>
+        <translation>Závod a &amp;trať…</translation>
     </message>
     <message>
         <source>Names of the &amp;films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Náz&amp;vy filmů…</translation>
     </message>
     <message>
         <source>&amp;Previous run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Předchozí jízda</translation>
     </message>
     <message>
         <source>&amp;Next run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Další jízda</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Najít závodníka</translation>
     </message>
     <message>
         <source>Move the run up</source>
-        <translation type="unfinished"></translation>
+        <translation>Posunout jízdu nahoru</translation>
     </message>
     <message>
         <source>Move the run down</source>
-        <translation type="unfinished"></translation>
+        <translation>Posunout jízdu dolů</translation>
     </message>
     <message>
         <source>Remove the run from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit jízdu ze seznamu</translation>
     </message>
     <message>
         <source>Delete &amp;all data…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Smazat všechna data…</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Z&amp;načky</translation>
     </message>
     <message>
         <source>&amp;Mark the split</source>
-        <translation type="unfinished"></translation>
+        <translation>Označit &amp;mezičas</translation>
     </message>
     <message>
         <source>To where the next split is e&amp;xpected</source>
-        <translation type="unfinished"></translation>
+        <translation>Tam, kde se čeká další m&amp;ezičas</translation>
     </message>
     <message>
         <source>To the start mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Na značku startu</translation>
     </message>
     <message>
         <source>To split &amp;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Na mezičas &amp;%1</translation>
     </message>
     <message>
         <source>&amp;Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Branky</translation>
     </message>
     <message>
         <source>&amp;Touch: 2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Ť&amp;uk: 2 s</translation>
     </message>
     <message>
         <source>Missed gate: &amp;50 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojetá branka: &amp;50 s</translation>
     </message>
     <message>
         <source>&amp;Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Č&amp;istá</translation>
     </message>
     <message>
         <source>&amp;Next gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Další branka</translation>
     </message>
     <message>
         <source>&amp;Previous gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Předchozí branka</translation>
     </message>
     <message>
         <source>&amp;Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kamery</translation>
     </message>
     <message>
         <source>&amp;Add another camera of this run…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přidat další kameru této jízdy…</translation>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kde jsou filmy nyní?…</translation>
     </message>
     <message>
         <source>Last camera one frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>Poslední kamera o snímek zpět</translation>
     </message>
     <message>
         <source>Last camera one frame forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Poslední kamera o snímek vpřed</translation>
     </message>
     <message>
         <source>&amp;Larger: without the table, the film alone, all again</source>
-        <translation type="unfinished"></translation>
+        <translation>Větší: &amp;bez tabulky, jen film, opět vše</translation>
     </message>
     <message>
         <source>The frames shown are &amp;one moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázané snímky jsou &amp;jeden okamžik</translation>
     </message>
     <message>
         <source>&amp;Draw the course…</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;akreslit trať…</translation>
     </message>
     <message>
         <source>Sl&amp;it picture of the last camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Š&amp;těrbinový obraz poslední kamery</translation>
     </message>
     <message>
         <source>There is no film here that has a slit picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není zde film, který by měl štěrbinový obraz.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TakingDocument</name>
     <message>
         <source>Save a copy as</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit kopii jako</translation>
     </message>
     <message>
         <source>Split files (*.kvx)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (*.kvx)</translation>
     </message>
     <message>
         <source> &quot;Save as…&quot; writes a copy in the present release and opens it here; its films stay where they are.</source>
-        <translation type="unfinished"></translation>
+        <translation> „Uložit jako…“ zapíše kopii v současné verzi a otevře ji zde; filmy zůstanou na svém místě.</translation>
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit jako…</translation>
     </message>
     <message>
         <source>names of the films</source>
-        <translation type="unfinished"></translation>
+        <translation>názvy filmů</translation>
     </message>
     <message>
         <source>run removed</source>
-        <translation type="unfinished"></translation>
+        <translation>jízda odstraněna</translation>
     </message>
     <message>
         <source>run moved</source>
-        <translation type="unfinished"></translation>
+        <translation>jízda posunuta</translation>
     </message>
     <message>
         <source>videos imported</source>
-        <translation type="unfinished"></translation>
+        <translation>videa importována</translation>
     </message>
     <message>
         <source>“%1” holds no runs. Nothing was imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ neobsahuje žádnou jízdu. Nic se neimportovalo.</translation>
     </message>
     <message>
         <source>split file imported</source>
-        <translation type="unfinished"></translation>
+        <translation>soubor mezičasů importován</translation>
     </message>
     <message>
         <source>official results imported</source>
-        <translation type="unfinished"></translation>
+        <translation>oficiální výsledky importovány</translation>
     </message>
     <message>
         <source>official result of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>oficiální výsledek: %1</translation>
     </message>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 jízda</translation>
     </message>
     <message>
         <source>%1 with %2 is emptied. Ctrl+Z brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyprázdní se %1 s obsahem: %2. Ctrl+Z to vrátí.</translation>
     </message>
     <message>
         <source>reset</source>
-        <translation type="unfinished"></translation>
+        <translation>vymazání</translation>
     </message>
     <message>
         <source>1 start without a split is not stored in the file. This computer keeps it, and offers it when the file is opened here again.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 start bez mezičasu se do souboru neukládá. Uchová ho tento počítač a nabídne ho, až se zde soubor znovu otevře.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Zavřít</translation>
     </message>
     <message>
         <source>Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>Přepsat</translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n jízda</numerusform>
+            <numerusform>%n jízdy</numerusform>
+            <numerusform>%n jízd</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n starts without a split are not stored in the file. This computer keeps them, and offers them when the file is opened here again.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n start bez mezičasu se do souboru neukládá. Uchová ho tento počítač a nabídne ho, až se zde soubor znovu otevře.</numerusform>
+            <numerusform>%n starty bez mezičasu se do souboru neukládají. Uchová je tento počítač a nabídne je, až se zde soubor znovu otevře.</numerusform>
+            <numerusform>%n startů bez mezičasu se do souboru neukládá. Uchová je tento počítač a nabídne je, až se zde soubor znovu otevře.</numerusform>
         </translation>
     </message>
 </context>
@@ -20381,55 +20389,55 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TakingWindow</name>
     <message>
         <source>correction</source>
-        <translation type="unfinished"></translation>
+        <translation>oprava</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno</translation>
     </message>
     <message>
         <source>Cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Kat.</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem</translation>
     </message>
     <message>
         <source>%1/%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1/%2</translation>
     </message>
     <message>
         <source>split taking</source>
-        <translation type="unfinished"></translation>
+        <translation>měření mezičasů</translation>
     </message>
     <message>
         <source>Athlete&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno závodníka</translation>
     </message>
     <message>
         <source>Enter finds the athlete&apos;s next run, or collects a training file of all videos with that name</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter najde další jízdu závodníka, nebo sestaví tréninkový soubor ze všech videí s tímto jménem</translation>
     </message>
     <message>
         <source>Race &amp;day, or the table of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodní &amp;den, nebo tabulka závodu</translation>
     </message>
     <message>
         <source>In which folder do the films appear?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ve které složce se objevují filmy?</translation>
     </message>
     <message>
         <source>A click on a time shows its frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknutí na čas ukáže jeho snímek</translation>
     </message>
     <message>
         <source>penalty at gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizace na brance %1</translation>
     </message>
 </context>
 <context>
@@ -20506,7 +20514,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek %1: %2</translation>
     </message>
     <message>
         <source>There are no runs in it.</source>
@@ -20518,7 +20526,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Team</source>
-        <translation type="unfinished"></translation>
+        <translation>Tým</translation>
     </message>
     <message>
         <source>new athlete</source>
@@ -20565,7 +20573,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník</translation>
     </message>
     <message>
         <source>Ticked tests are laid over the chosen one (Space)</source>
@@ -20573,7 +20581,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Test</source>
@@ -20608,7 +20616,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Test session</source>
-        <translation type="unfinished"></translation>
+        <translation>Testovací jednotka</translation>
     </message>
     <message>
         <source>Values</source>
@@ -20616,7 +20624,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Export the table…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportovat tabulku…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -20641,7 +20649,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Text oddělený středníky (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -20675,7 +20683,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (*.kvx);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Take a test in from a recording</source>
@@ -20707,11 +20715,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Testy</translation>
     </message>
     <message>
         <source>Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafy</translation>
     </message>
     <message>
         <source>Values</source>
@@ -20799,99 +20807,99 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::ToolWindow</name>
     <message>
         <source>%1 files (*.%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory %1 (*.%2)</translation>
     </message>
     <message>
         <source>%1, saving…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, ukládá se…</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Soubor</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít…</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uložit</translation>
     </message>
     <message>
         <source>Save &amp;as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit &amp;jako…</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny soubory (*)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Úpr&amp;avy</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zpět</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Znov&amp;u</translation>
     </message>
     <message>
         <source>Open it again</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít znovu</translation>
     </message>
     <message>
         <source>Keep what is here</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponechat, co je zde</translation>
     </message>
     <message>
         <source>⚠ Another program changed “%1”. What is shown here is from before.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ „%1“ změnil jiný program. Zde je vidět stav předtím.</translation>
     </message>
     <message>
         <source>⚠ “%1” is no longer in its folder. Saving puts it there again.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ „%1“ už není ve své složce. Uložením se tam vrátí.</translation>
     </message>
     <message>
         <source>Opening “%1” again gives up what was not saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Novým otevřením „%1“ se zahodí, co zde nebylo uloženo.</translation>
     </message>
     <message>
         <source>Bring &amp;back earlier work…</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;bnovit dřívější práci…</translation>
     </message>
     <message>
         <source>&amp;Home</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Domů</translation>
     </message>
     <message>
         <source>Se&amp;ttings…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nastavení…</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zavřít</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>U&amp;končit</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit</translation>
     </message>
     <message>
         <source>Saving… The window closes when the file is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukládá se… Okno se zavře, až bude soubor zapsán.</translation>
     </message>
     <message>
         <source>Saving… What is to be opened follows when the file is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukládá se… Další se otevře, až bude soubor zapsán.</translation>
     </message>
 </context>
 <context>
@@ -20922,11 +20930,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace</translation>
     </message>
     <message>
         <source>Result</source>
@@ -20934,15 +20942,15 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda</translation>
     </message>
     <message>
         <source>Selected</source>
@@ -21033,7 +21041,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TrackingWindow</name>
     <message>
         <source>Tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>Sledování</translation>
     </message>
     <message>
         <source>Paths on films (*.track.json)</source>
@@ -21105,11 +21113,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přehrávání</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přehrát nebo pozastavit</translation>
     </message>
     <message>
         <source>One frame ba&amp;ck</source>
@@ -21280,15 +21288,15 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízdy</translation>
     </message>
     <message>
         <source>Touches a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ťuky na jízdu</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>Exact interval of the touches</source>
@@ -21331,15 +21339,15 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Film</translation>
     </message>
     <message>
         <source>⚠ missing</source>
@@ -21386,7 +21394,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TrialPage</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Gate %1 %2</source>
@@ -21398,7 +21406,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1</translation>
     </message>
     <message>
         <source>Split</source>
@@ -21406,11 +21414,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>From the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Od začátku</translation>
     </message>
     <message>
         <source>%1 boats</source>
@@ -21516,7 +21524,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::UpstreamPage</name>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka</translation>
     </message>
     <message>
         <source>In</source>
@@ -21528,7 +21536,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem</translation>
     </message>
     <message>
         <source>Turn</source>
@@ -21544,7 +21552,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Styl</translation>
     </message>
     <message>
         <source>Gate %1 is marked. N goes to the next gate, Shift+M moves the selected mark.</source>
@@ -21632,7 +21640,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek</translation>
     </message>
     <message>
         <source>Reason</source>
@@ -21691,7 +21699,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy</translation>
     </message>
     <message>
         <source>Shown</source>
@@ -21703,7 +21711,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Part</source>
-        <translation type="unfinished"></translation>
+        <translation>Část</translation>
     </message>
     <message>
         <source>From</source>
@@ -21726,11 +21734,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Akce</translation>
     </message>
     <message>
         <source>On-water test</source>
@@ -21833,7 +21841,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Jednotka</translation>
     </message>
 </context>
 <context>
@@ -21851,7 +21859,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WhyLabel</name>
     <message>
         <source>Alt+click or Shift+F1: why</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+klik nebo Shift+F1: proč</translation>
     </message>
 </context>
 <context>
@@ -21878,7 +21886,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Procenta</translation>
     </message>
     <message>
         <source>Score</source>
@@ -21954,7 +21962,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde</translation>
     </message>
     <message>
         <source>Show this place (Enter)</source>
@@ -22008,11 +22016,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Akce</translation>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Testy</translation>
     </message>
 </context>
 </TS>
