@@ -5,11 +5,11 @@
     <name></name>
     <message>
         <source>Selection results</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledky nominace</translation>
     </message>
     <message>
         <source>Selection results xTimes</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledky nominace xTimes</translation>
     </message>
     <message>
         <source>Category</source>
@@ -21,7 +21,7 @@
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledek</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -29,52 +29,52 @@
     </message>
     <message>
         <source>not in the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>není v nominaci</translation>
     </message>
     <message>
         <source>Leave out</source>
-        <translation type="unfinished"></translation>
+        <translation>Vynechat</translation>
     </message>
     <message>
         <source>Add %1 to the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat do nominace: %1</translation>
     </message>
 </context>
 <context>
     <name>AthletePanel</name>
     <message>
         <source>An athlete needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník potřebuje jméno.</translation>
     </message>
     <message>
         <source>“%1” is in the team already.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ už v týmu je.</translation>
     </message>
 </context>
 <context>
     <name>ChartExport</name>
     <message>
         <source>Picture (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrázek (*.png)</translation>
     </message>
     <message>
         <source>Drawing (*.svg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kresba (*.svg)</translation>
     </message>
     <message>
         <source>Table (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka (*.csv)</translation>
     </message>
     <message>
         <source>Save chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit graf</translation>
     </message>
 </context>
 <context>
     <name>CompareWindow</name>
     <message>
         <source>Film %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Film %1</translation>
     </message>
 </context>
 <context>
@@ -100,142 +100,142 @@
     <name>EightTest</name>
     <message>
         <source>Total – · %1 of %2 splits are timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem – · změřené mezičasy: %1 z %2</translation>
     </message>
     <message>
         <source>Total %1 s · standard deviation %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem %1 s · směrodatná odchylka %2 s</translation>
     </message>
 </context>
 <context>
     <name>FindWindow</name>
     <message>
         <source>The table cannot be written over a file that is searched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulku nelze zapsat přes soubor, který se prohledává.</translation>
     </message>
 </context>
 <context>
     <name>IntervalTexts</name>
     <message>
         <source>A duration is written as seconds or as 1:30, up to a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Doba se píše v sekundách nebo jako 1:30, nejvýš den</translation>
     </message>
     <message>
         <source>Sets and repetitions are whole numbers from 0 to 9999</source>
-        <translation type="unfinished"></translation>
+        <translation>Série a opakování jsou celá čísla od 0 do 9999</translation>
     </message>
     <message>
         <source>Volume and intensity are numbers such as 4.5</source>
-        <translation type="unfinished"></translation>
+        <translation>Objem a intenzita jsou čísla, třeba 4.5</translation>
     </message>
     <message>
         <source>, rest %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, odpočinek %1</translation>
     </message>
     <message>
         <source>%1 in all, %2 of it work; repetitions: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>celkem %1, z toho práce %2; opakování: %3</translation>
     </message>
 </context>
 <context>
     <name>KeyOverlay</name>
     <message>
         <source>In the part with the focus</source>
-        <translation type="unfinished"></translation>
+        <translation>V aktivní části</translation>
     </message>
 </context>
 <context>
     <name>ListedTest</name>
     <message>
         <source>No name</source>
-        <translation type="unfinished"></translation>
+        <translation>Beze jména</translation>
     </message>
     <message>
         <source>Lap test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test na kola</translation>
     </message>
     <message>
         <source>Sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprint</translation>
     </message>
     <message>
         <source>Eight test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test osmičky</translation>
     </message>
     <message>
         <source>Lap</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolo</translation>
     </message>
     <message>
         <source>Eight</source>
-        <translation type="unfinished"></translation>
+        <translation>Osmička</translation>
     </message>
 </context>
 <context>
     <name>MeasureCharts</name>
     <message>
         <source>below what is usual</source>
-        <translation type="unfinished"></translation>
+        <translation>pod obvyklým</translation>
     </message>
     <message>
         <source>within what is usual</source>
-        <translation type="unfinished"></translation>
+        <translation>v obvyklém rozmezí</translation>
     </message>
     <message>
         <source>above what is usual</source>
-        <translation type="unfinished"></translation>
+        <translation>nad obvyklým</translation>
     </message>
     <message>
         <source>Weight and body fat</source>
-        <translation type="unfinished"></translation>
+        <translation>Hmotnost a tělesný tuk</translation>
     </message>
     <message>
         <source>Body fat (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tělesný tuk (%)</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Hmotnost</translation>
     </message>
     <message>
         <source>Body fat</source>
-        <translation type="unfinished"></translation>
+        <translation>Tělesný tuk</translation>
     </message>
     <message>
         <source>Weight (kg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Hmotnost (kg)</translation>
     </message>
     <message>
         <source>Add a weight or body fat to see how it goes through the season.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidejte hmotnost nebo tělesný tuk a uvidíte, jak se v sezóně vyvíjejí.</translation>
     </message>
     <message>
         <source>Usual: mean ± one standard deviation of the four weeks before</source>
-        <translation type="unfinished"></translation>
+        <translation>Obvyklé: průměr ± jedna směrodatná odchylka ze čtyř předchozích týdnů</translation>
     </message>
     <message>
         <source>Each day</source>
-        <translation type="unfinished"></translation>
+        <translation>Každý den</translation>
     </message>
     <message>
         <source>Seven-day mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Sedmidenní průměr</translation>
     </message>
     <message>
         <source>Usual</source>
-        <translation type="unfinished"></translation>
+        <translation>Obvyklé</translation>
     </message>
     <message>
         <source>Week to %1: mean %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Týden do %1: průměr %2</translation>
     </message>
     <message>
         <source>%1. What is usual is known after seven measured days of the 28 before.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Co je obvyklé, je známo po sedmi změřených dnech z 28 předchozích.</translation>
     </message>
     <message>
         <source>%1, %2 (%3 to %4).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 (%3 až %4).</translation>
     </message>
 </context>
 <context>
@@ -249,57 +249,57 @@
     <name>OlderRecordings</name>
     <message>
         <source>“%1” is a recording of version 4. It can be converted to the current version: “%2” is written beside it, the recording itself stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ je záznam verze 4. Lze ho převést do současné verze: „%2“ se zapíše vedle, samotný záznam zůstane, jak je.</translation>
     </message>
     <message>
         <source>Convert and open</source>
-        <translation type="unfinished"></translation>
+        <translation>Převést a otevřít</translation>
     </message>
 </context>
 <context>
     <name>OnlineStore</name>
     <message>
         <source>The server does not accept the user name or the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Server nepřijímá uživatelské jméno nebo heslo.</translation>
     </message>
 </context>
 <context>
     <name>PlanningHandouts</name>
     <message>
         <source>Choose an athlete with a season first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív vyberte závodníka se sezónou.</translation>
     </message>
     <message>
         <source>Week %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Týden %1</translation>
     </message>
     <message>
         <source>Week %1 %2.pdf</source>
-        <translation type="unfinished"></translation>
+        <translation>Týden %1 %2.pdf</translation>
     </message>
     <message>
         <source>Season %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezóna %1</translation>
     </message>
     <message>
         <source>Season %1 %2.pdf</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezóna %1 %2.pdf</translation>
     </message>
     <message>
         <source>There is no week to write.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není týden k zapsání.</translation>
     </message>
     <message>
         <source>Week %1 %2.ics</source>
-        <translation type="unfinished"></translation>
+        <translation>Týden %1 %2.ics</translation>
     </message>
     <message>
         <source>Week as a calendar file</source>
-        <translation type="unfinished"></translation>
+        <translation>Týden jako soubor kalendáře</translation>
     </message>
     <message>
         <source>Calendar files (*.ics)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory kalendáře (*.ics)</translation>
     </message>
     <message>
         <source>%1 is written.</source>
@@ -310,169 +310,169 @@
     <name>ProgressionChart</name>
     <message>
         <source>Position after each phase; the chosen race is drawn heavier</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí po každé fázi; zvolený závod je silněji</translation>
     </message>
     <message>
         <source>position</source>
-        <translation type="unfinished"></translation>
+        <translation>pořadí</translation>
     </message>
     <message>
         <source>Positions of the phases stand here once they are entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí ve fázích se zde ukáže, jakmile budou zadána.</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>start of the roll</source>
-        <translation type="unfinished"></translation>
+        <translation>začátek eskymáku</translation>
     </message>
     <message>
         <source>boat upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>loď dnem vzhůru</translation>
     </message>
     <message>
         <source>boat up again</source>
-        <translation type="unfinished"></translation>
+        <translation>loď zase nahoře</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit</translation>
     </message>
     <message>
         <source>Recent files, in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Poslední soubory, v %1</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nápověda</translation>
     </message>
     <message>
         <source>&amp;Search everything…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hledat všude…</translation>
     </message>
     <message>
         <source>&amp;All keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny &amp;klávesy</translation>
     </message>
     <message>
         <source>&amp;Why this number?</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Proč toto číslo?</translation>
     </message>
     <message>
         <source>&amp;Change keys…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Změnit klávesy…</translation>
     </message>
     <message>
         <source>&amp;Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Celá obrazovka</translation>
     </message>
     <message>
         <source>Where are the films now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde jsou filmy nyní?</translation>
     </message>
     <message>
         <source>Videos (*.mov *.mp4 *.m4v *.avi *.mkv *.mts *.m2ts *.ts *.3gp *.webm *.mpg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Videa (*.mov *.mp4 *.m4v *.avi *.mkv *.mts *.m2ts *.ts *.3gp *.webm *.mpg);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>The folder has another film named %1 already. Give one of them another name first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka už obsahuje jiný film jménem %1. Nejdřív jeden z nich přejmenujte.</translation>
     </message>
     <message>
         <source>Copying %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopíruje se %1</translation>
     </message>
     <message>
         <source>%1 could not be copied into the folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nelze zkopírovat do složky.</translation>
     </message>
     <message>
         <source>entrance</source>
-        <translation type="unfinished"></translation>
+        <translation>nájezd</translation>
     </message>
     <message>
         <source>middle</source>
-        <translation type="unfinished"></translation>
+        <translation>střed</translation>
     </message>
     <message>
         <source>exit</source>
-        <translation type="unfinished"></translation>
+        <translation>výjezd</translation>
     </message>
     <message>
         <source>All splits of this run are marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny mezičasy této jízdy jsou označeny.</translation>
     </message>
     <message>
         <source>Mark the start first: the splits are expected from there on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív označte start: mezičasy se čekají od něj.</translation>
     </message>
     <message>
         <source>No other run has split %1 yet: nothing tells where it is to be expected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičas %1 zatím nemá žádná jiná jízda: není podle čeho ho čekat.</translation>
     </message>
     <message>
         <source>&amp;Look for a newer version</source>
-        <translation type="unfinished"></translation>
+        <translation>Zjistit &amp;novější verzi</translation>
     </message>
 </context>
 <context>
     <name>QueryForm</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Závodník</translation>
     </message>
     <message>
         <source>anyone</source>
-        <translation type="unfinished"></translation>
+        <translation>kdokoli</translation>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kategorie</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fáze</translation>
     </message>
     <message>
         <source>any</source>
-        <translation type="unfinished"></translation>
+        <translation>jakákoli</translation>
     </message>
     <message>
         <source>P&amp;lace</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Místo</translation>
     </message>
     <message>
         <source>anywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>kdekoli</translation>
     </message>
     <message>
         <source>&amp;Year</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rok</translation>
     </message>
     <message>
         <source>&amp;Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Branka</translation>
     </message>
     <message>
         <source>&amp;Up or down</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Po, či proti</translation>
     </message>
     <message>
         <source>both</source>
-        <translation type="unfinished"></translation>
+        <translation>obojí</translation>
     </message>
     <message>
         <source>&amp;Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;měr</translation>
     </message>
     <message>
         <source>&amp;Style</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Styl</translation>
     </message>
     <message>
         <source>&amp;Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Druh</translation>
     </message>
 </context>
 <context>
@@ -528,7 +528,7 @@
     <name>RankingCharts</name>
     <message>
         <source>Release</source>
-        <translation type="unfinished"></translation>
+        <translation>Vydání</translation>
     </message>
     <message>
         <source>Position</source>
@@ -536,23 +536,23 @@
     </message>
     <message>
         <source>The chart begins with the first position.</source>
-        <translation type="unfinished"></translation>
+        <translation>Graf začíná prvním pořadím.</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Body</translation>
     </message>
     <message>
         <source>The chart begins with the first points.</source>
-        <translation type="unfinished"></translation>
+        <translation>Graf začíná prvními body.</translation>
     </message>
     <message>
         <source>Touches and missed gates per run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ťuky a neprojeté branky na jízdu</translation>
     </message>
     <message>
         <source>per run</source>
-        <translation type="unfinished"></translation>
+        <translation>na jízdu</translation>
     </message>
     <message>
         <source>Touches</source>
@@ -564,15 +564,15 @@
     </message>
     <message>
         <source>Take the season&apos;s statistics from split files to see penalties here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Převezměte statistiku sezóny ze souborů mezičasů a uvidíte zde penalizace.</translation>
     </message>
     <message>
         <source>Behind the best of the category</source>
-        <translation type="unfinished"></translation>
+        <translation>Za nejlepším v kategorii</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>Run</source>
@@ -580,48 +580,48 @@
     </message>
     <message>
         <source>Races with a time and a best time stand here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zde jsou závody s časem a nejlepším časem.</translation>
     </message>
 </context>
 <context>
     <name>RankingSection</name>
     <message>
         <source>The release of a ranking list is a whole number such as 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Vydání žebříčku je celé číslo, třeba 4</translation>
     </message>
 </context>
 <context>
     <name>RunForm</name>
     <message>
         <source>A penalty is a whole number of seconds, 0 to 999</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace je celý počet sekund, 0 až 999</translation>
     </message>
 </context>
 <context>
     <name>SeasonChart</name>
     <message>
         <source>%1: penalty (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: penalizace (s)</translation>
     </message>
     <message>
         <source>% behind</source>
-        <translation type="unfinished"></translation>
+        <translation>% ztráty</translation>
     </message>
     <message>
         <source>penalty (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizace (s)</translation>
     </message>
     <message>
         <source>Percent behind the fastest as lines, penalty seconds as bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Procenta za nejrychlejším jako čáry, trestné sekundy jako sloupce</translation>
     </message>
     <message>
         <source>Penalties only; percent behind comes with split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen penalizace; procenta ztráty přijdou se soubory mezičasů</translation>
     </message>
     <message>
         <source>Percent behind the fastest stands here once runs are taken over from split files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Procenta za nejrychlejším se zde ukážou, jakmile se převezmou jízdy ze souborů mezičasů.</translation>
     </message>
 </context>
 <context>
@@ -632,11 +632,11 @@
     </message>
     <message>
         <source>Import athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Import závodníků</translation>
     </message>
     <message>
         <source>athletes imported</source>
-        <translation type="unfinished"></translation>
+        <translation>závodníci importováni</translation>
     </message>
     <message>
         <source>Import</source>
@@ -644,23 +644,23 @@
     </message>
     <message>
         <source>“%1” cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze přečíst</translation>
     </message>
     <message>
         <source>One athlete was added.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidán jeden závodník.</translation>
     </message>
     <message>
         <source>The list is no UTF-8 text and was read as Latin-1: look at the names.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznam není text UTF-8 a byl přečten jako Latin-1: zkontrolujte jména.</translation>
     </message>
     <message>
         <source>Line %1: the category %2 is new in the selection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek %1: kategorie %2 je v nominaci nová.</translation>
     </message>
     <message>
         <source>Line %1: the category %2 is new in the selection, and none that boats are raced in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek %1: kategorie %2 je v nominaci nová a na lodích se v ní nezávodí.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
@@ -668,15 +668,15 @@
     </message>
     <message>
         <source>Results of which race?</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledky kterého závodu?</translation>
     </message>
     <message>
         <source>Add a category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív přidejte kategorii.</translation>
     </message>
     <message>
         <source>Split files of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů závodu</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -684,18 +684,18 @@
     </message>
     <message>
         <source>There are no results in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejsou v něm žádné výsledky.</translation>
     </message>
     <message>
         <source>results taken over</source>
-        <translation type="unfinished"></translation>
+        <translation>výsledky převzaty</translation>
     </message>
     <message numerus="yes">
         <source>%n athletes were added.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Přidán %n závodník.</numerusform>
+            <numerusform>Přidáni %n závodníci.</numerusform>
+            <numerusform>Přidáno %n závodníků.</numerusform>
         </translation>
     </message>
 </context>
@@ -707,57 +707,57 @@
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze otevřít</translation>
     </message>
 </context>
 <context>
     <name>SessionEdits</name>
     <message>
         <source>session information</source>
-        <translation type="unfinished"></translation>
+        <translation>informace o jednotce</translation>
     </message>
     <message>
         <source>Nothing was cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic nebylo vystřiženo</translation>
     </message>
     <message>
         <source>Too little would be left of the session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Z jednotky by zbylo příliš málo.</translation>
     </message>
     <message>
         <source>cut to a stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>ořez na část</translation>
     </message>
     <message>
         <source>removal of a stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění části</translation>
     </message>
     <message>
         <source>removal of strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění záběrů</translation>
     </message>
     <message>
         <source>new analysis</source>
-        <translation type="unfinished"></translation>
+        <translation>nová analýza</translation>
     </message>
     <message>
         <source>mount of the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>upevnění telefonu</translation>
     </message>
 </context>
 <context>
     <name>SessionExports</name>
     <message>
         <source>Save the edited .kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit upravený soubor .kvb</translation>
     </message>
     <message>
         <source>Recordings (*.kvb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznamy (*.kvb)</translation>
     </message>
     <message>
         <source>Export the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Export tabulky</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
@@ -768,27 +768,27 @@
     <name>SessionImports</name>
     <message>
         <source>%1 positions and %2 heart rates were taken over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzato poloh: %1, tepových frekvencí: %2.</translation>
     </message>
     <message>
         <source>Import the recording of the boat first: a track gives it positions and heart rates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív importujte záznam lodi: stopa mu dodá polohy a tepovou frekvenci.</translation>
     </message>
     <message>
         <source>track of a watch</source>
-        <translation type="unfinished"></translation>
+        <translation>stopa hodinek</translation>
     </message>
     <message>
         <source>move of a watch&apos;s track</source>
-        <translation type="unfinished"></translation>
+        <translation>posun stopy hodinek</translation>
     </message>
     <message>
         <source>Import power-meter data</source>
-        <translation type="unfinished"></translation>
+        <translation>Import dat wattmetru</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznamy (*.csv *.txt)</translation>
     </message>
     <message>
         <source>All files (*)</source>
@@ -796,117 +796,117 @@
     </message>
     <message>
         <source>“%1” cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze přečíst</translation>
     </message>
     <message>
         <source>Import a recording or a session first: power-meter data belongs to its strokes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív importujte záznam nebo jednotku: data wattmetru patří k jejím záběrům.</translation>
     </message>
     <message>
         <source>import of power-meter data</source>
-        <translation type="unfinished"></translation>
+        <translation>import dat wattmetru</translation>
     </message>
 </context>
 <context>
     <name>SessionSeries</name>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Výkon</translation>
     </message>
     <message>
         <source>W</source>
-        <translation type="unfinished"></translation>
+        <translation>W</translation>
     </message>
     <message>
         <source>Power meter</source>
-        <translation type="unfinished"></translation>
+        <translation>Wattmetr</translation>
     </message>
     <message>
         <source>Water phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Vodní fáze</translation>
     </message>
     <message>
         <source>s</source>
-        <translation type="unfinished"></translation>
+        <translation>s</translation>
     </message>
     <message>
         <source>Aerial phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzdušná fáze</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost</translation>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>Heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tepová frekvence</translation>
     </message>
     <message>
         <source>1/min</source>
-        <translation type="unfinished"></translation>
+        <translation>1/min</translation>
     </message>
     <message>
         <source>Pitch in turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolébání v obratech</translation>
     </message>
     <message>
         <source>°</source>
-        <translation type="unfinished"></translation>
+        <translation>°</translation>
     </message>
     <message>
         <source>Stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frekvence záběrů</translation>
     </message>
     <message>
         <source>Force</source>
-        <translation type="unfinished"></translation>
+        <translation>Síla</translation>
     </message>
     <message>
         <source>N</source>
-        <translation type="unfinished"></translation>
+        <translation>N</translation>
     </message>
     <message>
         <source>Impulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Impulz</translation>
     </message>
     <message>
         <source>N·s</source>
-        <translation type="unfinished"></translation>
+        <translation>N·s</translation>
     </message>
     <message>
         <source>Roll of the stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Klonění při záběru</translation>
     </message>
 </context>
 <context>
     <name>SessionTexts</name>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>levá</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>pravá</translation>
     </message>
     <message>
         <source>side unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>strana neznámá</translation>
     </message>
     <message>
         <source>Side unknown: when the session was made, it was not known which side of the phone points to the bow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strana neznámá: když jednotka vznikla, nebylo známo, která strana telefonu míří ke špičce.</translation>
     </message>
     <message>
         <source>The file does not tell how the clocks of strokes and fixes go together: they were fitted by the turns and may be some seconds apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor neříká, jak k sobě patří hodiny záběrů a poloh: byly sladěny podle obratů a mohou se o pár sekund lišit.</translation>
     </message>
     <message>
         <source>Power-meter data is not in the strokes yet; you are asked on saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Data wattmetru v záběrech ještě nejsou; na to budete dotázáni při ukládání.</translation>
     </message>
 </context>
 <context>
@@ -951,70 +951,70 @@
     <name>TestCharts</name>
     <message>
         <source>Not recorded, and not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Nezaznamenáno a nezadáno</translation>
     </message>
     <message>
         <source>Lap</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolo</translation>
     </message>
     <message>
         <source>Stretch of the sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Část sprintu</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrat</translation>
     </message>
     <message>
         <source>Time from the start (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas od startu (s)</translation>
     </message>
     <message>
         <source>Only a recording tells this</source>
-        <translation type="unfinished"></translation>
+        <translation>To ukáže jen záznam</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičas</translation>
     </message>
 </context>
 <context>
     <name>TrialMarking</name>
     <message>
         <source>Add the first athlete above</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidejte nahoře prvního závodníka</translation>
     </message>
     <message>
         <source>M marks split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>M označí mezičas %1</translation>
     </message>
     <message>
         <source>M marks the start</source>
-        <translation type="unfinished"></translation>
+        <translation>M označí start</translation>
     </message>
     <message>
         <source>M marks the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>M označí: %1</translation>
     </message>
     <message>
         <source>The roll is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Eskymák je označen</translation>
     </message>
     <message>
         <source>The cross course has no gates yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Trať crossu zatím nemá branky</translation>
     </message>
     <message>
         <source>Gate %1: M marks the %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1: M označí %2</translation>
     </message>
     <message>
         <source>Gate %1 is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1 je označena</translation>
     </message>
     <message>
         <source>The time of this trial was taken without marks on the film. Marking it anew replaces it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas této časovky byl změřen bez značek ve filmu. Nové označení ho nahradí.</translation>
     </message>
     <message>
         <source>Mark anew</source>
@@ -1042,23 +1042,23 @@
     </message>
     <message>
         <source>Gate %1 is marked. N goes to the next gate, Shift+M moves the selected mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1 je označena. N jde na další branku, Shift+M posune vybranou značku.</translation>
     </message>
     <message>
         <source>The cross course has no gates yet: they are set above.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trať crossu zatím nemá branky: nastavují se nahoře.</translation>
     </message>
     <message>
         <source>%1 of gate %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 branky %2</translation>
     </message>
     <message>
         <source>Gate %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1 %2</translation>
     </message>
     <message>
         <source>The roll is marked. Shift+M moves the selected mark, Delete removes it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eskymák je označen. Shift+M posune vybranou značku, Delete ji odstraní.</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
@@ -1074,99 +1074,99 @@
     </message>
     <message>
         <source>Without a start mark the time counts from the beginning of the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez značky startu se čas počítá od začátku filmu.</translation>
     </message>
     <message>
         <source>gate %1 removed</source>
-        <translation type="unfinished"></translation>
+        <translation>branka %1 odstraněna</translation>
     </message>
 </context>
 <context>
     <name>TypedMeasures</name>
     <message>
         <source>This moment is in no calendar: %1 seconds from 2001-01-01. It stays as it is until another date is typed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento okamžik není v žádném kalendáři: %1 sekund od 2001-01-01. Zůstane, dokud se nenapíše jiné datum.</translation>
     </message>
     <message>
         <source>A value below 0 cannot be measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnotu pod 0 nelze naměřit.</translation>
     </message>
     <message>
         <source>More than %1 was hardly measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Víc než %1 se sotva naměřilo.</translation>
     </message>
     <message>
         <source>It stays as it is until another one is typed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zůstane, dokud se nenapíše jiná.</translation>
     </message>
     <message>
         <source>A measurement needs a day of the calendar such as 2026-03-09.</source>
-        <translation type="unfinished"></translation>
+        <translation>Měření potřebuje den kalendáře, třeba 2026-03-09.</translation>
     </message>
     <message>
         <source>Expected is a number from 0 to %1, such as %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Očekává se číslo od 0 do %1, třeba %2</translation>
     </message>
 </context>
 <context>
     <name>TypedNumber</name>
     <message>
         <source>Expected is a number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Očekává se číslo od %1 do %2</translation>
     </message>
     <message>
         <source>Expected is a whole number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Očekává se celé číslo od %1 do %2</translation>
     </message>
     <message>
         <source>Expected is a time from %1 to %2 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Očekává se čas od %1 do %2 sekund</translation>
     </message>
 </context>
 <context>
     <name>TypedValues</name>
     <message>
         <source>A time is a number of seconds such as 92.34, or 1:32.34</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas je počet sekund, třeba 92.34, nebo 1:32.34</translation>
     </message>
     <message>
         <source>A penalty is a whole number of seconds, 0 to 999</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace je celý počet sekund, 0 až 999</translation>
     </message>
     <message>
         <source>A position is a whole number, 1 to 9999</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí je celé číslo, 1 až 9999</translation>
     </message>
     <message>
         <source>Ranking points are a number such as 612.5</source>
-        <translation type="unfinished"></translation>
+        <translation>Body žebříčku jsou číslo, třeba 612.5</translation>
     </message>
     <message>
         <source>A year is a number from 1900 to 2100</source>
-        <translation type="unfinished"></translation>
+        <translation>Rok je číslo od 1900 do 2100</translation>
     </message>
     <message>
         <source>A date is a day of the calendar such as 2025-06-14</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum je den kalendáře, třeba 2025-06-14</translation>
     </message>
 </context>
 <context>
     <name>WeekTexts</name>
     <message>
         <source>Week %1, from %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Týden %1, od %2</translation>
     </message>
     <message>
         <source>Load %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatížení %1 %</translation>
     </message>
     <message>
         <source>Macrocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Makrocyklus</translation>
     </message>
     <message>
         <source>Mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezocyklus</translation>
     </message>
     <message>
         <source>Event</source>
@@ -1178,59 +1178,59 @@
     </message>
     <message>
         <source>On-water test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test na vodě</translation>
     </message>
     <message>
         <source>Endurance test</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytrvalostní test</translation>
     </message>
     <message>
         <source>Blood test</source>
-        <translation type="unfinished"></translation>
+        <translation>Krevní test</translation>
     </message>
     <message>
         <source>Injured</source>
-        <translation type="unfinished"></translation>
+        <translation>Zranění</translation>
     </message>
     <message>
         <source>%n session(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>jednotky: %n</translation>
     </message>
     <message>
         <source>The week&apos;s date is in no calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum týdne není v žádném kalendáři.</translation>
     </message>
     <message>
         <source>The week does not start on a Monday.</source>
-        <translation type="unfinished"></translation>
+        <translation>Týden nezačíná v pondělí.</translation>
     </message>
     <message>
         <source>The load is negative.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatížení je záporné.</translation>
     </message>
     <message>
         <source>The two lists of planned totals are of different lengths.</source>
-        <translation type="unfinished"></translation>
+        <translation>Oba seznamy plánovaných součtů mají různou délku.</translation>
     </message>
     <message>
         <source>%1 of its sessions are on no day of the week.</source>
-        <translation type="unfinished"></translation>
+        <translation>Počet jednotek, které nejsou v žádném dni týdne: %1.</translation>
     </message>
     <message>
         <source>The session&apos;s date is in no calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum jednotky není v žádném kalendáři.</translation>
     </message>
     <message>
         <source>The time of day is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denní čas není platný.</translation>
     </message>
     <message>
         <source>The time zone “%1” is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Časové pásmo „%1“ není známo.</translation>
     </message>
     <message>
         <source>A value is negative.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnota je záporná.</translation>
     </message>
 </context>
 <context>
@@ -1321,7 +1321,7 @@
     </message>
     <message>
         <source>white</source>
-        <translation type="unfinished"></translation>
+        <translation>bílá</translation>
     </message>
     <message>
         <source>What was not timed, or lies beside the scale, has no colour.</source>
@@ -1789,7 +1789,7 @@
     </message>
     <message>
         <source>The table cannot be written over a file that is searched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulku nelze zapsat přes soubor, který se prohledává.</translation>
     </message>
     <message>
         <source>Searches split files: a season in one question</source>
@@ -3580,7 +3580,7 @@
     </message>
     <message>
         <source>Season %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezóna %1</translation>
     </message>
     <message>
         <source>Weeks</source>
@@ -3628,11 +3628,11 @@
     </message>
     <message>
         <source>Macrocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Makrocyklus</translation>
     </message>
     <message>
         <source>Mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezocyklus</translation>
     </message>
     <message>
         <source>Load, %</source>
@@ -3680,7 +3680,7 @@
     </message>
     <message>
         <source>Week %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Týden %1</translation>
     </message>
     <message>
         <source>Goals of the week</source>
@@ -3756,7 +3756,7 @@
     </message>
     <message>
         <source>Race</source>
-        <translation type="unfinished"></translation>
+        <translation>Závod</translation>
     </message>
     <message>
         <source>Place</source>
@@ -3828,7 +3828,7 @@
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrat</translation>
     </message>
     <message>
         <source>Time losses</source>
@@ -3856,7 +3856,7 @@
     </message>
     <message>
         <source>Comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Komentáře</translation>
     </message>
     <message>
         <source>Split {}</source>
@@ -3868,7 +3868,7 @@
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Záběry</translation>
     </message>
     <message>
         <source>per min</source>
@@ -3876,7 +3876,7 @@
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičas</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -4064,7 +4064,7 @@
     </message>
     <message>
         <source>SURNAME Name</source>
-        <translation type="unfinished"></translation>
+        <translation>PŘÍJMENÍ Jméno</translation>
     </message>
     <message>
         <source>Club</source>
@@ -4072,7 +4072,7 @@
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Rok</translation>
     </message>
     <message>
         <source>xTime</source>
@@ -4120,7 +4120,7 @@
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná</translation>
     </message>
     <message>
         <source>Place and date</source>
@@ -4640,7 +4640,7 @@
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Penalty missing</source>
@@ -4916,7 +4916,7 @@
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>žádné</translation>
     </message>
     <message>
         <source>Table</source>
@@ -6802,46 +6802,46 @@
     </message>
     <message>
         <source>SURNAME Name</source>
-        <translation type="unfinished"></translation>
+        <translation>PŘÍJMENÍ Jméno</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>neznámo</translation>
     </message>
     <message>
         <source>&amp;Name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jméno</translation>
     </message>
     <message>
         <source>&amp;Club</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Klub</translation>
     </message>
     <message>
         <source>&amp;Birth year</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rok narození</translation>
     </message>
     <message>
         <source>&amp;Age group</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Věková skupina</translation>
     </message>
     <message>
         <source>Preselected, group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Předvybrán(a), skupina %1</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>žádné</translation>
     </message>
     <message>
         <source>Bonus %1 (percent)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus %1 (procenta)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthleteList</name>
     <message>
         <source>Search athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledat závodníky</translation>
     </message>
     <message>
         <source>Season</source>
@@ -6849,76 +6849,76 @@
     </message>
     <message>
         <source>none yet</source>
-        <translation type="unfinished"></translation>
+        <translation>zatím žádné</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthletePageDialog</name>
     <message>
         <source>Page of an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Stránka závodníka</translation>
     </message>
     <message>
         <source>All races that are open</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny otevřené závody</translation>
     </message>
     <message>
         <source>Only the race of the run that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen závod ukázané jízdy</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Závodník</translation>
     </message>
     <message>
         <source>&amp;From</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Z čeho</translation>
     </message>
     <message>
         <source>&amp;Preview and print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Náhled a tisk…</translation>
     </message>
     <message>
         <source>&amp;Save as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uložit jako PDF…</translation>
     </message>
     <message>
         <source>One A4 page: where time is lost on the %1, what to train, penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedna strana A4: kde se ztrácí čas (proti: %1), co trénovat, penalizace.</translation>
     </message>
     <message>
         <source>Choose one of the athletes of the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte některého ze závodníků seznamu.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthletePages</name>
     <message>
         <source>Save the page of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit stránku závodníka</translation>
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokumenty PDF (*.pdf)</translation>
     </message>
     <message>
         <source>The page cannot be written over a race that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stránku nelze zapsat přes závod, ze kterého vzniká.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthletePanel</name>
     <message>
         <source>Retired: left out of the categorization report</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukončil(a) kariéru: vynechá se ze zprávy o kategorizaci</translation>
     </message>
     <message>
         <source>Search athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledat závodníky</translation>
     </message>
     <message>
         <source>Ctrl+F</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+F</translation>
     </message>
     <message>
         <source>All categories</source>
@@ -6930,66 +6930,66 @@
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>jméno</translation>
     </message>
     <message>
         <source>Born</source>
-        <translation type="unfinished"></translation>
+        <translation>Nar.</translation>
     </message>
     <message>
         <source>birth year</source>
-        <translation type="unfinished"></translation>
+        <translation>rok narození</translation>
     </message>
     <message>
         <source>Boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Lodě</translation>
     </message>
     <message>
         <source>Ret.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kon.</translation>
     </message>
     <message>
         <source>Retired</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukončená kariéra</translation>
     </message>
     <message>
         <source>retirement</source>
-        <translation type="unfinished"></translation>
+        <translation>ukončení kariéry</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AttackForm</name>
     <message>
         <source>Passed</source>
-        <translation type="unfinished"></translation>
+        <translation>Předjel(a)</translation>
     </message>
     <message>
         <source>No end</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez konce</translation>
     </message>
     <message>
         <source>Takes the end of the attack out</source>
-        <translation type="unfinished"></translation>
+        <translation>Odebere konec útoku</translation>
     </message>
     <message>
         <source>The attacker went past</source>
-        <translation type="unfinished"></translation>
+        <translation>Útočník projel před soupeře</translation>
     </message>
     <message>
         <source>Attacker</source>
-        <translation type="unfinished"></translation>
+        <translation>Útočník</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>na</translation>
     </message>
     <message>
         <source>attacker</source>
-        <translation type="unfinished"></translation>
+        <translation>útočník</translation>
     </message>
     <message>
         <source>outcome of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>výsledek útoku</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -6997,7 +6997,7 @@
     </message>
     <message>
         <source>Side</source>
-        <translation type="unfinished"></translation>
+        <translation>Strana</translation>
     </message>
     <message>
         <source>Place</source>
@@ -7005,74 +7005,74 @@
     </message>
     <message>
         <source>side of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>strana útoku</translation>
     </message>
     <message>
         <source>place of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>místo útoku</translation>
     </message>
     <message>
         <source>comment on an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>komentář k útoku</translation>
     </message>
     <message>
         <source>Start here</source>
-        <translation type="unfinished"></translation>
+        <translation>Začíná zde</translation>
     </message>
     <message>
         <source>The attack starts at this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Útok začíná na tomto snímku</translation>
     </message>
     <message>
         <source>End here</source>
-        <translation type="unfinished"></translation>
+        <translation>Končí zde</translation>
     </message>
     <message>
         <source>The attack ends at this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Útok končí na tomto snímku</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit</translation>
     </message>
     <message>
         <source>Removes the attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstraní útok</translation>
     </message>
     <message>
         <source>?  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>?  %1</translation>
     </message>
     <message>
         <source>unnamed</source>
-        <translation type="unfinished"></translation>
+        <translation>beze jména</translation>
     </message>
     <message>
         <source>Start %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Začátek %1</translation>
     </message>
     <message>
         <source>End %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Konec %1</translation>
     </message>
     <message>
         <source>defenders</source>
-        <translation type="unfinished"></translation>
+        <translation>obránci</translation>
     </message>
     <message>
         <source>%1 defends</source>
-        <translation type="unfinished"></translation>
+        <translation>brání se: %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AveragesModel</name>
     <message>
         <source>Share of the runs with so many penalty seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Podíl jízd s tolika trestnými sekundami</translation>
     </message>
     <message>
         <source>S%1</source>
-        <translation type="unfinished"></translation>
+        <translation>S%1</translation>
     </message>
     <message>
         <source>Season</source>
@@ -7084,196 +7084,199 @@
     </message>
     <message>
         <source>Behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta</translation>
     </message>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Čisté</translation>
     </message>
     <message>
         <source>2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>2 s</translation>
     </message>
     <message>
         <source>4 s</source>
-        <translation type="unfinished"></translation>
+        <translation>4 s</translation>
     </message>
     <message>
         <source>6 to 48 s</source>
-        <translation type="unfinished"></translation>
+        <translation>6 až 48 s</translation>
     </message>
     <message>
         <source>50 s and more</source>
-        <translation type="unfinished"></translation>
+        <translation>50 s a víc</translation>
     </message>
     <message>
         <source>All seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny sezóny</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::BalanceView</name>
     <message>
         <source>Side unknown: nothing tells which side of the phone points to the bow. Name its mount in the menu Edit, and left and right are found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strana neznámá: nic neříká, která strana telefonu míří ke špičce. Určete jeho upevnění v nabídce Úpravy a levá a pravá se zjistí.</translation>
     </message>
     <message>
         <source>even</source>
-        <translation type="unfinished"></translation>
+        <translation>vyrovnané</translation>
     </message>
     <message>
         <source>left +%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>levá +%1 %</translation>
     </message>
     <message>
         <source>right +%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>pravá +%1 %</translation>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Záběry</translation>
     </message>
     <message>
         <source>Force (N)</source>
-        <translation type="unfinished"></translation>
+        <translation>Síla (N)</translation>
     </message>
     <message>
         <source>Impulse (N·s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Impulz (N·s)</translation>
     </message>
     <message>
         <source>Power (W)</source>
-        <translation type="unfinished"></translation>
+        <translation>Výkon (W)</translation>
     </message>
     <message>
         <source>Water phase (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vodní fáze (s)</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Levá</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Pravá</translation>
     </message>
     <message>
         <source>Differences under %1 % are no finding</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozdíly pod %1 % nic neznamenají</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::BodyPanel</name>
     <message>
         <source>Body</source>
-        <translation type="unfinished"></translation>
+        <translation>Tělo</translation>
     </message>
     <message>
         <source>body data</source>
-        <translation type="unfinished"></translation>
+        <translation>údaje o těle</translation>
     </message>
     <message>
         <source>Add weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat hmotnost</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Hmotnost</translation>
     </message>
     <message>
         <source>Body fat</source>
-        <translation type="unfinished"></translation>
+        <translation>Tělesný tuk</translation>
     </message>
     <message>
         <source>Resting heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Klidová tepová frekvence</translation>
     </message>
     <message>
         <source>heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>tepová frekvence</translation>
     </message>
     <message>
         <source>Add heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat tepovou frekvenci</translation>
     </message>
     <message>
         <source>Heart-rate variability</source>
-        <translation type="unfinished"></translation>
+        <translation>Variabilita tepové frekvence</translation>
     </message>
     <message>
         <source>variability</source>
-        <translation type="unfinished"></translation>
+        <translation>variabilita</translation>
     </message>
     <message>
         <source>Add measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat měření</translation>
     </message>
     <message>
         <source>Import list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat seznam…</translation>
     </message>
     <message>
         <source>A list with a header: Date and one or more of AVNN, SDNN, rMSSD, pNN50, LF, HF. It can also be dropped here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznam se záhlavím: Date a jedno či více z AVNN, SDNN, rMSSD, pNN50, LF, HF. Lze ho sem i přetáhnout.</translation>
     </message>
     <message>
         <source>Index of the chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Index grafu</translation>
     </message>
     <message>
         <source>&amp;Index</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Index</translation>
     </message>
     <message>
         <source>Choose an athlete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte závodníka.</translation>
     </message>
     <message>
         <source>Add a season for this athlete first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív přidejte tomuto závodníkovi sezónu.</translation>
     </message>
     <message>
         <source>No weight of this season yet.
 Press Insert to add today&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>V této sezóně zatím žádná hmotnost.
+Stiskněte Insert a přidejte dnešní.</translation>
     </message>
     <message>
         <source>No heart rate of this season yet.
 Press Insert to add this morning&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>V této sezóně zatím žádná tepová frekvence.
+Stiskněte Insert a přidejte dnešní ranní.</translation>
     </message>
     <message>
         <source>No measurement of this season yet.
 Press Insert to add one, or import a list.</source>
-        <translation type="unfinished"></translation>
+        <translation>V této sezóně zatím žádné měření.
+Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     </message>
     <message>
         <source>bpm</source>
-        <translation type="unfinished"></translation>
+        <translation>tepů/min</translation>
     </message>
     <message>
         <source>Add a few mornings&apos; heart rates to see the mean of the week against what is usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidejte tepovou frekvenci z několika rán a uvidíte průměr týdne proti obvyklému.</translation>
     </message>
     <message>
         <source>No %1 of this season. Add measurements, import a list or choose another index.</source>
-        <translation type="unfinished"></translation>
+        <translation>V této sezóně chybí %1. Přidejte měření, importujte seznam nebo zvolte jiný index.</translation>
     </message>
     <message>
         <source>Import variability</source>
-        <translation type="unfinished"></translation>
+        <translation>Import variability</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt *.tsv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznamy (*.csv *.txt *.tsv);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>import of variability</source>
-        <translation type="unfinished"></translation>
+        <translation>import variability</translation>
     </message>
     <message>
         <source>The list cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznam nelze přečíst: %1</translation>
     </message>
 </context>
 <context>
@@ -7288,91 +7291,91 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Lag</source>
-        <translation type="unfinished"></translation>
+        <translation>Zpoždění</translation>
     </message>
     <message>
         <source>Off by</source>
-        <translation type="unfinished"></translation>
+        <translation>Odchylka</translation>
     </message>
     <message>
         <source>Attach a film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Připojit film…</translation>
     </message>
     <message>
         <source>Beside the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Vedle filmu</translation>
     </message>
     <message>
         <source>Detach</source>
-        <translation type="unfinished"></translation>
+        <translation>Odpojit</translation>
     </message>
     <message>
         <source>Takes the film shown beside off this run</source>
-        <translation type="unfinished"></translation>
+        <translation>Odpojí vedlejší film od této jízdy</translation>
     </message>
     <message>
         <source>Attach it to every run</source>
-        <translation type="unfinished"></translation>
+        <translation>Připojit ke každé jízdě</translation>
     </message>
     <message>
         <source>A fixed camera often films the whole race in one go</source>
-        <translation type="unfinished"></translation>
+        <translation>Pevná kamera často natočí celý závod najednou</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná</translation>
     </message>
     <message>
         <source>Attach the film of a camera that stood at the course.</source>
-        <translation type="unfinished"></translation>
+        <translation>Připojte film z kamery, která stála u trati.</translation>
     </message>
     <message>
         <source>Choose a camera to see its film beside this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte kameru a uvidíte její film vedle tohoto.</translation>
     </message>
     <message>
         <source>Find one moment on both films, the fixed camera&apos;s alone with Alt+PgUp and Alt+PgDown. M marks it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Najděte na obou filmech týž okamžik, na samotné pevné kameře pomocí Alt+PgUp a Alt+PgDown. M ho označí.</translation>
     </message>
     <message>
         <source>In step: the fixed camera&apos;s film is %1 s ahead.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sladěno: film pevné kamery je o %1 s napřed.</translation>
     </message>
     <message>
         <source>Placed by the dates in the two films, to a second or two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Umístěno podle dat v obou filmech, s přesností na sekundu až dvě.</translation>
     </message>
     <message>
         <source>Not in step yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím nesladěno.</translation>
     </message>
     <message>
         <source>Its film has no date: moments are kept without the time of its clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>Její film nemá datum: okamžiky se uchovají bez času jejích hodin.</translation>
     </message>
     <message>
         <source>fixed camera detached</source>
-        <translation type="unfinished"></translation>
+        <translation>pevná kamera odpojena</translation>
     </message>
     <message>
         <source>fixed camera for every run</source>
-        <translation type="unfinished"></translation>
+        <translation>pevná kamera pro každou jízdu</translation>
     </message>
     <message>
         <source>The film of the fixed camera shows no frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>Film pevné kamery neukazuje žádný snímek.</translation>
     </message>
     <message>
         <source>moment on both films</source>
-        <translation type="unfinished"></translation>
+        <translation>okamžik na obou filmech</translation>
     </message>
     <message>
         <source>Same moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Týž okamžik</translation>
     </message>
     <message>
         <source>moment removed</source>
-        <translation type="unfinished"></translation>
+        <translation>okamžik odstraněn</translation>
     </message>
 </context>
 <context>
@@ -7383,15 +7386,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source> · %1 of %2 selected runs</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 z %2 vybraných jízd</translation>
     </message>
     <message>
         <source>The filter matches nobody. Change it to see runs again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtru nikdo neodpovídá. Změňte ho a jízdy se zase ukážou.</translation>
     </message>
     <message>
         <source>Open a race to see its charts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřete závod a uvidíte jeho grafy.</translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
@@ -7410,7 +7413,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reference</translation>
     </message>
     <message>
         <source>Reference</source>
@@ -7418,7 +7421,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>What the runs are held against</source>
-        <translation type="unfinished"></translation>
+        <translation>S čím se jízdy porovnávají</translation>
     </message>
     <message>
         <source>Fit</source>
@@ -7438,11 +7441,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Best run</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejlepší jízda</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Medián</translation>
     </message>
     <message>
         <source>Ideal run</source>
@@ -7457,19 +7460,19 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Race progression</source>
-        <translation type="unfinished"></translation>
+        <translation>Průběh závodu</translation>
     </message>
     <message>
         <source>Averages</source>
-        <translation type="unfinished"></translation>
+        <translation>Průměry</translation>
     </message>
     <message>
         <source>&amp;All seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Všechny sezóny</translation>
     </message>
     <message>
         <source>The season chart shows every season, not the chosen one alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Graf sezóny ukazuje každou sezónu, nejen zvolenou</translation>
     </message>
     <message>
         <source>Save chart…</source>
@@ -7477,11 +7480,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>As a picture (PNG, SVG) or as CSV (Ctrl+E)</source>
-        <translation type="unfinished"></translation>
+        <translation>Jako obrázek (PNG, SVG) nebo jako CSV (Ctrl+E)</translation>
     </message>
     <message>
         <source>The results of an athlete stand here as charts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledky závodníka se zde ukážou jako grafy.</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -7489,50 +7492,50 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>all seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>všechny sezóny</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ChartView</name>
     <message>
         <source>No test yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím žádný test</translation>
     </message>
     <message>
         <source>%1 × %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2</translation>
     </message>
     <message>
         <source>Test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test</translation>
     </message>
     <message>
         <source>Split %1 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičas %1 (s)</translation>
     </message>
     <message>
         <source>Total (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem (s)</translation>
     </message>
     <message>
         <source>Standard deviation (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Směrodatná odchylka (s)</translation>
     </message>
     <message>
         <source>Laps</source>
-        <translation type="unfinished"></translation>
+        <translation>Kola</translation>
     </message>
     <message>
         <source>Turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Obraty</translation>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Záběry</translation>
     </message>
     <message>
         <source>Stretches</source>
-        <translation type="unfinished"></translation>
+        <translation>Části</translation>
     </message>
 </context>
 <context>
@@ -7565,82 +7568,82 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>One frame back in the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>O snímek zpět v klipech</translation>
     </message>
     <message>
         <source>Frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>Snímek zpět</translation>
     </message>
     <message>
         <source>One frame forward in the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>O snímek vpřed v klipech</translation>
     </message>
     <message>
         <source>Frame on</source>
-        <translation type="unfinished"></translation>
+        <translation>Snímek vpřed</translation>
     </message>
     <message>
         <source>Clips in slow motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Klipy zpomaleně</translation>
     </message>
     <message>
         <source>Slow motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Zpomaleně</translation>
     </message>
     <message>
         <source>Clips slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Klipy pomaleji</translation>
     </message>
     <message>
         <source>Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Pomaleji</translation>
     </message>
     <message>
         <source>Clips faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Klipy rychleji</translation>
     </message>
     <message>
         <source>Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychleji</translation>
     </message>
     <message>
         <source>Clips at normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Klipy normální rychlostí</translation>
     </message>
     <message>
         <source>Normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Normálně</translation>
     </message>
     <message>
         <source>Repeat the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Opakovat klipy</translation>
     </message>
     <message>
         <source>Repeat</source>
-        <translation type="unfinished"></translation>
+        <translation>Opakovat</translation>
     </message>
     <message>
         <source>%1 · %2 s, at its end</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 s, na konci</translation>
     </message>
     <message>
         <source>%1 · %2 of %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 z %3 s</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ColumnTable</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopírovat</translation>
     </message>
     <message>
         <source>&amp;Copy what is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopírovat vybrané</translation>
     </message>
     <message>
         <source>&amp;Save as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uložit jako CSV…</translation>
     </message>
     <message>
         <source>C&amp;olumns</source>
@@ -7659,38 +7662,38 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CommandPalette</name>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledat</translation>
     </message>
     <message>
         <source>An action, a file, an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Akce, soubor, závodník</translation>
     </message>
     <message>
         <source>Nothing here is called “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic se zde nejmenuje „%1“.</translation>
     </message>
     <message>
         <source>Searched: actions, recent files and the names in this window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prohledáno: akce, poslední soubory a jména v tomto okně.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CommentPage</name>
     <message>
         <source>score</source>
-        <translation type="unfinished"></translation>
+        <translation>body</translation>
     </message>
     <message>
         <source>Show the coach&apos;s comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat komentáře trenéra</translation>
     </message>
     <message>
         <source>comment on split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>komentář k mezičasu %1</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičas</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -7698,49 +7701,49 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>závodník</translation>
     </message>
     <message>
         <source>coach</source>
-        <translation type="unfinished"></translation>
+        <translation>trenér</translation>
     </message>
     <message>
         <source>Scores</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnocení</translation>
     </message>
     <message>
         <source>Give-ups</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzdané branky</translation>
     </message>
     <message>
         <source>team radio</source>
-        <translation type="unfinished"></translation>
+        <translation>týmová vysílačka</translation>
     </message>
     <message>
         <source>team radio removed</source>
-        <translation type="unfinished"></translation>
+        <translation>záznam vysílačky odstraněn</translation>
     </message>
     <message>
         <source>team radio moved</source>
-        <translation type="unfinished"></translation>
+        <translation>záznam vysílačky posunut</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CompareDocument</name>
     <message>
         <source>It is no comparison of films, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Není to porovnání filmů, nebo je poškozené: %1</translation>
     </message>
     <message>
         <source>1 film</source>
-        <translation type="unfinished"></translation>
+        <translation>1 film</translation>
     </message>
     <message numerus="yes">
         <source>%n films</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n film</numerusform>
+            <numerusform>%n filmy</numerusform>
+            <numerusform>%n filmů</numerusform>
         </translation>
     </message>
 </context>
@@ -7895,67 +7898,67 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CompareForm</name>
     <message>
         <source>&amp;Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rozvržení</translation>
     </message>
     <message>
         <source>Line at</source>
-        <translation type="unfinished"></translation>
+        <translation>Čára v</translation>
     </message>
     <message>
         <source>0 left, 1 right</source>
-        <translation type="unfinished"></translation>
+        <translation>0 vlevo, 1 vpravo</translation>
     </message>
     <message>
         <source>&amp;Together</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Společně</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičas</translation>
     </message>
     <message>
         <source>Sho&amp;wn</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ukázáno</translation>
     </message>
     <message>
         <source>From split</source>
-        <translation type="unfinished"></translation>
+        <translation>Od mezičasu</translation>
     </message>
     <message>
         <source>To split</source>
-        <translation type="unfinished"></translation>
+        <translation>Do mezičasu</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Od</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Do</translation>
     </message>
     <message>
         <source>Spee&amp;d</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;ychlost</translation>
     </message>
     <message>
         <source>Slow motion has no sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zpomalený film nemá zvuk.</translation>
     </message>
     <message>
         <source>To be read in it</source>
-        <translation type="unfinished"></translation>
+        <translation>K přečtení ve filmu</translation>
     </message>
     <message>
         <source>&amp;Names</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jména</translation>
     </message>
     <message>
         <source>&amp;Clock</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hodiny</translation>
     </message>
     <message>
         <source>Split times and gaps</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičasy a odstupy</translation>
     </message>
     <message>
         <source>Section</source>
@@ -7967,54 +7970,54 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Chart of the gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Graf odstupu</translation>
     </message>
     <message>
         <source>The file</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor</translation>
     </message>
     <message>
         <source>Si&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Velikost</translation>
     </message>
     <message>
         <source>1080 × 1920, upright</source>
-        <translation type="unfinished"></translation>
+        <translation>1080 × 1920, na výšku</translation>
     </message>
     <message>
         <source>720 × 1280, upright</source>
-        <translation type="unfinished"></translation>
+        <translation>720 × 1280, na výšku</translation>
     </message>
     <message>
         <source>1080 × 1080, square</source>
-        <translation type="unfinished"></translation>
+        <translation>1080 × 1080, čtverec</translation>
     </message>
     <message>
         <source>For sending</source>
-        <translation type="unfinished"></translation>
+        <translation>K odeslání</translation>
     </message>
     <message>
         <source>At most 1280 × 720 and coarser: a small file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejvýš 1280 × 720 a hrubší: malý soubor.</translation>
     </message>
     <message>
         <source>S&amp;ound of film</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zvuk filmu</translation>
     </message>
     <message>
         <source>None in slow motion, nor while that film waits or is stretched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný při zpomalení, ani když film čeká nebo je roztažen.</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>žádné</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CompareView</name>
     <message>
         <source>Preview of the composed film</source>
-        <translation type="unfinished"></translation>
+        <translation>Náhled složeného filmu</translation>
     </message>
 </context>
 <context>
@@ -8025,7 +8028,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Compose the &amp;film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Složit &amp;film…</translation>
     </message>
     <message>
         <source>Add s&amp;plit files…</source>
@@ -8037,15 +8040,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Compose the film…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Složit film…</translation>
     </message>
     <message>
         <source>Films being composed: &amp;jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>Skládané filmy: ú&amp;lohy</translation>
     </message>
     <message>
         <source>&amp;Find a run or a film</source>
-        <translation type="unfinished"></translation>
+        <translation>Najít &amp;jízdu nebo film</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -8057,55 +8060,55 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>From the &amp;beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>Od &amp;začátku</translation>
     </message>
     <message>
         <source>One frame ba&amp;ck</source>
-        <translation type="unfinished"></translation>
+        <translation>O snímek z&amp;pět</translation>
     </message>
     <message>
         <source>One frame &amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation>O snímek &amp;vpřed</translation>
     </message>
     <message>
         <source>P&amp;art</source>
-        <translation type="unfinished"></translation>
+        <translation>Č&amp;ást</translation>
     </message>
     <message>
         <source>&amp;Begin here</source>
-        <translation type="unfinished"></translation>
+        <translation>Začít z&amp;de</translation>
     </message>
     <message>
         <source>&amp;End here</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;končit zde</translation>
     </message>
     <message>
         <source>The &amp;whole run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Celá jízda</translation>
     </message>
     <message>
         <source>part that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>ukázaná část</translation>
     </message>
     <message>
         <source>&amp;Align the second film by two points</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;rovnat druhý film podle dvou bodů</translation>
     </message>
     <message>
         <source>&amp;Forget the points</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapo&amp;menout body</translation>
     </message>
     <message>
         <source>The film could not be composed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Film nelze složit: %1</translation>
     </message>
     <message>
         <source>%1 is there. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 je hotovo. %2</translation>
     </message>
     <message>
         <source>Add the runs of split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat jízdy ze souborů mezičasů</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -8113,7 +8116,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Add films</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat filmy</translation>
     </message>
     <message>
         <source>Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;All files (*)</source>
@@ -8121,11 +8124,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Tick two to four films to compare them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtněte dva až čtyři filmy k porovnání.</translation>
     </message>
     <message>
         <source>Tick one more film to compare it with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtněte ještě jeden film k porovnání.</translation>
     </message>
     <message>
         <source>Start</source>
@@ -8133,11 +8136,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Four films are the most: these are the first four</source>
-        <translation type="unfinished"></translation>
+        <translation>Čtyři filmy jsou nejvíc: toto jsou první čtyři</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozastavit</translation>
     </message>
     <message>
         <source>Play</source>
@@ -8145,58 +8148,58 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>%1 of %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2 s</translation>
     </message>
     <message>
         <source>Two films are aligned: choose two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Srovnávají se dva filmy: vyberte dva.</translation>
     </message>
     <message>
         <source>Click the same two things in both films, such as the poles of a gate. A gives it up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klikněte v obou filmech na tytéž dvě věci, třeba na tyče branky. A to zruší.</translation>
     </message>
     <message>
         <source>points that were forgotten</source>
-        <translation type="unfinished"></translation>
+        <translation>zapomenuté body</translation>
     </message>
     <message>
         <source>alignment by two points</source>
-        <translation type="unfinished"></translation>
+        <translation>srovnání podle dvou bodů</translation>
     </message>
     <message>
         <source>Compose the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Složit film</translation>
     </message>
     <message>
         <source>Films (*.mp4)</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmy (*.mp4)</translation>
     </message>
     <message>
         <source>file of the film</source>
-        <translation type="unfinished"></translation>
+        <translation>soubor filmu</translation>
     </message>
     <message>
         <source>Composing: %1, %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>Skládá se: %1, dalších %2</translation>
     </message>
     <message>
         <source>Composing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Skládá se: %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ComparisonPanel</name>
     <message>
         <source>%1 of %2 (%3–%4 %)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2 (%3–%4 %)</translation>
     </message>
     <message>
         <source>Behind the winners in the &amp;phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Za vítězi ve &amp;fázi</translation>
     </message>
     <message>
         <source>Nobody of the team races in this category.</source>
-        <translation type="unfinished"></translation>
+        <translation>V této kategorii nikdo z týmu nezávodí.</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -8208,15 +8211,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Behind, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta, %</translation>
     </message>
     <message>
         <source>Median behind the winners of the phase, without missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Medián ztráty za vítězi fáze, bez neprojetých branek</translation>
     </message>
     <message>
         <source>of runs</source>
-        <translation type="unfinished"></translation>
+        <translation>z jízd</translation>
     </message>
     <message>
         <source>Within, %</source>
@@ -8224,7 +8227,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>How much the runs vary by chance</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak moc jízdy kolísají náhodou</translation>
     </message>
     <message>
         <source>A year, %</source>
@@ -8232,11 +8235,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Trend behind the winners, over all phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Trend ztráty za vítězi, přes všechny fáze</translation>
     </message>
     <message>
         <source>Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>Trend</translation>
     </message>
     <message>
         <source>too few</source>
@@ -8252,26 +8255,26 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>The athletes year by year: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodníci rok po roku: %1</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Rok</translation>
     </message>
     <message>
         <source>Median behind the winner, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Medián za vítězem, %</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CostPanel</name>
     <message>
         <source>%1 A medal.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Medaile.</translation>
     </message>
     <message>
         <source>Crew</source>
-        <translation type="unfinished"></translation>
+        <translation>Posádka</translation>
     </message>
     <message>
         <source>Category</source>
@@ -8283,7 +8286,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Race</source>
-        <translation type="unfinished"></translation>
+        <translation>Závod</translation>
     </message>
     <message>
         <source>Gate</source>
@@ -8299,7 +8302,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>2 for a touch, 50 for a missed gate</source>
-        <translation type="unfinished"></translation>
+        <translation>2 za ťuk, 50 za neprojetou branku</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -8307,58 +8310,58 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>As it was</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak to bylo</translation>
     </message>
     <message>
         <source>of</source>
-        <translation type="unfinished"></translation>
+        <translation>z</translation>
     </message>
     <message>
         <source>Places</source>
-        <translation type="unfinished"></translation>
+        <translation>Místa</translation>
     </message>
     <message>
         <source>That it cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Co to stálo</translation>
     </message>
     <message>
         <source>Without it</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez ní</translation>
     </message>
     <message>
         <source>A missed gate also saved paddling, which is not taken back here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojetá branka také ušetřila čas jízdy; ten se zde nevrací.</translation>
     </message>
     <message>
         <source>Show &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat &amp;vše</translation>
     </message>
     <message>
         <source>No penalty of a whole run is known by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>U žádné úplné jízdy není penalizace známa po brankách.</translation>
     </message>
     <message>
         <source>Open the run at this section</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít jízdu v tomto úseku</translation>
     </message>
     <message>
         <source>In split taking, where the section of the gate begins</source>
-        <translation type="unfinished"></translation>
+        <translation>V měření mezičasů, kde začíná úsek branky</translation>
     </message>
     <message>
         <source>Only gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen branka %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CourseCanvas</name>
     <message>
         <source>Drawing of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Nákres tratě</translation>
     </message>
     <message>
         <source>Hold the button down and draw along the water.</source>
-        <translation type="unfinished"></translation>
+        <translation>Držte tlačítko a kreslete podél vody.</translation>
     </message>
     <message>
         <source>course</source>
@@ -8366,22 +8369,22 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>All %1 gates of the race are drawn. Race and course says how many there are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny branky závodu jsou nakresleny: %1. Kolik jich je, říká Závod a trať.</translation>
     </message>
     <message>
         <source>All %1 splits of the race are drawn. Race and course says how many there are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny mezičasy závodu jsou nakresleny: %1. Kolik jich je, říká Závod a trať.</translation>
     </message>
     <message>
         <source>%1 removed</source>
-        <translation type="unfinished"></translation>
+        <translation>odstraněno: %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CourseDialog</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Název</translation>
     </message>
     <message>
         <source>Gates</source>
@@ -8389,7 +8392,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Race and course</source>
-        <translation type="unfinished"></translation>
+        <translation>Závod a trať</translation>
     </message>
     <message>
         <source>Event</source>
@@ -8417,19 +8420,19 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Technique</source>
-        <translation type="unfinished"></translation>
+        <translation>Technika</translation>
     </message>
     <message>
         <source>Comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Komentáře</translation>
     </message>
     <message>
         <source>Such as 4 8 12</source>
-        <translation type="unfinished"></translation>
+        <translation>Třeba 4 8 12</translation>
     </message>
     <message>
         <source>Share the gates &amp;evenly</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozdělit branky &amp;rovnoměrně</translation>
     </message>
     <message>
         <source>&amp;Gates</source>
@@ -8437,105 +8440,105 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Protivodné branky</translation>
     </message>
     <message>
         <source>&amp;Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mezičasy</translation>
     </message>
     <message>
         <source>Section %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Úsek %1: </translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CourseEditor</name>
     <message>
         <source>Photo or plan of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotografie nebo plán tratě</translation>
     </message>
     <message>
         <source>Pictures (*.png *.jpg *.jpeg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrázky (*.png *.jpg *.jpeg);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Words there</source>
-        <translation type="unfinished"></translation>
+        <translation>Slova sem</translation>
     </message>
     <message>
         <source>Draw the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Nakreslit trať</translation>
     </message>
     <message>
         <source>The picture of the race cannot be drawn upon: %1 It stays as long as nothing is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na obrázek závodu nelze kreslit: %1 Zůstane, dokud se nic nenakreslí.</translation>
     </message>
     <message>
         <source>Tab next part · arrows move it, Shift+arrows far · Alt+←/→ turn · PgDn its points · Delete · Insert puts one in the middle · Ctrl+Z undo, Ctrl+Shift+Z redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Tab další část · šipky ji posunou, Shift+šipky daleko · Alt+←/→ otočí · PgDn její body · Delete · Insert vloží bod doprostřed · Ctrl+Z zpět, Ctrl+Shift+Z znovu</translation>
     </message>
     <message>
         <source>&amp;Hold and move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Chytit a posunout</translation>
     </message>
     <message>
         <source>&amp;Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Branka</translation>
     </message>
     <message>
         <source>&amp;Split line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Měřicí čára</translation>
     </message>
     <message>
         <source>&amp;Bank</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Břeh</translation>
     </message>
     <message>
         <source>&amp;Line of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Stopa jízdy</translation>
     </message>
     <message>
         <source>&amp;Text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Text</translation>
     </message>
     <message>
         <source>&amp;Photo below…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fotografie vespod…</translation>
     </message>
     <message>
         <source>Only whit&amp;e below</source>
-        <translation type="unfinished"></translation>
+        <translation>Vespod jen &amp;bílá</translation>
     </message>
     <message>
         <source>text</source>
-        <translation type="unfinished"></translation>
+        <translation>text</translation>
     </message>
     <message>
         <source>photo</source>
-        <translation type="unfinished"></translation>
+        <translation>fotografie</translation>
     </message>
     <message>
         <source>white</source>
-        <translation type="unfinished"></translation>
+        <translation>bílá</translation>
     </message>
     <message>
         <source>Leave the course as it was? What was drawn is lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nechat trať, jak byla? Co bylo nakresleno, se ztratí.</translation>
     </message>
     <message>
         <source>Leave it</source>
-        <translation type="unfinished"></translation>
+        <translation>Nechat</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CourseMap</name>
     <message>
         <source>Map of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapa tratě</translation>
     </message>
     <message>
         <source>Turn %1
@@ -8543,93 +8546,97 @@ Duration %2 s, angle %3°
 Rotation: peak %4 °/s, mean %5 °/s
 Push out: peak %6 m/s², mean %7 m/s²
 Roll %8° (+ inside), pitch %9° (+ bow up)</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrat %1
+Trvání %2 s, úhel %3°
+Rotace: maximum %4 °/s, průměr %5 °/s
+Výjezd: maximum %6 m/s², průměr %7 m/s²
+Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>There are no position fixes in this session: no map.</source>
-        <translation type="unfinished"></translation>
+        <translation>V této jednotce nejsou žádné polohy: není mapa.</translation>
     </message>
     <message>
         <source>%1 km</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 km</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 m</translation>
     </message>
     <message>
         <source>N</source>
-        <translation type="unfinished"></translation>
+        <translation>N</translation>
     </message>
     <message>
         <source>Speed (m/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost (m/s)</translation>
     </message>
     <message>
         <source>Stroke rate (1/min)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frekvence záběrů (1/min)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CoursePanel</name>
     <message>
         <source>C&amp;ourse of</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trať:</translation>
     </message>
     <message>
         <source>The drawing of the course in this file cannot be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nákres tratě v tomto souboru nelze ukázat.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CoursePartForm</name>
     <message>
         <source>&amp;Number</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Číslo</translation>
     </message>
     <message>
         <source>&amp;Upstream gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Protivodná branka</translation>
     </message>
     <message>
         <source>Na&amp;me or text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jméno nebo text</translation>
     </message>
     <message>
         <source> m</source>
-        <translation type="unfinished"></translation>
+        <translation> m</translation>
     </message>
     <message>
         <source>not measured</source>
-        <translation type="unfinished"></translation>
+        <translation>nezměřeno</translation>
     </message>
     <message>
         <source>&amp;Width of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Šíř&amp;ka obrázku</translation>
     </message>
     <message>
         <source>Nothing selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic není vybráno</translation>
     </message>
     <message>
         <source>The race has %1 gates only. Race and course says how many there are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závod má branek jen %1. Kolik jich je, říká Závod a trať.</translation>
     </message>
     <message>
         <source>direction of gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>směr branky %1</translation>
     </message>
     <message>
         <source>number %1</source>
-        <translation type="unfinished"></translation>
+        <translation>číslo %1</translation>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>jméno</translation>
     </message>
     <message>
         <source>width of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>šířka obrázku</translation>
     </message>
 </context>
 <context>
@@ -8644,15 +8651,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Such as 1, 2, 3, 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Třeba 1, 2, 3, 4</translation>
     </message>
     <message>
         <source>Roll after gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Eskymák po brance</translation>
     </message>
     <message>
         <source>Empty without a roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Prázdné bez eskymáku</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -8664,23 +8671,23 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Which gates does the cross course have?</source>
-        <translation type="unfinished"></translation>
+        <translation>Které branky má trať crossu?</translation>
     </message>
     <message>
         <source>1 gate</source>
-        <translation type="unfinished"></translation>
+        <translation>1 branka</translation>
     </message>
     <message>
         <source>roll after %1</source>
-        <translation type="unfinished"></translation>
+        <translation>eskymák po %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no gate number.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ není číslo branky.</translation>
     </message>
     <message>
         <source>The roll is after gate %1, which is not on the course.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eskymák je po brance %1, která na trati není.</translation>
     </message>
     <message>
         <source>course</source>
@@ -8688,10 +8695,10 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message numerus="yes">
         <source>%n gates</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n branka</numerusform>
+            <numerusform>%n branky</numerusform>
+            <numerusform>%n branek</numerusform>
         </translation>
     </message>
 </context>
@@ -9082,7 +9089,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>km/h</source>
@@ -9121,15 +9128,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::CursorTable</name>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>levá</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>pravá</translation>
     </message>
     <message>
         <source>side unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>strana neznámá</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -9149,15 +9156,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Force (N)</source>
-        <translation type="unfinished"></translation>
+        <translation>Síla (N)</translation>
     </message>
     <message>
         <source>Power (W)</source>
-        <translation type="unfinished"></translation>
+        <translation>Výkon (W)</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrat</translation>
     </message>
     <message>
         <source>Values at the cursor</source>
@@ -9602,7 +9609,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>of</source>
-        <translation type="unfinished"></translation>
+        <translation>z</translation>
     </message>
     <message>
         <source>Those of which this was noted; for those of which it was not noted, all penalties</source>
@@ -9781,7 +9788,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze otevřít</translation>
     </message>
     <message>
         <source>The file was changed by another program since it was opened. Saving replaces what that program wrote.</source>
@@ -9840,7 +9847,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kategorie</translation>
     </message>
     <message>
         <source>Pha&amp;se</source>
@@ -9955,7 +9962,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Hmotnost</translation>
     </message>
     <message>
         <source>kg</source>
@@ -9991,7 +9998,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit</translation>
     </message>
     <message>
         <source>1 exercise</source>
@@ -10041,7 +10048,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FactsForm</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Závodník</translation>
     </message>
     <message>
         <source>Name of the athlete</source>
@@ -10213,7 +10220,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Names</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jména</translation>
     </message>
     <message>
         <source>Of the files: {name}, {category}, {phase}, {bib} and {number}</source>
@@ -10249,7 +10256,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit</translation>
     </message>
     <message>
         <source>Nothing is fetched before it is shown here</source>
@@ -11044,7 +11051,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Název</translation>
     </message>
     <message>
         <source>%1: gap</source>
@@ -11150,7 +11157,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrat</translation>
     </message>
     <message>
         <source>Mark the pole line too</source>
@@ -11200,23 +11207,23 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     <name>kavela::desktop::GaugeRow</name>
     <message>
         <source>1/min</source>
-        <translation type="unfinished"></translation>
+        <translation>1/min</translation>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>N</source>
-        <translation type="unfinished"></translation>
+        <translation>N</translation>
     </message>
     <message>
         <source>N·s</source>
-        <translation type="unfinished"></translation>
+        <translation>N·s</translation>
     </message>
     <message>
         <source>W</source>
-        <translation type="unfinished"></translation>
+        <translation>W</translation>
     </message>
 </context>
 <context>
@@ -11283,7 +11290,7 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -11347,7 +11354,7 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Hmotnost</translation>
     </message>
     <message>
         <source>Exercises</source>
@@ -11371,7 +11378,7 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit</translation>
     </message>
     <message>
         <source>removal of gym sessions</source>
@@ -11399,11 +11406,11 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Choose an athlete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte závodníka.</translation>
     </message>
     <message>
         <source>Add a season for this athlete first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív přidejte tomuto závodníkovi sezónu.</translation>
     </message>
     <message>
         <source>No gym session of this season yet.
@@ -11448,7 +11455,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Attacker</source>
-        <translation type="unfinished"></translation>
+        <translation>Útočník</translation>
     </message>
     <message>
         <source>On</source>
@@ -11460,7 +11467,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Side</source>
-        <translation type="unfinished"></translation>
+        <translation>Strana</translation>
     </message>
     <message>
         <source>Place</source>
@@ -11504,11 +11511,11 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>attacker</source>
-        <translation type="unfinished"></translation>
+        <translation>útočník</translation>
     </message>
     <message>
         <source>defenders</source>
-        <translation type="unfinished"></translation>
+        <translation>obránci</translation>
     </message>
     <message>
         <source>moment of an attack</source>
@@ -11552,11 +11559,11 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Levá</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Pravá</translation>
     </message>
     <message>
         <source>Inside</source>
@@ -11594,7 +11601,7 @@ Press Insert to add one.</source>
     <name>kavela::desktop::HeatList</name>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>žádné</translation>
     </message>
     <message>
         <source>⚠ missing: %1</source>
@@ -11610,7 +11617,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Lodě</translation>
     </message>
     <message>
         <source>Film</source>
@@ -11646,7 +11653,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit</translation>
     </message>
     <message>
         <source>Removes the heat with all its marks</source>
@@ -11665,7 +11672,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>S%1</source>
-        <translation type="unfinished"></translation>
+        <translation>S%1</translation>
     </message>
     <message>
         <source>is the reference</source>
@@ -11744,7 +11751,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>The cross course has no gates yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Trať crossu zatím nemá branky</translation>
     </message>
     <message>
         <source>Keep its moment</source>
@@ -11927,7 +11934,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Závodník</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -11935,7 +11942,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Druh</translation>
     </message>
     <message>
         <source>&amp;Weight</source>
@@ -12048,7 +12055,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Levá</translation>
     </message>
     <message>
         <source>Space</source>
@@ -12060,7 +12067,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Pravá</translation>
     </message>
     <message>
         <source>Full screen</source>
@@ -12080,7 +12087,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozastavit</translation>
     </message>
     <message>
         <source>Start again</source>
@@ -12155,7 +12162,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit</translation>
     </message>
     <message>
         <source>Start the timer…</source>
@@ -12315,7 +12322,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit</translation>
     </message>
     <message>
         <source>removal of %1</source>
@@ -12906,7 +12913,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Záběry</translation>
     </message>
     <message>
         <source>Time losses</source>
@@ -13196,15 +13203,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Záběry</translation>
     </message>
     <message>
         <source>1/min</source>
-        <translation type="unfinished"></translation>
+        <translation>1/min</translation>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>Heart</source>
@@ -13212,15 +13219,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost</translation>
     </message>
     <message>
         <source>Stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frekvence záběrů</translation>
     </message>
     <message>
         <source>Heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tepová frekvence</translation>
     </message>
     <message>
         <source>Select a run to see its strokes, speed and heart rate.</source>
@@ -13372,7 +13379,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Záběry</translation>
     </message>
     <message>
         <source>Micro</source>
@@ -13388,7 +13395,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Komentáře</translation>
     </message>
     <message>
         <source>Ways</source>
@@ -13400,7 +13407,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit</translation>
     </message>
 </context>
 <context>
@@ -13481,7 +13488,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::OfficialDialog</name>
     <message>
         <source>Crew</source>
-        <translation type="unfinished"></translation>
+        <translation>Posádka</translation>
     </message>
     <message>
         <source>What differs</source>
@@ -13537,7 +13544,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze otevřít</translation>
     </message>
     <message>
         <source>The race carries no results list. Open one with “A file…”.</source>
@@ -13892,11 +13899,11 @@ Penalties are left out.</source>
     <name>kavela::desktop::PenaltyFilter</name>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kategorie</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fáze</translation>
     </message>
     <message>
         <source>Cre&amp;w</source>
@@ -14014,7 +14021,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>position</source>
-        <translation type="unfinished"></translation>
+        <translation>pořadí</translation>
     </message>
     <message>
         <source>Date</source>
@@ -14030,7 +14037,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta</translation>
     </message>
     <message>
         <source>Known where the run was taken over from a split file</source>
@@ -14061,11 +14068,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Závodník</translation>
     </message>
     <message>
         <source>Choose one of the athletes of the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte některého ze závodníků seznamu.</translation>
     </message>
     <message>
         <source>One file for the telephone, of one race as it was last saved. Films lie in the folder beside it.</source>
@@ -14092,7 +14099,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>The page cannot be written over a race that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stránku nelze zapsat přes závod, ze kterého vzniká.</translation>
     </message>
     <message>
         <source>Making the page…</source>
@@ -14139,7 +14146,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Medián</translation>
     </message>
     <message>
         <source>Least</source>
@@ -14253,7 +14260,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Repeat</source>
-        <translation type="unfinished"></translation>
+        <translation>Opakovat</translation>
     </message>
     <message>
         <source>How often do the %1 chosen weeks follow themselves?
@@ -14341,7 +14348,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jméno</translation>
     </message>
     <message>
         <source>&amp;Categories</source>
@@ -14391,7 +14398,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::PlanningWindow</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Závodník</translation>
     </message>
     <message>
         <source>&amp;New athlete…</source>
@@ -14563,7 +14570,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>závodník</translation>
     </message>
     <message>
         <source>removal of an athlete</source>
@@ -14720,11 +14727,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Best run</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejlepší jízda</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Levá</translation>
     </message>
 </context>
 <context>
@@ -14739,7 +14746,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Import power-meter data</source>
-        <translation type="unfinished"></translation>
+        <translation>Import dat wattmetru</translation>
     </message>
     <message>
         <source>Samples: %1. Lines refused: %2.</source>
@@ -14798,11 +14805,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Rok</translation>
     </message>
     <message>
         <source>Race</source>
-        <translation type="unfinished"></translation>
+        <translation>Závod</translation>
     </message>
     <message>
         <source>Place</source>
@@ -14838,7 +14845,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Behind, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta, %</translation>
     </message>
     <message>
         <source>On splits, %</source>
@@ -14846,7 +14853,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledek</translation>
     </message>
     <message>
         <source>The way of %1</source>
@@ -15399,7 +15406,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit</translation>
     </message>
     <message>
         <source>Takes the recording out of the split file</source>
@@ -15509,7 +15516,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>SURNAME Name</source>
-        <translation type="unfinished"></translation>
+        <translation>PŘÍJMENÍ Jméno</translation>
     </message>
     <message>
         <source>Score</source>
@@ -15521,7 +15528,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Rok</translation>
     </message>
     <message>
         <source>Club</source>
@@ -15541,7 +15548,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>Tried only. Really: %1</source>
@@ -15619,15 +15626,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit</translation>
     </message>
     <message>
         <source>Release</source>
-        <translation type="unfinished"></translation>
+        <translation>Vydání</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Body</translation>
     </message>
     <message>
         <source>Position</source>
@@ -15811,7 +15818,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze otevřít</translation>
     </message>
     <message>
         <source>No recording yet</source>
@@ -15878,7 +15885,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>position</source>
-        <translation type="unfinished"></translation>
+        <translation>pořadí</translation>
     </message>
     <message>
         <source>no position</source>
@@ -15910,7 +15917,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>side unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>strana neznámá</translation>
     </message>
     <message>
         <source>Recordings</source>
@@ -15956,7 +15963,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>s</source>
-        <translation type="unfinished"></translation>
+        <translation>s</translation>
     </message>
     <message>
         <source>&amp;Mass in motion</source>
@@ -16092,7 +16099,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokumenty PDF (*.pdf)</translation>
     </message>
     <message>
         <source>Report</source>
@@ -16537,7 +16544,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Crew</source>
-        <translation type="unfinished"></translation>
+        <translation>Posádka</translation>
     </message>
     <message>
         <source>Category</source>
@@ -16561,7 +16568,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprint</translation>
     </message>
     <message>
         <source>sprint time</source>
@@ -16728,7 +16735,7 @@ Choose a file.</source>
     <name>kavela::desktop::SearchPlaces</name>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit</translation>
     </message>
     <message>
         <source>Folders and files that are searched</source>
@@ -16894,7 +16901,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kategorie</translation>
     </message>
     <message>
         <source>&amp;Years</source>
@@ -16902,7 +16909,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Závodník</translation>
     </message>
 </context>
 <context>
@@ -16945,7 +16952,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Body</translation>
     </message>
     <message>
         <source>ICF ranking position</source>
@@ -17151,7 +17158,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>Trend</translation>
     </message>
     <message>
         <source>Behind whom</source>
@@ -17222,7 +17229,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokumenty PDF (*.pdf)</translation>
     </message>
     <message>
         <source>The report cannot be written over a file that it is made from.</source>
@@ -17412,7 +17419,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Medián</translation>
     </message>
     <message>
         <source>Quarter of the runs over</source>
@@ -17444,7 +17451,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Název</translation>
     </message>
     <message>
         <source>Fastest</source>
@@ -17471,7 +17478,7 @@ Choose a file.</source>
     <name>kavela::desktop::SectionForm</name>
     <message>
         <source>Turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Obraty</translation>
     </message>
     <message>
         <source>Turn %1</source>
@@ -17627,7 +17634,7 @@ Choose a file.</source>
     <name>kavela::desktop::SelectionEdits</name>
     <message>
         <source>Race</source>
-        <translation type="unfinished"></translation>
+        <translation>Závod</translation>
     </message>
     <message>
         <source>Race location</source>
@@ -17671,7 +17678,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Add a category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív přidejte kategorii.</translation>
     </message>
     <message>
         <source>%1 is in this category already.</source>
@@ -17683,7 +17690,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>závodník</translation>
     </message>
     <message>
         <source>athlete removed</source>
@@ -17910,27 +17917,27 @@ Choose a file.</source>
     </message>
     <message>
         <source>Stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frekvence záběrů</translation>
     </message>
     <message>
         <source>Force</source>
-        <translation type="unfinished"></translation>
+        <translation>Síla</translation>
     </message>
     <message>
         <source>Impulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Impulz</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Výkon</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost</translation>
     </message>
     <message>
         <source>Heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tepová frekvence</translation>
     </message>
     <message>
         <source>Phases</source>
@@ -18031,11 +18038,11 @@ Choose a file.</source>
     <name>kavela::desktop::SessionTables</name>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Záběry</translation>
     </message>
     <message>
         <source>Turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Obraty</translation>
     </message>
     <message>
         <source>Segments</source>
@@ -18051,7 +18058,7 @@ Choose a file.</source>
     </message>
     <message>
         <source> m</source>
-        <translation type="unfinished"></translation>
+        <translation> m</translation>
     </message>
     <message>
         <source>Values every</source>
@@ -18082,11 +18089,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Stroke rate (1/min)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frekvence záběrů (1/min)</translation>
     </message>
     <message>
         <source>Speed (m/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost (m/s)</translation>
     </message>
     <message>
         <source>The speed of the strokes is not known.</source>
@@ -18094,11 +18101,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Levá</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Pravá</translation>
     </message>
     <message>
         <source>Side unknown</source>
@@ -18134,7 +18141,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit</translation>
     </message>
     <message>
         <source>Take the selected stretch out</source>
@@ -18142,11 +18149,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost</translation>
     </message>
     <message>
         <source>Stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frekvence záběrů</translation>
     </message>
     <message>
         <source>Colour of the course</source>
@@ -18177,7 +18184,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Recordings (*.kvb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznamy (*.kvb)</translation>
     </message>
     <message>
         <source>Import .sbm file</source>
@@ -18288,7 +18295,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>žádné</translation>
     </message>
     <message>
         <source>Choose…</source>
@@ -18304,7 +18311,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná</translation>
     </message>
     <message>
         <source>Look for a newer version once a day</source>
@@ -18410,7 +18417,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit</translation>
     </message>
     <message>
         <source>Nothing is shared before it is shown here</source>
@@ -19311,11 +19318,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Levá</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Pravá</translation>
     </message>
     <message>
         <source>Strokes/min</source>
@@ -19378,7 +19385,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>All seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny sezóny</translation>
     </message>
     <message>
         <source>Categorization</source>
@@ -19591,7 +19598,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopírovat</translation>
     </message>
     <message>
         <source>Reading %1…</source>
@@ -19663,7 +19670,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze otevřít</translation>
     </message>
     <message>
         <source>Nobody of the team</source>
@@ -19816,7 +19823,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledek</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -19828,7 +19835,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Leave out</source>
-        <translation type="unfinished"></translation>
+        <translation>Vynechat</translation>
     </message>
     <message>
         <source>Add %1 to the team</source>
@@ -19872,11 +19879,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kategorie</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fáze</translation>
     </message>
     <message>
         <source>&amp;Day</source>
@@ -19935,7 +19942,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <name>kavela::desktop::TakeRecordingDialog</name>
     <message>
         <source> m</source>
-        <translation type="unfinished"></translation>
+        <translation> m</translation>
     </message>
     <message>
         <source> rad/s</source>
@@ -19951,7 +19958,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Závodník</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -20080,7 +20087,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>s</source>
-        <translation type="unfinished"></translation>
+        <translation>s</translation>
     </message>
     <message>
         <source>Motion</source>
@@ -20468,7 +20475,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Lodě</translation>
     </message>
 </context>
 <context>
@@ -20510,7 +20517,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>There are no results in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejsou v něm žádné výsledky.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
@@ -20522,7 +20529,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>results taken over</source>
-        <translation type="unfinished"></translation>
+        <translation>výsledky převzaty</translation>
     </message>
     <message>
         <source>Team</source>
@@ -20585,7 +20592,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test</translation>
     </message>
     <message>
         <source>Location</source>
@@ -20628,7 +20635,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze otevřít</translation>
     </message>
     <message>
         <source>Attempt %1
@@ -20645,7 +20652,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Export the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Export tabulky</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
@@ -20938,7 +20945,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledek</translation>
     </message>
     <message>
         <source>Place</source>
@@ -21073,7 +21080,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost</translation>
     </message>
     <message>
         <source>Figures</source>
@@ -21121,11 +21128,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>One frame ba&amp;ck</source>
-        <translation type="unfinished"></translation>
+        <translation>O snímek z&amp;pět</translation>
     </message>
     <message>
         <source>One frame &amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation>O snímek &amp;vpřed</translation>
     </message>
     <message>
         <source>P&amp;ath</source>
@@ -21383,7 +21390,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit</translation>
     </message>
     <message>
         <source>Removes the selected trial</source>
@@ -21398,7 +21405,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Gate %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1 %2</translation>
     </message>
     <message>
         <source>Roll</source>
@@ -21410,7 +21417,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičas</translation>
     </message>
     <message>
         <source>Time</source>
@@ -21517,7 +21524,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit</translation>
     </message>
 </context>
 <context>
@@ -21540,7 +21547,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrat</translation>
     </message>
     <message>
         <source>Mark the pole line too</source>
@@ -21556,7 +21563,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Gate %1 is marked. N goes to the next gate, Shift+M moves the selected mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1 je označena. N jde na další branku, Shift+M posune vybranou značku.</translation>
     </message>
     <message>
         <source>Gate %1 is no upstream gate. N goes to the next one.</source>
@@ -21564,15 +21571,15 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>%1 of gate %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 branky %2</translation>
     </message>
     <message>
         <source>Gate %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1 %2</translation>
     </message>
     <message>
         <source>gate %1 removed</source>
-        <translation type="unfinished"></translation>
+        <translation>branka %1 odstraněna</translation>
     </message>
     <message>
         <source>The marks of gate %1 are removed. Ctrl+Z brings them back.</source>
@@ -21584,11 +21591,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Gate %1: M marks the %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1: M označí %2</translation>
     </message>
     <message>
         <source>Gate %1 is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1 je označena</translation>
     </message>
     <message>
         <source>%1 s in the gate</source>
@@ -21628,7 +21635,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Import variability</source>
-        <translation type="unfinished"></translation>
+        <translation>Import variability</translation>
     </message>
     <message>
         <source>1 line is left out:</source>
@@ -21715,22 +21722,22 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Od</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Do</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::WeekForm</name>
     <message>
         <source>Macrocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Makrocyklus</translation>
     </message>
     <message>
         <source>Mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezocyklus</translation>
     </message>
     <message>
         <source>Place</source>
@@ -21742,7 +21749,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>On-water test</source>
-        <translation type="unfinished"></translation>
+        <translation>Test na vodě</translation>
     </message>
     <message>
         <source>done on</source>
@@ -21750,11 +21757,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Endurance test</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytrvalostní test</translation>
     </message>
     <message>
         <source>Blood test</source>
-        <translation type="unfinished"></translation>
+        <translation>Krevní test</translation>
     </message>
     <message>
         <source>Injured part</source>
@@ -21806,7 +21813,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Week %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Týden %1</translation>
     </message>
     <message>
         <source>%1 weeks are chosen: load, cycles and place go into all of them.</source>
@@ -21882,7 +21889,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledek</translation>
     </message>
     <message>
         <source>Percent</source>
@@ -21954,7 +21961,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Od</translation>
     </message>
     <message>
         <source>Value</source>
@@ -21992,7 +21999,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::YearStrip</name>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Rok</translation>
     </message>
     <message>
         <source>Month</source>
@@ -22000,11 +22007,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Macrocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Makrocyklus</translation>
     </message>
     <message>
         <source>Mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezocyklus</translation>
     </message>
     <message>
         <source>Load</source>
