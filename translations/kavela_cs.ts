@@ -1457,7 +1457,7 @@
     </message>
     <message>
         <source>penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizace</translation>
     </message>
     <message>
         <source>faster</source>
@@ -2400,7 +2400,7 @@
     </message>
     <message>
         <source>Name of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno závodníka</translation>
     </message>
     <message>
         <source>Folder to write &quot;2025 Categorization.pdf&quot; into</source>
@@ -2768,7 +2768,7 @@
     </message>
     <message>
         <source>run</source>
-        <translation type="unfinished"></translation>
+        <translation>jízda</translation>
     </message>
     <message>
         <source>half a frame, four marks</source>
@@ -2776,7 +2776,7 @@
     </message>
     <message>
         <source>loss</source>
-        <translation type="unfinished"></translation>
+        <translation>ztráta</translation>
     </message>
     <message>
         <source>gap</source>
@@ -3096,11 +3096,11 @@
     </message>
     <message>
         <source>missed</source>
-        <translation type="unfinished"></translation>
+        <translation>neprojeto</translation>
     </message>
     <message>
         <source>runs</source>
-        <translation type="unfinished"></translation>
+        <translation>jízdy</translation>
     </message>
     <message>
         <source>all missed</source>
@@ -3348,7 +3348,7 @@
     </message>
     <message>
         <source>Upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Protivodné branky</translation>
     </message>
     <message>
         <source>Direction</source>
@@ -3400,7 +3400,7 @@
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <translation>Nájezd</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -3496,11 +3496,11 @@
     </message>
     <message>
         <source>penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizace</translation>
     </message>
     <message>
         <source>Penalties by gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace po brankách</translation>
     </message>
     <message>
         <source>and %1 more gates</source>
@@ -3600,7 +3600,7 @@
     </message>
     <message>
         <source>Group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Skupina %1</translation>
     </message>
     <message>
         <source>  ·  %1 of %2 reached</source>
@@ -3708,7 +3708,7 @@
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstup</translation>
     </message>
     <message>
         <source>Section</source>
@@ -3716,7 +3716,7 @@
     </message>
     <message>
         <source>Best</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejlepší</translation>
     </message>
     <message>
         <source>By</source>
@@ -3724,7 +3724,7 @@
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledky</translation>
     </message>
     <message>
         <source>Ideal run without penalties</source>
@@ -3900,7 +3900,7 @@
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičasy</translation>
     </message>
     <message>
         <source>and %1 more</source>
@@ -4088,7 +4088,7 @@
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Body</translation>
     </message>
     <message>
         <source>Percent behind the best of the race and category. </source>
@@ -8706,7 +8706,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     <name>kavela::desktop::CrossActions</name>
     <message>
         <source>&amp;Open a split file…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít soubor mezičasů…</translation>
     </message>
     <message>
         <source>&amp;Save data</source>
@@ -8714,7 +8714,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Open a &amp;folder of films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít &amp;složku filmů…</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
@@ -8722,11 +8722,11 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>&amp;Import films of time trials…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importovat filmy časovek…</translation>
     </message>
     <message>
         <source>Film of the selected trial or &amp;heat…</source>
-        <translation type="unfinished"></translation>
+        <translation>Film vybrané časovky nebo &amp;rozjížďky…</translation>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
@@ -8734,7 +8734,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Split &amp;taking of this race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Měření mezičasů tohoto závodu</translation>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
@@ -8742,7 +8742,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Open a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít soubor mezičasů</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -8750,19 +8750,19 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>&amp;Course of the cross race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trať závodu v crossu</translation>
     </message>
     <message>
         <source>&amp;Previous trial or heat</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Předchozí časovka nebo rozjížďka</translation>
     </message>
     <message>
         <source>&amp;Next trial or heat</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Další časovka nebo rozjížďka</translation>
     </message>
     <message>
         <source>Copy the &amp;results</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopírovat &amp;výsledky</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
@@ -8770,83 +8770,83 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>&amp;Mark the frame shown</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Označit ukázaný snímek</translation>
     </message>
     <message>
         <source>To the first mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Na první značku</translation>
     </message>
     <message>
         <source>Next &amp;gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Další &amp;branka</translation>
     </message>
     <message>
         <source>Previous g&amp;ate</source>
-        <translation type="unfinished"></translation>
+        <translation>Př&amp;edchozí branka</translation>
     </message>
     <message>
         <source>Split, gate or boat &amp;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičas, branka nebo loď &amp;%1</translation>
     </message>
     <message>
         <source>&amp;Time trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Č&amp;asovky</translation>
     </message>
     <message>
         <source>&amp;Add an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přidat závodníka</translation>
     </message>
     <message>
         <source>M marks the &amp;splits</source>
-        <translation type="unfinished"></translation>
+        <translation>M označuje &amp;mezičasy</translation>
     </message>
     <message>
         <source>M marks the &amp;upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>M označuje &amp;protivodné branky</translation>
     </message>
     <message>
         <source>M marks the &amp;roll</source>
-        <translation type="unfinished"></translation>
+        <translation>M označuje &amp;eskymák</translation>
     </message>
     <message>
         <source>Re&amp;name the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Pře&amp;jmenovat závodníka</translation>
     </message>
     <message>
         <source>R&amp;emove the trial</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstranit časovku</translation>
     </message>
     <message>
         <source>Make &amp;heats from the trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytvořit z časovek &amp;rozjížďky</translation>
     </message>
     <message>
         <source>&amp;Heats</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rozjížďky</translation>
     </message>
     <message>
         <source>&amp;Add a heat…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přidat rozjížďku…</translation>
     </message>
     <message>
         <source>A&amp;ttack, beginning here</source>
-        <translation type="unfinished"></translation>
+        <translation>Ú&amp;tok, začíná zde</translation>
     </message>
     <message>
         <source>&amp;End of the attack</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Konec útoku</translation>
     </message>
     <message>
         <source>Compare &amp;films of the heat…</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnat &amp;filmy rozjížďky…</translation>
     </message>
     <message>
         <source>&amp;Names of the boats…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jména lodí…</translation>
     </message>
     <message>
         <source>&amp;Remove the heat</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstranit rozjížďku</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -8854,22 +8854,22 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>&amp;Results</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Výsledky</translation>
     </message>
     <message>
         <source>Time trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Časovka</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CrossPage</name>
     <message>
         <source>There is no film to mark on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není film, na kterém označovat.</translation>
     </message>
     <message>
         <source>Nothing can be marked: %1 is not in the folder of the split file. File &gt; Where are the films now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Nelze nic označit: %1 není ve složce souboru mezičasů. Soubor &gt; Kde jsou filmy nyní?</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
@@ -8880,77 +8880,77 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     <name>kavela::desktop::CrossWindow</name>
     <message>
         <source>kayak cross</source>
-        <translation type="unfinished"></translation>
+        <translation>kayak cross</translation>
     </message>
     <message>
         <source>Time trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Časovky</translation>
     </message>
     <message>
         <source>Heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozjížďky</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledky</translation>
     </message>
     <message>
         <source>films of the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>filmy složky</translation>
     </message>
     <message>
         <source>Import films with Ctrl+I, or drop them here: each becomes a time trial.</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmy importujte pomocí Ctrl+I, nebo je sem přetáhněte: z každého bude časovka.</translation>
     </message>
     <message>
         <source>No film yet. Ctrl+Shift+I chooses the film of what is selected; films can be dropped here too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím žádný film. Ctrl+Shift+I vybere film k tomu, co je vybráno; filmy lze i přetáhnout sem.</translation>
     </message>
     <message>
         <source>%1 is not in the folder of the split file. Ctrl+Shift+I chooses another film.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 není ve složce souboru mezičasů. Ctrl+Shift+I vybere jiný film.</translation>
     </message>
     <message>
         <source>Not found: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenalezeno: %1.</translation>
     </message>
     <message>
         <source>Import films of time trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Import filmů časovek</translation>
     </message>
     <message>
         <source>Choose the film of the trial or heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat film časovky nebo rozjížďky</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CrossingSearch</name>
     <message>
         <source>The slit picture shows what stood on the line all the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Štěrbinový obraz přesto ukazuje, co bylo na čáře.</translation>
     </message>
     <message>
         <source>No boat was found that crosses this line in the direction of the arrow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenašla se loď, která by tuto čáru protnula ve směru šipky.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CsvMappingDialog</name>
     <message>
         <source>%1 h %2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h %2 min</translation>
     </message>
     <message>
         <source>%1 min %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min %2 s</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 lines cannot be read. Line %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nečitelných řádků: %1. Řádek %2: %3.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
@@ -8958,31 +8958,31 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>What each column holds was guessed from its title. Choose over a column what it is; a column without a choice is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obsah sloupců byl odhadnut z jejich nadpisů. Nad sloupcem zvolte, co je v něm; sloupec bez volby se vynechá.</translation>
     </message>
     <message>
         <source>%1 samples, %2 per second, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>vzorků %1, za sekundu %2, %3</translation>
     </message>
     <message>
         <source>%1 positions</source>
-        <translation type="unfinished"></translation>
+        <translation>polohy: %1</translation>
     </message>
     <message>
         <source>%1 heart rates</source>
-        <translation type="unfinished"></translation>
+        <translation>tepové frekvence: %1</translation>
     </message>
     <message>
         <source>Import “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Import „%1“</translation>
     </message>
     <message>
         <source>Columns and units are read as they were for the last list with these titles. Choose over a column what it is; one without a choice is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sloupce a jednotky se čtou jako u posledního seznamu s těmito nadpisy. Nad sloupcem zvolte, co je v něm; sloupec bez volby se vynechá.</translation>
     </message>
     <message>
         <source>Guess from the titles</source>
-        <translation type="unfinished"></translation>
+        <translation>Odhadnout z nadpisů</translation>
     </message>
     <message>
         <source>Import</source>
@@ -8994,34 +8994,34 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>This gives no samples.</source>
-        <translation type="unfinished"></translation>
+        <translation>Z toho nejsou žádné vzorky.</translation>
     </message>
     <message>
         <source>This gives %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledek: %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CsvUnitsForm</name>
     <message>
         <source>&amp;Between columns</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mezi sloupci</translation>
     </message>
     <message>
         <source>Comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Čárka</translation>
     </message>
     <message>
         <source>Semicolon</source>
-        <translation type="unfinished"></translation>
+        <translation>Středník</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulátor</translation>
     </message>
     <message>
         <source>&amp;Decimal comma</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Desetinná čárka</translation>
     </message>
     <message>
         <source>&amp;Times</source>
@@ -9029,7 +9029,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Dates</source>
-        <translation type="unfinished"></translation>
+        <translation>Data</translation>
     </message>
     <message>
         <source>Seconds</source>
@@ -9037,55 +9037,55 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Milisekundy</translation>
     </message>
     <message>
         <source>Microseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Mikrosekundy</translation>
     </message>
     <message>
         <source>Nanoseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Nanosekundy</translation>
     </message>
     <message>
         <source>&amp;Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zrychlení</translation>
     </message>
     <message>
         <source>g</source>
-        <translation type="unfinished"></translation>
+        <translation>g</translation>
     </message>
     <message>
         <source>m/s²</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s²</translation>
     </message>
     <message>
         <source>&amp;Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rotace</translation>
     </message>
     <message>
         <source>rad/s</source>
-        <translation type="unfinished"></translation>
+        <translation>rad/s</translation>
     </message>
     <message>
         <source>°/s</source>
-        <translation type="unfinished"></translation>
+        <translation>°/s</translation>
     </message>
     <message>
         <source>An&amp;gles</source>
-        <translation type="unfinished"></translation>
+        <translation>Ú&amp;hly</translation>
     </message>
     <message>
         <source>Radians</source>
-        <translation type="unfinished"></translation>
+        <translation>Radiány</translation>
     </message>
     <message>
         <source>Degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Stupně</translation>
     </message>
     <message>
         <source>&amp;Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rychlost</translation>
     </message>
     <message>
         <source>m/s</source>
@@ -9093,35 +9093,35 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>km/h</source>
-        <translation type="unfinished"></translation>
+        <translation>km/h</translation>
     </message>
     <message>
         <source>Lying on its back, &amp;z reads</source>
-        <translation type="unfinished"></translation>
+        <translation>Vleže na zádech ukazuje &amp;z</translation>
     </message>
     <message>
         <source>+1 g, upward</source>
-        <translation type="unfinished"></translation>
+        <translation>+1 g, nahoru</translation>
     </message>
     <message>
         <source>−1 g, downward</source>
-        <translation type="unfinished"></translation>
+        <translation>−1 g, dolů</translation>
     </message>
     <message>
         <source>&amp;First sample at</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;První vzorek v</translation>
     </message>
     <message>
         <source>The comma stands between columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čárka je mezi sloupci.</translation>
     </message>
     <message>
         <source>The times of the list are no dates. This is when the file was written, less its length.</source>
-        <translation type="unfinished"></translation>
+        <translation>Časy seznamu nemají datum. Toto je čas zápisu souboru minus jeho délka.</translation>
     </message>
     <message>
         <source>The times of the list are dates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Časy seznamu mají datum.</translation>
     </message>
 </context>
 <context>
@@ -9144,7 +9144,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>%1 %2°, %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2°, %3 s</translation>
     </message>
     <message>
         <source>Time</source>
@@ -9152,7 +9152,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Stroke, rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Záběr, frekvence</translation>
     </message>
     <message>
         <source>Force (N)</source>
@@ -9168,82 +9168,82 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Values at the cursor</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnoty na kurzoru</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DayDesk</name>
     <message>
         <source>The race day could not be kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodní den se nepodařilo uchovat: %1</translation>
     </message>
     <message>
         <source> · U: %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · U: %1</translation>
     </message>
     <message>
         <source>start list</source>
-        <translation type="unfinished"></translation>
+        <translation>startovní listina</translation>
     </message>
     <message>
         <source>folder of the films</source>
-        <translation type="unfinished"></translation>
+        <translation>složka filmů</translation>
     </message>
     <message>
         <source>start removed</source>
-        <translation type="unfinished"></translation>
+        <translation>start odstraněn</translation>
     </message>
     <message>
         <source>There is no start list yet: Day &gt; Start list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím není startovní listina: Den &gt; Startovní listina.</translation>
     </message>
     <message>
         <source>No film waits to be timed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný film nečeká na změření.</translation>
     </message>
     <message>
         <source>There is no film of %1 yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Film zatím chybí: %1.</translation>
     </message>
     <message>
         <source>The film of %1 is still being copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Film se ještě kopíruje: %1.</translation>
     </message>
     <message>
         <source>Is this %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Je to %1?</translation>
     </message>
     <message>
         <source>film of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>film: %1</translation>
     </message>
     <message>
         <source>There is no film that is surely matched and not agreed to yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není film, který by byl jistě přiřazen a ještě neodsouhlasen.</translation>
     </message>
     <message>
         <source>film agreed to</source>
-        <translation type="unfinished"></translation>
+        <translation>film odsouhlasen</translation>
     </message>
     <message>
         <source>films agreed to</source>
-        <translation type="unfinished"></translation>
+        <translation>filmy odsouhlaseny</translation>
     </message>
     <message>
         <source>Not named, as it is not in the folder of the race or cannot be named there: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nepřejmenováno, protože to není ve složce závodu nebo to tam přejmenovat nelze: %1</translation>
     </message>
     <message>
         <source>Agreed</source>
-        <translation type="unfinished"></translation>
+        <translation>Odsouhlaseno</translation>
     </message>
     <message>
         <source>films one start later</source>
-        <translation type="unfinished"></translation>
+        <translation>filmy o start později</translation>
     </message>
     <message>
         <source>films one start earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>filmy o start dříve</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -9251,23 +9251,23 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>%1: no film</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: bez filmu</translation>
     </message>
     <message>
         <source>film of another boat</source>
-        <translation type="unfinished"></translation>
+        <translation>film jiné lodi</translation>
     </message>
     <message>
         <source>film given to a boat</source>
-        <translation type="unfinished"></translation>
+        <translation>film přidělen lodi</translation>
     </message>
     <message>
         <source>There is no film %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Film %1 není</translation>
     </message>
     <message>
         <source>%1 is timed: remove the last mark first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 je změřen: nejdřív odstraňte poslední značku.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -9275,22 +9275,22 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>%1 counts again</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 se zase počítá</translation>
     </message>
     <message>
         <source>The clocks of camera and start list go together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodiny kamery a startovní listiny souhlasí.</translation>
     </message>
     <message>
         <source>clock of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>hodiny kamery</translation>
     </message>
     <message numerus="yes">
         <source>%n films agreed to</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n film odsouhlasen</numerusform>
+            <numerusform>%n filmy odsouhlaseny</numerusform>
+            <numerusform>%n filmů odsouhlaseno</numerusform>
         </translation>
     </message>
 </context>
@@ -9309,70 +9309,70 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     <name>kavela::desktop::DayKeeping</name>
     <message>
         <source>The race day %1 cannot be read: %2. It stays as it is; a new one takes its name only after it was put aside.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodní den %1 nelze přečíst: %2. Zůstane, jak je; nový dostane jeho jméno, až když se tento odloží stranou.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DayPanel</name>
     <message>
         <source>agreed</source>
-        <translation type="unfinished"></translation>
+        <translation>odsouhlaseno</translation>
     </message>
     <message>
         <source>kept</source>
-        <translation type="unfinished"></translation>
+        <translation>uchováno</translation>
     </message>
     <message>
         <source>sure</source>
-        <translation type="unfinished"></translation>
+        <translation>jisté</translation>
     </message>
     <message>
         <source>likely</source>
-        <translation type="unfinished"></translation>
+        <translation>pravděpodobné</translation>
     </message>
     <message>
         <source>unsure</source>
-        <translation type="unfinished"></translation>
+        <translation>nejisté</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 d</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>ahead of</source>
-        <translation type="unfinished"></translation>
+        <translation>napřed před</translation>
     </message>
     <message>
         <source>behind</source>
-        <translation type="unfinished"></translation>
+        <translation>pozadu za</translation>
     </message>
     <message>
         <source>Reckon with that</source>
-        <translation type="unfinished"></translation>
+        <translation>Počítat s tím</translation>
     </message>
     <message>
         <source>No start list yet. Paste one, or take it from a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím bez startovní listiny. Vložte ji, nebo převezměte ze souboru.</translation>
     </message>
     <message>
         <source>Start list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Startovní listina…</translation>
     </message>
     <message>
         <source>Films from…</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmy z…</translation>
     </message>
     <message>
         <source>Start</source>
@@ -9388,7 +9388,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>A boat on the list has a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Loď na listině má jméno.</translation>
     </message>
     <message>
         <source>Cat</source>
@@ -9408,66 +9408,66 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Type the name of another film to correct a single one</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro opravu jediného napište název jiného filmu</translation>
     </message>
     <message>
         <source>Match</source>
-        <translation type="unfinished"></translation>
+        <translation>Shoda</translation>
     </message>
     <message>
         <source>Recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Natočeno</translation>
     </message>
     <message>
         <source>When the recording began, and whether the camera or the file says so</source>
-        <translation type="unfinished"></translation>
+        <translation>Kdy natáčení začalo, a zda to říká kamera, nebo soubor</translation>
     </message>
     <message>
         <source>camera</source>
-        <translation type="unfinished"></translation>
+        <translation>kamera</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>soubor</translation>
     </message>
     <message>
         <source>The camera&apos;s clock seems to be %1 the start list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodiny kamery jsou zřejmě %1 startovní listinou.</translation>
     </message>
     <message>
         <source>%1 is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tam není.</translation>
     </message>
     <message>
         <source>Copying %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopíruje se %1.</translation>
     </message>
     <message>
         <source>%1 still growing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ještě roste: %1.</translation>
     </message>
     <message>
         <source>Of no boat: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez lodi: %1.</translation>
     </message>
     <message>
         <source>Of no boat: %1 films, the first is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmů bez lodi: %1, první je %2.</translation>
     </message>
     <message>
         <source>Of other days: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Z jiných dnů: %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DerivedDialog</name>
     <message>
         <source>The &amp;highest number is the best</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nejvyšší číslo je nejlepší</translation>
     </message>
     <message>
         <source>Another column</source>
-        <translation type="unfinished"></translation>
+        <translation>Jiný sloupec</translation>
     </message>
     <message>
         <source>Total</source>
@@ -9479,51 +9479,51 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Gap to the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstup od nejlepšího</translation>
     </message>
     <message>
         <source>Percent behind the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Procenta za nejlepším</translation>
     </message>
     <message>
         <source>Percentile</source>
-        <translation type="unfinished"></translation>
+        <translation>Percentil</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozdíl</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat</translation>
     </message>
     <message>
         <source>&amp;What</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Co</translation>
     </message>
     <message>
         <source>Sum &amp;of (none: times and penalties)</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Součet (žádný: časy a penalizace)</translation>
     </message>
     <message>
         <source>O&amp;f</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Z</translation>
     </message>
     <message>
         <source>&amp;Less</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Minus</translation>
     </message>
     <message>
         <source>Each &amp;compared within</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnat &amp;v rámci</translation>
     </message>
     <message>
         <source>the total, else the times</source>
-        <translation type="unfinished"></translation>
+        <translation>celkový čas, jinak časy</translation>
     </message>
     <message>
         <source>all rows</source>
-        <translation type="unfinished"></translation>
+        <translation>všechny řádky</translation>
     </message>
 </context>
 <context>
@@ -9613,11 +9613,11 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Those of which this was noted; for those of which it was not noted, all penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Ty, u nichž to bylo poznamenáno; kde to poznamenáno nebylo, všechny penalizace</translation>
     </message>
     <message>
         <source>Share %</source>
-        <translation type="unfinished"></translation>
+        <translation>Podíl %</translation>
     </message>
     <message>
         <source>90 %</source>
@@ -9625,46 +9625,46 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Where the share lies with 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde podíl leží s 90 %</translation>
     </message>
     <message>
         <source>No penalty was noted in detail. Split taking notes them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná penalizace nebyla podrobně poznamenána. Poznamenává je měření mezičasů.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DocumentChoiceDialog</name>
     <message>
         <source>%1   in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1   v %2</translation>
     </message>
     <message>
         <source>&amp;New…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nový…</translation>
     </message>
     <message>
         <source>Open an&amp;other…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít &amp;jiný…</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít</translation>
     </message>
     <message>
         <source>None was opened yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím nebyl otevřen žádný.</translation>
     </message>
     <message>
         <source>Opened before:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dříve otevřené:</translation>
     </message>
     <message>
         <source>Name the new file</source>
-        <translation type="unfinished"></translation>
+        <translation>Pojmenujte nový soubor</translation>
     </message>
     <message>
         <source>%1 (*.%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (*.%2)</translation>
     </message>
     <message>
         <source>%1 (*.%2);;All files (*)</source>
@@ -9675,15 +9675,15 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     <name>kavela::desktop::DrawnRates</name>
     <message>
         <source>Touches on the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Ťuky na trati</translation>
     </message>
     <message>
         <source>Gate %1: %2 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1: %2 %</translation>
     </message>
     <message>
         <source>, %1 of %2 touched</source>
-        <translation type="unfinished"></translation>
+        <translation>, s ťukem %1 z %2</translation>
     </message>
     <message>
         <source>%1 %</source>
@@ -9694,38 +9694,38 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     <name>kavela::desktop::DropAreas</name>
     <message>
         <source>Import .kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat soubor .kvb</translation>
     </message>
     <message>
         <source>Import .sbm file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat soubor .sbm</translation>
     </message>
     <message>
         <source>Drag .kvb file to top left of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor .kvb přetáhněte vlevo nahoru do okna</translation>
     </message>
     <message>
         <source>A raw recording of the boat: strokes and turns are found in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Surový záznam lodi: záběry a obraty se v něm najdou.</translation>
     </message>
     <message>
         <source>Drag .sbm file to top right of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor .sbm přetáhněte vpravo nahoru do okna</translation>
     </message>
     <message>
         <source>A processed session, .sbm or .bms: strokes and turns are in it already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zpracovaná jednotka, .sbm nebo .bms: záběry a obraty už obsahuje.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::EarlierWorkDialog</name>
     <message>
         <source>Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument</translation>
     </message>
     <message>
         <source>Kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Uchováno</translation>
     </message>
     <message>
         <source>What</source>
@@ -9737,54 +9737,54 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>given up</source>
-        <translation type="unfinished"></translation>
+        <translation>zahozeno</translation>
     </message>
     <message>
         <source>put off</source>
-        <translation type="unfinished"></translation>
+        <translation>odloženo</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka</translation>
     </message>
     <message>
         <source>Bring back earlier work</source>
-        <translation type="unfinished"></translation>
+        <translation>Obnovit dřívější práci</translation>
     </message>
     <message>
         <source>Nothing was kept that is not in a document again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není uchováno nic, co by zase nebylo v dokumentu.</translation>
     </message>
     <message>
         <source>Bring back</source>
-        <translation type="unfinished"></translation>
+        <translation>Obnovit</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::EditedFile</name>
     <message>
         <source>today %1</source>
-        <translation type="unfinished"></translation>
+        <translation>dnes %1</translation>
     </message>
     <message>
         <source>yesterday %1</source>
-        <translation type="unfinished"></translation>
+        <translation>včera %1</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Načíst</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Později</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahodit</translation>
     </message>
     <message>
         <source>1 change</source>
-        <translation type="unfinished"></translation>
+        <translation>1 změna</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -9792,15 +9792,15 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>The file was changed by another program since it was opened. Saving replaces what that program wrote.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor od otevření změnil jiný program. Uložením se nahradí, co ten program zapsal.</translation>
     </message>
     <message>
         <source>Replace it</source>
-        <translation type="unfinished"></translation>
+        <translation>Nahradit</translation>
     </message>
     <message>
         <source>Look at the other</source>
-        <translation type="unfinished"></translation>
+        <translation>Podívat se na druhý</translation>
     </message>
     <message>
         <source>Save as…</source>
@@ -9808,34 +9808,34 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>“%1” is open in another window. Close it there first, or take another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ je otevřeno v jiném okně. Nejdřív to tam zavřete, nebo zvolte jiné jméno.</translation>
     </message>
     <message>
         <source>%1 (the other).%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (druhý).%2</translation>
     </message>
     <message>
         <source>Your work is kept apart, and offered when the file is opened again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaše práce je uchována stranou a nabídne se, až se soubor znovu otevře.</translation>
     </message>
     <message>
         <source>Your work is in this window alone: it could not be kept apart either.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaše práce je jen v tomto okně: nepodařilo se ji uchovat ani stranou.</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Zkusit znovu</translation>
     </message>
     <message>
         <source>The file of the older version could not be kept beside the new one, so that nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor starší verze se nepodařilo uchovat vedle nového, proto se nic nezapsalo.</translation>
     </message>
     <message numerus="yes">
         <source>%n changes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n změna</numerusform>
+            <numerusform>%n změny</numerusform>
+            <numerusform>%n změn</numerusform>
         </translation>
     </message>
 </context>
@@ -9851,37 +9851,39 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Pha&amp;se</source>
-        <translation type="unfinished"></translation>
+        <translation>Fá&amp;ze</translation>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičasy</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Body</translation>
     </message>
     <message>
         <source>Taken from</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzato z</translation>
     </message>
     <message>
         <source>Time
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas
+(s)</translation>
     </message>
     <message>
         <source>Time of one eight</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas jedné osmičky</translation>
     </message>
     <message>
         <source>In the video
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ve videu
+(s)</translation>
     </message>
     <message>
         <source>Where in the video the split was taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde ve videu byl mezičas změřen</translation>
     </message>
     <message>
         <source>split %1</source>
@@ -9889,76 +9891,76 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>no video</source>
-        <translation type="unfinished"></translation>
+        <translation>bez videa</translation>
     </message>
     <message>
         <source>%1, no motion samples</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, bez vzorků pohybu</translation>
     </message>
     <message>
         <source>%1, %2 motion samples</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, vzorků pohybu: %2</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::EmptySearch</name>
     <message>
         <source>Drop a folder of split files (.kvx) here</source>
-        <translation type="unfinished"></translation>
+        <translation>Přetáhněte sem složku souborů mezičasů (.kvx)</translation>
     </message>
     <message>
         <source>All races below it are searched. They are only read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prohledají se všechny závody v ní a pod ní. Jen se čtou.</translation>
     </message>
     <message>
         <source>Search a folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Prohledat složku…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::EntryTable</name>
     <message>
         <source>“%1” is a number from 0 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ je číslo od 0 do %2</translation>
     </message>
     <message>
         <source>“%1” is more than 0. An emptied cell stands for none.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ je více než 0. Prázdná buňka znamená žádné.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ExerciseTable</name>
     <message>
         <source>The file has no entry here. Typing makes one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor zde nemá údaj. Psaním vznikne.</translation>
     </message>
     <message>
         <source>The estimate from repetitions and weight. A click or Ctrl+Enter takes it as the maximum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odhad z opakování a hmotnosti. Kliknutí nebo Ctrl+Enter ho převezme jako maximum.</translation>
     </message>
     <message>
         <source>Exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>Cvik</translation>
     </message>
     <message>
         <source>exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>cvik</translation>
     </message>
     <message>
         <source>Sets</source>
-        <translation type="unfinished"></translation>
+        <translation>Série</translation>
     </message>
     <message>
         <source>sets</source>
-        <translation type="unfinished"></translation>
+        <translation>série</translation>
     </message>
     <message>
         <source>Repetitions</source>
-        <translation type="unfinished"></translation>
+        <translation>Opakování</translation>
     </message>
     <message>
         <source>repetitions</source>
-        <translation type="unfinished"></translation>
+        <translation>opakování</translation>
     </message>
     <message>
         <source>Weight</source>
@@ -9966,35 +9968,35 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>kg</source>
-        <translation type="unfinished"></translation>
+        <translation>kg</translation>
     </message>
     <message>
         <source>weight</source>
-        <translation type="unfinished"></translation>
+        <translation>hmotnost</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>maximum</translation>
     </message>
     <message>
         <source>Estimate</source>
-        <translation type="unfinished"></translation>
+        <translation>Odhad</translation>
     </message>
     <message>
         <source>Add exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat cvik</translation>
     </message>
     <message>
         <source>Remove exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit cvik</translation>
     </message>
     <message>
         <source>Take estimate</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít odhad</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -10002,34 +10004,34 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>1 exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>1 cvik</translation>
     </message>
     <message>
         <source>%1 · %2 sets · tonnage %3 kg</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · sérií: %2 · tonáž %3 kg</translation>
     </message>
     <message>
         <source>Estimated maximum: table %1 · Epley %2 · Brzycki %3 · McGlothin %4 · Lombardi %5 · result &lt;b&gt;%6&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Odhadnuté maximum: tabulka %1 · Epley %2 · Brzycki %3 · McGlothin %4 · Lombardi %5 · výsledek &lt;b&gt;%6&lt;/b&gt;</translation>
     </message>
     <message>
         <source>new exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>nový cvik</translation>
     </message>
     <message>
         <source>removal of an exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění cviku</translation>
     </message>
     <message>
         <source>estimated maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>odhadnuté maximum</translation>
     </message>
     <message numerus="yes">
         <source>%n exercises</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n cvik</numerusform>
+            <numerusform>%n cviky</numerusform>
+            <numerusform>%n cviků</numerusform>
         </translation>
     </message>
 </context>
@@ -10037,7 +10039,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     <name>kavela::desktop::ExportDialog</name>
     <message>
         <source>Export data</source>
-        <translation type="unfinished"></translation>
+        <translation>Export dat</translation>
     </message>
     <message>
         <source>Split files (*.kvx)</source>
@@ -10052,49 +10054,49 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Name of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno závodníka</translation>
     </message>
     <message>
         <source>&amp;Date</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datum</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Místo</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FactsStatus</name>
     <message>
         <source>Which ones?</source>
-        <translation type="unfinished"></translation>
+        <translation>Které?</translation>
     </message>
     <message>
         <source>reading was cancelled: not all files are here</source>
-        <translation type="unfinished"></translation>
+        <translation>čtení bylo zrušeno: nejsou zde všechny soubory</translation>
     </message>
     <message>
         <source>1 file could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>1 soubor nelze přečíst</translation>
     </message>
     <message numerus="yes">
         <source>%n files could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n soubor nelze přečíst</numerusform>
+            <numerusform>%n soubory nelze přečíst</numerusform>
+            <numerusform>%n souborů nelze přečíst</numerusform>
         </translation>
     </message>
     <message>
         <source>1 copy of a file does not count</source>
-        <translation type="unfinished"></translation>
+        <translation>1 kopie souboru se nepočítá</translation>
     </message>
     <message numerus="yes">
         <source>%n copies of files do not count</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n kopie souboru se nepočítá</numerusform>
+            <numerusform>%n kopie souborů se nepočítají</numerusform>
+            <numerusform>%n kopií souborů se nepočítá</numerusform>
         </translation>
     </message>
 </context>
@@ -10106,78 +10108,78 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>What is wrong</source>
-        <translation type="unfinished"></translation>
+        <translation>Co je špatně</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka</translation>
     </message>
     <message>
         <source>Files that could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory, které nelze přečíst</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FetchActions</name>
     <message>
         <source>&amp;Open a source…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít zdroj…</translation>
     </message>
     <message>
         <source>&amp;Save the source…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uložit zdroj…</translation>
     </message>
     <message>
         <source>Choose the &amp;list of bibs…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat &amp;listinu s čísly…</translation>
     </message>
     <message>
         <source>Choose the &amp;folder for the films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat &amp;složku pro filmy…</translation>
     </message>
     <message>
         <source>&amp;Time the films of the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Změřit filmy složky</translation>
     </message>
     <message>
         <source>Fet&amp;ch</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;tažení</translation>
     </message>
     <message>
         <source>&amp;Show what would be fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ukázat, co by se stáhlo</translation>
     </message>
     <message>
         <source>&amp;Fetch the ticked films</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Stáhnout zaškrtnuté filmy</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zrušit</translation>
     </message>
     <message>
         <source>Tick &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtnout &amp;vše</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtnout &amp;nic</translation>
     </message>
     <message>
         <source>Ser&amp;ver</source>
-        <translation type="unfinished"></translation>
+        <translation>Ser&amp;ver</translation>
     </message>
     <message>
         <source>&amp;Sign in…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přihlásit…</translation>
     </message>
     <message>
         <source>&amp;Forget the password</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapo&amp;menout heslo</translation>
     </message>
     <message>
         <source>&amp;Other servers</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jiné servery</translation>
     </message>
 </context>
 <context>
@@ -10188,35 +10190,35 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Adresa</translation>
     </message>
     <message>
         <source>Of one film, with {bib}, {category}, {phase} or {run} where they stand ({bib:3} is 014); or of a list: a page, JSON, M3U8 or WebDAV folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Jednoho filmu, s {bib}, {category}, {phase} nebo {run} na jejich místě ({bib:3} je 014); nebo seznamu: stránka, JSON, M3U8 nebo složka WebDAV</translation>
     </message>
     <message>
         <source>&amp;Bibs from</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Čísla z</translation>
     </message>
     <message>
         <source>Start list or results (a column is called bib), or a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Startovní listina nebo výsledky (některý sloupec se jmenuje bib), nebo soubor mezičasů</translation>
     </message>
     <message>
         <source>start list, results or split file</source>
-        <translation type="unfinished"></translation>
+        <translation>startovní listina, výsledky nebo soubor mezičasů</translation>
     </message>
     <message>
         <source>F&amp;older</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Složka</translation>
     </message>
     <message>
         <source>Where the films are put; no file there is ever overwritten</source>
-        <translation type="unfinished"></translation>
+        <translation>Kam se filmy uloží; žádný soubor se tam nikdy nepřepíše</translation>
     </message>
     <message>
         <source>for the films</source>
-        <translation type="unfinished"></translation>
+        <translation>pro filmy</translation>
     </message>
     <message>
         <source>&amp;Names</source>
@@ -10224,35 +10226,35 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Of the files: {name}, {category}, {phase}, {bib} and {number}</source>
-        <translation type="unfinished"></translation>
+        <translation>Názvy souborů: {name}, {category}, {phase}, {bib} a {number}</translation>
     </message>
     <message>
         <source>Choose a list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat listinu…</translation>
     </message>
     <message>
         <source>Start list, results, split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Startovní listina, výsledky, soubor mezičasů</translation>
     </message>
     <message>
         <source>Choose a folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat složku…</translation>
     </message>
     <message>
         <source>For the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro filmy</translation>
     </message>
     <message>
         <source>Other se&amp;rvers that films may come from</source>
-        <translation type="unfinished"></translation>
+        <translation>Jiné ser&amp;very, z nichž filmy smějí přijít</translation>
     </message>
     <message>
         <source>Show what would be fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat, co by se stáhlo</translation>
     </message>
     <message>
         <source>Fetch the ticked films</source>
-        <translation type="unfinished"></translation>
+        <translation>Stáhnout zaškrtnuté filmy</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -10260,27 +10262,27 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Nothing is fetched before it is shown here</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic se nestáhne, dokud to není ukázáno zde</translation>
     </message>
     <message>
         <source>Films are being fetched. Another source or list is opened after that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stahují se filmy. Jiný zdroj nebo listina se otevře potom.</translation>
     </message>
     <message>
         <source>“%1” is no source of films</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ není zdroj filmů</translation>
     </message>
     <message>
         <source>Start list, results or split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Startovní listina, výsledky nebo soubor mezičasů</translation>
     </message>
     <message>
         <source>Lists and split files (*.csv *.txt *.tsv *.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznamy a soubory mezičasů (*.csv *.txt *.tsv *.kvx);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Folder for the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka pro filmy</translation>
     </message>
     <message>
         <source>Open a source of films</source>
@@ -10288,59 +10290,59 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Sources of films (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdroje filmů (*.json)</translation>
     </message>
     <message>
         <source>Save the source of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit zdroj filmů</translation>
     </message>
     <message>
         <source>The source was saved. “kavela fetch” takes the file, too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdroj byl uložen. Tento soubor přijme i „kavela fetch“.</translation>
     </message>
     <message>
         <source>The source could not be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdroj nelze uložit</translation>
     </message>
     <message>
         <source>What there is to fetch is being found out…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zjišťuje se, co lze stáhnout…</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Složku „%1“ nelze vytvořit.</translation>
     </message>
     <message>
         <source>Films are being fetched…</source>
-        <translation type="unfinished"></translation>
+        <translation>Stahují se filmy…</translation>
     </message>
     <message>
         <source>There is no address to sign in to yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím není adresa, ke které by se dalo přihlásit.</translation>
     </message>
     <message>
         <source>This computer has no password store that is open. The password holds until this window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento počítač nemá otevřené úložiště hesel. Heslo platí, dokud se toto okno nezavře.</translation>
     </message>
     <message>
         <source>The password of %1 was forgotten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Heslo pro %1 bylo zapomenuto.</translation>
     </message>
     <message>
         <source>%v of %m films</source>
-        <translation type="unfinished"></translation>
+        <translation>filmy: %v z %m</translation>
     </message>
     <message>
         <source>Films are being fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>Stahují se filmy</translation>
     </message>
     <message>
         <source>What is there of them stays; fetching them again goes on with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co z nich už je, zůstane; nové stažení na to naváže.</translation>
     </message>
     <message>
         <source>Stop and close</source>
-        <translation type="unfinished"></translation>
+        <translation>Zastavit a zavřít</translation>
     </message>
 </context>
 <context>
@@ -10719,15 +10721,15 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     <name>kavela::desktop::FindActions</name>
     <message>
         <source>Queries</source>
-        <translation type="unfinished"></translation>
+        <translation>Dotazy</translation>
     </message>
     <message>
         <source>Search a &amp;folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Prohledat &amp;složku…</translation>
     </message>
     <message>
         <source>Search f&amp;iles…</source>
-        <translation type="unfinished"></translation>
+        <translation>Prohledat so&amp;ubory…</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
@@ -10739,55 +10741,55 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory, které nelze &amp;přečíst…</translation>
     </message>
     <message>
         <source>Save the result as &amp;CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit výsledek jako &amp;CSV…</translation>
     </message>
     <message>
         <source>&amp;Query</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dotaz</translation>
     </message>
     <message>
         <source>&amp;Type a query</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Napsat dotaz</translation>
     </message>
     <message>
         <source>&amp;Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pole</translation>
     </message>
     <message>
         <source>&amp;Queries</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dotazy</translation>
     </message>
     <message>
         <source>&amp;Keep this query</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uchovat tento dotaz</translation>
     </message>
     <message>
         <source>&amp;Give up the kept query</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zrušit uchovaný dotaz</translation>
     </message>
     <message>
         <source>Resul&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Výsledek</translation>
     </message>
     <message>
         <source>&amp;Show the run at its frame</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ukázat jízdu na jejím snímku</translation>
     </message>
     <message>
         <source>Open its &amp;race</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít její &amp;závod</translation>
     </message>
     <message>
         <source>Its &amp;time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Její &amp;časové ztráty</translation>
     </message>
     <message>
         <source>The rows of the &amp;group</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádky &amp;skupiny</translation>
     </message>
 </context>
 <context>
@@ -10798,27 +10800,27 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Pole</translation>
     </message>
     <message>
         <source>Queries</source>
-        <translation type="unfinished"></translation>
+        <translation>Dotazy</translation>
     </message>
     <message>
         <source>gates up left cat K1W time&lt;4 – what, then what is asked of it</source>
-        <translation type="unfinished"></translation>
+        <translation>gates up left cat K1W time&lt;4 – co, a pak co se od toho žádá</translation>
     </message>
     <message>
         <source>Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Uchovat</translation>
     </message>
     <message>
         <source>Keeps this query among those at hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Uchová tento dotaz mezi těmi po ruce</translation>
     </message>
     <message>
         <source>The files are being read…</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory se čtou…</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -10826,7 +10828,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>1 file</source>
-        <translation type="unfinished"></translation>
+        <translation>1 soubor</translation>
     </message>
     <message>
         <source>1 run</source>
@@ -10834,31 +10836,31 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>. Reading was stopped: the others are not searched.</source>
-        <translation type="unfinished"></translation>
+        <translation>. Čtení bylo zastaveno: ostatní se neprohledávají.</translation>
     </message>
     <message>
         <source>Nothing was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic se nenašlo.</translation>
     </message>
     <message>
         <source>In the group: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ve skupině: %1</translation>
     </message>
     <message>
         <source> · run %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · jízda %1</translation>
     </message>
     <message>
         <source> · split %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · mezičas %1</translation>
     </message>
     <message>
         <source> · %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 s</translation>
     </message>
     <message>
         <source>Save the result</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit výsledek</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
@@ -10866,10 +10868,10 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message numerus="yes">
         <source>%n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n soubor</numerusform>
+            <numerusform>%n soubory</numerusform>
+            <numerusform>%n souborů</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -10885,157 +10887,157 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     <name>kavela::desktop::FoundLines</name>
     <message>
         <source>In the file</source>
-        <translation type="unfinished"></translation>
+        <translation>V souboru</translation>
     </message>
     <message>
         <source>Was</source>
-        <translation type="unfinished"></translation>
+        <translation>Bylo</translation>
     </message>
     <message>
         <source>Will be</source>
-        <translation type="unfinished"></translation>
+        <translation>Bude</translation>
     </message>
     <message>
         <source>new: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nové: %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FoundTable</name>
     <message>
         <source>rows of the group</source>
-        <translation type="unfinished"></translation>
+        <translation>řádky skupiny</translation>
     </message>
     <message>
         <source>run</source>
-        <translation type="unfinished"></translation>
+        <translation>jízda</translation>
     </message>
     <message>
         <source>runs</source>
-        <translation type="unfinished"></translation>
+        <translation>jízdy</translation>
     </message>
     <message>
         <source>section</source>
-        <translation type="unfinished"></translation>
+        <translation>úsek</translation>
     </message>
     <message>
         <source>sections</source>
-        <translation type="unfinished"></translation>
+        <translation>úseky</translation>
     </message>
     <message>
         <source>gate</source>
-        <translation type="unfinished"></translation>
+        <translation>branka</translation>
     </message>
     <message>
         <source>gates</source>
-        <translation type="unfinished"></translation>
+        <translation>branky</translation>
     </message>
     <message>
         <source>penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizace</translation>
     </message>
     <message>
         <source>penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizace</translation>
     </message>
     <message>
         <source>loss</source>
-        <translation type="unfinished"></translation>
+        <translation>ztráta</translation>
     </message>
     <message>
         <source>losses</source>
-        <translation type="unfinished"></translation>
+        <translation>ztráty</translation>
     </message>
     <message>
         <source>section with strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>úsek se záběry</translation>
     </message>
     <message>
         <source>sections with strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>úseky se záběry</translation>
     </message>
     <message>
         <source>tag</source>
-        <translation type="unfinished"></translation>
+        <translation>štítek</translation>
     </message>
     <message>
         <source>tags</source>
-        <translation type="unfinished"></translation>
+        <translation>štítky</translation>
     </message>
     <message>
         <source>group</source>
-        <translation type="unfinished"></translation>
+        <translation>skupina</translation>
     </message>
     <message>
         <source>groups</source>
-        <translation type="unfinished"></translation>
+        <translation>skupiny</translation>
     </message>
     <message>
         <source>less than 1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>méně než 1 ms</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 %2 in %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 za %3</translation>
     </message>
     <message>
         <source>, the first %1 shown</source>
-        <translation type="unfinished"></translation>
+        <translation>, ukázáno prvních %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GapChart</name>
     <message>
         <source>Select runs in the table to see where time is won and lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte v tabulce jízdy a uvidíte, kde se čas získal a ztratil.</translation>
     </message>
     <message>
         <source>No run covers the whole course. Choose the median or a run as the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná jízda nepokrývá celou trať. Zvolte za referenci medián nebo jízdu.</translation>
     </message>
     <message>
         <source>The reference has no time in the first section. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reference nemá čas v prvním úseku. Zvolte jinou.</translation>
     </message>
     <message>
         <source>Gap to the best run: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstup od nejlepší jízdy: %1</translation>
     </message>
     <message>
         <source>Gap to the median of each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstup od mediánu každého úseku</translation>
     </message>
     <message>
         <source>Gap to the ideal run: the best of each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstup od ideální jízdy: nejlepšího v každém úseku</translation>
     </message>
     <message>
         <source>Gap to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstup: reference %1</translation>
     </message>
     <message>
         <source>Accumulated seconds, penalties included</source>
-        <translation type="unfinished"></translation>
+        <translation>Průběžné sekundy, včetně penalizace</translation>
     </message>
     <message>
         <source>Accumulated seconds, without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Průběžné sekundy, bez penalizace</translation>
     </message>
     <message>
         <source>← slower      faster →</source>
-        <translation type="unfinished"></translation>
+        <translation>← pomaleji      rychleji →</translation>
     </message>
     <message>
         <source>not timed</source>
-        <translation type="unfinished"></translation>
+        <translation>nezměřeno</translation>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstup</translation>
     </message>
     <message>
         <source>in %1</source>
@@ -11043,7 +11045,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>After %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Za %1</translation>
     </message>
     <message>
         <source>Section</source>
@@ -11055,34 +11057,34 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>%1: gap</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: odstup</translation>
     </message>
     <message>
         <source>%1: in the section</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: v úseku</translation>
     </message>
     <message>
         <source>Gap along the course for the selected runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstup po trati u vybraných jízd</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GateChart</name>
     <message>
         <source>No run has its penalties by gate. Enter them for each gate to see where they happen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná jízda nemá penalizace po brankách. Zadejte je u každé branky a uvidíte, kde vznikají.</translation>
     </message>
     <message>
         <source>Penalties by gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace po brankách</translation>
     </message>
     <message>
         <source>Runs with a penalty at the gate, of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízdy s penalizací na brance, z %1</translation>
     </message>
     <message>
         <source> · ↑ upstream gate</source>
-        <translation type="unfinished"></translation>
+        <translation> · ↑ protivodná branka</translation>
     </message>
     <message>
         <source>Gate</source>
@@ -11094,15 +11096,15 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Missed gate, 50 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojetá branka, 50 s</translation>
     </message>
     <message>
         <source>Touch, 2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Ťuk, 2 s</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>Gate %1, upstream</source>
@@ -11122,11 +11124,11 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>missed</source>
-        <translation type="unfinished"></translation>
+        <translation>neprojeto</translation>
     </message>
     <message>
         <source>touch</source>
-        <translation type="unfinished"></translation>
+        <translation>ťuk</translation>
     </message>
     <message>
         <source>Upstream</source>
@@ -11145,11 +11147,11 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <translation>Nájezd</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Výjezd</translation>
     </message>
     <message>
         <source>Total</source>
@@ -11161,7 +11163,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Mark the pole line too</source>
-        <translation type="unfinished"></translation>
+        <translation>Označit i rovinu branky</translation>
     </message>
     <message>
         <source>Style</source>
@@ -11169,18 +11171,18 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>A click brings a gate in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknutí přenese branku dopředu</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GateStrip</name>
     <message>
         <source>Penalties at the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace na brankách</translation>
     </message>
     <message>
         <source>No gates yet: set up the course with Ctrl+G to note penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím žádné branky: pro zápis penalizací nastavte trať pomocí Ctrl+G.</translation>
     </message>
     <message>
         <source>Gate %1, upstream</source>
@@ -11193,7 +11195,8 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     <message>
         <source>
 T touch, F missed, 0 clean; N and P next and previous gate</source>
-        <translation type="unfinished"></translation>
+        <translation>
+T ťuk, F neprojetá, 0 čistá; N a P další a předchozí branka</translation>
     </message>
 </context>
 <context>
@@ -11230,63 +11233,63 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     <name>kavela::desktop::GoalsPanel</name>
     <message>
         <source>New group</source>
-        <translation type="unfinished"></translation>
+        <translation>Nová skupina</translation>
     </message>
     <message>
         <source>New goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Nový cíl</translation>
     </message>
     <message>
         <source>New sub-goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Nový dílčí cíl</translation>
     </message>
     <message>
         <source>Goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Cíl</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Stav</translation>
     </message>
     <message>
         <source>Add group</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat skupinu</translation>
     </message>
     <message>
         <source>A group of goals, such as “Technique”</source>
-        <translation type="unfinished"></translation>
+        <translation>Skupina cílů, třeba „Technika“</translation>
     </message>
     <message>
         <source>Add goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat cíl</translation>
     </message>
     <message>
         <source>To the group that is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Do zvolené skupiny</translation>
     </message>
     <message>
         <source>Add sub-goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat dílčí cíl</translation>
     </message>
     <message>
         <source>To the group that is chosen, with a status (Insert)</source>
-        <translation type="unfinished"></translation>
+        <translation>Do zvolené skupiny, se stavem (Insert)</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nahoru</translation>
     </message>
     <message>
         <source>Alt+Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Nahoru</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Dolů</translation>
     </message>
     <message>
         <source>Alt+Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Dolů</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -11294,63 +11297,64 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat</translation>
     </message>
     <message>
         <source>No goals are set for this season yet.
 “Add group” begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>V této sezóně zatím nejsou žádné cíle.
+Začíná se pomocí „Přidat skupinu“.</translation>
     </message>
     <message>
         <source>Choose a season to see its goals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte sezónu a uvidíte její cíle.</translation>
     </message>
     <message>
         <source>Group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Skupina %1</translation>
     </message>
     <message>
         <source>%1 of %2 reached</source>
-        <translation type="unfinished"></translation>
+        <translation>dosaženo %1 z %2</translation>
     </message>
     <message>
         <source>, %1 given up</source>
-        <translation type="unfinished"></translation>
+        <translation>, vzdáno %1</translation>
     </message>
     <message>
         <source>text of a goal</source>
-        <translation type="unfinished"></translation>
+        <translation>text cíle</translation>
     </message>
     <message>
         <source>status of a goal</source>
-        <translation type="unfinished"></translation>
+        <translation>stav cíle</translation>
     </message>
     <message>
         <source>new goal</source>
-        <translation type="unfinished"></translation>
+        <translation>nový cíl</translation>
     </message>
     <message>
         <source>order of the goals</source>
-        <translation type="unfinished"></translation>
+        <translation>pořadí cílů</translation>
     </message>
     <message>
         <source>removal of a goal</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění cíle</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GymPanel</name>
     <message>
         <source>All seasons, in kilograms</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny sezóny, v kilogramech</translation>
     </message>
     <message>
         <source>kg</source>
-        <translation type="unfinished"></translation>
+        <translation>kg</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Weight</source>
@@ -11358,23 +11362,23 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Exercises</source>
-        <translation type="unfinished"></translation>
+        <translation>Cviky</translation>
     </message>
     <message>
         <source>Tonnage</source>
-        <translation type="unfinished"></translation>
+        <translation>Tonáž</translation>
     </message>
     <message>
         <source>Exercise of the chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Cvik v grafu</translation>
     </message>
     <message>
         <source>&amp;History of</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vývoj cviku</translation>
     </message>
     <message>
         <source>Add session</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat jednotku</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -11382,27 +11386,27 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>removal of gym sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění posilování</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplikovat</translation>
     </message>
     <message>
         <source>The same exercises once more, today</source>
-        <translation type="unfinished"></translation>
+        <translation>Tytéž cviky ještě jednou, dnes</translation>
     </message>
     <message>
         <source>date</source>
-        <translation type="unfinished"></translation>
+        <translation>datum</translation>
     </message>
     <message>
         <source>new gym session</source>
-        <translation type="unfinished"></translation>
+        <translation>nové posilování</translation>
     </message>
     <message>
         <source>copy of a gym session</source>
-        <translation type="unfinished"></translation>
+        <translation>kopie posilování</translation>
     </message>
     <message>
         <source>Choose an athlete.</source>
@@ -11415,35 +11419,37 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     <message>
         <source>No gym session of this season yet.
 Press Insert to add today&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>V této sezóně zatím žádné posilování.
+Stiskněte Insert a přidejte dnešní.</translation>
     </message>
     <message>
         <source>No exercise yet.
 Press Insert to add one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím žádný cvik.
+Stiskněte Insert a přidejte ho.</translation>
     </message>
     <message>
         <source>Choose or add a session to see its exercises.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte nebo přidejte jednotku a uvidíte její cviky.</translation>
     </message>
     <message>
         <source>Add an exercise with its weight to see how it develops.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidejte cvik s hmotností a uvidíte, jak se vyvíjí.</translation>
     </message>
     <message>
         <source>No weight of %1 yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: zatím žádná hmotnost.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::HeatAttacks</name>
     <message>
         <source>✓ passed</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ předjel(a)</translation>
     </message>
     <message>
         <source>✗ held</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ ubráněno</translation>
     </message>
     <message>
         <source>Start</source>
@@ -11459,7 +11465,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Na</translation>
     </message>
     <message>
         <source>Outcome</source>
@@ -11483,15 +11489,15 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Attack at this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Útok na tomto snímku</translation>
     </message>
     <message>
         <source>An attack starts here: then press the number of the attacker and those of the defenders</source>
-        <translation type="unfinished"></translation>
+        <translation>Zde začíná útok: pak stiskněte číslo útočníka a čísla obránců</translation>
     </message>
     <message>
         <source>A click shows the frame of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknutí ukáže snímek útoku</translation>
     </message>
     <message>
         <source>Gate %1</source>
@@ -11499,15 +11505,15 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>attack</source>
-        <translation type="unfinished"></translation>
+        <translation>útok</translation>
     </message>
     <message>
         <source>Attack: number of the attacker, then of the defenders</source>
-        <translation type="unfinished"></translation>
+        <translation>Útok: číslo útočníka, pak obránců</translation>
     </message>
     <message>
         <source>An attack without a moment, since there is no film: press the number of the attacker, then those of the defenders.</source>
-        <translation type="unfinished"></translation>
+        <translation>Útok bez okamžiku, protože film chybí: stiskněte číslo útočníka, pak čísla obránců.</translation>
     </message>
     <message>
         <source>attacker</source>
@@ -11519,43 +11525,43 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>moment of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>okamžik útoku</translation>
     </message>
     <message>
         <source>end of an attack removed</source>
-        <translation type="unfinished"></translation>
+        <translation>konec útoku odstraněn</translation>
     </message>
     <message>
         <source>attack removed</source>
-        <translation type="unfinished"></translation>
+        <translation>útok odstraněn</translation>
     </message>
     <message>
         <source>Start ramp</source>
-        <translation type="unfinished"></translation>
+        <translation>Startovní rampa</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Eskymák</translation>
     </message>
     <message>
         <source>Eddy</source>
-        <translation type="unfinished"></translation>
+        <translation>Vracák</translation>
     </message>
     <message>
         <source>Drop</source>
-        <translation type="unfinished"></translation>
+        <translation>Skok</translation>
     </message>
     <message>
         <source>Wave</source>
-        <translation type="unfinished"></translation>
+        <translation>Vlna</translation>
     </message>
     <message>
         <source>Flat water</source>
-        <translation type="unfinished"></translation>
+        <translation>Rovná voda</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation type="unfinished"></translation>
+        <translation>Cíl</translation>
     </message>
     <message>
         <source>Left</source>
@@ -11567,34 +11573,34 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Inside</source>
-        <translation type="unfinished"></translation>
+        <translation>Uvnitř</translation>
     </message>
     <message>
         <source>Outside</source>
-        <translation type="unfinished"></translation>
+        <translation>Vně</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::HeatDialog</name>
     <message>
         <source>Add a heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat rozjížďku</translation>
     </message>
     <message>
         <source>Names of the boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Jména lodí</translation>
     </message>
     <message>
         <source>Boat %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Loď %1</translation>
     </message>
     <message>
         <source>Each boat needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Každá loď potřebuje jméno.</translation>
     </message>
     <message>
         <source>%1 stands twice in the heat.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 je v rozjížďce dvakrát.</translation>
     </message>
 </context>
 <context>
@@ -11605,15 +11611,15 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>⚠ missing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ chybí: %1</translation>
     </message>
     <message>
         <source>%1 of %2 gates</source>
-        <translation type="unfinished"></translation>
+        <translation>branky: %1 z %2</translation>
     </message>
     <message>
         <source>Heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozjížďka</translation>
     </message>
     <message>
         <source>Boats</source>
@@ -11625,31 +11631,31 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaznam.</translation>
     </message>
     <message>
         <source>Add a heat…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat rozjížďku…</translation>
     </message>
     <message>
         <source>Adds a heat of up to four boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidá rozjížďku až čtyř lodí</translation>
     </message>
     <message>
         <source>Names…</source>
-        <translation type="unfinished"></translation>
+        <translation>Jména…</translation>
     </message>
     <message>
         <source>Other names for the boats of the heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Jiná jména lodí rozjížďky</translation>
     </message>
     <message>
         <source>Film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Film…</translation>
     </message>
     <message>
         <source>Chooses the film of the heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybere film rozjížďky</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -11657,14 +11663,14 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Removes the heat with all its marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstraní rozjížďku se všemi jejími značkami</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::HeatMapChart</name>
     <message>
         <source>Percent lost on %1, by section</source>
-        <translation type="unfinished"></translation>
+        <translation>Procenta ztráty (reference: %1), po úsecích</translation>
     </message>
     <message>
         <source>Percent lost by run and section</source>
@@ -11676,7 +11682,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>is the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>je reference</translation>
     </message>
     <message>
         <source>Run</source>
@@ -11687,67 +11693,67 @@ Press Insert to add one.</source>
     <name>kavela::desktop::HeatOrders</name>
     <message>
         <source>Take at this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaznamenat na tomto snímku</translation>
     </message>
     <message>
         <source>Takes the order shown at the frame shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaznamená ukázané pořadí na ukázaném snímku</translation>
     </message>
     <message>
         <source>Start over</source>
-        <translation type="unfinished"></translation>
+        <translation>Začít znovu</translation>
     </message>
     <message>
         <source>Back to the order as it was</source>
-        <translation type="unfinished"></translation>
+        <translation>Zpět k původnímu pořadí</translation>
     </message>
     <message>
         <source>Comment on this order</source>
-        <translation type="unfinished"></translation>
+        <translation>Komentář k tomuto pořadí</translation>
     </message>
     <message>
         <source>Add a heat first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív přidejte rozjížďku.</translation>
     </message>
     <message>
         <source>The cross course has no gates yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trať crossu zatím nemá branky.</translation>
     </message>
     <message>
         <source>This order does not count for the course. Choose a gate of the course first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toto pořadí se na trati nepočítá. Nejdřív vyberte branku tratě.</translation>
     </message>
     <message>
         <source>No boat is named yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná loď zatím nemá jméno.</translation>
     </message>
     <message>
         <source>order at gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>pořadí na brance %1</translation>
     </message>
     <message>
         <source>Gate %1:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1:  %2</translation>
     </message>
     <message>
         <source>comment on an order</source>
-        <translation type="unfinished"></translation>
+        <translation>komentář k pořadí</translation>
     </message>
     <message>
         <source>not taken yet</source>
-        <translation type="unfinished"></translation>
+        <translation>zatím nezaznamenáno</translation>
     </message>
     <message>
         <source>taken at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>zaznamenáno v %1</translation>
     </message>
     <message>
         <source>offered</source>
-        <translation type="unfinished"></translation>
+        <translation>nabídnuto</translation>
     </message>
     <message>
         <source>Gate %1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1 · %2</translation>
     </message>
     <message>
         <source>The cross course has no gates yet</source>
@@ -11755,30 +11761,30 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Keep its moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponechat okamžik</translation>
     </message>
     <message>
         <source>Take without a moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaznamenat bez okamžiku</translation>
     </message>
     <message>
         <source>Corrects the order and leaves its moment as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Opraví pořadí a okamžik ponechá</translation>
     </message>
     <message>
         <source>Takes the order shown where there is no film</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaznamená ukázané pořadí tam, kde není film</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::HeatPage</name>
     <message>
         <source>No heats yet. Add a heat with its boats and choose its film; then go to each gate and press the numbers of the boats as they pass.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím žádné rozjížďky. Přidejte rozjížďku s loděmi a vyberte její film; pak jděte na každou branku a tiskněte čísla lodí, jak projíždějí.</translation>
     </message>
     <message>
         <source>A%1</source>
-        <translation type="unfinished"></translation>
+        <translation>A%1</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
@@ -11786,43 +11792,43 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>order moved</source>
-        <translation type="unfinished"></translation>
+        <translation>pořadí posunuto</translation>
     </message>
     <message>
         <source>order removed</source>
-        <translation type="unfinished"></translation>
+        <translation>pořadí odstraněno</translation>
     </message>
     <message>
         <source>This heat has %1 boats.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lodí v této rozjížďce: %1.</translation>
     </message>
     <message>
         <source>heat</source>
-        <translation type="unfinished"></translation>
+        <translation>rozjížďka</translation>
     </message>
     <message>
         <source>heat removed</source>
-        <translation type="unfinished"></translation>
+        <translation>rozjížďka odstraněna</translation>
     </message>
     <message>
         <source>names of boats</source>
-        <translation type="unfinished"></translation>
+        <translation>jména lodí</translation>
     </message>
     <message>
         <source>film of a heat</source>
-        <translation type="unfinished"></translation>
+        <translation>film rozjížďky</translation>
     </message>
     <message>
         <source>Add a heat first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív přidejte rozjížďku.</translation>
     </message>
     <message>
         <source>This heat has no boats yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato rozjížďka zatím nemá lodě.</translation>
     </message>
     <message>
         <source>Select the attack that ends here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte útok, který zde končí.</translation>
     </message>
 </context>
 <context>
@@ -11892,7 +11898,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Best</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejlepší</translation>
     </message>
     <message>
         <source>By</source>
@@ -11900,37 +11906,40 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Ideal run %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Ideální jízda %1 s</translation>
     </message>
     <message>
         <source>No ideal run: a section has no time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná ideální jízda: některý úsek nemá čas.</translation>
     </message>
     <message>
         <source>
 Fastest run %1 s, %2
 %3 s behind the ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nejrychlejší jízda %1 s, %2
+%3 s za ideální jízdou</translation>
     </message>
     <message>
         <source>
 Penalties are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Bez penalizací.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::InformationDialog</name>
     <message>
         <source>Session information</source>
-        <translation type="unfinished"></translation>
+        <translation>Informace o jednotce</translation>
     </message>
     <message>
         <source>The weight tells force and power when a recording is converted: analyse it again after changing it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hmotnost určuje sílu a výkon při převodu záznamu: po její změně záznam znovu analyzujte.</translation>
     </message>
     <message>
         <source>–</source>
-        <translation type="unfinished"></translation>
+        <translation>–</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
@@ -11938,7 +11947,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Místo</translation>
     </message>
     <message>
         <source>&amp;Kind</source>
@@ -11946,35 +11955,35 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hmotnost</translation>
     </message>
     <message>
         <source>kg</source>
-        <translation type="unfinished"></translation>
+        <translation>kg</translation>
     </message>
     <message>
         <source>&amp;Paddle length</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Délka pádla</translation>
     </message>
     <message>
         <source>cm</source>
-        <translation type="unfinished"></translation>
+        <translation>cm</translation>
     </message>
     <message>
         <source>&amp;Blade area</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Plocha listu</translation>
     </message>
     <message>
         <source>cm²</source>
-        <translation type="unfinished"></translation>
+        <translation>cm²</translation>
     </message>
     <message>
         <source>Blade &amp;height</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Výška listu</translation>
     </message>
     <message>
         <source>Hand po&amp;sition</source>
-        <translation type="unfinished"></translation>
+        <translation>Po&amp;loha rukou</translation>
     </message>
 </context>
 <context>
@@ -11992,66 +12001,66 @@ Penalties are left out.</source>
     <name>kavela::desktop::IntervalForm</name>
     <message>
         <source>Minutes and seconds such as 1:30, or seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuty a sekundy, třeba 1:30, nebo sekundy</translation>
     </message>
     <message>
         <source>&amp;Title</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Název</translation>
     </message>
     <message>
         <source>T&amp;arget</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cíl</translation>
     </message>
     <message>
         <source>Rh&amp;ythm</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;ytmus</translation>
     </message>
     <message>
         <source>S&amp;ets</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Série</translation>
     </message>
     <message>
         <source>Re&amp;petitions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Opakování</translation>
     </message>
     <message>
         <source>&amp;Work</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Práce</translation>
     </message>
     <message>
         <source>&amp;Rest between repetitions</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;dpočinek mezi opakováními</translation>
     </message>
     <message>
         <source>Rest &amp;between sets</source>
-        <translation type="unfinished"></translation>
+        <translation>Odpočinek &amp;mezi sériemi</translation>
     </message>
     <message>
         <source>&amp;Kind of rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Dr&amp;uh odpočinku</translation>
     </message>
     <message>
         <source>&amp;Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob&amp;jem</translation>
     </message>
     <message>
         <source>&amp;Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Intenzita</translation>
     </message>
     <message>
         <source>&amp;Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Po&amp;pis</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::IntervalTimerDialog</name>
     <message>
         <source>%1 – timer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – časovač</translation>
     </message>
     <message>
         <source>◀ Back</source>
-        <translation type="unfinished"></translation>
+        <translation>◀ Zpět</translation>
     </message>
     <message>
         <source>Left</source>
@@ -12059,11 +12068,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezerník</translation>
     </message>
     <message>
         <source>Skip ▶</source>
-        <translation type="unfinished"></translation>
+        <translation>Přeskočit ▶</translation>
     </message>
     <message>
         <source>Right</source>
@@ -12071,11 +12080,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Celá obrazovka</translation>
     </message>
     <message>
         <source>F11</source>
-        <translation type="unfinished"></translation>
+        <translation>F11</translation>
     </message>
     <message>
         <source>Close</source>
@@ -12083,7 +12092,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Escape</source>
-        <translation type="unfinished"></translation>
+        <translation>Escape</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -12091,11 +12100,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Start again</source>
-        <translation type="unfinished"></translation>
+        <translation>Začít znovu</translation>
     </message>
     <message>
         <source>Go on</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokračovat</translation>
     </message>
     <message>
         <source>Start</source>
@@ -12110,7 +12119,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Make-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Složení</translation>
     </message>
     <message>
         <source>Total</source>
@@ -12118,47 +12127,47 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Work</source>
-        <translation type="unfinished"></translation>
+        <translation>Práce</translation>
     </message>
     <message>
         <source>New session</source>
-        <translation type="unfinished"></translation>
+        <translation>Nová jednotka</translation>
     </message>
     <message>
         <source>interval session</source>
-        <translation type="unfinished"></translation>
+        <translation>intervalová jednotka</translation>
     </message>
     <message>
         <source>No favourite sessions yet. “Add” begins the first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím žádné oblíbené jednotky. První začíná pomocí „Přidat“.</translation>
     </message>
     <message>
         <source>Add a session</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat jednotku</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplikovat</translation>
     </message>
     <message>
         <source>Another one like it</source>
-        <translation type="unfinished"></translation>
+        <translation>Další takovou</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nahoru</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Dolů</translation>
     </message>
     <message>
         <source>Remove the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit jednotku</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -12166,95 +12175,95 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Start the timer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Spustit časovač…</translation>
     </message>
     <message>
         <source>A clock for the bank, readable from afar. Double click on a session opens it too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodiny na břeh, čitelné zdálky. Otevře je i dvojklik na jednotku.</translation>
     </message>
     <message>
         <source>new interval session</source>
-        <translation type="unfinished"></translation>
+        <translation>nová intervalová jednotka</translation>
     </message>
     <message>
         <source>%1, copy</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, kopie</translation>
     </message>
     <message>
         <source>copy of an interval session</source>
-        <translation type="unfinished"></translation>
+        <translation>kopie intervalové jednotky</translation>
     </message>
     <message>
         <source>order of the interval sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>pořadí intervalových jednotek</translation>
     </message>
     <message>
         <source>removal of an interval session</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění intervalové jednotky</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::JobsWindow</name>
     <message>
         <source>S&amp;top</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zastavit</translation>
     </message>
     <message>
         <source>Show the &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat &amp;složku</translation>
     </message>
     <message>
         <source>&amp;Clear what is over</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vymazat dokončené</translation>
     </message>
     <message>
         <source>Films being composed</source>
-        <translation type="unfinished"></translation>
+        <translation>Skládané filmy</translation>
     </message>
     <message>
         <source>No film is being composed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný film se neskládá.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::KeptColumns</name>
     <message>
         <source>&amp;All columns in their order</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Všechny sloupce v jejich pořadí</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::KeptQueries</name>
     <message>
         <source>Queries</source>
-        <translation type="unfinished"></translation>
+        <translation>Dotazy</translation>
     </message>
     <message>
         <source>Kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Uchováno</translation>
     </message>
     <message>
         <source>Asked last</source>
-        <translation type="unfinished"></translation>
+        <translation>Poslední dotazy</translation>
     </message>
     <message>
         <source>Examples</source>
-        <translation type="unfinished"></translation>
+        <translation>Příklady</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::KeyEditor</name>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Klávesy</translation>
     </message>
     <message>
         <source>Find an action</source>
-        <translation type="unfinished"></translation>
+        <translation>Najít akci</translation>
     </message>
     <message>
         <source>Standard keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Výchozí klávesy</translation>
     </message>
     <message>
         <source>Close</source>
@@ -12262,48 +12271,48 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 is the key of “%2” already. “%3” can take it over; “%2” has it no longer then.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 už je klávesa pro „%2“. „%3“ ji může převzít; „%2“ ji pak už nemá.</translation>
     </message>
     <message>
         <source>Take it over</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::KeyOverlay</name>
     <message>
         <source>All keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny klávesy</translation>
     </message>
     <message>
         <source>Up, Down, Page up and Page down show the rest; any other key closes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nahoru, Dolů, Page Up a Page Down ukážou zbytek; jiná klávesa zavře.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LaneStrip</name>
     <message>
         <source>Notes of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Poznámky k jízdě</translation>
     </message>
     <message>
         <source>A click shows the frame of a mark, dragging moves the mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknutí ukáže snímek značky, tažení značku posune</translation>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostatní</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LineOverlay</name>
     <message>
         <source>Lines over the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Čáry přes film</translation>
     </message>
     <message>
         <source>Drag an end of a line, or the line. With the focus here the arrows move it, with Shift by ten pixels; Tab goes from end to end, Esc leaves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Táhněte konec čáry, nebo čáru. Je-li zde zaměření, posouvají ji šipky, se Shift o deset pixelů; Tab jde od konce ke konci, Esc odejde.</translation>
     </message>
     <message>
         <source>Start</source>
@@ -12314,11 +12323,11 @@ Penalties are left out.</source>
     <name>kavela::desktop::List</name>
     <message>
         <source>date</source>
-        <translation type="unfinished"></translation>
+        <translation>datum</translation>
     </message>
     <message>
         <source>new %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nové: %1</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -12326,7 +12335,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>removal of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění: %1</translation>
     </message>
 </context>
 <context>
@@ -12337,46 +12346,46 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>No row is left. Ctrl+Z takes the last step back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nezbyl žádný řádek. Ctrl+Z vrátí poslední krok.</translation>
     </message>
     <message>
         <source>Every cell was taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzaly se všechny buňky.</translation>
     </message>
     <message>
         <source>Chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Graf</translation>
     </message>
     <message>
         <source>Refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Odmítnuto</translation>
     </message>
     <message>
         <source>Refused (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Odmítnuto (%1)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LoginDialog</name>
     <message>
         <source>&amp;Keep it in the password store of this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uchovat v úložišti hesel tohoto počítače</translation>
     </message>
     <message>
         <source>Sign in to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Přihlásit k %1</translation>
     </message>
     <message>
         <source>Only this server is shown the password. It is never written into a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Heslo uvidí jen tento server. Nikdy se nezapíše do souboru.</translation>
     </message>
     <message>
         <source>&amp;User name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jméno uživatele</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Heslo</translation>
     </message>
 </context>
 <context>
@@ -12901,15 +12910,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičasy</translation>
     </message>
     <message>
         <source>Micro splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Mikromezičasy</translation>
     </message>
     <message>
         <source>Upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Protivodné branky</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -12925,19 +12934,19 @@ Penalties are left out.</source>
     </message>
     <message>
         <source> · camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · kamera %1</translation>
     </message>
     <message>
         <source> · fixed camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · pevná kamera %1</translation>
     </message>
     <message>
         <source> · other run</source>
-        <translation type="unfinished"></translation>
+        <translation> · druhá jízda</translation>
     </message>
     <message>
         <source>%1 at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 v %2</translation>
     </message>
     <message>
         <source>Time</source>
@@ -12945,54 +12954,54 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Značka</translation>
     </message>
     <message>
         <source>Times are of this run, whatever film a mark lies on. A click shows the frame of a mark; Ctrl and Shift choose several for their clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Časy jsou z této jízdy, ať značka leží na kterémkoli filmu. Kliknutí ukáže snímek značky; Ctrl a Shift jich vyberou více pro klipy</translation>
     </message>
     <message>
         <source>Kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>Druhy</translation>
     </message>
     <message>
         <source>The kinds of marks that are listed</source>
-        <translation type="unfinished"></translation>
+        <translation>Druhy značek, které se vypisují</translation>
     </message>
     <message>
         <source>Marks of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Značky jízdy</translation>
     </message>
     <message>
         <source>All kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny druhy</translation>
     </message>
     <message>
         <source>Clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Klipy</translation>
     </message>
     <message>
         <source>Plays the clips of the chosen marks one after another; of all that are listed when not several are chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehraje klipy vybraných značek jeden po druhém; všech vypsaných, není-li jich vybráno více</translation>
     </message>
     <message numerus="yes">
         <source>%n second(s) before and after a mark</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sekunda před značkou a po ní</numerusform>
+            <numerusform>%n sekundy před značkou a po ní</numerusform>
+            <numerusform>%n sekund před značkou a po ní</numerusform>
         </translation>
     </message>
     <message>
         <source> · outside the film</source>
-        <translation type="unfinished"></translation>
+        <translation> · mimo film</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MicroPage</name>
     <message>
         <source>Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Značka</translation>
     </message>
     <message>
         <source>Time</source>
@@ -13000,15 +13009,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>From the one before</source>
-        <translation type="unfinished"></translation>
+        <translation>Od předchozího</translation>
     </message>
     <message>
         <source>M marks a micro split at the frame shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>M označí mikromezičas na ukázaném snímku.</translation>
     </message>
     <message>
         <source>micro split</source>
-        <translation type="unfinished"></translation>
+        <translation>mikromezičas</translation>
     </message>
 </context>
 <context>
@@ -13023,87 +13032,87 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Open recordings…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít záznamy…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit &amp;graf…</translation>
     </message>
     <message>
         <source>&amp;Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Záznam</translation>
     </message>
     <message>
         <source>&amp;Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Převést</translation>
     </message>
     <message>
         <source>Convert &amp;all ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>Převést &amp;všechny zaškrtnuté</translation>
     </message>
     <message>
         <source>&amp;Open the converted session</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít převedenou jednotku</translation>
     </message>
     <message>
         <source>&amp;Previous recording</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Předchozí záznam</translation>
     </message>
     <message>
         <source>&amp;Next recording</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Další záznam</translation>
     </message>
     <message>
         <source>&amp;Show or hide</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ukázat nebo skrýt</translation>
     </message>
     <message>
         <source>Show this one a&amp;lone</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat s&amp;amotný tento</translation>
     </message>
     <message>
         <source>&amp;Remove from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Odst&amp;ranit ze seznamu</translation>
     </message>
     <message>
         <source>&amp;Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Č&amp;as</translation>
     </message>
     <message>
         <source>&amp;Undo the move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zpět posun</translation>
     </message>
     <message>
         <source>&amp;Redo the move</source>
-        <translation type="unfinished"></translation>
+        <translation>Zn&amp;ovu posun</translation>
     </message>
     <message>
         <source>Align the &amp;starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Srovnat &amp;starty</translation>
     </message>
     <message>
         <source>Align by the &amp;clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Srovnat podle &amp;hodin</translation>
     </message>
     <message>
         <source>&amp;Align here: the cursor to the clicked moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Srovn&amp;at zde: kurzor na označený okamžik</translation>
     </message>
     <message>
         <source>&amp;Forget the clicked moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapo&amp;menout označený okamžik</translation>
     </message>
     <message>
         <source>&amp;Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dříve</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Po&amp;zději</translation>
     </message>
     <message>
         <source>&amp;Previous stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Předchozí záběr</translation>
     </message>
     <message>
         <source>&amp;Next stroke</source>
@@ -13115,87 +13124,87 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Axes of the &amp;phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Osy &amp;telefonu</translation>
     </message>
     <message>
         <source>Axes of the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Osy telefonu</translation>
     </message>
     <message>
         <source>&amp;Mark strokes and turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Označit zá&amp;běry a obraty</translation>
     </message>
     <message>
         <source>Zoom &amp;in</source>
-        <translation type="unfinished"></translation>
+        <translation>Přiblíž&amp;it</translation>
     </message>
     <message>
         <source>Zoom &amp;out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oddálit</translation>
     </message>
     <message>
         <source>Show &amp;everything</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat vš&amp;e</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MotionAlignment</name>
     <message>
         <source>Every recording begins at 0. Ctrl+Z brings the alignment before back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Každý záznam začíná v 0. Ctrl+Z vrátí předchozí srovnání.</translation>
     </message>
     <message>
         <source>Every recording stands at its date. Ctrl+Z brings the alignment before back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Každý záznam stojí na svém datu. Ctrl+Z vrátí předchozí srovnání.</translation>
     </message>
     <message>
         <source>The date is not known of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum není známo: %1</translation>
     </message>
     <message>
         <source>Click the moment where it should be, choose a recording, point at its moment and press A</source>
-        <translation type="unfinished"></translation>
+        <translation>Klikněte na okamžik, kde má být, vyberte záznam, ukažte na jeho okamžik a stiskněte A</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MotionCharts</name>
     <message>
         <source>here</source>
-        <translation type="unfinished"></translation>
+        <translation>zde</translation>
     </message>
     <message>
         <source>L</source>
-        <translation type="unfinished"></translation>
+        <translation>L</translation>
     </message>
     <message>
         <source>R</source>
-        <translation type="unfinished"></translation>
+        <translation>P</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MotionConversions</name>
     <message>
         <source>Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>Převést</translation>
     </message>
     <message>
         <source>%1  %2: %3 strokes, %4 turns</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2: záběrů %3, obratů %4</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MotionPanel</name>
     <message>
         <source>%1 s of %2 s are recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaznamenáno %1 s z %2 s.</translation>
     </message>
     <message>
         <source>Nothing of it is recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic z toho není zaznamenáno.</translation>
     </message>
     <message>
         <source>greatest %1 m/s, %2 m</source>
-        <translation type="unfinished"></translation>
+        <translation>nejvíc %1 m/s, %2 m</translation>
     </message>
     <message>
         <source>Section</source>
@@ -13215,7 +13224,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Heart</source>
-        <translation type="unfinished"></translation>
+        <translation>Srdce</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -13231,15 +13240,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Select a run to see its strokes, speed and heart rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte jízdu a uvidíte její záběry, rychlost a tepovou frekvenci.</translation>
     </message>
     <message>
         <source>No recording is attached to this run. Split taking attaches one (Ctrl+B).</source>
-        <translation type="unfinished"></translation>
+        <translation>K této jízdě není připojen záznam. Připojuje ho měření mezičasů (Ctrl+B).</translation>
     </message>
     <message>
         <source>%1 of the part that is recorded; strokes of the whole run are not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 zaznamenané části; záběry celé jízdy nejsou známy.</translation>
     </message>
     <message>
         <source>Run</source>
@@ -13250,7 +13259,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::MotionRecordings</name>
     <message>
         <source>%1: there is not enough memory for it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: není na to dost paměti</translation>
     </message>
 </context>
 <context>
@@ -13261,39 +13270,39 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Open it</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít</translation>
     </message>
     <message>
         <source>Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>Převést</translation>
     </message>
     <message>
         <source>Writes strokes and turns as a processed session (.bms) beside the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapíše záběry a obraty jako zpracovanou jednotku (.bms) vedle záznamu</translation>
     </message>
     <message>
         <source>Convert all ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>Převést všechny zaškrtnuté</translation>
     </message>
     <message>
         <source>At the cursor</source>
-        <translation type="unfinished"></translation>
+        <translation>Na kurzoru</translation>
     </message>
     <message>
         <source>Drop raw recordings (.kvb) here</source>
-        <translation type="unfinished"></translation>
+        <translation>Přetáhněte sem surové záznamy (.kvb)</translation>
     </message>
     <message>
         <source>Several are laid over each other. They are only read: converting writes a new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Více záznamů se položí přes sebe. Jen se čtou: převod zapíše nový soubor.</translation>
     </message>
     <message>
         <source>Open recordings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít záznamy…</translation>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Uloženo %1</translation>
     </message>
     <message>
         <source>Open recordings</source>
@@ -13301,7 +13310,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Raw recordings (*.kvb);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Surové záznamy (*.kvb);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -13309,11 +13318,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Reading %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Čte se %1…</translation>
     </message>
     <message>
         <source>Raw recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Surové záznamy</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
@@ -13324,7 +13333,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::NoteMarks</name>
     <message>
         <source>This mark lies on the film of a fixed camera that is not in step.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato značka leží na filmu pevné kamery, která není sladěna.</translation>
     </message>
     <message>
         <source>The other run of this time loss is not in this file.</source>
@@ -13367,7 +13376,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::NotePage</name>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičasy</translation>
     </message>
     <message>
         <source>Penalties</source>
@@ -13453,7 +13462,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Po&amp;zději</translation>
     </message>
     <message>
         <source>&amp;Download</source>
@@ -13461,7 +13470,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zrušit</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -13540,7 +13549,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Reading %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Čte se %1…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -13571,15 +13580,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Adresa</translation>
     </message>
     <message>
         <source>&amp;User name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jméno uživatele</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Heslo</translation>
     </message>
     <message>
         <source>The settings name no shared planning.</source>
@@ -13618,7 +13627,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Replace it</source>
-        <translation type="unfinished"></translation>
+        <translation>Nahradit</translation>
     </message>
     <message>
         <source>Save the planning online</source>
@@ -13749,7 +13758,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory, které nelze &amp;přečíst…</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
@@ -13757,7 +13766,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit &amp;graf…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
@@ -13840,7 +13849,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Uloženo %1</translation>
     </message>
     <message>
         <source>Open split files</source>
@@ -13868,7 +13877,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>1 file</source>
-        <translation type="unfinished"></translation>
+        <translation>1 soubor</translation>
     </message>
     <message>
         <source>1 run</source>
@@ -13880,10 +13889,10 @@ Penalties are left out.</source>
     </message>
     <message numerus="yes">
         <source>%n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n soubor</numerusform>
+            <numerusform>%n soubory</numerusform>
+            <numerusform>%n souborů</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -14009,7 +14018,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizace</translation>
     </message>
     <message>
         <source>Total</source>
@@ -14033,7 +14042,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>date</source>
-        <translation type="unfinished"></translation>
+        <translation>datum</translation>
     </message>
     <message>
         <source>Behind</source>
@@ -14045,7 +14054,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičasy</translation>
     </message>
     <message>
         <source>removal of a run</source>
@@ -14869,7 +14878,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozjížďky</translation>
     </message>
     <message>
         <source>Final</source>
@@ -15520,7 +15529,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Body</translation>
     </message>
     <message>
         <source>Bonus</source>
@@ -15564,7 +15573,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizace</translation>
     </message>
     <message>
         <source>result removed</source>
@@ -15814,7 +15823,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Reading %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Čte se %1…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -15975,7 +15984,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>kg</source>
-        <translation type="unfinished"></translation>
+        <translation>kg</translation>
     </message>
     <message>
         <source>&amp;Drag</source>
@@ -16415,7 +16424,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Eskymák</translation>
     </message>
     <message>
         <source>Style</source>
@@ -16651,7 +16660,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstup</translation>
     </message>
     <message>
         <source>Section</source>
@@ -16802,7 +16811,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory, které nelze &amp;přečíst…</translation>
     </message>
     <message>
         <source>&amp;Reports to look at and print…</source>
@@ -16822,7 +16831,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit &amp;graf…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
@@ -17119,10 +17128,10 @@ Choose a file.</source>
     </message>
     <message numerus="yes">
         <source>%n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n soubor</numerusform>
+            <numerusform>%n soubory</numerusform>
+            <numerusform>%n souborů</numerusform>
         </translation>
     </message>
 </context>
@@ -17256,7 +17265,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Uloženo %1</translation>
     </message>
     <message>
         <source>Writing %1…</source>
@@ -17407,7 +17416,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>← slower      faster →</source>
-        <translation type="unfinished"></translation>
+        <translation>← pomaleji      rychleji →</translation>
     </message>
     <message>
         <source>Not timed</source>
@@ -17522,7 +17531,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>rad/s</source>
-        <translation type="unfinished"></translation>
+        <translation>rad/s</translation>
     </message>
     <message>
         <source>Told by the strokes that were recorded</source>
@@ -17531,7 +17540,8 @@ Choose a file.</source>
     <message>
         <source>Time
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas
+(s)</translation>
     </message>
     <message>
         <source>Straight
@@ -17875,7 +17885,7 @@ Choose a file.</source>
     <name>kavela::desktop::SensorChart</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>Time (s)</source>
@@ -17945,7 +17955,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Eskymák</translation>
     </message>
     <message>
         <source>Pitch</source>
@@ -17968,7 +17978,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Title</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Název</translation>
     </message>
     <message>
         <source>When</source>
@@ -17980,7 +17990,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Po&amp;pis</translation>
     </message>
     <message>
         <source>On the water</source>
@@ -17992,7 +18002,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostatní</translation>
     </message>
     <message>
         <source>not in this week</source>
@@ -18133,7 +18143,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Uchovat</translation>
     </message>
     <message>
         <source>Cut the session to the selected stretch</source>
@@ -18180,7 +18190,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Import .kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat soubor .kvb</translation>
     </message>
     <message>
         <source>Recordings (*.kvb)</source>
@@ -18188,7 +18198,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Import .sbm file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat soubor .sbm</translation>
     </message>
     <message>
         <source>Sessions (*.sbm *.bms)</source>
@@ -18354,19 +18364,19 @@ Choose a file.</source>
     </message>
     <message>
         <source>Tick &amp;none</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtnout &amp;nic</translation>
     </message>
     <message>
         <source>Ser&amp;ver</source>
-        <translation type="unfinished"></translation>
+        <translation>Ser&amp;ver</translation>
     </message>
     <message>
         <source>&amp;Sign in…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přihlásit…</translation>
     </message>
     <message>
         <source>&amp;Forget the password</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapo&amp;menout heslo</translation>
     </message>
 </context>
 <context>
@@ -18377,7 +18387,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>F&amp;older</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Složka</translation>
     </message>
     <message>
         <source>On this computer, with everything below it but hidden files</source>
@@ -18389,7 +18399,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Adresa</translation>
     </message>
     <message>
         <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
@@ -18474,7 +18484,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat</translation>
     </message>
     <message>
         <source>Files are being shared…</source>
@@ -18482,11 +18492,11 @@ and %1 more</source>
     </message>
     <message>
         <source>This computer has no password store that is open. The password holds until this window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento počítač nemá otevřené úložiště hesel. Heslo platí, dokud se toto okno nezavře.</translation>
     </message>
     <message>
         <source>The password of %1 was forgotten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Heslo pro %1 bylo zapomenuto.</translation>
     </message>
     <message>
         <source>%v of %m files</source>
@@ -18502,7 +18512,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Stop and close</source>
-        <translation type="unfinished"></translation>
+        <translation>Zastavit a zavřít</translation>
     </message>
 </context>
 <context>
@@ -19175,7 +19185,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaznam.</translation>
     </message>
     <message>
         <source>Way</source>
@@ -19187,7 +19197,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstup</translation>
     </message>
     <message>
         <source>The tick is at the way that the run took. Names and times are edited by a double click.</source>
@@ -19219,7 +19229,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat</translation>
     </message>
     <message>
         <source>New</source>
@@ -19590,7 +19600,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Uloženo %1</translation>
     </message>
     <message>
         <source>Kept with %1</source>
@@ -19602,7 +19612,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Reading %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Čte se %1…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened as a table</source>
@@ -19867,7 +19877,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Místo</translation>
     </message>
     <message>
         <source>&amp;Season</source>
@@ -19895,11 +19905,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Tick &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtnout &amp;vše</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtnout &amp;nic</translation>
     </message>
     <message>
         <source>(line %1)</source>
@@ -19962,7 +19972,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Místo</translation>
     </message>
     <message>
         <source>La&amp;ps</source>
@@ -20016,7 +20026,8 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <message>
         <source>Time
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas
+(s)</translation>
     </message>
     <message>
         <source>Length of the section</source>
@@ -20644,7 +20655,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>All kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny druhy</translation>
     </message>
     <message>
         <source>Sprint data</source>
@@ -20933,7 +20944,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>← slower      faster →</source>
-        <translation type="unfinished"></translation>
+        <translation>← pomaleji      rychleji →</translation>
     </message>
     <message>
         <source>Time</source>
@@ -21370,7 +21381,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Re&amp;name the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Pře&amp;jmenovat závodníka</translation>
     </message>
     <message>
         <source>&amp;Film…</source>
@@ -21378,11 +21389,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>R&amp;emove the trial</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstranit časovku</translation>
     </message>
     <message>
         <source>Film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Film…</translation>
     </message>
     <message>
         <source>Chooses the film of the selected trial</source>
@@ -21409,7 +21420,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Eskymák</translation>
     </message>
     <message>
         <source>Gate %1</source>
@@ -21445,11 +21456,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičasy</translation>
     </message>
     <message>
         <source>Upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Protivodné branky</translation>
     </message>
     <message>
         <source>A click shows the frame of a split</source>
@@ -21465,7 +21476,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>time trial of %1</source>
@@ -21535,11 +21546,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <translation>Nájezd</translation>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Výjezd</translation>
     </message>
     <message>
         <source>Total</source>
@@ -21551,7 +21562,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Mark the pole line too</source>
-        <translation type="unfinished"></translation>
+        <translation>Označit i rovinu branky</translation>
     </message>
     <message>
         <source>Turn to the</source>
@@ -21698,7 +21709,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizace</translation>
     </message>
     <message>
         <source>timing</source>
@@ -21785,7 +21796,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Načíst</translation>
     </message>
     <message>
         <source>health</source>
@@ -21897,7 +21908,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Body</translation>
     </message>
     <message>
         <source>Select an athlete to see where the score comes from.</source>
@@ -22015,7 +22026,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Načíst</translation>
     </message>
     <message>
         <source>Week</source>
