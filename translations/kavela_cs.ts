@@ -1297,7 +1297,7 @@
     </message>
     <message>
         <source>time</source>
-        <translation type="unfinished"></translation>
+        <translation>čas</translation>
     </message>
     <message>
         <source>The colour tells between which tenths of its column a time lies.</source>
@@ -2800,7 +2800,7 @@
     </message>
     <message>
         <source>result</source>
-        <translation type="unfinished"></translation>
+        <translation>výsledek</translation>
     </message>
     <message>
         <source>A missed gate also saved paddling, which the rank without it does not take back.</source>
@@ -2868,7 +2868,7 @@
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished"></translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Wilson&apos;s interval, 90 %</source>
@@ -3472,7 +3472,7 @@
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Vše</translation>
     </message>
     <message>
         <source>Type</source>
@@ -3700,7 +3700,7 @@
     </message>
     <message>
         <source>Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pen.</translation>
     </message>
     <message>
         <source>Total</source>
@@ -3892,7 +3892,7 @@
     </message>
     <message>
         <source>recording</source>
-        <translation type="unfinished"></translation>
+        <translation>záznam</translation>
     </message>
     <message>
         <source>gap and rank among all runs of the category; the run&apos;s with penalties</source>
@@ -3964,7 +3964,7 @@
     </message>
     <message>
         <source>Medals and finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaile a finále</translation>
     </message>
     <message>
         <source>Change, below 0 is faster</source>
@@ -3984,7 +3984,7 @@
     </message>
     <message>
         <source>Semifinal to final</source>
-        <translation type="unfinished"></translation>
+        <translation>Semifinále až finále</translation>
     </message>
     <message>
         <source>Heats to final, behind</source>
@@ -4004,7 +4004,7 @@
     </message>
     <message>
         <source>Head to head</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzájemné souboje</translation>
     </message>
     <message>
         <source>What a rank of the final took</source>
@@ -4044,7 +4044,7 @@
     </message>
     <message>
         <source>Expected places</source>
-        <translation type="unfinished"></translation>
+        <translation>Očekávaná místa</translation>
     </message>
     <message>
         <source>best %1</source>
@@ -4068,7 +4068,7 @@
     </message>
     <message>
         <source>Club</source>
-        <translation type="unfinished"></translation>
+        <translation>Klub</translation>
     </message>
     <message>
         <source>Year</source>
@@ -4080,7 +4080,7 @@
     </message>
     <message>
         <source>Bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus</translation>
     </message>
     <message>
         <source>x Score</source>
@@ -4112,7 +4112,7 @@
     </message>
     <message>
         <source>Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Kind %1</source>
@@ -5627,7 +5627,7 @@
     </message>
     <message>
         <source>Ranked rate, 90 %</source>
-        <translation>Srovnávací podíl, 90 %</translation>
+        <translation>Vyhlazený podíl, 90 %</translation>
     </message>
     <message>
         <source>Touched</source>
@@ -5659,7 +5659,7 @@
     </message>
     <message>
         <source>Ranked rate</source>
-        <translation>Srovnávací podíl</translation>
+        <translation>Vyhlazený podíl</translation>
     </message>
     <message>
         <source>Above</source>
@@ -6075,7 +6075,7 @@
     </message>
     <message>
         <source>Export the se&amp;gments…</source>
-        <translation>Exportovat ú&amp;seky…</translation>
+        <translation>Exportovat &amp;segmenty…</translation>
     </message>
     <message>
         <source>Export the values per &amp;distance…</source>
@@ -6115,7 +6115,7 @@
     </message>
     <message>
         <source>&amp;Segments</source>
-        <translation>Ú&amp;seky</translation>
+        <translation>&amp;Segmenty</translation>
     </message>
     <message>
         <source>&amp;Mark here</source>
@@ -6143,7 +6143,7 @@
     </message>
     <message>
         <source>&amp;Save the segments</source>
-        <translation>&amp;Uložit úseky</translation>
+        <translation>&amp;Uložit segmenty</translation>
     </message>
     <message>
         <source>&amp;Replay</source>
@@ -6591,7 +6591,7 @@
     </message>
     <message>
         <source>Strokes, turns and segments of a recording, on a map and replayed.</source>
-        <translation>Záběry, obraty a úseky záznamu, na mapě i přehrané.</translation>
+        <translation>Záběry, obraty a segmenty záznamu, na mapě i přehrané.</translation>
     </message>
     <message>
         <source>Find</source>
@@ -13337,7 +13337,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>The other run of this time loss is not in this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Druhá jízda této časové ztráty není v tomto souboru.</translation>
     </message>
     <message>
         <source>Another run came to the front: nothing was marked.</source>
@@ -13357,15 +13357,15 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>This mark lies on another film than the one shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato značka leží na jiném filmu, než je ukázaný.</translation>
     </message>
     <message>
         <source>None of these marks lies on the film that is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná z těchto značek neleží na ukázaném filmu.</translation>
     </message>
     <message>
         <source>Nothing is selected that could be removed. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není vybráno nic, co by šlo odstranit. Ctrl a šipky vedou od značky ke značce.</translation>
     </message>
     <message>
         <source>mark removed</source>
@@ -13384,7 +13384,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Upstreams</source>
-        <translation type="unfinished"></translation>
+        <translation>Protivodné</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -13392,7 +13392,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Micro</source>
-        <translation type="unfinished"></translation>
+        <translation>Mikro</translation>
     </message>
     <message>
         <source>Tags</source>
@@ -13400,7 +13400,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráty</translation>
     </message>
     <message>
         <source>Comments</source>
@@ -13412,7 +13412,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>Kamery</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -13423,42 +13423,42 @@ Bez penalizací.</translation>
     <name>kavela::desktop::NotesPanel</name>
     <message>
         <source>Clip %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Klip %1 z %2</translation>
     </message>
     <message>
         <source>This key works in the mode %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato klávesa funguje v režimu %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OfferDialog</name>
     <message>
         <source>A newer version</source>
-        <translation type="unfinished"></translation>
+        <translation>Novější verze</translation>
     </message>
     <message>
         <source>Kavela %1 is here</source>
-        <translation type="unfinished"></translation>
+        <translation>Je zde Kavela %1</translation>
     </message>
     <message>
         <source>What is new</source>
-        <translation type="unfinished"></translation>
+        <translation>Co je nového</translation>
     </message>
     <message>
         <source>Nothing is told of what is new.</source>
-        <translation type="unfinished"></translation>
+        <translation>O novinkách se nic neuvádí.</translation>
     </message>
     <message>
         <source>The file has %1 and is put into %2. You install it yourself, when it suits you.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor má %1 a uloží se do %2. Nainstalujete ho sami, až se vám to bude hodit.</translation>
     </message>
     <message>
         <source>It is of %1. You have %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Je z %1. Vy máte %2.</translation>
     </message>
     <message>
         <source>&amp;Skip this version</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přeskočit tuto verzi</translation>
     </message>
     <message>
         <source>&amp;Later</source>
@@ -13466,7 +13466,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>&amp;Download</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Stáhnout</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -13478,19 +13478,19 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zavřít</translation>
     </message>
     <message>
         <source>&amp;Show the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ukázat složku</translation>
     </message>
     <message>
         <source>The file is the one that was signed, and stands as “%1” in %2. Leave Kavela before you install it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor je tentýž, který byl podepsán, a je jako „%1“ v %2. Před instalací Kavelu ukončete.</translation>
     </message>
     <message>
         <source>Nothing was kept of the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ze souboru se nic neuchovalo.</translation>
     </message>
 </context>
 <context>
@@ -13501,27 +13501,27 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>What differs</source>
-        <translation type="unfinished"></translation>
+        <translation>Co se liší</translation>
     </message>
     <message>
         <source>How</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak</translation>
     </message>
     <message>
         <source>Official results and the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Oficiální výsledky a filmy</translation>
     </message>
     <message>
         <source>&amp;Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Převzít</translation>
     </message>
     <message>
         <source>&amp;Show the run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ukázat jízdu</translation>
     </message>
     <message>
         <source>A &amp;file…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Soubor…</translation>
     </message>
     <message>
         <source>Results list</source>
@@ -13545,7 +13545,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Official results</source>
-        <translation type="unfinished"></translation>
+        <translation>Oficiální výsledky</translation>
     </message>
     <message>
         <source>Reading %1…</source>
@@ -13557,26 +13557,26 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>The race carries no results list. Open one with “A file…”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závod nemá výsledkovou listinu. Otevřete ji pomocí „Soubor…“.</translation>
     </message>
     <message>
         <source>The films and this list say the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmy a tato listina říkají totéž.</translation>
     </message>
     <message>
         <source>%1 differences, %2 of them to take over. The films&apos; own times stay; Ctrl+Z in split taking takes a step back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozdílů %1, k převzetí %2. Časy z filmů zůstanou; Ctrl+Z v měření mezičasů vrátí krok zpět.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OnlineDialog</name>
     <message>
         <source>Any server that stores files by WebDAV will do. The password is asked for each time and stored nowhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyhoví každý server, který ukládá soubory přes WebDAV. Na heslo se ptá pokaždé a nikam se neukládá.</translation>
     </message>
     <message>
         <source>&amp;Planning</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Plánování</translation>
     </message>
     <message>
         <source>&amp;Address</source>
@@ -13592,38 +13592,38 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>The settings name no shared planning.</source>
-        <translation type="unfinished"></translation>
+        <translation>V nastavení není žádné sdílené plánování.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OnlinePlanning</name>
     <message>
         <source>Saving the planning online…</source>
-        <translation type="unfinished"></translation>
+        <translation>Plánování se ukládá online…</translation>
     </message>
     <message>
         <source>“%1” is saved online.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ je uloženo online.</translation>
     </message>
     <message>
         <source>“%1” was changed on the server since this planning was read from there or saved there. Saving would lose that change.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ se na serveru změnilo od chvíle, kdy bylo toto plánování odtud načteno nebo tam uloženo. Uložením by se ta změna ztratila.</translation>
     </message>
     <message>
         <source>There is a planning “%1” on the server that this one does not come from. Saving would replace it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na serveru je plánování „%1“, ze kterého toto nepochází. Uložení by ho nahradilo.</translation>
     </message>
     <message>
         <source>Somebody else&apos;s work lies on the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Na serveru leží práce někoho jiného</translation>
     </message>
     <message>
         <source>Look at it</source>
-        <translation type="unfinished"></translation>
+        <translation>Podívat se na ni</translation>
     </message>
     <message>
         <source>Save under another name…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit pod jiným jménem…</translation>
     </message>
     <message>
         <source>Replace it</source>
@@ -13631,23 +13631,23 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Save the planning online</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit plánování online</translation>
     </message>
     <message>
         <source>Name on the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno na serveru</translation>
     </message>
     <message>
         <source>%1 (mine)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (moje)</translation>
     </message>
     <message>
         <source>“%1” cannot be the name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nemůže být jméno souboru.</translation>
     </message>
     <message>
         <source>The server has no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Server takový soubor nemá.</translation>
     </message>
     <message>
         <source>What the server has is no planning.</source>
@@ -13655,102 +13655,102 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>The online planning could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plánování online nelze otevřít.</translation>
     </message>
     <message>
         <source>Open an online planning</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít plánování online</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OnlineSaving</name>
     <message>
         <source>The server changes the planning all the time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Server plánování stále mění.</translation>
     </message>
     <message>
         <source>The server has no such folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Server takovou složku nemá.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OnlineStore</name>
     <message>
         <source>The address is none. It begins with https://.</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresa není platná. Začíná https://.</translation>
     </message>
     <message>
         <source>Only https:// keeps the password and the plan from other readers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen https:// chrání heslo a plán před cizíma očima.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OrderBoard</name>
     <message>
         <source>Order at the gate in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí na brance vpředu</translation>
     </message>
     <message>
         <source>A place up</source>
-        <translation type="unfinished"></translation>
+        <translation>O místo výš</translation>
     </message>
     <message>
         <source>A place down</source>
-        <translation type="unfinished"></translation>
+        <translation>O místo níž</translation>
     </message>
     <message>
         <source>Not seen at this gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Na této brance neviděn(a)</translation>
     </message>
     <message>
         <source>Seen, as the last</source>
-        <translation type="unfinished"></translation>
+        <translation>Viděn(a), poslední</translation>
     </message>
     <message>
         <source>not of this heat</source>
-        <translation type="unfinished"></translation>
+        <translation>není v této rozjížďce</translation>
     </message>
     <message>
         <source>not seen</source>
-        <translation type="unfinished"></translation>
+        <translation>neviděn(a)</translation>
     </message>
     <message>
         <source>%1 won</source>
-        <translation type="unfinished"></translation>
+        <translation>získáno %1</translation>
     </message>
     <message>
         <source>%1 lost</source>
-        <translation type="unfinished"></translation>
+        <translation>ztraceno %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PageView</name>
     <message>
         <source>Pages of the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Strany zprávy</translation>
     </message>
     <message>
         <source>There is nothing to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není co ukázat.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PenaltiesActions</name>
     <message>
         <source>Crews</source>
-        <translation type="unfinished"></translation>
+        <translation>Posádky</translation>
     </message>
     <message>
         <source>&amp;Open split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít soubory mezičasů…</translation>
     </message>
     <message>
         <source>Open a &amp;folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít &amp;složku…</translation>
     </message>
     <message>
         <source>Read &amp;again</source>
-        <translation type="unfinished"></translation>
+        <translation>Načíst &amp;znovu</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
@@ -13762,7 +13762,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit &amp;tabulku jako CSV…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
@@ -13770,43 +13770,43 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ukázat</translation>
     </message>
     <message>
         <source>&amp;Course</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trať</translation>
     </message>
     <message>
         <source>&amp;Rates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Podíly</translation>
     </message>
     <message>
         <source>&amp;Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Po&amp;drobnosti</translation>
     </message>
     <message>
         <source>Cost in &amp;places</source>
-        <translation type="unfinished"></translation>
+        <translation>Cena v &amp;místech</translation>
     </message>
     <message>
         <source>Risk and &amp;speed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Riziko a rychlost</translation>
     </message>
     <message>
         <source>&amp;Next course</source>
-        <translation type="unfinished"></translation>
+        <translation>Další tr&amp;ať</translation>
     </message>
     <message>
         <source>Pre&amp;vious course</source>
-        <translation type="unfinished"></translation>
+        <translation>Před&amp;chozí trať</translation>
     </message>
     <message>
         <source>&amp;All runs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Všechny jízdy</translation>
     </message>
     <message>
         <source>The &amp;whole chart</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Celý graf</translation>
     </message>
 </context>
 <context>
@@ -13817,15 +13817,15 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Drop split files (.kvx) or a folder of them here</source>
-        <translation type="unfinished"></translation>
+        <translation>Přetáhněte sem soubory mezičasů (.kvx) nebo jejich složku</translation>
     </message>
     <message>
         <source>Open split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít soubory mezičasů…</translation>
     </message>
     <message>
         <source>Open a folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít složku…</translation>
     </message>
     <message>
         <source>Course</source>
@@ -13833,15 +13833,15 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Rates</source>
-        <translation type="unfinished"></translation>
+        <translation>Podíly</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Podrobnosti</translation>
     </message>
     <message>
         <source>Cost in places</source>
-        <translation type="unfinished"></translation>
+        <translation>Cena v místech</translation>
     </message>
     <message>
         <source>Risk and speed</source>
@@ -13861,11 +13861,11 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Open a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít složku</translation>
     </message>
     <message>
         <source>Which gates are touched and missed, by whom, and what it cost: of one race, of several, or of a whole season. Files are only read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na kterých brankách se ťuká a které se nejedou, kdo a co to stálo: z jednoho závodu, z několika nebo z celé sezóny. Soubory se jen čtou.</translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -13873,7 +13873,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>There is no split file (.kvx) here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není zde soubor mezičasů (.kvx).</translation>
     </message>
     <message>
         <source>1 file</source>
@@ -13916,11 +13916,11 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Cre&amp;w</source>
-        <translation type="unfinished"></translation>
+        <translation>Po&amp;sádka</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Vše</translation>
     </message>
 </context>
 <context>
@@ -13935,31 +13935,31 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Pole</source>
-        <translation type="unfinished"></translation>
+        <translation>Tyč</translation>
     </message>
     <message>
         <source>With</source>
-        <translation type="unfinished"></translation>
+        <translation>Čím</translation>
     </message>
     <message>
         <source>Another at this gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Další na této brance</translation>
     </message>
     <message>
         <source>Choose what else happened at the gate in front; M adds it</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolte, co se na brance vpředu ještě stalo; M to přidá</translation>
     </message>
     <message>
         <source>Moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Okamžik</translation>
     </message>
     <message>
         <source>Gate is</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka je</translation>
     </message>
     <message>
         <source>Boat moves</source>
-        <translation type="unfinished"></translation>
+        <translation>Loď se pohybuje</translation>
     </message>
     <message>
         <source>Style</source>
@@ -13967,27 +13967,27 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Eyes</source>
-        <translation type="unfinished"></translation>
+        <translation>Oči</translation>
     </message>
     <message>
         <source>Gate %1: %2 s. The lists change its penalty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1: %2 s. Seznamy mění její penalizaci.</translation>
     </message>
     <message>
         <source>Gate %1: %2 s. M adds a penalty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1: %2 s. M přidá penalizaci.</translation>
     </message>
     <message>
         <source>The seconds differ from the penalties listed at gate %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy se liší od penalizací vypsaných u branky %1.</translation>
     </message>
     <message>
         <source>The course has no gates yet: Ctrl+G sets it up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trať zatím nemá branky: nastaví je Ctrl+G.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; begins a second one.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ začne druhou.</translation>
     </message>
     <message>
         <source>penalty at gate %1</source>
@@ -13995,7 +13995,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>penalty removed</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizace odstraněna</translation>
     </message>
 </context>
 <context>
@@ -14010,7 +14010,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>time</source>
-        <translation type="unfinished"></translation>
+        <translation>čas</translation>
     </message>
     <message>
         <source>Penalty</source>
@@ -14038,7 +14038,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Enter a time or a position first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív zadejte čas nebo pořadí.</translation>
     </message>
     <message>
         <source>date</source>
@@ -14050,7 +14050,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Known where the run was taken over from a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Známo tam, kde byla jízda převzata ze souboru mezičasů</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -14058,22 +14058,22 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>removal of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění jízdy</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PhonePageDialog</name>
     <message>
         <source>&amp;Cut the runs out of their films</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vystřihnout jízdy z filmů</translation>
     </message>
     <message>
         <source>Page for an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Stránka pro závodníka</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uložit…</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
@@ -14085,26 +14085,26 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>One file for the telephone, of one race as it was last saved. Films lie in the folder beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden soubor do telefonu, z jednoho závodu, jak byl naposled uložen. Filmy leží ve složce vedle něj.</translation>
     </message>
     <message>
         <source>One file for the telephone, the season of %1 files as they were last saved. Films lie in the folder beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden soubor do telefonu, sezóna ze souborů (%1), jak byly naposled uloženy. Filmy leží ve složce vedle něj.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PhonePages</name>
     <message>
         <source>No clip of %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez klipu: %1: %2</translation>
     </message>
     <message>
         <source>Save the page of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit stránku: %1</translation>
     </message>
     <message>
         <source>Pages (*.html *.htm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Stránky (*.html *.htm)</translation>
     </message>
     <message>
         <source>The page cannot be written over a race that it is made from.</source>
@@ -14112,11 +14112,11 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Making the page…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytváří se stránka…</translation>
     </message>
     <message>
         <source>Page for an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Stránka pro závodníka</translation>
     </message>
     <message>
         <source>%1 is written.</source>
@@ -14128,22 +14128,22 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Show in &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat ve &amp;složce</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PivotDialog</name>
     <message>
         <source>Pivot</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontingenční tabulka</translation>
     </message>
     <message>
         <source>one column for all</source>
-        <translation type="unfinished"></translation>
+        <translation>jeden sloupec pro vše</translation>
     </message>
     <message>
         <source>How many</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolik</translation>
     </message>
     <message>
         <source>Sum</source>
@@ -14151,7 +14151,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Průměr</translation>
     </message>
     <message>
         <source>Median</source>
@@ -14167,30 +14167,30 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Make</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytvořit</translation>
     </message>
     <message>
         <source>A &amp;row for each</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Řádek pro každé</translation>
     </message>
     <message>
         <source>A &amp;column for each</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sloupec pro každé</translation>
     </message>
     <message>
         <source>&amp;Of</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Z</translation>
     </message>
     <message>
         <source>&amp;Tell</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uvést</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PlaceGrid</name>
     <message>
         <source>Places at the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Místa na brankách</translation>
     </message>
     <message>
         <source>Gate %1</source>
@@ -14198,74 +14198,74 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>, which is not on the cross course</source>
-        <translation type="unfinished"></translation>
+        <translation>, která na trati crossu není</translation>
     </message>
     <message>
         <source>, replaced by a later order</source>
-        <translation type="unfinished"></translation>
+        <translation>, nahrazeno pozdějším pořadím</translation>
     </message>
     <message>
         <source>No order yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím žádné pořadí.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PlanView</name>
     <message>
         <source>The week&apos;s date is in no calendar, so that it has no days.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum týdne není v žádném kalendáři, proto týden nemá dny.</translation>
     </message>
     <message>
         <source>new session</source>
-        <translation type="unfinished"></translation>
+        <translation>nová jednotka</translation>
     </message>
     <message>
         <source>session</source>
-        <translation type="unfinished"></translation>
+        <translation>jednotka</translation>
     </message>
     <message>
         <source>removal of a session</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění jednotky</translation>
     </message>
     <message>
         <source>copied session</source>
-        <translation type="unfinished"></translation>
+        <translation>zkopírovaná jednotka</translation>
     </message>
     <message>
         <source>move of a session</source>
-        <translation type="unfinished"></translation>
+        <translation>přesun jednotky</translation>
     </message>
     <message>
         <source>There is no week there in this season.</source>
-        <translation type="unfinished"></translation>
+        <translation>V této sezóně tam žádný týden není.</translation>
     </message>
     <message>
         <source>Week %1 is copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Týden %1 je zkopírován.</translation>
     </message>
     <message>
         <source>One of the two weeks has a date that is in no calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden z obou týdnů má datum, které není v žádném kalendáři.</translation>
     </message>
     <message>
         <source>copy of a week</source>
-        <translation type="unfinished"></translation>
+        <translation>kopie týdne</translation>
     </message>
     <message>
         <source>Week %1 now holds the copied week; %2 sessions that stood there went. Ctrl+Z brings them back.</source>
-        <translation type="unfinished"></translation>
+        <translation>V týdnu %1 je teď zkopírovaný týden; jednotek, které tam byly a zmizely: %2. Ctrl+Z je vrátí.</translation>
     </message>
     <message>
         <source>repeated weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>opakované týdny</translation>
     </message>
     <message>
         <source>%1 weeks were written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapsáno týdnů: %1.</translation>
     </message>
     <message>
         <source>There is no week behind the chosen ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Za zvolenými týdny už žádný není.</translation>
     </message>
     <message>
         <source>Repeat</source>
@@ -14274,63 +14274,64 @@ Bez penalizací.</translation>
     <message>
         <source>How often do the %1 chosen weeks follow themselves?
 Sessions, totals, load, cycles, place, tests and goals of the weeks behind are replaced; their events and health stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolikrát se mají zvolené týdny (%1) opakovat za sebou?
+Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů se nahradí; jejich akce a zdraví zůstanou.</translation>
     </message>
     <message>
         <source>emptied weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>vyprázdněné týdny</translation>
     </message>
     <message>
         <source>planned totals</source>
-        <translation type="unfinished"></translation>
+        <translation>plánované součty</translation>
     </message>
     <message>
         <source>new week</source>
-        <translation type="unfinished"></translation>
+        <translation>nový týden</translation>
     </message>
     <message>
         <source>removal of the last week</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění posledního týdne</translation>
     </message>
     <message>
         <source>Totals of the week</source>
-        <translation type="unfinished"></translation>
+        <translation>Součty týdne</translation>
     </message>
     <message>
         <source>Totals of the chosen weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>Součty zvolených týdnů</translation>
     </message>
     <message>
         <source>Totals of the mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Součty mezocyklu</translation>
     </message>
     <message>
         <source>Totals of the season</source>
-        <translation type="unfinished"></translation>
+        <translation>Součty sezóny</translation>
     </message>
     <message>
         <source>planned sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>plánované jednotky</translation>
     </message>
     <message>
         <source>planned quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>plánované množství</translation>
     </message>
     <message>
         <source>Add an athlete with Ctrl+N to begin a plan.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plán začněte přidáním závodníka pomocí Ctrl+N.</translation>
     </message>
     <message>
         <source>Add a season with Ctrl+Shift+N: 52 empty weeks to fill.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidejte sezónu pomocí Ctrl+Shift+N: 52 prázdných týdnů k naplnění.</translation>
     </message>
     <message>
         <source>This season has no weeks. Add one with the menu Week.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato sezóna nemá týdny. Přidejte týden nabídkou Týden.</translation>
     </message>
     <message>
         <source>This season has no week of today.</source>
-        <translation type="unfinished"></translation>
+        <translation>V této sezóně není dnešní týden.</translation>
     </message>
 </context>
 <context>
@@ -14341,19 +14342,19 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Picture…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Obrázek…</translation>
     </message>
     <message>
         <source>&amp;No picture</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bez obrázku</translation>
     </message>
     <message>
         <source>Picture of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrázek závodníka</translation>
     </message>
     <message>
         <source>Pictures (*.png *.jpg *.jpeg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrázky (*.png *.jpg *.jpeg)</translation>
     </message>
     <message>
         <source>&amp;Name</source>
@@ -14361,45 +14362,45 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kategorie</translation>
     </message>
     <message>
         <source>&amp;E-mail</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;E-mail</translation>
     </message>
     <message>
         <source>P&amp;hone</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Telefon</translation>
     </message>
     <message>
         <source>The file is no picture, cannot be read, or is larger than 8 MB.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor není obrázek, nelze ho přečíst, nebo je větší než 8 MB.</translation>
     </message>
     <message>
         <source>The athlete needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník potřebuje jméno.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PlanningDocument</name>
     <message>
         <source>online planning</source>
-        <translation type="unfinished"></translation>
+        <translation>plánování online</translation>
     </message>
     <message>
         <source>The planning “%1” will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plánování „%1“ bude nahrazeno.</translation>
     </message>
     <message>
         <source>1 athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>1 závodník</translation>
     </message>
     <message numerus="yes">
         <source>%n athletes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n závodník</numerusform>
+            <numerusform>%n závodníci</numerusform>
+            <numerusform>%n závodníků</numerusform>
         </translation>
     </message>
 </context>
@@ -14415,11 +14416,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Edit the athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Upravit závodníka…</translation>
     </message>
     <message>
         <source>&amp;Remove the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstranit závodníka</translation>
     </message>
     <message>
         <source>New &amp;season</source>
@@ -14427,87 +14428,87 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Remove the s&amp;eason</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit s&amp;ezónu</translation>
     </message>
     <message>
         <source>&amp;Session</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jednotka</translation>
     </message>
     <message>
         <source>Sessions are in the plan: show &amp;it</source>
-        <translation type="unfinished"></translation>
+        <translation>Jednotky jsou v plánu: &amp;ukázat</translation>
     </message>
     <message>
         <source>&amp;New session…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nová jednotka…</translation>
     </message>
     <message>
         <source>&amp;Edit the session…</source>
-        <translation type="unfinished"></translation>
+        <translation>Upr&amp;avit jednotku…</translation>
     </message>
     <message>
         <source>&amp;Remove the session</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstranit jednotku</translation>
     </message>
     <message>
         <source>&amp;Copy the session</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopírovat jednotku</translation>
     </message>
     <message>
         <source>&amp;Paste the session</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vložit jednotku</translation>
     </message>
     <message>
         <source>Move to the week &amp;before</source>
-        <translation type="unfinished"></translation>
+        <translation>Přesunout do &amp;předchozího týdne</translation>
     </message>
     <message>
         <source>Move to the week be&amp;hind</source>
-        <translation type="unfinished"></translation>
+        <translation>Přesunout do &amp;dalšího týdne</translation>
     </message>
     <message>
         <source>&amp;Week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Týden</translation>
     </message>
     <message>
         <source>&amp;Previous week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Předchozí týden</translation>
     </message>
     <message>
         <source>&amp;Next week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Další týden</translation>
     </message>
     <message>
         <source>&amp;This week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tento týden</translation>
     </message>
     <message>
         <source>&amp;Copy the week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopírovat týden</translation>
     </message>
     <message>
         <source>Paste the &amp;week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vložit týden</translation>
     </message>
     <message>
         <source>&amp;Repeat the chosen weeks…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Opakovat zvolené týdny…</translation>
     </message>
     <message>
         <source>&amp;Empty the chosen weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyp&amp;rázdnit zvolené týdny</translation>
     </message>
     <message>
         <source>P&amp;lan what is in the sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;aplánovat, co je v jednotkách</translation>
     </message>
     <message>
         <source>&amp;Add a week at the end</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat týden na ko&amp;nec</translation>
     </message>
     <message>
         <source>Re&amp;move the last week</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit posl&amp;ední týden</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -14519,23 +14520,23 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zprávy: náhled, PDF, tisk…</translation>
     </message>
     <message>
         <source>Week as a &amp;calendar file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Týden jako soubor kale&amp;ndáře…</translation>
     </message>
     <message>
         <source>Import heart-rate &amp;variability…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat variabilitu &amp;tepu…</translation>
     </message>
     <message>
         <source>Open an o&amp;nline planning…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít plánování on&amp;line…</translation>
     </message>
     <message>
         <source>Sa&amp;ve online…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit on&amp;line…</translation>
     </message>
     <message>
         <source>Athletes</source>
@@ -14547,35 +14548,35 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Plan</source>
-        <translation type="unfinished"></translation>
+        <translation>Plán</translation>
     </message>
     <message>
         <source>Goals</source>
-        <translation type="unfinished"></translation>
+        <translation>Cíle</translation>
     </message>
     <message>
         <source>Body and heart</source>
-        <translation type="unfinished"></translation>
+        <translation>Tělo a srdce</translation>
     </message>
     <message>
         <source>Gym</source>
-        <translation type="unfinished"></translation>
+        <translation>Posilovna</translation>
     </message>
     <message>
         <source>Ranking and races</source>
-        <translation type="unfinished"></translation>
+        <translation>Žebříček a závody</translation>
     </message>
     <message>
         <source>Interval sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalové jednotky</translation>
     </message>
     <message>
         <source>%1 measurements of heart-rate variability of this older file hold only a highest and a lowest value, for which the present version has no place: their dates are taken over, their values are not. Saving keeps the file as it was beside the new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Některá měření variability tepové frekvence tohoto staršího souboru (počet: %1) mají jen nejvyšší a nejnižší hodnotu, pro které současná verze nemá místo: jejich data se převezmou, hodnoty ne. Ukládání uchová soubor, jak byl, vedle nového.</translation>
     </message>
     <message>
         <source>new athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>nový závodník</translation>
     </message>
     <message>
         <source>athlete</source>
@@ -14583,11 +14584,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>removal of an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění závodníka</translation>
     </message>
     <message>
         <source>Add an athlete first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív přidejte závodníka.</translation>
     </message>
     <message>
         <source>new season</source>
@@ -14681,50 +14682,50 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::PlotInteraction</name>
     <message>
         <source>Show everything</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat vše</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Přiblížit</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Oddálit</translation>
     </message>
     <message>
         <source>Show all series</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat všechny řady</translation>
     </message>
     <message>
         <source>Copy the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopírovat obrázek</translation>
     </message>
     <message>
         <source>Copy the values</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopírovat hodnoty</translation>
     </message>
     <message>
         <source>Save as picture (PNG)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit jako obrázek (PNG)…</translation>
     </message>
     <message>
         <source>Save as drawing (SVG)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit jako kresbu (SVG)…</translation>
     </message>
     <message>
         <source>Save as table (CSV)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit jako tabulku (CSV)…</translation>
     </message>
     <message>
         <source>The chart was not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Graf nebyl uložen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PotentialPanel</name>
     <message>
         <source>The best of every own section put together, without penalties. What is left is how far the best run is from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejlepší z každého vlastního úseku dohromady, bez penalizací. Zbývá to, oč je nejlepší jízda horší.</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -14732,7 +14733,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Potential</source>
-        <translation type="unfinished"></translation>
+        <translation>Potenciál</translation>
     </message>
     <message>
         <source>Best run</source>
@@ -14751,7 +14752,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Why it is refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Proč je odmítnut</translation>
     </message>
     <message>
         <source>Import power-meter data</source>
@@ -14759,15 +14760,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Samples: %1. Lines refused: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzorky: %1. Odmítnuté řádky: %2.</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"></translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>It &amp;begins after the session&apos;s start by</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Začíná po startu jednotky o</translation>
     </message>
     <message>
         <source>Import</source>
@@ -14775,42 +14776,42 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>%1 of them lie in the session, which lasts %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>V jednotce, která trvá %2, jich leží %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ProgressionPanel</name>
     <message>
         <source>Behind the winners</source>
-        <translation type="unfinished"></translation>
+        <translation>Za vítězi</translation>
     </message>
     <message>
         <source>Behind the fastest splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Za nejrychlejšími mezičasy</translation>
     </message>
     <message>
         <source>Behind whom</source>
-        <translation type="unfinished"></translation>
+        <translation>Za kým</translation>
     </message>
     <message>
         <source>The winners&apos; totals have penalties in them, the fastest splits have not</source>
-        <translation type="unfinished"></translation>
+        <translation>V časech vítězů penalizace jsou, v nejrychlejších mezičasech ne</translation>
     </message>
     <message>
         <source>The team has no race of this athlete in these years.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tým nemá v těchto letech žádný závod tohoto závodníka.</translation>
     </message>
     <message>
         <source>Open the &amp;winner&apos;s run</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít jízdu &amp;vítěze</translation>
     </message>
     <message>
         <source>In split taking, where a split file has the run</source>
-        <translation type="unfinished"></translation>
+        <translation>V měření mezičasů, kde jízdu má soubor mezičasů</translation>
     </message>
     <message>
         <source>With a missed gate: left out of spread, trend and changes</source>
-        <translation type="unfinished"></translation>
+        <translation>S neprojetou brankou: nepočítá se do rozptylu, trendu a změn</translation>
     </message>
     <message>
         <source>Year</source>
@@ -14830,7 +14831,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>Den</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -14842,11 +14843,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Winner&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>Vítězův</translation>
     </message>
     <message>
         <source>Winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Vítěz</translation>
     </message>
     <message>
         <source>not known</source>
@@ -14858,7 +14859,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>On splits, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Na mezičasech, %</translation>
     </message>
     <message>
         <source>Result</source>
@@ -14866,7 +14867,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>The way of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cesta: %1</translation>
     </message>
     <message>
         <source>Behind the winner, %</source>
@@ -14874,7 +14875,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Behind the fastest splits, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Za nejrychlejšími mezičasy, %</translation>
     </message>
     <message>
         <source>Heats</source>
@@ -14886,11 +14887,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Semifinal</source>
-        <translation type="unfinished"></translation>
+        <translation>Semifinále</translation>
     </message>
     <message>
         <source>Other runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostatní jízdy</translation>
     </message>
     <message>
         <source>Percent</source>
@@ -14898,22 +14899,22 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Missed gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojetá branka</translation>
     </message>
     <message>
         <source>3rd of finals, median</source>
-        <translation type="unfinished"></translation>
+        <translation>3. z finále, medián</translation>
     </message>
     <message>
         <source>A run with a missed gate stands in the table alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda s neprojetou brankou je jen v tabulce.</translation>
     </message>
     <message numerus="yes">
         <source>%n runs with a missed gate stand in the table alone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n jízda s neprojetou brankou je jen v tabulce.</numerusform>
+            <numerusform>%n jízdy s neprojetou brankou jsou jen v tabulce.</numerusform>
+            <numerusform>%n jízd s neprojetou brankou je jen v tabulce.</numerusform>
         </translation>
     </message>
 </context>
@@ -14921,85 +14922,85 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::QueryEdit</name>
     <message>
         <source>Query</source>
-        <translation type="unfinished"></translation>
+        <translation>Dotaz</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::QueryFault</name>
     <message>
         <source>%1 (at letter %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (u písmene %2)</translation>
     </message>
     <message>
         <source>Writes “%1” there</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapíše tam „%1“</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::QueryForm</name>
     <message>
         <source>Fi&amp;nd</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Najít</translation>
     </message>
     <message>
         <source>Words that its words begin with; a whole name in quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>Slova, jimiž začínají jeho slova; celé jméno v uvozovkách</translation>
     </message>
     <message>
         <source>Seconds, or 1:32.45; %1 in front leaves out the limit itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy, nebo 1:32.45; %1 před nimi vynechá samotnou mez</translation>
     </message>
     <message>
         <source>At l&amp;east</source>
-        <translation type="unfinished"></translation>
+        <translation>N&amp;ejméně</translation>
     </message>
     <message>
         <source>no limit</source>
-        <translation type="unfinished"></translation>
+        <translation>bez meze</translation>
     </message>
     <message>
         <source>At &amp;most</source>
-        <translation type="unfinished"></translation>
+        <translation>Nej&amp;výše</translation>
     </message>
     <message>
         <source>G&amp;roups by</source>
-        <translation type="unfinished"></translation>
+        <translation>Sk&amp;upiny podle</translation>
     </message>
     <message>
         <source>Up to three columns with commas between them</source>
-        <translation type="unfinished"></translation>
+        <translation>Až tři sloupce oddělené čárkami</translation>
     </message>
     <message>
         <source>no groups</source>
-        <translation type="unfinished"></translation>
+        <translation>žádné skupiny</translation>
     </message>
     <message>
         <source>&amp;Best</source>
-        <translation type="unfinished"></translation>
+        <translation>Nej&amp;lepší</translation>
     </message>
     <message>
         <source>all</source>
-        <translation type="unfinished"></translation>
+        <translation>vše</translation>
     </message>
     <message>
         <source>S&amp;ort by</source>
-        <translation type="unfinished"></translation>
+        <translation>Ř&amp;adit podle</translation>
     </message>
     <message>
         <source>as found</source>
-        <translation type="unfinished"></translation>
+        <translation>jak nalezeno</translation>
     </message>
     <message>
         <source>From the largest do&amp;wn</source>
-        <translation type="unfinished"></translation>
+        <translation>Od ne&amp;jvětšího dolů</translation>
     </message>
     <message>
         <source>Only the f&amp;irst</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen &amp;prvních</translation>
     </message>
     <message>
         <source>Near it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Podobné: %1</translation>
     </message>
 </context>
 <context>
@@ -15379,23 +15380,23 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RadioBox</name>
     <message>
         <source>Team radio</source>
-        <translation type="unfinished"></translation>
+        <translation>Týmová vysílačka</translation>
     </message>
     <message>
         <source>Records what you say about the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Nahraje, co říkáte o jízdě</translation>
     </message>
     <message>
         <source>Plays the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehraje nahrávku</translation>
     </message>
     <message>
         <source>Attach…</source>
-        <translation type="unfinished"></translation>
+        <translation>Připojit…</translation>
     </message>
     <message>
         <source>Takes a sound file into the split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Vezme zvukový soubor do souboru mezičasů</translation>
     </message>
     <message>
         <source>Save as…</source>
@@ -15403,15 +15404,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Writes the recording into a file of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapíše nahrávku do vlastního souboru</translation>
     </message>
     <message>
         <source>Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Dříve</translation>
     </message>
     <message>
         <source>Moves the recording up</source>
-        <translation type="unfinished"></translation>
+        <translation>Posune nahrávku výš</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -15419,19 +15420,19 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Takes the recording out of the split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyjme nahrávku ze souboru mezičasů</translation>
     </message>
     <message>
         <source>%1 · %2, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2, %3</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Zastavit</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Nahrát</translation>
     </message>
     <message>
         <source>Play</source>
@@ -15439,35 +15440,35 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Recording, %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Nahrává se, %1 s</translation>
     </message>
     <message>
         <source>Record what you say to the athlete, or attach a voice message.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nahrajte, co závodníkovi říkáte, nebo připojte hlasovou zprávu.</translation>
     </message>
     <message>
         <source>This computer has no microphone that can be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento počítač nemá použitelný mikrofon.</translation>
     </message>
     <message>
         <source>The microphone gave no sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mikrofon nedal žádný zvuk.</translation>
     </message>
     <message>
         <source>Attach a recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Připojit nahrávku</translation>
     </message>
     <message>
         <source>Sounds (*.m4a *.mp3 *.wav *.aiff *.aif *.caf *.ogg *.opus *.flac *.aac *.amr);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvuky (*.m4a *.mp3 *.wav *.aiff *.aif *.caf *.ogg *.opus *.flac *.aac *.amr);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>%1 has %2: recordings up to %3 can be kept in a split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 má %2: v souboru mezičasů lze uchovat nahrávky do %3.</translation>
     </message>
     <message>
         <source>%1 cannot be played: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nelze přehrát: %2</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -15475,53 +15476,53 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Recording %1 cannot be played: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Nahrávku %1 nelze přehrát: %2</translation>
     </message>
     <message>
         <source>recording %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nahrávka %1</translation>
     </message>
     <message>
         <source>Save the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit nahrávku</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RangeLine</name>
     <message>
         <source>Click to go there. Drag the ends of the coloured part to choose what the film shows; near a split they take it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknutím se tam přejde. Tažením konců barevné části zvolíte, co film ukáže; poblíž mezičasu se na něj přichytí.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RankingModel</name>
     <message>
         <source>%1 (was %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (bylo %2)</translation>
     </message>
     <message>
         <source>was %1, now %2</source>
-        <translation type="unfinished"></translation>
+        <translation>bylo %1, nyní %2</translation>
     </message>
     <message>
         <source>A time of 0 counts as the formula says and puts the athlete far in front. Edit &gt; Make times of 0 missing results.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas 0 se počítá, jak říká vzorec, a posune závodníka daleko dopředu. Úpravy &gt; Z časů 0 udělat chybějící výsledky.</translation>
     </message>
     <message>
         <source>Dropped: the worst result</source>
-        <translation type="unfinished"></translation>
+        <translation>Škrtnuto: nejhorší výsledek</translation>
     </message>
     <message>
         <source>Dropped too: a bonus stands among the results</source>
-        <translation type="unfinished"></translation>
+        <translation>Také škrtnuto: mezi výsledky je bonus</translation>
     </message>
     <message>
         <source>Counted</source>
-        <translation type="unfinished"></translation>
+        <translation>Počítá se</translation>
     </message>
     <message>
         <source>#</source>
-        <translation type="unfinished"></translation>
+        <translation>#</translation>
     </message>
     <message>
         <source>SURNAME Name</source>
@@ -15533,7 +15534,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus</translation>
     </message>
     <message>
         <source>Year</source>
@@ -15541,11 +15542,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Club</source>
-        <translation type="unfinished"></translation>
+        <translation>Klub</translation>
     </message>
     <message>
         <source>Pre</source>
-        <translation type="unfinished"></translation>
+        <translation>Předv.</translation>
     </message>
     <message>
         <source>correction</source>
@@ -15553,7 +15554,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pen.</translation>
     </message>
     <message>
         <source>%</source>
@@ -15561,15 +15562,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Tried only. Really: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen zkouška. Ve skutečnosti: %1</translation>
     </message>
     <message>
         <source>no result</source>
-        <translation type="unfinished"></translation>
+        <translation>bez výsledku</translation>
     </message>
     <message>
         <source>Enter the time first: the penalty belongs to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív zadejte čas: penalizace k němu patří.</translation>
     </message>
     <message>
         <source>penalty</source>
@@ -15577,26 +15578,26 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>result removed</source>
-        <translation type="unfinished"></translation>
+        <translation>výsledek odstraněn</translation>
     </message>
     <message>
         <source>result</source>
-        <translation type="unfinished"></translation>
+        <translation>výsledek</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RankingPanel</name>
     <message>
         <source>entry of the ranking list</source>
-        <translation type="unfinished"></translation>
+        <translation>údaj žebříčku</translation>
     </message>
     <message>
         <source>removal from the ranking list</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění ze žebříčku</translation>
     </message>
     <message>
         <source>Take the season&apos;s statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít statistiku sezóny</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -15604,34 +15605,34 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>There is no split file in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není v tom žádný soubor mezičasů.</translation>
     </message>
     <message>
         <source>Reading split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Čtou se soubory mezičasů…</translation>
     </message>
     <message>
         <source>season statistics from split files</source>
-        <translation type="unfinished"></translation>
+        <translation>statistika sezóny ze souborů mezičasů</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RankingSection</name>
     <message>
         <source>Add a release</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat vydání</translation>
     </message>
     <message>
         <source>Remove the release</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit vydání</translation>
     </message>
     <message>
         <source>Ranking list</source>
-        <translation type="unfinished"></translation>
+        <translation>Žebříček</translation>
     </message>
     <message>
         <source>Add release</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat vydání</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -15658,7 +15659,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Runs that came past</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízdy, které tudy projely</translation>
     </message>
     <message>
         <source>Touches</source>
@@ -15666,11 +15667,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Rate %</source>
-        <translation type="unfinished"></translation>
+        <translation>Podíl %</translation>
     </message>
     <message>
         <source>Touches of 100 passages</source>
-        <translation type="unfinished"></translation>
+        <translation>Ťuky na 100 průjezdů</translation>
     </message>
     <message>
         <source>90 %</source>
@@ -15678,31 +15679,31 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Where the rate lies with 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde podíl leží s 90 %</translation>
     </message>
     <message>
         <source>Ranked %</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyhlaz. %</translation>
     </message>
     <message>
         <source>Drawn towards what all have in common, the more the fewer the passages</source>
-        <translation type="unfinished"></translation>
+        <translation>Přitažen k tomu, co mají všechny společné, tím víc, čím méně je průjezdů</translation>
     </message>
     <message>
         <source>Ranked 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyhlaz. 90 %</translation>
     </message>
     <message>
         <source>Where the ranked rate lies</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde leží vyhlazený podíl</translation>
     </message>
     <message>
         <source>Above %</source>
-        <translation type="unfinished"></translation>
+        <translation>Nad %</translation>
     </message>
     <message>
         <source>The chance to be above what all have in common; from 95 the row is bold</source>
-        <translation type="unfinished"></translation>
+        <translation>Pravděpodobnost, že je nad společnou hodnotou; od 95 je řádek tučně</translation>
     </message>
     <message>
         <source>Missed</source>
@@ -15714,19 +15715,19 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Missed %</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojeté %</translation>
     </message>
     <message>
         <source>Missed 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojeté 90 %</translation>
     </message>
     <message>
         <source>&amp;Rates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Podíly</translation>
     </message>
     <message>
         <source>No run that is asked for has its penalties by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná z hledaných jízd nemá penalizace po brankách.</translation>
     </message>
 </context>
 <context>
@@ -15737,7 +15738,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>%1 of %2 files</source>
-        <translation type="unfinished"></translation>
+        <translation>soubory: %1 z %2</translation>
     </message>
 </context>
 <context>
@@ -15751,43 +15752,43 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RecordingDialog</name>
     <message>
         <source>The film begins %1 after the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Film začíná %1 po záznamu.</translation>
     </message>
     <message>
         <source>The film begins %1 before the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Film začíná %1 před záznamem.</translation>
     </message>
     <message>
         <source>Its clock gains %1 s in 100 s, which is taken out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeho hodiny se předbíhají o %1 s za 100 s; to se opraví.</translation>
     </message>
     <message>
         <source>The recording is of another athlete and another day.</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznam je jiného závodníka a z jiného dne.</translation>
     </message>
     <message>
         <source>The recording is of another athlete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznam je jiného závodníka.</translation>
     </message>
     <message>
         <source>The recording is of another day.</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznam je z jiného dne.</translation>
     </message>
     <message>
         <source>Recording of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznam jízdy</translation>
     </message>
     <message>
         <source>Choose a &amp;recording…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat &amp;záznam…</translation>
     </message>
     <message>
         <source>&amp;Attach the part of this run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Připojit část této jízdy</translation>
     </message>
     <message>
         <source>Take o&amp;ff what is attached</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odpojit, co je připojeno</translation>
     </message>
     <message>
         <source>Close</source>
@@ -15795,31 +15796,31 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Common moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Společný okamžik</translation>
     </message>
     <message>
         <source>A later one, against drift</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozdější, proti rozcházení</translation>
     </message>
     <message>
         <source>From the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Z filmu</translation>
     </message>
     <message>
         <source>From the chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Z grafu</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Vymazat</translation>
     </message>
     <message>
         <source>film %1</source>
-        <translation type="unfinished"></translation>
+        <translation>film %1</translation>
     </message>
     <message>
         <source>recording %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nahrávka %1</translation>
     </message>
     <message>
         <source>Reading %1…</source>
@@ -15831,66 +15832,66 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>No recording yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím bez záznamu</translation>
     </message>
     <message>
         <source>Choose the recording (.kvb) of the run, or drop it here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte záznam (.kvb) jízdy, nebo ho sem přetáhněte.</translation>
     </message>
     <message>
         <source>The boat&apos;s acceleration stands here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zde bude zrychlení lodi.</translation>
     </message>
     <message>
         <source>Find a moment that film and recording both show, such as the first stroke or a hit on the boat: go there in the film, click it in the chart, and set both.</source>
-        <translation type="unfinished"></translation>
+        <translation>Najděte okamžik, který ukazuje film i záznam, třeba první záběr nebo náraz do lodi: přejděte tam ve filmu, klikněte na něj v grafu a nastavte obojí.</translation>
     </message>
     <message>
         <source>Forward acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrychlení vpřed</translation>
     </message>
     <message>
         <source>Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrychlení</translation>
     </message>
     <message>
         <source>Yaw rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost otáčení</translation>
     </message>
     <message>
         <source>film –</source>
-        <translation type="unfinished"></translation>
+        <translation>film –</translation>
     </message>
     <message>
         <source>recording –</source>
-        <translation type="unfinished"></translation>
+        <translation>záznam –</translation>
     </message>
     <message>
         <source>The run has to be marked first: its start and its splits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda musí být nejdřív označena: její start a mezičasy.</translation>
     </message>
     <message>
         <source>Recording: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznam: %1</translation>
     </message>
     <message>
         <source>Run: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda: %1</translation>
     </message>
     <message>
         <source>Nothing of the recording lies within the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic ze záznamu neleží v jízdě.</translation>
     </message>
     <message>
         <source>The part of %1 is attached.</source>
-        <translation type="unfinished"></translation>
+        <translation>Připojena část: %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RecordingList</name>
     <message>
         <source>%1 a second</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 za sekundu</translation>
     </message>
     <message>
         <source>position</source>
@@ -15898,31 +15899,31 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>no position</source>
-        <translation type="unfinished"></translation>
+        <translation>bez polohy</translation>
     </message>
     <message>
         <source>heart</source>
-        <translation type="unfinished"></translation>
+        <translation>srdce</translation>
     </message>
     <message>
         <source>no heart</source>
-        <translation type="unfinished"></translation>
+        <translation>bez srdce</translation>
     </message>
     <message>
         <source>watch</source>
-        <translation type="unfinished"></translation>
+        <translation>hodinky</translation>
     </message>
     <message>
         <source>no watch</source>
-        <translation type="unfinished"></translation>
+        <translation>bez hodinek</translation>
     </message>
     <message>
         <source>looking for strokes…</source>
-        <translation type="unfinished"></translation>
+        <translation>hledají se záběry…</translation>
     </message>
     <message>
         <source>%1 strokes, %2 turns</source>
-        <translation type="unfinished"></translation>
+        <translation>záběrů %1, obratů %2</translation>
     </message>
     <message>
         <source>side unknown</source>
@@ -15937,23 +15938,23 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RecordingOfRun</name>
     <message>
         <source>recording</source>
-        <translation type="unfinished"></translation>
+        <translation>záznam</translation>
     </message>
     <message>
         <source>recording taken off</source>
-        <translation type="unfinished"></translation>
+        <translation>záznam odpojen</translation>
     </message>
     <message>
         <source>Attach it all the same</source>
-        <translation type="unfinished"></translation>
+        <translation>Přesto připojit</translation>
     </message>
     <message>
         <source>Recording of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznam jízdy</translation>
     </message>
     <message>
         <source>Recordings (*.kvb);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznamy (*.kvb);;Všechny soubory (*)</translation>
     </message>
 </context>
 <context>
@@ -15964,11 +15965,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Later b&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>Později &amp;o</translation>
     </message>
     <message>
         <source>Drag a curve with Shift, or press A, to move it in time</source>
-        <translation type="unfinished"></translation>
+        <translation>Křivku posunete v čase tažením se Shift, nebo stiskem A</translation>
     </message>
     <message>
         <source>s</source>
@@ -15976,11 +15977,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Mass in motion</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hmotnost v pohybu</translation>
     </message>
     <message>
         <source>Athlete, boat and kit</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník, loď a výstroj</translation>
     </message>
     <message>
         <source>kg</source>
@@ -15988,35 +15989,35 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Drag</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;dpor</translation>
     </message>
     <message>
         <source>Resistance of the hull over the square of its speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Odpor trupu na druhou mocninu jeho rychlosti</translation>
     </message>
     <message>
         <source>N·s²/m²</source>
-        <translation type="unfinished"></translation>
+        <translation>N·s²/m²</translation>
     </message>
     <message>
         <source>&amp;Boat</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Loď</translation>
     </message>
     <message>
         <source>Kayak</source>
-        <translation type="unfinished"></translation>
+        <translation>Kajak</translation>
     </message>
     <message>
         <source>Canoe</source>
-        <translation type="unfinished"></translation>
+        <translation>Kánoe</translation>
     </message>
     <message>
         <source>P&amp;hone</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Telefon</translation>
     </message>
     <message>
         <source>Which side of the phone points to the bow; used where the position does not tell</source>
-        <translation type="unfinished"></translation>
+        <translation>Která strana telefonu míří ke špičce; použije se, kde to neříká poloha</translation>
     </message>
 </context>
 <context>
@@ -16066,18 +16067,18 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Leaving the program stops that, and nothing of an unfinished film is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukončením programu se to zastaví a z nedokončeného filmu nezůstane nic.</translation>
     </message>
     <message>
         <source>Stop and leave</source>
-        <translation type="unfinished"></translation>
+        <translation>Zastavit a ukončit</translation>
     </message>
     <message numerus="yes">
         <source>%n films are still being composed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ještě se skládá %n film.</numerusform>
+            <numerusform>Ještě se skládají %n filmy.</numerusform>
+            <numerusform>Ještě se skládá %n filmů.</numerusform>
         </translation>
     </message>
 </context>
@@ -16085,26 +16086,26 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::ReplayBar</name>
     <message>
         <source>Place in the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo v jednotce</translation>
     </message>
     <message>
         <source>Speed of the replay ([ slower, ] faster)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost přehrávání ([ pomaleji, ] rychleji)</translation>
     </message>
     <message>
         <source>Pause (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozastavit (mezerník)</translation>
     </message>
     <message>
         <source>Play (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehrát (mezerník)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ReportPreview</name>
     <message>
         <source>Save as PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit jako PDF</translation>
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
@@ -16112,7 +16113,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Zpráva</translation>
     </message>
     <message>
         <source>%1 %</source>
@@ -16120,23 +16121,23 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Menší</translation>
     </message>
     <message>
         <source>Larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Větší</translation>
     </message>
     <message>
         <source>Fit width</source>
-        <translation type="unfinished"></translation>
+        <translation>Na šířku</translation>
     </message>
     <message>
         <source>Print…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tisk…</translation>
     </message>
     <message>
         <source>Save as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit jako PDF…</translation>
     </message>
     <message>
         <source>Close</source>
@@ -16144,35 +16145,35 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>No pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádné strany</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Strana %1 z %2</translation>
     </message>
     <message>
         <source>Preview – Kavela</source>
-        <translation type="unfinished"></translation>
+        <translation>Náhled – Kavela</translation>
     </message>
     <message>
         <source>%1, preview – Kavela</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, náhled – Kavela</translation>
     </message>
     <message>
         <source>Saved as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Uloženo jako %1</translation>
     </message>
     <message>
         <source>Table as shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka, jak je ukázána</translation>
     </message>
     <message>
         <source>Race report</source>
-        <translation type="unfinished"></translation>
+        <translation>Zpráva o závodě</translation>
     </message>
     <message>
         <source>Run sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>List jízdy</translation>
     </message>
 </context>
 <context>
@@ -16416,7 +16417,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RollForm</name>
     <message>
         <source>Part of the roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Část eskymáku</translation>
     </message>
     <message>
         <source>Time</source>
@@ -16432,11 +16433,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Going over</source>
-        <translation type="unfinished"></translation>
+        <translation>Převracení</translation>
     </message>
     <message>
         <source>Coming up</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvedání</translation>
     </message>
     <message>
         <source>Total</source>
@@ -16447,7 +16448,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RowModel</name>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>ano</translation>
     </message>
 </context>
 <context>
@@ -16458,23 +16459,23 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Compare with a run of another race</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnat s jízdou jiného závodu</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnat</translation>
     </message>
     <message>
         <source>&amp;Race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Závod</translation>
     </message>
     <message>
         <source>&amp;Other file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Jiný &amp;soubor…</translation>
     </message>
     <message>
         <source>R&amp;un</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jízda</translation>
     </message>
     <message>
         <source>Name</source>
@@ -16483,15 +16484,16 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <message>
         <source>No other race lies in this folder.
 Choose a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>V této složce není jiný závod.
+Vyberte soubor.</translation>
     </message>
     <message>
         <source>not a race</source>
-        <translation type="unfinished"></translation>
+        <translation>není závod</translation>
     </message>
     <message>
         <source>Open a race</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít závod</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -16549,7 +16551,7 @@ Choose a file.</source>
     <name>kavela::desktop::RunForm</name>
     <message>
         <source>A comma and minutes, such as 1:32,34, are taken too</source>
-        <translation type="unfinished"></translation>
+        <translation>Přijme se i čárka a minuty, třeba 1:32,34</translation>
     </message>
     <message>
         <source>Crew</source>
@@ -16565,15 +16567,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruka</translation>
     </message>
     <message>
         <source>Real time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čistý čas</translation>
     </message>
     <message>
         <source>Real penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Skutečná penalizace</translation>
     </message>
     <message>
         <source>Sprint</source>
@@ -16581,82 +16583,82 @@ Choose a file.</source>
     </message>
     <message>
         <source>sprint time</source>
-        <translation type="unfinished"></translation>
+        <translation>čas sprintu</translation>
     </message>
     <message>
         <source>Total %1 s,</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem %1 s,</translation>
     </message>
     <message>
         <source>penalties %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizace %1 s</translation>
     </message>
     <message>
         <source>Expected %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Očekáváno %1 s</translation>
     </message>
     <message>
         <source>Perfect time %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Perfektní čas %1 s</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RunPanel</name>
     <message>
         <source>A clean run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čistá jízda.</translation>
     </message>
     <message>
         <source>Touched: gate %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ťuk: branka %1.</translation>
     </message>
     <message>
         <source>Missed: gate %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojeto: branka %1.</translation>
     </message>
     <message>
         <source>To best</source>
-        <translation type="unfinished"></translation>
+        <translation>Na nejl.</translation>
     </message>
     <message>
         <source>Select a run to see its sections. Select two to compare them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte jízdu a uvidíte její úseky. Vyberte dvě a porovnáte je.</translation>
     </message>
     <message>
         <source> against %1</source>
-        <translation type="unfinished"></translation>
+        <translation> proti %1</translation>
     </message>
     <message>
         <source>penalties %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizace %1 s</translation>
     </message>
     <message>
         <source>Total %1 s,</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem %1 s,</translation>
     </message>
     <message>
         <source>Total –,</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem –,</translation>
     </message>
     <message>
         <source>Real %1 s,</source>
-        <translation type="unfinished"></translation>
+        <translation>Čistý %1 s,</translation>
     </message>
     <message>
         <source>Expected %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Očekáváno %1 s</translation>
     </message>
     <message>
         <source>Best own sections %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejlepší vlastní úseky %1 s</translation>
     </message>
     <message>
         <source>A time must be above 0. Check the marks of this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas musí být větší než 0. Zkontrolujte značky této jízdy.</translation>
     </message>
     <message>
         <source>Not the whole course</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne celá trať</translation>
     </message>
     <message>
         <source>Gap</source>
@@ -16672,7 +16674,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pen.</translation>
     </message>
     <message>
         <source>Place</source>
@@ -16687,57 +16689,57 @@ Choose a file.</source>
     </message>
     <message>
         <source>Type any part of a name, phase, category or race</source>
-        <translation type="unfinished"></translation>
+        <translation>Napište libovolnou část jména, fáze, kategorie nebo závodu</translation>
     </message>
     <message>
         <source>Find a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Najít jízdu</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RunsToEnter</name>
     <message>
         <source>perhaps %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>snad %1?</translation>
     </message>
     <message>
         <source>another run is better</source>
-        <translation type="unfinished"></translation>
+        <translation>lepší je jiná jízda</translation>
     </message>
     <message>
         <source>; xTime %1 stays</source>
-        <translation type="unfinished"></translation>
+        <translation>; xTime %1 zůstává</translation>
     </message>
     <message>
         <source>line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>řádek %1</translation>
     </message>
     <message>
         <source>(no run)</source>
-        <translation type="unfinished"></translation>
+        <translation>(žádná jízda)</translation>
     </message>
     <message>
         <source>has no result in this race</source>
-        <translation type="unfinished"></translation>
+        <translation>nemá v tomto závodě výsledek</translation>
     </message>
     <message>
         <source>no result</source>
-        <translation type="unfinished"></translation>
+        <translation>bez výsledku</translation>
     </message>
     <message>
         <source>(line %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(řádek %1)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RunsToEnter::Outcome</name>
     <message>
         <source>place %1</source>
-        <translation type="unfinished"></translation>
+        <translation>místo %1</translation>
     </message>
     <message>
         <source>place %1, was %2</source>
-        <translation type="unfinished"></translation>
+        <translation>místo %1, bylo %2</translation>
     </message>
 </context>
 <context>
@@ -16748,23 +16750,23 @@ Choose a file.</source>
     </message>
     <message>
         <source>Folders and files that are searched</source>
-        <translation type="unfinished"></translation>
+        <translation>Složky a soubory, které se prohledávají</translation>
     </message>
     <message>
         <source>Add folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat složku…</translation>
     </message>
     <message>
         <source>The chosen folder or file is not searched any more</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolená složka nebo soubor se už neprohledává</translation>
     </message>
     <message>
         <source>⚠ One could not be read…</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Jeden nelze přečíst…</translation>
     </message>
     <message>
         <source>Search a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Prohledat složku</translation>
     </message>
     <message>
         <source>Search files</source>
@@ -16776,10 +16778,10 @@ Choose a file.</source>
     </message>
     <message numerus="yes">
         <source>⚠ %n could not be read…</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>⚠ %n nelze přečíst…</numerusform>
+            <numerusform>⚠ %n nelze přečíst…</numerusform>
+            <numerusform>⚠ %n nelze přečíst…</numerusform>
         </translation>
     </message>
 </context>
@@ -16791,19 +16793,19 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Open a team…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít tým…</translation>
     </message>
     <message>
         <source>Add &amp;split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat soubory &amp;mezičasů…</translation>
     </message>
     <message>
         <source>Add a &amp;folder of races…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat &amp;složku závodů…</translation>
     </message>
     <message>
         <source>Read &amp;again</source>
-        <translation type="unfinished"></translation>
+        <translation>Načíst &amp;znovu</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
@@ -16815,19 +16817,19 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Reports to look at and print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zprávy k prohlédnutí a tisku…</translation>
     </message>
     <message>
         <source>Report of the &amp;athlete as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zpráva o &amp;závodníkovi jako PDF…</translation>
     </message>
     <message>
         <source>Report of the tea&amp;m as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zpráva o &amp;týmu jako PDF…</translation>
     </message>
     <message>
         <source>Save the tab&amp;le as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit ta&amp;bulku jako CSV…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
@@ -16835,67 +16837,67 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ukázat</translation>
     </message>
     <message>
         <source>&amp;Progression</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vývoj</translation>
     </message>
     <message>
         <source>P&amp;hases</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fáze</translation>
     </message>
     <message>
         <source>&amp;Spread</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rozptyl</translation>
     </message>
     <message>
         <source>&amp;Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trend</translation>
     </message>
     <message>
         <source>Head to h&amp;ead</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzájemné so&amp;uboje</translation>
     </message>
     <message>
         <source>&amp;Medals and finals</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Medaile a finále</translation>
     </message>
     <message>
         <source>E&amp;xpected places</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Očekávaná místa</translation>
     </message>
     <message>
         <source>&amp;What it takes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Co je třeba</translation>
     </message>
     <message>
         <source>&amp;Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodní&amp;ci</translation>
     </message>
     <message>
         <source>The who&amp;le chart</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Celý graf</translation>
     </message>
     <message>
         <source>Athl&amp;ete</source>
-        <translation type="unfinished"></translation>
+        <translation>Závod&amp;ník</translation>
     </message>
     <message>
         <source>The &amp;next athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Další závodník</translation>
     </message>
     <message>
         <source>The athlete &amp;before</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Předchozí závodník</translation>
     </message>
     <message>
         <source>&amp;Show the athlete of the row</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ukázat závodníka z řádku</translation>
     </message>
     <message>
         <source>Expect the places of a &amp;field…</source>
-        <translation type="unfinished"></translation>
+        <translation>Odhadnout místa &amp;startovního pole…</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
@@ -16906,7 +16908,7 @@ Choose a file.</source>
     <name>kavela::desktop::SeasonHeader</name>
     <message>
         <source>Add the races…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat závody…</translation>
     </message>
     <message>
         <source>&amp;Category</source>
@@ -16914,7 +16916,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Years</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Roky</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
@@ -16925,31 +16927,31 @@ Choose a file.</source>
     <name>kavela::desktop::SeasonModel</name>
     <message>
         <source>✓ counts</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ počítá se</translation>
     </message>
     <message>
         <source>The first two seasons count for the categorization. Move a season by dragging it, or with Alt+Up and Alt+Down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Do kategorizace se počítají první dvě sezóny. Sezónu posunete tažením, nebo pomocí Alt+Nahoru a Alt+Dolů.</translation>
     </message>
     <message>
         <source>Final classification of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Konečné pořadí závodu</translation>
     </message>
     <message>
         <source>Position in the ICF world ranking at the end of the season</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí ve světovém žebříčku ICF na konci sezóny</translation>
     </message>
     <message>
         <source>Points in the ICF world ranking</source>
-        <translation type="unfinished"></translation>
+        <translation>Body ve světovém žebříčku ICF</translation>
     </message>
     <message>
         <source>Season, race</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezóna, závod</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo konání</translation>
     </message>
     <message>
         <source>Place</source>
@@ -16965,35 +16967,35 @@ Choose a file.</source>
     </message>
     <message>
         <source>ICF ranking position</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí v žebříčku ICF</translation>
     </message>
     <message>
         <source>ICF ranking points</source>
-        <translation type="unfinished"></translation>
+        <translation>Body v žebříčku ICF</translation>
     </message>
     <message>
         <source>There is a season %1 already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezóna %1 už existuje.</translation>
     </message>
     <message>
         <source>year</source>
-        <translation type="unfinished"></translation>
+        <translation>rok</translation>
     </message>
     <message>
         <source>final position</source>
-        <translation type="unfinished"></translation>
+        <translation>konečné pořadí</translation>
     </message>
     <message>
         <source>“%1” is none of the events.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ není žádná z akcí.</translation>
     </message>
     <message>
         <source>event</source>
-        <translation type="unfinished"></translation>
+        <translation>akce</translation>
     </message>
     <message>
         <source>location</source>
-        <translation type="unfinished"></translation>
+        <translation>místo konání</translation>
     </message>
 </context>
 <context>
@@ -17012,15 +17014,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>No whole run of this athlete can be held against the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádnou úplnou jízdu tohoto závodníka nelze porovnat s referencí.</translation>
     </message>
     <message>
         <source>Nothing stands out: there is no clip to choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic nevyčnívá: není klip k výběru.</translation>
     </message>
     <message>
         <source>&amp;Show this run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ukázat tuto jízdu</translation>
     </message>
     <message>
         <source>By</source>
@@ -17040,7 +17042,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Seconds, of all runs together</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy, ze všech jízd dohromady</translation>
     </message>
     <message>
         <source>Lost, %</source>
@@ -17048,7 +17050,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Of the reference&apos;s time there</source>
-        <translation type="unfinished"></translation>
+        <translation>Z času reference v tom místě</translation>
     </message>
     <message>
         <source>90 %</source>
@@ -17056,15 +17058,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>A run</source>
-        <translation type="unfinished"></translation>
+        <translation>Na jízdu</translation>
     </message>
     <message>
         <source>Seconds lost in a run on the average</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy ztracené v jízdě, v průměru</translation>
     </message>
     <message>
         <source>Of the gap, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Z odstupu, %</translation>
     </message>
     <message>
         <source>Verdict</source>
@@ -17072,11 +17074,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>What the interval says: losing where all of it is above 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Co říká interval: ztráta je tam, kde je celý nad 0</translation>
     </message>
     <message>
         <source>See</source>
-        <translation type="unfinished"></translation>
+        <translation>Viz</translation>
     </message>
     <message>
         <source>Run</source>
@@ -17084,46 +17086,46 @@ Choose a file.</source>
     </message>
     <message>
         <source>Open a folder of races to see an athlete&apos;s season.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřete složku závodů a uvidíte sezónu závodníka.</translation>
     </message>
     <message>
         <source>%1: no whole run in %2 files can be held against the %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: žádnou úplnou jízdu v souborech (%2) nelze porovnat; reference: %3.</translation>
     </message>
     <message>
         <source>%1 on %2: %3 in %4; gap a run %5, penalties %6</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 proti %2: %3, závod %4; odstup na jízdu %5, penalizace %6</translation>
     </message>
     <message>
         <source>one whole run</source>
-        <translation type="unfinished"></translation>
+        <translation>jedna úplná jízda</translation>
     </message>
     <message>
         <source>one file</source>
-        <translation type="unfinished"></translation>
+        <translation>jeden soubor</translation>
     </message>
     <message>
         <source>Train: nothing stands out from these runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trénovat: z těchto jízd nic nevyčnívá.</translation>
     </message>
     <message>
         <source>%1. %2: %3, %4 s a run</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2: %3, %4 s na jízdu</translation>
     </message>
     <message>
         <source>Train:</source>
-        <translation type="unfinished"></translation>
+        <translation>Trénovat:</translation>
     </message>
     <message>
         <source>gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>branka %1</translation>
     </message>
     <message numerus="yes">
         <source>%n whole runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n úplná jízda</numerusform>
+            <numerusform>%n úplné jízdy</numerusform>
+            <numerusform>%n úplných jízd</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -17139,31 +17141,31 @@ Choose a file.</source>
     <name>kavela::desktop::SeasonPages</name>
     <message>
         <source>Progression</source>
-        <translation type="unfinished"></translation>
+        <translation>Vývoj</translation>
     </message>
     <message>
         <source>Phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>From which phase to which</source>
-        <translation type="unfinished"></translation>
+        <translation>Ze které fáze do které</translation>
     </message>
     <message>
         <source>Run 1 to run 2 of the heats</source>
-        <translation type="unfinished"></translation>
+        <translation>1. až 2. kvalifikační jízda</translation>
     </message>
     <message>
         <source>Semifinal to final</source>
-        <translation type="unfinished"></translation>
+        <translation>Semifinále až finále</translation>
     </message>
     <message>
         <source>Heats to final, percent behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Kvalifikace až finále, procenta ztráty</translation>
     </message>
     <message>
         <source>Spread</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozptyl</translation>
     </message>
     <message>
         <source>Trend</source>
@@ -17171,27 +17173,27 @@ Choose a file.</source>
     </message>
     <message>
         <source>Behind whom</source>
-        <translation type="unfinished"></translation>
+        <translation>Za kým</translation>
     </message>
     <message>
         <source>Behind the winners</source>
-        <translation type="unfinished"></translation>
+        <translation>Za vítězi</translation>
     </message>
     <message>
         <source>Behind the fastest splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Za nejrychlejšími mezičasy</translation>
     </message>
     <message>
         <source>Head to head</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzájemné souboje</translation>
     </message>
     <message>
         <source>Medals and finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaile a finále</translation>
     </message>
     <message>
         <source>How far</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak daleko</translation>
     </message>
     <message>
         <source>Medals</source>
@@ -17207,11 +17209,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Expected places</source>
-        <translation type="unfinished"></translation>
+        <translation>Očekávaná místa</translation>
     </message>
     <message>
         <source>What it takes</source>
-        <translation type="unfinished"></translation>
+        <translation>Co je třeba</translation>
     </message>
     <message>
         <source>Athletes</source>
@@ -17226,15 +17228,15 @@ Choose a file.</source>
     <name>kavela::desktop::SeasonReports</name>
     <message>
         <source>The team</source>
-        <translation type="unfinished"></translation>
+        <translation>Tým</translation>
     </message>
     <message>
         <source>Save the report of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit zprávu: %1</translation>
     </message>
     <message>
         <source>Save the report of the team</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit zprávu o týmu</translation>
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
@@ -17242,7 +17244,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>The report cannot be written over a file that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zprávu nelze zapsat přes soubor, ze kterého vzniká.</translation>
     </message>
 </context>
 <context>
@@ -17253,15 +17255,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Drop a team (.kvteam) and the folder of its races here</source>
-        <translation type="unfinished"></translation>
+        <translation>Přetáhněte sem tým (.kvteam) a složku jeho závodů</translation>
     </message>
     <message>
         <source>Open a team…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít tým…</translation>
     </message>
     <message>
         <source>Add a folder of races…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat složku závodů…</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -17277,11 +17279,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Teams (*.kvteam);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Týmy (*.kvteam);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Add split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat soubory mezičasů</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -17289,23 +17291,23 @@ Choose a file.</source>
     </message>
     <message>
         <source>Add a folder of races</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat složku závodů</translation>
     </message>
     <message>
         <source>Whose places to expect</source>
-        <translation type="unfinished"></translation>
+        <translation>Čí místa odhadnout</translation>
     </message>
     <message>
         <source>A name a line, as a start list has them. Nothing for the team and those who raced most often.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno na řádek, jako ve startovní listině. Nic znamená tým a ty, kdo závodili nejčastěji.</translation>
     </message>
     <message>
         <source>%1 could not be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nelze přečíst: %2</translation>
     </message>
     <message>
         <source>How every athlete of a team stands over the seasons: behind the winners, against rivals, and against chance. Files are only read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak je na tom každý závodník týmu v průběhu sezón: proti vítězům, soupeřům i náhodě. Soubory se jen čtou.</translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -17313,50 +17315,50 @@ Choose a file.</source>
     </message>
     <message>
         <source>Nobody of this team races in any category yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nikdo z tohoto týmu zatím nezávodí v žádné kategorii.</translation>
     </message>
     <message>
         <source>No split files: winners and rivals are the team&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez souborů mezičasů: vítězové a soupeři jsou jen z týmu</translation>
     </message>
     <message>
         <source>Races from 1 split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Závody z 1 souboru mezičasů</translation>
     </message>
     <message>
         <source>1 run compared</source>
-        <translation type="unfinished"></translation>
+        <translation>porovnána 1 jízda</translation>
     </message>
     <message>
         <source>several athletes are called %1: their runs cannot be told apart</source>
-        <translation type="unfinished"></translation>
+        <translation>jméno %1 má více závodníků: jejich jízdy nelze rozlišit</translation>
     </message>
     <message>
         <source>nobody in these races is called %1</source>
-        <translation type="unfinished"></translation>
+        <translation>v těchto závodech se nikdo nejmenuje %1</translation>
     </message>
     <message>
         <source>too few runs to expect a place of %1 of the field</source>
-        <translation type="unfinished"></translation>
+        <translation>na odhad místa je příliš málo jízd: %1 z pole</translation>
     </message>
     <message>
         <source>the team could not be read again: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>tým nelze znovu přečíst: %1</translation>
     </message>
     <message numerus="yes">
         <source>Races from %n split files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Závody z %n souboru mezičasů</numerusform>
+            <numerusform>Závody ze %n souborů mezičasů</numerusform>
+            <numerusform>Závody z %n souborů mezičasů</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n runs compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>porovnána %n jízda</numerusform>
+            <numerusform>porovnány %n jízdy</numerusform>
+            <numerusform>porovnáno %n jízd</numerusform>
         </translation>
     </message>
 </context>
@@ -17364,19 +17366,19 @@ Choose a file.</source>
     <name>kavela::desktop::SectionChart</name>
     <message>
         <source>Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Krabice</translation>
     </message>
     <message>
         <source>Quartiles, and the runs far from them</source>
-        <translation type="unfinished"></translation>
+        <translation>Kvartily a jízdy daleko od nich</translation>
     </message>
     <message>
         <source>Strip</source>
-        <translation type="unfinished"></translation>
+        <translation>Pruh</translation>
     </message>
     <message>
         <source>A dot for every run</source>
-        <translation type="unfinished"></translation>
+        <translation>Bod za každou jízdu</translation>
     </message>
     <message>
         <source>Behind best</source>
@@ -17384,7 +17386,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Seconds behind the best of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy za nejlepším v úseku</translation>
     </message>
     <message>
         <source>Time</source>
@@ -17392,27 +17394,27 @@ Choose a file.</source>
     </message>
     <message>
         <source>Seconds in the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy v úseku</translation>
     </message>
     <message>
         <source>No section has been timed yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný úsek zatím není změřen.</translation>
     </message>
     <message>
         <source>Seconds in each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy v každém úseku</translation>
     </message>
     <message>
         <source>Seconds behind the best of each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy za nejlepším v každém úseku</translation>
     </message>
     <message>
         <source>Times of %1 by section</source>
-        <translation type="unfinished"></translation>
+        <translation>Časy po úsecích: %1</translation>
     </message>
     <message>
         <source>, penalties included</source>
-        <translation type="unfinished"></translation>
+        <translation>, včetně penalizace</translation>
     </message>
     <message>
         <source>← slower      faster →</source>
@@ -17424,7 +17426,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Quarter of the runs under</source>
-        <translation type="unfinished"></translation>
+        <translation>Čtvrtina jízd pod</translation>
     </message>
     <message>
         <source>Median</source>
@@ -17432,11 +17434,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Quarter of the runs over</source>
-        <translation type="unfinished"></translation>
+        <translation>Čtvrtina jízd nad</translation>
     </message>
     <message>
         <source>Slowest</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejpomalejší</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -17444,7 +17446,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Behind the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Za nejlepším</translation>
     </message>
     <message>
         <source>Place</source>
@@ -17464,15 +17466,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Fastest</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejrychlejší</translation>
     </message>
     <message>
         <source>Lower quartile</source>
-        <translation type="unfinished"></translation>
+        <translation>Dolní kvartil</translation>
     </message>
     <message>
         <source>Upper quartile</source>
-        <translation type="unfinished"></translation>
+        <translation>Horní kvartil</translation>
     </message>
     <message>
         <source>Sections</source>
@@ -17480,7 +17482,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Distribution of the times of each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozložení časů v každém úseku</translation>
     </message>
 </context>
 <context>
@@ -17491,43 +17493,43 @@ Choose a file.</source>
     </message>
     <message>
         <source>Turn %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrat %1</translation>
     </message>
     <message>
         <source>Stretch %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Část %1</translation>
     </message>
     <message>
         <source>Lap %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolo %1</translation>
     </message>
     <message>
         <source>La&amp;ps</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kola</translation>
     </message>
     <message>
         <source>number of laps</source>
-        <translation type="unfinished"></translation>
+        <translation>počet kol</translation>
     </message>
     <message>
         <source>Distance between the &amp;gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzdálenost mezi &amp;brankami</translation>
     </message>
     <message>
         <source>distance</source>
-        <translation type="unfinished"></translation>
+        <translation>vzdálenost</translation>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished"></translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Turn li&amp;mit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mez obratu</translation>
     </message>
     <message>
         <source>A faster rotation of the boat is a turn, a slower one straight paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlejší otáčení lodi je obrat, pomalejší rovná jízda</translation>
     </message>
     <message>
         <source>rad/s</source>
@@ -17535,7 +17537,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Told by the strokes that were recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Plyne ze zaznamenaných záběrů</translation>
     </message>
     <message>
         <source>Time
@@ -17546,55 +17548,64 @@ Choose a file.</source>
     <message>
         <source>Straight
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rovně
+(s)</translation>
     </message>
     <message>
         <source>Rotation
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Otáčení
+(s)</translation>
     </message>
     <message>
         <source>Speed
 (m/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost
+(m/s)</translation>
     </message>
     <message>
         <source>Follows from distance and time until it is typed</source>
-        <translation type="unfinished"></translation>
+        <translation>Plyne ze vzdálenosti a času, dokud se nenapíše</translation>
     </message>
     <message>
         <source>Stroke rate
 (1/min)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frekvence
+(1/min)</translation>
     </message>
     <message>
         <source>Efficiency
 (m/stroke)</source>
-        <translation type="unfinished"></translation>
+        <translation>Účinnost
+(m/záběr)</translation>
     </message>
     <message>
         <source>Follows from speed and stroke rate until typed</source>
-        <translation type="unfinished"></translation>
+        <translation>Plyne z rychlosti a frekvence záběrů, dokud se nenapíše</translation>
     </message>
     <message>
         <source>Left
 (rad/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vlevo
+(rad/s)</translation>
     </message>
     <message>
         <source>Left
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vlevo
+(s)</translation>
     </message>
     <message>
         <source>Right
 (rad/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vpravo
+(rad/s)</translation>
     </message>
     <message>
         <source>Right
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vpravo
+(s)</translation>
     </message>
     <message>
         <source>Sections</source>
@@ -17602,41 +17613,41 @@ Choose a file.</source>
     </message>
     <message>
         <source>The time in straight line is part of the time of its section: it cannot be longer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas rovné jízdy je částí času svého úseku: nemůže být delší.</translation>
     </message>
     <message>
         <source>section %1</source>
-        <translation type="unfinished"></translation>
+        <translation>úsek %1</translation>
     </message>
     <message>
         <source>turn %1</source>
-        <translation type="unfinished"></translation>
+        <translation>obrat %1</translation>
     </message>
     <message>
         <source>Total: %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem: %1 s</translation>
     </message>
     <message>
         <source>Total: – · %1 of %2 sections are timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem: – · změřené úseky: %1 z %2</translation>
     </message>
     <message>
         <source> · %1 strokes recorded</source>
-        <translation type="unfinished"></translation>
+        <translation> · zaznamenané záběry: %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SelectionDocument</name>
     <message>
         <source>1 race</source>
-        <translation type="unfinished"></translation>
+        <translation>1 závod</translation>
     </message>
     <message numerus="yes">
         <source>%n races</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n závod</numerusform>
+            <numerusform>%n závody</numerusform>
+            <numerusform>%n závodů</numerusform>
         </translation>
     </message>
 </context>
@@ -17648,31 +17659,31 @@ Choose a file.</source>
     </message>
     <message>
         <source>Race location</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo závodu</translation>
     </message>
     <message>
         <source>race added</source>
-        <translation type="unfinished"></translation>
+        <translation>závod přidán</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Rename which race?</source>
-        <translation type="unfinished"></translation>
+        <translation>Který závod přejmenovat?</translation>
     </message>
     <message>
         <source>race renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>závod přejmenován</translation>
     </message>
     <message>
         <source>Remove which race?</source>
-        <translation type="unfinished"></translation>
+        <translation>Který závod odstranit?</translation>
     </message>
     <message>
         <source>race removed</source>
-        <translation type="unfinished"></translation>
+        <translation>závod odstraněn</translation>
     </message>
     <message>
         <source>Category</source>
@@ -17680,11 +17691,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Category of the athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie závodníků</translation>
     </message>
     <message>
         <source>category added</source>
-        <translation type="unfinished"></translation>
+        <translation>kategorie přidána</translation>
     </message>
     <message>
         <source>Add a category first.</source>
@@ -17692,11 +17703,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>%1 is in this category already.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 už v této kategorii je.</translation>
     </message>
     <message>
         <source>athlete added</source>
-        <translation type="unfinished"></translation>
+        <translation>závodník přidán</translation>
     </message>
     <message>
         <source>athlete</source>
@@ -17704,26 +17715,26 @@ Choose a file.</source>
     </message>
     <message>
         <source>athlete removed</source>
-        <translation type="unfinished"></translation>
+        <translation>závodník odstraněn</translation>
     </message>
     <message>
         <source>times of 0</source>
-        <translation type="unfinished"></translation>
+        <translation>časy 0</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SelectionTakeOverDialog</name>
     <message>
         <source>Results of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledky: %1</translation>
     </message>
     <message>
         <source>&amp;Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Převzít</translation>
     </message>
     <message>
         <source>Athletes who get a result: %1, of them new in the selection: %2. Without a result then: %3. Runs and lines that stay out: %4. A click on an athlete chooses another one, or adds the name to the selection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodníci, kteří dostanou výsledek: %1, z toho v nominaci nových: %2. Bez výsledku pak: %3. Jízdy a řádky, které zůstanou mimo: %4. Kliknutí na závodníka vybere jiného, nebo přidá jméno do nominace.</translation>
     </message>
 </context>
 <context>
@@ -17734,15 +17745,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Copy the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopírovat tabulku</translation>
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zprávy: náhled, PDF, tisk…</translation>
     </message>
     <message>
         <source>Make times of 0 &amp;missing results</source>
-        <translation type="unfinished"></translation>
+        <translation>Z časů 0 udělat &amp;chybějící výsledky</translation>
     </message>
     <message>
         <source>&amp;Copy the table</source>
@@ -17750,91 +17761,91 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;What if</source>
-        <translation type="unfinished"></translation>
+        <translation>Co &amp;kdyby</translation>
     </message>
     <message>
         <source>&amp;Races</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Závody</translation>
     </message>
     <message>
         <source>&amp;Add a race…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přidat závod…</translation>
     </message>
     <message>
         <source>&amp;Rename a race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přej&amp;menovat závod…</translation>
     </message>
     <message>
         <source>Remo&amp;ve a race…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstranit závod…</translation>
     </message>
     <message>
         <source>Results from &amp;split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledky ze &amp;souborů mezičasů…</translation>
     </message>
     <message>
         <source>Results from a &amp;list (position, total, penalty)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledky ze s&amp;eznamu (pořadí, celkem, penalizace)…</translation>
     </message>
     <message>
         <source>Results from a list with &amp;categories and clubs…</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledky ze seznamu s &amp;kategoriemi a kluby…</translation>
     </message>
     <message>
         <source>&amp;Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodní&amp;ci</translation>
     </message>
     <message>
         <source>Add a &amp;category…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat &amp;kategorii…</translation>
     </message>
     <message>
         <source>&amp;Add an athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přidat závodníka…</translation>
     </message>
     <message>
         <source>&amp;Edit the athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Upravit závodníka…</translation>
     </message>
     <message>
         <source>&amp;Remove the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstranit závodníka</translation>
     </message>
     <message>
         <source>&amp;Import athletes…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importovat závodníky…</translation>
     </message>
     <message>
         <source>&amp;How a list has to look</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jak má seznam vypadat</translation>
     </message>
     <message>
         <source>Category %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie %1</translation>
     </message>
     <message>
         <source>Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie</translation>
     </message>
     <message>
         <source>Bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus</translation>
     </message>
     <message>
         <source>Official times</source>
-        <translation type="unfinished"></translation>
+        <translation>Oficiální časy</translation>
     </message>
     <message>
         <source>xTimes</source>
-        <translation type="unfinished"></translation>
+        <translation>xTimes</translation>
     </message>
     <message>
         <source>What if…</source>
-        <translation type="unfinished"></translation>
+        <translation>Co kdyby…</translation>
     </message>
     <message>
         <source>Try other times and penalties; nothing of it is kept (W)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zkuste jiné časy a penalizace; nic se neuchová (W)</translation>
     </message>
     <message>
         <source>Selection %1</source>
@@ -17842,43 +17853,43 @@ Choose a file.</source>
     </message>
     <message>
         <source>What if: times and penalties typed now are tried only. End it (W) to go back to the real results.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co kdyby: časy a penalizace psané nyní se jen zkoušejí. Ukončením (W) se vrátíte ke skutečným výsledkům.</translation>
     </message>
     <message>
         <source>Add the races of the selection first (Ctrl+R), then athletes (Ctrl+N, or drop a .csv file).</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív přidejte závody nominace (Ctrl+R), pak závodníky (Ctrl+N, nebo přetáhněte soubor .csv).</translation>
     </message>
     <message>
         <source>Now add a category (Ctrl+G), such as MK1; then its athletes (Ctrl+N, or drop a .csv file).</source>
-        <translation type="unfinished"></translation>
+        <translation>Nyní přidejte kategorii (Ctrl+G), třeba MK1; pak její závodníky (Ctrl+N, nebo přetáhněte soubor .csv).</translation>
     </message>
     <message>
         <source>Add the athletes of the category (Ctrl+N, or drop a .csv file), then their results: type them, or take them over from split files (Ctrl+I).</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidejte závodníky kategorie (Ctrl+N, nebo přetáhněte soubor .csv), pak jejich výsledky: napište je, nebo převezměte ze souborů mezičasů (Ctrl+I).</translation>
     </message>
     <message numerus="yes">
         <source>%n result(s) have a time of 0, which puts their athletes far in front. Edit &gt; Make times of 0 missing results.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n výsledek má čas 0, což posouvá jeho závodníka daleko dopředu. Úpravy &gt; Z časů 0 udělat chybějící výsledky.</numerusform>
+            <numerusform>%n výsledky mají čas 0, což posouvá jejich závodníky daleko dopředu. Úpravy &gt; Z časů 0 udělat chybějící výsledky.</numerusform>
+            <numerusform>%n výsledků má čas 0, což posouvá jejich závodníky daleko dopředu. Úpravy &gt; Z časů 0 udělat chybějící výsledky.</numerusform>
         </translation>
     </message>
     <message>
         <source>End what if</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukončit Co kdyby</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>No bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez bonusu</translation>
     </message>
     <message>
         <source>Bonus %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus %1</translation>
     </message>
 </context>
 <context>
@@ -17889,41 +17900,41 @@ Choose a file.</source>
     </message>
     <message>
         <source>Time (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas (s)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SeriesDrawing</name>
     <message>
         <source>%1: low</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: nízké</translation>
     </message>
     <message>
         <source>%1: high</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: vysoké</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SessionCharts</name>
     <message>
         <source>none was recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>nic nebylo zaznamenáno</translation>
     </message>
     <message>
         <source>there are no turns</source>
-        <translation type="unfinished"></translation>
+        <translation>nejsou žádné obraty</translation>
     </message>
     <message>
         <source>there are no strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>nejsou žádné záběry</translation>
     </message>
     <message>
         <source>not known, since nothing tells which side of the phone points to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>neznámo, protože nic neříká, která strana telefonu míří ke špičce</translation>
     </message>
     <message>
         <source>not known, since there are no positions that tell the speed</source>
-        <translation type="unfinished"></translation>
+        <translation>neznámo, protože chybějí polohy, které by určily rychlost</translation>
     </message>
     <message>
         <source>Stroke rate</source>
@@ -17951,7 +17962,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze</translation>
     </message>
     <message>
         <source>Roll</source>
@@ -17959,22 +17970,22 @@ Choose a file.</source>
     </message>
     <message>
         <source>Pitch</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolébání</translation>
     </message>
     <message>
         <source>end</source>
-        <translation type="unfinished"></translation>
+        <translation>konec</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SessionDialog</name>
     <message>
         <source>at</source>
-        <translation type="unfinished"></translation>
+        <translation>v</translation>
     </message>
     <message>
         <source>Training session</source>
-        <translation type="unfinished"></translation>
+        <translation>Tréninková jednotka</translation>
     </message>
     <message>
         <source>&amp;Title</source>
@@ -17982,7 +17993,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>When</source>
-        <translation type="unfinished"></translation>
+        <translation>Kdy</translation>
     </message>
     <message>
         <source>&amp;Place</source>
@@ -17994,11 +18005,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>On the water</source>
-        <translation type="unfinished"></translation>
+        <translation>Na vodě</translation>
     </message>
     <message>
         <source>In the gym</source>
-        <translation type="unfinished"></translation>
+        <translation>V posilovně</translation>
     </message>
     <message>
         <source>Others</source>
@@ -18006,42 +18017,42 @@ Choose a file.</source>
     </message>
     <message>
         <source>not in this week</source>
-        <translation type="unfinished"></translation>
+        <translation>není v tomto týdnu</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SessionMarks</name>
     <message>
         <source>%1 marks: two make a segment</source>
-        <translation type="unfinished"></translation>
+        <translation>značky: %1, dvě tvoří segment</translation>
     </message>
     <message>
         <source>%1 segments</source>
-        <translation type="unfinished"></translation>
+        <translation>segmenty: %1</translation>
     </message>
     <message>
         <source>mark</source>
-        <translation type="unfinished"></translation>
+        <translation>značka</translation>
     </message>
     <message>
         <source>removal of a mark</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění značky</translation>
     </message>
     <message>
         <source>removal of all marks</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění všech značek</translation>
     </message>
     <message>
         <source>There is a mark already</source>
-        <translation type="unfinished"></translation>
+        <translation>Tam už značka je</translation>
     </message>
     <message>
         <source>move of a mark</source>
-        <translation type="unfinished"></translation>
+        <translation>posun značky</translation>
     </message>
     <message>
         <source>Mark at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Značka v %1</translation>
     </message>
 </context>
 <context>
@@ -18056,15 +18067,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Segments</source>
-        <translation type="unfinished"></translation>
+        <translation>Segmenty</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzdálenost</translation>
     </message>
     <message>
         <source>Left and right</source>
-        <translation type="unfinished"></translation>
+        <translation>Levá a pravá</translation>
     </message>
     <message>
         <source> m</source>
@@ -18072,30 +18083,30 @@ Choose a file.</source>
     </message>
     <message>
         <source>Values every</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnoty po</translation>
     </message>
     <message>
         <source>Strokes (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Záběry (%1)</translation>
     </message>
     <message>
         <source>Turns (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Obraty (%1)</translation>
     </message>
     <message>
         <source>from the first mark</source>
-        <translation type="unfinished"></translation>
+        <translation>od první značky</translation>
     </message>
     <message>
         <source>from the start</source>
-        <translation type="unfinished"></translation>
+        <translation>od startu</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SessionView</name>
     <message>
         <source>Speed against stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost proti frekvenci záběrů</translation>
     </message>
     <message>
         <source>Stroke rate (1/min)</source>
@@ -18411,7 +18422,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnat</translation>
     </message>
     <message>
         <source>Shows what differs; nothing is changed by it</source>
@@ -19099,7 +19110,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>Den</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -19449,7 +19460,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit &amp;tabulku jako CSV…</translation>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
@@ -19561,7 +19572,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ukázat</translation>
     </message>
     <message>
         <source>What was &amp;refused</source>
@@ -19573,7 +19584,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>The &amp;whole chart</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Celý graf</translation>
     </message>
 </context>
 <context>
@@ -19672,7 +19683,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Teams (*.kvteam);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Týmy (*.kvteam);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>The rows cannot be joined</source>
@@ -19853,7 +19864,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>perhaps %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>snad %1?</translation>
     </message>
     <message>
         <source>%1 is added to the athlete&apos;s boats</source>
@@ -19913,7 +19924,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>(line %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(řádek %1)</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
@@ -19976,7 +19987,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>La&amp;ps</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kola</translation>
     </message>
     <message>
         <source>&amp;Distance between the gates</source>
@@ -19996,11 +20007,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Lap %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolo %1</translation>
     </message>
     <message>
         <source>Stretch %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Část %1</translation>
     </message>
     <message>
         <source>Eight %1</source>
@@ -20106,7 +20117,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>ano</translation>
     </message>
     <message>
         <source>Take in tests from “%1”</source>
@@ -20501,14 +20512,14 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>1 athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>1 závodník</translation>
     </message>
     <message numerus="yes">
         <source>%n athletes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n závodník</numerusform>
+            <numerusform>%n závodníci</numerusform>
+            <numerusform>%n závodníků</numerusform>
         </translation>
     </message>
 </context>
@@ -20548,11 +20559,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>new athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>nový závodník</translation>
     </message>
     <message>
         <source>removal of an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění závodníka</translation>
     </message>
     <message>
         <source>new category</source>
@@ -20607,7 +20618,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo konání</translation>
     </message>
     <message>
         <source>All athletes</source>
@@ -20618,7 +20629,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <name>kavela::desktop::TestSessionWindow</name>
     <message>
         <source>Time (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas (s)</translation>
     </message>
     <message>
         <source>Value</source>
@@ -20709,7 +20720,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Recordings (*.kvb);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznamy (*.kvb);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>“%1” cannot be taken in</source>
@@ -21468,7 +21479,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>branka %1</translation>
     </message>
     <message>
         <source>roll</source>
@@ -21614,7 +21625,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>branka %1</translation>
     </message>
 </context>
 <context>
@@ -21816,7 +21827,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Goals</source>
-        <translation type="unfinished"></translation>
+        <translation>Cíle</translation>
     </message>
     <message>
         <source>Week %1 · from %2</source>
@@ -21896,7 +21907,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>no result</source>
-        <translation type="unfinished"></translation>
+        <translation>bez výsledku</translation>
     </message>
     <message>
         <source>Result</source>
@@ -21916,11 +21927,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonus</translation>
     </message>
     <message>
         <source>Score: %1 / 3 = %2</source>
