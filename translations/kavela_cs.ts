@@ -1237,63 +1237,63 @@
     <name>kavela</name>
     <message>
         <source>The time from the mark before to the mark of this section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas od předchozí značky ke značce tohoto úseku.</translation>
     </message>
     <message>
         <source>mark − mark before</source>
-        <translation type="unfinished"></translation>
+        <translation>značka − předchozí značka</translation>
     </message>
     <message>
         <source>The time of the section with the penalties of its gates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas úseku s penalizací jeho branek.</translation>
     </message>
     <message>
         <source>time + penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>čas + penalizace</translation>
     </message>
     <message>
         <source>The time from the start to the mark of this section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas od startu ke značce tohoto úseku.</translation>
     </message>
     <message>
         <source>Σ sections up to here</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ úseky až sem</translation>
     </message>
     <message>
         <source>All sections together, as timed from the video, without penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny úseky dohromady, jak byly změřeny z videa, bez penalizace.</translation>
     </message>
     <message>
         <source>Σ sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ úseky</translation>
     </message>
     <message>
         <source>All sections together, as timed from the video, and the penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny úseky dohromady, jak byly změřeny z videa, a penalizace.</translation>
     </message>
     <message>
         <source>Σ sections + penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ úseky + penalizace</translation>
     </message>
     <message>
         <source>The sprint as it was timed for this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprint, jak byl u této jízdy změřen.</translation>
     </message>
     <message>
         <source>sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>sprint</translation>
     </message>
     <message>
         <source>The official time as it was entered for this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Oficiální čas, jak byl u této jízdy zadán.</translation>
     </message>
     <message>
         <source>real</source>
-        <translation type="unfinished"></translation>
+        <translation>čistý</translation>
     </message>
     <message>
         <source>A run of another race, held against the runs of this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda z jiného závodu, porovnaná s jízdami tohoto.</translation>
     </message>
     <message>
         <source>time</source>
@@ -1301,23 +1301,23 @@
     </message>
     <message>
         <source>The colour tells between which tenths of its column a time lies.</source>
-        <translation type="unfinished"></translation>
+        <translation>Barva říká, mezi kterými desetinami svého sloupce čas leží.</translation>
     </message>
     <message>
         <source>tenth below &lt; time ≤ tenth above</source>
-        <translation type="unfinished"></translation>
+        <translation>desetina pod &lt; čas ≤ desetina nad</translation>
     </message>
     <message>
         <source>The least time of its column has a colour of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejmenší čas sloupce má vlastní barvu.</translation>
     </message>
     <message>
         <source>time = least</source>
-        <translation type="unfinished"></translation>
+        <translation>čas = nejmenší</translation>
     </message>
     <message>
         <source>A total column with a run that has no total stays white.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sloupec celkových časů s jízdou bez celkového času zůstává bílý.</translation>
     </message>
     <message>
         <source>white</source>
@@ -1325,135 +1325,135 @@
     </message>
     <message>
         <source>What was not timed, or lies beside the scale, has no colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co nebylo změřeno, nebo leží mimo stupnici, nemá barvu.</translation>
     </message>
     <message>
         <source>no colour</source>
-        <translation type="unfinished"></translation>
+        <translation>bez barvy</translation>
     </message>
     <message>
         <source>The least of the column that counts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejmenší hodnota sloupce, která se počítá.</translation>
     </message>
     <message>
         <source>min values</source>
-        <translation type="unfinished"></translation>
+        <translation>min hodnot</translation>
     </message>
     <message>
         <source>The middle of the column, of what counts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Střed sloupce z toho, co se počítá.</translation>
     </message>
     <message>
         <source>median values</source>
-        <translation type="unfinished"></translation>
+        <translation>medián hodnot</translation>
     </message>
     <message>
         <source>The time less that of the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas minus čas reference.</translation>
     </message>
     <message>
         <source>own − reference</source>
-        <translation type="unfinished"></translation>
+        <translation>vlastní − reference</translation>
     </message>
     <message>
         <source>The place in the column: one more than are faster to the hundredth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo ve sloupci: o jedno víc, než kolik je rychlejších na setinu.</translation>
     </message>
     <message>
         <source>1 + faster</source>
-        <translation type="unfinished"></translation>
+        <translation>1 + rychlejší</translation>
     </message>
     <message>
         <source>How far behind the best of the column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak daleko za nejlepším ve sloupci.</translation>
     </message>
     <message>
         <source>100 · (own / best − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (vlastní / nejlepší − 1)</translation>
     </message>
     <message>
         <source>The share of the column that is as slow or slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Podíl sloupce, který je stejně pomalý nebo pomalejší.</translation>
     </message>
     <message>
         <source>100 · slower or equal / timed</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · pomalejší nebo stejné / změřené</translation>
     </message>
     <message>
         <source>The best time of the section that stands alone, whoever paddled it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejlepší samostatný čas úseku, ať ho zajel kdokoli.</translation>
     </message>
     <message>
         <source>min times</source>
-        <translation type="unfinished"></translation>
+        <translation>min časů</translation>
     </message>
     <message>
         <source>The best of every section up to here, put together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejlepší z každého úseku až sem, dohromady.</translation>
     </message>
     <message>
         <source>Σ bests up to here</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ nejlepší až sem</translation>
     </message>
     <message>
         <source>The best of every section, put together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejlepší z každého úseku, dohromady.</translation>
     </message>
     <message>
         <source>Σ bests</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ nejlepší</translation>
     </message>
     <message>
         <source>The seconds of all its touches and missed gates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy za všechny ťuky a neprojeté branky.</translation>
     </message>
     <message>
         <source>Σ gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ branky</translation>
     </message>
     <message>
         <source>The seconds of touches and missed gates of the section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy za ťuky a neprojeté branky úseku.</translation>
     </message>
     <message>
         <source>Σ gates of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ branky úseku</translation>
     </message>
     <message>
         <source>The official penalty seconds as they were entered for this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Oficiální trestné sekundy, jak byly u této jízdy zadány.</translation>
     </message>
     <message>
         <source>real penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>skutečná penalizace</translation>
     </message>
     <message>
         <source>The expected time as split taking stored it with this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Očekávaný čas, jak ho u této jízdy uložilo měření mezičasů.</translation>
     </message>
     <message>
         <source>expected</source>
-        <translation type="unfinished"></translation>
+        <translation>očekávaný</translation>
     </message>
     <message>
         <source>values of the column</source>
-        <translation type="unfinished"></translation>
+        <translation>hodnoty sloupce</translation>
     </message>
     <message>
         <source>least</source>
-        <translation type="unfinished"></translation>
+        <translation>nejméně</translation>
     </message>
     <message>
         <source>most</source>
-        <translation type="unfinished"></translation>
+        <translation>nejvíce</translation>
     </message>
     <message>
         <source>times that stand alone</source>
-        <translation type="unfinished"></translation>
+        <translation>samostatné časy</translation>
     </message>
     <message>
         <source>No gate was touched or missed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný ťuk ani neprojetá branka.</translation>
     </message>
     <message>
         <source>penalties</source>
@@ -1461,331 +1461,331 @@
     </message>
     <message>
         <source>faster</source>
-        <translation type="unfinished"></translation>
+        <translation>rychlejší</translation>
     </message>
     <message>
         <source>timed</source>
-        <translation type="unfinished"></translation>
+        <translation>změřené</translation>
     </message>
     <message>
         <source>slower or equal</source>
-        <translation type="unfinished"></translation>
+        <translation>pomalejší nebo stejné</translation>
     </message>
     <message>
         <source>median</source>
-        <translation type="unfinished"></translation>
+        <translation>medián</translation>
     </message>
     <message>
         <source>List of online planning entries.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznam položek plánování online.</translation>
     </message>
     <message>
         <source>Files that have already been watched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory, které už byly zhlédnuty.</translation>
     </message>
     <message>
         <source>Play the next video of a list when one ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Po skončení videa přehrát další ze seznamu.</translation>
     </message>
     <message>
         <source>Start a run at its stored video time rather than at the video&apos;s start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízdu začít v jejím uloženém čase videa, ne na začátku videa.</translation>
     </message>
     <message>
         <source>Start playback as soon as a row is clicked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehrát hned po kliknutí na řádek.</translation>
     </message>
     <message>
         <source>Show penalties in the tables.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukazovat v tabulkách penalizace.</translation>
     </message>
     <message>
         <source>Include penalty seconds in the times that are compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Započítat trestné sekundy do porovnávaných časů.</translation>
     </message>
     <message>
         <source>Colours of the split table.</source>
-        <translation type="unfinished"></translation>
+        <translation>Barvy tabulky mezičasů.</translation>
     </message>
     <message>
         <source>Comment tag chosen last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Naposled zvolený štítek komentáře.</translation>
     </message>
     <message>
         <source>Show the coach&apos;s comments.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukazovat komentáře trenéra.</translation>
     </message>
     <message>
         <source>In tag mode, play only the tagged part of a video.</source>
-        <translation type="unfinished"></translation>
+        <translation>V režimu štítků přehrát jen část videa se štítkem.</translation>
     </message>
     <message>
         <source>Kind of data opened last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Naposled otevřený druh dat.</translation>
     </message>
     <message>
         <source>Full screen shows the roll chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Celá obrazovka ukazuje graf klonění do stran.</translation>
     </message>
     <message>
         <source>Full screen shows the pitch chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Celá obrazovka ukazuje graf kolébání.</translation>
     </message>
     <message>
         <source>Full screen shows the heart-rate chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Celá obrazovka ukazuje graf tepové frekvence.</translation>
     </message>
     <message>
         <source>Full screen shows the scatter chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Celá obrazovka ukazuje bodový graf.</translation>
     </message>
     <message>
         <source>Show boat-motion values normalised.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukazovat normalizované hodnoty pohybu lodi.</translation>
     </message>
     <message>
         <source>Show the impulse gauge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukazovat ukazatel impulzu.</translation>
     </message>
     <message>
         <source>Show the stroke-rate gauge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukazovat ukazatel frekvence záběrů.</translation>
     </message>
     <message>
         <source>Number of splits of a new split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Počet mezičasů nového souboru mezičasů.</translation>
     </message>
     <message>
         <source>Tag names saved for reuse.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jména štítků uložená k opětovnému použití.</translation>
     </message>
     <message>
         <source>Time-loss reasons saved for reuse.</source>
-        <translation type="unfinished"></translation>
+        <translation>Důvody časových ztrát uložené k opětovnému použití.</translation>
     </message>
     <message>
         <source>Load a planning file at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Při spuštění načíst soubor plánování.</translation>
     </message>
     <message>
         <source>The planning file to load at start is an online one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor plánování načítaný při spuštění je online.</translation>
     </message>
     <message>
         <source>Planning file to load at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor plánování načítaný při spuštění.</translation>
     </message>
     <message>
         <source>Also export the table as CSV on saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Při ukládání také exportovat tabulku jako CSV.</translation>
     </message>
     <message>
         <source>Also export a PDF on saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Při ukládání také exportovat PDF.</translation>
     </message>
     <message>
         <source>Main folder to open at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hlavní složka otevíraná při spuštění.</translation>
     </message>
     <message>
         <source>Open the test tool at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Při spuštění otevřít nástroj testů.</translation>
     </message>
     <message>
         <source>The file is not an activity, but something else of the device.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor není aktivita, ale něco jiného z přístroje.</translation>
     </message>
     <message>
         <source>There are no points in the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>V souboru nejsou žádné body.</translation>
     </message>
     <message numerus="yes">
         <source>{} videos</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} video</numerusform>
+            <numerusform>{} videa</numerusform>
+            <numerusform>{} videí</numerusform>
         </translation>
     </message>
     <message>
         <source>Makes a training file of the videos that carry an athlete&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytvoří tréninkový soubor z videí, která nesou jméno závodníka</translation>
     </message>
     <message>
         <source>Folder of the videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka s videi</translation>
     </message>
     <message>
         <source>The athlete&apos;s name; a crew as &quot;A / B&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno závodníka; posádka jako &quot;A / B&quot;</translation>
     </message>
     <message>
         <source>Replace a training file that is there already</source>
-        <translation type="unfinished"></translation>
+        <translation>Nahradit tréninkový soubor, který už existuje</translation>
     </message>
     <message>
         <source>Kavela: splits, results and recordings of canoe slalom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kavela: mezičasy, výsledky a záznamy vodního slalomu.</translation>
     </message>
     <message>
         <source>Files to open in the desktop program</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory k otevření v desktopovém programu</translation>
     </message>
     <message>
         <source>Start another desktop program, also where one runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Spustit další desktopový program, i když už jeden běží</translation>
     </message>
     <message>
         <source>Language of what is said: en or one that is built in</source>
-        <translation type="unfinished"></translation>
+        <translation>Jazyk výstupu: en nebo některý z vestavěných</translation>
     </message>
     <message>
         <source>There is not enough memory for this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro tento soubor není dost paměti.</translation>
     </message>
     <message>
         <source>Composes a film of several runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Složí film z více jízd</translation>
     </message>
     <message>
         <source>What is to be composed (.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Co se má složit (.json)</translation>
     </message>
     <message>
         <source>File to write, in place of the job&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor k zápisu místo toho z úlohy</translation>
     </message>
     <message numerus="yes">
         <source>{} strokes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} záběr</numerusform>
+            <numerusform>{} záběry</numerusform>
+            <numerusform>{} záběrů</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} turns</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} obrat</numerusform>
+            <numerusform>{} obraty</numerusform>
+            <numerusform>{} obratů</numerusform>
         </translation>
     </message>
     <message>
         <source>Give another name with --name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zadejte jiné jméno pomocí --name.</translation>
     </message>
     <message>
         <source>A name goes with one recording only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno patří jen k jedinému záznamu.</translation>
     </message>
     <message>
         <source>Writes the processed session of raw recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapíše zpracovanou jednotku ze surových záznamů</translation>
     </message>
     <message>
         <source>Raw recordings (.kvb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Surové záznamy (.kvb)</translation>
     </message>
     <message>
         <source>Name of the new file, for a further one</source>
-        <translation type="unfinished"></translation>
+        <translation>Jméno nového souboru, u dalšího</translation>
     </message>
     <message numerus="yes">
         <source>{} files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} soubor</numerusform>
+            <numerusform>{} soubory</numerusform>
+            <numerusform>{} souborů</numerusform>
         </translation>
     </message>
     <message>
         <source>Failed to create file</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor se nepodařilo vytvořit</translation>
     </message>
     <message>
         <source>Writes a sample season to try Kavela with</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapíše ukázkovou sezónu k vyzkoušení Kavely</translation>
     </message>
     <message>
         <source>Folder to write to; made where it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka k zápisu; chybí-li, vytvoří se</translation>
     </message>
     <message>
         <source>Makes short films of runs as well</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytvoří také krátké filmy jízd</translation>
     </message>
     <message>
         <source>Writes the split table for a spreadsheet, or a report</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapíše tabulku mezičasů pro tabulkový procesor, nebo zprávu</translation>
     </message>
     <message>
         <source>Split file (.kvx) of any release</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor mezičasů (.kvx) kterékoli verze</translation>
     </message>
     <message>
         <source>File to write: semicolon-separated text</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor k zápisu: text oddělený středníky</translation>
     </message>
     <message>
         <source>File to write: the race report, on A4 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor k zápisu: zpráva o závodě, na stranách A4</translation>
     </message>
     <message>
         <source>There is no split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není zde soubor mezičasů.</translation>
     </message>
     <message numerus="yes">
         <source>{} tables</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} tabulka</numerusform>
+            <numerusform>{} tabulky</numerusform>
+            <numerusform>{} tabulek</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} jízda</numerusform>
+            <numerusform>{} jízdy</numerusform>
+            <numerusform>{} jízd</numerusform>
         </translation>
     </message>
     <message>
         <source>Writes what split files say as tables for other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapíše obsah souborů mezičasů jako tabulky pro jiné programy</translation>
     </message>
     <message>
         <source>Split files, or folders with them</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů, nebo složky s nimi</translation>
     </message>
     <message>
         <source>Folder to write to</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka k zápisu</translation>
     </message>
     <message>
         <source>Fetches the films of a race by their bibs</source>
-        <translation type="unfinished"></translation>
+        <translation>Stáhne filmy závodu podle startovních čísel</translation>
     </message>
     <message>
         <source>Where the films come from (.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Odkud filmy přicházejí (.json)</translation>
     </message>
     <message>
         <source>Only print what would be fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen vypsat, co by se stáhlo</translation>
     </message>
     <message>
         <source>Do not ask before anything is fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>Neptat se, než se něco stáhne</translation>
     </message>
     <message>
         <source>User name for the server of the address</source>
-        <translation type="unfinished"></translation>
+        <translation>Uživatelské jméno pro server adresy</translation>
     </message>
     <message>
         <source>A search needs a file or folder and, last, the query in quotes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledání potřebuje soubor nebo složku a nakonec dotaz v uvozovkách.</translation>
     </message>
     <message>
         <source>The table cannot be written over a file that is searched.</source>
@@ -1793,434 +1793,437 @@
     </message>
     <message>
         <source>Searches split files: a season in one question</source>
-        <translation type="unfinished"></translation>
+        <translation>Prohledá soubory mezičasů: sezóna v jediném dotazu</translation>
     </message>
     <message>
         <source>Split files, or folders with them; last the query, in quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů, nebo složky s nimi; nakonec dotaz v uvozovkách</translation>
     </message>
     <message>
         <source>Print one JSON document</source>
-        <translation type="unfinished"></translation>
+        <translation>Vypsat jeden dokument JSON</translation>
     </message>
     <message numerus="yes">
         <source>{} groups</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} skupina</numerusform>
+            <numerusform>{} skupiny</numerusform>
+            <numerusform>{} skupin</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} rows</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} řádek</numerusform>
+            <numerusform>{} řádky</numerusform>
+            <numerusform>{} řádků</numerusform>
         </translation>
     </message>
     <message>
         <source>What an athlete can lift once, by five formulas</source>
-        <translation type="unfinished"></translation>
+        <translation>Co závodník zvedne jednou, podle pěti vzorců</translation>
     </message>
     <message>
         <source>How often the weight was lifted</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolikrát byla hmotnost zvednuta</translation>
     </message>
     <message>
         <source>The weight in kilograms</source>
-        <translation type="unfinished"></translation>
+        <translation>Hmotnost v kilogramech</translation>
     </message>
     <message numerus="yes">
         <source>{} results</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} výsledek</numerusform>
+            <numerusform>{} výsledky</numerusform>
+            <numerusform>{} výsledků</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} lines</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} řádek</numerusform>
+            <numerusform>{} řádky</numerusform>
+            <numerusform>{} řádků</numerusform>
         </translation>
     </message>
     <message>
         <source>Adds an official results list to a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidá do souboru mezičasů oficiální výsledkovou listinu</translation>
     </message>
     <message>
         <source>Split file (.kvx) of the current version</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor mezičasů (.kvx) současné verze</translation>
     </message>
     <message>
         <source>Semicolon-separated text with a header line: position, bib, name, nationality, time, penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Text oddělený středníky s řádkem nadpisů: pořadí, startovní číslo, jméno, národnost, čas, penalizace</translation>
     </message>
     <message>
         <source>Says what files are, or what is wrong in them</source>
-        <translation type="unfinished"></translation>
+        <translation>Řekne, co jsou soubory zač, nebo co je v nich špatně</translation>
     </message>
     <message>
         <source>Files of any kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory jakéhokoli druhu</translation>
     </message>
     <message>
         <source>The table cannot be written over a file that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulku nelze zapsat přes soubor, ze kterého vzniká.</translation>
     </message>
     <message>
         <source>Tells where runs lose time against one another</source>
-        <translation type="unfinished"></translation>
+        <translation>Řekne, kde jízdy proti sobě ztrácejí čas</translation>
     </message>
     <message>
         <source>Split file (.kvx) of any release; with --athlete also folders of them</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor mezičasů (.kvx) kterékoli verze; s --athlete také jejich složky</translation>
     </message>
     <message>
         <source>winner, fastest, ideal, median, own or run:I; winner without other word</source>
-        <translation type="unfinished"></translation>
+        <translation>winner, fastest, ideal, median, own nebo run:I; bez uvedení winner</translation>
     </message>
     <message>
         <source>The season of an athlete over all the paths; a crew as &quot;A / B&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Sezóna závodníka přes všechny cesty; posádka jako &quot;A / B&quot;</translation>
     </message>
     <message>
         <source>Only the athlete&apos;s runs of this category</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen jízdy závodníka v této kategorii</translation>
     </message>
     <message>
         <source>Folder to write the athlete&apos;s page into, named after the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka, do níž se zapíše stránka závodníka, pojmenovaná po něm</translation>
     </message>
     <message>
         <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, …</source>
-        <translation type="unfinished"></translation>
+        <translation>Vysvětlit místo toho jedno číslo: loss/RUN/winner/5, gap/RUN/ideal, …</translation>
     </message>
     <message>
         <source>run {}</source>
-        <translation type="unfinished"></translation>
+        <translation>jízda {}</translation>
     </message>
     <message>
         <source>no total</source>
-        <translation type="unfinished"></translation>
+        <translation>bez celkového času</translation>
     </message>
     <message>
         <source>, no totals to compare</source>
-        <translation type="unfinished"></translation>
+        <translation>, bez celkových časů k porovnání</translation>
     </message>
     <message>
         <source>strokes {} on {}</source>
-        <translation type="unfinished"></translation>
+        <translation>záběry {} proti {}</translation>
     </message>
     <message>
         <source>gate {} {}</source>
-        <translation type="unfinished"></translation>
+        <translation>branka {} {}</translation>
     </message>
     <message>
         <source>     Explained by notes: {} of {} ({:.0f} %)</source>
-        <translation type="unfinished"></translation>
+        <translation>     Vysvětleno poznámkami: {} z {} ({:.0f} %)</translation>
     </message>
     <message>
         <source>Tells how often gates are touched, what it cost, and whether speed pays</source>
-        <translation type="unfinished"></translation>
+        <translation>Řekne, jak často se na brankách ťuká, co to stálo a zda se rychlost vyplácí</translation>
     </message>
     <message>
         <source>Split files (.kvx) of any release, or folders of them</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (.kvx) kterékoli verze, nebo jejich složky</translation>
     </message>
     <message>
         <source>What the rates are by; by gate without other word</source>
-        <translation type="unfinished"></translation>
+        <translation>Podle čeho jsou podíly; bez uvedení podle branky</translation>
     </message>
     <message>
         <source>Only runs of this category</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen jízdy této kategorie</translation>
     </message>
     <message>
         <source>File to write the rates to: semicolon-separated text</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor, do něhož se zapíší podíly: text oddělený středníky</translation>
     </message>
     <message>
         <source>Explain one number instead: rate/gate/7, touches/crew/NAME, cost/RUN/GATE, …</source>
-        <translation type="unfinished"></translation>
+        <translation>Vysvětlit místo toho jedno číslo: rate/gate/7, touches/crew/NAME, cost/RUN/GATE, …</translation>
     </message>
     <message>
         <source>… {} more; all of them with --json, --csv or in a pipe</source>
-        <translation type="unfinished"></translation>
+        <translation>… dalších {}; všechny pomocí --json, --csv nebo v rouře</translation>
     </message>
     <message>
         <source>Penalties by {} · {}, {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace podle {} · {}, {}</translation>
     </message>
     <message>
         <source>{} of {} whole runs without a penalty: {:.1f} % ({})</source>
-        <translation type="unfinished"></translation>
+        <translation>{} z {} úplných jízd bez penalizace: {:.1f} % ({})</translation>
     </message>
     <message>
         <source>Ranked: drawn towards {:.1f} %, the more the fewer the passages;</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyhlazené: přitaženo k {:.1f} %, tím víc, čím méně je průjezdů;</translation>
     </message>
     <message>
         <source>{} of {}</source>
-        <translation type="unfinished"></translation>
+        <translation>{} z {}</translation>
     </message>
     <message>
         <source>What penalties cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Co penalizace stály</translation>
     </message>
     <message numerus="yes">
         <source>{} penalties</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} penalizace</numerusform>
+            <numerusform>{} penalizace</numerusform>
+            <numerusform>{} penalizací</numerusform>
         </translation>
     </message>
     <message>
         <source>gate {}</source>
-        <translation type="unfinished"></translation>
+        <translation>branka {}</translation>
     </message>
     <message>
         <source>  {} of {}, without {}</source>
-        <translation type="unfinished"></translation>
+        <translation>  {} z {}, bez {}</translation>
     </message>
     <message>
         <source>{} {} of {} ({:.0f} %, {:.0f}–{:.0f})</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} z {} ({:.0f} %, {:.0f}–{:.0f})</translation>
     </message>
     <message>
         <source>Noted of {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Poznamenáno z {}</translation>
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run; times in percent of the group&apos;s median</source>
-        <translation type="unfinished"></translation>
+        <translation>1 % rychlosti vyváží {:.2f} ťuku na jízdu; časy v procentech mediánu skupiny</translation>
     </message>
     <message>
         <source>The sum of the best splits, and what each run could be</source>
-        <translation type="unfinished"></translation>
+        <translation>Součet nejlepších mezičasů a co by mohla být každá jízda</translation>
     </message>
     <message>
         <source>Store the values in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit hodnoty do souboru</translation>
     </message>
     <message>
         <source>Tell how a number came about: perfect, or xtime/5 (runs from 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Řekne, jak číslo vzniklo: perfect, nebo xtime/5 (jízdy od 0)</translation>
     </message>
     <message>
         <source>The weeks of each athlete&apos;s seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Týdny sezón každého závodníka</translation>
     </message>
     <message>
         <source>Planning (.planning) of any version</source>
-        <translation type="unfinished"></translation>
+        <translation>Plánování (.planning) kterékoli verze</translation>
     </message>
     <message>
         <source>Brings plannings to the current version</source>
-        <translation type="unfinished"></translation>
+        <translation>Převede plánování do současné verze</translation>
     </message>
     <message>
         <source>Plannings (.planning) of any version</source>
-        <translation type="unfinished"></translation>
+        <translation>Plánování (.planning) kterékoli verze</translation>
     </message>
     <message>
         <source>Shows and upgrades training plannings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukazuje a převádí tréninkové plánování</translation>
     </message>
     <message numerus="yes">
         <source>{} weeks</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} týden</numerusform>
+            <numerusform>{} týdny</numerusform>
+            <numerusform>{} týdnů</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} sessions</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} jednotka</numerusform>
+            <numerusform>{} jednotky</numerusform>
+            <numerusform>{} jednotek</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} athletes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} závodník</numerusform>
+            <numerusform>{} závodníci</numerusform>
+            <numerusform>{} závodníků</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} favourite interval sessions</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} oblíbená intervalová jednotka</numerusform>
+            <numerusform>{} oblíbené intervalové jednotky</numerusform>
+            <numerusform>{} oblíbených intervalových jednotek</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} variability measurements</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} měření variability</numerusform>
+            <numerusform>{} měření variability</numerusform>
+            <numerusform>{} měření variability</numerusform>
         </translation>
     </message>
     <message>
         <source>Tells how the athletes of a team stand over seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Řekne, jak jsou na tom závodníci týmu v průběhu sezón</translation>
     </message>
     <message>
         <source>Team file (.kvteam)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor týmu (.kvteam)</translation>
     </message>
     <message>
         <source>Split files (.kvx) of any release, or folders of them: they tell the winners and the rivals</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (.kvx) kterékoli verze, nebo jejich složky: udávají vítěze a soupeře</translation>
     </message>
     <message>
         <source>Category: MK1, WK1, MC1, WC1, MX1, WX1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie: MK1, WK1, MC1, WC1, MX1, WX1</translation>
     </message>
     <message>
         <source>Only these: 2025, or 2023-2025</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen tyto: 2025, nebo 2023-2025</translation>
     </message>
     <message>
         <source>Whose places to expect of one another; the team and those who raced most often without it</source>
-        <translation type="unfinished"></translation>
+        <translation>Čí vzájemná místa odhadnout; bez uvedení tým a ti, kdo závodili nejčastěji</translation>
     </message>
     <message>
         <source>File to write: the runs of the athletes as semicolon-separated text</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor k zápisu: jízdy závodníků jako text oddělený středníky</translation>
     </message>
     <message>
         <source>Folder to write a report of the team and a page for each athlete into</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka, do níž se zapíše zpráva o týmu a stránka pro každého závodníka</translation>
     </message>
     <message>
         <source>Explain one number instead: spread, trend/NAME, percent/NAME/2025/WC1/Final, …</source>
-        <translation type="unfinished"></translation>
+        <translation>Vysvětlit místo toho jedno číslo: spread, trend/NAME, percent/NAME/2025/WC1/Final, …</translation>
     </message>
     <message>
         <source>{:+.1f} to {:+.1f}</source>
-        <translation type="unfinished"></translation>
+        <translation>{:+.1f} až {:+.1f}</translation>
     </message>
     <message>
         <source>{:+.2f} to {:+.2f}</source>
-        <translation type="unfinished"></translation>
+        <translation>{:+.2f} až {:+.2f}</translation>
     </message>
     <message>
         <source>      {} run {} {} {}
 </source>
-        <translation type="unfinished"></translation>
+        <translation>      {} jízda {} {} {}
+</translation>
     </message>
     <message>
         <source>  {}. {}: {}, {} s a run
 </source>
-        <translation type="unfinished"></translation>
+        <translation>  {}. {}: {}, {} s na jízdu
+</translation>
     </message>
     <message numerus="yes">
         <source>{} whole runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} úplná jízda</numerusform>
+            <numerusform>{} úplné jízdy</numerusform>
+            <numerusform>{} úplných jízd</numerusform>
         </translation>
     </message>
     <message>
         <source> · on {} · {}
 </source>
-        <translation type="unfinished"></translation>
+        <translation> · proti {} · {}
+</translation>
     </message>
     <message>
         <source> ({:+.1f} to {:+.1f})</source>
-        <translation type="unfinished"></translation>
+        <translation> ({:+.1f} až {:+.1f})</translation>
     </message>
     <message numerus="yes">
         <source>{} split files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} soubor mezičasů</numerusform>
+            <numerusform>{} soubory mezičasů</numerusform>
+            <numerusform>{} souborů mezičasů</numerusform>
         </translation>
     </message>
     <message>
         <source> · {} · {} of races</source>
-        <translation type="unfinished"></translation>
+        <translation> · {} · {} závodů</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary by chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Příliš málo jízd na to, aby se poznalo, jak náhodně kolísají.</translation>
     </message>
     <message>
         <source>Runs vary by {:.1f} %{}, from {}; {:.2f} % is worth gaining.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízdy kolísají o {:.1f} %{}, z {}; vyplatí se získat {:.2f} %.</translation>
     </message>
     <message>
         <source>Neither winners nor fastest splits of these races are known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vítězové ani nejrychlejší mezičasy těchto závodů nejsou známi.</translation>
     </message>
     <message>
         <source>      ┄ third of the final, median</source>
-        <translation type="unfinished"></translation>
+        <translation>      ┄ třetí z finále, medián</translation>
     </message>
     <message>
         <source>within</source>
-        <translation type="unfinished"></translation>
+        <translation>v závodě</translation>
     </message>
     <message>
         <source>trend</source>
-        <translation type="unfinished"></translation>
+        <translation>trend</translation>
     </message>
     <message>
         <source>on splits</source>
-        <translation type="unfinished"></translation>
+        <translation>na mezičasech</translation>
     </message>
     <message>
         <source>{:.1f} % (all {:.1f}{})</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} % (vše {:.1f}{})</translation>
     </message>
     <message>
         <source>, {} missed</source>
-        <translation type="unfinished"></translation>
+        <translation>, neprojeto {}</translation>
     </message>
     <message>
         <source>{:+.1f} %/yr{} </source>
-        <translation type="unfinished"></translation>
+        <translation>{:+.1f} %/rok{} </translation>
     </message>
     <message>
         <source>{} of {} ({:.0f}–{:.0f} %)</source>
-        <translation type="unfinished"></translation>
+        <translation>{} z {} ({:.0f}–{:.0f} %)</translation>
     </message>
     <message numerus="yes">
         <source>{} races</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} závod</numerusform>
+            <numerusform>{} závody</numerusform>
+            <numerusform>{} závodů</numerusform>
         </translation>
     </message>
     <message>
         <source> {} of {} ({:.0f}–{:.0f} %), {:+.1f} %</source>
-        <translation type="unfinished"></translation>
+        <translation> {} z {} ({:.0f}–{:.0f} %), {:+.1f} %</translation>
     </message>
     <message>
         <source>rank {}</source>
-        <translation type="unfinished"></translation>
+        <translation>pořadí {}</translation>
     </message>
     <message>
         <source>… {} more; all of them with --json or in a pipe</source>
-        <translation type="unfinished"></translation>
+        <translation>… dalších {}; všechny pomocí --json nebo v rouře</translation>
     </message>
     <message>
         <source>{} more boats come into question: name a field with --field</source>
-        <translation type="unfinished"></translation>
+        <translation>V úvahu přichází dalších lodí: {}; pole určí --field</translation>
     </message>
     <message>
         <source>{} is left out: fewer than {} runs, or never met the others</source>
@@ -2976,7 +2979,7 @@
     </message>
     <message>
         <source>counted</source>
-        <translation type="unfinished"></translation>
+        <translation>počítá se</translation>
     </message>
     <message>
         <source>{} left out: {}</source>
@@ -3620,7 +3623,7 @@
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Týden</translation>
     </message>
     <message>
         <source>Days</source>
@@ -3648,19 +3651,19 @@
     </message>
     <message>
         <source>Morning</source>
-        <translation type="unfinished"></translation>
+        <translation>Ráno</translation>
     </message>
     <message>
         <source>Afternoon</source>
-        <translation type="unfinished"></translation>
+        <translation>Odpoledne</translation>
     </message>
     <message>
         <source>Evening</source>
-        <translation type="unfinished"></translation>
+        <translation>Večer</translation>
     </message>
     <message>
         <source>Any time</source>
-        <translation type="unfinished"></translation>
+        <translation>Kdykoli</translation>
     </message>
     <message>
         <source>Session</source>
@@ -3864,7 +3867,7 @@
     </message>
     <message>
         <source>best</source>
-        <translation type="unfinished"></translation>
+        <translation>nejlepší</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -4060,7 +4063,7 @@
     </message>
     <message>
         <source>Pos</source>
-        <translation type="unfinished"></translation>
+        <translation>Poř.</translation>
     </message>
     <message>
         <source>SURNAME Name</source>
@@ -4180,7 +4183,7 @@
     </message>
     <message>
         <source>Final position</source>
-        <translation type="unfinished"></translation>
+        <translation>Konečné pořadí</translation>
     </message>
     <message>
         <source>No athlete of this category comes into question.</source>
@@ -4920,7 +4923,7 @@
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka</translation>
     </message>
     <message>
         <source>One-repetition maximum</source>
@@ -12605,7 +12608,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>No ways are compared in this run.</source>
-        <translation>V této jízdě se neporovnávají žádné stopy.</translation>
+        <translation>V této jízdě se neporovnávají žádné varianty.</translation>
     </message>
     <message>
         <source>Sections</source>
@@ -12625,7 +12628,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Ways</source>
-        <translation>Stopy</translation>
+        <translation>Varianty</translation>
     </message>
     <message>
         <source>&amp;Play both films</source>
@@ -12756,7 +12759,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Table of &amp;ways</source>
-        <translation>Tabulka s&amp;top</translation>
+        <translation>Tabulka &amp;variant</translation>
     </message>
     <message>
         <source>Show the whole &amp;chart</source>
@@ -13408,7 +13411,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Ways</source>
-        <translation>Stopy</translation>
+        <translation>Varianty</translation>
     </message>
     <message>
         <source>Cameras</source>
@@ -18118,7 +18121,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>The speed of the strokes is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost záběrů není známa.</translation>
     </message>
     <message>
         <source>Left</source>
@@ -18130,27 +18133,27 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>Side unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Strana neznámá</translation>
     </message>
     <message>
         <source>Information…</source>
-        <translation type="unfinished"></translation>
+        <translation>Informace…</translation>
     </message>
     <message>
         <source>Athlete, place, kind and equipment</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník, místo, druh a vybavení</translation>
     </message>
     <message>
         <source>Name the phone&apos;s mount</source>
-        <translation type="unfinished"></translation>
+        <translation>Určit upevnění telefonu</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Přiblížit</translation>
     </message>
     <message>
         <source>Show the selected stretch alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat jen vybranou část</translation>
     </message>
     <message>
         <source>Keep</source>
@@ -18158,7 +18161,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>Cut the session to the selected stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Oříznout jednotku na vybranou část</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -18166,7 +18169,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>Take the selected stretch out</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyjmout vybranou část</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -18178,11 +18181,11 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>Colour of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Barva tratě</translation>
     </message>
     <message>
         <source>%1 – %2: %3 s, %4 strokes, %5/min, %6 m, %7 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2: %3 s, záběrů %4, %5/min, %6 m, %7 m/s</translation>
     </message>
 </context>
 <context>
@@ -18193,7 +18196,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>Sessions (*.bms);;Sessions (*.sbm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Jednotky (*.bms);;Jednotky (*.sbm)</translation>
     </message>
     <message>
         <source>All files (*)</source>
@@ -18213,38 +18216,38 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>Sessions (*.sbm *.bms)</source>
-        <translation type="unfinished"></translation>
+        <translation>Jednotky (*.sbm *.bms)</translation>
     </message>
     <message>
         <source>power of the power meter</source>
-        <translation type="unfinished"></translation>
+        <translation>výkon wattmetru</translation>
     </message>
     <message>
         <source>Save the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit jednotku</translation>
     </message>
     <message>
         <source>Save with it</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit s nimi</translation>
     </message>
     <message>
         <source>Save without it</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit bez nich</translation>
     </message>
     <message>
         <source>Saved without the power meter&apos;s data, which are still here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Uloženo bez dat wattmetru; ta jsou stále zde.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SettingsWindow</name>
     <message>
         <source>Look and tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzhled a tabulky</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Video</translation>
     </message>
     <message>
         <source>Split taking</source>
@@ -18256,63 +18259,63 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>At start</source>
-        <translation type="unfinished"></translation>
+        <translation>Při spuštění</translation>
     </message>
     <message>
         <source>The decoded frames of all open films together take at most %1, and never more than a quarter of this computer&apos;s memory of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dekódované snímky všech otevřených filmů zaberou dohromady nejvýš %1 a nikdy víc než čtvrtinu paměti tohoto počítače (%2).</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Nastavení</translation>
     </message>
     <message>
         <source>Every change takes effect at once, another language when Kavela starts again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Každá změna platí ihned, jiný jazyk po novém spuštění Kavely.</translation>
     </message>
     <message>
         <source>As the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Podle systému</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Světlý</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Tmavý</translation>
     </message>
     <message>
         <source>The environment variable KAVELA_SCHEME decides for this session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro toto spuštění rozhoduje proměnná prostředí KAVELA_SCHEME.</translation>
     </message>
     <message>
         <source>Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Okna</translation>
     </message>
     <message>
         <source>The environment variable KAVELA_LANGUAGE decides for this session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro toto spuštění rozhoduje proměnná prostředí KAVELA_LANGUAGE.</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Jazyk</translation>
     </message>
     <message>
         <source>Race: best green, others red</source>
-        <translation type="unfinished"></translation>
+        <translation>Závod: nejlepší zeleně, ostatní červeně</translation>
     </message>
     <message>
         <source>Training: cells tinted by rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Trénink: buňky tónované podle pořadí</translation>
     </message>
     <message>
         <source>Colours of the split table</source>
-        <translation type="unfinished"></translation>
+        <translation>Barvy tabulky mezičasů</translation>
     </message>
     <message>
         <source>One a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden na řádek.</translation>
     </message>
     <message>
         <source>none</source>
@@ -18320,15 +18323,15 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat…</translation>
     </message>
     <message>
         <source>Choose a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat složku</translation>
     </message>
     <message>
         <source>Choose a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat soubor</translation>
     </message>
     <message>
         <source>None</source>
@@ -18336,42 +18339,42 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>Look for a newer version once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Jednou denně zjišťovat novější verzi</translation>
     </message>
     <message>
         <source>Where it is looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde se zjišťuje</translation>
     </message>
     <message>
         <source>This is no https address. It is looked for where it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toto není adresa https. Zjišťuje se tam, kde předtím.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ShareActions</name>
     <message>
         <source>&amp;Open a folder to share…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít složku ke sdílení…</translation>
     </message>
     <message>
         <source>Sha&amp;re</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;dílení</translation>
     </message>
     <message>
         <source>&amp;Compare both sides</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Porovnat obě strany</translation>
     </message>
     <message>
         <source>&amp;Start with the ticked files</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Spustit se zaškrtnutými soubory</translation>
     </message>
     <message>
         <source>C&amp;ancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zrušit</translation>
     </message>
     <message>
         <source>&amp;Tick all but deletions</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtnout &amp;vše kromě mazání</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
@@ -18402,11 +18405,11 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>On this computer, with everything below it but hidden files</source>
-        <translation type="unfinished"></translation>
+        <translation>V tomto počítači, se vším pod ní kromě skrytých souborů</translation>
     </message>
     <message>
         <source>the folder that is shared</source>
-        <translation type="unfinished"></translation>
+        <translation>sdílená složka</translation>
     </message>
     <message>
         <source>&amp;Address</source>
@@ -18414,11 +18417,11 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
-        <translation type="unfinished"></translation>
+        <translation>Složky na serveru WebDAV: Nextcloud, ownCloud, NAS, Apache…</translation>
     </message>
     <message>
         <source>Choose the folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat složku…</translation>
     </message>
     <message>
         <source>Compare</source>
@@ -18426,7 +18429,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>Shows what differs; nothing is changed by it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukáže, co se liší; nic se tím nezmění</translation>
     </message>
     <message>
         <source>Start</source>
@@ -18434,7 +18437,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>Shares the ticked files</source>
-        <translation type="unfinished"></translation>
+        <translation>Sdílí zaškrtnuté soubory</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -18442,35 +18445,35 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>Nothing is shared before it is shown here</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic se nesdílí, dokud to není ukázáno zde</translation>
     </message>
     <message>
         <source>Another folder is shared once this one is done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jiná složka se bude sdílet, až bude tato hotova.</translation>
     </message>
     <message>
         <source>The folder to share</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka ke sdílení</translation>
     </message>
     <message>
         <source>There is no folder to share yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím není složka ke sdílení.</translation>
     </message>
     <message>
         <source>“%1” is no folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ není složka.</translation>
     </message>
     <message>
         <source>Both sides are looked at…</source>
-        <translation type="unfinished"></translation>
+        <translation>Procházejí se obě strany…</translation>
     </message>
     <message>
         <source>%1: %2 of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 z %3</translation>
     </message>
     <message>
         <source>%1: %2 files</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: soubory %2</translation>
     </message>
     <message>
         <source>%1 (on the server)</source>
@@ -18478,20 +18481,21 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>%1 (here)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (zde)</translation>
     </message>
     <message>
         <source>Delete 1 file?</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat 1 soubor?</translation>
     </message>
     <message>
         <source>Delete %1 files?</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat soubory (%1)?</translation>
     </message>
     <message>
         <source>
 and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>
+a dalších %1</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -18499,7 +18503,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Files are being shared…</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory se sdílejí…</translation>
     </message>
     <message>
         <source>This computer has no password store that is open. The password holds until this window is closed.</source>
@@ -18511,15 +18515,15 @@ and %1 more</source>
     </message>
     <message>
         <source>%v of %m files</source>
-        <translation type="unfinished"></translation>
+        <translation>soubory: %v z %m</translation>
     </message>
     <message>
         <source>Files are being shared</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory se sdílejí</translation>
     </message>
     <message>
         <source>What is done stays done; sharing again goes on with the rest.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co je hotovo, zůstane; nové sdílení naváže se zbytkem.</translation>
     </message>
     <message>
         <source>Stop and close</source>
@@ -18530,7 +18534,7 @@ and %1 more</source>
     <name>kavela::desktop::SiteList</name>
     <message>
         <source>Other servers that films may come from</source>
-        <translation type="unfinished"></translation>
+        <translation>Jiné servery, z nichž filmy smějí přijít</translation>
     </message>
 </context>
 <context>
@@ -19102,11 +19106,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <name>kavela::desktop::StartListDialog</name>
     <message>
         <source>Start list</source>
-        <translation type="unfinished"></translation>
+        <translation>Startovní listina</translation>
     </message>
     <message>
         <source>12,Ann Lee,K1W,10:01:30</source>
-        <translation type="unfinished"></translation>
+        <translation>12,Jana Malá,K1W,10:01:30</translation>
     </message>
     <message>
         <source>Day</source>
@@ -19118,15 +19122,15 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít</translation>
     </message>
     <message>
         <source>From a file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ze souboru…</translation>
     </message>
     <message>
         <source>Paste the list: bib, name, category and start time or order, or with titles in its first line. Boats that are in this phase already are corrected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vložte listinu: číslo, jméno, kategorie a čas startu nebo pořadí, nebo s nadpisy v prvním řádku. Lodě, které v této fázi už jsou, se opraví.</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
@@ -19134,7 +19138,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Starts: %1. Lines that cannot be taken: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Starty: %1. Řádky, které nelze převzít: %2.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
@@ -19145,54 +19149,54 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <name>kavela::desktop::StatisticsDialog</name>
     <message>
         <source>%1 in races, %2 in all</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 v závodech, %2 celkem</translation>
     </message>
     <message>
         <source>Left out</source>
-        <translation type="unfinished"></translation>
+        <translation>Vynecháno</translation>
     </message>
     <message>
         <source>Because it</source>
-        <translation type="unfinished"></translation>
+        <translation>Protože</translation>
     </message>
     <message>
         <source>Season statistics from split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistika sezóny ze souborů mezičasů</translation>
     </message>
     <message>
         <source>Runs found: %1, in %2 files. They replace what stands there now: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nalezené jízdy: %1, v souborech: %2. Nahradí to, co je tu nyní: %3.</translation>
     </message>
     <message>
         <source>None of the files has a run of this athlete and season. Nothing is replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný ze souborů nemá jízdu tohoto závodníka a sezóny. Nic se nenahradí.</translation>
     </message>
     <message>
         <source>&amp;Replace the statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nahradit statistiku</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::StrategyPage</name>
     <message>
         <source>best</source>
-        <translation type="unfinished"></translation>
+        <translation>nejlepší</translation>
     </message>
     <message>
         <source>way of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>varianta jízdy</translation>
     </message>
     <message>
         <source>way renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>varianta přejmenována</translation>
     </message>
     <message>
         <source>A time is a number of seconds such as 4.35, or 1:04.35</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas je počet sekund, třeba 4.35, nebo 1:04.35</translation>
     </message>
     <message>
         <source>time of a way</source>
-        <translation type="unfinished"></translation>
+        <translation>čas varianty</translation>
     </message>
     <message>
         <source>Taken</source>
@@ -19200,7 +19204,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Way</source>
-        <translation type="unfinished"></translation>
+        <translation>Varianta</translation>
     </message>
     <message>
         <source>Time</source>
@@ -19212,27 +19216,27 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>The tick is at the way that the run took. Names and times are edited by a double click.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtnuta je varianta, kterou jízda zvolila. Jména a časy se upravují dvojklikem.</translation>
     </message>
     <message>
         <source>Add a way</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat variantu</translation>
     </message>
     <message>
         <source>A section, or a name for the place</source>
-        <translation type="unfinished"></translation>
+        <translation>Úsek, nebo jméno místa</translation>
     </message>
     <message>
         <source>Another way, such as spin or direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Další varianta, třeba otočka nebo přímo</translation>
     </message>
     <message>
         <source>Take its time</source>
-        <translation type="unfinished"></translation>
+        <translation>Změřit její čas</translation>
     </message>
     <message>
         <source>comment on ways</source>
-        <translation type="unfinished"></translation>
+        <translation>komentář k variantám</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -19248,11 +19252,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Compared</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnáno</translation>
     </message>
     <message>
         <source>Time from</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas od</translation>
     </message>
     <message>
         <source>Section</source>
@@ -19260,55 +19264,55 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Without a name</source>
-        <translation type="unfinished"></translation>
+        <translation>Beze jména</translation>
     </message>
     <message>
         <source>The run took the fastest way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda zvolila nejrychlejší variantu.</translation>
     </message>
     <message>
         <source>The way of the run cost %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Varianta jízdy stála %1 s.</translation>
     </message>
     <message>
         <source>Choose a section or name a place, and add it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte úsek nebo pojmenujte místo a přidejte ho.</translation>
     </message>
     <message>
         <source>Add the ways of paddling this place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidejte varianty průjezdu tímto místem.</translation>
     </message>
     <message>
         <source>M marks where %1 ends</source>
-        <translation type="unfinished"></translation>
+        <translation>M označí, kde končí %1</translation>
     </message>
     <message>
         <source>M marks where %1 begins</source>
-        <translation type="unfinished"></translation>
+        <translation>M označí, kde začíná %1</translation>
     </message>
     <message>
         <source>Choose a section, or write a name for the place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte úsek, nebo napište jméno místa.</translation>
     </message>
     <message>
         <source>ways at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>varianty: %1</translation>
     </message>
     <message>
         <source>way added</source>
-        <translation type="unfinished"></translation>
+        <translation>varianta přidána</translation>
     </message>
     <message>
         <source>Add a way and select it first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív přidejte a vyberte variantu.</translation>
     </message>
     <message>
         <source>%1 was not timed there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 zde nebyla změřena.</translation>
     </message>
     <message>
         <source>%1 is timed: %2 s. Empty its time to mark it anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 je změřena: %2 s. Pro nové označení její čas vymažte.</translation>
     </message>
     <message>
         <source>Start</source>
@@ -19316,19 +19320,19 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>The end of a way comes after its beginning at %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Konec varianty následuje po jejím začátku v %1.</translation>
     </message>
     <message>
         <source>way timed</source>
-        <translation type="unfinished"></translation>
+        <translation>varianta změřena</translation>
     </message>
     <message>
         <source>way removed</source>
-        <translation type="unfinished"></translation>
+        <translation>varianta odstraněna</translation>
     </message>
     <message>
         <source>ways removed</source>
-        <translation type="unfinished"></translation>
+        <translation>varianty odstraněny</translation>
     </message>
 </context>
 <context>
@@ -19347,15 +19351,15 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Strokes/min</source>
-        <translation type="unfinished"></translation>
+        <translation>Záběry/min</translation>
     </message>
     <message>
         <source>A marks a stroke on the left, D on the right, M with the other hand than before.</source>
-        <translation type="unfinished"></translation>
+        <translation>A označí záběr vlevo, D vpravo, M druhou rukou než předtím.</translation>
     </message>
     <message>
         <source>Rate now</source>
-        <translation type="unfinished"></translation>
+        <translation>Nyní</translation>
     </message>
     <message>
         <source>Style</source>
@@ -19363,46 +19367,46 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>%1 per minute, %2 strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 za minutu, záběrů %2</translation>
     </message>
     <message>
         <source>left stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>záběr vlevo</translation>
     </message>
     <message>
         <source>right stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>záběr vpravo</translation>
     </message>
     <message>
         <source>other hand</source>
-        <translation type="unfinished"></translation>
+        <translation>druhá ruka</translation>
     </message>
     <message>
         <source>style of the stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>styl záběru</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SummaryPanel</name>
     <message>
         <source>Retired athletes are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodníci s ukončenou kariérou jsou vynecháni.</translation>
     </message>
     <message>
         <source>Two seasons are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jsou třeba dvě sezóny.</translation>
     </message>
     <message>
         <source>The first two seasons have no race with a final position.</source>
-        <translation type="unfinished"></translation>
+        <translation>První dvě sezóny nemají závod s konečným pořadím.</translation>
     </message>
     <message>
         <source> and </source>
-        <translation type="unfinished"></translation>
+        <translation> a </translation>
     </message>
     <message>
         <source>Over the seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Za všechny sezóny</translation>
     </message>
     <message>
         <source>All seasons</source>
@@ -19410,53 +19414,53 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Categorization</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorizace</translation>
     </message>
     <message>
         <source>, born %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, nar. %1</translation>
     </message>
     <message>
         <source>One race has no final position. It counts as a medal here, not in the categorization.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden závod nemá konečné pořadí. Počítá se zde jako medaile, v kategorizaci ne.</translation>
     </message>
     <message>
         <source>%1 races have no final position. They count as medals here, not in the categorization.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závody bez konečného pořadí: %1. Počítají se zde jako medaile, v kategorizaci ne.</translation>
     </message>
     <message>
         <source>Counted: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Počítá se: %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TableDocument</name>
     <message>
         <source>Join the athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Připojit závodníky</translation>
     </message>
     <message>
         <source>Say who line %1 is</source>
-        <translation type="unfinished"></translation>
+        <translation>Určit, kdo je řádek %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TablesActions</name>
     <message>
         <source>&amp;Open a list…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít seznam…</translation>
     </message>
     <message>
         <source>Open what was &amp;copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít z&amp;kopírované</translation>
     </message>
     <message>
         <source>A&amp;nother list of this file…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jiný seznam z tohoto souboru…</translation>
     </message>
     <message>
         <source>&amp;Keep with the race…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uchovat u závodu…</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
@@ -19480,71 +19484,71 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>The first line holds the &amp;titles</source>
-        <translation type="unfinished"></translation>
+        <translation>První řádek obsahuje &amp;nadpisy</translation>
     </message>
     <message>
         <source>The first line is a ro&amp;w</source>
-        <translation type="unfinished"></translation>
+        <translation>První řádek je řá&amp;dek</translation>
     </message>
     <message>
         <source>No &amp;groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Žád&amp;né skupiny</translation>
     </message>
     <message>
         <source>&amp;Column</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sloupec</translation>
     </message>
     <message>
         <source>&amp;Sort</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Řadit</translation>
     </message>
     <message>
         <source>Sort &amp;downwards</source>
-        <translation type="unfinished"></translation>
+        <translation>Řadit &amp;sestupně</translation>
     </message>
     <message>
         <source>&amp;Group by it</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;kupiny podle něj</translation>
     </message>
     <message>
         <source>&amp;Tint it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tónovat</translation>
     </message>
     <message>
         <source>&amp;Chart of it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Graf sloupce</translation>
     </message>
     <message>
         <source>&amp;Keep rows with…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponec&amp;hat řádky s…</translation>
     </message>
     <message>
         <source>&amp;Leave it out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vynechat</translation>
     </message>
     <message>
         <source>&amp;Read it as</source>
-        <translation type="unfinished"></translation>
+        <translation>Číst &amp;jako</translation>
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přidat</translation>
     </message>
     <message>
         <source>&amp;Total</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Celkem</translation>
     </message>
     <message>
         <source>&amp;Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pořadí</translation>
     </message>
     <message>
         <source>&amp;Gap to the best</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odstup od nejlepšího</translation>
     </message>
     <message>
         <source>&amp;Percent behind the best</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;rocenta za nejlepším</translation>
     </message>
     <message>
         <source>Percenti&amp;le</source>
@@ -19552,23 +19556,23 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>&amp;Another column…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jiný sloupec…</translation>
     </message>
     <message>
         <source>P&amp;ivot…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontin&amp;genční tabulka…</translation>
     </message>
     <message>
         <source>A&amp;thletes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Závodníci</translation>
     </message>
     <message>
         <source>&amp;Join a team…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Připojit tým…</translation>
     </message>
     <message>
         <source>&amp;Who is meant?…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kdo to je?…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
@@ -19576,7 +19580,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>What was &amp;refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Co bylo &amp;odmítnuto</translation>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
@@ -19595,19 +19599,19 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Drop a list of results here</source>
-        <translation type="unfinished"></translation>
+        <translation>Přetáhněte sem seznam výsledků</translation>
     </message>
     <message>
         <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Text (CSV, tabulátory, sloupce z mezer), tabulkový sešit (.xlsx, .ods), zkopírované ze stránky, nebo závod s listinou. Seznamy se jen čtou.</translation>
     </message>
     <message>
         <source>Open a list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít seznam…</translation>
     </message>
     <message>
         <source>Open what was copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít zkopírované</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -19615,7 +19619,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Kept with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Uchováno u %1</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
@@ -19627,35 +19631,35 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>“%1” cannot be opened as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze otevřít jako tabulku</translation>
     </message>
     <message>
         <source>What was copied is no list</source>
-        <translation type="unfinished"></translation>
+        <translation>Zkopírované není seznam</translation>
     </message>
     <message>
         <source>Which of its lists?</source>
-        <translation type="unfinished"></translation>
+        <translation>Který z jeho seznamů?</translation>
     </message>
     <message>
         <source>What was copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Zkopírované</translation>
     </message>
     <message>
         <source>This step cannot be taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento krok nelze provést</translation>
     </message>
     <message>
         <source>Keep rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponechat řádky</translation>
     </message>
     <message>
         <source>Rows whose “%1” contains this are kept; the cell as it stands keeps just its like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zůstanou řádky, jejichž „%1“ toto obsahuje; buňka tak, jak stojí, ponechá jen stejné.</translation>
     </message>
     <message>
         <source> table</source>
-        <translation type="unfinished"></translation>
+        <translation> tabulka</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
@@ -19667,19 +19671,19 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Begin anew?</source>
-        <translation type="unfinished"></translation>
+        <translation>Začít znovu?</translation>
     </message>
     <message>
         <source>What you made of this list is given up; the file stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co jste z tohoto seznamu udělali, se zahodí; soubor zůstane.</translation>
     </message>
     <message>
         <source>Begin anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Začít znovu</translation>
     </message>
     <message>
         <source>Join a team</source>
-        <translation type="unfinished"></translation>
+        <translation>Připojit tým</translation>
     </message>
     <message>
         <source>Teams (*.kvteam);;All files (*)</source>
@@ -19687,7 +19691,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>The rows cannot be joined</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádky nelze připojit</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -19695,15 +19699,15 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Nobody of the team</source>
-        <translation type="unfinished"></translation>
+        <translation>Nikdo z týmu</translation>
     </message>
     <message>
         <source>Who is %1 in line %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>Kdo je %1 v řádku %2?</translation>
     </message>
     <message>
         <source>Keep with the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Uchovat u závodu</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -19715,46 +19719,46 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>The table was not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka nebyla uložena</translation>
     </message>
     <message>
         <source>The list that it is made from stays as it is. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznam, ze kterého vzniká, zůstane, jak je. Zvolte jiné jméno.</translation>
     </message>
     <message>
         <source>Saving the table…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukládá se tabulka…</translation>
     </message>
     <message>
         <source>1 row</source>
-        <translation type="unfinished"></translation>
+        <translation>1 řádek</translation>
     </message>
     <message>
         <source>1 column</source>
-        <translation type="unfinished"></translation>
+        <translation>1 sloupec</translation>
     </message>
     <message>
         <source>%1 refused (F7)</source>
-        <translation type="unfinished"></translation>
+        <translation>odmítnuto %1 (F7)</translation>
     </message>
     <message>
         <source>%1 that only you can tell (F6)</source>
-        <translation type="unfinished"></translation>
+        <translation>jen vy víte: %1 (F6)</translation>
     </message>
     <message numerus="yes">
         <source>%n rows</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n řádek</numerusform>
+            <numerusform>%n řádky</numerusform>
+            <numerusform>%n řádků</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n columns</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n sloupec</numerusform>
+            <numerusform>%n sloupce</numerusform>
+            <numerusform>%n sloupců</numerusform>
         </translation>
     </message>
 </context>
@@ -19852,7 +19856,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>not in the team</source>
-        <translation type="unfinished"></translation>
+        <translation>není v týmu</translation>
     </message>
     <message>
         <source>Leave out</source>
@@ -19860,7 +19864,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Add %1 to the team</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat do týmu: %1</translation>
     </message>
     <message>
         <source>perhaps %1?</source>
@@ -19868,23 +19872,23 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>%1 is added to the athlete&apos;s boats</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 se přidá k lodím závodníka</translation>
     </message>
     <message>
         <source>the same stands there</source>
-        <translation type="unfinished"></translation>
+        <translation>tam je totéž</translation>
     </message>
     <message>
         <source>Take results over</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít výsledky</translation>
     </message>
     <message>
         <source>Choose the event</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolte akci</translation>
     </message>
     <message>
         <source>&amp;Event</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Akce</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -19892,11 +19896,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>&amp;Season</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sezóna</translation>
     </message>
     <message>
         <source>The positions are the &amp;final ones of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí jsou &amp;konečná pořadí závodu</translation>
     </message>
     <message>
         <source>&amp;Category</source>
@@ -19912,7 +19916,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít</translation>
     </message>
     <message>
         <source>Tick &amp;all</source>
@@ -19932,30 +19936,30 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Final position</source>
-        <translation type="unfinished"></translation>
+        <translation>Konečné pořadí</translation>
     </message>
     <message>
         <source>&amp;Take over 1 line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Převzít 1 řádek</translation>
     </message>
     <message>
         <source>Choose the event of the race.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolte akci závodu.</translation>
     </message>
     <message>
         <source>Nothing in the file belongs to an athlete of the team. A click on “not in the team” chooses one, or adds the name to the team.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic v souboru nepatří závodníkovi týmu. Kliknutí na „není v týmu“ někoho vybere, nebo přidá jméno do týmu.</translation>
     </message>
     <message>
         <source>%1 of %2 lines are ticked; %3 stay out. A click on an athlete chooses another one, or adds the name to the team.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtnuté řádky: %1 z %2; mimo zůstane %3. Kliknutí na závodníka vybere jiného, nebo přidá jméno do týmu.</translation>
     </message>
     <message numerus="yes">
         <source>&amp;Take over %n lines</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&amp;Převzít %n řádek</numerusform>
+            <numerusform>&amp;Převzít %n řádky</numerusform>
+            <numerusform>&amp;Převzít %n řádků</numerusform>
         </translation>
     </message>
 </context>
@@ -19967,11 +19971,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source> rad/s</source>
-        <translation type="unfinished"></translation>
+        <translation> rad/s</translation>
     </message>
     <message>
         <source>Take a test in from a recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít test ze záznamu</translation>
     </message>
     <message>
         <source>&amp;Test</source>
@@ -19991,19 +19995,19 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>&amp;Distance between the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vzdálenost mezi brankami</translation>
     </message>
     <message>
         <source>T&amp;urn limit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mez obratu</translation>
     </message>
     <message>
         <source>&amp;Suggest the marks again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Navrhnout značky znovu</translation>
     </message>
     <message>
         <source>Take in</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít</translation>
     </message>
     <message>
         <source>Lap %1</source>
@@ -20015,7 +20019,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Eight %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Osmička %1</translation>
     </message>
     <message>
         <source>Start</source>
@@ -20023,16 +20027,17 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>%1 strokes and %2 turns were found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nalezeno záběrů %1, obratů %2.</translation>
     </message>
     <message>
         <source>Ends at
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Končí v
+(s)</translation>
     </message>
     <message>
         <source>Seconds from the beginning of the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy od začátku záznamu</translation>
     </message>
     <message>
         <source>Time
@@ -20042,43 +20047,43 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Length of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Délka úseku</translation>
     </message>
     <message>
         <source>No such test was found in the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Takový test se v záznamu nenašel.</translation>
     </message>
     <message>
         <source>Each mark has to be later than the one before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Každá značka musí být pozdější než předchozí.</translation>
     </message>
     <message>
         <source>Laps found in the recording: %1 of %2. What is taken in has no more of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kola nalezená v záznamu: %1 z %2. Víc se jich nepřevezme.</translation>
     </message>
     <message>
         <source>Eights found in the recording: %1 of %2. What is taken in has no more of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Osmičky nalezené v záznamu: %1 z %2. Víc se jich nepřevezme.</translation>
     </message>
     <message>
         <source>Rotation and marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Otáčení a značky</translation>
     </message>
     <message>
         <source>Time from the beginning of the recording (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas od začátku záznamu (s)</translation>
     </message>
     <message>
         <source>Rotation (rad/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Otáčení (rad/s)</translation>
     </message>
     <message>
         <source>Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Otáčení</translation>
     </message>
     <message>
         <source>Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Značky</translation>
     </message>
 </context>
 <context>
@@ -20113,7 +20118,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Pohyb</translation>
     </message>
     <message>
         <source>yes</source>
@@ -20121,11 +20126,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Take in tests from “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít testy z „%1“</translation>
     </message>
     <message>
         <source>Take in</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít</translation>
     </message>
     <message>
         <source>&amp;Test</source>
@@ -20133,19 +20138,19 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Take %1 runs in</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít jízdy: %1</translation>
     </message>
     <message>
         <source>Each section of the run becomes a lap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Z každého úseku jízdy bude kolo.</translation>
     </message>
     <message>
         <source>Each section of the run becomes a stretch of the sprint.</source>
-        <translation type="unfinished"></translation>
+        <translation>Z každého úseku jízdy bude část sprintu.</translation>
     </message>
     <message>
         <source>The first five sections become the splits, with their marks in the video; the motion samples of the run tell its rotation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Z prvních pěti úseků budou mezičasy se značkami ve videu; vzorky pohybu jízdy určí její otáčení.</translation>
     </message>
 </context>
 <context>
@@ -20473,27 +20478,27 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <name>kavela::desktop::TeamAthleteDialog</name>
     <message>
         <source>New athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Nový závodník</translation>
     </message>
     <message>
         <source>Written in capitals in the team</source>
-        <translation type="unfinished"></translation>
+        <translation>V týmu psáno velkými písmeny</translation>
     </message>
     <message>
         <source>Such as 1998</source>
-        <translation type="unfinished"></translation>
+        <translation>Třeba 1998</translation>
     </message>
     <message>
         <source>&amp;Surname</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Příjmení</translation>
     </message>
     <message>
         <source>&amp;Given name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jméno</translation>
     </message>
     <message>
         <source>&amp;Born in</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Narozen(a)</translation>
     </message>
     <message>
         <source>Boats</source>
@@ -20504,11 +20509,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <name>kavela::desktop::TeamDocument</name>
     <message>
         <source>It is no team file, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Není to soubor týmu, nebo je poškozený: %1</translation>
     </message>
     <message>
         <source>averages</source>
-        <translation type="unfinished"></translation>
+        <translation>průměry</translation>
     </message>
     <message>
         <source>1 athlete</source>
@@ -20527,15 +20532,15 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <name>kavela::desktop::TeamWindow</name>
     <message>
         <source>Take results over</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít výsledky</translation>
     </message>
     <message>
         <source>Split files and result lists (*.kvx *.csv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů a výsledkové listiny (*.kvx *.csv *.txt);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>“%1” cannot be taken over</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze převzít</translation>
     </message>
     <message>
         <source>There are no results in it.</source>
@@ -20547,7 +20552,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>There are no runs in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejsou v něm žádné jízdy.</translation>
     </message>
     <message>
         <source>results taken over</source>
@@ -20567,38 +20572,38 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>new category</source>
-        <translation type="unfinished"></translation>
+        <translation>nová kategorie</translation>
     </message>
     <message>
         <source>removal of a category</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění kategorie</translation>
     </message>
     <message>
         <source>Choose an athlete and a category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív vyberte závodníka a kategorii.</translation>
     </message>
     <message>
         <source>Add a season first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív přidejte sezónu.</translation>
     </message>
     <message>
         <source>Choose a category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív vyberte kategorii.</translation>
     </message>
     <message>
         <source>No athlete comes into question in %1: two seasons are needed, with a final position in one of the first two.</source>
-        <translation type="unfinished"></translation>
+        <translation>V %1 nepřichází v úvahu žádný závodník: jsou třeba dvě sezóny s konečným pořadím v jedné z prvních dvou.</translation>
     </message>
     <message>
         <source>Categorization %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorizace %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TestListPanel</name>
     <message>
         <source>All tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny testy</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -20606,7 +20611,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Ticked tests are laid over the chosen one (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtnuté testy se položí přes zvolený (mezerník)</translation>
     </message>
     <message>
         <source>Date</source>
@@ -20622,7 +20627,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>All athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Všichni závodníci</translation>
     </message>
 </context>
 <context>
@@ -20633,15 +20638,15 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnota</translation>
     </message>
     <message>
         <source>There are no values in this attempt.</source>
-        <translation type="unfinished"></translation>
+        <translation>V tomto pokusu nejsou žádné hodnoty.</translation>
     </message>
     <message>
         <source>Heart rate (1/min)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tepová frekvence (1/min)</translation>
     </message>
     <message>
         <source>Test session</source>
@@ -20649,7 +20654,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnoty</translation>
     </message>
     <message>
         <source>&amp;Export the table…</source>
@@ -20662,7 +20667,8 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <message>
         <source>Attempt %1
 %2 stroke values, %3 of the sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokus %1
+hodnot záběrů %2, sprintu %3</translation>
     </message>
     <message>
         <source>All kinds</source>
@@ -20670,7 +20676,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Sprint data</source>
-        <translation type="unfinished"></translation>
+        <translation>Data sprintu</translation>
     </message>
     <message>
         <source>Export the table</source>
@@ -20685,22 +20691,22 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <name>kavela::desktop::TestsDocument</name>
     <message>
         <source>It is no file of tests, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Není to soubor testů, nebo je poškozený: %1</translation>
     </message>
     <message>
         <source>removal of tests</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění testů</translation>
     </message>
     <message>
         <source>1 test</source>
-        <translation type="unfinished"></translation>
+        <translation>1 test</translation>
     </message>
     <message numerus="yes">
         <source>%n tests</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n test</numerusform>
+            <numerusform>%n testy</numerusform>
+            <numerusform>%n testů</numerusform>
         </translation>
     </message>
 </context>
@@ -20708,7 +20714,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <name>kavela::desktop::TestsWindow</name>
     <message>
         <source>Take tests in from a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít testy ze souboru mezičasů</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -20716,7 +20722,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Take a test in from a recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít test ze záznamu</translation>
     </message>
     <message>
         <source>Recordings (*.kvb);;All files (*)</source>
@@ -20724,23 +20730,23 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>“%1” cannot be taken in</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze převzít</translation>
     </message>
     <message>
         <source>There are no runs in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejsou v něm žádné jízdy.</translation>
     </message>
     <message>
         <source>tests taken in</source>
-        <translation type="unfinished"></translation>
+        <translation>testy převzaty</translation>
     </message>
     <message>
         <source>test taken in</source>
-        <translation type="unfinished"></translation>
+        <translation>test převzat</translation>
     </message>
     <message>
         <source>It is no raw recording, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Není to surový záznam, nebo je poškozený: %1</translation>
     </message>
     <message>
         <source>Tests</source>
@@ -20752,84 +20758,84 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnoty</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka</translation>
     </message>
     <message>
         <source>One ticked test is of another kind and left out here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden zaškrtnutý test je jiného druhu a zde je vynechán.</translation>
     </message>
     <message>
         <source>%1 ticked tests are of another kind and left out here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtnuté testy jiného druhu, zde vynechané: %1.</translation>
     </message>
     <message>
         <source>new eight test</source>
-        <translation type="unfinished"></translation>
+        <translation>nový test osmičky</translation>
     </message>
     <message>
         <source>new sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>nový sprint</translation>
     </message>
     <message>
         <source>new lap test</source>
-        <translation type="unfinished"></translation>
+        <translation>nový test na kola</translation>
     </message>
     <message>
         <source>copy of a test</source>
-        <translation type="unfinished"></translation>
+        <translation>kopie testu</translation>
     </message>
     <message>
         <source>Export the table of tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Export tabulky testů</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Text oddělený středníky (*.csv);;Všechny soubory (*)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TickStrip</name>
     <message>
         <source>Other marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Další značky</translation>
     </message>
     <message>
         <source>A click shows the frame of a mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknutí ukáže snímek značky</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TimeLine</name>
     <message>
         <source>Time line</source>
-        <translation type="unfinished"></translation>
+        <translation>Časová osa</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TimerFace</name>
     <message>
         <source>%1 – paused</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – pozastaveno</translation>
     </message>
     <message>
         <source>Set %1 of %2   ·   Repetition %3 of %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Série %1 z %2   ·   Opakování %3 z %4</translation>
     </message>
     <message>
         <source>Well done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Výborně.</translation>
     </message>
     <message>
         <source>Next: the end</source>
-        <translation type="unfinished"></translation>
+        <translation>Další: konec</translation>
     </message>
     <message>
         <source>Next: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Další: %1 %2</translation>
     </message>
 </context>
 <context>
@@ -20935,23 +20941,23 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <name>kavela::desktop::TotalsChart</name>
     <message>
         <source>No run has a time for the whole course yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná jízda zatím nemá čas za celou trať.</translation>
     </message>
     <message>
         <source>Time and penalties of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas a penalizace: %1</translation>
     </message>
     <message>
         <source>Seconds on the course, without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy na trati, bez penalizace</translation>
     </message>
     <message>
         <source> · %1 without a total</source>
-        <translation type="unfinished"></translation>
+        <translation> · bez celkového času: %1</translation>
     </message>
     <message>
         <source>Penalty seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Trestné sekundy</translation>
     </message>
     <message>
         <source>← slower      faster →</source>
@@ -20983,87 +20989,87 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrané</translation>
     </message>
     <message>
         <source>Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkové časy</translation>
     </message>
     <message>
         <source>Total time against penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkový čas proti penalizacím</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrackDocument</name>
     <message>
         <source>It is no path on a film, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Není to dráha na filmu, nebo je poškozená: %1</translation>
     </message>
     <message>
         <source>a path of 1 frame</source>
-        <translation type="unfinished"></translation>
+        <translation>dráha s 1 snímkem</translation>
     </message>
     <message>
         <source>a path of %1 frames</source>
-        <translation type="unfinished"></translation>
+        <translation>dráha, snímků: %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrackLine</name>
     <message>
         <source>Coloured where the path is known; diamonds are the boxes that were drawn. Click to go there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Barevně tam, kde je dráha známa; kosočtverce jsou nakreslené rámečky. Kliknutím se tam přejde.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrackOffsetDialog</name>
     <message>
         <source>Track of a watch</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopa hodinek</translation>
     </message>
     <message>
         <source>The clock of the watch is perhaps wrong. Say when the track began in truth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodiny hodinek jdou možná špatně. Uveďte, kdy stopa skutečně začala.</translation>
     </message>
     <message>
         <source>With the &amp;recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Spolu se &amp;záznamem</translation>
     </message>
     <message>
         <source>Both were started at the same moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Obojí bylo spuštěno ve stejný okamžik</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznam</translation>
     </message>
     <message>
         <source>Track, by its clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopa, podle jejích hodin</translation>
     </message>
     <message>
         <source>The track &amp;began</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopa z&amp;ačala</translation>
     </message>
     <message>
         <source>Join it</source>
-        <translation type="unfinished"></translation>
+        <translation>Připojit</translation>
     </message>
     <message>
         <source>%1 of %2 positions and %3 of %4 heart rates lie in the recording, or a minute around it.</source>
-        <translation type="unfinished"></translation>
+        <translation>V záznamu nebo do minuty kolem něj leží %1 z %2 poloh a %3 z %4 tepových frekvencí.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrackOverlay</name>
     <message>
         <source>Box round what is followed</source>
-        <translation type="unfinished"></translation>
+        <translation>Rámeček kolem sledovaného</translation>
     </message>
     <message>
         <source>Draw a box round boat, head or gate. By keys: B proposes a box, arrows move it, with Shift they size it, Enter takes it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nakreslete rámeček kolem lodi, hlavy nebo branky. Klávesami: B rámeček navrhne, šipky ho posouvají, se Shift mění velikost, Enter ho přijme.</translation>
     </message>
 </context>
 <context>
@@ -21074,31 +21080,31 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Paths on films (*.track.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dráhy na filmech (*.track.json)</translation>
     </message>
     <message>
         <source>Open a film, then draw a box round what is to be followed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřete film a pak nakreslete rámeček kolem toho, co se má sledovat.</translation>
     </message>
     <message>
         <source>Following: %p %</source>
-        <translation type="unfinished"></translation>
+        <translation>Sleduje se: %p %</translation>
     </message>
     <message>
         <source>Draw a box round what is to be followed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nakreslete rámeček kolem toho, co se má sledovat.</translation>
     </message>
     <message>
         <source>No known point yet. Tick Path &gt; Click known points, then click the foot of a gate&apos;s poles in the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím žádný známý bod. Zaškrtněte Dráha &gt; Klikat známé body a pak v obraze klikněte na patu tyčí branky.</translation>
     </message>
     <message>
         <source>&amp;Take it away</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odebrat</translation>
     </message>
     <message>
         <source>removal of a known point</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění známého bodu</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -21106,39 +21112,39 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Figures</source>
-        <translation type="unfinished"></translation>
+        <translation>Čísla</translation>
     </message>
     <message>
         <source>Known points</source>
-        <translation type="unfinished"></translation>
+        <translation>Známé body</translation>
     </message>
     <message>
         <source>A place on the water is a number of metres, -10000 to 10000</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo na vodě je počet metrů, -10000 až 10000</translation>
     </message>
     <message>
         <source>metres of a known point</source>
-        <translation type="unfinished"></translation>
+        <translation>metry známého bodu</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Bod</translation>
     </message>
     <message>
         <source>Across</source>
-        <translation type="unfinished"></translation>
+        <translation>Napříč</translation>
     </message>
     <message>
         <source>Along</source>
-        <translation type="unfinished"></translation>
+        <translation>Podél</translation>
     </message>
     <message>
         <source>&amp;Open a film or a path…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít film nebo dráhu…</translation>
     </message>
     <message>
         <source>&amp;Export the path as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportovat dráhu jako CSV…</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -21158,162 +21164,162 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>P&amp;ath</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dráha</translation>
     </message>
     <message>
         <source>Propose a &amp;box</source>
-        <translation type="unfinished"></translation>
+        <translation>Navrhnout &amp;rámeček</translation>
     </message>
     <message>
         <source>&amp;Take the box of this frame away</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odebrat rámeček tohoto snímku</translation>
     </message>
     <message>
         <source>To the next &amp;gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Na další &amp;mezeru</translation>
     </message>
     <message>
         <source>&amp;Stop following</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zastavit sledování</translation>
     </message>
     <message>
         <source>Click &amp;known points</source>
-        <translation type="unfinished"></translation>
+        <translation>Klikat &amp;známé body</translation>
     </message>
     <message>
         <source>&amp;Forget the known points</source>
-        <translation type="unfinished"></translation>
+        <translation>Za&amp;pomenout známé body</translation>
     </message>
     <message>
         <source>It lies on the &amp;water</source>
-        <translation type="unfinished"></translation>
+        <translation>Leží na &amp;vodě</translation>
     </message>
     <message>
         <source>whether it lies on the water</source>
-        <translation type="unfinished"></translation>
+        <translation>zda leží na vodě</translation>
     </message>
     <message>
         <source>Open a film or a path on one</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít film nebo jeho dráhu</translation>
     </message>
     <message>
         <source>Films and paths (*.mp4 *.mov *.m4v *.mkv *.avi *.mts *.track.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Filmy a dráhy (*.mp4 *.mov *.m4v *.mkv *.avi *.mts *.track.json);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>The film %1 is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Film %1 tam není.</translation>
     </message>
     <message>
         <source>%1 s · frame %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s · snímek %2</translation>
     </message>
     <message>
         <source>The film is still being read. Draw the box again in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Film se ještě čte. Za chvíli nakreslete rámeček znovu.</translation>
     </message>
     <message>
         <source>Stop following first, with Escape.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív zastavte sledování, klávesou Escape.</translation>
     </message>
     <message>
         <source>box</source>
-        <translation type="unfinished"></translation>
+        <translation>rámeček</translation>
     </message>
     <message>
         <source>Following. Escape stops it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sleduje se. Escape to zastaví.</translation>
     </message>
     <message>
         <source>The boxes were changed meanwhile, so that the path was not taken over. Draw the box again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rámečky se mezitím změnily, proto se dráha nepřevzala. Nakreslete rámeček znovu.</translation>
     </message>
     <message>
         <source>path</source>
-        <translation type="unfinished"></translation>
+        <translation>dráha</translation>
     </message>
     <message>
         <source>Lost at %1 s. Draw a new box here, or where it is seen again; what lies between stays a gap until both sides meet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztraceno v %1 s. Nakreslete nový rámeček zde, nebo kde je zase vidět; mezi tím zůstane mezera, dokud se obě strany nesetkají.</translation>
     </message>
     <message>
         <source>Followed without a gap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sledováno bez mezery.</translation>
     </message>
     <message>
         <source>Followed, with one gap. G goes there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sledováno, s jednou mezerou. G na ni přejde.</translation>
     </message>
     <message>
         <source>Followed, with %1 gaps. G goes to the next one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sledováno, mezer: %1. G přejde na další.</translation>
     </message>
     <message>
         <source>No box was drawn in this frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na tomto snímku nebyl nakreslen rámeček.</translation>
     </message>
     <message>
         <source>removal of a box</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění rámečku</translation>
     </message>
     <message>
         <source>The path has no gap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dráha nemá žádnou mezeru.</translation>
     </message>
     <message>
         <source>Click the foot of a gate&apos;s poles where they meet the water, four for metres or two for a scale only, then type where they stand. P ends it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klikněte na patu tyčí branky, kde se dotýkají vody, čtyři pro metry nebo dvě jen pro měřítko, a napište, kde stojí. P to ukončí.</translation>
     </message>
     <message>
         <source>Four known points are the most. Take one away first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čtyři známé body jsou nejvíc. Nejdřív jeden odeberte.</translation>
     </message>
     <message>
         <source>The known points belong into one frame; this is where the first one was clicked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Známé body patří do jednoho snímku; v tomto byl označen první.</translation>
     </message>
     <message>
         <source>known point</source>
-        <translation type="unfinished"></translation>
+        <translation>známý bod</translation>
     </message>
     <message>
         <source>removal of the known points</source>
-        <translation type="unfinished"></translation>
+        <translation>odstranění známých bodů</translation>
     </message>
     <message>
         <source>Two points give a scale only: lengths and speeds hold near them and along the line between them. Four give the perspective too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dva body dají jen měřítko: délky a rychlosti platí poblíž nich a podél čáry mezi nimi. Čtyři dají i perspektivu.</translation>
     </message>
     <message>
         <source>What is followed is not on the water, such as a head: its metres are off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sledované není na vodě, třeba hlava: jeho metry nejsou přesné.</translation>
     </message>
     <message>
         <source>Export the path</source>
-        <translation type="unfinished"></translation>
+        <translation>Export dráhy</translation>
     </message>
     <message>
         <source>Tables (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulky (*.csv)</translation>
     </message>
     <message>
         <source>%1 is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 je hotovo.</translation>
     </message>
     <message>
         <source>The path could not be exported</source>
-        <translation type="unfinished"></translation>
+        <translation>Dráhu nelze exportovat</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TradeOffPanel</name>
     <message>
         <source>In percent of the median of its group</source>
-        <translation type="unfinished"></translation>
+        <translation>V procentech mediánu své skupiny</translation>
     </message>
     <message>
         <source>By paddling time</source>
-        <translation type="unfinished"></translation>
+        <translation>Podle čistého času</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -21329,42 +21335,42 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Exact interval of the touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Přesný interval ťuků</translation>
     </message>
     <message>
         <source>Missed a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojeté na jízdu</translation>
     </message>
     <message>
         <source>Paddling %</source>
-        <translation type="unfinished"></translation>
+        <translation>Čistý čas %</translation>
     </message>
     <message>
         <source>Total %</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem %</translation>
     </message>
     <message>
         <source>No group has enough whole runs to be divided.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná skupina nemá dost úplných jízd k rozdělení.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrialList</name>
     <message>
         <source>New athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Nový závodník</translation>
     </message>
     <message>
         <source>Enter adds a time trial of that athlete; Esc gives the keys back to the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter přidá časovku tohoto závodníka; Esc vrátí klávesy filmu</translation>
     </message>
     <message>
         <source>A time trial needs the name of its athlete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Časovka potřebuje jméno svého závodníka.</translation>
     </message>
     <message>
         <source>Pos</source>
-        <translation type="unfinished"></translation>
+        <translation>Poř.</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -21380,15 +21386,15 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>⚠ missing</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ chybí</translation>
     </message>
     <message>
         <source>%1 is not in the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 není ve složce</translation>
     </message>
     <message>
         <source>Add an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat závodníka</translation>
     </message>
     <message>
         <source>Re&amp;name the athlete</source>
@@ -21396,7 +21402,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>&amp;Film…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Film…</translation>
     </message>
     <message>
         <source>R&amp;emove the trial</source>
@@ -21408,7 +21414,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Chooses the film of the selected trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybere film zvolené časovky</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -21416,7 +21422,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Removes the selected trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstraní zvolenou časovku</translation>
     </message>
 </context>
 <context>
@@ -21451,19 +21457,19 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>%1 boats</source>
-        <translation type="unfinished"></translation>
+        <translation>lodí: %1</translation>
     </message>
     <message>
         <source>How many boats go on to the heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolik lodí postupuje do rozjížděk</translation>
     </message>
     <message>
         <source>Make heats from the trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytvořit z časovek rozjížďky</translation>
     </message>
     <message>
         <source>Heats of four, the fastest against the slowest. Heats that exist stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozjížďky po čtyřech, nejrychlejší proti nejpomalejším. Stávající zůstanou.</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -21475,7 +21481,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>A click shows the frame of a split</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknutí ukáže snímek mezičasu</translation>
     </message>
     <message>
         <source>gate %1</source>
@@ -21483,7 +21489,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>roll</source>
-        <translation type="unfinished"></translation>
+        <translation>eskymák</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -21491,58 +21497,58 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>time trial of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>časovka: %1</translation>
     </message>
     <message>
         <source>films imported</source>
-        <translation type="unfinished"></translation>
+        <translation>filmy importovány</translation>
     </message>
     <message>
         <source>film of the trial</source>
-        <translation type="unfinished"></translation>
+        <translation>film časovky</translation>
     </message>
     <message>
         <source>athlete renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>závodník přejmenován</translation>
     </message>
     <message>
         <source>time trial removed</source>
-        <translation type="unfinished"></translation>
+        <translation>časovka odstraněna</translation>
     </message>
     <message>
         <source>No trial has a time yet: heats are made from the fastest ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná časovka zatím nemá čas: rozjížďky se tvoří z nejrychlejších.</translation>
     </message>
     <message>
         <source>There are heats already. They stay as they are, and those from the trials come behind them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozjížďky už existují. Zůstanou, jak jsou, a ty z časovek přijdou za ně.</translation>
     </message>
     <message>
         <source>Make heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytvořit rozjížďky</translation>
     </message>
     <message>
         <source>heats from the trials</source>
-        <translation type="unfinished"></translation>
+        <translation>rozjížďky z časovek</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::Updates</name>
     <message>
         <source>Newer versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Novější verze</translation>
     </message>
     <message>
         <source>May Kavela look once a day whether there is a newer version? It tells the server the version that you have, and nothing else. Without a yes it never looks by itself. You can change this in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Smí Kavela jednou denně zjistit, zda existuje novější verze? Serveru sdělí verzi, kterou máte, a nic jiného. Bez vašeho souhlasu to sama nikdy nezjišťuje. Změnit to lze v nastavení.</translation>
     </message>
     <message>
         <source>Yes, look once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Ano, zjišťovat jednou denně</translation>
     </message>
     <message>
         <source>Looking for a newer version…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zjišťuje se novější verze…</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -21577,7 +21583,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Turn to the</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrat</translation>
     </message>
     <message>
         <source>Style</source>
@@ -21589,7 +21595,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Gate %1 is no upstream gate. N goes to the next one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1 není protivodná. N jde na další.</translation>
     </message>
     <message>
         <source>%1 of gate %2</source>
@@ -21605,11 +21611,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>The marks of gate %1 are removed. Ctrl+Z brings them back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Značky branky %1 jsou odstraněny. Ctrl+Z je vrátí.</translation>
     </message>
     <message>
         <source>Gate %1 is no upstream gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Branka %1 není protivodná</translation>
     </message>
     <message>
         <source>Gate %1: M marks the %2</source>
@@ -21621,7 +21627,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>%1 s in the gate</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s v brance</translation>
     </message>
     <message>
         <source>gate %1</source>
@@ -21634,26 +21640,28 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
         <source>No test yet.
 
 Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím žádný test.
+
+Přidejte ho ručně pomocí Ctrl+N, nebo sem přetáhněte soubory mezičasů a záznamy.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::VariabilityDialog</name>
     <message>
         <source>There is no measurement in this list.</source>
-        <translation type="unfinished"></translation>
+        <translation>V tomto seznamu není žádné měření.</translation>
     </message>
     <message>
         <source>All %1 measurements of this list are there already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechna měření tohoto seznamu (%1) už zde jsou.</translation>
     </message>
     <message>
         <source>1 measurement is new.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 měření je nové.</translation>
     </message>
     <message>
         <source>1 other is there already.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 další zde už je.</translation>
     </message>
     <message>
         <source>Import variability</source>
@@ -21661,11 +21669,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>1 line is left out:</source>
-        <translation type="unfinished"></translation>
+        <translation>1 řádek je vynechán:</translation>
     </message>
     <message>
         <source>Add 1 measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat 1 měření</translation>
     </message>
     <message>
         <source>Line</source>
@@ -21673,38 +21681,38 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Reason</source>
-        <translation type="unfinished"></translation>
+        <translation>Důvod</translation>
     </message>
     <message numerus="yes">
         <source>%n measurements are new.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n měření je nové.</numerusform>
+            <numerusform>%n měření jsou nová.</numerusform>
+            <numerusform>%n měření je nových.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n others are there already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n další zde už je.</numerusform>
+            <numerusform>%n další zde už jsou.</numerusform>
+            <numerusform>%n dalších zde už je.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n lines are left out:</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n řádek je vynechán:</numerusform>
+            <numerusform>%n řádky jsou vynechány:</numerusform>
+            <numerusform>%n řádků je vynecháno:</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Add %n measurements</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Přidat %n měření</numerusform>
+            <numerusform>Přidat %n měření</numerusform>
+            <numerusform>Přidat %n měření</numerusform>
         </translation>
     </message>
 </context>
@@ -21712,11 +21720,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WaterfallChart</name>
     <message>
         <source>One of the two has no total, so there is no sum. The sections that both have stand in the table and in the other charts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jedna z jízd nemá celkový čas, proto není součet. Úseky, které mají obě, jsou v tabulce a v ostatních grafech.</translation>
     </message>
     <message>
         <source>Sections, penalties and timing from total to total</source>
-        <translation type="unfinished"></translation>
+        <translation>Úseky, penalizace a měření od času k času</translation>
     </message>
     <message>
         <source>penalties</source>
@@ -21724,7 +21732,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>timing</source>
-        <translation type="unfinished"></translation>
+        <translation>měření</translation>
     </message>
     <message>
         <source>Seconds</source>
@@ -21732,11 +21740,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázáno</translation>
     </message>
     <message>
         <source>Up to here</source>
-        <translation type="unfinished"></translation>
+        <translation>Až sem</translation>
     </message>
     <message>
         <source>Part</source>
@@ -21775,7 +21783,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>done on</source>
-        <translation type="unfinished"></translation>
+        <translation>provedeno</translation>
     </message>
     <message>
         <source>Endurance test</source>
@@ -21787,23 +21795,23 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Injured part</source>
-        <translation type="unfinished"></translation>
+        <translation>Zraněná část</translation>
     </message>
     <message>
         <source>Health notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdravotní poznámky</translation>
     </message>
     <message>
         <source>“%1” are no dates. Write them as 2026-03-10, with commas between.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nejsou data. Pište je jako 2026-03-10, s čárkami mezi nimi.</translation>
     </message>
     <message>
         <source>dates of tests</source>
-        <translation type="unfinished"></translation>
+        <translation>data testů</translation>
     </message>
     <message>
         <source>load</source>
-        <translation type="unfinished"></translation>
+        <translation>zatížení</translation>
     </message>
     <message>
         <source>Load</source>
@@ -21811,19 +21819,19 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>health</source>
-        <translation type="unfinished"></translation>
+        <translation>zdraví</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdraví</translation>
     </message>
     <message>
         <source>One per line</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden na řádek</translation>
     </message>
     <message>
         <source>goals of the week</source>
-        <translation type="unfinished"></translation>
+        <translation>cíle týdne</translation>
     </message>
     <message>
         <source>Goals</source>
@@ -21831,7 +21839,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Week %1 · from %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Týden %1 · od %2</translation>
     </message>
     <message>
         <source>Week %1</source>
@@ -21839,34 +21847,34 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>%1 weeks are chosen: load, cycles and place go into all of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolené týdny: %1; zatížení, cykly a místo se zapíší do všech.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::WeekGrid</name>
     <message>
         <source>Morning</source>
-        <translation type="unfinished"></translation>
+        <translation>Ráno</translation>
     </message>
     <message>
         <source>Afternoon</source>
-        <translation type="unfinished"></translation>
+        <translation>Odpoledne</translation>
     </message>
     <message>
         <source>Evening</source>
-        <translation type="unfinished"></translation>
+        <translation>Večer</translation>
     </message>
     <message>
         <source>Any time</source>
-        <translation type="unfinished"></translation>
+        <translation>Kdykoli</translation>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Týden</translation>
     </message>
     <message>
         <source>On no day of this week</source>
-        <translation type="unfinished"></translation>
+        <translation>V žádném dni tohoto týdne</translation>
     </message>
     <message>
         <source>Session</source>
@@ -21877,11 +21885,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WhyKeys</name>
     <message>
         <source>Go to a number first, or hold Alt and click on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejdřív přejděte na číslo, nebo držte Alt a klikněte na něj.</translation>
     </message>
     <message>
         <source>Nothing was computed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zde se nic nepočítalo.</translation>
     </message>
 </context>
 <context>
@@ -21895,15 +21903,15 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WhyPanel</name>
     <message>
         <source>counted</source>
-        <translation type="unfinished"></translation>
+        <translation>počítá se</translation>
     </message>
     <message>
         <source>dropped: worst</source>
-        <translation type="unfinished"></translation>
+        <translation>škrtnuto: nejhorší</translation>
     </message>
     <message>
         <source>dropped: bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>škrtnuto: bonus</translation>
     </message>
     <message>
         <source>no result</source>
@@ -21923,7 +21931,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Select an athlete to see where the score comes from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte závodníka a uvidíte, odkud se body berou.</translation>
     </message>
     <message>
         <source>%1. %2</source>
@@ -21935,51 +21943,52 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Score: %1 / 3 = %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Body: %1 / 3 = %2</translation>
     </message>
     <message>
         <source>Place: was %1, now %2. Score: was %3, now %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo: bylo %1, nyní %2. Body: bylo %3, nyní %4.</translation>
     </message>
     <message>
         <source>%1 s in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s, závod %2</translation>
     </message>
     <message>
         <source>A place better with a total of
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>O místo lépe s celkovým časem
+%1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::WhyWindow</name>
     <message>
         <source>Rule: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pravidlo: %1</translation>
     </message>
     <message>
         <source>Within %1</source>
-        <translation type="unfinished"></translation>
+        <translation>V rámci %1</translation>
     </message>
     <message>
         <source>Source: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdroj: %1</translation>
     </message>
     <message>
         <source>Why this number?</source>
-        <translation type="unfinished"></translation>
+        <translation>Proč toto číslo?</translation>
     </message>
     <message>
         <source>Why %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Proč %1</translation>
     </message>
     <message>
         <source>What went into it</source>
-        <translation type="unfinished"></translation>
+        <translation>Z čeho to vzniklo</translation>
     </message>
     <message>
         <source>Enter opens a number made on the way, and shows the place of a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter otevře číslo spočtené cestou a ukáže místo hodnoty</translation>
     </message>
     <message>
         <source>From</source>
@@ -21987,7 +21996,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnota</translation>
     </message>
     <message>
         <source>Where</source>
@@ -21995,26 +22004,26 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Show this place (Enter)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat toto místo (Enter)</translation>
     </message>
     <message>
         <source>%1, link</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, odkaz</translation>
     </message>
     <message>
         <source>&amp;Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopírovat jako text</translation>
     </message>
     <message>
         <source>The whole explanation (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Celé vysvětlení (%1)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::Workspace</name>
     <message>
         <source>Save the changes to %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit změny v %1?</translation>
     </message>
 </context>
 <context>
@@ -22025,7 +22034,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Měsíc</translation>
     </message>
     <message>
         <source>Macrocycle</source>
@@ -22041,7 +22050,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Týden</translation>
     </message>
     <message>
         <source>Event</source>
