@@ -1953,7 +1953,7 @@
     </message>
     <message>
         <source>Penalties by {} · {}, {}</source>
-        <translation>Penalizace podle {} · {}, {}</translation>
+        <translation>Penalizace podle: {} · {}, {}</translation>
     </message>
     <message>
         <source>{} of {} whole runs without a penalty: {:.1f} % ({})</source>
@@ -2227,179 +2227,179 @@
     </message>
     <message>
         <source>{} is left out: fewer than {} runs, or never met the others</source>
-        <translation type="unfinished"></translation>
+        <translation>{} je vynechán(a): méně než {} jízd, nebo bez setkání s ostatními</translation>
     </message>
     <message>
         <source>The ranking of each category</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí každé kategorie</translation>
     </message>
     <message>
         <source>Selection file (.kvsr) of any layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor nominace (.kvsr) jakéhokoli uspořádání</translation>
     </message>
     <message>
         <source>Kind of bonus that counts, from 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Druh bonusu, který se počítá, od 0</translation>
     </message>
     <message>
         <source>Folder to write both reports into</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka, do níž se zapíší obě zprávy</translation>
     </message>
     <message>
         <source>Store percentages and scores in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit procenta a body do souboru</translation>
     </message>
     <message>
         <source>Adds athletes from a list to a selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidá do nominace závodníky ze seznamu</translation>
     </message>
     <message>
         <source>Selection file (.kvsr)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor nominace (.kvsr)</translation>
     </message>
     <message>
         <source>Text with lines Cat;Name;Surname;year;club</source>
-        <translation type="unfinished"></translation>
+        <translation>Text s řádky Cat;Name;Surname;year;club</translation>
     </message>
     <message>
         <source>Takes the results of a race from its split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Převezme výsledky závodu z jeho souborů mezičasů</translation>
     </message>
     <message>
         <source>Race of the selection: its name, or its number counted from 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Závod nominace: jeho jméno, nebo pořadové číslo počítané od 0</translation>
     </message>
     <message>
         <source>Kind of bonus that counts in the scores, from 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Druh bonusu, který se počítá do bodů, od 0</translation>
     </message>
     <message>
         <source>Split files (.kvx) of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (.kvx) závodu</translation>
     </message>
     <message>
         <source>Selection races and their ranking</source>
-        <translation type="unfinished"></translation>
+        <translation>Nominační závody a jejich pořadí</translation>
     </message>
     <message>
         <source>Prints the coloured split table of a race</source>
-        <translation type="unfinished"></translation>
+        <translation>Vypíše barevnou tabulku mezičasů závodu</translation>
     </message>
     <message>
         <source>Colours: race or training</source>
-        <translation type="unfinished"></translation>
+        <translation>Barvy: race nebo training</translation>
     </message>
     <message>
         <source>Times from the start to each split</source>
-        <translation type="unfinished"></translation>
+        <translation>Časy od startu ke každému mezičasu</translation>
     </message>
     <message>
         <source>Add penalty seconds to the times</source>
-        <translation type="unfinished"></translation>
+        <translation>Přičíst trestné sekundy k časům</translation>
     </message>
     <message>
         <source>Show penalty seconds behind the times</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázat trestné sekundy za časy</translation>
     </message>
     <message>
         <source>Only runs of this phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen jízdy této fáze</translation>
     </message>
     <message>
         <source>Tell how a number came about: cell/5/3, band/5/3, ideal/3, ideal/total (runs from 0, columns and sections from 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Řekne, jak číslo vzniklo: cell/5/3, band/5/3, ideal/3, ideal/total (jízdy od 0, sloupce a úseky od 1)</translation>
     </message>
     <message>
         <source>{} gates, {} upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>branek: {}, protivodných: {}</translation>
     </message>
     <message>
         <source>The table cannot be written over the recording itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulku nelze zapsat přes samotný záznam.</translation>
     </message>
     <message>
         <source>Finds the strokes and turns of a boat-motion recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Najde záběry a obraty v záznamu pohybu lodi</translation>
     </message>
     <message>
         <source>Raw recording (.kvb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Surový záznam (.kvb)</translation>
     </message>
     <message>
         <source>&quot;{}&quot; is no number from {:g} to {:g} {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>„{}“ není číslo od {:g} do {:g} {}.</translation>
     </message>
     <message>
         <source>&quot;{}&quot; is none of: {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>„{}“ není žádné z: {}.</translation>
     </message>
     <message>
         <source>Side of the phone that points to the bow, where fixes do not tell: top, bottom, right, left, back or screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Strana telefonu, která míří ke špičce, kde to neříkají polohy: top, bottom, right, left, back nebo screen</translation>
     </message>
     <message>
         <source>Athlete, boat and kit in kg</source>
-        <translation type="unfinished"></translation>
+        <translation>Závodník, loď a výstroj v kg</translation>
     </message>
     <message>
         <source>Resistance of the hull over the square of its speed in N·s²/m²</source>
-        <translation type="unfinished"></translation>
+        <translation>Odpor trupu na druhou mocninu jeho rychlosti v N·s²/m²</translation>
     </message>
     <message>
         <source>Class of boat: k1, c1, c2, kayak or canoe</source>
-        <translation type="unfinished"></translation>
+        <translation>Třída lodi: k1, c1, c2, kayak nebo canoe</translation>
     </message>
     <message numerus="yes">
         <source>{} bouts</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} série</numerusform>
+            <numerusform>{} série</numerusform>
+            <numerusform>{} sérií</numerusform>
         </translation>
     </message>
     <message>
         <source>{:.1f} 1/min</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} 1/min</translation>
     </message>
     <message>
         <source>{:g} kg, drag {:g} N·s²/m², {}; force and power hold on flat water only</source>
-        <translation type="unfinished"></translation>
+        <translation>{:g} kg, odpor {:g} N·s²/m², {}; síla a výkon platí jen na rovné vodě</translation>
     </message>
     <message>
         <source>Shows any list of results as a table, with columns reckoned</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukáže jakýkoli seznam výsledků jako tabulku s vypočtenými sloupci</translation>
     </message>
     <message>
         <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), or a split file (.kvx) that carries one</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznam: text (CSV, tabulátory, sloupce z mezer), tabulkový sešit (.xlsx, .ods), nebo soubor mezičasů (.kvx) s listinou</translation>
     </message>
     <message>
         <source>A column to add: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; with &quot;by Category&quot; within each category, with &quot;down&quot; the highest first</source>
-        <translation type="unfinished"></translation>
+        <translation>Sloupec k přidání: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; s &quot;by Category&quot; v rámci každé kategorie, s &quot;down&quot; nejvyšší první</translation>
     </message>
     <message>
         <source>ROW,COL,VALUE,FN as in Nation,Category,Time,mean; FN is count, sum, mean, median, least or most</source>
-        <translation type="unfinished"></translation>
+        <translation>ROW,COL,VALUE,FN jako Nation,Category,Time,mean; FN je count, sum, mean, median, least nebo most</translation>
     </message>
     <message>
         <source>Team (.kvteam) whose athletes are looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>Tým (.kvteam), jehož závodníci se hledají</translation>
     </message>
     <message>
         <source>The sheet, where there are several; of a split file which of its lists</source>
-        <translation type="unfinished"></translation>
+        <translation>List, je-li jich více; u souboru mezičasů která z jeho listin</translation>
     </message>
     <message>
         <source>File to write the table to: semicolon-separated text</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor, do něhož se zapíše tabulka: text oddělený středníky</translation>
     </message>
     <message>
         <source>Category, letter for letter as in the file: MK1, WK1, MC1, WC1, MX1, WX1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie, písmeno po písmenu jako v souboru: MK1, WK1, MC1, WC1, MX1, WX1</translation>
     </message>
     <message>
         <source>What the athletes of a team reached</source>
-        <translation type="unfinished"></translation>
+        <translation>Čeho závodníci týmu dosáhli</translation>
     </message>
     <message>
         <source>Name of the athlete</source>
@@ -2407,43 +2407,43 @@
     </message>
     <message>
         <source>Folder to write &quot;2025 Categorization.pdf&quot; into</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka, do níž se zapíše &quot;2025 Categorization.pdf&quot;</translation>
     </message>
     <message>
         <source>Brings files of older releases to the current version</source>
-        <translation type="unfinished"></translation>
+        <translation>Převede soubory starších verzí do současné verze</translation>
     </message>
     <message>
         <source>Split files, selection races, plannings and recordings, or folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů, nominační závody, plánování a záznamy, nebo složky</translation>
     </message>
     <message>
         <source>rule</source>
-        <translation type="unfinished"></translation>
+        <translation>pravidlo</translation>
     </message>
     <message>
         <source>source</source>
-        <translation type="unfinished"></translation>
+        <translation>zdroj</translation>
     </message>
     <message>
         <source>note</source>
-        <translation type="unfinished"></translation>
+        <translation>poznámka</translation>
     </message>
     <message>
         <source>split {}</source>
-        <translation type="unfinished"></translation>
+        <translation>mezičas {}</translation>
     </message>
     <message>
         <source>entry {}</source>
-        <translation type="unfinished"></translation>
+        <translation>položka {}</translation>
     </message>
     <message>
         <source>shown {} of {}</source>
-        <translation type="unfinished"></translation>
+        <translation>ukázáno {} z {}</translation>
     </message>
     <message>
         <source>{} to {}  ({})</source>
-        <translation type="unfinished"></translation>
+        <translation>{} až {}  ({})</translation>
     </message>
     <message>
         <source>Imported “%1”</source>
@@ -2463,311 +2463,311 @@
     </message>
     <message>
         <source>The rows of the group.</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádky skupiny.</translation>
     </message>
     <message>
         <source>number of rows</source>
-        <translation type="unfinished"></translation>
+        <translation>počet řádků</translation>
     </message>
     <message>
         <source>The least value of the group&apos;s rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejmenší hodnota v řádcích skupiny.</translation>
     </message>
     <message>
         <source>The mean of the group&apos;s rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Průměr řádků skupiny.</translation>
     </message>
     <message>
         <source>Σ values / rows with a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ hodnot / řádky s hodnotou</translation>
     </message>
     <message>
         <source>The middle of the group&apos;s rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Střed řádků skupiny.</translation>
     </message>
     <message>
         <source>Stopped; nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zastaveno; nic nebylo zapsáno.</translation>
     </message>
     <message numerus="yes">
         <source>{} frames</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} snímek</numerusform>
+            <numerusform>{} snímky</numerusform>
+            <numerusform>{} snímků</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} films</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} film</numerusform>
+            <numerusform>{} filmy</numerusform>
+            <numerusform>{} filmů</numerusform>
         </translation>
     </message>
     <message>
         <source>There is nothing to fetch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není co stáhnout.</translation>
     </message>
     <message>
         <source>90 %, Student&apos;s t</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %, Studentovo t</translation>
     </message>
     <message>
         <source>90 %, Wilson</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %, Wilson</translation>
     </message>
     <message>
         <source>own</source>
-        <translation type="unfinished"></translation>
+        <translation>vlastní</translation>
     </message>
     <message>
         <source>Time lost between two neighbouring marks that both runs have.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas ztracený mezi dvěma sousedními značkami, které mají obě jízdy.</translation>
     </message>
     <message>
         <source>Time lost in percent of the reference&apos;s time there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas ztracený v procentech času reference v tom místě.</translation>
     </message>
     <message>
         <source>100 · (own − reference) / reference</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (vlastní − reference) / reference</translation>
     </message>
     <message>
         <source>After a mark that was not taken the next time covers both sections.</source>
-        <translation type="unfinished"></translation>
+        <translation>Po značce, která nebyla změřena, pokrývá další čas oba úseky.</translation>
     </message>
     <message>
         <source>Σ times between the marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ časů mezi značkami</translation>
     </message>
     <message>
         <source>The least time that stands alone, whoever paddled it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejmenší samostatný čas, ať ho zajel kdokoli.</translation>
     </message>
     <message>
         <source>The median of the finalists&apos; times that stand alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Medián samostatných časů finalistů.</translation>
     </message>
     <message>
         <source>median times</source>
-        <translation type="unfinished"></translation>
+        <translation>medián časů</translation>
     </message>
     <message>
         <source>The difference of the totals, official where both have an official one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozdíl celkových časů, oficiálních, kde ho mají obě jízdy.</translation>
     </message>
     <message>
         <source>own total − reference total</source>
-        <translation type="unfinished"></translation>
+        <translation>vlastní celkový čas − celkový čas reference</translation>
     </message>
     <message>
         <source>All sections and the penalties, as timed from the video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny úseky a penalizace, jak byly změřeny z videa.</translation>
     </message>
     <message>
         <source>What was lost on the water: all stretches together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co se ztratilo na vodě: všechny části dohromady.</translation>
     </message>
     <message>
         <source>Σ losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ ztrát</translation>
     </message>
     <message>
         <source>The difference of the penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozdíl penalizací.</translation>
     </message>
     <message>
         <source>own penalties − reference&apos;s penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>vlastní penalizace − penalizace reference</translation>
     </message>
     <message>
         <source>What neither water nor penalties tell: official against video time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co neříká voda ani penalizace: oficiální čas proti času z videa.</translation>
     </message>
     <message>
         <source>gap − paddling − penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>odstup − jízda − penalizace</translation>
     </message>
     <message>
         <source>Time lost in an upstream gate, by its first entry in both runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas ztracený v protivodné brance, podle jejího prvního záznamu v obou jízdách.</translation>
     </message>
     <message>
         <source>Time lost from the entrance of an upstream gate to its pole line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas ztracený od nájezdu do protivodné branky k rovině branky.</translation>
     </message>
     <message>
         <source>Time lost from the pole line of an upstream gate to its exit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas ztracený od roviny protivodné branky k výjezdu.</translation>
     </message>
     <message>
         <source>What a stretch lost outside its upstream gates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co část ztratila mimo své protivodné branky.</translation>
     </message>
     <message>
         <source>loss − Σ gates</source>
-        <translation type="unfinished"></translation>
+        <translation>ztráta − Σ branek</translation>
     </message>
     <message>
         <source>The part of the loss that notes against the same crew explain.</source>
-        <translation type="unfinished"></translation>
+        <translation>Část ztráty, kterou vysvětlují poznámky proti téže posádce.</translation>
     </message>
     <message>
         <source>Σ notes / paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ poznámek / jízda</translation>
     </message>
     <message>
         <source>The time without penalties against the expected time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas bez penalizací proti očekávanému času.</translation>
     </message>
     <message>
         <source>paddling time − expected time</source>
-        <translation type="unfinished"></translation>
+        <translation>čistý čas − očekávaný čas</translation>
     </message>
     <message>
         <source>The total against a result of interest.</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkový čas proti výsledku, o který jde.</translation>
     </message>
     <message>
         <source>own total − result</source>
-        <translation type="unfinished"></translation>
+        <translation>vlastní celkový čas − výsledek</translation>
     </message>
     <message>
         <source>Time lost as noted; several reasons of one note share it equally.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztracený čas podle poznámek; více důvodů jedné poznámky ho sdílí rovným dílem.</translation>
     </message>
     <message>
         <source>Σ notes above 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ poznámek nad 0</translation>
     </message>
     <message>
         <source>Time gained as noted; several reasons of one note share it equally.</source>
-        <translation type="unfinished"></translation>
+        <translation>Získaný čas podle poznámek; více důvodů jedné poznámky ho sdílí rovným dílem.</translation>
     </message>
     <message>
         <source>Σ notes below 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ poznámek pod 0</translation>
     </message>
     <message>
         <source>What the chosen way cost against the fastest one timed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co zvolená varianta stála proti nejrychlejší změřené.</translation>
     </message>
     <message>
         <source>chosen − least timed</source>
-        <translation type="unfinished"></translation>
+        <translation>zvolená − nejmenší změřená</translation>
     </message>
     <message>
         <source>What was lost in percent of the reference&apos;s time, over whole runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co se ztratilo v procentech času reference, za úplné jízdy.</translation>
     </message>
     <message>
         <source>100 · ΣL / ΣB,  SE² = n/(n−1) · Σ(L − qB)² / (ΣB)²</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · ΣL / ΣB,  SE² = n/(n−1) · Σ(L − qB)² / (ΣB)²</translation>
     </message>
     <message>
         <source>ratio estimator: Cochran, Sampling Techniques, 1977</source>
-        <translation type="unfinished"></translation>
+        <translation>poměrový odhad: Cochran, Sampling Techniques, 1977</translation>
     </message>
     <message>
         <source>What was lost here in a run on the average.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co se zde ztratilo v jízdě v průměru.</translation>
     </message>
     <message>
         <source>ΣL / n</source>
-        <translation type="unfinished"></translation>
+        <translation>ΣL / n</translation>
     </message>
     <message>
         <source>The part of the whole gap that was lost here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Část celého odstupu, která se ztratila zde.</translation>
     </message>
     <message>
         <source>ΣL / Σgap</source>
-        <translation type="unfinished"></translation>
+        <translation>ΣL / Σodstupu</translation>
     </message>
     <message>
         <source>The mean gap of the whole runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Průměrný odstup úplných jízd.</translation>
     </message>
     <message>
         <source>Σgap / n</source>
-        <translation type="unfinished"></translation>
+        <translation>Σodstupu / n</translation>
     </message>
     <message>
         <source>interval: Student&apos;s t</source>
-        <translation type="unfinished"></translation>
+        <translation>interval: Studentovo t</translation>
     </message>
     <message>
         <source>The mean difference of penalties of the whole runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Průměrný rozdíl penalizací úplných jízd.</translation>
     </message>
     <message>
         <source>Σ(own − reference) / n</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ(vlastní − reference) / n</translation>
     </message>
     <message>
         <source>What was lost on the water up to a mark: all stretches before it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co se na vodě ztratilo až ke značce: všechny části před ní.</translation>
     </message>
     <message>
         <source>Σ losses to here</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ ztrát až sem</translation>
     </message>
     <message>
         <source>The total of the run: the official one where it has one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkový čas jízdy: oficiální, kde ho má.</translation>
     </message>
     <message>
         <source>One more than have a smaller total in the group, to the hundredth.</source>
-        <translation type="unfinished"></translation>
+        <translation>O jednu víc, než kolik jízd skupiny má menší celkový čas, na setinu.</translation>
     </message>
     <message>
         <source>1 + totals below the own</source>
-        <translation type="unfinished"></translation>
+        <translation>1 + celkové časy pod vlastním</translation>
     </message>
     <message>
         <source>The strokes that were marked in the stretch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Záběry označené v této části.</translation>
     </message>
     <message>
         <source>Σ strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ záběrů</translation>
     </message>
     <message>
         <source>The seconds of penalty at the gates of the stretch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trestné sekundy na brankách této části.</translation>
     </message>
     <message>
         <source>Σ penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ penalizací</translation>
     </message>
     <message>
         <source>The whole runs that have something of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Úplné jízdy, které z toho něco mají.</translation>
     </message>
     <message>
         <source>number of runs</source>
-        <translation type="unfinished"></translation>
+        <translation>počet jízd</translation>
     </message>
     <message>
         <source>What was lost here in all runs together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co se zde ztratilo ve všech jízdách dohromady.</translation>
     </message>
     <message>
         <source>Too few runs for an interval.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na interval je jízd příliš málo.</translation>
     </message>
     <message>
         <source>lost</source>
-        <translation type="unfinished"></translation>
+        <translation>ztraceno</translation>
     </message>
     <message>
         <source>reference</source>
-        <translation type="unfinished"></translation>
+        <translation>reference</translation>
     </message>
     <message>
         <source>gap of all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>odstup všech jízd</translation>
     </message>
     <message>
         <source>run</source>
@@ -2775,7 +2775,7 @@
     </message>
     <message>
         <source>half a frame, four marks</source>
-        <translation type="unfinished"></translation>
+        <translation>půl snímku, čtyři značky</translation>
     </message>
     <message>
         <source>loss</source>
@@ -2783,23 +2783,23 @@
     </message>
     <message>
         <source>gap</source>
-        <translation type="unfinished"></translation>
+        <translation>odstup</translation>
     </message>
     <message>
         <source>paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>jízda</translation>
     </message>
     <message>
         <source>Shown a hundredth apart, so that the parts add up to the shown gap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázáno o setinu jinak, aby části daly ukázaný odstup.</translation>
     </message>
     <message>
         <source>time without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>čas bez penalizací</translation>
     </message>
     <message>
         <source>expected time</source>
-        <translation type="unfinished"></translation>
+        <translation>očekávaný čas</translation>
     </message>
     <message>
         <source>result</source>
@@ -2807,67 +2807,67 @@
     </message>
     <message>
         <source>A missed gate also saved paddling, which the rank without it does not take back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Neprojetá branka také ušetřila čas jízdy; pořadí bez ní ho nevrací.</translation>
     </message>
     <message>
         <source>The total holds {} s of penalty, the gates {:.0f} s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkový čas obsahuje penalizaci {} s, branky {:.0f} s.</translation>
     </message>
     <message>
         <source>total</source>
-        <translation type="unfinished"></translation>
+        <translation>celkový čas</translation>
     </message>
     <message>
         <source>smaller totals</source>
-        <translation type="unfinished"></translation>
+        <translation>menší celkové časy</translation>
     </message>
     <message>
         <source>ranked runs</source>
-        <translation type="unfinished"></translation>
+        <translation>jízdy v pořadí</translation>
     </message>
     <message>
         <source>seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>sekundy</translation>
     </message>
     <message>
         <source>rank</source>
-        <translation type="unfinished"></translation>
+        <translation>pořadí</translation>
     </message>
     <message>
         <source>rank without</source>
-        <translation type="unfinished"></translation>
+        <translation>pořadí bez ní</translation>
     </message>
     <message>
         <source>clean run</source>
-        <translation type="unfinished"></translation>
+        <translation>čistá jízda</translation>
     </message>
     <message>
         <source>Unfinished runs are not counted: nobody knows whether they would have stayed clean.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nedokončené jízdy se nepočítají: nikdo neví, zda by zůstaly čisté.</translation>
     </message>
     <message>
         <source>{} more are not listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dalších nevypsaných: {}.</translation>
     </message>
     <message>
         <source>M</source>
-        <translation type="unfinished"></translation>
+        <translation>M</translation>
     </message>
     <message>
         <source>{} more rows are not listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dalších nevypsaných řádků: {}.</translation>
     </message>
     <message>
         <source>5 % and 95 % of the beta distribution</source>
-        <translation type="unfinished"></translation>
+        <translation>5 % a 95 % beta rozdělení</translation>
     </message>
     <message>
         <source>x</source>
-        <translation type="unfinished"></translation>
+        <translation>x</translation>
     </message>
     <message>
         <source>n</source>
-        <translation type="unfinished"></translation>
+        <translation>n</translation>
     </message>
     <message>
         <source>m</source>
@@ -2875,107 +2875,107 @@
     </message>
     <message>
         <source>Wilson&apos;s interval, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Wilsonův interval, 90 %</translation>
     </message>
     <message>
         <source>{} runs are</source>
-        <translation type="unfinished"></translation>
+        <translation>jízdy: {}</translation>
     </message>
     <message>
         <source>{} left out: {} penalties are not known by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vynecháno {}: {} penalizace nejsou známy po brankách.</translation>
     </message>
     <message>
         <source> and {} more</source>
-        <translation type="unfinished"></translation>
+        <translation> a dalších {}</translation>
     </message>
     <message>
         <source>{} {} out: touched more than the {} that all have in common.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} – ťuky častější než {}, které mají všechny společné.</translation>
     </message>
     <message numerus="yes">
         <source>{} touches</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} ťuk</numerusform>
+            <numerusform>{} ťuky</numerusform>
+            <numerusform>{} ťuků</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} passages</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} průjezd</numerusform>
+            <numerusform>{} průjezdy</numerusform>
+            <numerusform>{} průjezdů</numerusform>
         </translation>
     </message>
     <message>
         <source>Too few to tell: {} in {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na závěr příliš málo: {}, {}.</translation>
     </message>
     <message>
         <source>Only one {}: there is nothing to compare it with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen jedno ({}): není s čím porovnat.</translation>
     </message>
     <message>
         <source>No {} stands out: the highest, {} ({}), may be chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic nevyčnívá ({}): nejvyšší, {} ({}), může být náhoda.</translation>
     </message>
     <message>
         <source>Without this {}: {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez toho ({}): {}.</translation>
     </message>
     <message>
         <source>None of {} cost a place.</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: žádná nestála místo.</translation>
     </message>
     <message>
         <source>{} of them</source>
-        <translation type="unfinished"></translation>
+        <translation>z nich {}</translation>
     </message>
     <message>
         <source>Of {} {} cost places, {} a medal.</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: {} stálo místa, {} medaili.</translation>
     </message>
     <message>
         <source>None of {} was noted in detail.</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: žádná nebyla podrobně poznamenána.</translation>
     </message>
     <message numerus="yes">
         <source>{} were</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} byla</numerusform>
+            <numerusform>{} byly</numerusform>
+            <numerusform>{} bylo</numerusform>
         </translation>
     </message>
     <message>
         <source>Of {} {} noted in detail.</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: {} podrobně poznamenáno.</translation>
     </message>
     <message>
         <source>Too few to tell: no group has {} whole runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na závěr příliš málo: žádná skupina nemá {} úplných jízd.</translation>
     </message>
     <message>
         <source>{} touches a run in {}, all in one third of the field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ťuků na jízdu {} ({}), vše v jedné třetině pole.</translation>
     </message>
     <message>
         <source>{:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.2f} ťuku na jízdu v rychlejší třetině, {:.2f} v pomalejší.</translation>
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 % rychlosti vyváží {:.2f} ťuku na jízdu.</translation>
     </message>
     <message>
         <source>{} of {} without a penalty: {:.1f} % ({:.1f}–{:.1f}).</source>
-        <translation type="unfinished"></translation>
+        <translation>{} z {} bez penalizace: {:.1f} % ({:.1f}–{:.1f}).</translation>
     </message>
     <message>
         <source>{} {} {}, place</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} {}, místo</translation>
     </message>
     <message>
         <source>counted</source>
@@ -2983,35 +2983,35 @@
     </message>
     <message>
         <source>{} left out: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>vynecháno {}: {}</translation>
     </message>
     <message>
         <source>{} {} of {} ({:.0f}–{:.0f} %)</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} z {} ({:.0f}–{:.0f} %)</translation>
     </message>
     <message>
         <source>{:.1f} % behind the winner, {} (median of {})</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} % za vítězem, {} (medián z {})</translation>
     </message>
     <message>
         <source>within {:.1f} % from run to run</source>
-        <translation type="unfinished"></translation>
+        <translation>od jízdy k jízdě v rozmezí {:.1f} %</translation>
     </message>
     <message>
         <source>trend {:+.1f} % a year: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>trend {:+.1f} % za rok: {}</translation>
     </message>
     <message>
         <source>{}: too few runs to tell a trend behind {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: příliš málo jízd na trend za {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: {:+.1f} % za rok za {}{}, {}.</translation>
     </message>
     <message>
         <source>{} of {}&apos;s races is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>{1}: {0} těchto závodů není znám.</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
@@ -3019,83 +3019,83 @@
     </message>
     <message>
         <source>From run to run {:.1f} % is chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Od jízdy k jízdě je {:.1f} % náhoda.</translation>
     </message>
     <message>
         <source>From run to run {:.1f} % ({:.1f} to {:.1f}) is chance; {:.2f} % is worth gaining.</source>
-        <translation type="unfinished"></translation>
+        <translation>Od jízdy k jízdě je {:.1f} % ({:.1f} až {:.1f}) náhoda; vyplatí se získat {:.2f} %.</translation>
     </message>
     <message>
         <source>{} of {} grew faster beyond doubt, {} slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>{1}: nepochybně zrychlilo {0}, zpomalilo {2}.</translation>
     </message>
     <message>
         <source>{} met nobody in these races.</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: v těchto závodech žádné setkání.</translation>
     </message>
     <message numerus="yes">
         <source>{} rivals</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} soupeř</numerusform>
+            <numerusform>{} soupeři</numerusform>
+            <numerusform>{} soupeřů</numerusform>
         </translation>
     </message>
     <message>
         <source>{} is ahead beyond doubt of {} of {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: nepochybně vpředu před {}, celkem {}.</translation>
     </message>
     <message>
         <source>No split file of this class has three whole runs of a {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný soubor mezičasů této třídy nemá tři úplné jízdy: {}.</translation>
     </message>
     <message>
         <source>{:.1f} % would have been among the first three in {} of {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} % by stačilo na první tři v {} z {}.</translation>
     </message>
     <message>
         <source>The third was {:.1f} % behind in the median of {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Třetí byl {:.1f} % za vítězem, medián z {}.</translation>
     </message>
     <message>
         <source>Nobody of the team has runs enough to expect a place of.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nikdo z týmu nemá na odhad místa dost jízd.</translation>
     </message>
     <message>
         <source>{} may expect place {:.1f} of {}, a medal by {:.0f} %.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} může čekat místo {:.1f} z {}, medaili s {:.0f} %.</translation>
     </message>
     <message numerus="yes">
         <source>{} finals</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} finále</numerusform>
+            <numerusform>{} finále</numerusform>
+            <numerusform>{} finále</numerusform>
         </translation>
     </message>
     <message>
         <source>{:.1f} % would have been a medal in {} of {}</source>
-        <translation type="unfinished"></translation>
+        <translation>{2}: {0:.1f} % by stačilo na medaili v {1}</translation>
     </message>
     <message>
         <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obojí má dost často {}: {} {} nepochybně rychlejší, {}; {} pomalejší.</translation>
     </message>
     <message>
         <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: {}, {} z {} ({:.0f}–{:.0f} %).</translation>
     </message>
     <message>
         <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejblíž vítězům ({}): {}, {:.1f} % (medián z {}).</translation>
     </message>
     <message>
         <source>No winner of a phase &quot;{}&quot; of these races is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není znám vítěz fáze „{}“ těchto závodů.</translation>
     </message>
     <message>
         <source>split {}, fastest of it {:.2f}</source>
-        <translation type="unfinished"></translation>
+        <translation>mezičas {}, nejrychlejší v něm {:.2f}</translation>
     </message>
     <message>
         <source>missed</source>
@@ -3107,239 +3107,239 @@
     </message>
     <message>
         <source>all missed</source>
-        <translation type="unfinished"></translation>
+        <translation>všechny neprojeté</translation>
     </message>
     <message>
         <source>all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>všechny jízdy</translation>
     </message>
     <message>
         <source>{}, spread {:.2f}, missed {:.1f} %</source>
-        <translation type="unfinished"></translation>
+        <translation>{}, rozptyl {:.2f}, neprojeté {:.1f} %</translation>
     </message>
     <message>
         <source>How far behind the winner of the phase and class, penalties included.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak daleko za vítězem fáze a třídy, včetně penalizace.</translation>
     </message>
     <message>
         <source>100 · (T / W − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (T / W − 1)</translation>
     </message>
     <message>
         <source>of the class winner, not of the men&apos;s kayaks: Wells, thesis, 2018</source>
-        <translation type="unfinished"></translation>
+        <translation>za vítězem třídy, ne za mužským kajakem: Wells, disertace, 2018</translation>
     </message>
     <message>
         <source>How far behind the fastest times of all splits together, without penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak daleko za nejrychlejšími časy všech mezičasů dohromady, bez penalizace.</translation>
     </message>
     <message>
         <source>100 · (Σ splits / Σ fastest − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (Σ mezičasů / Σ nejrychlejších − 1)</translation>
     </message>
     <message>
         <source>How much a run varies by chance, once the athlete and the course are taken out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak moc jízda kolísá náhodou, když se odečte závodník a trať.</translation>
     </message>
     <message>
         <source>100 · (e^(s/100) − 1),  s² = Σe² / df,  df = runs − athletes − phases + connected parts</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (e^(s/100) − 1),  s² = Σe² / df,  df = jízdy − závodníci − fáze + souvislé části</translation>
     </message>
     <message>
         <source>mixed model of elite canoeists: Bonetti, Hopkins, 2010; interval: χ²</source>
-        <translation type="unfinished"></translation>
+        <translation>smíšený model elitních kanoistů: Bonetti, Hopkins, 2010; interval: χ²</translation>
     </message>
     <message>
         <source>How much this athlete&apos;s runs varied by chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak moc jízdy tohoto závodníka kolísaly náhodou.</translation>
     </message>
     <message>
         <source>s² = Σe² / (runs · df / all runs)</source>
-        <translation type="unfinished"></translation>
+        <translation>s² = Σe² / (jízdy · df / všechny jízdy)</translation>
     </message>
     <message>
         <source>The athlete&apos;s spread drawn towards the common one, the more the fewer the runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozptyl závodníka přitažený ke společnému, tím víc, čím méně je jízd.</translation>
     </message>
     <message>
         <source>s² = (Σe² + 10 · common s²) / (runs · df / all runs + 10)</source>
-        <translation type="unfinished"></translation>
+        <translation>s² = (Σe² + 10 · společné s²) / (jízdy · df / všechny jízdy + 10)</translation>
     </message>
     <message>
         <source>What is worth gaining: one more medal in ten races among equals at the top.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co se vyplatí získat: o medaili víc v deseti závodech mezi rovnými na špici.</translation>
     </message>
     <message>
         <source>0.3 · spread</source>
-        <translation type="unfinished"></translation>
+        <translation>0.3 · rozptyl</translation>
     </message>
     <message>
         <source>Hopkins, 2004</source>
-        <translation type="unfinished"></translation>
+        <translation>Hopkins, 2004</translation>
     </message>
     <message>
         <source>The change of the percentage behind from year to year.</source>
-        <translation type="unfinished"></translation>
+        <translation>Změna procent ztráty z roku na rok.</translation>
     </message>
     <message>
         <source>slope of 100 · ln(1 + percent/100) per 365.25 days</source>
-        <translation type="unfinished"></translation>
+        <translation>směrnice 100 · ln(1 + procenta/100) za 365.25 dne</translation>
     </message>
     <message>
         <source>Races among whose first three the athlete was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závody, v nichž byl závodník mezi prvními třemi.</translation>
     </message>
     <message>
         <source>places 1 to 3 / races with a final position</source>
-        <translation type="unfinished"></translation>
+        <translation>místa 1 až 3 / závody s konečným pořadím</translation>
     </message>
     <message>
         <source>interval: Wilson</source>
-        <translation type="unfinished"></translation>
+        <translation>interval: Wilson</translation>
     </message>
     <message>
         <source>Races in whose final the athlete was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závody, v jejichž finále závodník byl.</translation>
     </message>
     <message>
         <source>with a final / with phases</source>
-        <translation type="unfinished"></translation>
+        <translation>s finále / s fázemi</translation>
     </message>
     <message>
         <source>Races in whose semifinal the athlete was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závody, v jejichž semifinále závodník byl.</translation>
     </message>
     <message>
         <source>with a semifinal / with phases</source>
-        <translation type="unfinished"></translation>
+        <translation>se semifinále / s fázemi</translation>
     </message>
     <message>
         <source>The mean change from one phase of a race to a later one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Průměrná změna od jedné fáze závodu k pozdější.</translation>
     </message>
     <message>
         <source>mean of 100 · (ln later − ln earlier)</source>
-        <translation type="unfinished"></translation>
+        <translation>průměr 100 · (ln pozdější − ln dřívější)</translation>
     </message>
     <message>
         <source>How much a single run varies by chance, from pairs of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak moc jednotlivá jízda kolísá náhodou, z dvojic jízd.</translation>
     </message>
     <message>
         <source>SD of the changes / √2</source>
-        <translation type="unfinished"></translation>
+        <translation>SD změn / √2</translation>
     </message>
     <message>
         <source>typical error: Hopkins, 2000</source>
-        <translation type="unfinished"></translation>
+        <translation>typická chyba: Hopkins, 2000</translation>
     </message>
     <message>
         <source>Phases that both have in which the athlete was faster; ties count half.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fáze, které mají oba a v nichž byl závodník rychlejší; shody se počítají napůl.</translation>
     </message>
     <message>
         <source>(won + ties/2) / met</source>
-        <translation type="unfinished"></translation>
+        <translation>(výhry + shody/2) / setkání</translation>
     </message>
     <message>
         <source>The mean gap in the phases that both have, penalties included.</source>
-        <translation type="unfinished"></translation>
+        <translation>Průměrný odstup ve fázích, které mají oba, včetně penalizace.</translation>
     </message>
     <message>
         <source>mean of 100 · ln(own / rival&apos;s)</source>
-        <translation type="unfinished"></translation>
+        <translation>průměr 100 · ln(vlastní / soupeřův)</translation>
     </message>
     <message>
         <source>What percentage behind the winner a rank took, over the races.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolik procent za vítězem stačilo na umístění, přes závody.</translation>
     </message>
     <message>
         <source>median of 100 · (T of the rank / W − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>medián 100 · (T umístění / W − 1)</translation>
     </message>
     <message>
         <source>The chance of a missed gate, drawn towards everybody&apos;s as if by 20 runs more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pravděpodobnost neprojeté branky, přitažená ke společné jako 20 jízdami navíc.</translation>
     </message>
     <message>
         <source>(missed + 20q) / (runs + 20),  q = (all missed + ½) / (all runs + 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(neprojeté + 20q) / (jízdy + 20),  q = (všechny neprojeté + ½) / (všechny jízdy + 1)</translation>
     </message>
     <message>
         <source>The mean place among this field; with a missed gate behind all that have none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Průměrné místo v tomto poli; s neprojetou brankou za všemi, kdo žádnou nemají.</translation>
     </message>
     <message>
         <source>Σ place · chance,  result normal: effect, spread · √(1 + 1/n)</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ místo · pravděpodobnost,  výsledek normální: efekt, rozptyl · √(1 + 1/n)</translation>
     </message>
     <message>
         <source>The chance of one of the first three places among this field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pravděpodobnost jednoho z prvních tří míst v tomto poli.</translation>
     </message>
     <message>
         <source>chances of the places 1 to 3</source>
-        <translation type="unfinished"></translation>
+        <translation>pravděpodobnosti míst 1 až 3</translation>
     </message>
     <message>
         <source>How far behind the winners of a phase, the same number of races before and behind it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak daleko za vítězi fáze, stejný počet závodů předtím a potom.</translation>
     </message>
     <message>
         <source>median of 100 · (T / W − 1), without missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>medián 100 · (T / W − 1), bez neprojetých branek</translation>
     </message>
     <message>
         <source>{} {} {}, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} {}, procenta</translation>
     </message>
     <message>
         <source>90 %, Student&apos;s t with {} degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %, Studentovo t, stupně volnosti: {}</translation>
     </message>
     <message>
         <source>{:+.1f} % a year</source>
-        <translation type="unfinished"></translation>
+        <translation>{:+.1f} % za rok</translation>
     </message>
     <message>
         <source>spread, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>rozptyl, procenta</translation>
     </message>
     <message>
         <source>athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>závodníci</translation>
     </message>
     <message>
         <source>race phases</source>
-        <translation type="unfinished"></translation>
+        <translation>fáze závodů</translation>
     </message>
     <message>
         <source>connected parts</source>
-        <translation type="unfinished"></translation>
+        <translation>souvislé části</translation>
     </message>
     <message>
         <source>degrees of freedom</source>
-        <translation type="unfinished"></translation>
+        <translation>stupně volnosti</translation>
     </message>
     <message>
         <source>90 %, χ²</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %, χ²</translation>
     </message>
     <message>
         <source>common spread, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>společný rozptyl, procenta</translation>
     </message>
     <message>
         <source>{} with a missed gate left out</source>
-        <translation type="unfinished"></translation>
+        <translation>s neprojetou brankou, vynecháno: {}</translation>
     </message>
     <message>
         <source>exact Poisson interval, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>přesný Poissonův interval, 90 %</translation>
     </message>
     <message>
         <source>median paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>medián čistého času</translation>
     </message>
     <message>
         <source>Sections</source>
@@ -3355,7 +3355,7 @@
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Směr</translation>
     </message>
     <message>
         <source>Style</source>
@@ -3367,11 +3367,11 @@
     </message>
     <message>
         <source> (%1 to %2)</source>
-        <translation type="unfinished"></translation>
+        <translation> (%1 až %2)</translation>
     </message>
     <message>
         <source> (too few)</source>
-        <translation type="unfinished"></translation>
+        <translation> (příliš málo)</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -3383,23 +3383,23 @@
     </message>
     <message>
         <source>Losses and penalties · %1on the reference &quot;%2&quot; · %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráty a penalizace · %1proti referenci „%2“ · %3</translation>
     </message>
     <message>
         <source>Where time is lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde se ztrácí čas</translation>
     </message>
     <message>
         <source>Seconds a run: gap %1, penalties %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy na jízdu: odstup %1, penalizace %2</translation>
     </message>
     <message>
         <source>No whole run can be held against this reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>S touto referencí nelze porovnat žádnou úplnou jízdu.</translation>
     </message>
     <message>
         <source>%1 more rows are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dalších vynechaných řádků: %1.</translation>
     </message>
     <message>
         <source>In</source>
@@ -3411,7 +3411,7 @@
     </message>
     <message>
         <source>Lost, s</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta, s</translation>
     </message>
     <message>
         <source>A run, s</source>
@@ -3423,7 +3423,7 @@
     </message>
     <message>
         <source>90 % interval</source>
-        <translation type="unfinished"></translation>
+        <translation>90% interval</translation>
     </message>
     <message>
         <source>Verdict</source>
@@ -3435,27 +3435,27 @@
     </message>
     <message>
         <source>%1, run %2, %3 %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, jízda %2, %3 %4</translation>
     </message>
     <message>
         <source>What to train</source>
-        <translation type="unfinished"></translation>
+        <translation>Co trénovat</translation>
     </message>
     <message>
         <source>whose whole interval is above 0, by what it costs in a run</source>
-        <translation type="unfinished"></translation>
+        <translation>s celým intervalem nad 0, podle ceny na jízdu</translation>
     </message>
     <message>
         <source>Nothing stands out from these runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Z těchto jízd nic nevyčnívá.</translation>
     </message>
     <message>
         <source>%1. %2, %3: %4 s a run</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2, %3: %4 s na jízdu</translation>
     </message>
     <message>
         <source>See </source>
-        <translation type="unfinished"></translation>
+        <translation>Viz </translation>
     </message>
     <message>
         <source>Gates</source>
@@ -3471,7 +3471,7 @@
     </message>
     <message>
         <source>Percent, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Procenta, 90 %</translation>
     </message>
     <message>
         <source>All</source>
@@ -3479,11 +3479,11 @@
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Tenth of course</source>
-        <translation type="unfinished"></translation>
+        <translation>Desetina tratě</translation>
     </message>
     <message>
         <source>Penalties</source>
@@ -3491,11 +3491,11 @@
     </message>
     <message>
         <source>No run tells its penalties by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná jízda neuvádí penalizace po brankách.</translation>
     </message>
     <message>
         <source>Noted of %1 %2, shares of those noted:</source>
-        <translation type="unfinished"></translation>
+        <translation>Poznamenáno (%1 %2), podíly z poznamenaných:</translation>
     </message>
     <message>
         <source>penalty</source>
@@ -3507,55 +3507,55 @@
     </message>
     <message>
         <source>and %1 more gates</source>
-        <translation type="unfinished"></translation>
+        <translation>a dalších %1 branek</translation>
     </message>
     <message numerus="yes">
         <source>{} missed gates</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} neprojetá branka</numerusform>
+            <numerusform>{} neprojeté branky</numerusform>
+            <numerusform>{} neprojetých branek</numerusform>
         </translation>
     </message>
     <message>
         <source> in </source>
-        <translation type="unfinished"></translation>
+        <translation> v </translation>
     </message>
     <message>
         <source>upstream gate</source>
-        <translation type="unfinished"></translation>
+        <translation>protivodná branka</translation>
     </message>
     <message>
         <source>blue</source>
-        <translation type="unfinished"></translation>
+        <translation>modře</translation>
     </message>
     <message>
         <source>green</source>
-        <translation type="unfinished"></translation>
+        <translation>zeleně</translation>
     </message>
     <message>
         <source>orange</source>
-        <translation type="unfinished"></translation>
+        <translation>oranžově</translation>
     </message>
     <message>
         <source>red</source>
-        <translation type="unfinished"></translation>
+        <translation>červeně</translation>
     </message>
     <message>
         <source>fastest*, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nejrychlejší*, %1</translation>
     </message>
     <message>
         <source>%1, slowest, by tenths of the column</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, nejpomalejší, po desetinách sloupce</translation>
     </message>
     <message>
         <source>* best of its column, in %1; all others in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>* nejlepší ve sloupci, %1; všechny ostatní %2</translation>
     </message>
     <message>
         <source>Page %1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Strana %1 / %2</translation>
     </message>
     <message>
         <source>Sessions</source>
@@ -3571,15 +3571,15 @@
     </message>
     <message>
         <source>plan</source>
-        <translation type="unfinished"></translation>
+        <translation>plán</translation>
     </message>
     <message>
         <source>listed</source>
-        <translation type="unfinished"></translation>
+        <translation>v jedn.</translation>
     </message>
     <message>
         <source>Nothing is planned and nothing entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic není naplánováno a nic zadáno.</translation>
     </message>
     <message>
         <source>Season %1</source>
@@ -3587,19 +3587,19 @@
     </message>
     <message>
         <source>Weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>Týdny</translation>
     </message>
     <message>
         <source>Macrocycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Makrocykly</translation>
     </message>
     <message>
         <source>Weeks with an event</source>
-        <translation type="unfinished"></translation>
+        <translation>Týdny s akcí</translation>
     </message>
     <message>
         <source>Races run</source>
-        <translation type="unfinished"></translation>
+        <translation>Odjeté závody</translation>
     </message>
     <message>
         <source>Group %1</source>
@@ -3607,19 +3607,19 @@
     </message>
     <message>
         <source>  ·  %1 of %2 reached</source>
-        <translation type="unfinished"></translation>
+        <translation>  ·  dosaženo %1 z %2</translation>
     </message>
     <message>
         <source>Goals of the season</source>
-        <translation type="unfinished"></translation>
+        <translation>Cíle sezóny</translation>
     </message>
     <message>
         <source>No week of this season is planned yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný týden této sezóny zatím není naplánován.</translation>
     </message>
     <message>
         <source>Training by category</source>
-        <translation type="unfinished"></translation>
+        <translation>Trénink podle kategorie</translation>
     </message>
     <message>
         <source>Week</source>
@@ -3627,7 +3627,7 @@
     </message>
     <message>
         <source>Days</source>
-        <translation type="unfinished"></translation>
+        <translation>Dny</translation>
     </message>
     <message>
         <source>Macrocycle</source>
@@ -3639,11 +3639,11 @@
     </message>
     <message>
         <source>Load, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatížení, %</translation>
     </message>
     <message>
         <source>Event, place</source>
-        <translation type="unfinished"></translation>
+        <translation>Akce, místo</translation>
     </message>
     <message>
         <source>Tests</source>
@@ -3671,15 +3671,15 @@
     </message>
     <message>
         <source>continued</source>
-        <translation type="unfinished"></translation>
+        <translation>pokračování</translation>
     </message>
     <message>
         <source>Other days</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostatní dny</translation>
     </message>
     <message>
         <source>Training week</source>
-        <translation type="unfinished"></translation>
+        <translation>Tréninkový týden</translation>
     </message>
     <message>
         <source>Week %1</source>
@@ -3687,7 +3687,7 @@
     </message>
     <message>
         <source>Goals of the week</source>
-        <translation type="unfinished"></translation>
+        <translation>Cíle týdne</translation>
     </message>
     <message>
         <source>Notes</source>
@@ -3731,7 +3731,7 @@
     </message>
     <message>
         <source>Ideal run without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Ideální jízda bez penalizací</translation>
     </message>
     <message>
         <source>Ideal run</source>
@@ -3739,7 +3739,7 @@
     </message>
     <message>
         <source>Fastest run</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejrychlejší jízda</translation>
     </message>
     <message>
         <source>Split times</source>
@@ -3747,15 +3747,15 @@
     </message>
     <message>
         <source>There are no runs to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejsou žádné jízdy k ukázání.</translation>
     </message>
     <message>
         <source>%1 gates</source>
-        <translation type="unfinished"></translation>
+        <translation>branek: %1</translation>
     </message>
     <message>
         <source>, %1 upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>, protivodných: %1</translation>
     </message>
     <message>
         <source>Race</source>
@@ -3775,7 +3775,7 @@
     </message>
     <message>
         <source>For comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro porovnání</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -3787,7 +3787,7 @@
     </message>
     <message>
         <source> Grey: not timed as a whole, never a best.</source>
-        <translation type="unfinished"></translation>
+        <translation> Šedě: nezměřeno vcelku, nikdy nejlepší.</translation>
     </message>
     <message>
         <source>Split %1</source>
@@ -3799,23 +3799,23 @@
     </message>
     <message>
         <source>%1 s of %2 s; strokes are counted of whole sections.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s z %2 s; záběry se počítají z celých úseků.</translation>
     </message>
     <message>
         <source>The penalties of this run are not known by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace této jízdy nejsou známy po brankách.</translation>
     </message>
     <message>
         <source>Time so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Průběžný čas</translation>
     </message>
     <message>
         <source>Among all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezi všemi jízdami</translation>
     </message>
     <message>
         <source>Among all runs of </source>
-        <translation type="unfinished"></translation>
+        <translation>Mezi všemi jízdami kategorie </translation>
     </message>
     <message>
         <source>Gate</source>
@@ -3823,11 +3823,11 @@
     </message>
     <message>
         <source>Entrance</source>
-        <translation type="unfinished"></translation>
+        <translation>Nájezd</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Výjezd</translation>
     </message>
     <message>
         <source>Turn</source>
@@ -3855,7 +3855,7 @@
     </message>
     <message>
         <source>In the run at</source>
-        <translation type="unfinished"></translation>
+        <translation>V čase jízdy</translation>
     </message>
     <message>
         <source>Comments</source>
@@ -3863,7 +3863,7 @@
     </message>
     <message>
         <source>Split {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičas {}</translation>
     </message>
     <message>
         <source>best</source>
@@ -3875,7 +3875,7 @@
     </message>
     <message>
         <source>per min</source>
-        <translation type="unfinished"></translation>
+        <translation>za min</translation>
     </message>
     <message>
         <source>Split</source>
@@ -3891,7 +3891,7 @@
     </message>
     <message>
         <source>on the film</source>
-        <translation type="unfinished"></translation>
+        <translation>na filmu</translation>
     </message>
     <message>
         <source>recording</source>
@@ -3899,7 +3899,7 @@
     </message>
     <message>
         <source>gap and rank among all runs of the category; the run&apos;s with penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>odstup a pořadí mezi všemi jízdami kategorie; u jízdy s penalizací</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -3907,43 +3907,43 @@
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>a dalších %1</translation>
     </message>
     <message>
         <source>Recording: </source>
-        <translation type="unfinished"></translation>
+        <translation>Záznam: </translation>
     </message>
     <message>
         <source>third of the final, median</source>
-        <translation type="unfinished"></translation>
+        <translation>třetí z finále, medián</translation>
     </message>
     <message>
         <source>rank %1: %2 %</source>
-        <translation type="unfinished"></translation>
+        <translation>pořadí %1: %2 %</translation>
     </message>
     <message>
         <source>own median</source>
-        <translation type="unfinished"></translation>
+        <translation>vlastní medián</translation>
     </message>
     <message>
         <source>Medal</source>
-        <translation type="unfinished"></translation>
+        <translation>Medaile</translation>
     </message>
     <message>
         <source>Season </source>
-        <translation type="unfinished"></translation>
+        <translation>Sezóna </translation>
     </message>
     <message>
         <source>%1 · %2 races · intervals are 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · závodů: %2 · intervaly jsou 90 %</translation>
     </message>
     <message>
         <source>Percent behind the winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Procenta za vítězem</translation>
     </message>
     <message>
         <source>Percent behind the fastest splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Procenta za nejrychlejšími mezičasy</translation>
     </message>
     <message>
         <source>Races</source>
@@ -3951,7 +3951,7 @@
     </message>
     <message>
         <source>Reached</source>
-        <translation type="unfinished"></translation>
+        <translation>Dosaženo</translation>
     </message>
     <message>
         <source>Medals</source>
@@ -3971,19 +3971,19 @@
     </message>
     <message>
         <source>Change, below 0 is faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Změna, pod 0 je rychlejší</translation>
     </message>
     <message>
         <source>A year on the winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Za rok na vítěze</translation>
     </message>
     <message>
         <source>A year on the splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Za rok na mezičasy</translation>
     </message>
     <message>
         <source>Run 1 to run 2</source>
-        <translation type="unfinished"></translation>
+        <translation>1. až 2. jízda</translation>
     </message>
     <message>
         <source>Semifinal to final</source>
@@ -3991,15 +3991,15 @@
     </message>
     <message>
         <source>Heats to final, behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Kvalifikace až finále, ztráta</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Změny</translation>
     </message>
     <message>
         <source>Ahead of</source>
-        <translation type="unfinished"></translation>
+        <translation>Vpředu před</translation>
     </message>
     <message>
         <source>Met</source>
@@ -4011,11 +4011,11 @@
     </message>
     <message>
         <source>What a rank of the final took</source>
-        <translation type="unfinished"></translation>
+        <translation>Co stačilo na umístění ve finále</translation>
     </message>
     <message>
         <source>%1 athletes · intervals are 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>závodníků: %1 · intervaly jsou 90 %</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -4023,19 +4023,19 @@
     </message>
     <message>
         <source>Chance, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Šance, %</translation>
     </message>
     <message>
         <source>% a year</source>
-        <translation type="unfinished"></translation>
+        <translation>% za rok</translation>
     </message>
     <message>
         <source>On the splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Na mezičasech</translation>
     </message>
     <message>
         <source>On the winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Na vítěze</translation>
     </message>
     <message>
         <source>Athletes</source>
@@ -4043,7 +4043,7 @@
     </message>
     <message>
         <source>What a rank took: </source>
-        <translation type="unfinished"></translation>
+        <translation>Co stačilo na umístění: </translation>
     </message>
     <message>
         <source>Expected places</source>
@@ -4051,15 +4051,15 @@
     </message>
     <message>
         <source>best %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nejlepší %1</translation>
     </message>
     <message>
         <source> · races %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation> · závody %1 až %2</translation>
     </message>
     <message>
         <source>, continued</source>
-        <translation type="unfinished"></translation>
+        <translation>, pokračování</translation>
     </message>
     <message>
         <source>Pos</source>
@@ -4079,7 +4079,7 @@
     </message>
     <message>
         <source>xTime</source>
-        <translation type="unfinished"></translation>
+        <translation>xTime</translation>
     </message>
     <message>
         <source>Bonus</source>
@@ -4087,7 +4087,7 @@
     </message>
     <message>
         <source>x Score</source>
-        <translation type="unfinished"></translation>
+        <translation>x Score</translation>
     </message>
     <message>
         <source>Score</source>
@@ -4095,23 +4095,23 @@
     </message>
     <message>
         <source>Percent behind the best of the race and category. </source>
-        <translation type="unfinished"></translation>
+        <translation>Procenta za nejlepším v závodě a kategorii. </translation>
     </message>
     <message>
         <source>Percent behind the best expected time of the race and category. </source>
-        <translation type="unfinished"></translation>
+        <translation>Procenta za nejlepším očekávaným časem v závodě a kategorii. </translation>
     </message>
     <message>
         <source>The worst result is struck through and does not count</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejhorší výsledek je škrtnutý a nepočítá se</translation>
     </message>
     <message>
         <source>; with a bonus the two worst. </source>
-        <translation type="unfinished"></translation>
+        <translation>; s bonusem dva nejhorší. </translation>
     </message>
     <message>
         <source>Score: the sum of the others divided by three. %1: no result, P: preselected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Body: součet ostatních dělený třemi. %1: bez výsledku, P: předvybrán(a).</translation>
     </message>
     <message>
         <source>Categories</source>
@@ -4119,7 +4119,7 @@
     </message>
     <message>
         <source>Kind %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Druh %1</translation>
     </message>
     <message>
         <source>None</source>
@@ -4127,15 +4127,15 @@
     </message>
     <message>
         <source>Place and date</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo a datum</translation>
     </message>
     <message>
         <source>Signature</source>
-        <translation type="unfinished"></translation>
+        <translation>Podpis</translation>
     </message>
     <message>
         <source>the median of each column</source>
-        <translation type="unfinished"></translation>
+        <translation>mediánu každého sloupce</translation>
     </message>
     <message>
         <source>the ideal run</source>
@@ -4143,43 +4143,43 @@
     </message>
     <message>
         <source>the best of each column</source>
-        <translation type="unfinished"></translation>
+        <translation>nejlepšího v každém sloupci</translation>
     </message>
     <message>
         <source>Gaps in seconds to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstupy v sekundách od %1.</translation>
     </message>
     <message>
         <source>Places within each column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Místa v každém sloupci.</translation>
     </message>
     <message>
         <source>Percent behind the best of each column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Procenta za nejlepším v každém sloupci.</translation>
     </message>
     <message>
         <source>Percentiles of each column; the best has 100.</source>
-        <translation type="unfinished"></translation>
+        <translation>Percentily každého sloupce; nejlepší má 100.</translation>
     </message>
     <message>
         <source>Times from the start, without penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Časy od startu, bez penalizace.</translation>
     </message>
     <message>
         <source>Penalties are included in sections and total.</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace jsou započteny v úsecích i celkem.</translation>
     </message>
     <message>
         <source>Penalties are not included.</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace nejsou započteny.</translation>
     </message>
     <message>
         <source>Penalty seconds in brackets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trestné sekundy v závorkách.</translation>
     </message>
     <message>
         <source>Compared among all %1 runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnáno mezi všemi jízdami (%1).</translation>
     </message>
     <message>
         <source>Final position</source>
@@ -4187,459 +4187,459 @@
     </message>
     <message>
         <source>No athlete of this category comes into question.</source>
-        <translation type="unfinished"></translation>
+        <translation>V této kategorii nepřichází v úvahu žádný závodník.</translation>
     </message>
     <message>
         <source>medals</source>
-        <translation type="unfinished"></translation>
+        <translation>medaile</translation>
     </message>
     <message>
         <source>championship medals</source>
-        <translation type="unfinished"></translation>
+        <translation>medaile z mistrovství</translation>
     </message>
     <message>
         <source>top 6</source>
-        <translation type="unfinished"></translation>
+        <translation>do 6. místa</translation>
     </message>
     <message>
         <source>top 15</source>
-        <translation type="unfinished"></translation>
+        <translation>do 15. místa</translation>
     </message>
     <message>
         <source>What counts is summed and divided by three, however many races there were.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co se počítá, se sečte a dělí třemi, ať je závodů kolik chce.</translation>
     </message>
     <message>
         <source>Σ counted / 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ počítaných / 3</translation>
     </message>
     <message>
         <source>the rules of the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>pravidla nominace</translation>
     </message>
     <message>
         <source>The results and the bonus that count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledky a bonus, které se počítají.</translation>
     </message>
     <message>
         <source>Σ counted</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ počítaných</translation>
     </message>
     <message>
         <source>Counts in the score.</source>
-        <translation type="unfinished"></translation>
+        <translation>Počítá se do bodů.</translation>
     </message>
     <message>
         <source>percent</source>
-        <translation type="unfinished"></translation>
+        <translation>procenta</translation>
     </message>
     <message>
         <source>Dropped: the worst result of all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Škrtnuto: nejhorší výsledek ze všech.</translation>
     </message>
     <message>
         <source>not in the score</source>
-        <translation type="unfinished"></translation>
+        <translation>ne do bodů</translation>
     </message>
     <message>
         <source>Dropped too: a bonus stands among the results.</source>
-        <translation type="unfinished"></translation>
+        <translation>Také škrtnuto: mezi výsledky je bonus.</translation>
     </message>
     <message>
         <source>How far behind the best of the category in this race, with penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak daleko za nejlepším z kategorie v tomto závodě, včetně penalizace.</translation>
     </message>
     <message>
         <source>100 · ((time + penalties) / best − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · ((čas + penalizace) / nejlepší − 1)</translation>
     </message>
     <message>
         <source>A race without a result stands for this much.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závod bez výsledku znamená tolik.</translation>
     </message>
     <message>
         <source>999.99</source>
-        <translation type="unfinished"></translation>
+        <translation>999.99</translation>
     </message>
     <message>
         <source>More than two medals, or one at a championship, in the first two seasons.</source>
-        <translation type="unfinished"></translation>
+        <translation>Více než dvě medaile, nebo jedna z mistrovství, v prvních dvou sezónách.</translation>
     </message>
     <message>
         <source>medals &gt; 2 or championship medals ≥ 1</source>
-        <translation type="unfinished"></translation>
+        <translation>medaile &gt; 2 nebo medaile z mistrovství ≥ 1</translation>
     </message>
     <message>
         <source>the rules of the categorization</source>
-        <translation type="unfinished"></translation>
+        <translation>pravidla kategorizace</translation>
     </message>
     <message>
         <source>Three times among the first six in the first two seasons.</source>
-        <translation type="unfinished"></translation>
+        <translation>Třikrát mezi prvními šesti v prvních dvou sezónách.</translation>
     </message>
     <message>
         <source>top 6 ≥ 3</source>
-        <translation type="unfinished"></translation>
+        <translation>do 6. místa ≥ 3</translation>
     </message>
     <message>
         <source>Four times among the first fifteen in the first two seasons.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čtyřikrát mezi prvními patnácti v prvních dvou sezónách.</translation>
     </message>
     <message>
         <source>top 15 ≥ 4</source>
-        <translation type="unfinished"></translation>
+        <translation>do 15. místa ≥ 4</translation>
     </message>
     <message>
         <source>None of the other levels is reached in the first two seasons.</source>
-        <translation type="unfinished"></translation>
+        <translation>V prvních dvou sezónách není dosaženo žádné z ostatních úrovní.</translation>
     </message>
     <message>
         <source>otherwise</source>
-        <translation type="unfinished"></translation>
+        <translation>jinak</translation>
     </message>
     <message>
         <source>Races with a final position of 1 to 3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závody s konečným pořadím 1 až 3.</translation>
     </message>
     <message>
         <source>count</source>
-        <translation type="unfinished"></translation>
+        <translation>počet</translation>
     </message>
     <message>
         <source>Races with a final position of 1 to 6.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závody s konečným pořadím 1 až 6.</translation>
     </message>
     <message>
         <source>Races with a final position of 1 to 15.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závody s konečným pořadím 1 až 15.</translation>
     </message>
     <message>
         <source>Races with a final position.</source>
-        <translation type="unfinished"></translation>
+        <translation>Závody s konečným pořadím.</translation>
     </message>
     <message>
         <source>What the run would have taken at its usual distance from the best times.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolik by jízda trvala při svém obvyklém odstupu od nejlepších časů.</translation>
     </message>
     <message>
         <source>factor · perfect time</source>
-        <translation type="unfinished"></translation>
+        <translation>činitel · perfektní čas</translation>
     </message>
     <message>
         <source>How far its times stand above the best ones, without the outermost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak vysoko jsou její časy nad nejlepšími, bez krajních.</translation>
     </message>
     <message>
         <source>mean of the ratios that are left</source>
-        <translation type="unfinished"></translation>
+        <translation>průměr zbylých poměrů</translation>
     </message>
     <message>
         <source>A time of the run against the best of all runs there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas jízdy proti nejlepšímu ze všech jízd v tom místě.</translation>
     </message>
     <message>
         <source>own / best</source>
-        <translation type="unfinished"></translation>
+        <translation>vlastní / nejlepší</translation>
     </message>
     <message>
         <source>The best times of all runs, put together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejlepší časy všech jízd dohromady.</translation>
     </message>
     <message>
         <source>factor</source>
-        <translation type="unfinished"></translation>
+        <translation>činitel</translation>
     </message>
     <message>
         <source>perfect time</source>
-        <translation type="unfinished"></translation>
+        <translation>perfektní čas</translation>
     </message>
     <message>
         <source>ratios that are left</source>
-        <translation type="unfinished"></translation>
+        <translation>zbylé poměry</translation>
     </message>
     <message>
         <source>Side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Vedle sebe</translation>
     </message>
     <message>
         <source>Above each other</source>
-        <translation type="unfinished"></translation>
+        <translation>Nad sebou</translation>
     </message>
     <message>
         <source>Two by two</source>
-        <translation type="unfinished"></translation>
+        <translation>Dva krát dva</translation>
     </message>
     <message>
         <source>One within the other</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden v druhém</translation>
     </message>
     <message>
         <source>Ghost: seen through</source>
-        <translation type="unfinished"></translation>
+        <translation>Duch: průhledně</translation>
     </message>
     <message>
         <source>Left and right of a line</source>
-        <translation type="unfinished"></translation>
+        <translation>Vlevo a vpravo od čáry</translation>
     </message>
     <message>
         <source>at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>na startu</translation>
     </message>
     <message>
         <source>at one split</source>
-        <translation type="unfinished"></translation>
+        <translation>v jednom mezičase</translation>
     </message>
     <message>
         <source>at every split, waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>v každém mezičase, s čekáním</translation>
     </message>
     <message>
         <source>at every split, stretched</source>
-        <translation type="unfinished"></translation>
+        <translation>v každém mezičase, s roztažením</translation>
     </message>
     <message>
         <source>the whole run</source>
-        <translation type="unfinished"></translation>
+        <translation>celá jízda</translation>
     </message>
     <message>
         <source>from split to split</source>
-        <translation type="unfinished"></translation>
+        <translation>od mezičasu k mezičasu</translation>
     </message>
     <message>
         <source>Combination</source>
-        <translation type="unfinished"></translation>
+        <translation>Kombinace</translation>
     </message>
     <message>
         <source>Enter plays both films</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter přehraje oba filmy</translation>
     </message>
     <message>
         <source>No film is known here</source>
-        <translation type="unfinished"></translation>
+        <translation>Film zde není znám</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Druh</translation>
     </message>
     <message>
         <source>Own time less the reference&apos;s; all of them add up to what is shown on top</source>
-        <translation type="unfinished"></translation>
+        <translation>Vlastní čas minus čas reference; jejich součet je číslo nahoře</translation>
     </message>
     <message>
         <source>Between</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezi</translation>
     </message>
     <message>
         <source>Lost outside the upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta mimo protivodné branky</translation>
     </message>
     <message>
         <source>Reference&apos;s strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Záběry reference</translation>
     </message>
     <message>
         <source>Own seconds of penalty in the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Vlastní trestné sekundy v úseku</translation>
     </message>
     <message>
         <source>A tick makes the run what all are held against</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaškrtnutá jízda je ta, s níž se všechny porovnávají</translation>
     </message>
     <message>
         <source>Paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda</translation>
     </message>
     <message>
         <source>Timing</source>
-        <translation type="unfinished"></translation>
+        <translation>Měření</translation>
     </message>
     <message>
         <source>On expected time</source>
-        <translation type="unfinished"></translation>
+        <translation>Na očekávaný čas</translation>
     </message>
     <message>
         <source>Time without penalties less the expected time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas bez penalizací minus očekávaný čas</translation>
     </message>
     <message>
         <source>Lost up to the pole line</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta k rovině branky</translation>
     </message>
     <message>
         <source>Lost from the pole line on</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráta od roviny branky</translation>
     </message>
     <message>
         <source>Noted</source>
-        <translation type="unfinished"></translation>
+        <translation>Poznám.</translation>
     </message>
     <message>
         <source>not noted</source>
-        <translation type="unfinished"></translation>
+        <translation>nepoznamenáno</translation>
     </message>
     <message>
         <source>Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Cena</translation>
     </message>
     <message>
         <source>Seconds of the chosen way over the fastest one timed</source>
-        <translation type="unfinished"></translation>
+        <translation>O kolik sekund je zvolená varianta pomalejší než nejrychlejší změřená</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Vpřed</translation>
     </message>
     <message>
         <source>Turning rate (left above 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost otáčení (vlevo nad 0)</translation>
     </message>
     <message>
         <source>Turning</source>
-        <translation type="unfinished"></translation>
+        <translation>Otáčení</translation>
     </message>
     <message>
         <source>Roll (starboard down above 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Klonění (pravobok dolů nad 0)</translation>
     </message>
     <message>
         <source>Pitch (bow up above 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolébání (špička nahoru nad 0)</translation>
     </message>
     <message>
         <source>Speed by position</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost podle polohy</translation>
     </message>
     <message>
         <source>Hull speed, estimated</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost trupu, odhad</translation>
     </message>
     <message>
         <source>Hull speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlost trupu</translation>
     </message>
     <message>
         <source>Watch acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrychlení hodinek</translation>
     </message>
     <message>
         <source>Watch</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodinky</translation>
     </message>
     <message>
         <source>Acceleration of the phone, x</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrychlení telefonu, x</translation>
     </message>
     <message>
         <source>Acceleration x</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrychlení x</translation>
     </message>
     <message>
         <source>Acceleration of the phone, y</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrychlení telefonu, y</translation>
     </message>
     <message>
         <source>Acceleration y</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrychlení y</translation>
     </message>
     <message>
         <source>Acceleration of the phone, z</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrychlení telefonu, z</translation>
     </message>
     <message>
         <source>Acceleration z</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrychlení z</translation>
     </message>
     <message>
         <source>Rotation of the phone, x</source>
-        <translation type="unfinished"></translation>
+        <translation>Otáčení telefonu, x</translation>
     </message>
     <message>
         <source>Rotation x</source>
-        <translation type="unfinished"></translation>
+        <translation>Otáčení x</translation>
     </message>
     <message>
         <source>Rotation of the phone, y</source>
-        <translation type="unfinished"></translation>
+        <translation>Otáčení telefonu, y</translation>
     </message>
     <message>
         <source>Rotation y</source>
-        <translation type="unfinished"></translation>
+        <translation>Otáčení y</translation>
     </message>
     <message>
         <source>Rotation of the phone, z</source>
-        <translation type="unfinished"></translation>
+        <translation>Otáčení telefonu, z</translation>
     </message>
     <message>
         <source>Rotation z</source>
-        <translation type="unfinished"></translation>
+        <translation>Otáčení z</translation>
     </message>
     <message>
         <source>by gate</source>
-        <translation type="unfinished"></translation>
+        <translation>podle branky</translation>
     </message>
     <message>
         <source>by type of gate</source>
-        <translation type="unfinished"></translation>
+        <translation>podle typu branky</translation>
     </message>
     <message>
         <source>by tenth of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>podle desetiny tratě</translation>
     </message>
     <message>
         <source>by section</source>
-        <translation type="unfinished"></translation>
+        <translation>podle úseku</translation>
     </message>
     <message>
         <source>by crew</source>
-        <translation type="unfinished"></translation>
+        <translation>podle posádky</translation>
     </message>
     <message>
         <source>by category</source>
-        <translation type="unfinished"></translation>
+        <translation>podle kategorie</translation>
     </message>
     <message>
         <source>by phase</source>
-        <translation type="unfinished"></translation>
+        <translation>podle fáze</translation>
     </message>
     <message>
         <source>by race</source>
-        <translation type="unfinished"></translation>
+        <translation>podle závodu</translation>
     </message>
     <message>
         <source>by month</source>
-        <translation type="unfinished"></translation>
+        <translation>podle měsíce</translation>
     </message>
     <message>
         <source>by hand</source>
-        <translation type="unfinished"></translation>
+        <translation>podle ruky</translation>
     </message>
     <message>
         <source>Tenth</source>
-        <translation type="unfinished"></translation>
+        <translation>Desetina</translation>
     </message>
     <message>
         <source>Se&amp;gments</source>
-        <translation type="unfinished"></translation>
+        <translation>Se&amp;gmenty</translation>
     </message>
     <message>
         <source>&amp;Left and right</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Levá a pravá</translation>
     </message>
     <message>
         <source>Whole numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Celá čísla</translation>
     </message>
     <message>
         <source>Decimal numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Desetinná čísla</translation>
     </message>
     <message>
         <source>Times</source>
-        <translation type="unfinished"></translation>
+        <translation>Časy</translation>
     </message>
     <message>
         <source>DNF and the like</source>
-        <translation type="unfinished"></translation>
+        <translation>DNF a podobné</translation>
     </message>
     <message>
         <source>Text</source>
@@ -4647,275 +4647,275 @@
     </message>
     <message>
         <source>Penalty missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Chybí penalizace</translation>
     </message>
     <message>
         <source>Penalty too many</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizace navíc</translation>
     </message>
     <message>
         <source>Bibs swapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaměněná čísla</translation>
     </message>
     <message>
         <source>No result</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez výsledku</translation>
     </message>
     <message>
         <source>Not finished</source>
-        <translation type="unfinished"></translation>
+        <translation>Nedokončeno</translation>
     </message>
     <message>
         <source>Not in list</source>
-        <translation type="unfinished"></translation>
+        <translation>Není v listině</translation>
     </message>
     <message>
         <source>Not filmed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenatočeno</translation>
     </message>
     <message>
         <source>Average:</source>
-        <translation type="unfinished"></translation>
+        <translation>Průměr:</translation>
     </message>
     <message>
         <source>Average variation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Průměrné kolísání:</translation>
     </message>
     <message>
         <source>Total variation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkové kolísání:</translation>
     </message>
     <message>
         <source>Average increase:</source>
-        <translation type="unfinished"></translation>
+        <translation>Průměrný nárůst:</translation>
     </message>
     <message>
         <source>Total increase:</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkový nárůst:</translation>
     </message>
     <message>
         <source>Lap time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas kola</translation>
     </message>
     <message>
         <source>Time in straight line</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas rovné jízdy</translation>
     </message>
     <message>
         <source>Time in rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas v otáčení</translation>
     </message>
     <message>
         <source>Average speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Průměrná rychlost</translation>
     </message>
     <message>
         <source>Maximum acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximální zrychlení</translation>
     </message>
     <message>
         <source>Average acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Průměrné zrychlení</translation>
     </message>
     <message>
         <source>Average deacceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Průměrné zpomalení</translation>
     </message>
     <message>
         <source>Roll movement</source>
-        <translation type="unfinished"></translation>
+        <translation>Klonění do stran</translation>
     </message>
     <message>
         <source>Roll (°)</source>
-        <translation type="unfinished"></translation>
+        <translation>Klonění (°)</translation>
     </message>
     <message>
         <source>Maximum force</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximální síla</translation>
     </message>
     <message>
         <source>Impulse (N s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Impulz (N s)</translation>
     </message>
     <message>
         <source>Largest negative acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Největší záporné zrychlení</translation>
     </message>
     <message>
         <source>Negative acceleration (m/s2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Záporné zrychlení (m/s2)</translation>
     </message>
     <message>
         <source>Effective water phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Účinná vodní fáze</translation>
     </message>
     <message>
         <source>Rotation about the vertical axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Otáčení kolem svislé osy</translation>
     </message>
     <message>
         <source>Turns to the left are above 0, turns to the right below.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obraty vlevo jsou nad 0, vpravo pod 0.</translation>
     </message>
     <message>
         <source>The film {} is left out: its name is no UTF-8 text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Film {} je vynechán: jeho název není text UTF-8.</translation>
     </message>
     <message>
         <source>The folder {} cannot be read: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Složku {} nelze přečíst: {}</translation>
     </message>
     <message>
         <source>No video in {} carries the name {}. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádné video v {} nenese jméno {}. Nic nebylo zapsáno.</translation>
     </message>
     <message>
         <source>The file {} exists already. Say --replace to write a new one in its place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor {} už existuje. Nový na jeho místo zapíše --replace.</translation>
     </message>
     <message>
         <source>This call needs the program that paints and makes films, which could not be started: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Toto volání potřebuje program, který kreslí a tvoří filmy; ten nelze spustit: {}</translation>
     </message>
     <message>
         <source>The file {} exists and is not the sample&apos;s. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor {} existuje a nepatří k ukázce. Zvolte jinou složku.</translation>
     </message>
     <message>
         <source>The file {} could not be written: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor {} nelze zapsat: {}</translation>
     </message>
     <message>
         <source>The file {} is none of these tables and stays as it is. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor {} není žádná z těchto tabulek a zůstává, jak je. Nic nebylo zapsáno.</translation>
     </message>
     <message>
         <source>The folder {} could not be made: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Složku {} nelze vytvořit: {}</translation>
     </message>
     <message>
         <source>Line {}: {}, and was imported as it stands.</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek {}: {}, importováno tak, jak stojí.</translation>
     </message>
     <message>
         <source>There is no run {}: the file has {}, counted from 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jízda {} není: soubor jich má {}, počítáno od 0.</translation>
     </message>
     <message>
         <source>No run has the category &quot;{}&quot;.{}</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná jízda nemá kategorii „{}“.{}</translation>
     </message>
     <message>
         <source>Nobody of the team races in &quot;{}&quot;. Categories: {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nikdo z týmu nezávodí v „{}“. Kategorie: {}.</translation>
     </message>
     <message>
         <source>Several athletes of the team are called {}: their runs cannot be told apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Více závodníků týmu se jmenuje {}: jejich jízdy nelze rozlišit.</translation>
     </message>
     <message>
         <source>The file {} is of an older version, {}, and was not changed. Bring it to the current one first: kavela upgrade {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor {} je starší verze, {}, a nebyl změněn. Nejdřív ho převeďte do současné: kavela upgrade {}</translation>
     </message>
     <message>
         <source>The time of {} ({}) in {} is 0; a missing result should be 999.9.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas pro {} ({}) v {} je 0; chybějící výsledek má být 999.9.</translation>
     </message>
     <message>
         <source>No athlete has a bonus of kind {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný závodník nemá bonus druhu {}.</translation>
     </message>
     <message>
         <source>The list {} is no UTF-8 text and was read as Latin-1: look at the names.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznam {} není text UTF-8 a byl přečten jako Latin-1: zkontrolujte jména.</translation>
     </message>
     <message>
         <source>The list {} could not be read: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Seznam {} nelze přečíst: {}</translation>
     </message>
     <message>
         <source>{} of {} skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přeskočeno: {} z {}.</translation>
     </message>
     <message>
         <source>Line {} brought the category {} into the selection{}</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek {} přinesl do nominace kategorii {}{}</translation>
     </message>
     <message>
         <source>No run has the {} &quot;{}&quot;. There is {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná jízda nemá ({}) „{}“. Je zde {}.</translation>
     </message>
     <message>
         <source>There is no file and no command {}. Run with --help for the commands.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není soubor ani příkaz {}. Příkazy vypíše --help.</translation>
     </message>
     <message>
         <source>The desktop program could not be started: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Desktopový program nelze spustit: {}</translation>
     </message>
     <message>
         <source>{}: this is its {}; it carries {} too (--sheet).</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: toto je {}; obsahuje i {} (--sheet).</translation>
     </message>
     <message>
         <source>Line {}, {}: perhaps {}; not joined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Řádek {}, {}: snad {}; nepřipojeno.</translation>
     </message>
     <message>
         <source>{}: this is no team: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: toto není tým: {}</translation>
     </message>
     <message>
         <source>The team has no athlete {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>V týmu není závodník {}.</translation>
     </message>
     <message>
         <source>{} does not race in {}. Categories: {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} v {} nezávodí. Kategorie: {}.</translation>
     </message>
     <message>
         <source>The file could not be read: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor nelze přečíst: {}</translation>
     </message>
     <message>
         <source>There is no number with the id &quot;{}&quot; here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není zde číslo s označením „{}“.</translation>
     </message>
     <message>
         <source>losing</source>
-        <translation type="unfinished"></translation>
+        <translation>ztráta</translation>
     </message>
     <message>
         <source>gaining</source>
-        <translation type="unfinished"></translation>
+        <translation>zisk</translation>
     </message>
     <message>
         <source>unclear</source>
-        <translation type="unfinished"></translation>
+        <translation>nejasné</translation>
     </message>
     <message>
         <source>slower</source>
-        <translation type="unfinished"></translation>
+        <translation>pomalejší</translation>
     </message>
     <message>
         <source>circle: heats, triangle: semifinal, square: final</source>
-        <translation type="unfinished"></translation>
+        <translation>kruh: kvalifikace, trojúhelník: semifinále, čtverec: finále</translation>
     </message>
     <message>
         <source>{:.0f} to {:.0f}</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.0f} až {:.0f}</translation>
     </message>
     <message>
         <source>of the races whose result is known</source>
-        <translation type="unfinished"></translation>
+        <translation>ze závodů se známým výsledkem</translation>
     </message>
     <message>
         <source>too few runs to tell what is chance</source>
-        <translation type="unfinished"></translation>
+        <translation>příliš málo jízd na to, co je náhoda</translation>
     </message>
     <message>
         <source>chance from run to run {:.1f} %, all {:.1f} %; {:.2f} % matters</source>
-        <translation type="unfinished"></translation>
+        <translation>náhoda od jízdy k jízdě {:.1f} %, všichni {:.1f} %; význam má {:.2f} %</translation>
     </message>
     <message>
         <source>none</source>
@@ -4927,166 +4927,166 @@
     </message>
     <message>
         <source>One-repetition maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum na jedno opakování</translation>
     </message>
     <message>
         <source>Prints what a shell completes calls by</source>
-        <translation type="unfinished"></translation>
+        <translation>Vypíše, podle čeho shell doplňuje volání</translation>
     </message>
     <message>
         <source>Prints the page of the manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Vypíše stránku manuálu</translation>
     </message>
     <message>
         <source>The page cannot be written over a file that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stránku nelze zapsat přes soubor, ze kterého vzniká.</translation>
     </message>
     <message>
         <source>Writes the page of an athlete for a telephone, one HTML file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapíše stránku závodníka do telefonu, jeden soubor HTML</translation>
     </message>
     <message>
         <source>Split files (.kvx) of any release, and folders of them; several make a season</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory mezičasů (.kvx) kterékoli verze a jejich složky; více jich tvoří sezónu</translation>
     </message>
     <message>
         <source>Whose page; a crew as &quot;A / B&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Čí stránka; posádka jako &quot;A / B&quot;</translation>
     </message>
     <message>
         <source>File to write, ending in .html</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor k zápisu s příponou .html</translation>
     </message>
     <message>
         <source>Cut the athlete&apos;s runs out of their films into the folder of the page</source>
-        <translation type="unfinished"></translation>
+        <translation>Vystřihnout jízdy závodníka z jejich filmů do složky stránky</translation>
     </message>
     <message>
         <source>Shares a folder with a server, both ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Sdílí složku se serverem, oběma směry</translation>
     </message>
     <message>
         <source>The folder on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka na tomto počítači</translation>
     </message>
     <message>
         <source>Address of the folder on the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresa složky na serveru</translation>
     </message>
     <message>
         <source>User name for the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Uživatelské jméno pro server</translation>
     </message>
     <message>
         <source>Only print what would be done</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen vypsat, co by se udělalo</translation>
     </message>
     <message>
         <source>Do not ask before anything is done</source>
-        <translation type="unfinished"></translation>
+        <translation>Neptat se, než se něco udělá</translation>
     </message>
     <message>
         <source>Delete on each side what was deleted on the other and not changed since</source>
-        <translation type="unfinished"></translation>
+        <translation>Na každé straně smazat, co bylo na druhé smazáno a od té doby nezměněno</translation>
     </message>
     <message>
         <source>Print JSON; nothing is asked</source>
-        <translation type="unfinished"></translation>
+        <translation>Vypsat JSON; na nic se neptá</translation>
     </message>
     <message>
         <source>Shows what stood on a line of a film over time, as a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukáže, co bylo v průběhu filmu na čáře, jako obrázek</translation>
     </message>
     <message>
         <source>Film of a camera that stands still</source>
-        <translation type="unfinished"></translation>
+        <translation>Film z kamery, která stojí na místě</translation>
     </message>
     <message>
         <source>X1,Y1,X2,Y2: the ends of the line in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>X1,Y1,X2,Y2: konce čáry v pixelech</translation>
     </message>
     <message>
         <source>Picture to write (.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrázek k zápisu (.png)</translation>
     </message>
     <message>
         <source>Print the frame and stamp of every column as JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>Vypsat snímek a časové razítko každého sloupce jako JSON</translation>
     </message>
     <message>
         <source>Look for boats that cross the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledat lodě, které čáru protnou</translation>
     </message>
     <message>
         <source>X,Y,WIDTH,HEIGHT: a box round one boat, for --proposals</source>
-        <translation type="unfinished"></translation>
+        <translation>X,Y,WIDTH,HEIGHT: rámeček kolem jedné lodi, pro --proposals</translation>
     </message>
     <message>
         <source>Where boats come from: left or right of the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Odkud lodě přijíždějí: left nebo right od čáry</translation>
     </message>
     <message>
         <source>Nothing to do: name a picture with -o, or ask for --json or --proposals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není co dělat: určete obrázek pomocí -o, nebo žádejte --json či --proposals.</translation>
     </message>
     <message>
         <source>--proposals needs a box round one boat: --boat X,Y,WIDTH,HEIGHT.</source>
-        <translation type="unfinished"></translation>
+        <translation>--proposals potřebuje rámeček kolem jedné lodi: --boat X,Y,WIDTH,HEIGHT.</translation>
     </message>
     <message>
         <source>Follows a boat, gate or head through a film, as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>Sleduje loď, branku nebo hlavu filmem, jako tabulka</translation>
     </message>
     <message>
         <source>Film to look at</source>
-        <translation type="unfinished"></translation>
+        <translation>Film k prohlédnutí</translation>
     </message>
     <message>
         <source>What is followed: X,Y,WIDTH,HEIGHT in pixels of the picture, from its upper left corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Co se sleduje: X,Y,WIDTH,HEIGHT v pixelech obrazu, od jeho levého horního rohu</translation>
     </message>
     <message>
         <source>Second of the film at which the box was drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunda filmu, v níž byl rámeček nakreslen</translation>
     </message>
     <message>
         <source>Second at which following ends; otherwise where it is lost, or the film ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunda, v níž sledování končí; jinak kde se ztratí, nebo kde film skončí</translation>
     </message>
     <message>
         <source>Known points on the water (.json), for metres and speeds</source>
-        <translation type="unfinished"></translation>
+        <translation>Známé body na vodě (.json), pro metry a rychlosti</translation>
     </message>
     <message>
         <source>File to write (.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor k zápisu (.csv)</translation>
     </message>
     <message>
         <source>In some frames the camera&apos;s motion is not known: too little of the picture stands still. They have no steadied place.</source>
-        <translation type="unfinished"></translation>
+        <translation>V některých snímcích není znám pohyb kamery: příliš málo obrazu stojí. Nemají ustálené místo.</translation>
     </message>
     <message>
         <source>Metres hold for what is on the water; a head is above it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Metry platí pro to, co je na vodě; hlava je nad ní.</translation>
     </message>
     <message>
         <source>Two known points give a scale only: lengths and speeds hold near them and along the line between them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dva známé body dají jen měřítko: délky a rychlosti platí poblíž nich a podél čáry mezi nimi.</translation>
     </message>
     <message>
         <source>What was deleted on one side stays on the other: --delete deletes it there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co bylo smazáno na jedné straně, zůstává na druhé: --delete to smaže i tam.</translation>
     </message>
     <message>
         <source>The server wants a user name: --user tells it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Server chce uživatelské jméno: udá ho --user.</translation>
     </message>
     <message numerus="yes">
         <source>{} columns</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} sloupec</numerusform>
+            <numerusform>{} sloupce</numerusform>
+            <numerusform>{} sloupců</numerusform>
         </translation>
     </message>
 </context>
