@@ -420,7 +420,7 @@
     <name>QueryForm</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Závodník</translation>
+        <translation>Záv&amp;odník</translation>
     </message>
     <message>
         <source>anyone</source>
@@ -428,7 +428,7 @@
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation>&amp;Kategorie</translation>
+        <translation>Ka&amp;tegorie</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
@@ -464,11 +464,11 @@
     </message>
     <message>
         <source>&amp;Direction</source>
-        <translation>S&amp;měr</translation>
+        <translation>&amp;Směr</translation>
     </message>
     <message>
         <source>&amp;Style</source>
-        <translation>&amp;Styl</translation>
+        <translation>St&amp;yl</translation>
     </message>
     <message>
         <source>&amp;Kind</source>
@@ -2138,7 +2138,7 @@
     <message>
         <source> · on {} · {}
 </source>
-        <translation> · proti {} · {}
+        <translation> · reference: {} · {}
 </translation>
     </message>
     <message>
@@ -3379,7 +3379,7 @@
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation>%1, závod %2</translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Losses and penalties · %1on the reference &quot;%2&quot; · %3</source>
@@ -3403,7 +3403,7 @@
     </message>
     <message>
         <source>In</source>
-        <translation>Nájezd</translation>
+        <translation>Podle</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -3495,7 +3495,7 @@
     </message>
     <message>
         <source>Noted of %1 %2, shares of those noted:</source>
-        <translation>Poznamenáno (%1 %2), podíly z poznamenaných:</translation>
+        <translation>Poznamenáno (%2: %1), podíly z poznamenaných:</translation>
     </message>
     <message>
         <source>penalty</source>
@@ -3575,7 +3575,7 @@
     </message>
     <message>
         <source>listed</source>
-        <translation>v jedn.</translation>
+        <translation>skut.</translation>
     </message>
     <message>
         <source>Nothing is planned and nothing entered.</source>
@@ -3723,7 +3723,7 @@
     </message>
     <message>
         <source>By</source>
-        <translation>Podle</translation>
+        <translation>Kdo</translation>
     </message>
     <message>
         <source>Results</source>
@@ -4123,7 +4123,7 @@
     </message>
     <message>
         <source>None</source>
-        <translation>Žádná</translation>
+        <translation>Žádný</translation>
     </message>
     <message>
         <source>Place and date</source>
@@ -4139,7 +4139,7 @@
     </message>
     <message>
         <source>the ideal run</source>
-        <translation>ideální jízda</translation>
+        <translation>ideální jízdy</translation>
     </message>
     <message>
         <source>the best of each column</source>
@@ -5262,7 +5262,7 @@
     </message>
     <message>
         <source>&amp;Previous mark</source>
-        <translation>Př&amp;edchozí značka</translation>
+        <translation>Předchozí &amp;značka</translation>
     </message>
     <message>
         <source>&amp;Next mark</source>
@@ -5514,7 +5514,7 @@
     </message>
     <message>
         <source>%1  %2 on %3</source>
-        <translation>%1  %2 proti %3</translation>
+        <translation>%1  %2, reference: %3</translation>
     </message>
     <message>
         <source>%1: no section in common with %2</source>
@@ -5522,7 +5522,7 @@
     </message>
     <message>
         <source>%1  %2 on %3 in %4 (no total)</source>
-        <translation>%1  %2 proti %3, závod %4 (bez celkového času)</translation>
+        <translation>%1  %2, reference: %3, %4 (bez celkového času)</translation>
     </message>
     <message>
         <source>Explained by notes: %1 of %2 (%3 %)</source>
@@ -6050,7 +6050,7 @@
     </message>
     <message>
         <source>Import .s&amp;bm file</source>
-        <translation>Importovat soubor .s&amp;bm</translation>
+        <translation>I&amp;mportovat soubor .sbm</translation>
     </message>
     <message>
         <source>Import from a &amp;watch or logger…</source>
@@ -6118,7 +6118,7 @@
     </message>
     <message>
         <source>&amp;Segments</source>
-        <translation>&amp;Segmenty</translation>
+        <translation>S&amp;egmenty</translation>
     </message>
     <message>
         <source>&amp;Mark here</source>
@@ -6190,7 +6190,7 @@
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>&amp;Zobrazení</translation>
+        <translation>Zo&amp;brazení</translation>
     </message>
     <message>
         <source>&amp;Zoom to the selected stretch</source>
@@ -6294,7 +6294,7 @@
     </message>
     <message>
         <source>&amp;Remove the boat from the list</source>
-        <translation>&amp;Odstranit loď z listiny</translation>
+        <translation>Odstra&amp;nit loď z listiny</translation>
     </message>
     <message>
         <source>To the next film that is not &amp;timed yet</source>
@@ -6326,7 +6326,7 @@
     </message>
     <message>
         <source>Films from here on: one start late&amp;r</source>
-        <translation>Filmy odtud dál: o start po&amp;zději</translation>
+        <translation>Filmy od&amp;tud dál: o start později</translation>
     </message>
     <message>
         <source>Did not start, or did after all</source>
@@ -6394,7 +6394,7 @@
     </message>
     <message>
         <source>New &amp;race</source>
-        <translation>Nový &amp;závod</translation>
+        <translation>No&amp;vý závod</translation>
     </message>
     <message>
         <source>Move season or race &amp;up</source>
@@ -6418,7 +6418,7 @@
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation>&amp;Najít závodníka</translation>
+        <translation>Najít záv&amp;odníka</translation>
     </message>
     <message>
         <source>Take &amp;results over…</source>
@@ -6430,7 +6430,7 @@
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
-        <translation>Uložit g&amp;raf…</translation>
+        <translation>Uložit gr&amp;af…</translation>
     </message>
     <message>
         <source>&amp;Edit the cell</source>
@@ -6670,7 +6670,7 @@
     </message>
     <message>
         <source>New &amp;sprint</source>
-        <translation>Nový &amp;sprint</translation>
+        <translation>No&amp;vý sprint</translation>
     </message>
     <message>
         <source>New &amp;eight test</source>
@@ -6698,7 +6698,7 @@
     </message>
     <message>
         <source>&amp;Untick all</source>
-        <translation>Zrušit všechna zaškrt&amp;nutí</translation>
+        <translation>Zrušit zaškr&amp;tnutí</translation>
     </message>
     <message>
         <source>&amp;Values</source>
@@ -6706,7 +6706,7 @@
     </message>
     <message>
         <source>&amp;Table</source>
-        <translation>Ta&amp;bulka</translation>
+        <translation>&amp;Tabulka</translation>
     </message>
     <message>
         <source>Charts by &amp;lap or stretch</source>
@@ -6742,7 +6742,7 @@
     </message>
     <message>
         <source>&amp;Copy the table</source>
-        <translation>Kopírova&amp;t tabulku</translation>
+        <translation>Kopírovat ta&amp;bulku</translation>
     </message>
     <message>
         <source>Course</source>
@@ -6871,7 +6871,7 @@
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Závodník</translation>
+        <translation>Záv&amp;odník</translation>
     </message>
     <message>
         <source>&amp;From</source>
@@ -6953,7 +6953,7 @@
     </message>
     <message>
         <source>Retired</source>
-        <translation>Ukončená kariéra</translation>
+        <translation>Po kariéře</translation>
     </message>
     <message>
         <source>retirement</source>
@@ -7834,7 +7834,7 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     </message>
     <message>
         <source>Add s&amp;plit files…</source>
-        <translation>Přidat soubory &amp;mezičasů…</translation>
+        <translation>&amp;Přidat soubory mezičasů…</translation>
     </message>
     <message>
         <source>Add &amp;films…</source>
@@ -8013,7 +8013,7 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     </message>
     <message>
         <source>none</source>
-        <translation>žádné</translation>
+        <translation>žádný</translation>
     </message>
 </context>
 <context>
@@ -8035,7 +8035,7 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     </message>
     <message>
         <source>Add s&amp;plit files…</source>
-        <translation>Přidat soubory &amp;mezičasů…</translation>
+        <translation>&amp;Přidat soubory mezičasů…</translation>
     </message>
     <message>
         <source>Add &amp;films…</source>
@@ -8043,7 +8043,7 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     </message>
     <message>
         <source>&amp;Compose the film…</source>
-        <translation>&amp;Složit film…</translation>
+        <translation>Složit fil&amp;m…</translation>
     </message>
     <message>
         <source>Films being composed: &amp;jobs</source>
@@ -8055,23 +8055,23 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation>&amp;Přehrávání</translation>
+        <translation>Přehrá&amp;vání</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation>&amp;Přehrát nebo pozastavit</translation>
+        <translation>Pře&amp;hrát nebo pozastavit</translation>
     </message>
     <message>
         <source>From the &amp;beginning</source>
-        <translation>Od &amp;začátku</translation>
+        <translation>Od z&amp;ačátku</translation>
     </message>
     <message>
         <source>One frame ba&amp;ck</source>
-        <translation>O snímek z&amp;pět</translation>
+        <translation>O sním&amp;ek zpět</translation>
     </message>
     <message>
         <source>One frame &amp;on</source>
-        <translation>O snímek &amp;vpřed</translation>
+        <translation>&amp;O snímek vpřed</translation>
     </message>
     <message>
         <source>P&amp;art</source>
@@ -8079,11 +8079,11 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     </message>
     <message>
         <source>&amp;Begin here</source>
-        <translation>Začít z&amp;de</translation>
+        <translation>Z&amp;ačít zde</translation>
     </message>
     <message>
         <source>&amp;End here</source>
-        <translation>S&amp;končit zde</translation>
+        <translation>&amp;Skončit zde</translation>
     </message>
     <message>
         <source>The &amp;whole run</source>
@@ -8095,11 +8095,11 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     </message>
     <message>
         <source>&amp;Align the second film by two points</source>
-        <translation>S&amp;rovnat druhý film podle dvou bodů</translation>
+        <translation>Srovnat druhý film podle dvou &amp;bodů</translation>
     </message>
     <message>
         <source>&amp;Forget the points</source>
-        <translation>Zapo&amp;menout body</translation>
+        <translation>Zapomenout bod&amp;y</translation>
     </message>
     <message>
         <source>The film could not be composed: %1</source>
@@ -8498,7 +8498,7 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     </message>
     <message>
         <source>&amp;Bank</source>
-        <translation>&amp;Břeh</translation>
+        <translation>Bř&amp;eh</translation>
     </message>
     <message>
         <source>&amp;Line of a run</source>
@@ -8709,7 +8709,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     <name>kavela::desktop::CrossActions</name>
     <message>
         <source>&amp;Open a split file…</source>
-        <translation>&amp;Otevřít soubor mezičasů…</translation>
+        <translation>Otevřít sou&amp;bor mezičasů…</translation>
     </message>
     <message>
         <source>&amp;Save data</source>
@@ -8725,15 +8725,15 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>&amp;Import films of time trials…</source>
-        <translation>&amp;Importovat filmy časovek…</translation>
+        <translation>Im&amp;portovat filmy časovek…</translation>
     </message>
     <message>
         <source>Film of the selected trial or &amp;heat…</source>
-        <translation>Film vybrané časovky nebo &amp;rozjížďky…</translation>
+        <translation>&amp;Film vybrané časovky nebo rozjížďky…</translation>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
-        <translation>&amp;Kde jsou filmy nyní?…</translation>
+        <translation>Kde jsou film&amp;y nyní?…</translation>
     </message>
     <message>
         <source>Split &amp;taking of this race</source>
@@ -8741,7 +8741,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
-        <translation>Ukázat v &amp;analýze závodu</translation>
+        <translation>Ukázat v a&amp;nalýze závodu</translation>
     </message>
     <message>
         <source>Open a split file</source>
@@ -8769,7 +8769,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation>Z&amp;načky</translation>
+        <translation>&amp;Značky</translation>
     </message>
     <message>
         <source>&amp;Mark the frame shown</source>
@@ -8793,11 +8793,11 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>&amp;Time trials</source>
-        <translation>Č&amp;asovky</translation>
+        <translation>Čas&amp;ovky</translation>
     </message>
     <message>
         <source>&amp;Add an athlete</source>
-        <translation>&amp;Přidat závodníka</translation>
+        <translation>Přidat &amp;závodníka</translation>
     </message>
     <message>
         <source>M marks the &amp;splits</source>
@@ -8853,7 +8853,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>&amp;Zobrazení</translation>
+        <translation>Zo&amp;brazení</translation>
     </message>
     <message>
         <source>&amp;Results</source>
@@ -9331,7 +9331,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>likely</source>
-        <translation>pravděpodobné</translation>
+        <translation>asi</translation>
     </message>
     <message>
         <source>unsure</source>
@@ -9850,7 +9850,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation>&amp;Kategorie</translation>
+        <translation>Ka&amp;tegorie</translation>
     </message>
     <message>
         <source>Pha&amp;se</source>
@@ -10053,7 +10053,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     <name>kavela::desktop::FactsForm</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Závodník</translation>
+        <translation>Záv&amp;odník</translation>
     </message>
     <message>
         <source>Name of the athlete</source>
@@ -10142,7 +10142,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>&amp;Time the films of the folder</source>
-        <translation>&amp;Změřit filmy složky</translation>
+        <translation>Změřit &amp;filmy složky</translation>
     </message>
     <message>
         <source>Fet&amp;ch</source>
@@ -10534,11 +10534,11 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     <name>kavela::desktop::FilmsActions</name>
     <message>
         <source>&amp;Open a folder…</source>
-        <translation>&amp;Otevřít složku…</translation>
+        <translation>Otevřít &amp;složku…</translation>
     </message>
     <message>
         <source>Folders opened &amp;before</source>
-        <translation>Dříve o&amp;tevřené složky</translation>
+        <translation>Dříve otevřené složk&amp;y</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
@@ -10546,7 +10546,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>Úpr&amp;avy</translation>
+        <translation>Úprav&amp;y</translation>
     </message>
     <message>
         <source>&amp;Undo the renaming</source>
@@ -10574,7 +10574,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>&amp;Next film</source>
-        <translation>&amp;Další film</translation>
+        <translation>Další &amp;film</translation>
     </message>
     <message>
         <source>Pre&amp;vious film</source>
@@ -10606,11 +10606,11 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>The next one &amp;follows</source>
-        <translation>Další &amp;následuje</translation>
+        <translation>Další násled&amp;uje</translation>
     </message>
     <message>
         <source>Begin at the first &amp;mark</source>
-        <translation>Začít na první z&amp;načce</translation>
+        <translation>Z&amp;ačít na první značce</translation>
     </message>
     <message>
         <source>&amp;Tags</source>
@@ -10658,7 +10658,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>&amp;Cut</source>
-        <translation>&amp;Střih</translation>
+        <translation>Stři&amp;h</translation>
     </message>
     <message>
         <source>The cut &amp;begins here</source>
@@ -10674,7 +10674,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Cut by &amp;copying…</source>
-        <translation>Vystřihnout &amp;kopií…</translation>
+        <translation>&amp;Vystřihnout kopií…</translation>
     </message>
     <message>
         <source>Cut e&amp;xactly…</source>
@@ -10732,7 +10732,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Search f&amp;iles…</source>
-        <translation>Prohledat so&amp;ubory…</translation>
+        <translation>Prohl&amp;edat soubory…</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
@@ -10740,7 +10740,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation>&amp;Zastavit čtení</translation>
+        <translation>Zastavit čte&amp;ní</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
@@ -10985,7 +10985,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>%1 %2 in %3</source>
-        <translation>%1 %2 za %3</translation>
+        <translation>%2: %1 (%3)</translation>
     </message>
     <message>
         <source>, the first %1 shown</source>
@@ -11610,7 +11610,7 @@ Stiskněte Insert a přidejte ho.</translation>
     <name>kavela::desktop::HeatList</name>
     <message>
         <source>none</source>
-        <translation>žádné</translation>
+        <translation>žádný</translation>
     </message>
     <message>
         <source>⚠ missing: %1</source>
@@ -11634,7 +11634,7 @@ Stiskněte Insert a přidejte ho.</translation>
     </message>
     <message>
         <source>Taken</source>
-        <translation>Zaznam.</translation>
+        <translation>Pořadí</translation>
     </message>
     <message>
         <source>Add a heat…</source>
@@ -11850,7 +11850,7 @@ Stiskněte Insert a přidejte ho.</translation>
     </message>
     <message>
         <source>Se&amp;ttings…</source>
-        <translation>&amp;Nastavení…</translation>
+        <translation>Nas&amp;tavení…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -11905,7 +11905,7 @@ Stiskněte Insert a přidejte ho.</translation>
     </message>
     <message>
         <source>By</source>
-        <translation>Podle</translation>
+        <translation>Kdo</translation>
     </message>
     <message>
         <source>Ideal run %1 s</source>
@@ -11946,7 +11946,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Závodník</translation>
+        <translation>Záv&amp;odník</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -11966,7 +11966,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>&amp;Paddle length</source>
-        <translation>&amp;Délka pádla</translation>
+        <translation>Délk&amp;a pádla</translation>
     </message>
     <message>
         <source>cm</source>
@@ -12028,7 +12028,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>&amp;Work</source>
-        <translation>&amp;Práce</translation>
+        <translation>Prác&amp;e</translation>
     </message>
     <message>
         <source>&amp;Rest between repetitions</source>
@@ -12067,7 +12067,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation>Levá</translation>
+        <translation>Šipka vlevo</translation>
     </message>
     <message>
         <source>Space</source>
@@ -12079,7 +12079,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation>Pravá</translation>
+        <translation>Šipka vpravo</translation>
     </message>
     <message>
         <source>Full screen</source>
@@ -12243,7 +12243,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Kept</source>
-        <translation>Uchováno</translation>
+        <translation>Uchované</translation>
     </message>
     <message>
         <source>Asked last</source>
@@ -12651,15 +12651,15 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Open a &amp;folder of races…</source>
-        <translation>Otevřít &amp;složku závodů…</translation>
+        <translation>Otevřít s&amp;ložku závodů…</translation>
     </message>
     <message>
         <source>&amp;Read all again</source>
-        <translation>Načíst vše &amp;znovu</translation>
+        <translation>Načíst vš&amp;e znovu</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation>&amp;Zastavit čtení</translation>
+        <translation>Zastavit čte&amp;ní</translation>
     </message>
     <message>
         <source>&amp;Page of an athlete: PDF, preview, print…</source>
@@ -12723,7 +12723,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>&amp;Zobrazení</translation>
+        <translation>Zo&amp;brazení</translation>
     </message>
     <message>
         <source>&amp;Sum from total to total</source>
@@ -12743,7 +12743,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Table of s&amp;ections</source>
-        <translation>Tabulka ú&amp;seků</translation>
+        <translation>Tab&amp;ulka úseků</translation>
     </message>
     <message>
         <source>Table of &amp;runs</source>
@@ -13059,7 +13059,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>&amp;Previous recording</source>
-        <translation>&amp;Předchozí záznam</translation>
+        <translation>Předchozí &amp;záznam</translation>
     </message>
     <message>
         <source>&amp;Next recording</source>
@@ -13107,11 +13107,11 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>&amp;Earlier</source>
-        <translation>&amp;Dříve</translation>
+        <translation>Dřív&amp;e</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation>Po&amp;zději</translation>
+        <translation>Pozdě&amp;ji</translation>
     </message>
     <message>
         <source>&amp;Previous stroke</source>
@@ -13465,7 +13465,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation>Po&amp;zději</translation>
+        <translation>Pozdě&amp;ji</translation>
     </message>
     <message>
         <source>&amp;Download</source>
@@ -13745,7 +13745,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>&amp;Open split files…</source>
-        <translation>&amp;Otevřít soubory mezičasů…</translation>
+        <translation>Otevřít soubory &amp;mezičasů…</translation>
     </message>
     <message>
         <source>Open a &amp;folder…</source>
@@ -13753,11 +13753,11 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Read &amp;again</source>
-        <translation>Načíst &amp;znovu</translation>
+        <translation>N&amp;ačíst znovu</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation>&amp;Zastavit čtení</translation>
+        <translation>Zastavit čte&amp;ní</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
@@ -13765,7 +13765,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
-        <translation>Uložit &amp;tabulku jako CSV…</translation>
+        <translation>Uložit ta&amp;bulku jako CSV…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
@@ -13801,7 +13801,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Pre&amp;vious course</source>
-        <translation>Před&amp;chozí trať</translation>
+        <translation>Předcho&amp;zí trať</translation>
     </message>
     <message>
         <source>&amp;All runs</source>
@@ -13911,7 +13911,7 @@ Bez penalizací.</translation>
     <name>kavela::desktop::PenaltyFilter</name>
     <message>
         <source>&amp;Category</source>
-        <translation>&amp;Kategorie</translation>
+        <translation>Ka&amp;tegorie</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
@@ -14080,7 +14080,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Závodník</translation>
+        <translation>Záv&amp;odník</translation>
     </message>
     <message>
         <source>Choose one of the athletes of the list.</source>
@@ -14411,7 +14411,7 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     <name>kavela::desktop::PlanningWindow</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Závodník</translation>
+        <translation>Záv&amp;odník</translation>
     </message>
     <message>
         <source>&amp;New athlete…</source>
@@ -14515,15 +14515,15 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>&amp;Zobrazení</translation>
+        <translation>Zo&amp;brazení</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation>&amp;Najít závodníka</translation>
+        <translation>Najít záv&amp;odníka</translation>
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
-        <translation>&amp;Zprávy: náhled, PDF, tisk…</translation>
+        <translation>Zprávy: náhled, &amp;PDF, tisk…</translation>
     </message>
     <message>
         <source>Week as a &amp;calendar file…</source>
@@ -14539,7 +14539,7 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     </message>
     <message>
         <source>Sa&amp;ve online…</source>
-        <translation>Uložit on&amp;line…</translation>
+        <translation>&amp;Uložit online…</translation>
     </message>
     <message>
         <source>Athletes</source>
@@ -14606,11 +14606,11 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     <name>kavela::desktop::PlayMenu</name>
     <message>
         <source>&amp;Play</source>
-        <translation>&amp;Přehrávání</translation>
+        <translation>Přehrá&amp;vání</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation>&amp;Přehrát nebo pozastavit</translation>
+        <translation>Pře&amp;hrát nebo pozastavit</translation>
     </message>
     <message>
         <source>Backwards, again: faster</source>
@@ -14744,7 +14744,7 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     </message>
     <message>
         <source>Left</source>
-        <translation>Levá</translation>
+        <translation>Zbývá</translation>
     </message>
 </context>
 <context>
@@ -14882,7 +14882,7 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     </message>
     <message>
         <source>Heats</source>
-        <translation>Rozjížďky</translation>
+        <translation>Kvalifikace</translation>
     </message>
     <message>
         <source>Final</source>
@@ -15010,11 +15010,11 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     <name>kavela::desktop::RaceActions</name>
     <message>
         <source>Open it &amp;again</source>
-        <translation>Otevřít z&amp;novu</translation>
+        <translation>Ot&amp;evřít znovu</translation>
     </message>
     <message>
         <source>Ti&amp;me it on video</source>
-        <translation>&amp;Změřit z videa</translation>
+        <translation>Změřit z vide&amp;a</translation>
     </message>
     <message>
         <source>&amp;Report: preview, PDF, print…</source>
@@ -15026,7 +15026,7 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     </message>
     <message>
         <source>Cop&amp;y the selected runs</source>
-        <translation>&amp;Kopírovat vybrané jízdy</translation>
+        <translation>Kopírovat vybrané &amp;jízdy</translation>
     </message>
     <message>
         <source>&amp;Times</source>
@@ -15062,7 +15062,7 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     </message>
     <message>
         <source>&amp;Table</source>
-        <translation>Ta&amp;bulka</translation>
+        <translation>&amp;Tabulka</translation>
     </message>
     <message>
         <source>&amp;Accumulated times</source>
@@ -15142,7 +15142,7 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     </message>
     <message>
         <source>&amp;Totals</source>
-        <translation>&amp;Celkové časy</translation>
+        <translation>Cel&amp;kové časy</translation>
     </message>
     <message>
         <source>&amp;Penalties</source>
@@ -15166,7 +15166,7 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     </message>
     <message>
         <source>Races &amp;side by side</source>
-        <translation>Závody &amp;vedle sebe</translation>
+        <translation>&amp;Závody vedle sebe</translation>
     </message>
     <message>
         <source>&amp;Larger: the table or the chart alone</source>
@@ -15310,7 +15310,7 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     </message>
     <message>
         <source>the ideal run</source>
-        <translation>ideální jízda</translation>
+        <translation>ideální jízdy</translation>
     </message>
     <message>
         <source>This course has %1 sections. The colours and the penalties in brackets are those of the first ten; place, gap and percent are there for all of them.</source>
@@ -15898,7 +15898,7 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     </message>
     <message>
         <source>position</source>
-        <translation>pořadí</translation>
+        <translation>poloha</translation>
     </message>
     <message>
         <source>no position</source>
@@ -16629,7 +16629,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source> against %1</source>
-        <translation> proti %1</translation>
+        <translation> proti: %1</translation>
     </message>
     <message>
         <source>penalties %1 s</source>
@@ -16796,7 +16796,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>&amp;Open a team…</source>
-        <translation>&amp;Otevřít tým…</translation>
+        <translation>Ot&amp;evřít tým…</translation>
     </message>
     <message>
         <source>Add &amp;split files…</source>
@@ -16808,11 +16808,11 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>Read &amp;again</source>
-        <translation>Načíst &amp;znovu</translation>
+        <translation>N&amp;ačíst znovu</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation>&amp;Zastavit čtení</translation>
+        <translation>Zastavit čte&amp;ní</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
@@ -16820,19 +16820,19 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>&amp;Reports to look at and print…</source>
-        <translation>&amp;Zprávy k prohlédnutí a tisku…</translation>
+        <translation>Zprávy k pro&amp;hlédnutí a tisku…</translation>
     </message>
     <message>
         <source>Report of the &amp;athlete as PDF…</source>
-        <translation>Zpráva o &amp;závodníkovi jako PDF…</translation>
+        <translation>Zpráva o závodníkovi &amp;jako PDF…</translation>
     </message>
     <message>
         <source>Report of the tea&amp;m as PDF…</source>
-        <translation>Zpráva o &amp;týmu jako PDF…</translation>
+        <translation>Zpráva o týmu jako PD&amp;F…</translation>
     </message>
     <message>
         <source>Save the tab&amp;le as CSV…</source>
-        <translation>Uložit ta&amp;bulku jako CSV…</translation>
+        <translation>Uložit tabulku jako &amp;CSV…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
@@ -16872,7 +16872,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>&amp;What it takes</source>
-        <translation>&amp;Co je třeba</translation>
+        <translation>Co &amp;je třeba</translation>
     </message>
     <message>
         <source>&amp;Athletes</source>
@@ -16880,11 +16880,11 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>The who&amp;le chart</source>
-        <translation>&amp;Celý graf</translation>
+        <translation>Celý &amp;graf</translation>
     </message>
     <message>
         <source>Athl&amp;ete</source>
-        <translation>Závod&amp;ník</translation>
+        <translation>&amp;Závodník</translation>
     </message>
     <message>
         <source>The &amp;next athlete</source>
@@ -16915,7 +16915,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation>&amp;Kategorie</translation>
+        <translation>Ka&amp;tegorie</translation>
     </message>
     <message>
         <source>&amp;Years</source>
@@ -16923,7 +16923,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Závodník</translation>
+        <translation>Záv&amp;odník</translation>
     </message>
 </context>
 <context>
@@ -17097,7 +17097,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>%1 on %2: %3 in %4; gap a run %5, penalties %6</source>
-        <translation>%1 proti %2: %3, závod %4; odstup na jízdu %5, penalizace %6</translation>
+        <translation>%1, reference: %2: %3 (%4); odstup na jízdu %5, penalizace %6</translation>
     </message>
     <message>
         <source>one whole run</source>
@@ -17752,7 +17752,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
-        <translation>&amp;Zprávy: náhled, PDF, tisk…</translation>
+        <translation>Zprávy: náhled, &amp;PDF, tisk…</translation>
     </message>
     <message>
         <source>Make times of 0 &amp;missing results</source>
@@ -17760,11 +17760,11 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>&amp;Copy the table</source>
-        <translation>Kopírova&amp;t tabulku</translation>
+        <translation>Kopírovat ta&amp;bulku</translation>
     </message>
     <message>
         <source>&amp;What if</source>
-        <translation>Co &amp;kdyby</translation>
+        <translation>Co kd&amp;yby</translation>
     </message>
     <message>
         <source>&amp;Races</source>
@@ -17969,7 +17969,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation>Eskymák</translation>
+        <translation>Klonění</translation>
     </message>
     <message>
         <source>Pitch</source>
@@ -18335,7 +18335,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>None</source>
-        <translation>Žádná</translation>
+        <translation>Žádné</translation>
     </message>
     <message>
         <source>Look for a newer version once a day</source>
@@ -18354,7 +18354,7 @@ Vyberte soubor.</translation>
     <name>kavela::desktop::ShareActions</name>
     <message>
         <source>&amp;Open a folder to share…</source>
-        <translation>&amp;Otevřít složku ke sdílení…</translation>
+        <translation>Otevřít &amp;složku ke sdílení…</translation>
     </message>
     <message>
         <source>Sha&amp;re</source>
@@ -18541,7 +18541,7 @@ a dalších %1</translation>
     <name>kavela::desktop::SlitActions</name>
     <message>
         <source>&amp;Open a film…</source>
-        <translation>&amp;Otevřít film…</translation>
+        <translation>Otevřít &amp;film…</translation>
     </message>
     <message>
         <source>Open the &amp;race of the film in split taking</source>
@@ -18557,7 +18557,7 @@ a dalších %1</translation>
     </message>
     <message>
         <source>Save the &amp;water round the marks…</source>
-        <translation>Uložit &amp;vodu kolem značek…</translation>
+        <translation>Uložit vodu kole&amp;m značek…</translation>
     </message>
     <message>
         <source>Save what is seen of the slit picture</source>
@@ -18581,7 +18581,7 @@ a dalších %1</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>Úpr&amp;avy</translation>
+        <translation>Úprav&amp;y</translation>
     </message>
     <message>
         <source>&amp;Undo the mark</source>
@@ -18593,7 +18593,7 @@ a dalších %1</translation>
     </message>
     <message>
         <source>&amp;Lines</source>
-        <translation>Čár&amp;y</translation>
+        <translation>Čá&amp;ry</translation>
     </message>
     <message>
         <source>Draw a &amp;new line</source>
@@ -18661,7 +18661,7 @@ a dalších %1</translation>
     </message>
     <message>
         <source>To the &amp;beginning</source>
-        <translation>Na &amp;začátek</translation>
+        <translation>&amp;Na začátek</translation>
     </message>
     <message>
         <source>&amp;Closer</source>
@@ -18669,7 +18669,7 @@ a dalších %1</translation>
     </message>
     <message>
         <source>&amp;Farther</source>
-        <translation>&amp;Dál</translation>
+        <translation>Dá&amp;l</translation>
     </message>
     <message>
         <source>The &amp;whole film</source>
@@ -18677,7 +18677,7 @@ a dalších %1</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation>Z&amp;načky</translation>
+        <translation>&amp;Značky</translation>
     </message>
     <message>
         <source>&amp;Mark the run at the hair line</source>
@@ -18685,7 +18685,7 @@ a dalších %1</translation>
     </message>
     <message>
         <source>Take the mark &amp;away</source>
-        <translation>&amp;Odebrat značku</translation>
+        <translation>Odebrat &amp;značku</translation>
     </message>
     <message>
         <source>&amp;Previous run</source>
@@ -18713,11 +18713,11 @@ a dalších %1</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation>&amp;Přehrávání</translation>
+        <translation>Přehrá&amp;vání</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation>&amp;Přehrát nebo pozastavit</translation>
+        <translation>Pře&amp;hrát nebo pozastavit</translation>
     </message>
     <message>
         <source>&amp;Slower</source>
@@ -19200,7 +19200,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Taken</source>
-        <translation>Zaznam.</translation>
+        <translation>Zvolená</translation>
     </message>
     <message>
         <source>Way</source>
@@ -19308,11 +19308,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>%1 was not timed there.</source>
-        <translation>%1 zde nebyla změřena.</translation>
+        <translation>%1 tam nemá změřený čas.</translation>
     </message>
     <message>
         <source>%1 is timed: %2 s. Empty its time to mark it anew.</source>
-        <translation>%1 je změřena: %2 s. Pro nové označení její čas vymažte.</translation>
+        <translation>%1 už má čas: %2 s. Pro nové označení ho vymažte.</translation>
     </message>
     <message>
         <source>Start</source>
@@ -19448,31 +19448,31 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <name>kavela::desktop::TablesActions</name>
     <message>
         <source>&amp;Open a list…</source>
-        <translation>&amp;Otevřít seznam…</translation>
+        <translation>Otevřít &amp;seznam…</translation>
     </message>
     <message>
         <source>Open what was &amp;copied</source>
-        <translation>Otevřít z&amp;kopírované</translation>
+        <translation>Otevřít &amp;zkopírované</translation>
     </message>
     <message>
         <source>A&amp;nother list of this file…</source>
-        <translation>&amp;Jiný seznam z tohoto souboru…</translation>
+        <translation>Jiný s&amp;eznam z tohoto souboru…</translation>
     </message>
     <message>
         <source>&amp;Keep with the race…</source>
-        <translation>&amp;Uchovat u závodu…</translation>
+        <translation>U&amp;chovat u závodu…</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
-        <translation>Uložit &amp;tabulku jako CSV…</translation>
+        <translation>Uložit ta&amp;bulku jako CSV…</translation>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
-        <translation>Uložit g&amp;raf…</translation>
+        <translation>Uložit gr&amp;af…</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>Úpr&amp;avy</translation>
+        <translation>Úprav&amp;y</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -19480,11 +19480,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>Znov&amp;u</translation>
+        <translation>Z&amp;novu</translation>
     </message>
     <message>
         <source>The first line holds the &amp;titles</source>
-        <translation>První řádek obsahuje &amp;nadpisy</translation>
+        <translation>&amp;První řádek obsahuje nadpisy</translation>
     </message>
     <message>
         <source>The first line is a ro&amp;w</source>
@@ -19492,11 +19492,11 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>No &amp;groups</source>
-        <translation>Žád&amp;né skupiny</translation>
+        <translation>Žádné &amp;skupiny</translation>
     </message>
     <message>
         <source>&amp;Column</source>
-        <translation>&amp;Sloupec</translation>
+        <translation>Sloupe&amp;c</translation>
     </message>
     <message>
         <source>&amp;Sort</source>
@@ -19904,7 +19904,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation>&amp;Kategorie</translation>
+        <translation>Ka&amp;tegorie</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
@@ -19983,7 +19983,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation>&amp;Závodník</translation>
+        <translation>Záv&amp;odník</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -19999,7 +19999,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>T&amp;urn limit</source>
-        <translation>&amp;Mez obratu</translation>
+        <translation>M&amp;ez obratu</translation>
     </message>
     <message>
         <source>&amp;Suggest the marks again</source>
@@ -20165,7 +20165,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Import &amp;video…</source>
-        <translation>Importovat &amp;video…</translation>
+        <translation>Importov&amp;at video…</translation>
     </message>
     <message>
         <source>Import split &amp;file…</source>
@@ -20173,7 +20173,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Import official &amp;results…</source>
-        <translation>Importovat oficiální &amp;výsledky…</translation>
+        <translation>Importovat oficiální vý&amp;sledky…</translation>
     </message>
     <message>
         <source>Compare &amp;with official results…</source>
@@ -20193,7 +20193,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
-        <translation>Ukázat v &amp;analýze závodu</translation>
+        <translation>Ukázat v a&amp;nalýze závodu</translation>
     </message>
     <message>
         <source>Compare fil&amp;ms of the run…</source>
@@ -20225,7 +20225,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation>&amp;Najít závodníka</translation>
+        <translation>Najít záv&amp;odníka</translation>
     </message>
     <message>
         <source>Move the run up</source>
@@ -20245,7 +20245,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation>Z&amp;načky</translation>
+        <translation>&amp;Značky</translation>
     </message>
     <message>
         <source>&amp;Mark the split</source>
@@ -20297,7 +20297,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
-        <translation>&amp;Kde jsou filmy nyní?…</translation>
+        <translation>Kde jsou film&amp;y nyní?…</translation>
     </message>
     <message>
         <source>Last camera one frame back</source>
@@ -20862,7 +20862,7 @@ hodnot záběrů %2, sprintu %3</translation>
     </message>
     <message>
         <source>Save &amp;as…</source>
-        <translation>Uložit &amp;jako…</translation>
+        <translation>Ulož&amp;it jako…</translation>
     </message>
     <message>
         <source>Open</source>
@@ -20874,7 +20874,7 @@ hodnot záběrů %2, sprintu %3</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>Úpr&amp;avy</translation>
+        <translation>Úprav&amp;y</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -20882,7 +20882,7 @@ hodnot záběrů %2, sprintu %3</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>Znov&amp;u</translation>
+        <translation>Z&amp;novu</translation>
     </message>
     <message>
         <source>Open it again</source>
@@ -20906,7 +20906,7 @@ hodnot záběrů %2, sprintu %3</translation>
     </message>
     <message>
         <source>Bring &amp;back earlier work…</source>
-        <translation>O&amp;bnovit dřívější práci…</translation>
+        <translation>Obnovit dřívější p&amp;ráci…</translation>
     </message>
     <message>
         <source>&amp;Home</source>
@@ -20914,11 +20914,11 @@ hodnot záběrů %2, sprintu %3</translation>
     </message>
     <message>
         <source>Se&amp;ttings…</source>
-        <translation>&amp;Nastavení…</translation>
+        <translation>Nas&amp;tavení…</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation>&amp;Zavřít</translation>
+        <translation>Za&amp;vřít</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -21140,27 +21140,27 @@ hodnot záběrů %2, sprintu %3</translation>
     </message>
     <message>
         <source>&amp;Open a film or a path…</source>
-        <translation>&amp;Otevřít film nebo dráhu…</translation>
+        <translation>Otevřít &amp;film nebo dráhu…</translation>
     </message>
     <message>
         <source>&amp;Export the path as CSV…</source>
-        <translation>&amp;Exportovat dráhu jako CSV…</translation>
+        <translation>Exportovat dráhu jako &amp;CSV…</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation>&amp;Přehrávání</translation>
+        <translation>Přehrá&amp;vání</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation>&amp;Přehrát nebo pozastavit</translation>
+        <translation>Pře&amp;hrát nebo pozastavit</translation>
     </message>
     <message>
         <source>One frame ba&amp;ck</source>
-        <translation>O snímek z&amp;pět</translation>
+        <translation>O sním&amp;ek zpět</translation>
     </message>
     <message>
         <source>One frame &amp;on</source>
-        <translation>O snímek &amp;vpřed</translation>
+        <translation>&amp;O snímek vpřed</translation>
     </message>
     <message>
         <source>P&amp;ath</source>
@@ -21172,7 +21172,7 @@ hodnot záběrů %2, sprintu %3</translation>
     </message>
     <message>
         <source>&amp;Take the box of this frame away</source>
-        <translation>&amp;Odebrat rámeček tohoto snímku</translation>
+        <translation>Odebr&amp;at rámeček tohoto snímku</translation>
     </message>
     <message>
         <source>To the next &amp;gap</source>
@@ -21180,19 +21180,19 @@ hodnot záběrů %2, sprintu %3</translation>
     </message>
     <message>
         <source>&amp;Stop following</source>
-        <translation>&amp;Zastavit sledování</translation>
+        <translation>Zastavit &amp;sledování</translation>
     </message>
     <message>
         <source>Click &amp;known points</source>
-        <translation>Klikat &amp;známé body</translation>
+        <translation>Klikat známé bod&amp;y</translation>
     </message>
     <message>
         <source>&amp;Forget the known points</source>
-        <translation>Za&amp;pomenout známé body</translation>
+        <translation>Zapomenout známé &amp;body</translation>
     </message>
     <message>
         <source>It lies on the &amp;water</source>
-        <translation>Leží na &amp;vodě</translation>
+        <translation>&amp;Leží na vodě</translation>
     </message>
     <message>
         <source>whether it lies on the water</source>
@@ -21815,7 +21815,7 @@ Přidejte ho ručně pomocí Ctrl+N, nebo sem přetáhněte soubory mezičasů a
     </message>
     <message>
         <source>Load</source>
-        <translation>Načíst</translation>
+        <translation>Zatížení</translation>
     </message>
     <message>
         <source>health</source>
@@ -21992,7 +21992,7 @@ Přidejte ho ručně pomocí Ctrl+N, nebo sem přetáhněte soubory mezičasů a
     </message>
     <message>
         <source>From</source>
-        <translation>Od</translation>
+        <translation>Z čeho</translation>
     </message>
     <message>
         <source>Value</source>
@@ -22046,7 +22046,7 @@ Přidejte ho ručně pomocí Ctrl+N, nebo sem přetáhněte soubory mezičasů a
     </message>
     <message>
         <source>Load</source>
-        <translation>Načíst</translation>
+        <translation>Zatížení</translation>
     </message>
     <message>
         <source>Week</source>
