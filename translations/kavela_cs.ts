@@ -2175,7 +2175,7 @@
     </message>
     <message>
         <source>within</source>
-        <translation>v závodě</translation>
+        <translation>kolísání</translation>
     </message>
     <message>
         <source>trend</source>
@@ -2183,7 +2183,7 @@
     </message>
     <message>
         <source>on splits</source>
-        <translation>na mezičasech</translation>
+        <translation>mezičasy</translation>
     </message>
     <message>
         <source>{:.1f} % (all {:.1f}{})</source>
@@ -2587,7 +2587,7 @@
     </message>
     <message>
         <source>gap − paddling − penalties</source>
-        <translation>odstup − jízda − penalizace</translation>
+        <translation>odstup − na vodě − penalizace</translation>
     </message>
     <message>
         <source>Time lost in an upstream gate, by its first entry in both runs.</source>
@@ -2615,7 +2615,7 @@
     </message>
     <message>
         <source>Σ notes / paddling</source>
-        <translation>Σ poznámek / jízda</translation>
+        <translation>Σ poznámek / na vodě</translation>
     </message>
     <message>
         <source>The time without penalties against the expected time.</source>
@@ -2787,7 +2787,7 @@
     </message>
     <message>
         <source>paddling</source>
-        <translation>jízda</translation>
+        <translation>na vodě</translation>
     </message>
     <message>
         <source>Shown a hundredth apart, so that the parts add up to the shown gap.</source>
@@ -2944,9 +2944,9 @@
     <message numerus="yes">
         <source>{} were</source>
         <translation>
-            <numerusform>{} byla</numerusform>
-            <numerusform>{} byly</numerusform>
-            <numerusform>{} bylo</numerusform>
+            <numerusform>z nich {}</numerusform>
+            <numerusform>z nich {}</numerusform>
+            <numerusform>z nich {}</numerusform>
         </translation>
     </message>
     <message>
@@ -2995,7 +2995,7 @@
     </message>
     <message>
         <source>within {:.1f} % from run to run</source>
-        <translation>od jízdy k jízdě v rozmezí {:.1f} %</translation>
+        <translation>kolísání od jízdy k jízdě {:.1f} %</translation>
     </message>
     <message>
         <source>trend {:+.1f} % a year: {}</source>
@@ -3415,11 +3415,11 @@
     </message>
     <message>
         <source>A run, s</source>
-        <translation>Na jízdu, s</translation>
+        <translation>Jízda, s</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation>Procenta</translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>90 % interval</source>
@@ -3471,7 +3471,7 @@
     </message>
     <message>
         <source>Percent, 90 %</source>
-        <translation>Procenta, 90 %</translation>
+        <translation>Proc., 90 %</translation>
     </message>
     <message>
         <source>All</source>
@@ -3887,7 +3887,7 @@
     </message>
     <message>
         <source>Penalty</source>
-        <translation>Penalizace</translation>
+        <translation>Penal.</translation>
     </message>
     <message>
         <source>on the film</source>
@@ -4031,7 +4031,7 @@
     </message>
     <message>
         <source>On the splits</source>
-        <translation>Na mezičasech</translation>
+        <translation>Na mezičasy</translation>
     </message>
     <message>
         <source>On the winner</source>
@@ -4447,7 +4447,7 @@
     </message>
     <message>
         <source>Paddling</source>
-        <translation>Jízda</translation>
+        <translation>Na vodě</translation>
     </message>
     <message>
         <source>Timing</source>
@@ -5742,7 +5742,7 @@
     </message>
     <message>
         <source>Share</source>
-        <translation>Podíl</translation>
+        <translation>Sdílet</translation>
     </message>
     <message>
         <source>Most of one kind: %1 %2, %3 of %4 noted.</source>
@@ -5906,7 +5906,7 @@
     </message>
     <message>
         <source>Within, %</source>
-        <translation>V závodě, %</translation>
+        <translation>Kolísání, %</translation>
     </message>
     <message>
         <source>Own alone, %</source>
@@ -8226,7 +8226,7 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     </message>
     <message>
         <source>Within, %</source>
-        <translation>V závodě, %</translation>
+        <translation>Kolísání, %</translation>
     </message>
     <message>
         <source>How much the runs vary by chance</source>
@@ -11456,7 +11456,7 @@ Stiskněte Insert a přidejte ho.</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation>Start</translation>
+        <translation>Začátek</translation>
     </message>
     <message>
         <source>End</source>
@@ -12111,7 +12111,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation>Start</translation>
+        <translation>Spustit</translation>
     </message>
 </context>
 <context>
@@ -12473,7 +12473,7 @@ Bez penalizací.</translation>
     <name>kavela::desktop::LossPage</name>
     <message>
         <source>Start</source>
-        <translation>Start</translation>
+        <translation>Začátek</translation>
     </message>
     <message>
         <source>End</source>
@@ -18102,7 +18102,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>from the start</source>
-        <translation>od startu</translation>
+        <translation>od začátku</translation>
     </message>
 </context>
 <context>
@@ -18433,7 +18433,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation>Start</translation>
+        <translation>Spustit</translation>
     </message>
     <message>
         <source>Shares the ticked files</source>
@@ -19316,7 +19316,7 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation>Start</translation>
+        <translation>Začátek</translation>
     </message>
     <message>
         <source>The end of a way comes after its beginning at %1.</source>
@@ -21453,7 +21453,7 @@ hodnot záběrů %2, sprintu %3</translation>
     </message>
     <message>
         <source>From the start</source>
-        <translation>Od začátku</translation>
+        <translation>Od startu</translation>
     </message>
     <message>
         <source>%1 boats</source>
