@@ -46,7 +46,7 @@ constexpr int SlitDigits = 16;      // over the film from left to right, the low
 
 /// Two seconds of the numbered film; they begin with its first frame.
 fs::path slitFilm() {
-    const fs::path kept = numberedFilm().parent_path() / "numbered-slit.mp4";
+    const fs::path kept = numberedFilm().parent_path() / "numbered-square-slit.mp4";
     if (fs::exists(kept))
         return kept;
     const fs::path fresh = kept.string() + '.' + std::to_string(::getpid()) + ".mp4";
