@@ -13,19 +13,19 @@
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultado</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportista</translation>
     </message>
     <message>
         <source>not in the selection</source>
@@ -74,26 +74,26 @@
     <name>CompareWindow</name>
     <message>
         <source>Film %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo %1</translation>
     </message>
 </context>
 <context>
     <name>Desktop</name>
     <message>
         <source>A race</source>
-        <translation type="unfinished"></translation>
+        <translation>Una carrera</translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos</translation>
     </message>
     <message>
         <source>The season</source>
-        <translation type="unfinished"></translation>
+        <translation>La temporada</translation>
     </message>
     <message>
         <source>Training</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrenamiento</translation>
     </message>
 </context>
 <context>
@@ -156,7 +156,7 @@
     </message>
     <message>
         <source>Sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Esprint</translation>
     </message>
     <message>
         <source>Eight test</source>
@@ -303,7 +303,7 @@
     </message>
     <message>
         <source>%1 is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está escrito.</translation>
     </message>
 </context>
 <context>
@@ -496,7 +496,7 @@
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (*.kvx);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Import official results</source>
@@ -504,7 +504,7 @@
     </message>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listas (*.csv *.txt);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>There are no results in %1.</source>
@@ -516,7 +516,7 @@
     </message>
     <message>
         <source>Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobrescribir</translation>
     </message>
     <message>
         <source>drawing of the course</source>
@@ -575,7 +575,7 @@
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga</translation>
     </message>
     <message>
         <source>Races with a time and a best time stand here.</source>
@@ -593,7 +593,7 @@
     <name>RunForm</name>
     <message>
         <source>A penalty is a whole number of seconds, 0 to 999</source>
-        <translation type="unfinished"></translation>
+        <translation>Una penalización es un número entero de segundos, de 0 a 999</translation>
     </message>
 </context>
 <context>
@@ -627,7 +627,7 @@
     <name>SelectionTakeOver</name>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listas (*.csv *.txt);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Import athletes</source>
@@ -639,7 +639,7 @@
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar</translation>
     </message>
     <message>
         <source>“%1” cannot be read</source>
@@ -663,7 +663,7 @@
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea %1: %2</translation>
     </message>
     <message>
         <source>Results of which race?</source>
@@ -679,7 +679,7 @@
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (*.kvx);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>There are no results in it.</source>
@@ -701,7 +701,7 @@
     <name>SessionConversion</name>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -759,7 +759,7 @@
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto separado por punto y coma (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -790,7 +790,7 @@
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos (*)</translation>
     </message>
     <message>
         <source>“%1” cannot be read</source>
@@ -1016,27 +1016,27 @@
     </message>
     <message>
         <source>Mark anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar de nuevo</translation>
     </message>
     <message>
         <source>start mark</source>
-        <translation type="unfinished"></translation>
+        <translation>marca de salida</translation>
     </message>
     <message>
         <source>split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>parcial %1</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>%1:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:  %2</translation>
     </message>
     <message>
         <source>Split %1 was put in between two marks. Ctrl+Z takes it out again.</source>
-        <translation type="unfinished"></translation>
+        <translation>El parcial %1 se insertó entre dos marcas. Ctrl+Z lo vuelve a quitar.</translation>
     </message>
     <message>
         <source>Gate %1 is marked. N goes to the next gate, Shift+M moves the selected mark.</source>
@@ -1060,15 +1060,15 @@
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna marca seleccionada. Ctrl y las flechas van de marca en marca.</translation>
     </message>
     <message>
         <source>mark moved</source>
-        <translation type="unfinished"></translation>
+        <translation>marca movida</translation>
     </message>
     <message>
         <source>mark removed</source>
-        <translation type="unfinished"></translation>
+        <translation>marca quitada</translation>
     </message>
     <message>
         <source>Without a start mark the time counts from the beginning of the film.</source>
@@ -1129,7 +1129,7 @@
     </message>
     <message>
         <source>A penalty is a whole number of seconds, 0 to 999</source>
-        <translation type="unfinished"></translation>
+        <translation>Una penalización es un número entero de segundos, de 0 a 999</translation>
     </message>
     <message>
         <source>A position is a whole number, 1 to 9999</source>
@@ -1172,7 +1172,7 @@
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>On-water test</source>
@@ -1455,7 +1455,7 @@
     </message>
     <message>
         <source>penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizaciones</translation>
     </message>
     <message>
         <source>faster</source>
@@ -2949,7 +2949,7 @@
     </message>
     <message>
         <source>counted</source>
-        <translation type="unfinished"></translation>
+        <translation>cuenta</translation>
     </message>
     <message>
         <source>{} left out: {}</source>
@@ -3311,11 +3311,11 @@
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramos</translation>
     </message>
     <message>
         <source>Course</source>
-        <translation type="unfinished"></translation>
+        <translation>Recorrido</translation>
     </message>
     <message>
         <source>Upstream gates</source>
@@ -3327,7 +3327,7 @@
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo</translation>
     </message>
     <message>
         <source>not known</source>
@@ -3343,11 +3343,11 @@
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en %2</translation>
     </message>
     <message>
         <source>Losses and penalties · %1on the reference &quot;%2&quot; · %3</source>
@@ -3375,7 +3375,7 @@
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Mangas</translation>
     </message>
     <message>
         <source>Lost, s</source>
@@ -3387,7 +3387,7 @@
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje</translation>
     </message>
     <message>
         <source>90 % interval</source>
@@ -3427,7 +3427,7 @@
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Puertas</translation>
     </message>
     <message>
         <source>Touches</source>
@@ -3455,7 +3455,7 @@
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizaciones</translation>
     </message>
     <message>
         <source>No run tells its penalties by gate.</source>
@@ -3534,7 +3534,7 @@
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría</translation>
     </message>
     <message>
         <source>plan</source>
@@ -3658,31 +3658,31 @@
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notas</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pen</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Dif.</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramo</translation>
     </message>
     <message>
         <source>Best</source>
@@ -3702,7 +3702,7 @@
     </message>
     <message>
         <source>Ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga ideal</translation>
     </message>
     <message>
         <source>Fastest run</source>
@@ -3730,7 +3730,7 @@
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>Date</source>
@@ -3738,7 +3738,7 @@
     </message>
     <message>
         <source>Water</source>
-        <translation type="unfinished"></translation>
+        <translation>Agua</translation>
     </message>
     <message>
         <source>For comparison</source>
@@ -3746,11 +3746,11 @@
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>Cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Cat</translation>
     </message>
     <message>
         <source> Grey: not timed as a whole, never a best.</source>
@@ -3762,7 +3762,7 @@
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga</translation>
     </message>
     <message>
         <source>%1 s of %2 s; strokes are counted of whole sections.</source>
@@ -3786,7 +3786,7 @@
     </message>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta</translation>
     </message>
     <message>
         <source>Entrance</source>
@@ -3802,23 +3802,23 @@
     </message>
     <message>
         <source>Time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Pérdidas de tiempo</translation>
     </message>
     <message>
         <source>Against</source>
-        <translation type="unfinished"></translation>
+        <translation>Frente a</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos</translation>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiquetas</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiqueta</translation>
     </message>
     <message>
         <source>In the run at</source>
@@ -3854,7 +3854,7 @@
     </message>
     <message>
         <source>Penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalización</translation>
     </message>
     <message>
         <source>on the film</source>
@@ -3914,7 +3914,7 @@
     </message>
     <message>
         <source>Races</source>
-        <translation type="unfinished"></translation>
+        <translation>Carreras</translation>
     </message>
     <message>
         <source>Reached</source>
@@ -3926,11 +3926,11 @@
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finales</translation>
     </message>
     <message>
         <source>Semifinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Semifinales</translation>
     </message>
     <message>
         <source>Medals and finals</source>
@@ -3986,7 +3986,7 @@
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportista</translation>
     </message>
     <message>
         <source>Chance, %</source>
@@ -4050,7 +4050,7 @@
     </message>
     <message>
         <source>Bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonificación</translation>
     </message>
     <message>
         <source>x Score</source>
@@ -4058,7 +4058,7 @@
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntuación</translation>
     </message>
     <message>
         <source>Percent behind the best of the race and category. </source>
@@ -4090,7 +4090,7 @@
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>Place and date</source>
@@ -4106,7 +4106,7 @@
     </message>
     <message>
         <source>the ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>la manga ideal</translation>
     </message>
     <message>
         <source>the best of each column</source>
@@ -4886,7 +4886,7 @@
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>ninguno</translation>
     </message>
     <message>
         <source>Table</source>
@@ -5064,11 +5064,11 @@
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>the start</source>
@@ -5164,11 +5164,11 @@
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>File</source>
@@ -5192,7 +5192,7 @@
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 fetched</source>
@@ -5272,7 +5272,7 @@
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiqueta</translation>
     </message>
     <message>
         <source>Imported “%1”</source>
@@ -5320,7 +5320,7 @@
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdido</translation>
     </message>
     <message>
         <source>Together, %</source>
@@ -5368,7 +5368,7 @@
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Mangas</translation>
     </message>
     <message>
         <source>Lost, %</source>
@@ -5396,7 +5396,7 @@
     </message>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta</translation>
     </message>
     <message>
         <source>Gate %1 of the section</source>
@@ -5408,7 +5408,7 @@
     </message>
     <message>
         <source>%1:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:  %2</translation>
     </message>
     <message>
         <source>upstream</source>
@@ -5432,7 +5432,7 @@
     </message>
     <message>
         <source>Run %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga %1</translation>
     </message>
     <message>
         <source>winner</source>
@@ -5652,7 +5652,7 @@
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>(not given)</source>
@@ -5672,7 +5672,7 @@
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramo</translation>
     </message>
     <message>
         <source>Touches %1</source>
@@ -5700,7 +5700,7 @@
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizaciones</translation>
     </message>
     <message>
         <source>Of</source>
@@ -5728,7 +5728,7 @@
     </message>
     <message>
         <source>Risk and speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Riesgo y velocidad</translation>
     </message>
     <message>
         <source>Paddling time, % of the group&apos;s median</source>
@@ -5780,19 +5780,19 @@
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>Penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalización</translation>
     </message>
     <message>
         <source>Behind best</source>
-        <translation type="unfinished"></translation>
+        <translation>Resp. al mejor</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Puertas</translation>
     </message>
     <message>
         <source>Session</source>
@@ -5804,7 +5804,7 @@
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportista</translation>
     </message>
     <message>
         <source>From the first run of the heats to the second</source>
@@ -5824,11 +5824,11 @@
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finales</translation>
     </message>
     <message>
         <source>Semifinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Semifinales</translation>
     </message>
     <message>
         <source>too few for a range</source>
@@ -5852,7 +5852,7 @@
     </message>
     <message>
         <source>Races</source>
-        <translation type="unfinished"></translation>
+        <translation>Carreras</translation>
     </message>
     <message>
         <source>Typical error, %</source>
@@ -5912,7 +5912,7 @@
     </message>
     <message>
         <source>Against</source>
-        <translation type="unfinished"></translation>
+        <translation>Frente a</translation>
     </message>
     <message>
         <source>Ahead, %</source>
@@ -5956,7 +5956,7 @@
     </message>
     <message>
         <source>Boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Barco</translation>
     </message>
     <message>
         <source>Medal, %</source>
@@ -6124,11 +6124,11 @@
     </message>
     <message>
         <source>&amp;Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Más &amp;lento</translation>
     </message>
     <message>
         <source>&amp;Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Más rá&amp;pido</translation>
     </message>
     <message>
         <source>&amp;Real time</source>
@@ -6156,7 +6156,7 @@
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ver</translation>
     </message>
     <message>
         <source>&amp;Zoom to the selected stretch</source>
@@ -6192,7 +6192,7 @@
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea</translation>
     </message>
     <message>
         <source>Column</source>
@@ -6384,7 +6384,7 @@
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar un deportista</translation>
     </message>
     <message>
         <source>Take &amp;results over…</source>
@@ -6424,15 +6424,15 @@
     </message>
     <message>
         <source>Open races</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir carreras</translation>
     </message>
     <message>
         <source>Split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales</translation>
     </message>
     <message>
         <source>Time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Pérdidas de tiempo</translation>
     </message>
     <message>
         <source>Where each run lost its time, section by section, and a season&apos;s pattern.</source>
@@ -6440,11 +6440,11 @@
     </message>
     <message>
         <source>Open split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir archivos de parciales</translation>
     </message>
     <message>
         <source>Split taking</source>
-        <translation type="unfinished"></translation>
+        <translation>Toma de parciales</translation>
     </message>
     <message>
         <source>Time every run from its video, exact to the frame.</source>
@@ -6452,11 +6452,11 @@
     </message>
     <message>
         <source>Open a folder of videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una carpeta de vídeos</translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos</translation>
     </message>
     <message>
         <source>A folder of films played, compared in step, tagged, renamed and cut.</source>
@@ -6464,7 +6464,7 @@
     </message>
     <message>
         <source>Open a folder of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una carpeta de vídeos</translation>
     </message>
     <message>
         <source>Kayak cross</source>
@@ -6480,7 +6480,7 @@
     </message>
     <message>
         <source>Compare films</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparar vídeos</translation>
     </message>
     <message>
         <source>Two to four runs in one picture, together at a split, as a film to take home.</source>
@@ -6544,7 +6544,7 @@
     </message>
     <message>
         <source>Boat motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Movimiento del barco</translation>
     </message>
     <message>
         <source>Recordings of phone and watch over each other, and converted.</source>
@@ -6596,7 +6596,7 @@
     </message>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporada</translation>
     </message>
     <message>
         <source>How a team&apos;s athletes stand: trend, rivals, medals, what it takes.</source>
@@ -6672,7 +6672,7 @@
     </message>
     <message>
         <source>&amp;Table</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tabla</translation>
     </message>
     <message>
         <source>Charts by &amp;lap or stretch</source>
@@ -6712,7 +6712,7 @@
     </message>
     <message>
         <source>Course</source>
-        <translation type="unfinished"></translation>
+        <translation>Recorrido</translation>
     </message>
     <message>
         <source>The course drawn: banks, gates, split lines and the lines of runs.</source>
@@ -6767,7 +6767,7 @@
     <name>kavela::desktop::AthleteDialog</name>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportista</translation>
     </message>
     <message>
         <source>SURNAME Name</source>
@@ -6799,7 +6799,7 @@
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>ninguno</translation>
     </message>
     <message>
         <source>Bonus %1 (percent)</source>
@@ -6814,7 +6814,7 @@
     </message>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporada</translation>
     </message>
     <message>
         <source>none yet</source>
@@ -6891,11 +6891,11 @@
     </message>
     <message>
         <source>All categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las categorías</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportista</translation>
     </message>
     <message>
         <source>name</source>
@@ -6962,7 +6962,7 @@
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Comentario</translation>
     </message>
     <message>
         <source>Side</source>
@@ -6970,7 +6970,7 @@
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>side of an attack</source>
@@ -7045,11 +7045,11 @@
     </message>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporada</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>Behind</source>
@@ -7249,11 +7249,11 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CameraPage</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiqueta</translation>
     </message>
     <message>
         <source>Lag</source>
@@ -7289,7 +7289,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>Attach the film of a camera that stood at the course.</source>
@@ -7348,7 +7348,7 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::Chart</name>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 manga</translation>
     </message>
     <message>
         <source> · %1 of %2 selected runs</source>
@@ -7364,9 +7364,9 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manga</numerusform>
+            <numerusform>%n mangas</numerusform>
         </translation>
     </message>
 </context>
@@ -7374,7 +7374,7 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::ChartPanel</name>
     <message>
         <source>Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráficos</translation>
     </message>
     <message>
         <source>&amp;Reference</source>
@@ -7382,7 +7382,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Referencia</translation>
     </message>
     <message>
         <source>What the runs are held against</source>
@@ -7390,19 +7390,19 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar</translation>
     </message>
     <message>
         <source>Show everything again (or double click)</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver a mostrarlo todo (o doble clic)</translation>
     </message>
     <message>
         <source>Save chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar gráfico…</translation>
     </message>
     <message>
         <source>Save as PNG, SVG or CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como PNG, SVG o CSV</translation>
     </message>
     <message>
         <source>Best run</source>
@@ -7410,18 +7410,18 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediana</translation>
     </message>
     <message>
         <source>Ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga ideal</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ChartTabs</name>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporada</translation>
     </message>
     <message>
         <source>Race progression</source>
@@ -7441,7 +7441,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Save chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar gráfico…</translation>
     </message>
     <message>
         <source>As a picture (PNG, SVG) or as CSV (Ctrl+E)</source>
@@ -7453,7 +7453,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>all seasons</source>
@@ -7520,7 +7520,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir</translation>
     </message>
     <message>
         <source>Play the clips from their beginnings</source>
@@ -7611,15 +7611,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>C&amp;olumns</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;olumnas</translation>
     </message>
     <message>
         <source>Save the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la tabla</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto separado por punto y coma (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -7661,7 +7661,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Comentario</translation>
     </message>
     <message>
         <source>athlete</source>
@@ -7730,19 +7730,19 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>Name in the film</source>
@@ -7794,11 +7794,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Add s&amp;plit files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir archivos de &amp;parciales…</translation>
     </message>
     <message>
         <source>Add &amp;films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir &amp;vídeos…</translation>
     </message>
     <message>
         <source>In the composed film</source>
@@ -7893,11 +7893,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>De</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>A</translation>
     </message>
     <message>
         <source>Spee&amp;d</source>
@@ -7925,11 +7925,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramo</translation>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizaciones</translation>
     </message>
     <message>
         <source>Chart of the gap</source>
@@ -7973,181 +7973,181 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>ninguno</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CompareView</name>
     <message>
         <source>Preview of the composed film</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa del vídeo compuesto</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CompareWindow</name>
     <message>
         <source>Compare films</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparar vídeos</translation>
     </message>
     <message>
         <source>Compose the &amp;film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Componer el &amp;vídeo…</translation>
     </message>
     <message>
         <source>Add s&amp;plit files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir archivos de &amp;parciales…</translation>
     </message>
     <message>
         <source>Add &amp;films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir &amp;vídeos…</translation>
     </message>
     <message>
         <source>&amp;Compose the film…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Componer el vídeo…</translation>
     </message>
     <message>
         <source>Films being composed: &amp;jobs</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos en composición: &amp;tareas</translation>
     </message>
     <message>
         <source>&amp;Find a run or a film</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar una manga o un vídeo</translation>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reproducir</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reproducir o pausar</translation>
     </message>
     <message>
         <source>From the &amp;beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>Desde el &amp;principio</translation>
     </message>
     <message>
         <source>One frame ba&amp;ck</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fotograma a&amp;trás</translation>
     </message>
     <message>
         <source>One frame &amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fotograma a&amp;delante</translation>
     </message>
     <message>
         <source>P&amp;art</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;arte</translation>
     </message>
     <message>
         <source>&amp;Begin here</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Empezar aquí</translation>
     </message>
     <message>
         <source>&amp;End here</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Terminar aquí</translation>
     </message>
     <message>
         <source>The &amp;whole run</source>
-        <translation type="unfinished"></translation>
+        <translation>La &amp;manga entera</translation>
     </message>
     <message>
         <source>part that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>parte mostrada</translation>
     </message>
     <message>
         <source>&amp;Align the second film by two points</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alinear el segundo vídeo con dos puntos</translation>
     </message>
     <message>
         <source>&amp;Forget the points</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Olvidar los puntos</translation>
     </message>
     <message>
         <source>The film could not be composed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo componer el vídeo: %1</translation>
     </message>
     <message>
         <source>%1 is there. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está listo. %2</translation>
     </message>
     <message>
         <source>Add the runs of split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir las mangas de archivos de parciales</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (*.kvx);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Add films</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir vídeos</translation>
     </message>
     <message>
         <source>Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Tick two to four films to compare them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca de dos a cuatro vídeos para compararlos.</translation>
     </message>
     <message>
         <source>Tick one more film to compare it with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca un vídeo más con el que comparar.</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>Four films are the most: these are the first four</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuatro vídeos es el máximo: estos son los cuatro primeros</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausa</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir</translation>
     </message>
     <message>
         <source>%1 of %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 s</translation>
     </message>
     <message>
         <source>Two films are aligned: choose two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se alinean dos vídeos: elige dos.</translation>
     </message>
     <message>
         <source>Click the same two things in both films, such as the poles of a gate. A gives it up.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haz clic en las mismas dos cosas en ambos vídeos, como los palos de una puerta. A lo cancela.</translation>
     </message>
     <message>
         <source>points that were forgotten</source>
-        <translation type="unfinished"></translation>
+        <translation>puntos olvidados</translation>
     </message>
     <message>
         <source>alignment by two points</source>
-        <translation type="unfinished"></translation>
+        <translation>alineación con dos puntos</translation>
     </message>
     <message>
         <source>Compose the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Componer el vídeo</translation>
     </message>
     <message>
         <source>Films (*.mp4)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos (*.mp4)</translation>
     </message>
     <message>
         <source>file of the film</source>
-        <translation type="unfinished"></translation>
+        <translation>archivo del vídeo</translation>
     </message>
     <message>
         <source>Composing: %1, %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>Componiendo: %1, %2 más</translation>
     </message>
     <message>
         <source>Composing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Componiendo: %1</translation>
     </message>
 </context>
 <context>
@@ -8166,11 +8166,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportista</translation>
     </message>
     <message>
         <source>Races</source>
-        <translation type="unfinished"></translation>
+        <translation>Carreras</translation>
     </message>
     <message>
         <source>Behind, %</source>
@@ -8214,7 +8214,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finales</translation>
     </message>
     <message>
         <source>The athletes year by year: %1</source>
@@ -8237,15 +8237,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Crew</source>
-        <translation type="unfinished"></translation>
+        <translation>Tripulación</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>Race</source>
@@ -8253,15 +8253,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramo</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos</translation>
     </message>
     <message>
         <source>2 for a touch, 50 for a missed gate</source>
@@ -8347,11 +8347,11 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CourseDialog</name>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Puertas</translation>
     </message>
     <message>
         <source>Race and course</source>
@@ -8363,7 +8363,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>Date</source>
@@ -8375,11 +8375,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría</translation>
     </message>
     <message>
         <source>Water</source>
-        <translation type="unfinished"></translation>
+        <translation>Agua</translation>
     </message>
     <message>
         <source>Technique</source>
@@ -8399,7 +8399,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Puertas</translation>
     </message>
     <message>
         <source>&amp;Upstream gates</source>
@@ -8602,11 +8602,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::CourseStrip</name>
     <message>
         <source>Course</source>
-        <translation type="unfinished"></translation>
+        <translation>Recorrido</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Puertas</translation>
     </message>
     <message>
         <source>Such as 1, 2, 3, 4</source>
@@ -8622,11 +8622,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría</translation>
     </message>
     <message>
         <source>Which gates does the cross course have?</source>
@@ -8668,7 +8668,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Save data</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar los datos</translation>
     </message>
     <message>
         <source>Open a &amp;folder of films…</source>
@@ -8676,7 +8676,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Open a folder of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una carpeta de vídeos</translation>
     </message>
     <message>
         <source>&amp;Import films of time trials…</source>
@@ -8688,7 +8688,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
-        <translation type="unfinished"></translation>
+        <translation>¿&amp;Dónde están ahora los vídeos?…</translation>
     </message>
     <message>
         <source>Split &amp;taking of this race</source>
@@ -8696,7 +8696,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar en el anali&amp;zador de carreras</translation>
     </message>
     <message>
         <source>Open a split file</source>
@@ -8704,7 +8704,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (*.kvx);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>&amp;Course of the cross race</source>
@@ -8724,7 +8724,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marcar</translation>
     </message>
     <message>
         <source>&amp;Mark the frame shown</source>
@@ -8808,7 +8808,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ver</translation>
     </message>
     <message>
         <source>&amp;Results</source>
@@ -8831,7 +8831,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna marca seleccionada. Ctrl y las flechas van de marca en marca.</translation>
     </message>
 </context>
 <context>
@@ -8912,7 +8912,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea %1: %2</translation>
     </message>
     <message>
         <source>What each column holds was guessed from its title. Choose over a column what it is; a column without a choice is left out.</source>
@@ -8944,11 +8944,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo…</translation>
     </message>
     <message>
         <source>This gives no samples.</source>
@@ -8983,7 +8983,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Times</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tiempos</translation>
     </message>
     <message>
         <source>Dates</source>
@@ -8991,7 +8991,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos</translation>
     </message>
     <message>
         <source>Milliseconds</source>
@@ -9098,7 +9098,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>%1 %2°, %3 s</source>
@@ -9106,7 +9106,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>Stroke, rate</source>
@@ -9229,7 +9229,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>%1 counts again</source>
@@ -9333,7 +9333,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>Bib</source>
@@ -9341,7 +9341,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>A boat on the list has a name.</source>
@@ -9349,11 +9349,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Cat</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>State</source>
@@ -9428,7 +9428,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -9487,67 +9487,67 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::Desktop</name>
     <message>
         <source>The folder with the races of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta con las carreras de %1</translation>
     </message>
     <message>
         <source>As it is in split taking now. The file does not hold all of it yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tal como está ahora en la toma de parciales. El archivo aún no lo contiene todo.</translation>
     </message>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Herramientas</translation>
     </message>
     <message>
         <source>Nothing to open in “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada que abrir en «%1»</translation>
     </message>
     <message>
         <source>There is no split file (.kvx) and no film in this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>En esta carpeta no hay ningún archivo de parciales (.kvx) ni ningún vídeo.</translation>
     </message>
     <message>
         <source>“%1” is not where it was</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no está donde estaba</translation>
     </message>
     <message>
         <source>It was in %1. Open it from where it is now, then ask again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estaba en %1. Ábrelo desde donde está ahora y vuelve a preguntar.</translation>
     </message>
     <message>
         <source>%1 (on the server)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (en el servidor)</translation>
     </message>
     <message>
         <source>What the server has is no planning.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que tiene el servidor no es una planificación.</translation>
     </message>
     <message>
         <source>Run %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga %1</translation>
     </message>
     <message>
         <source>The run of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La manga de %1</translation>
     </message>
     <message>
         <source>%1 is not in split taking any more: it was removed there, or has another crew and film.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ya no está en la toma de parciales: se quitó allí, o tiene otra tripulación y otro vídeo.</translation>
     </message>
     <message>
         <source>%1 (*.%2);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (*.%2);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Of single split files, or of all in a folder and below it?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿De archivos de parciales sueltos, o de todos los de una carpeta y sus subcarpetas?</translation>
     </message>
     <message>
         <source>Split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales…</translation>
     </message>
     <message>
         <source>A folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Una carpeta…</translation>
     </message>
 </context>
 <context>
@@ -9562,7 +9562,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizaciones</translation>
     </message>
     <message>
         <source>of</source>
@@ -9625,7 +9625,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 (*.%2);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (*.%2);;Todos los archivos (*)</translation>
     </message>
 </context>
 <context>
@@ -9644,7 +9644,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -9761,7 +9761,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como…</translation>
     </message>
     <message>
         <source>“%1” is open in another window. Close it there first, or take another name.</source>
@@ -9815,7 +9815,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntuación</translation>
     </message>
     <message>
         <source>Taken from</source>
@@ -9841,7 +9841,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>parcial %1</translation>
     </message>
     <message>
         <source>no video</source>
@@ -9996,7 +9996,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Split files (*.kvx)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (*.kvx)</translation>
     </message>
 </context>
 <context>
@@ -10300,370 +10300,371 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FilmBrowser</name>
     <message>
         <source>Filter: k1w 12 semi</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro: k1w 12 semi</translation>
     </message>
     <message>
         <source>No film here. Open a folder of films with Ctrl+O, or drop one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí no hay ningún vídeo. Abre una carpeta de vídeos con Ctrl+O o suelta una aquí.</translation>
     </message>
     <message>
         <source>No tag yet: M sets one where a film stands.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay etiquetas: M pone una donde está el vídeo.</translation>
     </message>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista</translation>
     </message>
     <message>
         <source>Tiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Mosaico</translation>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiquetas</translation>
     </message>
     <message>
         <source>%1 films</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 vídeos</translation>
     </message>
     <message>
         <source>%1 of %2 films</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 vídeos</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmCutting</name>
     <message>
         <source>%1 cut</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cortado</translation>
     </message>
     <message>
         <source>Cut into a new film</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortar a un vídeo nuevo</translation>
     </message>
     <message>
         <source>Films (*.mp4 *.mov *.m4v)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos (*.mp4 *.mov *.m4v)</translation>
     </message>
     <message>
         <source>Cutting %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortando %1…</translation>
     </message>
     <message>
         <source>The film could not be cut</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo cortar el vídeo</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmDeck</name>
     <message>
         <source>The film was closed before it had been read so far.</source>
-        <translation type="unfinished"></translation>
+        <translation>El vídeo se cerró antes de haberse leído hasta ahí.</translation>
     </message>
     <message>
         <source>The film has not been read so far yet: nothing was marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>El vídeo aún no se ha leído hasta ahí: no se ha marcado nada.</translation>
     </message>
     <message>
         <source>The film has not been read so far yet: no frame to step from.</source>
-        <translation type="unfinished"></translation>
+        <translation>El vídeo aún no se ha leído hasta ahí: no hay fotograma desde el que avanzar.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmPlaying</name>
     <message>
         <source>Choose a film on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige un vídeo a la izquierda.</translation>
     </message>
     <message>
         <source>The film is no longer there:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El vídeo ya no está ahí:
+%1</translation>
     </message>
     <message>
         <source>That was the last one</source>
-        <translation type="unfinished"></translation>
+        <translation>Era el último</translation>
     </message>
     <message>
         <source>This is the first one</source>
-        <translation type="unfinished"></translation>
+        <translation>Este es el primero</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmShelf</name>
     <message>
         <source>Renaming films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiando nombres de vídeos…</translation>
     </message>
     <message>
         <source>“%1” has films that are to be renamed, and is open in another window. Close it there first.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» tiene vídeos cuyo nombre se va a cambiar y está abierto en otra ventana. Ciérralo antes allí.</translation>
     </message>
     <message>
         <source>A renaming was cut off here, and its note cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí se interrumpió un cambio de nombres y su nota no se puede leer: %1</translation>
     </message>
     <message>
         <source>Renaming was cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>El cambio de nombres se interrumpió</translation>
     </message>
     <message numerus="yes">
         <source>%n film(s) of this folder were being renamed when the program ended. No film is lost: the renaming can be completed, or undone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Se estaba cambiando el nombre de %n vídeo de esta carpeta cuando el programa terminó. No se ha perdido ningún vídeo: el cambio se puede completar o deshacer.</numerusform>
+            <numerusform>Se estaba cambiando el nombre de %n vídeos de esta carpeta cuando el programa terminó. No se ha perdido ningún vídeo: el cambio se puede completar o deshacer.</numerusform>
         </translation>
     </message>
     <message>
         <source>Complete it</source>
-        <translation type="unfinished"></translation>
+        <translation>Completarlo</translation>
     </message>
     <message>
         <source>Undo it</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacerlo</translation>
     </message>
     <message>
         <source>This tag is of the split file: split taking edits it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta etiqueta es del archivo de parciales: se edita en la toma de parciales.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmStage</name>
     <message>
         <source>Typing: Esc gives the keys back to the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribiendo: Esc devuelve las teclas al vídeo</translation>
     </message>
     <message>
         <source>Fixed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fijo: %1</translation>
     </message>
     <message>
         <source>Where are the films now?…</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Dónde están ahora los vídeos?…</translation>
     </message>
     <message>
         <source>Playing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproduciendo %1</translation>
     </message>
     <message>
         <source>Paused, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En pausa, %1</translation>
     </message>
     <message>
         <source>Camera %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Cámara %1: </translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmTiles</name>
     <message>
         <source>No picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin imagen</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmView</name>
     <message>
         <source>frame %1   %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>fotograma %1   %2 s</translation>
     </message>
     <message>
         <source>  ±%1</source>
-        <translation type="unfinished"></translation>
+        <translation>  ±%1</translation>
     </message>
     <message>
         <source>…</source>
-        <translation type="unfinished"></translation>
+        <translation>…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmsActions</name>
     <message>
         <source>&amp;Open a folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir una carpeta…</translation>
     </message>
     <message>
         <source>Folders opened &amp;before</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpetas a&amp;biertas antes</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Volver a leer</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Editar</translation>
     </message>
     <message>
         <source>&amp;Undo the renaming</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deshacer el cambio de nombres</translation>
     </message>
     <message>
         <source>&amp;Rename them again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Volver a cambiar los nombres</translation>
     </message>
     <message>
         <source>&amp;Filter the films</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filtrar los vídeos</translation>
     </message>
     <message>
         <source>Re&amp;name films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar &amp;nombres de vídeos…</translation>
     </message>
     <message>
         <source>F&amp;ilms</source>
-        <translation type="unfinished"></translation>
+        <translation>Ví&amp;deos</translation>
     </message>
     <message>
         <source>&amp;Play from the beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir desde el &amp;principio</translation>
     </message>
     <message>
         <source>&amp;Next film</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo &amp;siguiente</translation>
     </message>
     <message>
         <source>Pre&amp;vious film</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo an&amp;terior</translation>
     </message>
     <message>
         <source>&amp;List</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lista</translation>
     </message>
     <message>
         <source>&amp;Tiles</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mosaico</translation>
     </message>
     <message>
         <source>T&amp;ags</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;tiquetas</translation>
     </message>
     <message>
         <source>Mark as &amp;watched</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar como &amp;visto</translation>
     </message>
     <message>
         <source>Mark as n&amp;ot watched</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar como n&amp;o visto</translation>
     </message>
     <message>
         <source>A &amp;click plays</source>
-        <translation type="unfinished"></translation>
+        <translation>Un &amp;clic reproduce</translation>
     </message>
     <message>
         <source>The next one &amp;follows</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enlazar con el siguiente</translation>
     </message>
     <message>
         <source>Begin at the first &amp;mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Empezar en la primera ma&amp;rca</translation>
     </message>
     <message>
         <source>&amp;Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Eti&amp;quetas</translation>
     </message>
     <message>
         <source>&amp;Tag this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Etiquetar este fotograma</translation>
     </message>
     <message>
         <source>Tag with a &amp;saved name</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiquetar con un nombre &amp;guardado</translation>
     </message>
     <message>
         <source>Saved tag %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiqueta guardada %1</translation>
     </message>
     <message>
         <source>Move the selected tag &amp;here</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mover aquí la etiqueta seleccionada</translation>
     </message>
     <message>
         <source>Tag one frame &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiqueta un fotograma a&amp;ntes</translation>
     </message>
     <message>
         <source>Tag one frame &amp;later</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiqueta un fotograma &amp;después</translation>
     </message>
     <message>
         <source>&amp;Remove the selected tag</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar la etiqueta seleccionada</translation>
     </message>
     <message>
         <source>&amp;Previous tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiqueta &amp;anterior</translation>
     </message>
     <message>
         <source>&amp;Next tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiqueta &amp;siguiente</translation>
     </message>
     <message>
         <source>Play &amp;just the part around a tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir solo la &amp;parte en torno a una etiqueta</translation>
     </message>
     <message>
         <source>&amp;Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cortar</translation>
     </message>
     <message>
         <source>The cut &amp;begins here</source>
-        <translation type="unfinished"></translation>
+        <translation>El corte &amp;empieza aquí</translation>
     </message>
     <message>
         <source>The cut &amp;ends here</source>
-        <translation type="unfinished"></translation>
+        <translation>El corte &amp;termina aquí</translation>
     </message>
     <message>
         <source>&amp;Give the ends up</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descartar los extremos</translation>
     </message>
     <message>
         <source>Cut by &amp;copying…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortar &amp;copiando…</translation>
     </message>
     <message>
         <source>Cut e&amp;xactly…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortar e&amp;xactamente…</translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmsWindow</name>
     <message>
         <source>Films</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos</translation>
     </message>
     <message>
         <source>&amp;Tag that M sets:</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;tiqueta que pone M:</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortar</translation>
     </message>
     <message>
         <source>Cut into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortado en %1</translation>
     </message>
     <message>
         <source>“%1” is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no está ahí.</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una carpeta de vídeos</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo…</translation>
     </message>
     <message>
         <source>⚠ Not read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ No leídos: %1</translation>
     </message>
 </context>
 <context>
@@ -10682,15 +10683,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Read again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Volver a leer</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dejar de leer</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos que no se pu&amp;dieron leer…</translation>
     </message>
     <message>
         <source>Save the result as &amp;CSV…</source>
@@ -10773,15 +10774,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>1 file</source>
-        <translation type="unfinished"></translation>
+        <translation>1 archivo</translation>
     </message>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 manga</translation>
     </message>
     <message>
         <source>. Reading was stopped: the others are not searched.</source>
@@ -10813,20 +10814,20 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto separado por punto y coma (*.csv)</translation>
     </message>
     <message numerus="yes">
         <source>%n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n archivo</numerusform>
+            <numerusform>%n archivos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manga</numerusform>
+            <numerusform>%n mangas</numerusform>
         </translation>
     </message>
 </context>
@@ -10885,7 +10886,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizaciones</translation>
     </message>
     <message>
         <source>loss</source>
@@ -10940,79 +10941,79 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::GapChart</name>
     <message>
         <source>Select runs in the table to see where time is won and lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecciona mangas en la tabla para ver dónde se gana y se pierde tiempo.</translation>
     </message>
     <message>
         <source>No run covers the whole course. Choose the median or a run as the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna manga cubre el recorrido entero. Elige como referencia la mediana o una manga.</translation>
     </message>
     <message>
         <source>The reference has no time in the first section. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La referencia no tiene tiempo en el primer tramo. Elige otra.</translation>
     </message>
     <message>
         <source>Gap to the best run: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia con la mejor manga: %1</translation>
     </message>
     <message>
         <source>Gap to the median of each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia con la mediana de cada tramo</translation>
     </message>
     <message>
         <source>Gap to the ideal run: the best of each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia con la manga ideal: lo mejor de cada tramo</translation>
     </message>
     <message>
         <source>Gap to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia con %1</translation>
     </message>
     <message>
         <source>Accumulated seconds, penalties included</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos acumulados, con penalizaciones</translation>
     </message>
     <message>
         <source>Accumulated seconds, without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos acumulados, sin penalizaciones</translation>
     </message>
     <message>
         <source>← slower      faster →</source>
-        <translation type="unfinished"></translation>
+        <translation>← más lento      más rápido →</translation>
     </message>
     <message>
         <source>not timed</source>
-        <translation type="unfinished"></translation>
+        <translation>sin cronometrar</translation>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Dif.</translation>
     </message>
     <message>
         <source>in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>en %1</translation>
     </message>
     <message>
         <source>After %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Después de %1</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramo</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
     <message>
         <source>%1: gap</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: diferencia</translation>
     </message>
     <message>
         <source>%1: in the section</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: en el tramo</translation>
     </message>
     <message>
         <source>Gap along the course for the selected runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia a lo largo del recorrido para las mangas seleccionadas</translation>
     </message>
 </context>
 <context>
@@ -11035,11 +11036,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Mangas</translation>
     </message>
     <message>
         <source>Missed gate, 50 s</source>
@@ -11083,14 +11084,14 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Puertas</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GateForm</name>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta</translation>
     </message>
     <message>
         <source>In</source>
@@ -11102,7 +11103,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Turn</source>
@@ -11114,7 +11115,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo</translation>
     </message>
     <message>
         <source>A click brings a gate in front</source>
@@ -11396,11 +11397,11 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>Attacker</source>
@@ -11412,7 +11413,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Outcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Desenlace</translation>
     </message>
     <message>
         <source>Side</source>
@@ -11420,15 +11421,15 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Comentario</translation>
     </message>
     <message>
         <source>Attacks</source>
-        <translation type="unfinished"></translation>
+        <translation>Ataques</translation>
     </message>
     <message>
         <source>Attack at this frame</source>
@@ -11550,7 +11551,7 @@ Press Insert to add one.</source>
     <name>kavela::desktop::HeatList</name>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>ninguno</translation>
     </message>
     <message>
         <source>⚠ missing: %1</source>
@@ -11617,7 +11618,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Percent lost by run and section</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje perdido por manga y tramo</translation>
     </message>
     <message>
         <source>S%1</source>
@@ -11629,7 +11630,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga</translation>
     </message>
 </context>
 <context>
@@ -11731,7 +11732,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna marca seleccionada. Ctrl y las flechas van de marca en marca.</translation>
     </message>
     <message>
         <source>order moved</source>
@@ -11778,66 +11779,66 @@ Press Insert to add one.</source>
     <name>kavela::desktop::HomeWindow</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Archivo</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir…</translation>
     </message>
     <message>
         <source>Try the &amp;sample season</source>
-        <translation type="unfinished"></translation>
+        <translation>Probar la &amp;temporada de ejemplo</translation>
     </message>
     <message>
         <source>Se&amp;ttings…</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;justes…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>Where was the time won and lost, and why?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Dónde se ganó y se perdió el tiempo, y por qué?</translation>
     </message>
     <message>
         <source>Try the sample season</source>
-        <translation type="unfinished"></translation>
+        <translation>Probar la temporada de ejemplo</translation>
     </message>
     <message>
         <source>Open a file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir un archivo…</translation>
     </message>
     <message>
         <source>Recent files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos recientes</translation>
     </message>
     <message>
         <source>Nothing opened yet. Drop a split file (.kvx) or a folder here, open one with Ctrl+O, or try the sample season.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no se ha abierto nada. Suelta aquí un archivo de parciales (.kvx) o una carpeta, abre uno con Ctrl+O o prueba la temporada de ejemplo.</translation>
     </message>
     <message>
         <source>Work kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Trabajo conservado</translation>
     </message>
     <message>
         <source>in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>en %1</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (*.kvx);;Todos los archivos (*)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::IdealPanel</name>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramo</translation>
     </message>
     <message>
         <source>Best</source>
@@ -12028,7 +12029,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Escape</source>
@@ -12036,7 +12037,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausa</translation>
     </message>
     <message>
         <source>Start again</source>
@@ -12048,7 +12049,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
 </context>
 <context>
@@ -12063,7 +12064,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Work</source>
@@ -12207,7 +12208,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>%1 is the key of “%2” already. “%3” can take it over; “%2” has it no longer then.</source>
@@ -12256,7 +12257,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
 </context>
 <context>
@@ -12282,7 +12283,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::ListPanel</name>
     <message>
         <source>List</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista</translation>
     </message>
     <message>
         <source>No row is left. Ctrl+Z takes the last step back.</source>
@@ -12332,521 +12333,521 @@ Penalties are left out.</source>
     <name>kavela::desktop::LossChartsPanel</name>
     <message>
         <source>Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráficos</translation>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma</translation>
     </message>
     <message>
         <source>From the reference&apos;s total to the run&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>Del total de la referencia al de la manga</translation>
     </message>
     <message>
         <source>Heat map</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapa de calor</translation>
     </message>
     <message>
         <source>Percent lost by run and section</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje perdido por manga y tramo</translation>
     </message>
     <message>
         <source>Most lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo más perdido</translation>
     </message>
     <message>
         <source>The sections that lost most, in their order</source>
-        <translation type="unfinished"></translation>
+        <translation>Los tramos que más perdieron, en su orden</translation>
     </message>
     <message>
         <source>Along the course</source>
-        <translation type="unfinished"></translation>
+        <translation>En el recorrido</translation>
     </message>
     <message>
         <source>The gap after each section</source>
-        <translation type="unfinished"></translation>
+        <translation>La diferencia después de cada tramo</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar</translation>
     </message>
     <message>
         <source>Save chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar gráfico…</translation>
     </message>
     <message>
         <source>Show everything again (or double click)</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver a mostrarlo todo (o doble clic)</translation>
     </message>
     <message>
         <source>Save as PNG, SVG or CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como PNG, SVG o CSV</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossHeader</name>
     <message>
         <source>Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Referencia</translation>
     </message>
     <message>
         <source>What the run is held against</source>
-        <translation type="unfinished"></translation>
+        <translation>Con qué se compara la manga</translation>
     </message>
     <message>
         <source>Alt+click or Shift+F1: why</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+clic o Mayús+F1: por qué</translation>
     </message>
     <message>
         <source>Ru&amp;n</source>
-        <translation type="unfinished"></translation>
+        <translation>Ma&amp;nga</translation>
     </message>
     <message>
         <source>hel&amp;d against</source>
-        <translation type="unfinished"></translation>
+        <translation>compa&amp;rada con</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossPage</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>Against</source>
-        <translation type="unfinished"></translation>
+        <translation>Frente a</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nueva</translation>
     </message>
     <message>
         <source>The next M begins another time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>La próxima M empieza otra pérdida de tiempo</translation>
     </message>
     <message>
         <source>Add over the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir del tramo</translation>
     </message>
     <message>
         <source>Another reason</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro motivo</translation>
     </message>
     <message>
         <source>To the other run</source>
-        <translation type="unfinished"></translation>
+        <translation>A la otra manga</translation>
     </message>
     <message>
         <source>reason of a time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>motivo de una pérdida de tiempo</translation>
     </message>
     <message>
         <source>This run</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta manga</translation>
     </message>
     <message>
         <source>Other run</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra manga</translation>
     </message>
     <message>
         <source>Sets this mark at the frame shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Pone esta marca en el fotograma mostrado</translation>
     </message>
     <message>
         <source>kind of a time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo de pérdida de tiempo</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Puertas</translation>
     </message>
     <message>
         <source>Part</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte</translation>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo</translation>
     </message>
     <message>
         <source>Water</source>
-        <translation type="unfinished"></translation>
+        <translation>Agua</translation>
     </message>
     <message>
         <source>comment on a time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>comentario a una pérdida de tiempo</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Comentario</translation>
     </message>
     <message>
         <source>Back to the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver a la manga</translation>
     </message>
     <message>
         <source>M marks where the stretch starts and makes another time loss.</source>
-        <translation type="unfinished"></translation>
+        <translation>M marca dónde empieza el trecho y crea otra pérdida de tiempo.</translation>
     </message>
     <message>
         <source>M marks where the stretch starts and makes a time loss.</source>
-        <translation type="unfinished"></translation>
+        <translation>M marca dónde empieza el trecho y crea una pérdida de tiempo.</translation>
     </message>
     <message>
         <source>%1 s (%2 %) against %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s (%2 %) frente a %3</translation>
     </message>
     <message>
         <source>Go back to the run that lost the time first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelve antes a la manga que perdió el tiempo.</translation>
     </message>
     <message>
         <source>A time loss needs another run to compare with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una pérdida de tiempo necesita otra manga con la que comparar.</translation>
     </message>
     <message>
         <source>time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>pérdida de tiempo</translation>
     </message>
     <message>
         <source>Start and end are marked here too. Ctrl+T goes back to the run that lost the time, where M begins its next loss.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí también se marcan el inicio y el fin. Ctrl+T vuelve a la manga que perdió el tiempo, donde M empieza su siguiente pérdida.</translation>
     </message>
     <message>
         <source>mark of a time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>marca de una pérdida de tiempo</translation>
     </message>
     <message>
         <source>time loss removed</source>
-        <translation type="unfinished"></translation>
+        <translation>pérdida de tiempo quitada</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossTables</name>
     <message>
         <source>Both runs have no upstream gate timed in common.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las dos mangas no tienen ningún remonte cronometrado en común.</translation>
     </message>
     <message>
         <source>No time lost is noted of this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>De esta manga no hay anotada ninguna pérdida de tiempo.</translation>
     </message>
     <message>
         <source>No ways are compared in this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>En esta manga no se comparan trazadas.</translation>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramos</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Mangas</translation>
     </message>
     <message>
         <source>Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Puertas</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notas</translation>
     </message>
     <message>
         <source>Ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Trazadas</translation>
     </message>
     <message>
         <source>&amp;Play both films</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reproducir los dos vídeos</translation>
     </message>
     <message>
         <source>Hold all against this &amp;run</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;mparar todas con esta manga</translation>
     </message>
     <message>
         <source>Notes (%1 unfinished)</source>
-        <translation type="unfinished"></translation>
+        <translation>Notas (%1 sin terminar)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossesActions</name>
     <message>
         <source>&amp;Open races…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir carreras…</translation>
     </message>
     <message>
         <source>Open a &amp;folder of races…</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una &amp;carpeta de carreras…</translation>
     </message>
     <message>
         <source>&amp;Read all again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Volver a leer todo</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dejar de leer</translation>
     </message>
     <message>
         <source>&amp;Page of an athlete: PDF, preview, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Página de un deportista: PDF, vista previa, impresión…</translation>
     </message>
     <message>
         <source>Save the table as &amp;CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la tabla como CS&amp;V…</translation>
     </message>
     <message>
         <source>&amp;Save the chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar el gráfico…</translation>
     </message>
     <message>
         <source>&amp;Run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Manga</translation>
     </message>
     <message>
         <source>&amp;Find a run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar una manga</translation>
     </message>
     <message>
         <source>The &amp;next in rank</source>
-        <translation type="unfinished"></translation>
+        <translation>La &amp;siguiente en la clasificación</translation>
     </message>
     <message>
         <source>The &amp;one in front</source>
-        <translation type="unfinished"></translation>
+        <translation>La de &amp;delante</translation>
     </message>
     <message>
         <source>&amp;Season of the athlete, or the run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Temporada del deportista, o la manga</translation>
     </message>
     <message>
         <source>Re&amp;ference</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;ferencia</translation>
     </message>
     <message>
         <source>The &amp;winner</source>
-        <translation type="unfinished"></translation>
+        <translation>El &amp;ganador</translation>
     </message>
     <message>
         <source>The &amp;fastest paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>El que paleó más &amp;rápido</translation>
     </message>
     <message>
         <source>The &amp;ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>La manga &amp;ideal</translation>
     </message>
     <message>
         <source>The &amp;median of the finalists</source>
-        <translation type="unfinished"></translation>
+        <translation>La &amp;mediana de los finalistas</translation>
     </message>
     <message>
         <source>The crew&apos;s &amp;own best other run</source>
-        <translation type="unfinished"></translation>
+        <translation>La mejor &amp;otra manga de la tripulación</translation>
     </message>
     <message>
         <source>The run that is &amp;shown</source>
-        <translation type="unfinished"></translation>
+        <translation>La manga que se m&amp;uestra</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ver</translation>
     </message>
     <message>
         <source>&amp;Sum from total to total</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Suma de total a total</translation>
     </message>
     <message>
         <source>&amp;Heat map</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mapa de calor</translation>
     </message>
     <message>
         <source>Sections that lost &amp;most</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramos que más per&amp;dieron</translation>
     </message>
     <message>
         <source>Gap &amp;along the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia a lo largo del &amp;recorrido</translation>
     </message>
     <message>
         <source>Table of s&amp;ections</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla de t&amp;ramos</translation>
     </message>
     <message>
         <source>Table of &amp;runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla de m&amp;angas</translation>
     </message>
     <message>
         <source>Table of &amp;gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla de &amp;puertas</translation>
     </message>
     <message>
         <source>Table of &amp;notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla de &amp;notas</translation>
     </message>
     <message>
         <source>Table of &amp;ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla de tra&amp;zadas</translation>
     </message>
     <message>
         <source>Show the whole &amp;chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar el gráfico &amp;entero</translation>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;e azul a naranja en vez de verde a rojo</translation>
     </message>
     <message>
         <source>Fil&amp;ms</source>
-        <translation type="unfinished"></translation>
+        <translation>Ví&amp;deos</translation>
     </message>
     <message>
         <source>&amp;Play the section of both runs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reproducir el tramo de las dos mangas</translation>
     </message>
     <message>
         <source>&amp;Film this loss…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vídeo de esta pérdida…</translation>
     </message>
     <message>
         <source>&amp;Hide the films</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ocultar los vídeos</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Mangas</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Pá&amp;gina para un deportista…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LossesWindow</name>
     <message>
         <source>Split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga</translation>
     </message>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporada</translation>
     </message>
     <message>
         <source>Hide the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocultar los vídeos</translation>
     </message>
     <message>
         <source>Stop reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Dejar de leer</translation>
     </message>
     <message>
         <source>&amp;Open it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrirla</translation>
     </message>
     <message>
         <source>Writing %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribiendo %1…</translation>
     </message>
     <message>
         <source>The page was not written.</source>
-        <translation type="unfinished"></translation>
+        <translation>La página no se ha escrito.</translation>
     </message>
     <message>
         <source>%1 is not in the files any more; another run is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ya no está en los archivos; se muestra otra manga.</translation>
     </message>
     <message>
         <source>%1 is not in the files any more; the winner is the reference now.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ya no está en los archivos; ahora la referencia es el ganador.</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo…</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se puede leer: %2</translation>
     </message>
     <message>
         <source>%1 files cannot be read, the first of them %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 archivos no se pueden leer, el primero de ellos %2: %3</translation>
     </message>
     <message>
         <source>Stopped: not all files were read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Detenido: no se leyeron todos los archivos.</translation>
     </message>
     <message>
         <source>There is no run in what was opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>En lo que se ha abierto no hay ninguna manga.</translation>
     </message>
     <message>
         <source>Time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Pérdidas de tiempo</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 y %2 más</translation>
     </message>
     <message>
         <source>Open races</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir carreras</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (*.kvx);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Open a folder of races</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una carpeta de carreras</translation>
     </message>
     <message>
         <source>%1 is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está escrito.</translation>
     </message>
     <message>
         <source>Choose a section first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige antes un tramo.</translation>
     </message>
     <message>
         <source>No film shows this of either run: a film and both marks are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún vídeo muestra esto de ninguna de las dos mangas: hacen falta un vídeo y las dos marcas.</translation>
     </message>
     <message>
         <source>No film shows the run here; that of the reference plays alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún vídeo muestra aquí la manga; se reproduce solo el de la referencia.</translation>
     </message>
     <message>
         <source>There is no run to watch beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna manga que ver al lado.</translation>
     </message>
     <message>
         <source>No film shows %1 here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún vídeo muestra aquí a %1.</translation>
     </message>
     <message>
         <source>There is no run to film beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna manga que poner al lado en un vídeo.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MarkList</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -12866,11 +12867,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Pérdidas de tiempo</translation>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiquetas</translation>
     </message>
     <message>
         <source> · camera %1</source>
@@ -12890,7 +12891,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>Mark</source>
@@ -12944,7 +12945,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>From the one before</source>
@@ -12963,7 +12964,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::MotionActions</name>
     <message>
         <source>Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráficos</translation>
     </message>
     <message>
         <source>Recordings</source>
@@ -12975,7 +12976,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el &amp;gráfico…</translation>
     </message>
     <message>
         <source>&amp;Recording</source>
@@ -13147,7 +13148,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramo</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -13191,7 +13192,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga</translation>
     </message>
 </context>
 <context>
@@ -13241,7 +13242,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se guardó %1</translation>
     </message>
     <message>
         <source>Open recordings</source>
@@ -13253,7 +13254,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>Reading %1…</source>
@@ -13265,7 +13266,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 y %2 más</translation>
     </message>
 </context>
 <context>
@@ -13280,19 +13281,19 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Another run came to the front: nothing was marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra manga ha pasado al frente: no se ha marcado nada.</translation>
     </message>
     <message>
         <source>Nothing can be marked: %1 is not in the folder of the split file. Cameras &gt; Where are the films now?</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede marcar nada: %1 no está en la carpeta del archivo de parciales. Cámaras &gt; ¿Dónde están ahora los vídeos?</translation>
     </message>
     <message>
         <source>mark moved</source>
-        <translation type="unfinished"></translation>
+        <translation>marca movida</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna marca seleccionada. Ctrl y las flechas van de marca en marca.</translation>
     </message>
     <message>
         <source>This mark lies on another film than the one shown.</source>
@@ -13308,7 +13309,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>mark removed</source>
-        <translation type="unfinished"></translation>
+        <translation>marca quitada</translation>
     </message>
 </context>
 <context>
@@ -13319,7 +13320,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizaciones</translation>
     </message>
     <message>
         <source>Upstreams</source>
@@ -13335,7 +13336,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiquetas</translation>
     </message>
     <message>
         <source>Losses</source>
@@ -13347,7 +13348,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Trazadas</translation>
     </message>
     <message>
         <source>Cameras</source>
@@ -13413,7 +13414,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -13436,7 +13437,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::OfficialDialog</name>
     <message>
         <source>Crew</source>
-        <translation type="unfinished"></translation>
+        <translation>Tripulación</translation>
     </message>
     <message>
         <source>What differs</source>
@@ -13476,11 +13477,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>All categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las categorías</translation>
     </message>
     <message>
         <source>All phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las fases</translation>
     </message>
     <message>
         <source>Official results</source>
@@ -13590,7 +13591,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>What the server has is no planning.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que tiene el servidor no es una planificación.</translation>
     </message>
     <message>
         <source>The online planning could not be opened.</source>
@@ -13677,167 +13678,167 @@ Penalties are left out.</source>
     <name>kavela::desktop::PenaltiesActions</name>
     <message>
         <source>Crews</source>
-        <translation type="unfinished"></translation>
+        <translation>Tripulaciones</translation>
     </message>
     <message>
         <source>&amp;Open split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir archivos de parciales…</translation>
     </message>
     <message>
         <source>Open a &amp;folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una &amp;carpeta…</translation>
     </message>
     <message>
         <source>Read &amp;again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Volver a leer</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dejar de leer</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos que no se pu&amp;dieron leer…</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la &amp;tabla como CSV…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el &amp;gráfico…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar</translation>
     </message>
     <message>
         <source>&amp;Course</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Recorrido</translation>
     </message>
     <message>
         <source>&amp;Rates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Frecuencias</translation>
     </message>
     <message>
         <source>&amp;Details</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Detalles</translation>
     </message>
     <message>
         <source>Cost in &amp;places</source>
-        <translation type="unfinished"></translation>
+        <translation>Coste en &amp;puestos</translation>
     </message>
     <message>
         <source>Risk and &amp;speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Riesgo y &amp;velocidad</translation>
     </message>
     <message>
         <source>&amp;Next course</source>
-        <translation type="unfinished"></translation>
+        <translation>Recorrido &amp;siguiente</translation>
     </message>
     <message>
         <source>Pre&amp;vious course</source>
-        <translation type="unfinished"></translation>
+        <translation>Recorrido &amp;anterior</translation>
     </message>
     <message>
         <source>&amp;All runs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Todas las mangas</translation>
     </message>
     <message>
         <source>The &amp;whole chart</source>
-        <translation type="unfinished"></translation>
+        <translation>El gráfico &amp;entero</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PenaltiesWindow</name>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizaciones</translation>
     </message>
     <message>
         <source>Drop split files (.kvx) or a folder of them here</source>
-        <translation type="unfinished"></translation>
+        <translation>Suelta aquí archivos de parciales (.kvx) o una carpeta con ellos</translation>
     </message>
     <message>
         <source>Open split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir archivos de parciales…</translation>
     </message>
     <message>
         <source>Open a folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una carpeta…</translation>
     </message>
     <message>
         <source>Course</source>
-        <translation type="unfinished"></translation>
+        <translation>Recorrido</translation>
     </message>
     <message>
         <source>Rates</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencias</translation>
     </message>
     <message>
         <source>Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Detalles</translation>
     </message>
     <message>
         <source>Cost in places</source>
-        <translation type="unfinished"></translation>
+        <translation>Coste en puestos</translation>
     </message>
     <message>
         <source>Risk and speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Riesgo y velocidad</translation>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se guardó %1</translation>
     </message>
     <message>
         <source>Open split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir archivos de parciales</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (*.kvx);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Open a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una carpeta</translation>
     </message>
     <message>
         <source>Which gates are touched and missed, by whom, and what it cost: of one race, of several, or of a whole season. Files are only read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué puertas se tocan y se saltan, quién, y cuánto costó: de una carrera, de varias o de toda una temporada. Los archivos solo se leen.</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo…</translation>
     </message>
     <message>
         <source>There is no split file (.kvx) here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí no hay ningún archivo de parciales (.kvx).</translation>
     </message>
     <message>
         <source>1 file</source>
-        <translation type="unfinished"></translation>
+        <translation>1 archivo</translation>
     </message>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 manga</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 y %2 más</translation>
     </message>
     <message numerus="yes">
         <source>%n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n archivo</numerusform>
+            <numerusform>%n archivos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manga</numerusform>
+            <numerusform>%n mangas</numerusform>
         </translation>
     </message>
 </context>
@@ -13864,86 +13865,86 @@ Penalties are left out.</source>
     <name>kavela::desktop::PenaltyPage</name>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta</translation>
     </message>
     <message>
         <source>Penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalización</translation>
     </message>
     <message>
         <source>Pole</source>
-        <translation type="unfinished"></translation>
+        <translation>Palo</translation>
     </message>
     <message>
         <source>With</source>
-        <translation type="unfinished"></translation>
+        <translation>Con</translation>
     </message>
     <message>
         <source>Another at this gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra en esta puerta</translation>
     </message>
     <message>
         <source>Choose what else happened at the gate in front; M adds it</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige qué más ocurrió en la puerta de delante; M lo añade</translation>
     </message>
     <message>
         <source>Moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Momento</translation>
     </message>
     <message>
         <source>Gate is</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta</translation>
     </message>
     <message>
         <source>Boat moves</source>
-        <translation type="unfinished"></translation>
+        <translation>Barco va</translation>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo</translation>
     </message>
     <message>
         <source>Eyes</source>
-        <translation type="unfinished"></translation>
+        <translation>Mirada</translation>
     </message>
     <message>
         <source>Gate %1: %2 s. The lists change its penalty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1: %2 s. Las listas cambian su penalización.</translation>
     </message>
     <message>
         <source>Gate %1: %2 s. M adds a penalty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1: %2 s. M añade una penalización.</translation>
     </message>
     <message>
         <source>The seconds differ from the penalties listed at gate %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los segundos no coinciden con las penalizaciones anotadas en la puerta %1.</translation>
     </message>
     <message>
         <source>The course has no gates yet: Ctrl+G sets it up.</source>
-        <translation type="unfinished"></translation>
+        <translation>El recorrido aún no tiene puertas: Ctrl+G las configura.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; begins a second one.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» empieza una segunda.</translation>
     </message>
     <message>
         <source>penalty at gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>penalización en la puerta %1</translation>
     </message>
     <message>
         <source>penalty removed</source>
-        <translation type="unfinished"></translation>
+        <translation>penalización quitada</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PhaseModel</name>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>time</source>
@@ -13951,7 +13952,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalización</translation>
     </message>
     <message>
         <source>penalty</source>
@@ -13959,7 +13960,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Position</source>
@@ -14057,11 +14058,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está escrito.</translation>
     </message>
     <message>
         <source>&amp;Open it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrirla</translation>
     </message>
     <message>
         <source>Show in &amp;folder</source>
@@ -14084,7 +14085,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma</translation>
     </message>
     <message>
         <source>Mean</source>
@@ -14092,7 +14093,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediana</translation>
     </message>
     <message>
         <source>Least</source>
@@ -14274,7 +14275,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::PlannedAthleteDialog</name>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportista</translation>
     </message>
     <message>
         <source>&amp;Picture…</source>
@@ -14447,11 +14448,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ver</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar un deportista</translation>
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
@@ -14527,90 +14528,90 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>new season</source>
-        <translation type="unfinished"></translation>
+        <translation>temporada nueva</translation>
     </message>
     <message>
         <source>removal of a season</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de una temporada</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PlayMenu</name>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reproducir</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reproducir o pausar</translation>
     </message>
     <message>
         <source>Backwards, again: faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Hacia atrás; otra vez: más rápido</translation>
     </message>
     <message>
         <source>Stop; held, J and L step a frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Parar; si se mantiene, J y L avanzan un fotograma</translation>
     </message>
     <message>
         <source>Forwards, again: faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Hacia adelante; otra vez: más rápido</translation>
     </message>
     <message>
         <source>Slow motion backwards</source>
-        <translation type="unfinished"></translation>
+        <translation>Cámara lenta hacia atrás</translation>
     </message>
     <message>
         <source>Slow motion forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Cámara lenta hacia adelante</translation>
     </message>
     <message>
         <source>&amp;Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Más &amp;lento</translation>
     </message>
     <message>
         <source>&amp;Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Más rá&amp;pido</translation>
     </message>
     <message>
         <source>&amp;Normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad &amp;normal</translation>
     </message>
     <message>
         <source>S&amp;ound, at normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sonido, a velocidad normal</translation>
     </message>
     <message>
         <source>One frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fotograma atrás</translation>
     </message>
     <message>
         <source>One frame forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fotograma adelante</translation>
     </message>
     <message>
         <source>One second back</source>
-        <translation type="unfinished"></translation>
+        <translation>Un segundo atrás</translation>
     </message>
     <message>
         <source>One second forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Un segundo adelante</translation>
     </message>
     <message>
         <source>Ten seconds back</source>
-        <translation type="unfinished"></translation>
+        <translation>Diez segundos atrás</translation>
     </message>
     <message>
         <source>Ten seconds forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Diez segundos adelante</translation>
     </message>
     <message>
         <source>To the beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>Al principio</translation>
     </message>
     <message>
         <source>To the end</source>
-        <translation type="unfinished"></translation>
+        <translation>Al final</translation>
     </message>
 </context>
 <context>
@@ -14664,7 +14665,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportista</translation>
     </message>
     <message>
         <source>Potential</source>
@@ -14683,7 +14684,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::PowerMeterDialog</name>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea</translation>
     </message>
     <message>
         <source>Why it is refused</source>
@@ -14707,7 +14708,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar</translation>
     </message>
     <message>
         <source>%1 of them lie in the session, which lasts %2.</source>
@@ -14758,15 +14759,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>Día</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -14774,7 +14775,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Winner&apos;s</source>
@@ -14798,7 +14799,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultado</translation>
     </message>
     <message>
         <source>The way of %1</source>
@@ -14818,7 +14819,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Final</source>
-        <translation type="unfinished"></translation>
+        <translation>Final</translation>
     </message>
     <message>
         <source>Semifinal</source>
@@ -14830,7 +14831,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje</translation>
     </message>
     <message>
         <source>Missed gate</source>
@@ -14941,235 +14942,235 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RaceActions</name>
     <message>
         <source>Open it &amp;again</source>
-        <translation type="unfinished"></translation>
+        <translation>V&amp;olver a abrir</translation>
     </message>
     <message>
         <source>Ti&amp;me it on video</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cronometrar en vídeo</translation>
     </message>
     <message>
         <source>&amp;Report: preview, PDF, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Informe: vista previa, PDF, impresión…</translation>
     </message>
     <message>
         <source>Save the table as &amp;CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la tabla como CS&amp;V…</translation>
     </message>
     <message>
         <source>Cop&amp;y the selected runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;piar las mangas seleccionadas</translation>
     </message>
     <message>
         <source>&amp;Times</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tiempos</translation>
     </message>
     <message>
         <source>&amp;Gap to the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diferencia con la referencia</translation>
     </message>
     <message>
         <source>&amp;Place</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Puesto</translation>
     </message>
     <message>
         <source>Per&amp;cent behind the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Por&amp;centaje respecto al mejor</translation>
     </message>
     <message>
         <source>Percenti&amp;le</source>
-        <translation type="unfinished"></translation>
+        <translation>Percenti&amp;l</translation>
     </message>
     <message>
         <source>&amp;Reference: the best</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Referencia: el mejor</translation>
     </message>
     <message>
         <source>Reference: the &amp;median</source>
-        <translation type="unfinished"></translation>
+        <translation>Referencia: la &amp;mediana</translation>
     </message>
     <message>
         <source>Reference: the &amp;selected row</source>
-        <translation type="unfinished"></translation>
+        <translation>Referencia: la fila &amp;seleccionada</translation>
     </message>
     <message>
         <source>&amp;Table</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tabla</translation>
     </message>
     <message>
         <source>&amp;Accumulated times</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempos &amp;acumulados</translation>
     </message>
     <message>
         <source>Penalties &amp;included</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizaciones &amp;incluidas</translation>
     </message>
     <message>
         <source>Penalties &amp;visible</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizaciones &amp;visibles</translation>
     </message>
     <message>
         <source>C&amp;olumns</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;olumnas</translation>
     </message>
     <message>
         <source>&amp;Find a name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar un nombre</translation>
     </message>
     <message>
         <source>Show all r&amp;uns</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar todas las man&amp;gas</translation>
     </message>
     <message>
         <source>&amp;Tint cells by rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Colorear las celdas por p&amp;uesto</translation>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;e azul a naranja en vez de verde a rojo</translation>
     </message>
     <message>
         <source>&amp;Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Comparar</translation>
     </message>
     <message>
         <source>&amp;Ideal run on top</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga &amp;ideal arriba</translation>
     </message>
     <message>
         <source>A &amp;run of another race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Una &amp;manga de otra carrera…</translation>
     </message>
     <message>
         <source>&amp;Films of the selected runs…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vídeos de las mangas seleccionadas…</translation>
     </message>
     <message>
         <source>With &amp;official results…</source>
-        <translation type="unfinished"></translation>
+        <translation>Con los resultados &amp;oficiales…</translation>
     </message>
     <message>
         <source>The results list as a &amp;table</source>
-        <translation type="unfinished"></translation>
+        <translation>La lista de resultados como &amp;tabla</translation>
     </message>
     <message>
         <source>&amp;Clear the comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar la comparación</translation>
     </message>
     <message>
         <source>C&amp;harts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gráficos</translation>
     </message>
     <message>
         <source>&amp;Gaps along the course</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diferencias a lo largo del recorrido</translation>
     </message>
     <message>
         <source>T&amp;imes of the sections</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;iempos de los tramos</translation>
     </message>
     <message>
         <source>P&amp;enalties at the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;enalizaciones en las puertas</translation>
     </message>
     <message>
         <source>&amp;Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Totales</translation>
     </message>
     <message>
         <source>&amp;Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Penalizaciones</translation>
     </message>
     <message>
         <source>Time &amp;losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Pérdidas de &amp;tiempo</translation>
     </message>
     <message>
         <source>Show the &amp;whole chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar el gráfico &amp;entero</translation>
     </message>
     <message>
         <source>&amp;Save the chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar el gráfico…</translation>
     </message>
     <message>
         <source>&amp;Window</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ventana</translation>
     </message>
     <message>
         <source>Races &amp;side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Carreras lado a &amp;lado</translation>
     </message>
     <message>
         <source>&amp;Larger: the table or the chart alone</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Más grande: solo la tabla o el gráfico</translation>
     </message>
     <message>
         <source>&amp;Next race</source>
-        <translation type="unfinished"></translation>
+        <translation>Carrera &amp;siguiente</translation>
     </message>
     <message>
         <source>&amp;Previous race</source>
-        <translation type="unfinished"></translation>
+        <translation>Carrera &amp;anterior</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Pá&amp;gina para un deportista…</translation>
     </message>
     <message>
         <source>&amp;Draw the course…</source>
-        <translation type="unfinished"></translation>
+        <translation>Di&amp;bujar el recorrido…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RaceDocument</name>
     <message>
         <source>A file of version %1. It could not be rewritten in the current version and stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de la versión %1. No se pudo reescribir en la versión actual y se queda como está.</translation>
     </message>
     <message>
         <source>A file of version %1, rewritten in the current one. The previous file is kept as %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de la versión %1, reescrito en la actual. El archivo anterior se conserva como %2.</translation>
     </message>
     <message>
         <source>%1 gates, %2 upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 puertas, %2 remontes</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RaceHeader</name>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 manga</translation>
     </message>
     <message>
         <source>%1 of %2 runs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 mangas</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>All phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las fases</translation>
     </message>
     <message>
         <source>All categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las categorías</translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manga</numerusform>
+            <numerusform>%n mangas</numerusform>
         </translation>
     </message>
 </context>
@@ -15177,136 +15178,136 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RaceKeeping</name>
     <message>
         <source>“%1” is open in another window</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» está abierto en otra ventana</translation>
     </message>
     <message>
         <source>Save and close it there, then keep the table. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Guárdalo y ciérralo allí; después conserva la tabla. No se ha escrito nada.</translation>
     </message>
     <message>
         <source>Keeping the table with the race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservando la tabla con la carrera…</translation>
     </message>
     <message>
         <source>“%1” keeps a table already</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» ya conserva una tabla</translation>
     </message>
     <message>
         <source>This one takes its place. The official results themselves stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta ocupa su lugar. Los resultados oficiales se mantienen.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar</translation>
     </message>
     <message>
         <source>The table was not kept with “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>La tabla no se conservó con «%1»</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RaceView</name>
     <message>
         <source>&amp;Run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Manga</translation>
     </message>
     <message>
         <source>I&amp;deal run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga &amp;ideal</translation>
     </message>
     <message>
         <source>Pote&amp;ntial</source>
-        <translation type="unfinished"></translation>
+        <translation>Pote&amp;ncial</translation>
     </message>
     <message>
         <source>&amp;Motion</source>
-        <translation type="unfinished"></translation>
+        <translation>M&amp;ovimiento</translation>
     </message>
     <message>
         <source>Open it again</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver a abrir</translation>
     </message>
     <message>
         <source>gaps to the best</source>
-        <translation type="unfinished"></translation>
+        <translation>diferencias con el mejor</translation>
     </message>
     <message>
         <source>gaps to the median</source>
-        <translation type="unfinished"></translation>
+        <translation>diferencias con la mediana</translation>
     </message>
     <message>
         <source>gaps to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>diferencias con %1</translation>
     </message>
     <message>
         <source>the ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>la manga ideal</translation>
     </message>
     <message>
         <source>This course has %1 sections. The colours and the penalties in brackets are those of the first ten; place, gap and percent are there for all of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este recorrido tiene %1 tramos. Los colores y las penalizaciones entre paréntesis son los de los diez primeros; el puesto, la diferencia y el porcentaje están para todos.</translation>
     </message>
     <message>
         <source>Save the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la tabla</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto separado por punto y coma (*.csv)</translation>
     </message>
     <message>
         <source>The file on the disk is newer than what you see.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo del disco es más reciente que lo que ves.</translation>
     </message>
     <message>
         <source>The file is not on the disk any more. What you see is what it held.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo ya no está en el disco. Lo que ves es lo que contenía.</translation>
     </message>
     <message>
         <source>All columns in the order of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las columnas en el orden del recorrido</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RaceWindow</name>
     <message>
         <source>Split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales</translation>
     </message>
     <message>
         <source>Races</source>
-        <translation type="unfinished"></translation>
+        <translation>Carreras</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RacesSection</name>
     <message>
         <source>No runs yet: take them from the season&apos;s split files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay mangas: tómalas de los archivos de parciales de la temporada.</translation>
     </message>
     <message>
         <source>&lt;b&gt;%1&lt;/b&gt; runs, &lt;b&gt;%2&lt;/b&gt; of them clean (%3 %)  ·  touches per run &lt;b&gt;%4&lt;/b&gt;  ·  missed gates per run &lt;b&gt;%5&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;%1&lt;/b&gt; mangas, &lt;b&gt;%2&lt;/b&gt; de ellas limpias (%3 %)  ·  toques por manga &lt;b&gt;%4&lt;/b&gt;  ·  saltos por manga &lt;b&gt;%5&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Take from split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomar de archivos de parciales…</translation>
     </message>
     <message>
         <source>Races and penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Carreras y penalizaciones</translation>
     </message>
     <message>
         <source>Choose &amp;files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir &amp;archivos…</translation>
     </message>
     <message>
         <source>Choose a f&amp;older…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir una &amp;carpeta…</translation>
     </message>
     <message>
         <source>Files and folders can be dropped here too</source>
-        <translation type="unfinished"></translation>
+        <translation>También se pueden soltar aquí archivos y carpetas</translation>
     </message>
 </context>
 <context>
@@ -15333,7 +15334,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como…</translation>
     </message>
     <message>
         <source>Writes the recording into a file of its own</source>
@@ -15369,7 +15370,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir</translation>
     </message>
     <message>
         <source>Recording, %1 s</source>
@@ -15405,7 +15406,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se puede leer: %2</translation>
     </message>
     <message>
         <source>Recording %1 cannot be played: %2</source>
@@ -15463,11 +15464,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntuación</translation>
     </message>
     <message>
         <source>Bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonificación</translation>
     </message>
     <message>
         <source>Year</source>
@@ -15483,11 +15484,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>correction</source>
-        <translation type="unfinished"></translation>
+        <translation>corrección</translation>
     </message>
     <message>
         <source>Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pen</translation>
     </message>
     <message>
         <source>%</source>
@@ -15499,7 +15500,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>no result</source>
-        <translation type="unfinished"></translation>
+        <translation>sin resultado</translation>
     </message>
     <message>
         <source>Enter the time first: the penalty belongs to it.</source>
@@ -15534,7 +15535,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (*.kvx);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>There is no split file in it.</source>
@@ -15656,7 +15657,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Rates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Frecuencias</translation>
     </message>
     <message>
         <source>No run that is asked for has its penalties by gate.</source>
@@ -15667,7 +15668,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::ReadingProgress</name>
     <message>
         <source>Stop reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Dejar de leer</translation>
     </message>
     <message>
         <source>%1 of %2 files</source>
@@ -15725,7 +15726,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Common moment</source>
@@ -16049,7 +16050,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Smaller</source>
@@ -16073,7 +16074,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>No pages</source>
@@ -16112,237 +16113,237 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::ResultsDialog</name>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea %1: %2</translation>
     </message>
     <message>
         <source>Official results from %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados oficiales de %1</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea</translation>
     </message>
     <message>
         <source>Type a part of the name for another line; an emptied cell stands for none</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe una parte del nombre para elegir otra línea; una celda vacía significa ninguna</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>Real time now</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo real actual</translation>
     </message>
     <message>
         <source>No line</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna línea</translation>
     </message>
     <message>
         <source>“%1” stands in %2 lines of the list: it must be in one.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» está en %2 líneas de la lista: debe estar en una sola.</translation>
     </message>
     <message>
         <source>%1 lines come into the file. Real time and penalty are taken for %2 of %3 runs: those that are ticked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entran %1 líneas en el archivo. El tiempo real y la penalización se toman para %2 de %3 mangas: las que están marcadas.</translation>
     </message>
     <message>
         <source>No line was found for %1. A part of the name, typed in the last column, chooses one.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró ninguna línea para %1. Una parte del nombre, escrita en la última columna, elige una.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ResultsPage</name>
     <message>
         <source>→ goes on</source>
-        <translation type="unfinished"></translation>
+        <translation>→ sigue</translation>
     </message>
     <message>
         <source>out</source>
-        <translation type="unfinished"></translation>
+        <translation>fuera</translation>
     </message>
     <message>
         <source>★ wins</source>
-        <translation type="unfinished"></translation>
+        <translation>★ gana</translation>
     </message>
     <message>
         <source>⚠ Not finished: no order was taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Sin terminar: no se tomó ningún orden.</translation>
     </message>
     <message>
         <source>⚠ Not finished. Gates without an order: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Sin terminar. Puertas sin orden: %1.</translation>
     </message>
     <message>
         <source>⚠ Not all boats were seen at the last gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ No se vio a todos los barcos en la última puerta.</translation>
     </message>
     <message>
         <source>Gates without an order: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puertas sin orden: %1.</translation>
     </message>
     <message>
         <source>Final</source>
-        <translation type="unfinished"></translation>
+        <translation>Final</translation>
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finales</translation>
     </message>
     <message>
         <source>Semifinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Semifinales</translation>
     </message>
     <message>
         <source>Quarterfinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuartos de final</translation>
     </message>
     <message>
         <source>Round %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ronda %1</translation>
     </message>
     <message>
         <source>Boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Barco</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>Gained</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganado</translation>
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdido</translation>
     </message>
     <message>
         <source>Outcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Desenlace</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportista</translation>
     </message>
     <message>
         <source>Attacks</source>
-        <translation type="unfinished"></translation>
+        <translation>Ataques</translation>
     </message>
     <message>
         <source>Succeeded</source>
-        <translation type="unfinished"></translation>
+        <translation>Logrados</translation>
     </message>
     <message>
         <source>Success</source>
-        <translation type="unfinished"></translation>
+        <translation>Éxito</translation>
     </message>
     <message>
         <source>Attacked</source>
-        <translation type="unfinished"></translation>
+        <translation>Atacado</translation>
     </message>
     <message>
         <source>Held</source>
-        <translation type="unfinished"></translation>
+        <translation>Aguantó</translation>
     </message>
     <message>
         <source>Defence</source>
-        <translation type="unfinished"></translation>
+        <translation>Defensa</translation>
     </message>
     <message>
         <source>not told</source>
-        <translation type="unfinished"></translation>
+        <translation>sin indicar</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde</translation>
     </message>
     <message>
         <source>No results yet: they follow from the orders at the gates that are taken on the page of heats.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay resultados: salen de los órdenes en las puertas que se toman en la página de series.</translation>
     </message>
     <message>
         <source>Attacks and defences</source>
-        <translation type="unfinished"></translation>
+        <translation>Ataques y defensas</translation>
     </message>
     <message>
         <source>Where attacks succeed</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde salen bien los ataques</translation>
     </message>
     <message>
         <source>Heat %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Serie %1</translation>
     </message>
     <message>
         <source>Shows the heat on its film</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra la serie en su vídeo</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ResultsView</name>
     <message>
         <source>Nobody is in the team yet. Add the first athlete with Ctrl+N.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay nadie en el equipo. Añade al primer deportista con Ctrl+N.</translation>
     </message>
     <message>
         <source>No athlete fits the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún deportista coincide con la búsqueda.</translation>
     </message>
     <message>
         <source>Choose the boat %1 races in: menu Team, “Add a category”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige el barco con el que compite %1: menú Equipo, «Añadir una categoría».</translation>
     </message>
     <message>
         <source>Add the first season with Ctrl+Shift+N, or drop a split file or a list of results here to take results over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade la primera temporada con Ctrl+Mayús+N, o suelta aquí un archivo de parciales o una lista de resultados para incorporar los resultados.</translation>
     </message>
     <message>
         <source>The first two seasons (✓) count for the categorization. Alt+Up, Alt+Down or dragging changes the order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las dos primeras temporadas (✓) cuentan para la categorización. Alt+Arriba, Alt+Abajo o arrastrar cambian el orden.</translation>
     </message>
     <message>
         <source>Choose a race to see and edit its runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige una carrera para ver y editar sus mangas.</translation>
     </message>
     <message>
         <source>new season</source>
-        <translation type="unfinished"></translation>
+        <translation>temporada nueva</translation>
     </message>
     <message>
         <source>new race</source>
-        <translation type="unfinished"></translation>
+        <translation>carrera nueva</translation>
     </message>
     <message>
         <source>order of the seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>orden de las temporadas</translation>
     </message>
     <message>
         <source>order of the races</source>
-        <translation type="unfinished"></translation>
+        <translation>orden de las carreras</translation>
     </message>
     <message>
         <source>removal of a race</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de una carrera</translation>
     </message>
     <message>
         <source>removal of a season</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de una temporada</translation>
     </message>
 </context>
 <context>
@@ -16353,7 +16354,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>Roll</source>
@@ -16361,7 +16362,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo</translation>
     </message>
     <message>
         <source>Going over</source>
@@ -16373,7 +16374,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
 </context>
 <context>
@@ -16387,54 +16388,55 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RunChooser</name>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 manga</translation>
     </message>
     <message>
         <source>Compare with a run of another race</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparar con una manga de otra carrera</translation>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparar</translation>
     </message>
     <message>
         <source>&amp;Race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Carrera</translation>
     </message>
     <message>
         <source>&amp;Other file…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otro archivo…</translation>
     </message>
     <message>
         <source>R&amp;un</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Manga</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>No other race lies in this folder.
 Choose a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>En esta carpeta no hay otra carrera.
+Elige un archivo.</translation>
     </message>
     <message>
         <source>not a race</source>
-        <translation type="unfinished"></translation>
+        <translation>no es una carrera</translation>
     </message>
     <message>
         <source>Open a race</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una carrera</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (*.kvx);;Todos los archivos (*)</translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manga</numerusform>
+            <numerusform>%n mangas</numerusform>
         </translation>
     </message>
 </context>
@@ -16481,149 +16483,149 @@ Choose a file.</source>
     <name>kavela::desktop::RunForm</name>
     <message>
         <source>A comma and minutes, such as 1:32,34, are taken too</source>
-        <translation type="unfinished"></translation>
+        <translation>También se admiten coma y minutos, como 1:32,34</translation>
     </message>
     <message>
         <source>Crew</source>
-        <translation type="unfinished"></translation>
+        <translation>Tripulación</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>Hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Mano</translation>
     </message>
     <message>
         <source>Real time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo real</translation>
     </message>
     <message>
         <source>Real penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalización real</translation>
     </message>
     <message>
         <source>Sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Esprint</translation>
     </message>
     <message>
         <source>sprint time</source>
-        <translation type="unfinished"></translation>
+        <translation>tiempo de esprint</translation>
     </message>
     <message>
         <source>Total %1 s,</source>
-        <translation type="unfinished"></translation>
+        <translation>Total %1 s,</translation>
     </message>
     <message>
         <source>penalties %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizaciones %1 s</translation>
     </message>
     <message>
         <source>Expected %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperado %1 s</translation>
     </message>
     <message>
         <source>Perfect time %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo perfecto %1 s</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RunPanel</name>
     <message>
         <source>A clean run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una manga limpia.</translation>
     </message>
     <message>
         <source>Touched: gate %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toque: puerta %1.</translation>
     </message>
     <message>
         <source>Missed: gate %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Salto: puerta %1.</translation>
     </message>
     <message>
         <source>To best</source>
-        <translation type="unfinished"></translation>
+        <translation>Al mejor</translation>
     </message>
     <message>
         <source>Select a run to see its sections. Select two to compare them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecciona una manga para ver sus tramos. Selecciona dos para compararlas.</translation>
     </message>
     <message>
         <source> against %1</source>
-        <translation type="unfinished"></translation>
+        <translation> frente a %1</translation>
     </message>
     <message>
         <source>penalties %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizaciones %1 s</translation>
     </message>
     <message>
         <source>Total %1 s,</source>
-        <translation type="unfinished"></translation>
+        <translation>Total %1 s,</translation>
     </message>
     <message>
         <source>Total –,</source>
-        <translation type="unfinished"></translation>
+        <translation>Total –,</translation>
     </message>
     <message>
         <source>Real %1 s,</source>
-        <translation type="unfinished"></translation>
+        <translation>Real %1 s,</translation>
     </message>
     <message>
         <source>Expected %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperado %1 s</translation>
     </message>
     <message>
         <source>Best own sections %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Mejores tramos propios %1 s</translation>
     </message>
     <message>
         <source>A time must be above 0. Check the marks of this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un tiempo debe ser mayor que 0. Revisa las marcas de esta manga.</translation>
     </message>
     <message>
         <source>Not the whole course</source>
-        <translation type="unfinished"></translation>
+        <translation>No es el recorrido entero</translation>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Dif.</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramo</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>Pen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pen</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RunPicker</name>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga</translation>
     </message>
     <message>
         <source>Type any part of a name, phase, category or race</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe cualquier parte de un nombre, una fase, una categoría o una carrera</translation>
     </message>
     <message>
         <source>Find a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar una manga</translation>
     </message>
 </context>
 <context>
@@ -16654,7 +16656,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>no result</source>
-        <translation type="unfinished"></translation>
+        <translation>sin resultado</translation>
     </message>
     <message>
         <source>(line %1)</source>
@@ -16704,7 +16706,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (*.kvx);;Todos los archivos (*)</translation>
     </message>
     <message numerus="yes">
         <source>⚠ %n could not be read…</source>
@@ -16734,15 +16736,15 @@ Choose a file.</source>
     </message>
     <message>
         <source>Read &amp;again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Volver a leer</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dejar de leer</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos que no se pu&amp;dieron leer…</translation>
     </message>
     <message>
         <source>&amp;Reports to look at and print…</source>
@@ -16762,11 +16764,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el &amp;gráfico…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar</translation>
     </message>
     <message>
         <source>&amp;Progression</source>
@@ -16830,7 +16832,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Pá&amp;gina para un deportista…</translation>
     </message>
 </context>
 <context>
@@ -16884,7 +16886,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -16963,11 +16965,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Mangas</translation>
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdido</translation>
     </message>
     <message>
         <source>Seconds, of all runs together</source>
@@ -17011,7 +17013,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga</translation>
     </message>
     <message>
         <source>Open a folder of races to see an athlete&apos;s season.</source>
@@ -17058,9 +17060,9 @@ Choose a file.</source>
     </message>
     <message numerus="yes">
         <source>%n files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n archivo</numerusform>
+            <numerusform>%n archivos</numerusform>
         </translation>
     </message>
 </context>
@@ -17128,11 +17130,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Finales</translation>
     </message>
     <message>
         <source>Semifinals</source>
-        <translation type="unfinished"></translation>
+        <translation>Semifinales</translation>
     </message>
     <message>
         <source>Expected places</source>
@@ -17148,7 +17150,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
 </context>
 <context>
@@ -17178,7 +17180,7 @@ Choose a file.</source>
     <name>kavela::desktop::SeasonWindow</name>
     <message>
         <source>Season</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporada</translation>
     </message>
     <message>
         <source>Drop a team (.kvteam) and the folder of its races here</source>
@@ -17194,11 +17196,11 @@ Choose a file.</source>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se guardó %1</translation>
     </message>
     <message>
         <source>Writing %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribiendo %1…</translation>
     </message>
     <message>
         <source>Open a team</source>
@@ -17214,7 +17216,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (*.kvx);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Add a folder of races</source>
@@ -17238,7 +17240,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo…</translation>
     </message>
     <message>
         <source>Nobody of this team races in any category yet.</source>
@@ -17291,123 +17293,123 @@ Choose a file.</source>
     <name>kavela::desktop::SectionChart</name>
     <message>
         <source>Box</source>
-        <translation type="unfinished"></translation>
+        <translation>Caja</translation>
     </message>
     <message>
         <source>Quartiles, and the runs far from them</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuartiles, y las mangas alejadas de ellos</translation>
     </message>
     <message>
         <source>Strip</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos</translation>
     </message>
     <message>
         <source>A dot for every run</source>
-        <translation type="unfinished"></translation>
+        <translation>Un punto por manga</translation>
     </message>
     <message>
         <source>Behind best</source>
-        <translation type="unfinished"></translation>
+        <translation>Resp. al mejor</translation>
     </message>
     <message>
         <source>Seconds behind the best of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos respecto al mejor del tramo</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>Seconds in the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos en el tramo</translation>
     </message>
     <message>
         <source>No section has been timed yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no se ha cronometrado ningún tramo.</translation>
     </message>
     <message>
         <source>Seconds in each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos en cada tramo</translation>
     </message>
     <message>
         <source>Seconds behind the best of each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos respecto al mejor de cada tramo</translation>
     </message>
     <message>
         <source>Times of %1 by section</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempos de %1 por tramo</translation>
     </message>
     <message>
         <source>, penalties included</source>
-        <translation type="unfinished"></translation>
+        <translation>, penalizaciones incluidas</translation>
     </message>
     <message>
         <source>← slower      faster →</source>
-        <translation type="unfinished"></translation>
+        <translation>← más lento      más rápido →</translation>
     </message>
     <message>
         <source>Not timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin cronometrar</translation>
     </message>
     <message>
         <source>Quarter of the runs under</source>
-        <translation type="unfinished"></translation>
+        <translation>Un cuarto de las mangas por debajo</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediana</translation>
     </message>
     <message>
         <source>Quarter of the runs over</source>
-        <translation type="unfinished"></translation>
+        <translation>Un cuarto de las mangas por encima</translation>
     </message>
     <message>
         <source>Slowest</source>
-        <translation type="unfinished"></translation>
+        <translation>El más lento</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Mangas</translation>
     </message>
     <message>
         <source>Behind the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Respecto al mejor</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramo</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
     <message>
         <source>Fastest</source>
-        <translation type="unfinished"></translation>
+        <translation>El más rápido</translation>
     </message>
     <message>
         <source>Lower quartile</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuartil inferior</translation>
     </message>
     <message>
         <source>Upper quartile</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuartil superior</translation>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramos</translation>
     </message>
     <message>
         <source>Distribution of the times of each section</source>
-        <translation type="unfinished"></translation>
+        <translation>Distribución de los tiempos de cada tramo</translation>
     </message>
 </context>
 <context>
@@ -17524,7 +17526,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramos</translation>
     </message>
     <message>
         <source>The time in straight line is part of the time of its section: it cannot be longer.</source>
@@ -17581,7 +17583,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Rename which race?</source>
@@ -17601,7 +17603,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría</translation>
     </message>
     <message>
         <source>Category of the athletes</source>
@@ -17743,7 +17745,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonificación</translation>
     </message>
     <message>
         <source>Official times</source>
@@ -17910,7 +17912,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>&amp;Place</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Puesto</translation>
     </message>
     <message>
         <source>&amp;Description</source>
@@ -18110,7 +18112,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Import .kvb file</source>
@@ -18153,111 +18155,111 @@ Choose a file.</source>
     <name>kavela::desktop::SettingsWindow</name>
     <message>
         <source>Look and tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Aspecto y tablas</translation>
     </message>
     <message>
         <source>Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo</translation>
     </message>
     <message>
         <source>Split taking</source>
-        <translation type="unfinished"></translation>
+        <translation>Toma de parciales</translation>
     </message>
     <message>
         <source>Boat motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Movimiento del barco</translation>
     </message>
     <message>
         <source>At start</source>
-        <translation type="unfinished"></translation>
+        <translation>Al iniciar</translation>
     </message>
     <message>
         <source>The decoded frames of all open films together take at most %1, and never more than a quarter of this computer&apos;s memory of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los fotogramas decodificados de todos los vídeos abiertos ocupan en conjunto como máximo %1, y nunca más de un cuarto de la memoria de este ordenador, que es de %2.</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>Every change takes effect at once, another language when Kavela starts again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada cambio tiene efecto al instante; otro idioma, cuando Kavela se inicia de nuevo.</translation>
     </message>
     <message>
         <source>As the system</source>
-        <translation type="unfinished"></translation>
+        <translation>Como el sistema</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Claro</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Oscuro</translation>
     </message>
     <message>
         <source>The environment variable KAVELA_SCHEME decides for this session.</source>
-        <translation type="unfinished"></translation>
+        <translation>La variable de entorno KAVELA_SCHEME decide en esta sesión.</translation>
     </message>
     <message>
         <source>Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventanas</translation>
     </message>
     <message>
         <source>The environment variable KAVELA_LANGUAGE decides for this session.</source>
-        <translation type="unfinished"></translation>
+        <translation>La variable de entorno KAVELA_LANGUAGE decide en esta sesión.</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>Race: best green, others red</source>
-        <translation type="unfinished"></translation>
+        <translation>Carrera: el mejor en verde, los demás en rojo</translation>
     </message>
     <message>
         <source>Training: cells tinted by rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrenamiento: celdas coloreadas por puesto</translation>
     </message>
     <message>
         <source>Colours of the split table</source>
-        <translation type="unfinished"></translation>
+        <translation>Colores de la tabla de parciales</translation>
     </message>
     <message>
         <source>One a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Uno por línea.</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>ninguno</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir…</translation>
     </message>
     <message>
         <source>Choose a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir una carpeta</translation>
     </message>
     <message>
         <source>Choose a file</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir un archivo</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>Look for a newer version once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar una versión nueva una vez al día</translation>
     </message>
     <message>
         <source>Where it is looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde se busca</translation>
     </message>
     <message>
         <source>This is no https address. It is looked for where it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta no es una dirección https. Se busca donde antes.</translation>
     </message>
 </context>
 <context>
@@ -18335,7 +18337,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Compare</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparar</translation>
     </message>
     <message>
         <source>Shows what differs; nothing is changed by it</source>
@@ -18343,7 +18345,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>Shares the ticked files</source>
@@ -18387,7 +18389,7 @@ Choose a file.</source>
     </message>
     <message>
         <source>%1 (on the server)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (en el servidor)</translation>
     </message>
     <message>
         <source>%1 (here)</source>
@@ -18490,7 +18492,7 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Editar</translation>
     </message>
     <message>
         <source>&amp;Undo the mark</source>
@@ -18586,7 +18588,7 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marcar</translation>
     </message>
     <message>
         <source>&amp;Mark the run at the hair line</source>
@@ -18598,11 +18600,11 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Previous run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga &amp;anterior</translation>
     </message>
     <message>
         <source>&amp;Next run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga &amp;siguiente</translation>
     </message>
     <message>
         <source>&amp;Refuse the proposal at the hair line</source>
@@ -18622,23 +18624,23 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reproducir</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reproducir o pausar</translation>
     </message>
     <message>
         <source>&amp;Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Más &amp;lento</translation>
     </message>
     <message>
         <source>&amp;Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Más rá&amp;pido</translation>
     </message>
     <message>
         <source>&amp;Normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad &amp;normal</translation>
     </message>
 </context>
 <context>
@@ -18710,7 +18712,7 @@ and %1 more</source>
     <name>kavela::desktop::SlitRace</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>Split %1</source>
@@ -18771,11 +18773,11 @@ and %1 more</source>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>frame %1   %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>fotograma %1   %2 s</translation>
     </message>
     <message>
         <source>  (%1%2 of a frame)</source>
@@ -18786,7 +18788,7 @@ and %1 more</source>
     <name>kavela::desktop::SlitWindow</name>
     <message>
         <source>Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Slit picture</source>
@@ -18794,7 +18796,7 @@ and %1 more</source>
     </message>
     <message>
         <source>“%1” is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no está ahí.</translation>
     </message>
     <message>
         <source>Open the film of a fixed camera</source>
@@ -18876,177 +18878,182 @@ and %1 more</source>
     <name>kavela::desktop::SplitMode</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>Nothing can be marked: %1 is not in the folder of the split file. Cameras &gt; Where are the films now?</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede marcar nada: %1 no está en la carpeta del archivo de parciales. Cámaras &gt; ¿Dónde están ahora los vídeos?</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna marca seleccionada. Ctrl y las flechas van de marca en marca.</translation>
     </message>
     <message>
         <source>Another run came to the front: nothing was marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra manga ha pasado al frente: no se ha marcado nada.</translation>
     </message>
     <message>
         <source>The times of this run were taken without marks on the video. Marking it anew replaces them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los tiempos de esta manga se tomaron sin marcas en el vídeo. Marcarla de nuevo los sustituye.</translation>
     </message>
     <message>
         <source>Mark anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar de nuevo</translation>
     </message>
     <message>
         <source>start mark</source>
-        <translation type="unfinished"></translation>
+        <translation>marca de salida</translation>
     </message>
     <message>
         <source>split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>parcial %1</translation>
     </message>
     <message>
         <source>%1:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1:  %2</translation>
     </message>
     <message>
         <source>Split %1 was put in between two marks. Ctrl+Z takes it out again.</source>
-        <translation type="unfinished"></translation>
+        <translation>El parcial %1 se insertó entre dos marcas. Ctrl+Z lo vuelve a quitar.</translation>
     </message>
     <message>
         <source>mark moved</source>
-        <translation type="unfinished"></translation>
+        <translation>marca movida</translation>
     </message>
     <message>
         <source>There is no mark yet that could be moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay ninguna marca que se pueda mover.</translation>
     </message>
     <message>
         <source>mark removed</source>
-        <translation type="unfinished"></translation>
+        <translation>marca quitada</translation>
     </message>
     <message>
         <source>Split %1 is expected behind the end of the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>El parcial %1 se espera después del final del vídeo.</translation>
     </message>
     <message>
         <source>Split %1 is expected here</source>
-        <translation type="unfinished"></translation>
+        <translation>El parcial %1 se espera aquí</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SplitTableModel</name>
     <message>
         <source>Not timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin cronometrar</translation>
     </message>
     <message>
         <source>%1, %2: %3 s
 place %4 of %5
 %6 s behind the best, %7 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: %3 s
+puesto %4 de %5
+%6 s más que el mejor, %7 %</translation>
     </message>
     <message>
         <source>%1, %2: %3 s
 %4
 It counts for nothing: no place, no gap, never a best.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: %3 s
+%4
+No cuenta para nada: ni puesto, ni diferencia, ni mejor.</translation>
     </message>
     <message>
         <source>The best of every section, put together</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo mejor de cada tramo, reunido</translation>
     </message>
     <message>
         <source>%1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en %2</translation>
     </message>
     <message>
         <source>Ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga ideal</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>Gates %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Puertas %1</translation>
     </message>
     <message>
         <source>Section %1: the colours and the penalties in brackets are those of the first ten sections only.
 Place, gap and percent are there as in any other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramo %1: los colores y las penalizaciones entre paréntesis son solo los de los diez primeros tramos.
+El puesto, la diferencia y el porcentaje están como en cualquier otro.</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>Cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Cat</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>%1 penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalización de %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SplitsShown</name>
     <message>
         <source>%1?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿%1?</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::StartListDialog</name>
     <message>
         <source>Start list</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de salida</translation>
     </message>
     <message>
         <source>12,Ann Lee,K1W,10:01:30</source>
-        <translation type="unfinished"></translation>
+        <translation>12,Ann Lee,K1W,10:01:30</translation>
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>Día</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>Incorporar</translation>
     </message>
     <message>
         <source>From a file…</source>
-        <translation type="unfinished"></translation>
+        <translation>De un archivo…</translation>
     </message>
     <message>
         <source>Paste the list: bib, name, category and start time or order, or with titles in its first line. Boats that are in this phase already are corrected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pega la lista: dorsal, nombre, categoría y hora u orden de salida, o con títulos en la primera línea. Los barcos que ya están en esta fase se corrigen.</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listas (*.csv *.txt);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Starts: %1. Lines that cannot be taken: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Salidas: %1. Líneas que no se pueden incorporar: %2.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea %1: %2</translation>
     </message>
 </context>
 <context>
@@ -19112,11 +19119,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>Gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Dif.</translation>
     </message>
     <message>
         <source>The tick is at the way that the run took. Names and times are edited by a double click.</source>
@@ -19144,7 +19151,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Comentario</translation>
     </message>
     <message>
         <source>Add</source>
@@ -19152,7 +19159,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nueva</translation>
     </message>
     <message>
         <source>Compared</source>
@@ -19164,7 +19171,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramo</translation>
     </message>
     <message>
         <source>Without a name</source>
@@ -19220,7 +19227,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>The end of a way comes after its beginning at %1.</source>
@@ -19243,7 +19250,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::StrokePage</name>
     <message>
         <source>Section</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramo</translation>
     </message>
     <message>
         <source>Left</source>
@@ -19267,7 +19274,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo</translation>
     </message>
     <message>
         <source>%1 per minute, %2 strokes</source>
@@ -19368,7 +19375,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la &amp;tabla como CSV…</translation>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
@@ -19376,15 +19383,15 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Editar</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deshacer</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rehacer</translation>
     </message>
     <message>
         <source>The first line holds the &amp;titles</source>
@@ -19456,7 +19463,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Percenti&amp;le</source>
-        <translation type="unfinished"></translation>
+        <translation>Percenti&amp;l</translation>
     </message>
     <message>
         <source>&amp;Another column…</source>
@@ -19480,7 +19487,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Show</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar</translation>
     </message>
     <message>
         <source>What was &amp;refused</source>
@@ -19488,11 +19495,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;e azul a naranja en vez de verde a rojo</translation>
     </message>
     <message>
         <source>The &amp;whole chart</source>
-        <translation type="unfinished"></translation>
+        <translation>El gráfico &amp;entero</translation>
     </message>
 </context>
 <context>
@@ -19519,7 +19526,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Saved %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se guardó %1</translation>
     </message>
     <message>
         <source>Kept with %1</source>
@@ -19567,7 +19574,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto separado por punto y coma (*.csv)</translation>
     </message>
     <message>
         <source>Open lists</source>
@@ -19615,11 +19622,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (*.kvx);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Save the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la tabla</translation>
     </message>
     <message>
         <source>The table was not saved</source>
@@ -19668,93 +19675,93 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TagMode</name>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiqueta</translation>
     </message>
     <message>
         <source>There is no film to tag.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún vídeo que etiquetar.</translation>
     </message>
     <message>
         <source>There is no tag %1 yet: type its name above.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay etiqueta %1: escribe su nombre arriba.</translation>
     </message>
     <message>
         <source>This tag is of the split file: split taking moves it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta etiqueta es del archivo de parciales: se mueve en la toma de parciales.</translation>
     </message>
     <message>
         <source>No tag is selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna etiqueta seleccionada.</translation>
     </message>
     <message>
         <source>There is no film to cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún vídeo que cortar.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TagPage</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Etiqueta</translation>
     </message>
     <message>
         <source>Play just the tagged part</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir solo la parte etiquetada</translation>
     </message>
     <message>
         <source>Rename the tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar el nombre de la etiqueta</translation>
     </message>
     <message>
         <source>Gives the selected tag the name above</source>
-        <translation type="unfinished"></translation>
+        <translation>Da a la etiqueta seleccionada el nombre de arriba</translation>
     </message>
     <message>
         <source>M sets the tag at the frame shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>M pone la etiqueta en el fotograma mostrado.</translation>
     </message>
     <message>
         <source>Enter sets the tag %1 at the frame shown. Esc gives the keys back to the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro pone la etiqueta %1 en el fotograma mostrado. Esc devuelve las teclas al vídeo.</translation>
     </message>
     <message>
         <source>Choose or type the name of the tag first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige o escribe antes el nombre de la etiqueta.</translation>
     </message>
     <message>
         <source>tag %1</source>
-        <translation type="unfinished"></translation>
+        <translation>etiqueta %1</translation>
     </message>
     <message>
         <source>Select a tag and write its new name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecciona una etiqueta y escribe su nombre nuevo.</translation>
     </message>
     <message>
         <source>tag renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre de etiqueta cambiado</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TakeOverDialog</name>
     <message>
         <source>Boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Barco</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultado</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportista</translation>
     </message>
     <message>
         <source>not in the team</source>
@@ -19818,7 +19825,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>Incorporar</translation>
     </message>
     <message>
         <source>Tick &amp;all</source>
@@ -19834,7 +19841,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 y %2 más</translation>
     </message>
     <message>
         <source>Final position</source>
@@ -19924,7 +19931,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>%1 strokes and %2 turns were found.</source>
@@ -19989,27 +19996,27 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TakeRunDialog</name>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportista</translation>
     </message>
     <message>
         <source>Category</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>Sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramos</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>s</source>
@@ -20056,263 +20063,263 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TakingActions</name>
     <message>
         <source>&amp;Open a folder of videos…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir una carpeta de vídeos…</translation>
     </message>
     <message>
         <source>&amp;Save data</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar los datos</translation>
     </message>
     <message>
         <source>Import &amp;video…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar &amp;vídeo…</translation>
     </message>
     <message>
         <source>Import split &amp;file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar archivo de &amp;parciales…</translation>
     </message>
     <message>
         <source>Import official &amp;results…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar &amp;resultados oficiales…</translation>
     </message>
     <message>
         <source>Compare &amp;with official results…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Comparar con los resultados oficiales…</translation>
     </message>
     <message>
         <source>&amp;Recording of the run…</source>
-        <translation type="unfinished"></translation>
+        <translation>Gra&amp;bación de la manga…</translation>
     </message>
     <message>
         <source>Run s&amp;heet: preview, PDF, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hoja de la manga: vista previa, PDF, impresión…</translation>
     </message>
     <message>
         <source>&amp;Export data…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportar los datos…</translation>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar en el anali&amp;zador de carreras</translation>
     </message>
     <message>
         <source>Compare fil&amp;ms of the run…</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparar los ví&amp;deos de la manga…</translation>
     </message>
     <message>
         <source>Kayak &amp;cross of this race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kayak cross de esta carrera</translation>
     </message>
     <message>
         <source>Open a folder of videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una carpeta de vídeos</translation>
     </message>
     <message>
         <source>Race and &amp;course…</source>
-        <translation type="unfinished"></translation>
+        <translation>Carrera y recorri&amp;do…</translation>
     </message>
     <message>
         <source>Names of the &amp;films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombres de los &amp;vídeos…</translation>
     </message>
     <message>
         <source>&amp;Previous run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga &amp;anterior</translation>
     </message>
     <message>
         <source>&amp;Next run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga &amp;siguiente</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar un deportista</translation>
     </message>
     <message>
         <source>Move the run up</source>
-        <translation type="unfinished"></translation>
+        <translation>Subir la manga</translation>
     </message>
     <message>
         <source>Move the run down</source>
-        <translation type="unfinished"></translation>
+        <translation>Bajar la manga</translation>
     </message>
     <message>
         <source>Remove the run from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar la manga de la lista</translation>
     </message>
     <message>
         <source>Delete &amp;all data…</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar &amp;todos los datos…</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marcar</translation>
     </message>
     <message>
         <source>&amp;Mark the split</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marcar el parcial</translation>
     </message>
     <message>
         <source>To where the next split is e&amp;xpected</source>
-        <translation type="unfinished"></translation>
+        <translation>A donde se &amp;espera el siguiente parcial</translation>
     </message>
     <message>
         <source>To the start mark</source>
-        <translation type="unfinished"></translation>
+        <translation>A la marca de salida</translation>
     </message>
     <message>
         <source>To split &amp;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Al parcial &amp;%1</translation>
     </message>
     <message>
         <source>&amp;Gates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Puertas</translation>
     </message>
     <message>
         <source>&amp;Touch: 2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Toque: 2 s</translation>
     </message>
     <message>
         <source>Missed gate: &amp;50 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Salto de puerta: &amp;50 s</translation>
     </message>
     <message>
         <source>&amp;Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Limpia</translation>
     </message>
     <message>
         <source>&amp;Next gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta &amp;siguiente</translation>
     </message>
     <message>
         <source>&amp;Previous gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta &amp;anterior</translation>
     </message>
     <message>
         <source>&amp;Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cámaras</translation>
     </message>
     <message>
         <source>&amp;Add another camera of this run…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Añadir otra cámara de esta manga…</translation>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
-        <translation type="unfinished"></translation>
+        <translation>¿&amp;Dónde están ahora los vídeos?…</translation>
     </message>
     <message>
         <source>Last camera one frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>Última cámara, un fotograma atrás</translation>
     </message>
     <message>
         <source>Last camera one frame forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Última cámara, un fotograma adelante</translation>
     </message>
     <message>
         <source>&amp;Larger: without the table, the film alone, all again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Más grande: sin la tabla, solo el vídeo, todo de nuevo</translation>
     </message>
     <message>
         <source>The frames shown are &amp;one moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Los fotogramas mostrados son &amp;un mismo momento</translation>
     </message>
     <message>
         <source>&amp;Draw the course…</source>
-        <translation type="unfinished"></translation>
+        <translation>Di&amp;bujar el recorrido…</translation>
     </message>
     <message>
         <source>Sl&amp;it picture of the last camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen de l&amp;ínea de la última cámara</translation>
     </message>
     <message>
         <source>There is no film here that has a slit picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí no hay ningún vídeo que tenga imagen de línea.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TakingDocument</name>
     <message>
         <source>Save a copy as</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar una copia como</translation>
     </message>
     <message>
         <source>Split files (*.kvx)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (*.kvx)</translation>
     </message>
     <message>
         <source> &quot;Save as…&quot; writes a copy in the present release and opens it here; its films stay where they are.</source>
-        <translation type="unfinished"></translation>
+        <translation> «Guardar como…» escribe una copia en la versión actual y la abre aquí; sus vídeos se quedan donde están.</translation>
     </message>
     <message>
         <source>Save as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como…</translation>
     </message>
     <message>
         <source>names of the films</source>
-        <translation type="unfinished"></translation>
+        <translation>nombres de los vídeos</translation>
     </message>
     <message>
         <source>run removed</source>
-        <translation type="unfinished"></translation>
+        <translation>manga quitada</translation>
     </message>
     <message>
         <source>run moved</source>
-        <translation type="unfinished"></translation>
+        <translation>manga movida</translation>
     </message>
     <message>
         <source>videos imported</source>
-        <translation type="unfinished"></translation>
+        <translation>vídeos importados</translation>
     </message>
     <message>
         <source>“%1” holds no runs. Nothing was imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no contiene ninguna manga. No se ha importado nada.</translation>
     </message>
     <message>
         <source>split file imported</source>
-        <translation type="unfinished"></translation>
+        <translation>archivo de parciales importado</translation>
     </message>
     <message>
         <source>official results imported</source>
-        <translation type="unfinished"></translation>
+        <translation>resultados oficiales importados</translation>
     </message>
     <message>
         <source>official result of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>resultado oficial de %1</translation>
     </message>
     <message>
         <source>1 run</source>
-        <translation type="unfinished"></translation>
+        <translation>1 manga</translation>
     </message>
     <message>
         <source>%1 with %2 is emptied. Ctrl+Z brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se vacía %1 con %2. Ctrl+Z lo recupera.</translation>
     </message>
     <message>
         <source>reset</source>
-        <translation type="unfinished"></translation>
+        <translation>reinicio</translation>
     </message>
     <message>
         <source>1 start without a split is not stored in the file. This computer keeps it, and offers it when the file is opened here again.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 salida sin parcial no se guarda en el archivo. Este ordenador la conserva y la ofrece cuando el archivo se vuelve a abrir aquí.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobrescribir</translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manga</numerusform>
+            <numerusform>%n mangas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n starts without a split are not stored in the file. This computer keeps them, and offers them when the file is opened here again.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n salida sin parcial no se guarda en el archivo. Este ordenador la conserva y la ofrece cuando el archivo se vuelve a abrir aquí.</numerusform>
+            <numerusform>%n salidas sin parcial no se guardan en el archivo. Este ordenador las conserva y las ofrece cuando el archivo se vuelve a abrir aquí.</numerusform>
         </translation>
     </message>
 </context>
@@ -20320,55 +20327,55 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TakingWindow</name>
     <message>
         <source>correction</source>
-        <translation type="unfinished"></translation>
+        <translation>corrección</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Cat</source>
-        <translation type="unfinished"></translation>
+        <translation>Cat</translation>
     </message>
     <message>
         <source>Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>%1/%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1/%2</translation>
     </message>
     <message>
         <source>split taking</source>
-        <translation type="unfinished"></translation>
+        <translation>toma de parciales</translation>
     </message>
     <message>
         <source>Athlete&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del deportista</translation>
     </message>
     <message>
         <source>Enter finds the athlete&apos;s next run, or collects a training file of all videos with that name</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro busca la siguiente manga del deportista, o reúne un archivo de entrenamiento de todos los vídeos con ese nombre</translation>
     </message>
     <message>
         <source>Race &amp;day, or the table of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Día de la carrera, o la tabla de la carrera</translation>
     </message>
     <message>
         <source>In which folder do the films appear?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿En qué carpeta aparecen los vídeos?</translation>
     </message>
     <message>
         <source>A click on a time shows its frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic en un tiempo muestra su fotograma</translation>
     </message>
     <message>
         <source>penalty at gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>penalización en la puerta %1</translation>
     </message>
 </context>
 <context>
@@ -20444,7 +20451,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea %1: %2</translation>
     </message>
     <message>
         <source>There are no runs in it.</source>
@@ -20503,7 +20510,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportista</translation>
     </message>
     <message>
         <source>Ticked tests are laid over the chosen one (Space)</source>
@@ -20534,7 +20541,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>There are no values in this attempt.</source>
@@ -20579,7 +20586,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto separado por punto y coma (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -20612,7 +20619,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (*.kvx);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Take a test in from a recording</source>
@@ -20648,7 +20655,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráficos</translation>
     </message>
     <message>
         <source>Values</source>
@@ -20736,99 +20743,99 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::ToolWindow</name>
     <message>
         <source>%1 files (*.%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos %1 (*.%2)</translation>
     </message>
     <message>
         <source>%1, saving…</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, guardando…</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Archivo</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir…</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar</translation>
     </message>
     <message>
         <source>Save &amp;as…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar &amp;como…</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos (*)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Editar</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deshacer</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rehacer</translation>
     </message>
     <message>
         <source>Open it again</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver a abrir</translation>
     </message>
     <message>
         <source>Keep what is here</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar lo que hay aquí</translation>
     </message>
     <message>
         <source>⚠ Another program changed “%1”. What is shown here is from before.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Otro programa ha cambiado «%1». Lo que se muestra aquí es anterior.</translation>
     </message>
     <message>
         <source>⚠ “%1” is no longer in its folder. Saving puts it there again.</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ «%1» ya no está en su carpeta. Al guardar se vuelve a poner ahí.</translation>
     </message>
     <message>
         <source>Opening “%1” again gives up what was not saved here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver a abrir «%1» descarta lo que no se guardó aquí.</translation>
     </message>
     <message>
         <source>Bring &amp;back earlier work…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Recuperar trabajo anterior…</translation>
     </message>
     <message>
         <source>&amp;Home</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Inicio</translation>
     </message>
     <message>
         <source>Se&amp;ttings…</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;justes…</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;errar</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Saving… The window closes when the file is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardando… La ventana se cierra cuando el archivo está escrito.</translation>
     </message>
     <message>
         <source>Saving… What is to be opened follows when the file is written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardando… Lo que se va a abrir viene cuando el archivo está escrito.</translation>
     </message>
 </context>
 <context>
@@ -20855,31 +20862,31 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>← slower      faster →</source>
-        <translation type="unfinished"></translation>
+        <translation>← más lento      más rápido →</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>Penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizaciones</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultado</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga</translation>
     </message>
     <message>
         <source>Selected</source>
@@ -21042,19 +21049,19 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reproducir</translation>
     </message>
     <message>
         <source>&amp;Play or pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reproducir o pausar</translation>
     </message>
     <message>
         <source>One frame ba&amp;ck</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fotograma a&amp;trás</translation>
     </message>
     <message>
         <source>One frame &amp;on</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fotograma a&amp;delante</translation>
     </message>
     <message>
         <source>P&amp;ath</source>
@@ -21217,7 +21224,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Mangas</translation>
     </message>
     <message>
         <source>Touches a run</source>
@@ -21268,11 +21275,11 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportista</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>Film</source>
@@ -21323,7 +21330,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::TrialPage</name>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>Gate %1 %2</source>
@@ -21343,7 +21350,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>From the start</source>
@@ -21453,7 +21460,7 @@ Place, gap and percent are there as in any other.</source>
     <name>kavela::desktop::UpstreamPage</name>
     <message>
         <source>Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta</translation>
     </message>
     <message>
         <source>In</source>
@@ -21465,7 +21472,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Turn</source>
@@ -21481,7 +21488,7 @@ Place, gap and percent are there as in any other.</source>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo</translation>
     </message>
     <message>
         <source>Gate %1 is marked. N goes to the next gate, Shift+M moves the selected mark.</source>
@@ -21569,7 +21576,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea</translation>
     </message>
     <message>
         <source>Reason</source>
@@ -21608,43 +21615,43 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WaterfallChart</name>
     <message>
         <source>One of the two has no total, so there is no sum. The sections that both have stand in the table and in the other charts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una de las dos no tiene total, así que no hay suma. Los tramos que ambas tienen están en la tabla y en los otros gráficos.</translation>
     </message>
     <message>
         <source>Sections, penalties and timing from total to total</source>
-        <translation type="unfinished"></translation>
+        <translation>Tramos, penalizaciones y cronometraje, de total a total</translation>
     </message>
     <message>
         <source>penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizaciones</translation>
     </message>
     <message>
         <source>timing</source>
-        <translation type="unfinished"></translation>
+        <translation>cronometraje</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos</translation>
     </message>
     <message>
         <source>Shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrada</translation>
     </message>
     <message>
         <source>Up to here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hasta aquí</translation>
     </message>
     <message>
         <source>Part</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>De</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>A</translation>
     </message>
 </context>
 <context>
@@ -21659,7 +21666,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Place</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>Event</source>
@@ -21784,126 +21791,127 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WhyLabel</name>
     <message>
         <source>Alt+click or Shift+F1: why</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+clic o Mayús+F1: por qué</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::WhyPanel</name>
     <message>
         <source>counted</source>
-        <translation type="unfinished"></translation>
+        <translation>cuenta</translation>
     </message>
     <message>
         <source>dropped: worst</source>
-        <translation type="unfinished"></translation>
+        <translation>descartado: el peor</translation>
     </message>
     <message>
         <source>dropped: bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>descartado: bonificación</translation>
     </message>
     <message>
         <source>no result</source>
-        <translation type="unfinished"></translation>
+        <translation>sin resultado</translation>
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultado</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje</translation>
     </message>
     <message>
         <source>Score</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntuación</translation>
     </message>
     <message>
         <source>Select an athlete to see where the score comes from.</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecciona un deportista para ver de dónde viene la puntuación.</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
     <message>
         <source>Bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonificación</translation>
     </message>
     <message>
         <source>Score: %1 / 3 = %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntuación: %1 / 3 = %2</translation>
     </message>
     <message>
         <source>Place: was %1, now %2. Score: was %3, now %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto: era %1, ahora %2. Puntuación: era %3, ahora %4.</translation>
     </message>
     <message>
         <source>%1 s in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s en %2</translation>
     </message>
     <message>
         <source>A place better with a total of
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Un puesto mejor con un total de
+%1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::WhyWindow</name>
     <message>
         <source>Rule: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Regla: %1</translation>
     </message>
     <message>
         <source>Within %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dentro de %1</translation>
     </message>
     <message>
         <source>Source: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuente: %1</translation>
     </message>
     <message>
         <source>Why this number?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Por qué este número?</translation>
     </message>
     <message>
         <source>Why %1</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Por qué %1?</translation>
     </message>
     <message>
         <source>What went into it</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué ha entrado en el cálculo</translation>
     </message>
     <message>
         <source>Enter opens a number made on the way, and shows the place of a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro abre un número calculado por el camino y muestra el lugar de un valor</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>De</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>Where</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde</translation>
     </message>
     <message>
         <source>Show this place (Enter)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar este lugar (Intro)</translation>
     </message>
     <message>
         <source>%1, link</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, enlace</translation>
     </message>
     <message>
         <source>&amp;Copy as text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar como texto</translation>
     </message>
     <message>
         <source>The whole explanation (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>La explicación completa (%1)</translation>
     </message>
 </context>
 <context>
