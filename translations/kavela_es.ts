@@ -5,11 +5,11 @@
     <name></name>
     <message>
         <source>Selection results</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados del selectivo</translation>
     </message>
     <message>
         <source>Selection results xTimes</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados del selectivo xTimes</translation>
     </message>
     <message>
         <source>Category</source>
@@ -29,45 +29,45 @@
     </message>
     <message>
         <source>not in the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>fuera del selectivo</translation>
     </message>
     <message>
         <source>Leave out</source>
-        <translation type="unfinished"></translation>
+        <translation>Omitir</translation>
     </message>
     <message>
         <source>Add %1 to the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir %1 al selectivo</translation>
     </message>
 </context>
 <context>
     <name>AthletePanel</name>
     <message>
         <source>An athlete needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un deportista necesita un nombre.</translation>
     </message>
     <message>
         <source>“%1” is in the team already.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» ya está en el equipo.</translation>
     </message>
 </context>
 <context>
     <name>ChartExport</name>
     <message>
         <source>Picture (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen (*.png)</translation>
     </message>
     <message>
         <source>Drawing (*.svg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujo (*.svg)</translation>
     </message>
     <message>
         <source>Table (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla (*.csv)</translation>
     </message>
     <message>
         <source>Save chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar gráfico</translation>
     </message>
 </context>
 <context>
@@ -100,59 +100,59 @@
     <name>EightTest</name>
     <message>
         <source>Total – · %1 of %2 splits are timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Total – · %1 de %2 parciales cronometrados</translation>
     </message>
     <message>
         <source>Total %1 s · standard deviation %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Total %1 s · desviación típica %2 s</translation>
     </message>
 </context>
 <context>
     <name>FindWindow</name>
     <message>
         <source>The table cannot be written over a file that is searched.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tabla no se puede escribir encima de un archivo en el que se busca.</translation>
     </message>
 </context>
 <context>
     <name>IntervalTexts</name>
     <message>
         <source>A duration is written as seconds or as 1:30, up to a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Una duración se escribe en segundos o como 1:30, hasta un día</translation>
     </message>
     <message>
         <source>Sets and repetitions are whole numbers from 0 to 9999</source>
-        <translation type="unfinished"></translation>
+        <translation>Las series y las repeticiones son números enteros de 0 a 9999</translation>
     </message>
     <message>
         <source>Volume and intensity are numbers such as 4.5</source>
-        <translation type="unfinished"></translation>
+        <translation>El volumen y la intensidad son números como 4.5</translation>
     </message>
     <message>
         <source>, rest %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, descanso %1</translation>
     </message>
     <message>
         <source>%1 in all, %2 of it work; repetitions: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en total, %2 de trabajo; repeticiones: %3</translation>
     </message>
 </context>
 <context>
     <name>KeyOverlay</name>
     <message>
         <source>In the part with the focus</source>
-        <translation type="unfinished"></translation>
+        <translation>En la parte que tiene el foco</translation>
     </message>
 </context>
 <context>
     <name>ListedTest</name>
     <message>
         <source>No name</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin nombre</translation>
     </message>
     <message>
         <source>Lap test</source>
-        <translation type="unfinished"></translation>
+        <translation>Prueba de vueltas</translation>
     </message>
     <message>
         <source>Sprint</source>
@@ -160,146 +160,146 @@
     </message>
     <message>
         <source>Eight test</source>
-        <translation type="unfinished"></translation>
+        <translation>Prueba del ocho</translation>
     </message>
     <message>
         <source>Lap</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelta</translation>
     </message>
     <message>
         <source>Eight</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocho</translation>
     </message>
 </context>
 <context>
     <name>MeasureCharts</name>
     <message>
         <source>below what is usual</source>
-        <translation type="unfinished"></translation>
+        <translation>por debajo de lo habitual</translation>
     </message>
     <message>
         <source>within what is usual</source>
-        <translation type="unfinished"></translation>
+        <translation>dentro de lo habitual</translation>
     </message>
     <message>
         <source>above what is usual</source>
-        <translation type="unfinished"></translation>
+        <translation>por encima de lo habitual</translation>
     </message>
     <message>
         <source>Weight and body fat</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso y grasa corporal</translation>
     </message>
     <message>
         <source>Body fat (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Grasa corporal (%)</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso</translation>
     </message>
     <message>
         <source>Body fat</source>
-        <translation type="unfinished"></translation>
+        <translation>Grasa corporal</translation>
     </message>
     <message>
         <source>Weight (kg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso (kg)</translation>
     </message>
     <message>
         <source>Add a weight or body fat to see how it goes through the season.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade un peso o un dato de grasa corporal para ver su evolución durante la temporada.</translation>
     </message>
     <message>
         <source>Usual: mean ± one standard deviation of the four weeks before</source>
-        <translation type="unfinished"></translation>
+        <translation>Habitual: media ± una desviación típica de las cuatro semanas anteriores</translation>
     </message>
     <message>
         <source>Each day</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada día</translation>
     </message>
     <message>
         <source>Seven-day mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Media de siete días</translation>
     </message>
     <message>
         <source>Usual</source>
-        <translation type="unfinished"></translation>
+        <translation>Habitual</translation>
     </message>
     <message>
         <source>Week to %1: mean %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana hasta %1: media %2</translation>
     </message>
     <message>
         <source>%1. What is usual is known after seven measured days of the 28 before.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Lo habitual se conoce después de siete días medidos de los 28 anteriores.</translation>
     </message>
     <message>
         <source>%1, %2 (%3 to %4).</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 (%3 a %4).</translation>
     </message>
 </context>
 <context>
     <name>MeasureColumns</name>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
 </context>
 <context>
     <name>OlderRecordings</name>
     <message>
         <source>“%1” is a recording of version 4. It can be converted to the current version: “%2” is written beside it, the recording itself stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» es una grabación de la versión 4. Se puede convertir a la versión actual: «%2» se escribe al lado y la grabación se queda como está.</translation>
     </message>
     <message>
         <source>Convert and open</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir y abrir</translation>
     </message>
 </context>
 <context>
     <name>OnlineStore</name>
     <message>
         <source>The server does not accept the user name or the password.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor no acepta el nombre de usuario o la contraseña.</translation>
     </message>
 </context>
 <context>
     <name>PlanningHandouts</name>
     <message>
         <source>Choose an athlete with a season first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige antes un deportista con una temporada.</translation>
     </message>
     <message>
         <source>Week %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana %1</translation>
     </message>
     <message>
         <source>Week %1 %2.pdf</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana %1 %2.pdf</translation>
     </message>
     <message>
         <source>Season %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporada %1</translation>
     </message>
     <message>
         <source>Season %1 %2.pdf</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporada %1 %2.pdf</translation>
     </message>
     <message>
         <source>There is no week to write.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna semana que escribir.</translation>
     </message>
     <message>
         <source>Week %1 %2.ics</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana %1 %2.ics</translation>
     </message>
     <message>
         <source>Week as a calendar file</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana como archivo de calendario</translation>
     </message>
     <message>
         <source>Calendar files (*.ics)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de calendario (*.ics)</translation>
     </message>
     <message>
         <source>%1 is written.</source>
@@ -310,189 +310,190 @@
     <name>ProgressionChart</name>
     <message>
         <source>Position after each phase; the chosen race is drawn heavier</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición después de cada fase; la carrera elegida se dibuja más gruesa</translation>
     </message>
     <message>
         <source>position</source>
-        <translation type="unfinished"></translation>
+        <translation>posición</translation>
     </message>
     <message>
         <source>Positions of the phases stand here once they are entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las posiciones de las fases aparecen aquí cuando se introducen.</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>start of the roll</source>
-        <translation type="unfinished"></translation>
+        <translation>inicio del esquimotaje</translation>
     </message>
     <message>
         <source>boat upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>barco volcado</translation>
     </message>
     <message>
         <source>boat up again</source>
-        <translation type="unfinished"></translation>
+        <translation>barco de nuevo arriba</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Recent files, in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos recientes, en %1</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;yuda</translation>
     </message>
     <message>
         <source>&amp;Search everything…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar en todo…</translation>
     </message>
     <message>
         <source>&amp;All keys</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Todas las teclas</translation>
     </message>
     <message>
         <source>&amp;Why this number?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿&amp;Por qué este número?</translation>
     </message>
     <message>
         <source>&amp;Change keys…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cambiar teclas…</translation>
     </message>
     <message>
         <source>&amp;Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pantalla co&amp;mpleta</translation>
     </message>
     <message>
         <source>Where are the films now?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Dónde están ahora los vídeos?</translation>
     </message>
     <message>
         <source>Videos (*.mov *.mp4 *.m4v *.avi *.mkv *.mts *.m2ts *.ts *.3gp *.webm *.mpg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos (*.mov *.mp4 *.m4v *.avi *.mkv *.mts *.m2ts *.ts *.3gp *.webm *.mpg);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>The folder has another film named %1 already. Give one of them another name first.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta ya tiene otro vídeo llamado %1. Da antes otro nombre a uno de ellos.</translation>
     </message>
     <message>
         <source>Copying %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiando %1</translation>
     </message>
     <message>
         <source>%1 could not be copied into the folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se pudo copiar en la carpeta.</translation>
     </message>
     <message>
         <source>entrance</source>
-        <translation type="unfinished"></translation>
+        <translation>entrada</translation>
     </message>
     <message>
         <source>middle</source>
-        <translation type="unfinished"></translation>
+        <translation>medio</translation>
     </message>
     <message>
         <source>exit</source>
-        <translation type="unfinished"></translation>
+        <translation>salida</translation>
     </message>
     <message>
         <source>All splits of this run are marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los parciales de esta manga están marcados.</translation>
     </message>
     <message>
         <source>Mark the start first: the splits are expected from there on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca antes la salida: los parciales se esperan a partir de ahí.</translation>
     </message>
     <message>
         <source>No other run has split %1 yet: nothing tells where it is to be expected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna otra manga tiene aún el parcial %1: nada indica dónde se puede esperar.</translation>
     </message>
     <message>
         <source>&amp;Look for a newer version</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;uscar una versión nueva</translation>
     </message>
 </context>
 <context>
     <name>QueryForm</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deportista</translation>
     </message>
     <message>
         <source>anyone</source>
-        <translation type="unfinished"></translation>
+        <translation>cualquiera</translation>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Categoría</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fase</translation>
     </message>
     <message>
         <source>any</source>
-        <translation type="unfinished"></translation>
+        <translation>cualquiera</translation>
     </message>
     <message>
         <source>P&amp;lace</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;uesto</translation>
     </message>
     <message>
         <source>anywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>en cualquier parte</translation>
     </message>
     <message>
         <source>&amp;Year</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Año</translation>
     </message>
     <message>
         <source>&amp;Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Puerta</translation>
     </message>
     <message>
         <source>&amp;Up or down</source>
-        <translation type="unfinished"></translation>
+        <translation>Favor o &amp;remonte</translation>
     </message>
     <message>
         <source>both</source>
-        <translation type="unfinished"></translation>
+        <translation>ambos</translation>
     </message>
     <message>
         <source>&amp;Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;irección</translation>
     </message>
     <message>
         <source>&amp;Style</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Estilo</translation>
     </message>
     <message>
         <source>&amp;Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tipo</translation>
     </message>
 </context>
 <context>
     <name>RaceExchange</name>
     <message>
         <source>course</source>
-        <translation type="unfinished"></translation>
+        <translation>recorrido</translation>
     </message>
     <message>
         <source>Names of the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombres de los vídeos</translation>
     </message>
     <message>
         <source>How the films are named, such as &quot;{any} {name} {category} {phase}&quot;.
 {name}, {category}, {phase}, {bib}, {number} and {any} stand for what differs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cómo se llaman los vídeos, por ejemplo «{any} {name} {category} {phase}».
+{name}, {category}, {phase}, {bib}, {number} y {any} representan lo que cambia.</translation>
     </message>
     <message>
         <source>Import split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar archivo de parciales</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -500,7 +501,7 @@
     </message>
     <message>
         <source>Import official results</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar resultados oficiales</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
@@ -508,11 +509,11 @@
     </message>
     <message>
         <source>There are no results in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay resultados en %1.</translation>
     </message>
     <message>
         <source>Create</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear</translation>
     </message>
     <message>
         <source>Overwrite</source>
@@ -520,58 +521,58 @@
     </message>
     <message>
         <source>drawing of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>dibujo del recorrido</translation>
     </message>
 </context>
 <context>
     <name>RankingCharts</name>
     <message>
         <source>Release</source>
-        <translation type="unfinished"></translation>
+        <translation>Edición</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición</translation>
     </message>
     <message>
         <source>The chart begins with the first position.</source>
-        <translation type="unfinished"></translation>
+        <translation>El gráfico empieza con la primera posición.</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos</translation>
     </message>
     <message>
         <source>The chart begins with the first points.</source>
-        <translation type="unfinished"></translation>
+        <translation>El gráfico empieza con los primeros puntos.</translation>
     </message>
     <message>
         <source>Touches and missed gates per run</source>
-        <translation type="unfinished"></translation>
+        <translation>Toques y saltos por manga</translation>
     </message>
     <message>
         <source>per run</source>
-        <translation type="unfinished"></translation>
+        <translation>por manga</translation>
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Toques</translation>
     </message>
     <message>
         <source>Missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Saltos</translation>
     </message>
     <message>
         <source>Take the season&apos;s statistics from split files to see penalties here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toma la estadística de la temporada de los archivos de parciales para ver aquí las penalizaciones.</translation>
     </message>
     <message>
         <source>Behind the best of the category</source>
-        <translation type="unfinished"></translation>
+        <translation>Respecto al mejor de la categoría</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>Run</source>
@@ -579,14 +580,14 @@
     </message>
     <message>
         <source>Races with a time and a best time stand here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí aparecen las carreras con un tiempo y un mejor tiempo.</translation>
     </message>
 </context>
 <context>
     <name>RankingSection</name>
     <message>
         <source>The release of a ranking list is a whole number such as 4</source>
-        <translation type="unfinished"></translation>
+        <translation>La edición de un ranking es un número entero como 4</translation>
     </message>
 </context>
 <context>
@@ -600,27 +601,27 @@
     <name>SeasonChart</name>
     <message>
         <source>%1: penalty (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: penalización (s)</translation>
     </message>
     <message>
         <source>% behind</source>
-        <translation type="unfinished"></translation>
+        <translation>% de diferencia</translation>
     </message>
     <message>
         <source>penalty (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>penalización (s)</translation>
     </message>
     <message>
         <source>Percent behind the fastest as lines, penalty seconds as bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje respecto al más rápido en líneas, segundos de penalización en barras</translation>
     </message>
     <message>
         <source>Penalties only; percent behind comes with split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo penalizaciones; el porcentaje llega con los archivos de parciales</translation>
     </message>
     <message>
         <source>Percent behind the fastest stands here once runs are taken over from split files.</source>
-        <translation type="unfinished"></translation>
+        <translation>El porcentaje respecto al más rápido aparece aquí cuando se incorporan mangas de archivos de parciales.</translation>
     </message>
 </context>
 <context>
@@ -631,11 +632,11 @@
     </message>
     <message>
         <source>Import athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar deportistas</translation>
     </message>
     <message>
         <source>athletes imported</source>
-        <translation type="unfinished"></translation>
+        <translation>deportistas importados</translation>
     </message>
     <message>
         <source>Import</source>
@@ -643,23 +644,23 @@
     </message>
     <message>
         <source>“%1” cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede leer</translation>
     </message>
     <message>
         <source>One athlete was added.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se añadió un deportista.</translation>
     </message>
     <message>
         <source>The list is no UTF-8 text and was read as Latin-1: look at the names.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lista no es texto UTF-8 y se leyó como Latin-1: revisa los nombres.</translation>
     </message>
     <message>
         <source>Line %1: the category %2 is new in the selection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea %1: la categoría %2 es nueva en el selectivo.</translation>
     </message>
     <message>
         <source>Line %1: the category %2 is new in the selection, and none that boats are raced in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea %1: la categoría %2 es nueva en el selectivo, y no es de las que compiten en barco.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
@@ -667,15 +668,15 @@
     </message>
     <message>
         <source>Results of which race?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Resultados de qué carrera?</translation>
     </message>
     <message>
         <source>Add a category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade antes una categoría.</translation>
     </message>
     <message>
         <source>Split files of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales de la carrera</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -683,17 +684,17 @@
     </message>
     <message>
         <source>There are no results in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No contiene resultados.</translation>
     </message>
     <message>
         <source>results taken over</source>
-        <translation type="unfinished"></translation>
+        <translation>resultados incorporados</translation>
     </message>
     <message numerus="yes">
         <source>%n athletes were added.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Se añadió %n deportista.</numerusform>
+            <numerusform>Se añadieron %n deportistas.</numerusform>
         </translation>
     </message>
 </context>
@@ -705,57 +706,57 @@
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede abrir</translation>
     </message>
 </context>
 <context>
     <name>SessionEdits</name>
     <message>
         <source>session information</source>
-        <translation type="unfinished"></translation>
+        <translation>información de la sesión</translation>
     </message>
     <message>
         <source>Nothing was cut</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha cortado nada</translation>
     </message>
     <message>
         <source>Too little would be left of the session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quedaría demasiado poco de la sesión.</translation>
     </message>
     <message>
         <source>cut to a stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>recorte a un trecho</translation>
     </message>
     <message>
         <source>removal of a stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de un trecho</translation>
     </message>
     <message>
         <source>removal of strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de paladas</translation>
     </message>
     <message>
         <source>new analysis</source>
-        <translation type="unfinished"></translation>
+        <translation>análisis nuevo</translation>
     </message>
     <message>
         <source>mount of the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>montaje del teléfono</translation>
     </message>
 </context>
 <context>
     <name>SessionExports</name>
     <message>
         <source>Save the edited .kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el archivo .kvb editado</translation>
     </message>
     <message>
         <source>Recordings (*.kvb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabaciones (*.kvb)</translation>
     </message>
     <message>
         <source>Export the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar la tabla</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
@@ -766,27 +767,27 @@
     <name>SessionImports</name>
     <message>
         <source>%1 positions and %2 heart rates were taken over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se incorporaron %1 posiciones y %2 frecuencias cardiacas.</translation>
     </message>
     <message>
         <source>Import the recording of the boat first: a track gives it positions and heart rates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa antes la grabación del barco: un track le aporta posiciones y frecuencias cardiacas.</translation>
     </message>
     <message>
         <source>track of a watch</source>
-        <translation type="unfinished"></translation>
+        <translation>track de un reloj</translation>
     </message>
     <message>
         <source>move of a watch&apos;s track</source>
-        <translation type="unfinished"></translation>
+        <translation>desplazamiento del track de un reloj</translation>
     </message>
     <message>
         <source>Import power-meter data</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar datos del medidor de potencia</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listas (*.csv *.txt)</translation>
     </message>
     <message>
         <source>All files (*)</source>
@@ -794,225 +795,225 @@
     </message>
     <message>
         <source>“%1” cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede leer</translation>
     </message>
     <message>
         <source>Import a recording or a session first: power-meter data belongs to its strokes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa antes una grabación o una sesión: los datos del medidor de potencia pertenecen a sus paladas.</translation>
     </message>
     <message>
         <source>import of power-meter data</source>
-        <translation type="unfinished"></translation>
+        <translation>importación de datos del medidor de potencia</translation>
     </message>
 </context>
 <context>
     <name>SessionSeries</name>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Potencia</translation>
     </message>
     <message>
         <source>W</source>
-        <translation type="unfinished"></translation>
+        <translation>W</translation>
     </message>
     <message>
         <source>Power meter</source>
-        <translation type="unfinished"></translation>
+        <translation>Medidor de potencia</translation>
     </message>
     <message>
         <source>Water phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase acuática</translation>
     </message>
     <message>
         <source>s</source>
-        <translation type="unfinished"></translation>
+        <translation>s</translation>
     </message>
     <message>
         <source>Aerial phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase aérea</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad</translation>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>Heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frec. cardiaca</translation>
     </message>
     <message>
         <source>1/min</source>
-        <translation type="unfinished"></translation>
+        <translation>1/min</translation>
     </message>
     <message>
         <source>Pitch in turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Cabeceo en los giros</translation>
     </message>
     <message>
         <source>°</source>
-        <translation type="unfinished"></translation>
+        <translation>°</translation>
     </message>
     <message>
         <source>Stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frec. de palada</translation>
     </message>
     <message>
         <source>Force</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuerza</translation>
     </message>
     <message>
         <source>N</source>
-        <translation type="unfinished"></translation>
+        <translation>N</translation>
     </message>
     <message>
         <source>Impulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Impulso</translation>
     </message>
     <message>
         <source>N·s</source>
-        <translation type="unfinished"></translation>
+        <translation>N·s</translation>
     </message>
     <message>
         <source>Roll of the stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Balanceo de la palada</translation>
     </message>
 </context>
 <context>
     <name>SessionTexts</name>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>izquierda</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>derecha</translation>
     </message>
     <message>
         <source>side unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>lado desconocido</translation>
     </message>
     <message>
         <source>Side unknown: when the session was made, it was not known which side of the phone points to the bow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lado desconocido: cuando se hizo la sesión no se sabía qué lado del teléfono apunta a la proa.</translation>
     </message>
     <message>
         <source>The file does not tell how the clocks of strokes and fixes go together: they were fitted by the turns and may be some seconds apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo no dice cómo se corresponden los relojes de las paladas y de las posiciones: se ajustaron por los giros y pueden diferir unos segundos.</translation>
     </message>
     <message>
         <source>Power-meter data is not in the strokes yet; you are asked on saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los datos del medidor de potencia aún no están en las paladas; se pregunta al guardar.</translation>
     </message>
 </context>
 <context>
     <name>SlitMarking</name>
     <message>
         <source>The film is not read so far.</source>
-        <translation type="unfinished"></translation>
+        <translation>El vídeo no se ha leído hasta ahí.</translation>
     </message>
     <message>
         <source>There is no proposal at the hair line.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna propuesta en la línea fina.</translation>
     </message>
     <message>
         <source>Nothing can be accepted without a line, its proposals and the race.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede aceptar nada sin una línea, sus propuestas y la carrera.</translation>
     </message>
     <message>
         <source>proposals accepted</source>
-        <translation type="unfinished"></translation>
+        <translation>propuestas aceptadas</translation>
     </message>
 </context>
 <context>
     <name>SplitStatistics</name>
     <message>
         <source>is no split file that can be read</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un archivo de parciales legible</translation>
     </message>
     <message>
         <source>has no date</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene fecha</translation>
     </message>
     <message>
         <source>is of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>es de %1</translation>
     </message>
     <message>
         <source>has no run of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene ninguna manga de %1</translation>
     </message>
 </context>
 <context>
     <name>TestCharts</name>
     <message>
         <source>Not recorded, and not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Ni grabado ni introducido</translation>
     </message>
     <message>
         <source>Lap</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelta</translation>
     </message>
     <message>
         <source>Stretch of the sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Trecho del esprint</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Giro</translation>
     </message>
     <message>
         <source>Time from the start (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo desde la salida (s)</translation>
     </message>
     <message>
         <source>Only a recording tells this</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo una grabación lo dice</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcial</translation>
     </message>
 </context>
 <context>
     <name>TrialMarking</name>
     <message>
         <source>Add the first athlete above</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade arriba el primer deportista</translation>
     </message>
     <message>
         <source>M marks split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>M marca el parcial %1</translation>
     </message>
     <message>
         <source>M marks the start</source>
-        <translation type="unfinished"></translation>
+        <translation>M marca la salida</translation>
     </message>
     <message>
         <source>M marks the %1</source>
-        <translation type="unfinished"></translation>
+        <translation>M marca: %1</translation>
     </message>
     <message>
         <source>The roll is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>El esquimotaje está marcado</translation>
     </message>
     <message>
         <source>The cross course has no gates yet</source>
-        <translation type="unfinished"></translation>
+        <translation>El recorrido de cross aún no tiene puertas</translation>
     </message>
     <message>
         <source>Gate %1: M marks the %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1: M marca: %2</translation>
     </message>
     <message>
         <source>Gate %1 is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>La puerta %1 está marcada</translation>
     </message>
     <message>
         <source>The time of this trial was taken without marks on the film. Marking it anew replaces it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tiempo de esta contrarreloj se tomó sin marcas en el vídeo. Marcarla de nuevo lo sustituye.</translation>
     </message>
     <message>
         <source>Mark anew</source>
@@ -1040,23 +1041,23 @@
     </message>
     <message>
         <source>Gate %1 is marked. N goes to the next gate, Shift+M moves the selected mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>La puerta %1 está marcada. N va a la puerta siguiente, Mayús+M mueve la marca seleccionada.</translation>
     </message>
     <message>
         <source>The cross course has no gates yet: they are set above.</source>
-        <translation type="unfinished"></translation>
+        <translation>El recorrido de cross aún no tiene puertas: se configuran arriba.</translation>
     </message>
     <message>
         <source>%1 of gate %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de la puerta %2</translation>
     </message>
     <message>
         <source>Gate %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1 %2</translation>
     </message>
     <message>
         <source>The roll is marked. Shift+M moves the selected mark, Delete removes it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El esquimotaje está marcado. Mayús+M mueve la marca seleccionada, Supr la quita.</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
@@ -1072,60 +1073,60 @@
     </message>
     <message>
         <source>Without a start mark the time counts from the beginning of the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin marca de salida, el tiempo cuenta desde el principio del vídeo.</translation>
     </message>
     <message>
         <source>gate %1 removed</source>
-        <translation type="unfinished"></translation>
+        <translation>puerta %1 quitada</translation>
     </message>
 </context>
 <context>
     <name>TypedMeasures</name>
     <message>
         <source>This moment is in no calendar: %1 seconds from 2001-01-01. It stays as it is until another date is typed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este momento no está en ningún calendario: %1 segundos desde 2001-01-01. Se queda como está hasta que se escriba otra fecha.</translation>
     </message>
     <message>
         <source>A value below 0 cannot be measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede medir un valor menor que 0.</translation>
     </message>
     <message>
         <source>More than %1 was hardly measured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es difícil que se midiera más de %1.</translation>
     </message>
     <message>
         <source>It stays as it is until another one is typed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se queda como está hasta que se escriba otro.</translation>
     </message>
     <message>
         <source>A measurement needs a day of the calendar such as 2026-03-09.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una medición necesita un día del calendario como 2026-03-09.</translation>
     </message>
     <message>
         <source>Expected is a number from 0 to %1, such as %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Se espera un número de 0 a %1, como %2</translation>
     </message>
 </context>
 <context>
     <name>TypedNumber</name>
     <message>
         <source>Expected is a number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Se espera un número de %1 a %2</translation>
     </message>
     <message>
         <source>Expected is a whole number from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Se espera un número entero de %1 a %2</translation>
     </message>
     <message>
         <source>Expected is a time from %1 to %2 seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Se espera un tiempo de %1 a %2 segundos</translation>
     </message>
 </context>
 <context>
     <name>TypedValues</name>
     <message>
         <source>A time is a number of seconds such as 92.34, or 1:32.34</source>
-        <translation type="unfinished"></translation>
+        <translation>Un tiempo es un número de segundos como 92.34, o 1:32.34</translation>
     </message>
     <message>
         <source>A penalty is a whole number of seconds, 0 to 999</source>
@@ -1133,42 +1134,42 @@
     </message>
     <message>
         <source>A position is a whole number, 1 to 9999</source>
-        <translation type="unfinished"></translation>
+        <translation>Una posición es un número entero, de 1 a 9999</translation>
     </message>
     <message>
         <source>Ranking points are a number such as 612.5</source>
-        <translation type="unfinished"></translation>
+        <translation>Los puntos del ranking son un número como 612.5</translation>
     </message>
     <message>
         <source>A year is a number from 1900 to 2100</source>
-        <translation type="unfinished"></translation>
+        <translation>Un año es un número de 1900 a 2100</translation>
     </message>
     <message>
         <source>A date is a day of the calendar such as 2025-06-14</source>
-        <translation type="unfinished"></translation>
+        <translation>Una fecha es un día del calendario como 2025-06-14</translation>
     </message>
 </context>
 <context>
     <name>WeekTexts</name>
     <message>
         <source>Week %1, from %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana %1, desde %2</translation>
     </message>
     <message>
         <source>Load %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Carga %1 %</translation>
     </message>
     <message>
         <source>Macrocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Macrociclo</translation>
     </message>
     <message>
         <source>Mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesociclo</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Evento</translation>
     </message>
     <message>
         <source>Place</source>
@@ -1176,282 +1177,282 @@
     </message>
     <message>
         <source>On-water test</source>
-        <translation type="unfinished"></translation>
+        <translation>Prueba en el agua</translation>
     </message>
     <message>
         <source>Endurance test</source>
-        <translation type="unfinished"></translation>
+        <translation>Prueba de resistencia</translation>
     </message>
     <message>
         <source>Blood test</source>
-        <translation type="unfinished"></translation>
+        <translation>Análisis de sangre</translation>
     </message>
     <message>
         <source>Injured</source>
-        <translation type="unfinished"></translation>
+        <translation>Lesionado</translation>
     </message>
     <message>
         <source>%n session(s)</source>
-        <translation type="unfinished"></translation>
+        <translation>%n sesión(es)</translation>
     </message>
     <message>
         <source>The week&apos;s date is in no calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fecha de la semana no está en ningún calendario.</translation>
     </message>
     <message>
         <source>The week does not start on a Monday.</source>
-        <translation type="unfinished"></translation>
+        <translation>La semana no empieza en lunes.</translation>
     </message>
     <message>
         <source>The load is negative.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carga es negativa.</translation>
     </message>
     <message>
         <source>The two lists of planned totals are of different lengths.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las dos listas de totales planificados tienen longitudes distintas.</translation>
     </message>
     <message>
         <source>%1 of its sessions are on no day of the week.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de sus sesiones no están en ningún día de la semana.</translation>
     </message>
     <message>
         <source>The session&apos;s date is in no calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fecha de la sesión no está en ningún calendario.</translation>
     </message>
     <message>
         <source>The time of day is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>La hora del día no es válida.</translation>
     </message>
     <message>
         <source>The time zone “%1” is unknown.</source>
-        <translation type="unfinished"></translation>
+        <translation>La zona horaria «%1» es desconocida.</translation>
     </message>
     <message>
         <source>A value is negative.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un valor es negativo.</translation>
     </message>
 </context>
 <context>
     <name>kavela</name>
     <message>
         <source>The time from the mark before to the mark of this section.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tiempo desde la marca anterior hasta la marca de este tramo.</translation>
     </message>
     <message>
         <source>mark − mark before</source>
-        <translation type="unfinished"></translation>
+        <translation>marca − marca anterior</translation>
     </message>
     <message>
         <source>The time of the section with the penalties of its gates.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tiempo del tramo con las penalizaciones de sus puertas.</translation>
     </message>
     <message>
         <source>time + penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>tiempo + penalizaciones</translation>
     </message>
     <message>
         <source>The time from the start to the mark of this section.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tiempo desde la salida hasta la marca de este tramo.</translation>
     </message>
     <message>
         <source>Σ sections up to here</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ tramos hasta aquí</translation>
     </message>
     <message>
         <source>All sections together, as timed from the video, without penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los tramos juntos, cronometrados en el vídeo, sin penalizaciones.</translation>
     </message>
     <message>
         <source>Σ sections</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ tramos</translation>
     </message>
     <message>
         <source>All sections together, as timed from the video, and the penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los tramos juntos, cronometrados en el vídeo, y las penalizaciones.</translation>
     </message>
     <message>
         <source>Σ sections + penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ tramos + penalizaciones</translation>
     </message>
     <message>
         <source>The sprint as it was timed for this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>El esprint tal como se cronometró en esta manga.</translation>
     </message>
     <message>
         <source>sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>esprint</translation>
     </message>
     <message>
         <source>The official time as it was entered for this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tiempo oficial tal como se introdujo para esta manga.</translation>
     </message>
     <message>
         <source>real</source>
-        <translation type="unfinished"></translation>
+        <translation>real</translation>
     </message>
     <message>
         <source>A run of another race, held against the runs of this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una manga de otra carrera, comparada con las de esta.</translation>
     </message>
     <message>
         <source>time</source>
-        <translation type="unfinished"></translation>
+        <translation>tiempo</translation>
     </message>
     <message>
         <source>The colour tells between which tenths of its column a time lies.</source>
-        <translation type="unfinished"></translation>
+        <translation>El color indica entre qué décimos de su columna está un tiempo.</translation>
     </message>
     <message>
         <source>tenth below &lt; time ≤ tenth above</source>
-        <translation type="unfinished"></translation>
+        <translation>décimo inferior &lt; tiempo ≤ décimo superior</translation>
     </message>
     <message>
         <source>The least time of its column has a colour of its own.</source>
-        <translation type="unfinished"></translation>
+        <translation>El menor tiempo de su columna tiene un color propio.</translation>
     </message>
     <message>
         <source>time = least</source>
-        <translation type="unfinished"></translation>
+        <translation>tiempo = menor</translation>
     </message>
     <message>
         <source>A total column with a run that has no total stays white.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una columna de totales con una manga sin total se queda en blanco.</translation>
     </message>
     <message>
         <source>white</source>
-        <translation type="unfinished"></translation>
+        <translation>blanco</translation>
     </message>
     <message>
         <source>What was not timed, or lies beside the scale, has no colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que no se cronometró, o queda fuera de la escala, no tiene color.</translation>
     </message>
     <message>
         <source>no colour</source>
-        <translation type="unfinished"></translation>
+        <translation>sin color</translation>
     </message>
     <message>
         <source>The least of the column that counts.</source>
-        <translation type="unfinished"></translation>
+        <translation>El menor de los que cuentan en la columna.</translation>
     </message>
     <message>
         <source>min values</source>
-        <translation type="unfinished"></translation>
+        <translation>mín valores</translation>
     </message>
     <message>
         <source>The middle of the column, of what counts.</source>
-        <translation type="unfinished"></translation>
+        <translation>El valor central de los que cuentan en la columna.</translation>
     </message>
     <message>
         <source>median values</source>
-        <translation type="unfinished"></translation>
+        <translation>mediana de valores</translation>
     </message>
     <message>
         <source>The time less that of the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tiempo menos el de la referencia.</translation>
     </message>
     <message>
         <source>own − reference</source>
-        <translation type="unfinished"></translation>
+        <translation>propio − referencia</translation>
     </message>
     <message>
         <source>The place in the column: one more than are faster to the hundredth.</source>
-        <translation type="unfinished"></translation>
+        <translation>El puesto en la columna: uno más que los que son más rápidos a la centésima.</translation>
     </message>
     <message>
         <source>1 + faster</source>
-        <translation type="unfinished"></translation>
+        <translation>1 + más rápidos</translation>
     </message>
     <message>
         <source>How far behind the best of the column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia con el mejor de la columna.</translation>
     </message>
     <message>
         <source>100 · (own / best − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (propio / mejor − 1)</translation>
     </message>
     <message>
         <source>The share of the column that is as slow or slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>La parte de la columna que es igual de lenta o más.</translation>
     </message>
     <message>
         <source>100 · slower or equal / timed</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · más lentos o iguales / cronometrados</translation>
     </message>
     <message>
         <source>The best time of the section that stands alone, whoever paddled it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El mejor tiempo del tramo que vale por sí solo, sea de quien sea.</translation>
     </message>
     <message>
         <source>min times</source>
-        <translation type="unfinished"></translation>
+        <translation>mín tiempos</translation>
     </message>
     <message>
         <source>The best of every section up to here, put together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo mejor de cada tramo hasta aquí, reunido.</translation>
     </message>
     <message>
         <source>Σ bests up to here</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ mejores hasta aquí</translation>
     </message>
     <message>
         <source>The best of every section, put together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo mejor de cada tramo, reunido.</translation>
     </message>
     <message>
         <source>Σ bests</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ mejores</translation>
     </message>
     <message>
         <source>The seconds of all its touches and missed gates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los segundos de todos sus toques y saltos.</translation>
     </message>
     <message>
         <source>Σ gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ puertas</translation>
     </message>
     <message>
         <source>The seconds of touches and missed gates of the section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los segundos de los toques y saltos del tramo.</translation>
     </message>
     <message>
         <source>Σ gates of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ puertas del tramo</translation>
     </message>
     <message>
         <source>The official penalty seconds as they were entered for this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los segundos oficiales de penalización tal como se introdujeron para esta manga.</translation>
     </message>
     <message>
         <source>real penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>penalización real</translation>
     </message>
     <message>
         <source>The expected time as split taking stored it with this run.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tiempo esperado tal como lo guardó la toma de parciales con esta manga.</translation>
     </message>
     <message>
         <source>expected</source>
-        <translation type="unfinished"></translation>
+        <translation>esperado</translation>
     </message>
     <message>
         <source>values of the column</source>
-        <translation type="unfinished"></translation>
+        <translation>valores de la columna</translation>
     </message>
     <message>
         <source>least</source>
-        <translation type="unfinished"></translation>
+        <translation>menor</translation>
     </message>
     <message>
         <source>most</source>
-        <translation type="unfinished"></translation>
+        <translation>mayor</translation>
     </message>
     <message>
         <source>times that stand alone</source>
-        <translation type="unfinished"></translation>
+        <translation>tiempos que valen por sí solos</translation>
     </message>
     <message>
         <source>No gate was touched or missed.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se tocó ni se saltó ninguna puerta.</translation>
     </message>
     <message>
         <source>penalties</source>
@@ -1459,453 +1460,453 @@
     </message>
     <message>
         <source>faster</source>
-        <translation type="unfinished"></translation>
+        <translation>más rápidos</translation>
     </message>
     <message>
         <source>timed</source>
-        <translation type="unfinished"></translation>
+        <translation>cronometrados</translation>
     </message>
     <message>
         <source>slower or equal</source>
-        <translation type="unfinished"></translation>
+        <translation>más lentos o iguales</translation>
     </message>
     <message>
         <source>median</source>
-        <translation type="unfinished"></translation>
+        <translation>mediana</translation>
     </message>
     <message>
         <source>List of online planning entries.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de entradas de planificación en línea.</translation>
     </message>
     <message>
         <source>Files that have already been watched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos que ya se han visto.</translation>
     </message>
     <message>
         <source>Play the next video of a list when one ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir el vídeo siguiente de una lista cuando uno termina.</translation>
     </message>
     <message>
         <source>Start a run at its stored video time rather than at the video&apos;s start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Empezar una manga en su tiempo de vídeo guardado y no al inicio del vídeo.</translation>
     </message>
     <message>
         <source>Start playback as soon as a row is clicked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Empezar a reproducir en cuanto se hace clic en una fila.</translation>
     </message>
     <message>
         <source>Show penalties in the tables.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar las penalizaciones en las tablas.</translation>
     </message>
     <message>
         <source>Include penalty seconds in the times that are compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Incluir los segundos de penalización en los tiempos que se comparan.</translation>
     </message>
     <message>
         <source>Colours of the split table.</source>
-        <translation type="unfinished"></translation>
+        <translation>Colores de la tabla de parciales.</translation>
     </message>
     <message>
         <source>Comment tag chosen last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Última etiqueta de comentario elegida.</translation>
     </message>
     <message>
         <source>Show the coach&apos;s comments.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar los comentarios del entrenador.</translation>
     </message>
     <message>
         <source>In tag mode, play only the tagged part of a video.</source>
-        <translation type="unfinished"></translation>
+        <translation>En el modo de etiquetas, reproducir solo la parte etiquetada de un vídeo.</translation>
     </message>
     <message>
         <source>Kind of data opened last.</source>
-        <translation type="unfinished"></translation>
+        <translation>Último tipo de datos abierto.</translation>
     </message>
     <message>
         <source>Full screen shows the roll chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pantalla completa muestra el gráfico de balanceo.</translation>
     </message>
     <message>
         <source>Full screen shows the pitch chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pantalla completa muestra el gráfico de cabeceo.</translation>
     </message>
     <message>
         <source>Full screen shows the heart-rate chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pantalla completa muestra el gráfico de frecuencia cardiaca.</translation>
     </message>
     <message>
         <source>Full screen shows the scatter chart.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pantalla completa muestra el gráfico de dispersión.</translation>
     </message>
     <message>
         <source>Show boat-motion values normalised.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar normalizados los valores de movimiento del barco.</translation>
     </message>
     <message>
         <source>Show the impulse gauge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar el indicador de impulso.</translation>
     </message>
     <message>
         <source>Show the stroke-rate gauge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar el indicador de frecuencia de palada.</translation>
     </message>
     <message>
         <source>Number of splits of a new split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de parciales de un archivo de parciales nuevo.</translation>
     </message>
     <message>
         <source>Tag names saved for reuse.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombres de etiquetas guardados para reutilizar.</translation>
     </message>
     <message>
         <source>Time-loss reasons saved for reuse.</source>
-        <translation type="unfinished"></translation>
+        <translation>Motivos de pérdida de tiempo guardados para reutilizar.</translation>
     </message>
     <message>
         <source>Load a planning file at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargar un archivo de planificación al iniciar.</translation>
     </message>
     <message>
         <source>The planning file to load at start is an online one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de planificación que se carga al iniciar está en línea.</translation>
     </message>
     <message>
         <source>Planning file to load at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de planificación que se carga al iniciar.</translation>
     </message>
     <message>
         <source>Also export the table as CSV on saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Al guardar, exportar también la tabla como CSV.</translation>
     </message>
     <message>
         <source>Also export a PDF on saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Al guardar, exportar también un PDF.</translation>
     </message>
     <message>
         <source>Main folder to open at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta principal que se abre al iniciar.</translation>
     </message>
     <message>
         <source>Open the test tool at start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir la herramienta de pruebas al iniciar.</translation>
     </message>
     <message>
         <source>The file is not an activity, but something else of the device.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo no es una actividad, sino otra cosa del dispositivo.</translation>
     </message>
     <message>
         <source>There are no points in the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay puntos en el archivo.</translation>
     </message>
     <message numerus="yes">
         <source>{} videos</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} vídeo</numerusform>
+            <numerusform>{} vídeos</numerusform>
         </translation>
     </message>
     <message>
         <source>Makes a training file of the videos that carry an athlete&apos;s name</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea un archivo de entrenamiento de los vídeos que llevan el nombre de un deportista</translation>
     </message>
     <message>
         <source>Folder of the videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta de los vídeos</translation>
     </message>
     <message>
         <source>The athlete&apos;s name; a crew as &quot;A / B&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del deportista; una tripulación como &quot;A / B&quot;</translation>
     </message>
     <message>
         <source>Replace a training file that is there already</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar un archivo de entrenamiento que ya exista</translation>
     </message>
     <message>
         <source>Kavela: splits, results and recordings of canoe slalom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kavela: parciales, resultados y grabaciones de slalom.</translation>
     </message>
     <message>
         <source>Files to open in the desktop program</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos que abrir en el programa de escritorio</translation>
     </message>
     <message>
         <source>Start another desktop program, also where one runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar otro programa de escritorio, aunque ya haya uno en marcha</translation>
     </message>
     <message>
         <source>Language of what is said: en or one that is built in</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma de los mensajes: en o uno de los incluidos</translation>
     </message>
     <message>
         <source>There is not enough memory for this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay memoria suficiente para este archivo.</translation>
     </message>
     <message>
         <source>Composes a film of several runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Compone un vídeo de varias mangas</translation>
     </message>
     <message>
         <source>What is to be composed (.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se va a componer (.json)</translation>
     </message>
     <message>
         <source>File to write, in place of the job&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo que escribir, en lugar del propio de la tarea</translation>
     </message>
     <message numerus="yes">
         <source>{} strokes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} palada</numerusform>
+            <numerusform>{} paladas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} turns</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} giro</numerusform>
+            <numerusform>{} giros</numerusform>
         </translation>
     </message>
     <message>
         <source>Give another name with --name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Da otro nombre con --name.</translation>
     </message>
     <message>
         <source>A name goes with one recording only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre va con una sola grabación.</translation>
     </message>
     <message>
         <source>Writes the processed session of raw recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe la sesión procesada de grabaciones en bruto</translation>
     </message>
     <message>
         <source>Raw recordings (.kvb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabaciones en bruto (.kvb)</translation>
     </message>
     <message>
         <source>Name of the new file, for a further one</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del archivo nuevo, para una más</translation>
     </message>
     <message numerus="yes">
         <source>{} files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} archivo</numerusform>
+            <numerusform>{} archivos</numerusform>
         </translation>
     </message>
     <message>
         <source>Failed to create file</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo crear el archivo</translation>
     </message>
     <message>
         <source>Writes a sample season to try Kavela with</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe una temporada de ejemplo para probar Kavela</translation>
     </message>
     <message>
         <source>Folder to write to; made where it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta en la que escribir; se crea si no existe</translation>
     </message>
     <message>
         <source>Makes short films of runs as well</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea también vídeos cortos de las mangas</translation>
     </message>
     <message>
         <source>Writes the split table for a spreadsheet, or a report</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe la tabla de parciales para una hoja de cálculo, o un informe</translation>
     </message>
     <message>
         <source>Split file (.kvx) of any release</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de parciales (.kvx) de cualquier versión</translation>
     </message>
     <message>
         <source>File to write: semicolon-separated text</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo que escribir: texto separado por punto y coma</translation>
     </message>
     <message>
         <source>File to write: the race report, on A4 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo que escribir: el informe de la carrera, en páginas A4</translation>
     </message>
     <message>
         <source>There is no split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún archivo de parciales.</translation>
     </message>
     <message numerus="yes">
         <source>{} tables</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} tabla</numerusform>
+            <numerusform>{} tablas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} manga</numerusform>
+            <numerusform>{} mangas</numerusform>
         </translation>
     </message>
     <message>
         <source>Writes what split files say as tables for other programs</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe lo que dicen los archivos de parciales como tablas para otros programas</translation>
     </message>
     <message>
         <source>Split files, or folders with them</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales, o carpetas con ellos</translation>
     </message>
     <message>
         <source>Folder to write to</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta en la que escribir</translation>
     </message>
     <message>
         <source>Fetches the films of a race by their bibs</source>
-        <translation type="unfinished"></translation>
+        <translation>Descarga los vídeos de una carrera por sus dorsales</translation>
     </message>
     <message>
         <source>Where the films come from (.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>De dónde vienen los vídeos (.json)</translation>
     </message>
     <message>
         <source>Only print what would be fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo mostrar lo que se descargaría</translation>
     </message>
     <message>
         <source>Do not ask before anything is fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>No preguntar antes de descargar</translation>
     </message>
     <message>
         <source>User name for the server of the address</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de usuario para el servidor de la dirección</translation>
     </message>
     <message>
         <source>A search needs a file or folder and, last, the query in quotes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una búsqueda necesita un archivo o una carpeta y, al final, la consulta entre comillas.</translation>
     </message>
     <message>
         <source>The table cannot be written over a file that is searched.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tabla no se puede escribir encima de un archivo en el que se busca.</translation>
     </message>
     <message>
         <source>Searches split files: a season in one question</source>
-        <translation type="unfinished"></translation>
+        <translation>Busca en archivos de parciales: una temporada en una pregunta</translation>
     </message>
     <message>
         <source>Split files, or folders with them; last the query, in quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales, o carpetas con ellos; al final la consulta, entre comillas</translation>
     </message>
     <message>
         <source>Print one JSON document</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribir un documento JSON</translation>
     </message>
     <message numerus="yes">
         <source>{} groups</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} grupo</numerusform>
+            <numerusform>{} grupos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} rows</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} fila</numerusform>
+            <numerusform>{} filas</numerusform>
         </translation>
     </message>
     <message>
         <source>What an athlete can lift once, by five formulas</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que un deportista puede levantar una vez, según cinco fórmulas</translation>
     </message>
     <message>
         <source>How often the weight was lifted</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuántas veces se levantó el peso</translation>
     </message>
     <message>
         <source>The weight in kilograms</source>
-        <translation type="unfinished"></translation>
+        <translation>El peso en kilogramos</translation>
     </message>
     <message numerus="yes">
         <source>{} results</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} resultado</numerusform>
+            <numerusform>{} resultados</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} lines</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} línea</numerusform>
+            <numerusform>{} líneas</numerusform>
         </translation>
     </message>
     <message>
         <source>Adds an official results list to a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade una lista de resultados oficiales a un archivo de parciales</translation>
     </message>
     <message>
         <source>Split file (.kvx) of the current version</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de parciales (.kvx) de la versión actual</translation>
     </message>
     <message>
         <source>Semicolon-separated text with a header line: position, bib, name, nationality, time, penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto separado por punto y coma con una línea de cabecera: posición, dorsal, nombre, nacionalidad, tiempo, penalización</translation>
     </message>
     <message>
         <source>Says what files are, or what is wrong in them</source>
-        <translation type="unfinished"></translation>
+        <translation>Dice qué son los archivos, o qué tienen mal</translation>
     </message>
     <message>
         <source>Files of any kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de cualquier tipo</translation>
     </message>
     <message>
         <source>The table cannot be written over a file that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tabla no se puede escribir encima de un archivo del que se hace.</translation>
     </message>
     <message>
         <source>Tells where runs lose time against one another</source>
-        <translation type="unfinished"></translation>
+        <translation>Dice dónde pierden tiempo las mangas entre sí</translation>
     </message>
     <message>
         <source>Split file (.kvx) of any release; with --athlete also folders of them</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de parciales (.kvx) de cualquier versión; con --athlete también carpetas con ellos</translation>
     </message>
     <message>
         <source>winner, fastest, ideal, median, own or run:I; winner without other word</source>
-        <translation type="unfinished"></translation>
+        <translation>winner, fastest, ideal, median, own o run:I; winner si no se dice otra cosa</translation>
     </message>
     <message>
         <source>The season of an athlete over all the paths; a crew as &quot;A / B&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>La temporada de un deportista en todas las rutas; una tripulación como &quot;A / B&quot;</translation>
     </message>
     <message>
         <source>Only the athlete&apos;s runs of this category</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo las mangas del deportista en esta categoría</translation>
     </message>
     <message>
         <source>Folder to write the athlete&apos;s page into, named after the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta en la que escribir la página del deportista, con su nombre</translation>
     </message>
     <message>
         <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, …</source>
-        <translation type="unfinished"></translation>
+        <translation>Explicar en cambio un número: loss/RUN/winner/5, gap/RUN/ideal, …</translation>
     </message>
     <message>
         <source>run {}</source>
-        <translation type="unfinished"></translation>
+        <translation>manga {}</translation>
     </message>
     <message>
         <source>no total</source>
-        <translation type="unfinished"></translation>
+        <translation>sin total</translation>
     </message>
     <message>
         <source>, no totals to compare</source>
-        <translation type="unfinished"></translation>
+        <translation>, sin totales que comparar</translation>
     </message>
     <message>
         <source>strokes {} on {}</source>
-        <translation type="unfinished"></translation>
+        <translation>paladas {} frente a {}</translation>
     </message>
     <message>
         <source>gate {} {}</source>
-        <translation type="unfinished"></translation>
+        <translation>puerta {} {}</translation>
     </message>
     <message>
         <source>     Explained by notes: {} of {} ({:.0f} %)</source>
@@ -3431,7 +3432,7 @@
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Toques</translation>
     </message>
     <message>
         <source>Missed</source>
@@ -3550,7 +3551,7 @@
     </message>
     <message>
         <source>Season %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporada %1</translation>
     </message>
     <message>
         <source>Weeks</source>
@@ -3598,11 +3599,11 @@
     </message>
     <message>
         <source>Macrocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Macrociclo</translation>
     </message>
     <message>
         <source>Mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesociclo</translation>
     </message>
     <message>
         <source>Load, %</source>
@@ -3650,7 +3651,7 @@
     </message>
     <message>
         <source>Week %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana %1</translation>
     </message>
     <message>
         <source>Goals of the week</source>
@@ -3734,7 +3735,7 @@
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Water</source>
@@ -3798,7 +3799,7 @@
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Giro</translation>
     </message>
     <message>
         <source>Time losses</source>
@@ -3846,7 +3847,7 @@
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcial</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -5060,7 +5061,7 @@
     <name>kavela::desktop</name>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Category</source>
@@ -5616,7 +5617,7 @@
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Toques</translation>
     </message>
     <message>
         <source>Missed</source>
@@ -5772,11 +5773,11 @@
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Evento</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición</translation>
     </message>
     <message>
         <source>Time</source>
@@ -5800,7 +5801,7 @@
     </message>
     <message>
         <source>Missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Saltos</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -6837,7 +6838,7 @@
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deportista</translation>
     </message>
     <message>
         <source>&amp;From</source>
@@ -7147,11 +7148,11 @@
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso</translation>
     </message>
     <message>
         <source>Body fat</source>
-        <translation type="unfinished"></translation>
+        <translation>Grasa corporal</translation>
     </message>
     <message>
         <source>Resting heart rate</source>
@@ -7657,7 +7658,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcial</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -7877,7 +7878,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcial</translation>
     </message>
     <message>
         <source>Sho&amp;wn</source>
@@ -8328,7 +8329,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>course</source>
-        <translation type="unfinished"></translation>
+        <translation>recorrido</translation>
     </message>
     <message>
         <source>All %1 gates of the race are drawn. Race and course says how many there are.</source>
@@ -8359,7 +8360,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Evento</translation>
     </message>
     <message>
         <source>Place</source>
@@ -8367,7 +8368,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Session</source>
@@ -8450,7 +8451,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Puerta</translation>
     </message>
     <message>
         <source>&amp;Split line</source>
@@ -8486,7 +8487,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>white</source>
-        <translation type="unfinished"></translation>
+        <translation>blanco</translation>
     </message>
     <message>
         <source>Leave the course as it was? What was drawn is lost.</source>
@@ -8525,7 +8526,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>N</source>
-        <translation type="unfinished"></translation>
+        <translation>N</translation>
     </message>
     <message>
         <source>Speed (m/s)</source>
@@ -8650,7 +8651,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>course</source>
-        <translation type="unfinished"></translation>
+        <translation>recorrido</translation>
     </message>
     <message numerus="yes">
         <source>%n gates</source>
@@ -9047,7 +9048,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>km/h</source>
@@ -9086,15 +9087,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::CursorTable</name>
     <message>
         <source>left</source>
-        <translation type="unfinished"></translation>
+        <translation>izquierda</translation>
     </message>
     <message>
         <source>right</source>
-        <translation type="unfinished"></translation>
+        <translation>derecha</translation>
     </message>
     <message>
         <source>side unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>lado desconocido</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -9122,7 +9123,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Giro</translation>
     </message>
     <message>
         <source>Values at the cursor</source>
@@ -9745,7 +9746,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede abrir</translation>
     </message>
     <message>
         <source>The file was changed by another program since it was opened. Saving replaces what that program wrote.</source>
@@ -9803,7 +9804,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Categoría</translation>
     </message>
     <message>
         <source>Pha&amp;se</source>
@@ -9918,7 +9919,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso</translation>
     </message>
     <message>
         <source>kg</source>
@@ -10003,7 +10004,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FactsForm</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deportista</translation>
     </message>
     <message>
         <source>Name of the athlete</source>
@@ -10209,7 +10210,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Nothing is fetched before it is shown here</source>
@@ -11064,7 +11065,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Toques</translation>
     </message>
     <message>
         <source>Missed</source>
@@ -11107,7 +11108,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Giro</translation>
     </message>
     <message>
         <source>Mark the pole line too</source>
@@ -11157,23 +11158,23 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     <name>kavela::desktop::GaugeRow</name>
     <message>
         <source>1/min</source>
-        <translation type="unfinished"></translation>
+        <translation>1/min</translation>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>N</source>
-        <translation type="unfinished"></translation>
+        <translation>N</translation>
     </message>
     <message>
         <source>N·s</source>
-        <translation type="unfinished"></translation>
+        <translation>N·s</translation>
     </message>
     <message>
         <source>W</source>
-        <translation type="unfinished"></translation>
+        <translation>W</translation>
     </message>
 </context>
 <context>
@@ -11304,7 +11305,7 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso</translation>
     </message>
     <message>
         <source>Exercises</source>
@@ -11701,7 +11702,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>The cross course has no gates yet</source>
-        <translation type="unfinished"></translation>
+        <translation>El recorrido de cross aún no tiene puertas</translation>
     </message>
     <message>
         <source>Keep its moment</source>
@@ -11884,7 +11885,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deportista</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -11892,7 +11893,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tipo</translation>
     </message>
     <message>
         <source>&amp;Weight</source>
@@ -13156,11 +13157,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>1/min</source>
-        <translation type="unfinished"></translation>
+        <translation>1/min</translation>
     </message>
     <message>
         <source>m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s</translation>
     </message>
     <message>
         <source>Heart</source>
@@ -13168,15 +13169,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad</translation>
     </message>
     <message>
         <source>Stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frec. de palada</translation>
     </message>
     <message>
         <source>Heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frec. cardiaca</translation>
     </message>
     <message>
         <source>Select a run to see its strokes, speed and heart rate.</source>
@@ -13493,7 +13494,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede abrir</translation>
     </message>
     <message>
         <source>The race carries no results list. Open one with “A file…”.</source>
@@ -13846,11 +13847,11 @@ Penalties are left out.</source>
     <name>kavela::desktop::PenaltyFilter</name>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Categoría</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fase</translation>
     </message>
     <message>
         <source>Cre&amp;w</source>
@@ -13948,7 +13949,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>time</source>
-        <translation type="unfinished"></translation>
+        <translation>tiempo</translation>
     </message>
     <message>
         <source>Penalty</source>
@@ -13964,15 +13965,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición</translation>
     </message>
     <message>
         <source>position</source>
-        <translation type="unfinished"></translation>
+        <translation>posición</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Enter a time or a position first.</source>
@@ -14015,7 +14016,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deportista</translation>
     </message>
     <message>
         <source>Choose one of the athletes of the list.</source>
@@ -14344,7 +14345,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::PlanningWindow</name>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deportista</translation>
     </message>
     <message>
         <source>&amp;New athlete…</source>
@@ -14692,7 +14693,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Import power-meter data</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar datos del medidor de potencia</translation>
     </message>
     <message>
         <source>Samples: %1. Lines refused: %2.</source>
@@ -15492,7 +15493,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>Tried only. Really: %1</source>
@@ -15574,15 +15575,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Release</source>
-        <translation type="unfinished"></translation>
+        <translation>Edición</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición</translation>
     </message>
 </context>
 <context>
@@ -15597,7 +15598,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Toques</translation>
     </message>
     <message>
         <source>Rate %</source>
@@ -15645,7 +15646,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Saltos</translation>
     </message>
     <message>
         <source>Missed %</source>
@@ -15762,7 +15763,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede abrir</translation>
     </message>
     <message>
         <source>No recording yet</source>
@@ -15829,7 +15830,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>position</source>
-        <translation type="unfinished"></translation>
+        <translation>posición</translation>
     </message>
     <message>
         <source>no position</source>
@@ -15861,7 +15862,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>side unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>lado desconocido</translation>
     </message>
     <message>
         <source>Recordings</source>
@@ -15907,7 +15908,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>s</source>
-        <translation type="unfinished"></translation>
+        <translation>s</translation>
     </message>
     <message>
         <source>&amp;Mass in motion</source>
@@ -16843,7 +16844,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Categoría</translation>
     </message>
     <message>
         <source>&amp;Years</source>
@@ -16851,7 +16852,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deportista</translation>
     </message>
 </context>
 <context>
@@ -16894,7 +16895,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos</translation>
     </message>
     <message>
         <source>ICF ranking position</source>
@@ -17615,7 +17616,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Add a category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade antes una categoría.</translation>
     </message>
     <message>
         <source>%1 is in this category already.</source>
@@ -17853,27 +17854,27 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frec. de palada</translation>
     </message>
     <message>
         <source>Force</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuerza</translation>
     </message>
     <message>
         <source>Impulse</source>
-        <translation type="unfinished"></translation>
+        <translation>Impulso</translation>
     </message>
     <message>
         <source>Power</source>
-        <translation type="unfinished"></translation>
+        <translation>Potencia</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad</translation>
     </message>
     <message>
         <source>Heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frec. cardiaca</translation>
     </message>
     <message>
         <source>Phases</source>
@@ -18085,11 +18086,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad</translation>
     </message>
     <message>
         <source>Stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frec. de palada</translation>
     </message>
     <message>
         <source>Colour of the course</source>
@@ -18120,7 +18121,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Recordings (*.kvb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabaciones (*.kvb)</translation>
     </message>
     <message>
         <source>Import .sbm file</source>
@@ -18353,7 +18354,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Nothing is shared before it is shown here</source>
@@ -19606,7 +19607,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede abrir</translation>
     </message>
     <message>
         <source>Nobody of the team</source>
@@ -19769,7 +19770,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Leave out</source>
-        <translation type="unfinished"></translation>
+        <translation>Omitir</translation>
     </message>
     <message>
         <source>Add %1 to the team</source>
@@ -19813,11 +19814,11 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Category</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Categoría</translation>
     </message>
     <message>
         <source>&amp;Phase</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fase</translation>
     </message>
     <message>
         <source>&amp;Day</source>
@@ -19891,7 +19892,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deportista</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -20020,7 +20021,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>s</source>
-        <translation type="unfinished"></translation>
+        <translation>s</translation>
     </message>
     <message>
         <source>Motion</source>
@@ -20447,7 +20448,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>There are no results in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No contiene resultados.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
@@ -20459,7 +20460,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>results taken over</source>
-        <translation type="unfinished"></translation>
+        <translation>resultados incorporados</translation>
     </message>
     <message>
         <source>Team</source>
@@ -20518,7 +20519,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Test</source>
@@ -20565,7 +20566,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede abrir</translation>
     </message>
     <message>
         <source>Attempt %1
@@ -20582,7 +20583,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Export the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar la tabla</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
@@ -21009,7 +21010,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad</translation>
     </message>
     <message>
         <source>Figures</source>
@@ -21334,7 +21335,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Gate %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1 %2</translation>
     </message>
     <message>
         <source>Roll</source>
@@ -21346,7 +21347,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcial</translation>
     </message>
     <message>
         <source>Time</source>
@@ -21453,7 +21454,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -21476,7 +21477,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Giro</translation>
     </message>
     <message>
         <source>Mark the pole line too</source>
@@ -21492,7 +21493,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Gate %1 is marked. N goes to the next gate, Shift+M moves the selected mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>La puerta %1 está marcada. N va a la puerta siguiente, Mayús+M mueve la marca seleccionada.</translation>
     </message>
     <message>
         <source>Gate %1 is no upstream gate. N goes to the next one.</source>
@@ -21500,15 +21501,15 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>%1 of gate %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de la puerta %2</translation>
     </message>
     <message>
         <source>Gate %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1 %2</translation>
     </message>
     <message>
         <source>gate %1 removed</source>
-        <translation type="unfinished"></translation>
+        <translation>puerta %1 quitada</translation>
     </message>
     <message>
         <source>The marks of gate %1 are removed. Ctrl+Z brings them back.</source>
@@ -21520,11 +21521,11 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Gate %1: M marks the %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1: M marca: %2</translation>
     </message>
     <message>
         <source>Gate %1 is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>La puerta %1 está marcada</translation>
     </message>
     <message>
         <source>%1 s in the gate</source>
@@ -21658,11 +21659,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WeekForm</name>
     <message>
         <source>Macrocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Macrociclo</translation>
     </message>
     <message>
         <source>Mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesociclo</translation>
     </message>
     <message>
         <source>Place</source>
@@ -21670,11 +21671,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Evento</translation>
     </message>
     <message>
         <source>On-water test</source>
-        <translation type="unfinished"></translation>
+        <translation>Prueba en el agua</translation>
     </message>
     <message>
         <source>done on</source>
@@ -21682,11 +21683,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Endurance test</source>
-        <translation type="unfinished"></translation>
+        <translation>Prueba de resistencia</translation>
     </message>
     <message>
         <source>Blood test</source>
-        <translation type="unfinished"></translation>
+        <translation>Análisis de sangre</translation>
     </message>
     <message>
         <source>Injured part</source>
@@ -21738,7 +21739,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Week %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana %1</translation>
     </message>
     <message>
         <source>%1 weeks are chosen: load, cycles and place go into all of them.</source>
@@ -21933,11 +21934,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Macrocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Macrociclo</translation>
     </message>
     <message>
         <source>Mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesociclo</translation>
     </message>
     <message>
         <source>Load</source>
@@ -21949,7 +21950,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Evento</translation>
     </message>
     <message>
         <source>Tests</source>
