@@ -1910,1043 +1910,1046 @@
     </message>
     <message>
         <source>     Explained by notes: {} of {} ({:.0f} %)</source>
-        <translation type="unfinished"></translation>
+        <translation>     Explicado por las notas: {} de {} ({:.0f} %)</translation>
     </message>
     <message>
         <source>Tells how often gates are touched, what it cost, and whether speed pays</source>
-        <translation type="unfinished"></translation>
+        <translation>Dice con qué frecuencia se tocan las puertas, qué costó y si compensa la velocidad</translation>
     </message>
     <message>
         <source>Split files (.kvx) of any release, or folders of them</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (.kvx) de cualquier versión, o carpetas con ellos</translation>
     </message>
     <message>
         <source>What the rates are by; by gate without other word</source>
-        <translation type="unfinished"></translation>
+        <translation>Según qué son las frecuencias; por puerta si no se dice otra cosa</translation>
     </message>
     <message>
         <source>Only runs of this category</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo las mangas de esta categoría</translation>
     </message>
     <message>
         <source>File to write the rates to: semicolon-separated text</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo en el que escribir las frecuencias: texto separado por punto y coma</translation>
     </message>
     <message>
         <source>Explain one number instead: rate/gate/7, touches/crew/NAME, cost/RUN/GATE, …</source>
-        <translation type="unfinished"></translation>
+        <translation>Explicar en cambio un número: rate/gate/7, touches/crew/NAME, cost/RUN/GATE, …</translation>
     </message>
     <message>
         <source>… {} more; all of them with --json, --csv or in a pipe</source>
-        <translation type="unfinished"></translation>
+        <translation>… {} más; todas con --json, --csv o en una tubería</translation>
     </message>
     <message>
         <source>Penalties by {} · {}, {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizaciones por {} · {}, {}</translation>
     </message>
     <message>
         <source>{} of {} whole runs without a penalty: {:.1f} % ({})</source>
-        <translation type="unfinished"></translation>
+        <translation>{} de {} mangas enteras sin penalización: {:.1f} % ({})</translation>
     </message>
     <message>
         <source>Ranked: drawn towards {:.1f} %, the more the fewer the passages;</source>
-        <translation type="unfinished"></translation>
+        <translation>Por orden: acercadas al {:.1f} %, tanto más cuantos menos pasos;</translation>
     </message>
     <message>
         <source>{} of {}</source>
-        <translation type="unfinished"></translation>
+        <translation>{} de {}</translation>
     </message>
     <message>
         <source>What penalties cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que cuestan las penalizaciones</translation>
     </message>
     <message numerus="yes">
         <source>{} penalties</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} penalización</numerusform>
+            <numerusform>{} penalizaciones</numerusform>
         </translation>
     </message>
     <message>
         <source>gate {}</source>
-        <translation type="unfinished"></translation>
+        <translation>puerta {}</translation>
     </message>
     <message>
         <source>  {} of {}, without {}</source>
-        <translation type="unfinished"></translation>
+        <translation>  {} de {}, sin {}</translation>
     </message>
     <message>
         <source>{} {} of {} ({:.0f} %, {:.0f}–{:.0f})</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} de {} ({:.0f} %, {:.0f}–{:.0f})</translation>
     </message>
     <message>
         <source>Noted of {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Anotado de {}</translation>
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run; times in percent of the group&apos;s median</source>
-        <translation type="unfinished"></translation>
+        <translation>Un 1 % de velocidad compensa {:.2f} toques por manga; tiempos en porcentaje de la mediana del grupo</translation>
     </message>
     <message>
         <source>The sum of the best splits, and what each run could be</source>
-        <translation type="unfinished"></translation>
+        <translation>La suma de los mejores parciales, y lo que podría ser cada manga</translation>
     </message>
     <message>
         <source>Store the values in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar los valores en el archivo</translation>
     </message>
     <message>
         <source>Tell how a number came about: perfect, or xtime/5 (runs from 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Decir cómo sale un número: perfect, o xtime/5 (mangas desde 0)</translation>
     </message>
     <message>
         <source>The weeks of each athlete&apos;s seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Las semanas de las temporadas de cada deportista</translation>
     </message>
     <message>
         <source>Planning (.planning) of any version</source>
-        <translation type="unfinished"></translation>
+        <translation>Planificación (.planning) de cualquier versión</translation>
     </message>
     <message>
         <source>Brings plannings to the current version</source>
-        <translation type="unfinished"></translation>
+        <translation>Lleva las planificaciones a la versión actual</translation>
     </message>
     <message>
         <source>Plannings (.planning) of any version</source>
-        <translation type="unfinished"></translation>
+        <translation>Planificaciones (.planning) de cualquier versión</translation>
     </message>
     <message>
         <source>Shows and upgrades training plannings</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra y actualiza planificaciones de entrenamiento</translation>
     </message>
     <message numerus="yes">
         <source>{} weeks</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} semana</numerusform>
+            <numerusform>{} semanas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} sessions</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} sesión</numerusform>
+            <numerusform>{} sesiones</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} athletes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} deportista</numerusform>
+            <numerusform>{} deportistas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} favourite interval sessions</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} sesión de intervalos favorita</numerusform>
+            <numerusform>{} sesiones de intervalos favoritas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} variability measurements</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} medición de variabilidad</numerusform>
+            <numerusform>{} mediciones de variabilidad</numerusform>
         </translation>
     </message>
     <message>
         <source>Tells how the athletes of a team stand over seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Dice cómo están los deportistas de un equipo a lo largo de las temporadas</translation>
     </message>
     <message>
         <source>Team file (.kvteam)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de equipo (.kvteam)</translation>
     </message>
     <message>
         <source>Split files (.kvx) of any release, or folders of them: they tell the winners and the rivals</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (.kvx) de cualquier versión, o carpetas con ellos: dicen los ganadores y los rivales</translation>
     </message>
     <message>
         <source>Category: MK1, WK1, MC1, WC1, MX1, WX1</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría: MK1, WK1, MC1, WC1, MX1, WX1</translation>
     </message>
     <message>
         <source>Only these: 2025, or 2023-2025</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo estas: 2025, o 2023-2025</translation>
     </message>
     <message>
         <source>Whose places to expect of one another; the team and those who raced most often without it</source>
-        <translation type="unfinished"></translation>
+        <translation>De quiénes esperar puestos entre sí; el equipo y los que más compitieron si no se dice</translation>
     </message>
     <message>
         <source>File to write: the runs of the athletes as semicolon-separated text</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo que escribir: las mangas de los deportistas como texto separado por punto y coma</translation>
     </message>
     <message>
         <source>Folder to write a report of the team and a page for each athlete into</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta en la que escribir un informe del equipo y una página por deportista</translation>
     </message>
     <message>
         <source>Explain one number instead: spread, trend/NAME, percent/NAME/2025/WC1/Final, …</source>
-        <translation type="unfinished"></translation>
+        <translation>Explicar en cambio un número: spread, trend/NAME, percent/NAME/2025/WC1/Final, …</translation>
     </message>
     <message>
         <source>{:+.1f} to {:+.1f}</source>
-        <translation type="unfinished"></translation>
+        <translation>{:+.1f} a {:+.1f}</translation>
     </message>
     <message>
         <source>{:+.2f} to {:+.2f}</source>
-        <translation type="unfinished"></translation>
+        <translation>{:+.2f} a {:+.2f}</translation>
     </message>
     <message>
         <source>      {} run {} {} {}
 </source>
-        <translation type="unfinished"></translation>
+        <translation>      {} manga {} {} {}
+</translation>
     </message>
     <message>
         <source>  {}. {}: {}, {} s a run
 </source>
-        <translation type="unfinished"></translation>
+        <translation>  {}. {}: {}, {} s por manga
+</translation>
     </message>
     <message numerus="yes">
         <source>{} whole runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} manga entera</numerusform>
+            <numerusform>{} mangas enteras</numerusform>
         </translation>
     </message>
     <message>
         <source> · on {} · {}
 </source>
-        <translation type="unfinished"></translation>
+        <translation> · frente a {} · {}
+</translation>
     </message>
     <message>
         <source> ({:+.1f} to {:+.1f})</source>
-        <translation type="unfinished"></translation>
+        <translation> ({:+.1f} a {:+.1f})</translation>
     </message>
     <message numerus="yes">
         <source>{} split files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} archivo de parciales</numerusform>
+            <numerusform>{} archivos de parciales</numerusform>
         </translation>
     </message>
     <message>
         <source> · {} · {} of races</source>
-        <translation type="unfinished"></translation>
+        <translation> · {} · {} de carreras</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary by chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muy pocas mangas para decir cuánto varían por azar.</translation>
     </message>
     <message>
         <source>Runs vary by {:.1f} %{}, from {}; {:.2f} % is worth gaining.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las mangas varían un {:.1f} %{}, de {}; merece la pena ganar un {:.2f} %.</translation>
     </message>
     <message>
         <source>Neither winners nor fastest splits of these races are known.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se conocen ni los ganadores ni los parciales más rápidos de estas carreras.</translation>
     </message>
     <message>
         <source>      ┄ third of the final, median</source>
-        <translation type="unfinished"></translation>
+        <translation>      ┄ tercero de la final, mediana</translation>
     </message>
     <message>
         <source>within</source>
-        <translation type="unfinished"></translation>
+        <translation>entre mangas</translation>
     </message>
     <message>
         <source>trend</source>
-        <translation type="unfinished"></translation>
+        <translation>tendencia</translation>
     </message>
     <message>
         <source>on splits</source>
-        <translation type="unfinished"></translation>
+        <translation>en parciales</translation>
     </message>
     <message>
         <source>{:.1f} % (all {:.1f}{})</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} % (todos {:.1f}{})</translation>
     </message>
     <message>
         <source>, {} missed</source>
-        <translation type="unfinished"></translation>
+        <translation>, {} con salto</translation>
     </message>
     <message>
         <source>{:+.1f} %/yr{} </source>
-        <translation type="unfinished"></translation>
+        <translation>{:+.1f} %/año{} </translation>
     </message>
     <message>
         <source>{} of {} ({:.0f}–{:.0f} %)</source>
-        <translation type="unfinished"></translation>
+        <translation>{} de {} ({:.0f}–{:.0f} %)</translation>
     </message>
     <message numerus="yes">
         <source>{} races</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} carrera</numerusform>
+            <numerusform>{} carreras</numerusform>
         </translation>
     </message>
     <message>
         <source> {} of {} ({:.0f}–{:.0f} %), {:+.1f} %</source>
-        <translation type="unfinished"></translation>
+        <translation> {} de {} ({:.0f}–{:.0f} %), {:+.1f} %</translation>
     </message>
     <message>
         <source>rank {}</source>
-        <translation type="unfinished"></translation>
+        <translation>puesto {}</translation>
     </message>
     <message>
         <source>… {} more; all of them with --json or in a pipe</source>
-        <translation type="unfinished"></translation>
+        <translation>… {} más; todos con --json o en una tubería</translation>
     </message>
     <message>
         <source>{} more boats come into question: name a field with --field</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay {} barcos más en cuestión: indica los participantes con --field</translation>
     </message>
     <message>
         <source>{} is left out: fewer than {} runs, or never met the others</source>
-        <translation type="unfinished"></translation>
+        <translation>{} se omite: menos de {} mangas, o nunca coincidió con los demás</translation>
     </message>
     <message>
         <source>The ranking of each category</source>
-        <translation type="unfinished"></translation>
+        <translation>La clasificación de cada categoría</translation>
     </message>
     <message>
         <source>Selection file (.kvsr) of any layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de selectivo (.kvsr) de cualquier formato</translation>
     </message>
     <message>
         <source>Kind of bonus that counts, from 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de bonificación que cuenta, desde 0</translation>
     </message>
     <message>
         <source>Folder to write both reports into</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta en la que escribir los dos informes</translation>
     </message>
     <message>
         <source>Store percentages and scores in the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar porcentajes y puntuaciones en el archivo</translation>
     </message>
     <message>
         <source>Adds athletes from a list to a selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade deportistas de una lista a un selectivo</translation>
     </message>
     <message>
         <source>Selection file (.kvsr)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de selectivo (.kvsr)</translation>
     </message>
     <message>
         <source>Text with lines Cat;Name;Surname;year;club</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto con líneas Cat;Name;Surname;year;club</translation>
     </message>
     <message>
         <source>Takes the results of a race from its split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Toma los resultados de una carrera de sus archivos de parciales</translation>
     </message>
     <message>
         <source>Race of the selection: its name, or its number counted from 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Carrera del selectivo: su nombre, o su número contado desde 0</translation>
     </message>
     <message>
         <source>Kind of bonus that counts in the scores, from 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de bonificación que cuenta en las puntuaciones, desde 0</translation>
     </message>
     <message>
         <source>Split files (.kvx) of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (.kvx) de la carrera</translation>
     </message>
     <message>
         <source>Selection races and their ranking</source>
-        <translation type="unfinished"></translation>
+        <translation>Selectivos y su clasificación</translation>
     </message>
     <message>
         <source>Prints the coloured split table of a race</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra la tabla de parciales de una carrera en color</translation>
     </message>
     <message>
         <source>Colours: race or training</source>
-        <translation type="unfinished"></translation>
+        <translation>Colores: race o training</translation>
     </message>
     <message>
         <source>Times from the start to each split</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempos desde la salida hasta cada parcial</translation>
     </message>
     <message>
         <source>Add penalty seconds to the times</source>
-        <translation type="unfinished"></translation>
+        <translation>Sumar los segundos de penalización a los tiempos</translation>
     </message>
     <message>
         <source>Show penalty seconds behind the times</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar los segundos de penalización tras los tiempos</translation>
     </message>
     <message>
         <source>Only runs of this phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo las mangas de esta fase</translation>
     </message>
     <message>
         <source>Tell how a number came about: cell/5/3, band/5/3, ideal/3, ideal/total (runs from 0, columns and sections from 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Decir cómo sale un número: cell/5/3, band/5/3, ideal/3, ideal/total (mangas desde 0, columnas y tramos desde 1)</translation>
     </message>
     <message>
         <source>{} gates, {} upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>{} puertas, {} remontes</translation>
     </message>
     <message>
         <source>The table cannot be written over the recording itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tabla no se puede escribir encima de la propia grabación.</translation>
     </message>
     <message>
         <source>Finds the strokes and turns of a boat-motion recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Encuentra las paladas y los giros de una grabación de movimiento del barco</translation>
     </message>
     <message>
         <source>Raw recording (.kvb)</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabación en bruto (.kvb)</translation>
     </message>
     <message>
         <source>&quot;{}&quot; is no number from {:g} to {:g} {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>«{}» no es un número de {:g} a {:g} {}.</translation>
     </message>
     <message>
         <source>&quot;{}&quot; is none of: {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>«{}» no es ninguno de: {}.</translation>
     </message>
     <message>
         <source>Side of the phone that points to the bow, where fixes do not tell: top, bottom, right, left, back or screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Lado del teléfono que apunta a la proa, donde las posiciones no lo dicen: top, bottom, right, left, back o screen</translation>
     </message>
     <message>
         <source>Athlete, boat and kit in kg</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportista, barco y equipo en kg</translation>
     </message>
     <message>
         <source>Resistance of the hull over the square of its speed in N·s²/m²</source>
-        <translation type="unfinished"></translation>
+        <translation>Resistencia del casco partida por el cuadrado de su velocidad, en N·s²/m²</translation>
     </message>
     <message>
         <source>Class of boat: k1, c1, c2, kayak or canoe</source>
-        <translation type="unfinished"></translation>
+        <translation>Clase de barco: k1, c1, c2, kayak o canoe</translation>
     </message>
     <message numerus="yes">
         <source>{} bouts</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} serie de paladas</numerusform>
+            <numerusform>{} series de paladas</numerusform>
         </translation>
     </message>
     <message>
         <source>{:.1f} 1/min</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} 1/min</translation>
     </message>
     <message>
         <source>{:g} kg, drag {:g} N·s²/m², {}; force and power hold on flat water only</source>
-        <translation type="unfinished"></translation>
+        <translation>{:g} kg, resistencia {:g} N·s²/m², {}; fuerza y potencia solo valen en agua llana</translation>
     </message>
     <message>
         <source>Shows any list of results as a table, with columns reckoned</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra cualquier lista de resultados como tabla, con columnas calculadas</translation>
     </message>
     <message>
         <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), or a split file (.kvx) that carries one</source>
-        <translation type="unfinished"></translation>
+        <translation>Una lista: texto (CSV, tabuladores, columnas de espacios), una hoja de cálculo (.xlsx, .ods) o un archivo de parciales (.kvx) que lleve una</translation>
     </message>
     <message>
         <source>A column to add: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; with &quot;by Category&quot; within each category, with &quot;down&quot; the highest first</source>
-        <translation type="unfinished"></translation>
+        <translation>Una columna que añadir: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; con &quot;by Category&quot; dentro de cada categoría, con &quot;down&quot; lo más alto primero</translation>
     </message>
     <message>
         <source>ROW,COL,VALUE,FN as in Nation,Category,Time,mean; FN is count, sum, mean, median, least or most</source>
-        <translation type="unfinished"></translation>
+        <translation>FILA,COL,VALOR,FN como en Nation,Category,Time,mean; FN es count, sum, mean, median, least o most</translation>
     </message>
     <message>
         <source>Team (.kvteam) whose athletes are looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>Equipo (.kvteam) cuyos deportistas se buscan</translation>
     </message>
     <message>
         <source>The sheet, where there are several; of a split file which of its lists</source>
-        <translation type="unfinished"></translation>
+        <translation>La hoja, si hay varias; de un archivo de parciales, cuál de sus listas</translation>
     </message>
     <message>
         <source>File to write the table to: semicolon-separated text</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo en el que escribir la tabla: texto separado por punto y coma</translation>
     </message>
     <message>
         <source>Category, letter for letter as in the file: MK1, WK1, MC1, WC1, MX1, WX1</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría, letra por letra como en el archivo: MK1, WK1, MC1, WC1, MX1, WX1</translation>
     </message>
     <message>
         <source>What the athletes of a team reached</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que lograron los deportistas de un equipo</translation>
     </message>
     <message>
         <source>Name of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del deportista</translation>
     </message>
     <message>
         <source>Folder to write &quot;2025 Categorization.pdf&quot; into</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta en la que escribir &quot;2025 Categorization.pdf&quot;</translation>
     </message>
     <message>
         <source>Brings files of older releases to the current version</source>
-        <translation type="unfinished"></translation>
+        <translation>Lleva archivos de versiones anteriores a la versión actual</translation>
     </message>
     <message>
         <source>Split files, selection races, plannings and recordings, or folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales, selectivos, planificaciones y grabaciones, o carpetas</translation>
     </message>
     <message>
         <source>rule</source>
-        <translation type="unfinished"></translation>
+        <translation>regla</translation>
     </message>
     <message>
         <source>source</source>
-        <translation type="unfinished"></translation>
+        <translation>fuente</translation>
     </message>
     <message>
         <source>note</source>
-        <translation type="unfinished"></translation>
+        <translation>nota</translation>
     </message>
     <message>
         <source>split {}</source>
-        <translation type="unfinished"></translation>
+        <translation>parcial {}</translation>
     </message>
     <message>
         <source>entry {}</source>
-        <translation type="unfinished"></translation>
+        <translation>entrada {}</translation>
     </message>
     <message>
         <source>shown {} of {}</source>
-        <translation type="unfinished"></translation>
+        <translation>se muestran {} de {}</translation>
     </message>
     <message>
         <source>{} to {}  ({})</source>
-        <translation type="unfinished"></translation>
+        <translation>{} a {}  ({})</translation>
     </message>
     <message>
         <source>Imported “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Se importó «%1»</translation>
     </message>
     <message>
         <source>“%1” cannot be imported</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede importar</translation>
     </message>
     <message>
         <source>Watches and phones (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Relojes y teléfonos (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Import from a watch or a phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar de un reloj o un teléfono</translation>
     </message>
     <message>
         <source>The rows of the group.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las filas del grupo.</translation>
     </message>
     <message>
         <source>number of rows</source>
-        <translation type="unfinished"></translation>
+        <translation>número de filas</translation>
     </message>
     <message>
         <source>The least value of the group&apos;s rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>El menor valor de las filas del grupo.</translation>
     </message>
     <message>
         <source>The mean of the group&apos;s rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>La media de las filas del grupo.</translation>
     </message>
     <message>
         <source>Σ values / rows with a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ valores / filas con valor</translation>
     </message>
     <message>
         <source>The middle of the group&apos;s rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>El valor central de las filas del grupo.</translation>
     </message>
     <message>
         <source>Stopped; nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Detenido; no se ha escrito nada.</translation>
     </message>
     <message numerus="yes">
         <source>{} frames</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} fotograma</numerusform>
+            <numerusform>{} fotogramas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} films</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} vídeo</numerusform>
+            <numerusform>{} vídeos</numerusform>
         </translation>
     </message>
     <message>
         <source>There is nothing to fetch.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada que descargar.</translation>
     </message>
     <message>
         <source>90 %, Student&apos;s t</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %, t de Student</translation>
     </message>
     <message>
         <source>90 %, Wilson</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %, Wilson</translation>
     </message>
     <message>
         <source>own</source>
-        <translation type="unfinished"></translation>
+        <translation>propio</translation>
     </message>
     <message>
         <source>Time lost between two neighbouring marks that both runs have.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo perdido entre dos marcas vecinas que tienen ambas mangas.</translation>
     </message>
     <message>
         <source>Time lost in percent of the reference&apos;s time there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo perdido ahí en porcentaje del tiempo de la referencia.</translation>
     </message>
     <message>
         <source>100 · (own − reference) / reference</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (propio − referencia) / referencia</translation>
     </message>
     <message>
         <source>After a mark that was not taken the next time covers both sections.</source>
-        <translation type="unfinished"></translation>
+        <translation>Después de una marca que no se tomó, el tiempo siguiente abarca los dos tramos.</translation>
     </message>
     <message>
         <source>Σ times between the marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ tiempos entre las marcas</translation>
     </message>
     <message>
         <source>The least time that stands alone, whoever paddled it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El menor tiempo que vale por sí solo, sea de quien sea.</translation>
     </message>
     <message>
         <source>The median of the finalists&apos; times that stand alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mediana de los tiempos de los finalistas que valen por sí solos.</translation>
     </message>
     <message>
         <source>median times</source>
-        <translation type="unfinished"></translation>
+        <translation>mediana de tiempos</translation>
     </message>
     <message>
         <source>The difference of the totals, official where both have an official one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La diferencia de los totales, oficiales donde ambas los tienen.</translation>
     </message>
     <message>
         <source>own total − reference total</source>
-        <translation type="unfinished"></translation>
+        <translation>total propio − total de la referencia</translation>
     </message>
     <message>
         <source>All sections and the penalties, as timed from the video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los tramos y las penalizaciones, cronometrados en el vídeo.</translation>
     </message>
     <message>
         <source>What was lost on the water: all stretches together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se perdió en el agua: todos los trechos juntos.</translation>
     </message>
     <message>
         <source>Σ losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ pérdidas</translation>
     </message>
     <message>
         <source>The difference of the penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>La diferencia de las penalizaciones.</translation>
     </message>
     <message>
         <source>own penalties − reference&apos;s penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>penalizaciones propias − las de la referencia</translation>
     </message>
     <message>
         <source>What neither water nor penalties tell: official against video time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que no explican ni el agua ni las penalizaciones: tiempo oficial frente al del vídeo.</translation>
     </message>
     <message>
         <source>gap − paddling − penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>diferencia − paleo − penalizaciones</translation>
     </message>
     <message>
         <source>Time lost in an upstream gate, by its first entry in both runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo perdido en un remonte, por su primera entrada en ambas mangas.</translation>
     </message>
     <message>
         <source>Time lost from the entrance of an upstream gate to its pole line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo perdido desde la entrada de un remonte hasta la línea de la puerta.</translation>
     </message>
     <message>
         <source>Time lost from the pole line of an upstream gate to its exit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo perdido desde la línea de la puerta de un remonte hasta su salida.</translation>
     </message>
     <message>
         <source>What a stretch lost outside its upstream gates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se perdió en un trecho fuera de sus remontes.</translation>
     </message>
     <message>
         <source>loss − Σ gates</source>
-        <translation type="unfinished"></translation>
+        <translation>pérdida − Σ puertas</translation>
     </message>
     <message>
         <source>The part of the loss that notes against the same crew explain.</source>
-        <translation type="unfinished"></translation>
+        <translation>La parte de la pérdida que explican las notas frente a la misma tripulación.</translation>
     </message>
     <message>
         <source>Σ notes / paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ notas / paleo</translation>
     </message>
     <message>
         <source>The time without penalties against the expected time.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tiempo sin penalizaciones frente al tiempo esperado.</translation>
     </message>
     <message>
         <source>paddling time − expected time</source>
-        <translation type="unfinished"></translation>
+        <translation>tiempo de paleo − tiempo esperado</translation>
     </message>
     <message>
         <source>The total against a result of interest.</source>
-        <translation type="unfinished"></translation>
+        <translation>El total frente a un resultado de interés.</translation>
     </message>
     <message>
         <source>own total − result</source>
-        <translation type="unfinished"></translation>
+        <translation>total propio − resultado</translation>
     </message>
     <message>
         <source>Time lost as noted; several reasons of one note share it equally.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo perdido según las notas; varios motivos de una nota lo comparten a partes iguales.</translation>
     </message>
     <message>
         <source>Σ notes above 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ notas mayores que 0</translation>
     </message>
     <message>
         <source>Time gained as noted; several reasons of one note share it equally.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo ganado según las notas; varios motivos de una nota lo comparten a partes iguales.</translation>
     </message>
     <message>
         <source>Σ notes below 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ notas menores que 0</translation>
     </message>
     <message>
         <source>What the chosen way cost against the fastest one timed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que costó la trazada elegida frente a la más rápida cronometrada.</translation>
     </message>
     <message>
         <source>chosen − least timed</source>
-        <translation type="unfinished"></translation>
+        <translation>elegida − menor cronometrada</translation>
     </message>
     <message>
         <source>What was lost in percent of the reference&apos;s time, over whole runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se perdió en porcentaje del tiempo de la referencia, en mangas enteras.</translation>
     </message>
     <message>
         <source>100 · ΣL / ΣB,  SE² = n/(n−1) · Σ(L − qB)² / (ΣB)²</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · ΣL / ΣB,  SE² = n/(n−1) · Σ(L − qB)² / (ΣB)²</translation>
     </message>
     <message>
         <source>ratio estimator: Cochran, Sampling Techniques, 1977</source>
-        <translation type="unfinished"></translation>
+        <translation>estimador de razón: Cochran, Sampling Techniques, 1977</translation>
     </message>
     <message>
         <source>What was lost here in a run on the average.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se perdió aquí por término medio en una manga.</translation>
     </message>
     <message>
         <source>ΣL / n</source>
-        <translation type="unfinished"></translation>
+        <translation>ΣL / n</translation>
     </message>
     <message>
         <source>The part of the whole gap that was lost here.</source>
-        <translation type="unfinished"></translation>
+        <translation>La parte de toda la diferencia que se perdió aquí.</translation>
     </message>
     <message>
         <source>ΣL / Σgap</source>
-        <translation type="unfinished"></translation>
+        <translation>ΣL / Σdif.</translation>
     </message>
     <message>
         <source>The mean gap of the whole runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>La diferencia media de las mangas enteras.</translation>
     </message>
     <message>
         <source>Σgap / n</source>
-        <translation type="unfinished"></translation>
+        <translation>Σdif. / n</translation>
     </message>
     <message>
         <source>interval: Student&apos;s t</source>
-        <translation type="unfinished"></translation>
+        <translation>intervalo: t de Student</translation>
     </message>
     <message>
         <source>The mean difference of penalties of the whole runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>La diferencia media de penalizaciones de las mangas enteras.</translation>
     </message>
     <message>
         <source>Σ(own − reference) / n</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ(propio − referencia) / n</translation>
     </message>
     <message>
         <source>What was lost on the water up to a mark: all stretches before it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se perdió en el agua hasta una marca: todos los trechos anteriores.</translation>
     </message>
     <message>
         <source>Σ losses to here</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ pérdidas hasta aquí</translation>
     </message>
     <message>
         <source>The total of the run: the official one where it has one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El total de la manga: el oficial donde lo tiene.</translation>
     </message>
     <message>
         <source>One more than have a smaller total in the group, to the hundredth.</source>
-        <translation type="unfinished"></translation>
+        <translation>Uno más que los que tienen un total menor en el grupo, a la centésima.</translation>
     </message>
     <message>
         <source>1 + totals below the own</source>
-        <translation type="unfinished"></translation>
+        <translation>1 + totales menores que el propio</translation>
     </message>
     <message>
         <source>The strokes that were marked in the stretch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las paladas que se marcaron en el trecho.</translation>
     </message>
     <message>
         <source>Σ strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ paladas</translation>
     </message>
     <message>
         <source>The seconds of penalty at the gates of the stretch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los segundos de penalización en las puertas del trecho.</translation>
     </message>
     <message>
         <source>Σ penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ penalizaciones</translation>
     </message>
     <message>
         <source>The whole runs that have something of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las mangas enteras que tienen algo de ello.</translation>
     </message>
     <message>
         <source>number of runs</source>
-        <translation type="unfinished"></translation>
+        <translation>número de mangas</translation>
     </message>
     <message>
         <source>What was lost here in all runs together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se perdió aquí en todas las mangas juntas.</translation>
     </message>
     <message>
         <source>Too few runs for an interval.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muy pocas mangas para un intervalo.</translation>
     </message>
     <message>
         <source>lost</source>
-        <translation type="unfinished"></translation>
+        <translation>perdido</translation>
     </message>
     <message>
         <source>reference</source>
-        <translation type="unfinished"></translation>
+        <translation>referencia</translation>
     </message>
     <message>
         <source>gap of all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>diferencia de todas las mangas</translation>
     </message>
     <message>
         <source>run</source>
-        <translation type="unfinished"></translation>
+        <translation>manga</translation>
     </message>
     <message>
         <source>half a frame, four marks</source>
-        <translation type="unfinished"></translation>
+        <translation>medio fotograma, cuatro marcas</translation>
     </message>
     <message>
         <source>loss</source>
-        <translation type="unfinished"></translation>
+        <translation>pérdida</translation>
     </message>
     <message>
         <source>gap</source>
-        <translation type="unfinished"></translation>
+        <translation>diferencia</translation>
     </message>
     <message>
         <source>paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>paleo</translation>
     </message>
     <message>
         <source>Shown a hundredth apart, so that the parts add up to the shown gap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se muestra con una centésima de diferencia para que las partes sumen la diferencia mostrada.</translation>
     </message>
     <message>
         <source>time without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>tiempo sin penalizaciones</translation>
     </message>
     <message>
         <source>expected time</source>
-        <translation type="unfinished"></translation>
+        <translation>tiempo esperado</translation>
     </message>
     <message>
         <source>result</source>
-        <translation type="unfinished"></translation>
+        <translation>resultado</translation>
     </message>
     <message>
         <source>A missed gate also saved paddling, which the rank without it does not take back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un salto de puerta también ahorró paleo, y el puesto sin él no lo descuenta.</translation>
     </message>
     <message>
         <source>The total holds {} s of penalty, the gates {:.0f} s.</source>
-        <translation type="unfinished"></translation>
+        <translation>El total contiene {} s de penalización; las puertas, {:.0f} s.</translation>
     </message>
     <message>
         <source>total</source>
-        <translation type="unfinished"></translation>
+        <translation>total</translation>
     </message>
     <message>
         <source>smaller totals</source>
-        <translation type="unfinished"></translation>
+        <translation>totales menores</translation>
     </message>
     <message>
         <source>ranked runs</source>
-        <translation type="unfinished"></translation>
+        <translation>mangas clasificadas</translation>
     </message>
     <message>
         <source>seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>segundos</translation>
     </message>
     <message>
         <source>rank</source>
-        <translation type="unfinished"></translation>
+        <translation>puesto</translation>
     </message>
     <message>
         <source>rank without</source>
-        <translation type="unfinished"></translation>
+        <translation>puesto sin</translation>
     </message>
     <message>
         <source>clean run</source>
-        <translation type="unfinished"></translation>
+        <translation>manga limpia</translation>
     </message>
     <message>
         <source>Unfinished runs are not counted: nobody knows whether they would have stayed clean.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las mangas sin terminar no cuentan: nadie sabe si habrían seguido limpias.</translation>
     </message>
     <message>
         <source>{} more are not listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} más no se enumeran.</translation>
     </message>
     <message>
         <source>M</source>
-        <translation type="unfinished"></translation>
+        <translation>M</translation>
     </message>
     <message>
         <source>{} more rows are not listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} filas más no se enumeran.</translation>
     </message>
     <message>
         <source>5 % and 95 % of the beta distribution</source>
-        <translation type="unfinished"></translation>
+        <translation>5 % y 95 % de la distribución beta</translation>
     </message>
     <message>
         <source>x</source>
-        <translation type="unfinished"></translation>
+        <translation>x</translation>
     </message>
     <message>
         <source>n</source>
-        <translation type="unfinished"></translation>
+        <translation>n</translation>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished"></translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Wilson&apos;s interval, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalo de Wilson, 90 %</translation>
     </message>
     <message>
         <source>{} runs are</source>
-        <translation type="unfinished"></translation>
+        <translation>{} mangas se omiten</translation>
     </message>
     <message>
         <source>{} left out: {} penalties are not known by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Omitido: {}: {} penalizaciones no se conocen por puerta.</translation>
     </message>
     <message>
         <source> and {} more</source>
-        <translation type="unfinished"></translation>
+        <translation> y {} más</translation>
     </message>
     <message>
         <source>{} {} out: touched more than the {} that all have in common.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} por encima: más toques que el {} común a todas.</translation>
     </message>
     <message numerus="yes">
         <source>{} touches</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} toque</numerusform>
+            <numerusform>{} toques</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} passages</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} paso</numerusform>
+            <numerusform>{} pasos</numerusform>
         </translation>
     </message>
     <message>
         <source>Too few to tell: {} in {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muy pocos para decirlo: {} en {}.</translation>
     </message>
     <message>
         <source>Only one {}: there is nothing to compare it with.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo uno ({}): no hay nada con qué compararlo.</translation>
     </message>
     <message>
         <source>No {} stands out: the highest, {} ({}), may be chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno destaca ({}): el más alto, {} ({}), puede ser azar.</translation>
     </message>
     <message>
         <source>Without this {}: {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin esto ({}): {}.</translation>
     </message>
     <message>
         <source>None of {} cost a place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Coste en puestos de {}: ninguno.</translation>
     </message>
     <message>
         <source>{} of them</source>
-        <translation type="unfinished"></translation>
+        <translation>{} de ellas</translation>
     </message>
     <message>
         <source>Of {} {} cost places, {} a medal.</source>
-        <translation type="unfinished"></translation>
+        <translation>De {}, {} costaron puestos; una medalla, {}.</translation>
     </message>
     <message>
         <source>None of {} was noted in detail.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anotado con detalle de {}: nada.</translation>
     </message>
     <message numerus="yes">
         <source>{} were</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>se anotó {}</numerusform>
+            <numerusform>se anotaron {}</numerusform>
         </translation>
     </message>
     <message>
         <source>Of {} {} noted in detail.</source>
-        <translation type="unfinished"></translation>
+        <translation>De {} {} con detalle.</translation>
     </message>
     <message>
         <source>Too few to tell: no group has {} whole runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muy pocas para decirlo: ningún grupo tiene {} mangas enteras.</translation>
     </message>
     <message>
         <source>{} touches a run in {}, all in one third of the field.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} toques por manga en {}, todas en un mismo tercio de los participantes.</translation>
     </message>
     <message>
         <source>{:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.2f} toques por manga en el tercio más rápido, {:.2f} en el más lento.</translation>
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un 1 % de velocidad compensa {:.2f} toques por manga.</translation>
     </message>
     <message>
         <source>{} of {} without a penalty: {:.1f} % ({:.1f}–{:.1f}).</source>
-        <translation type="unfinished"></translation>
+        <translation>{} de {} sin penalización: {:.1f} % ({:.1f}–{:.1f}).</translation>
     </message>
     <message>
         <source>{} {} {}, place</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} {}, puesto</translation>
     </message>
     <message>
         <source>counted</source>
@@ -2954,361 +2957,361 @@
     </message>
     <message>
         <source>{} left out: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Se omite {}: {}</translation>
     </message>
     <message>
         <source>{} {} of {} ({:.0f}–{:.0f} %)</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} de {} ({:.0f}–{:.0f} %)</translation>
     </message>
     <message>
         <source>{:.1f} % behind the winner, {} (median of {})</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.1f} % respecto al ganador, {} (mediana de {})</translation>
     </message>
     <message>
         <source>within {:.1f} % from run to run</source>
-        <translation type="unfinished"></translation>
+        <translation>variación del {:.1f} % de manga a manga</translation>
     </message>
     <message>
         <source>trend {:+.1f} % a year: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>tendencia {:+.1f} % al año: {}</translation>
     </message>
     <message>
         <source>{}: too few runs to tell a trend behind {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: muy pocas mangas para indicar una tendencia respecto a {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: {:+.1f} % al año respecto a {}{}, {}.</translation>
     </message>
     <message>
         <source>{} of {}&apos;s races is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} de las carreras de {}: no se conoce.</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muy pocas mangas para decir cuánto varían.</translation>
     </message>
     <message>
         <source>From run to run {:.1f} % is chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>De manga a manga, un {:.1f} % es azar.</translation>
     </message>
     <message>
         <source>From run to run {:.1f} % ({:.1f} to {:.1f}) is chance; {:.2f} % is worth gaining.</source>
-        <translation type="unfinished"></translation>
+        <translation>De manga a manga, un {:.1f} % ({:.1f} a {:.1f}) es azar; merece la pena ganar un {:.2f} %.</translation>
     </message>
     <message>
         <source>{} of {} grew faster beyond doubt, {} slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} de {} son más rápidos sin lugar a dudas, {} más lentos.</translation>
     </message>
     <message>
         <source>{} met nobody in these races.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} no coincidió con nadie en estas carreras.</translation>
     </message>
     <message numerus="yes">
         <source>{} rivals</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} rival</numerusform>
+            <numerusform>{} rivales</numerusform>
         </translation>
     </message>
     <message>
         <source>{} is ahead beyond doubt of {} of {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} supera sin lugar a dudas a {} de {}.</translation>
     </message>
     <message>
         <source>No split file of this class has three whole runs of a {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún archivo de parciales de esta clase tiene tres mangas enteras de: {}.</translation>
     </message>
     <message>
         <source>{:.1f} % would have been among the first three in {} of {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un {:.1f} % habría estado entre los tres primeros en {} de {}.</translation>
     </message>
     <message>
         <source>The third was {:.1f} % behind in the median of {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tercero quedó a un {:.1f} % en la mediana de {}.</translation>
     </message>
     <message>
         <source>Nobody of the team has runs enough to expect a place of.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nadie del equipo tiene mangas suficientes para esperar un puesto.</translation>
     </message>
     <message>
         <source>{} may expect place {:.1f} of {}, a medal by {:.0f} %.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} puede esperar el puesto {:.1f} de {}, y una medalla con un {:.0f} %.</translation>
     </message>
     <message numerus="yes">
         <source>{} finals</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} final</numerusform>
+            <numerusform>{} finales</numerusform>
         </translation>
     </message>
     <message>
         <source>{:.1f} % would have been a medal in {} of {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Un {:.1f} % habría sido medalla en {} de {}</translation>
     </message>
     <message>
         <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
-        <translation type="unfinished"></translation>
+        <translation>De {} que tienen ambas las veces suficientes, {} {} sin duda más rápidos en {}, {} más lentos.</translation>
     </message>
     <message>
         <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: {}, {} de {} ({:.0f}–{:.0f} %).</translation>
     </message>
     <message>
         <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
-        <translation type="unfinished"></translation>
+        <translation>Más cerca de los ganadores ({}): {}, {:.1f} % (mediana de {}).</translation>
     </message>
     <message>
         <source>No winner of a phase &quot;{}&quot; of these races is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se conoce ningún ganador de una fase «{}» de estas carreras.</translation>
     </message>
     <message>
         <source>split {}, fastest of it {:.2f}</source>
-        <translation type="unfinished"></translation>
+        <translation>parcial {}, el más rápido {:.2f}</translation>
     </message>
     <message>
         <source>missed</source>
-        <translation type="unfinished"></translation>
+        <translation>con salto</translation>
     </message>
     <message>
         <source>runs</source>
-        <translation type="unfinished"></translation>
+        <translation>mangas</translation>
     </message>
     <message>
         <source>all missed</source>
-        <translation type="unfinished"></translation>
+        <translation>todas con salto</translation>
     </message>
     <message>
         <source>all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>todas las mangas</translation>
     </message>
     <message>
         <source>{}, spread {:.2f}, missed {:.1f} %</source>
-        <translation type="unfinished"></translation>
+        <translation>{}, variación {:.2f}, saltos {:.1f} %</translation>
     </message>
     <message>
         <source>How far behind the winner of the phase and class, penalties included.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia con el ganador de la fase y la clase, penalizaciones incluidas.</translation>
     </message>
     <message>
         <source>100 · (T / W − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (T / W − 1)</translation>
     </message>
     <message>
         <source>of the class winner, not of the men&apos;s kayaks: Wells, thesis, 2018</source>
-        <translation type="unfinished"></translation>
+        <translation>del ganador de la clase, no de los kayaks masculinos: Wells, tesis, 2018</translation>
     </message>
     <message>
         <source>How far behind the fastest times of all splits together, without penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia con los tiempos más rápidos de todos los parciales juntos, sin penalizaciones.</translation>
     </message>
     <message>
         <source>100 · (Σ splits / Σ fastest − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (Σ parciales / Σ más rápidos − 1)</translation>
     </message>
     <message>
         <source>How much a run varies by chance, once the athlete and the course are taken out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuánto varía una manga por azar, una vez descontados el deportista y el recorrido.</translation>
     </message>
     <message>
         <source>100 · (e^(s/100) − 1),  s² = Σe² / df,  df = runs − athletes − phases + connected parts</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · (e^(s/100) − 1),  s² = Σe² / gl,  gl = mangas − deportistas − fases + partes conexas</translation>
     </message>
     <message>
         <source>mixed model of elite canoeists: Bonetti, Hopkins, 2010; interval: χ²</source>
-        <translation type="unfinished"></translation>
+        <translation>modelo mixto de piragüistas de élite: Bonetti, Hopkins, 2010; intervalo: χ²</translation>
     </message>
     <message>
         <source>How much this athlete&apos;s runs varied by chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuánto variaron por azar las mangas de este deportista.</translation>
     </message>
     <message>
         <source>s² = Σe² / (runs · df / all runs)</source>
-        <translation type="unfinished"></translation>
+        <translation>s² = Σe² / (mangas · gl / todas las mangas)</translation>
     </message>
     <message>
         <source>The athlete&apos;s spread drawn towards the common one, the more the fewer the runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>La variación del deportista acercada a la común, tanto más cuantas menos mangas.</translation>
     </message>
     <message>
         <source>s² = (Σe² + 10 · common s²) / (runs · df / all runs + 10)</source>
-        <translation type="unfinished"></translation>
+        <translation>s² = (Σe² + 10 · s² común) / (mangas · gl / todas las mangas + 10)</translation>
     </message>
     <message>
         <source>What is worth gaining: one more medal in ten races among equals at the top.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que merece la pena ganar: una medalla más en diez carreras entre iguales en cabeza.</translation>
     </message>
     <message>
         <source>0.3 · spread</source>
-        <translation type="unfinished"></translation>
+        <translation>0.3 · variación</translation>
     </message>
     <message>
         <source>Hopkins, 2004</source>
-        <translation type="unfinished"></translation>
+        <translation>Hopkins, 2004</translation>
     </message>
     <message>
         <source>The change of the percentage behind from year to year.</source>
-        <translation type="unfinished"></translation>
+        <translation>El cambio del porcentaje de diferencia de un año a otro.</translation>
     </message>
     <message>
         <source>slope of 100 · ln(1 + percent/100) per 365.25 days</source>
-        <translation type="unfinished"></translation>
+        <translation>pendiente de 100 · ln(1 + porcentaje/100) por 365.25 días</translation>
     </message>
     <message>
         <source>Races among whose first three the athlete was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Carreras en las que el deportista estuvo entre los tres primeros.</translation>
     </message>
     <message>
         <source>places 1 to 3 / races with a final position</source>
-        <translation type="unfinished"></translation>
+        <translation>puestos 1 a 3 / carreras con posición final</translation>
     </message>
     <message>
         <source>interval: Wilson</source>
-        <translation type="unfinished"></translation>
+        <translation>intervalo: Wilson</translation>
     </message>
     <message>
         <source>Races in whose final the athlete was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Carreras en cuya final estuvo el deportista.</translation>
     </message>
     <message>
         <source>with a final / with phases</source>
-        <translation type="unfinished"></translation>
+        <translation>con final / con fases</translation>
     </message>
     <message>
         <source>Races in whose semifinal the athlete was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Carreras en cuya semifinal estuvo el deportista.</translation>
     </message>
     <message>
         <source>with a semifinal / with phases</source>
-        <translation type="unfinished"></translation>
+        <translation>con semifinal / con fases</translation>
     </message>
     <message>
         <source>The mean change from one phase of a race to a later one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El cambio medio de una fase de una carrera a otra posterior.</translation>
     </message>
     <message>
         <source>mean of 100 · (ln later − ln earlier)</source>
-        <translation type="unfinished"></translation>
+        <translation>media de 100 · (ln posterior − ln anterior)</translation>
     </message>
     <message>
         <source>How much a single run varies by chance, from pairs of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuánto varía por azar una sola manga, a partir de pares.</translation>
     </message>
     <message>
         <source>SD of the changes / √2</source>
-        <translation type="unfinished"></translation>
+        <translation>DT de los cambios / √2</translation>
     </message>
     <message>
         <source>typical error: Hopkins, 2000</source>
-        <translation type="unfinished"></translation>
+        <translation>error típico: Hopkins, 2000</translation>
     </message>
     <message>
         <source>Phases that both have in which the athlete was faster; ties count half.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fases que tienen ambos en las que el deportista fue más rápido; los empates cuentan la mitad.</translation>
     </message>
     <message>
         <source>(won + ties/2) / met</source>
-        <translation type="unfinished"></translation>
+        <translation>(ganadas + empates/2) / coincidencias</translation>
     </message>
     <message>
         <source>The mean gap in the phases that both have, penalties included.</source>
-        <translation type="unfinished"></translation>
+        <translation>La diferencia media en las fases que tienen ambos, penalizaciones incluidas.</translation>
     </message>
     <message>
         <source>mean of 100 · ln(own / rival&apos;s)</source>
-        <translation type="unfinished"></translation>
+        <translation>media de 100 · ln(propio / del rival)</translation>
     </message>
     <message>
         <source>What percentage behind the winner a rank took, over the races.</source>
-        <translation type="unfinished"></translation>
+        <translation>Con qué porcentaje respecto al ganador se obtuvo un puesto, en las carreras.</translation>
     </message>
     <message>
         <source>median of 100 · (T of the rank / W − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>mediana de 100 · (T del puesto / W − 1)</translation>
     </message>
     <message>
         <source>The chance of a missed gate, drawn towards everybody&apos;s as if by 20 runs more.</source>
-        <translation type="unfinished"></translation>
+        <translation>La probabilidad de un salto, acercada a la de todos como con 20 mangas más.</translation>
     </message>
     <message>
         <source>(missed + 20q) / (runs + 20),  q = (all missed + ½) / (all runs + 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(saltos + 20q) / (mangas + 20),  q = (todos los saltos + ½) / (todas las mangas + 1)</translation>
     </message>
     <message>
         <source>The mean place among this field; with a missed gate behind all that have none.</source>
-        <translation type="unfinished"></translation>
+        <translation>El puesto medio entre estos participantes; con un salto, detrás de todos los que no tienen ninguno.</translation>
     </message>
     <message>
         <source>Σ place · chance,  result normal: effect, spread · √(1 + 1/n)</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ puesto · probabilidad,  resultado normal: efecto, variación · √(1 + 1/n)</translation>
     </message>
     <message>
         <source>The chance of one of the first three places among this field.</source>
-        <translation type="unfinished"></translation>
+        <translation>La probabilidad de uno de los tres primeros puestos entre estos participantes.</translation>
     </message>
     <message>
         <source>chances of the places 1 to 3</source>
-        <translation type="unfinished"></translation>
+        <translation>probabilidades de los puestos 1 a 3</translation>
     </message>
     <message>
         <source>How far behind the winners of a phase, the same number of races before and behind it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia con los ganadores de una fase, con el mismo número de carreras antes y después.</translation>
     </message>
     <message>
         <source>median of 100 · (T / W − 1), without missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>mediana de 100 · (T / W − 1), sin saltos</translation>
     </message>
     <message>
         <source>{} {} {}, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>{} {} {}, porcentaje</translation>
     </message>
     <message>
         <source>90 %, Student&apos;s t with {} degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %, t de Student con {} grados</translation>
     </message>
     <message>
         <source>{:+.1f} % a year</source>
-        <translation type="unfinished"></translation>
+        <translation>{:+.1f} % al año</translation>
     </message>
     <message>
         <source>spread, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>variación, porcentaje</translation>
     </message>
     <message>
         <source>athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>deportistas</translation>
     </message>
     <message>
         <source>race phases</source>
-        <translation type="unfinished"></translation>
+        <translation>fases de carrera</translation>
     </message>
     <message>
         <source>connected parts</source>
-        <translation type="unfinished"></translation>
+        <translation>partes conexas</translation>
     </message>
     <message>
         <source>degrees of freedom</source>
-        <translation type="unfinished"></translation>
+        <translation>grados de libertad</translation>
     </message>
     <message>
         <source>90 %, χ²</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %, χ²</translation>
     </message>
     <message>
         <source>common spread, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>variación común, porcentaje</translation>
     </message>
     <message>
         <source>{} with a missed gate left out</source>
-        <translation type="unfinished"></translation>
+        <translation>{} con salto omitidas</translation>
     </message>
     <message>
         <source>exact Poisson interval, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>intervalo exacto de Poisson, 90 %</translation>
     </message>
     <message>
         <source>median paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>mediana de paleo</translation>
     </message>
     <message>
         <source>Sections</source>
@@ -3320,11 +3323,11 @@
     </message>
     <message>
         <source>Upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Remontes</translation>
     </message>
     <message>
         <source>Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección</translation>
     </message>
     <message>
         <source>Style</source>
@@ -3332,15 +3335,15 @@
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>desconocido</translation>
     </message>
     <message>
         <source> (%1 to %2)</source>
-        <translation type="unfinished"></translation>
+        <translation> (%1 a %2)</translation>
     </message>
     <message>
         <source> (too few)</source>
-        <translation type="unfinished"></translation>
+        <translation> (muy pocas)</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -3352,27 +3355,27 @@
     </message>
     <message>
         <source>Losses and penalties · %1on the reference &quot;%2&quot; · %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Pérdidas y penalizaciones · %1frente a la referencia «%2» · %3</translation>
     </message>
     <message>
         <source>Where time is lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde se pierde tiempo</translation>
     </message>
     <message>
         <source>Seconds a run: gap %1, penalties %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos por manga: diferencia %1, penalizaciones %2</translation>
     </message>
     <message>
         <source>No whole run can be held against this reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna manga entera se puede comparar con esta referencia.</translation>
     </message>
     <message>
         <source>%1 more rows are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 filas más se omiten.</translation>
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <translation>En</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -3380,11 +3383,11 @@
     </message>
     <message>
         <source>Lost, s</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdido, s</translation>
     </message>
     <message>
         <source>A run, s</source>
-        <translation type="unfinished"></translation>
+        <translation>Por manga, s</translation>
     </message>
     <message>
         <source>Percent</source>
@@ -3392,39 +3395,39 @@
     </message>
     <message>
         <source>90 % interval</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalo 90 %</translation>
     </message>
     <message>
         <source>Verdict</source>
-        <translation type="unfinished"></translation>
+        <translation>Veredicto</translation>
     </message>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>muy pocas</translation>
     </message>
     <message>
         <source>%1, run %2, %3 %4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, manga %2, %3 %4</translation>
     </message>
     <message>
         <source>What to train</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué entrenar</translation>
     </message>
     <message>
         <source>whose whole interval is above 0, by what it costs in a run</source>
-        <translation type="unfinished"></translation>
+        <translation>aquello cuyo intervalo entero está por encima de 0, por lo que cuesta en una manga</translation>
     </message>
     <message>
         <source>Nothing stands out from these runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>En estas mangas no destaca nada.</translation>
     </message>
     <message>
         <source>%1. %2, %3: %4 s a run</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2, %3: %4 s por manga</translation>
     </message>
     <message>
         <source>See </source>
-        <translation type="unfinished"></translation>
+        <translation>Véase </translation>
     </message>
     <message>
         <source>Gates</source>
@@ -3436,23 +3439,23 @@
     </message>
     <message>
         <source>Missed</source>
-        <translation type="unfinished"></translation>
+        <translation>Saltos</translation>
     </message>
     <message>
         <source>Percent, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje, 90 %</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Tenth of course</source>
-        <translation type="unfinished"></translation>
+        <translation>Décimo del recorrido</translation>
     </message>
     <message>
         <source>Penalties</source>
@@ -3460,78 +3463,78 @@
     </message>
     <message>
         <source>No run tells its penalties by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna manga indica sus penalizaciones por puerta.</translation>
     </message>
     <message>
         <source>Noted of %1 %2, shares of those noted:</source>
-        <translation type="unfinished"></translation>
+        <translation>Anotadas de %1 %2, partes de las anotadas:</translation>
     </message>
     <message>
         <source>penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>penalización</translation>
     </message>
     <message>
         <source>Penalties by gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizaciones por puerta</translation>
     </message>
     <message>
         <source>and %1 more gates</source>
-        <translation type="unfinished"></translation>
+        <translation>y %1 puertas más</translation>
     </message>
     <message numerus="yes">
         <source>{} missed gates</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} salto</numerusform>
+            <numerusform>{} saltos</numerusform>
         </translation>
     </message>
     <message>
         <source> in </source>
-        <translation type="unfinished"></translation>
+        <translation> en </translation>
     </message>
     <message>
         <source>upstream gate</source>
-        <translation type="unfinished"></translation>
+        <translation>remonte</translation>
     </message>
     <message>
         <source>blue</source>
-        <translation type="unfinished"></translation>
+        <translation>azul</translation>
     </message>
     <message>
         <source>green</source>
-        <translation type="unfinished"></translation>
+        <translation>verde</translation>
     </message>
     <message>
         <source>orange</source>
-        <translation type="unfinished"></translation>
+        <translation>naranja</translation>
     </message>
     <message>
         <source>red</source>
-        <translation type="unfinished"></translation>
+        <translation>rojo</translation>
     </message>
     <message>
         <source>fastest*, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>el más rápido*, %1</translation>
     </message>
     <message>
         <source>%1, slowest, by tenths of the column</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, el más lento, por décimos de la columna</translation>
     </message>
     <message>
         <source>* best of its column, in %1; all others in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>* el mejor de su columna, en %1; todos los demás en %2</translation>
     </message>
     <message>
         <source>Page %1 / %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Página %1 / %2</translation>
     </message>
     <message>
         <source>Sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesiones</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Cantidad</translation>
     </message>
     <message>
         <source>Category</source>
@@ -3539,15 +3542,15 @@
     </message>
     <message>
         <source>plan</source>
-        <translation type="unfinished"></translation>
+        <translation>plan</translation>
     </message>
     <message>
         <source>listed</source>
-        <translation type="unfinished"></translation>
+        <translation>anotado</translation>
     </message>
     <message>
         <source>Nothing is planned and nothing entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada planificado ni introducido.</translation>
     </message>
     <message>
         <source>Season %1</source>
@@ -3555,47 +3558,47 @@
     </message>
     <message>
         <source>Weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>Semanas</translation>
     </message>
     <message>
         <source>Macrocycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Macrociclos</translation>
     </message>
     <message>
         <source>Weeks with an event</source>
-        <translation type="unfinished"></translation>
+        <translation>Semanas con un evento</translation>
     </message>
     <message>
         <source>Races run</source>
-        <translation type="unfinished"></translation>
+        <translation>Carreras disputadas</translation>
     </message>
     <message>
         <source>Group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo %1</translation>
     </message>
     <message>
         <source>  ·  %1 of %2 reached</source>
-        <translation type="unfinished"></translation>
+        <translation>  ·  %1 de %2 logrados</translation>
     </message>
     <message>
         <source>Goals of the season</source>
-        <translation type="unfinished"></translation>
+        <translation>Objetivos de la temporada</translation>
     </message>
     <message>
         <source>No week of this season is planned yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay ninguna semana planificada en esta temporada.</translation>
     </message>
     <message>
         <source>Training by category</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrenamiento por categoría</translation>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana</translation>
     </message>
     <message>
         <source>Days</source>
-        <translation type="unfinished"></translation>
+        <translation>Días</translation>
     </message>
     <message>
         <source>Macrocycle</source>
@@ -3607,47 +3610,47 @@
     </message>
     <message>
         <source>Load, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Carga, %</translation>
     </message>
     <message>
         <source>Event, place</source>
-        <translation type="unfinished"></translation>
+        <translation>Evento, lugar</translation>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Pruebas</translation>
     </message>
     <message>
         <source>Morning</source>
-        <translation type="unfinished"></translation>
+        <translation>Mañana</translation>
     </message>
     <message>
         <source>Afternoon</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarde</translation>
     </message>
     <message>
         <source>Evening</source>
-        <translation type="unfinished"></translation>
+        <translation>Noche</translation>
     </message>
     <message>
         <source>Any time</source>
-        <translation type="unfinished"></translation>
+        <translation>A cualquier hora</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión</translation>
     </message>
     <message>
         <source>continued</source>
-        <translation type="unfinished"></translation>
+        <translation>continuación</translation>
     </message>
     <message>
         <source>Other days</source>
-        <translation type="unfinished"></translation>
+        <translation>Otros días</translation>
     </message>
     <message>
         <source>Training week</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana de entrenamiento</translation>
     </message>
     <message>
         <source>Week %1</source>
@@ -3655,7 +3658,7 @@
     </message>
     <message>
         <source>Goals of the week</source>
-        <translation type="unfinished"></translation>
+        <translation>Objetivos de la semana</translation>
     </message>
     <message>
         <source>Notes</source>
@@ -3687,19 +3690,19 @@
     </message>
     <message>
         <source>Best</source>
-        <translation type="unfinished"></translation>
+        <translation>Mejor</translation>
     </message>
     <message>
         <source>By</source>
-        <translation type="unfinished"></translation>
+        <translation>Por</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados</translation>
     </message>
     <message>
         <source>Ideal run without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga ideal sin penalizaciones</translation>
     </message>
     <message>
         <source>Ideal run</source>
@@ -3707,27 +3710,27 @@
     </message>
     <message>
         <source>Fastest run</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga más rápida</translation>
     </message>
     <message>
         <source>Split times</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempos parciales</translation>
     </message>
     <message>
         <source>There are no runs to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay mangas que mostrar.</translation>
     </message>
     <message>
         <source>%1 gates</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 puertas</translation>
     </message>
     <message>
         <source>, %1 upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 remontes</translation>
     </message>
     <message>
         <source>Race</source>
-        <translation type="unfinished"></translation>
+        <translation>Carrera</translation>
     </message>
     <message>
         <source>Place</source>
@@ -3743,7 +3746,7 @@
     </message>
     <message>
         <source>For comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Para comparar</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -3755,11 +3758,11 @@
     </message>
     <message>
         <source> Grey: not timed as a whole, never a best.</source>
-        <translation type="unfinished"></translation>
+        <translation> Gris: sin cronometrar como un todo, nunca es el mejor.</translation>
     </message>
     <message>
         <source>Split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcial %1</translation>
     </message>
     <message>
         <source>Run</source>
@@ -3767,23 +3770,23 @@
     </message>
     <message>
         <source>%1 s of %2 s; strokes are counted of whole sections.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s de %2 s; las paladas se cuentan por tramos enteros.</translation>
     </message>
     <message>
         <source>The penalties of this run are not known by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las penalizaciones de esta manga no se conocen por puerta.</translation>
     </message>
     <message>
         <source>Time so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo hasta aquí</translation>
     </message>
     <message>
         <source>Among all runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Entre todas las mangas</translation>
     </message>
     <message>
         <source>Among all runs of </source>
-        <translation type="unfinished"></translation>
+        <translation>Entre todas las mangas de </translation>
     </message>
     <message>
         <source>Gate</source>
@@ -3791,11 +3794,11 @@
     </message>
     <message>
         <source>Entrance</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada</translation>
     </message>
     <message>
         <source>Exit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>Turn</source>
@@ -3823,27 +3826,27 @@
     </message>
     <message>
         <source>In the run at</source>
-        <translation type="unfinished"></translation>
+        <translation>En la manga en</translation>
     </message>
     <message>
         <source>Comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Comentarios</translation>
     </message>
     <message>
         <source>Split {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcial {}</translation>
     </message>
     <message>
         <source>best</source>
-        <translation type="unfinished"></translation>
+        <translation>mejor</translation>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Paladas</translation>
     </message>
     <message>
         <source>per min</source>
-        <translation type="unfinished"></translation>
+        <translation>por min</translation>
     </message>
     <message>
         <source>Split</source>
@@ -3851,7 +3854,7 @@
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>Penalty</source>
@@ -3859,59 +3862,59 @@
     </message>
     <message>
         <source>on the film</source>
-        <translation type="unfinished"></translation>
+        <translation>en el vídeo</translation>
     </message>
     <message>
         <source>recording</source>
-        <translation type="unfinished"></translation>
+        <translation>grabación</translation>
     </message>
     <message>
         <source>gap and rank among all runs of the category; the run&apos;s with penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>diferencia y puesto entre todas las mangas de la categoría; los de la manga, con penalizaciones</translation>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Parciales</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>y %1 más</translation>
     </message>
     <message>
         <source>Recording: </source>
-        <translation type="unfinished"></translation>
+        <translation>Grabación: </translation>
     </message>
     <message>
         <source>third of the final, median</source>
-        <translation type="unfinished"></translation>
+        <translation>tercero de la final, mediana</translation>
     </message>
     <message>
         <source>rank %1: %2 %</source>
-        <translation type="unfinished"></translation>
+        <translation>puesto %1: %2 %</translation>
     </message>
     <message>
         <source>own median</source>
-        <translation type="unfinished"></translation>
+        <translation>mediana propia</translation>
     </message>
     <message>
         <source>Medal</source>
-        <translation type="unfinished"></translation>
+        <translation>Medalla</translation>
     </message>
     <message>
         <source>Season </source>
-        <translation type="unfinished"></translation>
+        <translation>Temporada </translation>
     </message>
     <message>
         <source>%1 · %2 races · intervals are 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 carreras · los intervalos son del 90 %</translation>
     </message>
     <message>
         <source>Percent behind the winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje respecto al ganador</translation>
     </message>
     <message>
         <source>Percent behind the fastest splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje respecto a los parciales más rápidos</translation>
     </message>
     <message>
         <source>Races</source>
@@ -3919,11 +3922,11 @@
     </message>
     <message>
         <source>Reached</source>
-        <translation type="unfinished"></translation>
+        <translation>Alcanzado</translation>
     </message>
     <message>
         <source>Medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medallas</translation>
     </message>
     <message>
         <source>Finals</source>
@@ -3935,55 +3938,55 @@
     </message>
     <message>
         <source>Medals and finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medallas y finales</translation>
     </message>
     <message>
         <source>Change, below 0 is faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambio; menos de 0 es más rápido</translation>
     </message>
     <message>
         <source>A year on the winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Por año, al ganador</translation>
     </message>
     <message>
         <source>A year on the splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Por año, en parciales</translation>
     </message>
     <message>
         <source>Run 1 to run 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga 1 a manga 2</translation>
     </message>
     <message>
         <source>Semifinal to final</source>
-        <translation type="unfinished"></translation>
+        <translation>Semifinal a final</translation>
     </message>
     <message>
         <source>Heats to final, behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Clasificatoria a final</translation>
     </message>
     <message>
         <source>Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambios</translation>
     </message>
     <message>
         <source>Ahead of</source>
-        <translation type="unfinished"></translation>
+        <translation>Por delante de</translation>
     </message>
     <message>
         <source>Met</source>
-        <translation type="unfinished"></translation>
+        <translation>Coinc.</translation>
     </message>
     <message>
         <source>Head to head</source>
-        <translation type="unfinished"></translation>
+        <translation>Cara a cara</translation>
     </message>
     <message>
         <source>What a rank of the final took</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué hizo falta para un puesto de la final</translation>
     </message>
     <message>
         <source>%1 athletes · intervals are 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 deportistas · los intervalos son del 90 %</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -3991,63 +3994,63 @@
     </message>
     <message>
         <source>Chance, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Probabilidad, %</translation>
     </message>
     <message>
         <source>% a year</source>
-        <translation type="unfinished"></translation>
+        <translation>% al año</translation>
     </message>
     <message>
         <source>On the splits</source>
-        <translation type="unfinished"></translation>
+        <translation>En parciales</translation>
     </message>
     <message>
         <source>On the winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Al ganador</translation>
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportistas</translation>
     </message>
     <message>
         <source>What a rank took: </source>
-        <translation type="unfinished"></translation>
+        <translation>Qué hizo falta para un puesto: </translation>
     </message>
     <message>
         <source>Expected places</source>
-        <translation type="unfinished"></translation>
+        <translation>Puestos esperados</translation>
     </message>
     <message>
         <source>best %1</source>
-        <translation type="unfinished"></translation>
+        <translation>mejor %1</translation>
     </message>
     <message>
         <source> · races %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation> · carreras %1 a %2</translation>
     </message>
     <message>
         <source>, continued</source>
-        <translation type="unfinished"></translation>
+        <translation>, continuación</translation>
     </message>
     <message>
         <source>Pos</source>
-        <translation type="unfinished"></translation>
+        <translation>Pos</translation>
     </message>
     <message>
         <source>SURNAME Name</source>
-        <translation type="unfinished"></translation>
+        <translation>APELLIDO Nombre</translation>
     </message>
     <message>
         <source>Club</source>
-        <translation type="unfinished"></translation>
+        <translation>Club</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Año</translation>
     </message>
     <message>
         <source>xTime</source>
-        <translation type="unfinished"></translation>
+        <translation>xTime</translation>
     </message>
     <message>
         <source>Bonus</source>
@@ -4055,7 +4058,7 @@
     </message>
     <message>
         <source>x Score</source>
-        <translation type="unfinished"></translation>
+        <translation>x Punt.</translation>
     </message>
     <message>
         <source>Score</source>
@@ -4063,31 +4066,31 @@
     </message>
     <message>
         <source>Percent behind the best of the race and category. </source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje respecto al mejor de la carrera y la categoría. </translation>
     </message>
     <message>
         <source>Percent behind the best expected time of the race and category. </source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje respecto al mejor tiempo esperado de la carrera y la categoría. </translation>
     </message>
     <message>
         <source>The worst result is struck through and does not count</source>
-        <translation type="unfinished"></translation>
+        <translation>El peor resultado aparece tachado y no cuenta</translation>
     </message>
     <message>
         <source>; with a bonus the two worst. </source>
-        <translation type="unfinished"></translation>
+        <translation>; con bonificación, los dos peores. </translation>
     </message>
     <message>
         <source>Score: the sum of the others divided by three. %1: no result, P: preselected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntuación: la suma de los demás dividida por tres. %1: sin resultado, P: preseleccionado.</translation>
     </message>
     <message>
         <source>Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Categorías</translation>
     </message>
     <message>
         <source>Kind %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo %1</translation>
     </message>
     <message>
         <source>None</source>
@@ -4095,15 +4098,15 @@
     </message>
     <message>
         <source>Place and date</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar y fecha</translation>
     </message>
     <message>
         <source>Signature</source>
-        <translation type="unfinished"></translation>
+        <translation>Firma</translation>
     </message>
     <message>
         <source>the median of each column</source>
-        <translation type="unfinished"></translation>
+        <translation>la mediana de cada columna</translation>
     </message>
     <message>
         <source>the ideal run</source>
@@ -4111,447 +4114,447 @@
     </message>
     <message>
         <source>the best of each column</source>
-        <translation type="unfinished"></translation>
+        <translation>el mejor de cada columna</translation>
     </message>
     <message>
         <source>Gaps in seconds to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencias en segundos con %1.</translation>
     </message>
     <message>
         <source>Places within each column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puestos en cada columna.</translation>
     </message>
     <message>
         <source>Percent behind the best of each column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje respecto al mejor de cada columna.</translation>
     </message>
     <message>
         <source>Percentiles of each column; the best has 100.</source>
-        <translation type="unfinished"></translation>
+        <translation>Percentiles de cada columna; el mejor tiene 100.</translation>
     </message>
     <message>
         <source>Times from the start, without penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempos desde la salida, sin penalizaciones.</translation>
     </message>
     <message>
         <source>Penalties are included in sections and total.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las penalizaciones están incluidas en los tramos y en el total.</translation>
     </message>
     <message>
         <source>Penalties are not included.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las penalizaciones no están incluidas.</translation>
     </message>
     <message>
         <source>Penalty seconds in brackets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos de penalización entre paréntesis.</translation>
     </message>
     <message>
         <source>Compared among all %1 runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparado entre las %1 mangas.</translation>
     </message>
     <message>
         <source>Final position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición final</translation>
     </message>
     <message>
         <source>No athlete of this category comes into question.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún deportista de esta categoría entra en consideración.</translation>
     </message>
     <message>
         <source>medals</source>
-        <translation type="unfinished"></translation>
+        <translation>medallas</translation>
     </message>
     <message>
         <source>championship medals</source>
-        <translation type="unfinished"></translation>
+        <translation>medallas de campeonato</translation>
     </message>
     <message>
         <source>top 6</source>
-        <translation type="unfinished"></translation>
+        <translation>6 primeros</translation>
     </message>
     <message>
         <source>top 15</source>
-        <translation type="unfinished"></translation>
+        <translation>15 primeros</translation>
     </message>
     <message>
         <source>What counts is summed and divided by three, however many races there were.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que cuenta se suma y se divide por tres, por muchas carreras que haya.</translation>
     </message>
     <message>
         <source>Σ counted / 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ contados / 3</translation>
     </message>
     <message>
         <source>the rules of the selection</source>
-        <translation type="unfinished"></translation>
+        <translation>las normas del selectivo</translation>
     </message>
     <message>
         <source>The results and the bonus that count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los resultados y la bonificación que cuentan.</translation>
     </message>
     <message>
         <source>Σ counted</source>
-        <translation type="unfinished"></translation>
+        <translation>Σ contados</translation>
     </message>
     <message>
         <source>Counts in the score.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta en la puntuación.</translation>
     </message>
     <message>
         <source>percent</source>
-        <translation type="unfinished"></translation>
+        <translation>porcentaje</translation>
     </message>
     <message>
         <source>Dropped: the worst result of all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Descartado: el peor resultado de todos.</translation>
     </message>
     <message>
         <source>not in the score</source>
-        <translation type="unfinished"></translation>
+        <translation>no está en la puntuación</translation>
     </message>
     <message>
         <source>Dropped too: a bonus stands among the results.</source>
-        <translation type="unfinished"></translation>
+        <translation>Descartado también: entre los resultados hay una bonificación.</translation>
     </message>
     <message>
         <source>How far behind the best of the category in this race, with penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia con el mejor de la categoría en esta carrera, con penalizaciones.</translation>
     </message>
     <message>
         <source>100 · ((time + penalties) / best − 1)</source>
-        <translation type="unfinished"></translation>
+        <translation>100 · ((tiempo + penalizaciones) / mejor − 1)</translation>
     </message>
     <message>
         <source>A race without a result stands for this much.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una carrera sin resultado equivale a esto.</translation>
     </message>
     <message>
         <source>999.99</source>
-        <translation type="unfinished"></translation>
+        <translation>999.99</translation>
     </message>
     <message>
         <source>More than two medals, or one at a championship, in the first two seasons.</source>
-        <translation type="unfinished"></translation>
+        <translation>Más de dos medallas, o una en un campeonato, en las dos primeras temporadas.</translation>
     </message>
     <message>
         <source>medals &gt; 2 or championship medals ≥ 1</source>
-        <translation type="unfinished"></translation>
+        <translation>medallas &gt; 2 o medallas de campeonato ≥ 1</translation>
     </message>
     <message>
         <source>the rules of the categorization</source>
-        <translation type="unfinished"></translation>
+        <translation>las normas de la categorización</translation>
     </message>
     <message>
         <source>Three times among the first six in the first two seasons.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tres veces entre los seis primeros en las dos primeras temporadas.</translation>
     </message>
     <message>
         <source>top 6 ≥ 3</source>
-        <translation type="unfinished"></translation>
+        <translation>6 primeros ≥ 3</translation>
     </message>
     <message>
         <source>Four times among the first fifteen in the first two seasons.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuatro veces entre los quince primeros en las dos primeras temporadas.</translation>
     </message>
     <message>
         <source>top 15 ≥ 4</source>
-        <translation type="unfinished"></translation>
+        <translation>15 primeros ≥ 4</translation>
     </message>
     <message>
         <source>None of the other levels is reached in the first two seasons.</source>
-        <translation type="unfinished"></translation>
+        <translation>En las dos primeras temporadas no se alcanza ninguno de los otros niveles.</translation>
     </message>
     <message>
         <source>otherwise</source>
-        <translation type="unfinished"></translation>
+        <translation>en otro caso</translation>
     </message>
     <message>
         <source>Races with a final position of 1 to 3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Carreras con una posición final de 1 a 3.</translation>
     </message>
     <message>
         <source>count</source>
-        <translation type="unfinished"></translation>
+        <translation>cuenta</translation>
     </message>
     <message>
         <source>Races with a final position of 1 to 6.</source>
-        <translation type="unfinished"></translation>
+        <translation>Carreras con una posición final de 1 a 6.</translation>
     </message>
     <message>
         <source>Races with a final position of 1 to 15.</source>
-        <translation type="unfinished"></translation>
+        <translation>Carreras con una posición final de 1 a 15.</translation>
     </message>
     <message>
         <source>Races with a final position.</source>
-        <translation type="unfinished"></translation>
+        <translation>Carreras con una posición final.</translation>
     </message>
     <message>
         <source>What the run would have taken at its usual distance from the best times.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que habría tardado la manga a su distancia habitual de los mejores tiempos.</translation>
     </message>
     <message>
         <source>factor · perfect time</source>
-        <translation type="unfinished"></translation>
+        <translation>factor · tiempo perfecto</translation>
     </message>
     <message>
         <source>How far its times stand above the best ones, without the outermost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuánto superan sus tiempos a los mejores, sin los extremos.</translation>
     </message>
     <message>
         <source>mean of the ratios that are left</source>
-        <translation type="unfinished"></translation>
+        <translation>media de las razones que quedan</translation>
     </message>
     <message>
         <source>A time of the run against the best of all runs there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un tiempo de la manga frente al mejor de todas las mangas ahí.</translation>
     </message>
     <message>
         <source>own / best</source>
-        <translation type="unfinished"></translation>
+        <translation>propio / mejor</translation>
     </message>
     <message>
         <source>The best times of all runs, put together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los mejores tiempos de todas las mangas, reunidos.</translation>
     </message>
     <message>
         <source>factor</source>
-        <translation type="unfinished"></translation>
+        <translation>factor</translation>
     </message>
     <message>
         <source>perfect time</source>
-        <translation type="unfinished"></translation>
+        <translation>tiempo perfecto</translation>
     </message>
     <message>
         <source>ratios that are left</source>
-        <translation type="unfinished"></translation>
+        <translation>razones que quedan</translation>
     </message>
     <message>
         <source>Side by side</source>
-        <translation type="unfinished"></translation>
+        <translation>Lado a lado</translation>
     </message>
     <message>
         <source>Above each other</source>
-        <translation type="unfinished"></translation>
+        <translation>Uno encima de otro</translation>
     </message>
     <message>
         <source>Two by two</source>
-        <translation type="unfinished"></translation>
+        <translation>Dos por dos</translation>
     </message>
     <message>
         <source>One within the other</source>
-        <translation type="unfinished"></translation>
+        <translation>Uno dentro de otro</translation>
     </message>
     <message>
         <source>Ghost: seen through</source>
-        <translation type="unfinished"></translation>
+        <translation>Fantasma: translúcido</translation>
     </message>
     <message>
         <source>Left and right of a line</source>
-        <translation type="unfinished"></translation>
+        <translation>A izquierda y derecha de una línea</translation>
     </message>
     <message>
         <source>at the start</source>
-        <translation type="unfinished"></translation>
+        <translation>en la salida</translation>
     </message>
     <message>
         <source>at one split</source>
-        <translation type="unfinished"></translation>
+        <translation>en un parcial</translation>
     </message>
     <message>
         <source>at every split, waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>en cada parcial, esperando</translation>
     </message>
     <message>
         <source>at every split, stretched</source>
-        <translation type="unfinished"></translation>
+        <translation>en cada parcial, estirado</translation>
     </message>
     <message>
         <source>the whole run</source>
-        <translation type="unfinished"></translation>
+        <translation>la manga entera</translation>
     </message>
     <message>
         <source>from split to split</source>
-        <translation type="unfinished"></translation>
+        <translation>de parcial a parcial</translation>
     </message>
     <message>
         <source>Combination</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinación</translation>
     </message>
     <message>
         <source>Enter plays both films</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro reproduce los dos vídeos</translation>
     </message>
     <message>
         <source>No film is known here</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí no se conoce ningún vídeo</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Own time less the reference&apos;s; all of them add up to what is shown on top</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo propio menos el de la referencia; todos suman lo que se muestra arriba</translation>
     </message>
     <message>
         <source>Between</source>
-        <translation type="unfinished"></translation>
+        <translation>Entre ellas</translation>
     </message>
     <message>
         <source>Lost outside the upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdido fuera de los remontes</translation>
     </message>
     <message>
         <source>Reference&apos;s strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Paladas de la referencia</translation>
     </message>
     <message>
         <source>Own seconds of penalty in the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos propios de penalización en el tramo</translation>
     </message>
     <message>
         <source>A tick makes the run what all are held against</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar una manga hace que todas se comparen con ella</translation>
     </message>
     <message>
         <source>Paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>Paleo</translation>
     </message>
     <message>
         <source>Timing</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronometraje</translation>
     </message>
     <message>
         <source>On expected time</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobre esperado</translation>
     </message>
     <message>
         <source>Time without penalties less the expected time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo sin penalizaciones menos el tiempo esperado</translation>
     </message>
     <message>
         <source>Lost up to the pole line</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdido hasta la línea de la puerta</translation>
     </message>
     <message>
         <source>Lost from the pole line on</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdido desde la línea de la puerta</translation>
     </message>
     <message>
         <source>Noted</source>
-        <translation type="unfinished"></translation>
+        <translation>Anotado</translation>
     </message>
     <message>
         <source>not noted</source>
-        <translation type="unfinished"></translation>
+        <translation>sin anotar</translation>
     </message>
     <message>
         <source>Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Coste</translation>
     </message>
     <message>
         <source>Seconds of the chosen way over the fastest one timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos de la trazada elegida por encima de la más rápida cronometrada</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Adelante</translation>
     </message>
     <message>
         <source>Turning rate (left above 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad de giro (izquierda mayor que 0)</translation>
     </message>
     <message>
         <source>Turning</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad de giro</translation>
     </message>
     <message>
         <source>Roll (starboard down above 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Balanceo (estribor abajo mayor que 0)</translation>
     </message>
     <message>
         <source>Pitch (bow up above 0)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cabeceo (proa arriba mayor que 0)</translation>
     </message>
     <message>
         <source>Speed by position</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad por posición</translation>
     </message>
     <message>
         <source>Hull speed, estimated</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad del casco, estimada</translation>
     </message>
     <message>
         <source>Hull speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad del casco</translation>
     </message>
     <message>
         <source>Watch acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceleración del reloj</translation>
     </message>
     <message>
         <source>Watch</source>
-        <translation type="unfinished"></translation>
+        <translation>Reloj</translation>
     </message>
     <message>
         <source>Acceleration of the phone, x</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceleración del teléfono, x</translation>
     </message>
     <message>
         <source>Acceleration x</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceleración x</translation>
     </message>
     <message>
         <source>Acceleration of the phone, y</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceleración del teléfono, y</translation>
     </message>
     <message>
         <source>Acceleration y</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceleración y</translation>
     </message>
     <message>
         <source>Acceleration of the phone, z</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceleración del teléfono, z</translation>
     </message>
     <message>
         <source>Acceleration z</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceleración z</translation>
     </message>
     <message>
         <source>Rotation of the phone, x</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación del teléfono, x</translation>
     </message>
     <message>
         <source>Rotation x</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación x</translation>
     </message>
     <message>
         <source>Rotation of the phone, y</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación del teléfono, y</translation>
     </message>
     <message>
         <source>Rotation y</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación y</translation>
     </message>
     <message>
         <source>Rotation of the phone, z</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación del teléfono, z</translation>
     </message>
     <message>
         <source>Rotation z</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación z</translation>
     </message>
     <message>
         <source>by gate</source>
-        <translation type="unfinished"></translation>
+        <translation>por puerta</translation>
     </message>
     <message>
         <source>by type of gate</source>
-        <translation type="unfinished"></translation>
+        <translation>por tipo de puerta</translation>
     </message>
     <message>
         <source>by tenth of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>por décimo del recorrido</translation>
     </message>
     <message>
         <source>by section</source>
@@ -5277,19 +5280,19 @@
     </message>
     <message>
         <source>Imported “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Se importó «%1»</translation>
     </message>
     <message>
         <source>“%1” cannot be imported</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede importar</translation>
     </message>
     <message>
         <source>Watches and phones (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Relojes y teléfonos (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Import from a watch or a phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar de un reloj o un teléfono</translation>
     </message>
     <message>
         <source>%1 s a run</source>
@@ -5361,7 +5364,7 @@
     </message>
     <message>
         <source>By</source>
-        <translation type="unfinished"></translation>
+        <translation>Por</translation>
     </message>
     <message>
         <source>What</source>
@@ -5385,7 +5388,7 @@
     </message>
     <message>
         <source>A run, s</source>
-        <translation type="unfinished"></translation>
+        <translation>Por manga, s</translation>
     </message>
     <message>
         <source>No row loses time for sure.</source>
@@ -5425,7 +5428,7 @@
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>desconocido</translation>
     </message>
     <message>
         <source>a race without a name</source>
@@ -5621,7 +5624,7 @@
     </message>
     <message>
         <source>Missed</source>
-        <translation type="unfinished"></translation>
+        <translation>Saltos</translation>
     </message>
     <message>
         <source>Touch rate</source>
@@ -5757,11 +5760,11 @@
     </message>
     <message>
         <source>Sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesiones</translation>
     </message>
     <message>
         <source>Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Cantidad</translation>
     </message>
     <message>
         <source>What the sessions add up to, in the unit that they are written in</source>
@@ -5797,7 +5800,7 @@
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión</translation>
     </message>
     <message>
         <source>Missed gates</source>
@@ -5821,7 +5824,7 @@
     </message>
     <message>
         <source>Medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medallas</translation>
     </message>
     <message>
         <source>Finals</source>
@@ -5841,7 +5844,7 @@
     </message>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>muy pocas</translation>
     </message>
     <message>
         <source>Change behind, %</source>
@@ -5885,7 +5888,7 @@
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muy pocas mangas para decir cuánto varían.</translation>
     </message>
     <message>
         <source>Trend behind the winners</source>
@@ -5901,7 +5904,7 @@
     </message>
     <message>
         <source>Verdict</source>
-        <translation type="unfinished"></translation>
+        <translation>Veredicto</translation>
     </message>
     <message>
         <source>Too few runs of everybody to tell a trend: four over two months are needed.</source>
@@ -5921,7 +5924,7 @@
     </message>
     <message>
         <source>Met</source>
-        <translation type="unfinished"></translation>
+        <translation>Coinc.</translation>
     </message>
     <message>
         <source>Won</source>
@@ -5981,7 +5984,7 @@
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>Behind the winner, %</source>
@@ -6409,7 +6412,7 @@
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportistas</translation>
     </message>
     <message>
         <source>Selection %1</source>
@@ -6537,7 +6540,7 @@
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Pruebas</translation>
     </message>
     <message>
         <source>Lap, sprint and eight tests on the water, compared.</source>
@@ -6772,7 +6775,7 @@
     </message>
     <message>
         <source>SURNAME Name</source>
-        <translation type="unfinished"></translation>
+        <translation>APELLIDO Nombre</translation>
     </message>
     <message>
         <source>unknown</source>
@@ -7101,7 +7104,7 @@
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Paladas</translation>
     </message>
     <message>
         <source>Force (N)</source>
@@ -7497,7 +7500,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Paladas</translation>
     </message>
     <message>
         <source>Stretches</source>
@@ -8207,11 +8210,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>muy pocas</translation>
     </message>
     <message>
         <source>Medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medallas</translation>
     </message>
     <message>
         <source>Finals</source>
@@ -8223,7 +8226,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Año</translation>
     </message>
     <message>
         <source>Median behind the winner, %</source>
@@ -8250,7 +8253,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Race</source>
-        <translation type="unfinished"></translation>
+        <translation>Carrera</translation>
     </message>
     <message>
         <source>Gate</source>
@@ -8270,7 +8273,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>As it was</source>
@@ -8372,7 +8375,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión</translation>
     </message>
     <message>
         <source>Category</source>
@@ -8388,7 +8391,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Comentarios</translation>
     </message>
     <message>
         <source>Such as 4 8 12</source>
@@ -8851,7 +8854,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados</translation>
     </message>
     <message>
         <source>films of the folder</source>
@@ -9433,7 +9436,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>Gap to the best</source>
@@ -9800,7 +9803,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::EightForm</name>
     <message>
         <source>Split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcial %1</translation>
     </message>
     <message>
         <source>&amp;Category</source>
@@ -9812,7 +9815,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Parciales</translation>
     </message>
     <message>
         <source>Score</source>
@@ -10008,7 +10011,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Name of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del deportista</translation>
     </message>
     <message>
         <source>&amp;Date</source>
@@ -10859,11 +10862,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>run</source>
-        <translation type="unfinished"></translation>
+        <translation>manga</translation>
     </message>
     <message>
         <source>runs</source>
-        <translation type="unfinished"></translation>
+        <translation>mangas</translation>
     </message>
     <message>
         <source>section</source>
@@ -10883,7 +10886,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>penalización</translation>
     </message>
     <message>
         <source>penalties</source>
@@ -10891,7 +10894,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>loss</source>
-        <translation type="unfinished"></translation>
+        <translation>pérdida</translation>
     </message>
     <message>
         <source>losses</source>
@@ -11025,7 +11028,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Penalties by gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizaciones por puerta</translation>
     </message>
     <message>
         <source>Runs with a penalty at the gate, of %1</source>
@@ -11069,11 +11072,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Missed</source>
-        <translation type="unfinished"></translation>
+        <translation>Saltos</translation>
     </message>
     <message>
         <source>missed</source>
-        <translation type="unfinished"></translation>
+        <translation>con salto</translation>
     </message>
     <message>
         <source>touch</source>
@@ -11096,7 +11099,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <translation>En</translation>
     </message>
     <message>
         <source>Out</source>
@@ -11151,7 +11154,7 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     <name>kavela::desktop::Gauge</name>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>desconocido</translation>
     </message>
 </context>
 <context>
@@ -11258,7 +11261,7 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo %1</translation>
     </message>
     <message>
         <source>%1 of %2 reached</source>
@@ -11843,11 +11846,11 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Best</source>
-        <translation type="unfinished"></translation>
+        <translation>Mejor</translation>
     </message>
     <message>
         <source>By</source>
-        <translation type="unfinished"></translation>
+        <translation>Por</translation>
     </message>
     <message>
         <source>Ideal run %1 s</source>
@@ -11932,7 +11935,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::IntervalChart</name>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>muy pocas</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -12057,7 +12060,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::IntervalsPanel</name>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión</translation>
     </message>
     <message>
         <source>Make-up</source>
@@ -12852,7 +12855,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Parciales</translation>
     </message>
     <message>
         <source>Micro splits</source>
@@ -12860,11 +12863,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Remontes</translation>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Paladas</translation>
     </message>
     <message>
         <source>Time losses</source>
@@ -13153,7 +13156,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Paladas</translation>
     </message>
     <message>
         <source>1/min</source>
@@ -13317,7 +13320,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::NotePage</name>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Parciales</translation>
     </message>
     <message>
         <source>Penalties</source>
@@ -13329,7 +13332,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Paladas</translation>
     </message>
     <message>
         <source>Micro</source>
@@ -13345,7 +13348,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Comentarios</translation>
     </message>
     <message>
         <source>Ways</source>
@@ -13859,7 +13862,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas</translation>
     </message>
 </context>
 <context>
@@ -13957,7 +13960,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>penalización</translation>
     </message>
     <message>
         <source>Total</source>
@@ -13993,7 +13996,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Parciales</translation>
     </message>
     <message>
         <source>removal of a run</source>
@@ -14477,7 +14480,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportistas</translation>
     </message>
     <message>
         <source>Planning</source>
@@ -14752,11 +14755,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Año</translation>
     </message>
     <message>
         <source>Race</source>
-        <translation type="unfinished"></translation>
+        <translation>Carrera</translation>
     </message>
     <message>
         <source>Place</source>
@@ -14772,7 +14775,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>Total</source>
@@ -14788,7 +14791,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>desconocido</translation>
     </message>
     <message>
         <source>Behind, %</source>
@@ -15461,7 +15464,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>SURNAME Name</source>
-        <translation type="unfinished"></translation>
+        <translation>APELLIDO Nombre</translation>
     </message>
     <message>
         <source>Score</source>
@@ -15473,11 +15476,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Año</translation>
     </message>
     <message>
         <source>Club</source>
-        <translation type="unfinished"></translation>
+        <translation>Club</translation>
     </message>
     <message>
         <source>Pre</source>
@@ -15509,7 +15512,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>penalty</source>
-        <translation type="unfinished"></translation>
+        <translation>penalización</translation>
     </message>
     <message>
         <source>result removed</source>
@@ -15517,7 +15520,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>result</source>
-        <translation type="unfinished"></translation>
+        <translation>resultado</translation>
     </message>
 </context>
 <context>
@@ -15642,7 +15645,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Missed</source>
-        <translation type="unfinished"></translation>
+        <translation>Saltos</translation>
     </message>
     <message>
         <source>Missed gates</source>
@@ -15873,7 +15876,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RecordingOfRun</name>
     <message>
         <source>recording</source>
-        <translation type="unfinished"></translation>
+        <translation>grabación</translation>
     </message>
     <message>
         <source>recording taken off</source>
@@ -16721,7 +16724,7 @@ Elige un archivo.</translation>
     <name>kavela::desktop::SeasonActions</name>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportistas</translation>
     </message>
     <message>
         <source>&amp;Open a team…</source>
@@ -16891,7 +16894,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>Puesto</translation>
     </message>
     <message>
         <source>Points</source>
@@ -16938,11 +16941,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>too few</source>
-        <translation type="unfinished"></translation>
+        <translation>muy pocas</translation>
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>desconocido</translation>
     </message>
     <message>
         <source>No whole run of this athlete can be held against the reference.</source>
@@ -16958,7 +16961,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>By</source>
-        <translation type="unfinished"></translation>
+        <translation>Por</translation>
     </message>
     <message>
         <source>What</source>
@@ -17002,7 +17005,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Verdict</source>
-        <translation type="unfinished"></translation>
+        <translation>Veredicto</translation>
     </message>
     <message>
         <source>What the interval says: losing where all of it is above 0</source>
@@ -17087,7 +17090,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Semifinal to final</source>
-        <translation type="unfinished"></translation>
+        <translation>Semifinal a final</translation>
     </message>
     <message>
         <source>Heats to final, percent behind</source>
@@ -17115,11 +17118,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Head to head</source>
-        <translation type="unfinished"></translation>
+        <translation>Cara a cara</translation>
     </message>
     <message>
         <source>Medals and finals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medallas y finales</translation>
     </message>
     <message>
         <source>How far</source>
@@ -17127,7 +17130,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Medals</source>
-        <translation type="unfinished"></translation>
+        <translation>Medallas</translation>
     </message>
     <message>
         <source>Finals</source>
@@ -17139,7 +17142,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Expected places</source>
-        <translation type="unfinished"></translation>
+        <translation>Puestos esperados</translation>
     </message>
     <message>
         <source>What it takes</source>
@@ -17147,7 +17150,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportistas</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -17449,7 +17452,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>m</source>
-        <translation type="unfinished"></translation>
+        <translation>m</translation>
     </message>
     <message>
         <source>Turn li&amp;mit</source>
@@ -17572,7 +17575,7 @@ Elige un archivo.</translation>
     <name>kavela::desktop::SelectionEdits</name>
     <message>
         <source>Race</source>
-        <translation type="unfinished"></translation>
+        <translation>Carrera</translation>
     </message>
     <message>
         <source>Race location</source>
@@ -17742,7 +17745,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Categorías</translation>
     </message>
     <message>
         <source>Bonus</source>
@@ -17975,7 +17978,7 @@ Elige un archivo.</translation>
     <name>kavela::desktop::SessionTables</name>
     <message>
         <source>Strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>Paladas</translation>
     </message>
     <message>
         <source>Turns</source>
@@ -18105,7 +18108,7 @@ Elige un archivo.</translation>
     <name>kavela::desktop::SessionWindow</name>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión</translation>
     </message>
     <message>
         <source>Sessions (*.bms);;Sessions (*.sbm)</source>
@@ -18717,7 +18720,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcial %1</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -18872,7 +18875,7 @@ and %1 more</source>
     <name>kavela::desktop::SplitBar</name>
     <message>
         <source>Split times</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempos parciales</translation>
     </message>
 </context>
 <context>
@@ -19092,7 +19095,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <name>kavela::desktop::StrategyPage</name>
     <message>
         <source>best</source>
-        <translation type="unfinished"></translation>
+        <translation>mejor</translation>
     </message>
     <message>
         <source>way of the run</source>
@@ -19846,7 +19849,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Final position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición final</translation>
     </message>
     <message>
         <source>&amp;Take over 1 line</source>
@@ -20652,7 +20655,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Pruebas</translation>
     </message>
     <message>
         <source>Charts</source>
@@ -21272,7 +21275,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Pos</source>
-        <translation type="unfinished"></translation>
+        <translation>Pos</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -21375,11 +21378,11 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Parciales</translation>
     </message>
     <message>
         <source>Upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Remontes</translation>
     </message>
     <message>
         <source>A click shows the frame of a split</source>
@@ -21465,7 +21468,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>In</source>
-        <translation type="unfinished"></translation>
+        <translation>En</translation>
     </message>
     <message>
         <source>Out</source>
@@ -21750,23 +21753,23 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WeekGrid</name>
     <message>
         <source>Morning</source>
-        <translation type="unfinished"></translation>
+        <translation>Mañana</translation>
     </message>
     <message>
         <source>Afternoon</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarde</translation>
     </message>
     <message>
         <source>Evening</source>
-        <translation type="unfinished"></translation>
+        <translation>Noche</translation>
     </message>
     <message>
         <source>Any time</source>
-        <translation type="unfinished"></translation>
+        <translation>A cualquier hora</translation>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana</translation>
     </message>
     <message>
         <source>On no day of this week</source>
@@ -21774,7 +21777,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión</translation>
     </message>
 </context>
 <context>
@@ -21926,7 +21929,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::YearStrip</name>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Año</translation>
     </message>
     <message>
         <source>Month</source>
@@ -21946,7 +21949,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana</translation>
     </message>
     <message>
         <source>Event</source>
@@ -21954,7 +21957,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Pruebas</translation>
     </message>
 </context>
 </TS>
