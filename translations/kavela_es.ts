@@ -4558,335 +4558,335 @@
     </message>
     <message>
         <source>by section</source>
-        <translation type="unfinished"></translation>
+        <translation>por tramo</translation>
     </message>
     <message>
         <source>by crew</source>
-        <translation type="unfinished"></translation>
+        <translation>por tripulación</translation>
     </message>
     <message>
         <source>by category</source>
-        <translation type="unfinished"></translation>
+        <translation>por categoría</translation>
     </message>
     <message>
         <source>by phase</source>
-        <translation type="unfinished"></translation>
+        <translation>por fase</translation>
     </message>
     <message>
         <source>by race</source>
-        <translation type="unfinished"></translation>
+        <translation>por carrera</translation>
     </message>
     <message>
         <source>by month</source>
-        <translation type="unfinished"></translation>
+        <translation>por mes</translation>
     </message>
     <message>
         <source>by hand</source>
-        <translation type="unfinished"></translation>
+        <translation>por mano</translation>
     </message>
     <message>
         <source>Tenth</source>
-        <translation type="unfinished"></translation>
+        <translation>Décimo</translation>
     </message>
     <message>
         <source>Se&amp;gments</source>
-        <translation type="unfinished"></translation>
+        <translation>Se&amp;gmentos</translation>
     </message>
     <message>
         <source>&amp;Left and right</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Izquierda y derecha</translation>
     </message>
     <message>
         <source>Whole numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Números enteros</translation>
     </message>
     <message>
         <source>Decimal numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Números decimales</translation>
     </message>
     <message>
         <source>Times</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempos</translation>
     </message>
     <message>
         <source>DNF and the like</source>
-        <translation type="unfinished"></translation>
+        <translation>DNF y similares</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Penalty missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta penalización</translation>
     </message>
     <message>
         <source>Penalty too many</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobra penalización</translation>
     </message>
     <message>
         <source>Bibs swapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Dorsales cambiados</translation>
     </message>
     <message>
         <source>No result</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin resultado</translation>
     </message>
     <message>
         <source>Not finished</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin terminar</translation>
     </message>
     <message>
         <source>Not in list</source>
-        <translation type="unfinished"></translation>
+        <translation>No está en la lista</translation>
     </message>
     <message>
         <source>Not filmed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin vídeo</translation>
     </message>
     <message>
         <source>Average:</source>
-        <translation type="unfinished"></translation>
+        <translation>Media:</translation>
     </message>
     <message>
         <source>Average variation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Variación media:</translation>
     </message>
     <message>
         <source>Total variation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Variación total:</translation>
     </message>
     <message>
         <source>Average increase:</source>
-        <translation type="unfinished"></translation>
+        <translation>Aumento medio:</translation>
     </message>
     <message>
         <source>Total increase:</source>
-        <translation type="unfinished"></translation>
+        <translation>Aumento total:</translation>
     </message>
     <message>
         <source>Lap time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo de vuelta</translation>
     </message>
     <message>
         <source>Time in straight line</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo en línea recta</translation>
     </message>
     <message>
         <source>Time in rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo en rotación</translation>
     </message>
     <message>
         <source>Average speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad media</translation>
     </message>
     <message>
         <source>Maximum acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceleración máxima</translation>
     </message>
     <message>
         <source>Average acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceleración media</translation>
     </message>
     <message>
         <source>Average deacceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Deceleración media</translation>
     </message>
     <message>
         <source>Roll movement</source>
-        <translation type="unfinished"></translation>
+        <translation>Movimiento de balanceo</translation>
     </message>
     <message>
         <source>Roll (°)</source>
-        <translation type="unfinished"></translation>
+        <translation>Balanceo (°)</translation>
     </message>
     <message>
         <source>Maximum force</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuerza máxima</translation>
     </message>
     <message>
         <source>Impulse (N s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Impulso (N s)</translation>
     </message>
     <message>
         <source>Largest negative acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayor aceleración negativa</translation>
     </message>
     <message>
         <source>Negative acceleration (m/s2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceleración negativa (m/s2)</translation>
     </message>
     <message>
         <source>Effective water phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase acuática efectiva</translation>
     </message>
     <message>
         <source>Rotation about the vertical axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación alrededor del eje vertical</translation>
     </message>
     <message>
         <source>Turns to the left are above 0, turns to the right below.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los giros a la izquierda son mayores que 0; los giros a la derecha, menores.</translation>
     </message>
     <message>
         <source>The film {} is left out: its name is no UTF-8 text.</source>
-        <translation type="unfinished"></translation>
+        <translation>El vídeo {} se omite: su nombre no es texto UTF-8.</translation>
     </message>
     <message>
         <source>The folder {} cannot be read: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta {} no se puede leer: {}</translation>
     </message>
     <message>
         <source>No video in {} carries the name {}. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún vídeo de {} lleva el nombre {}. No se ha escrito nada.</translation>
     </message>
     <message>
         <source>The file {} exists already. Say --replace to write a new one in its place.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo {} ya existe. Con --replace se escribe uno nuevo en su lugar.</translation>
     </message>
     <message>
         <source>This call needs the program that paints and makes films, which could not be started: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta llamada necesita el programa que dibuja y hace vídeos, y no se pudo iniciar: {}</translation>
     </message>
     <message>
         <source>The file {} exists and is not the sample&apos;s. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo {} existe y no es del ejemplo. Elige otra carpeta.</translation>
     </message>
     <message>
         <source>The file {} could not be written: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo {} no se pudo escribir: {}</translation>
     </message>
     <message>
         <source>The file {} is none of these tables and stays as it is. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo {} no es ninguna de estas tablas y se queda como está. No se ha escrito nada.</translation>
     </message>
     <message>
         <source>The folder {} could not be made: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta {} no se pudo crear: {}</translation>
     </message>
     <message>
         <source>Line {}: {}, and was imported as it stands.</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea {}: {}, y se importó tal como está.</translation>
     </message>
     <message>
         <source>There is no run {}: the file has {}, counted from 0.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay manga {}: el archivo tiene {}, contadas desde 0.</translation>
     </message>
     <message>
         <source>No run has the category &quot;{}&quot;.{}</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna manga tiene la categoría «{}».{}</translation>
     </message>
     <message>
         <source>Nobody of the team races in &quot;{}&quot;. Categories: {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nadie del equipo compite en «{}». Categorías: {}.</translation>
     </message>
     <message>
         <source>Several athletes of the team are called {}: their runs cannot be told apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Varios deportistas del equipo se llaman {}: sus mangas no se pueden distinguir.</translation>
     </message>
     <message>
         <source>The file {} is of an older version, {}, and was not changed. Bring it to the current one first: kavela upgrade {}</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo {} es de una versión anterior, {}, y no se ha modificado. Llévalo antes a la actual: kavela upgrade {}</translation>
     </message>
     <message>
         <source>The time of {} ({}) in {} is 0; a missing result should be 999.9.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tiempo de {} ({}) en {} es 0; un resultado ausente debería ser 999.9.</translation>
     </message>
     <message>
         <source>No athlete has a bonus of kind {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún deportista tiene una bonificación del tipo {}.</translation>
     </message>
     <message>
         <source>The list {} is no UTF-8 text and was read as Latin-1: look at the names.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lista {} no es texto UTF-8 y se leyó como Latin-1: revisa los nombres.</translation>
     </message>
     <message>
         <source>The list {} could not be read: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>La lista {} no se pudo leer: {}</translation>
     </message>
     <message>
         <source>{} of {} skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} de {} sin tomar.</translation>
     </message>
     <message>
         <source>Line {} brought the category {} into the selection{}</source>
-        <translation type="unfinished"></translation>
+        <translation>La línea {} introdujo la categoría {} en el selectivo{}</translation>
     </message>
     <message>
         <source>No run has the {} &quot;{}&quot;. There is {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna manga tiene {} «{}». Hay {}.</translation>
     </message>
     <message>
         <source>There is no file and no command {}. Run with --help for the commands.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún archivo ni comando {}. Con --help se ven los comandos.</translation>
     </message>
     <message>
         <source>The desktop program could not be started: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>El programa de escritorio no se pudo iniciar: {}</translation>
     </message>
     <message>
         <source>{}: this is its {}; it carries {} too (--sheet).</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: esta es su lista {}; lleva también {} (--sheet).</translation>
     </message>
     <message>
         <source>Line {}, {}: perhaps {}; not joined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea {}, {}: quizá {}; no se ha unido.</translation>
     </message>
     <message>
         <source>{}: this is no team: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>{}: no es un equipo: {}</translation>
     </message>
     <message>
         <source>The team has no athlete {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>El equipo no tiene al deportista {}.</translation>
     </message>
     <message>
         <source>{} does not race in {}. Categories: {}.</source>
-        <translation type="unfinished"></translation>
+        <translation>{} no compite en {}. Categorías: {}.</translation>
     </message>
     <message>
         <source>The file could not be read: {}</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo no se pudo leer: {}</translation>
     </message>
     <message>
         <source>There is no number with the id &quot;{}&quot; here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí no hay ningún número con el identificador «{}».</translation>
     </message>
     <message>
         <source>losing</source>
-        <translation type="unfinished"></translation>
+        <translation>pierde</translation>
     </message>
     <message>
         <source>gaining</source>
-        <translation type="unfinished"></translation>
+        <translation>gana</translation>
     </message>
     <message>
         <source>unclear</source>
-        <translation type="unfinished"></translation>
+        <translation>no está claro</translation>
     </message>
     <message>
         <source>slower</source>
-        <translation type="unfinished"></translation>
+        <translation>más lento</translation>
     </message>
     <message>
         <source>circle: heats, triangle: semifinal, square: final</source>
-        <translation type="unfinished"></translation>
+        <translation>círculo: clasificatoria, triángulo: semifinal, cuadrado: final</translation>
     </message>
     <message>
         <source>{:.0f} to {:.0f}</source>
-        <translation type="unfinished"></translation>
+        <translation>{:.0f} a {:.0f}</translation>
     </message>
     <message>
         <source>of the races whose result is known</source>
-        <translation type="unfinished"></translation>
+        <translation>de las carreras cuyo resultado se conoce</translation>
     </message>
     <message>
         <source>too few runs to tell what is chance</source>
-        <translation type="unfinished"></translation>
+        <translation>muy pocas mangas para decir qué es azar</translation>
     </message>
     <message>
         <source>chance from run to run {:.1f} %, all {:.1f} %; {:.2f} % matters</source>
-        <translation type="unfinished"></translation>
+        <translation>azar de manga a manga {:.1f} %, todos {:.1f} %; importa un {:.2f} %</translation>
     </message>
     <message>
         <source>none</source>
@@ -4894,169 +4894,169 @@
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla</translation>
     </message>
     <message>
         <source>One-repetition maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Máximo de una repetición</translation>
     </message>
     <message>
         <source>Prints what a shell completes calls by</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe lo que una shell usa para completar las llamadas</translation>
     </message>
     <message>
         <source>Prints the page of the manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe la página del manual</translation>
     </message>
     <message>
         <source>The page cannot be written over a file that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>La página no se puede escribir encima de un archivo del que se hace.</translation>
     </message>
     <message>
         <source>Writes the page of an athlete for a telephone, one HTML file</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe la página de un deportista para el teléfono, un archivo HTML</translation>
     </message>
     <message>
         <source>Split files (.kvx) of any release, and folders of them; several make a season</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales (.kvx) de cualquier versión, y carpetas con ellos; varios forman una temporada</translation>
     </message>
     <message>
         <source>Whose page; a crew as &quot;A / B&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>De quién es la página; una tripulación como &quot;A / B&quot;</translation>
     </message>
     <message>
         <source>File to write, ending in .html</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo que escribir, terminado en .html</translation>
     </message>
     <message>
         <source>Cut the athlete&apos;s runs out of their films into the folder of the page</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortar las mangas del deportista de sus vídeos a la carpeta de la página</translation>
     </message>
     <message>
         <source>Shares a folder with a server, both ways</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparte una carpeta con un servidor, en ambos sentidos</translation>
     </message>
     <message>
         <source>The folder on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta de este ordenador</translation>
     </message>
     <message>
         <source>Address of the folder on the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección de la carpeta en el servidor</translation>
     </message>
     <message>
         <source>User name for the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de usuario para el servidor</translation>
     </message>
     <message>
         <source>Only print what would be done</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo mostrar lo que se haría</translation>
     </message>
     <message>
         <source>Do not ask before anything is done</source>
-        <translation type="unfinished"></translation>
+        <translation>No preguntar antes de hacer nada</translation>
     </message>
     <message>
         <source>Delete on each side what was deleted on the other and not changed since</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar en cada lado lo que se borró en el otro y no ha cambiado desde entonces</translation>
     </message>
     <message>
         <source>Print JSON; nothing is asked</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribir JSON; no se pregunta nada</translation>
     </message>
     <message>
         <source>Shows what stood on a line of a film over time, as a picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra lo que hubo en una línea de un vídeo a lo largo del tiempo, como imagen</translation>
     </message>
     <message>
         <source>Film of a camera that stands still</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo de una cámara fija</translation>
     </message>
     <message>
         <source>X1,Y1,X2,Y2: the ends of the line in pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>X1,Y1,X2,Y2: los extremos de la línea en píxeles</translation>
     </message>
     <message>
         <source>Picture to write (.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen que escribir (.png)</translation>
     </message>
     <message>
         <source>Print the frame and stamp of every column as JSON</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribir como JSON el fotograma y el instante de cada columna</translation>
     </message>
     <message>
         <source>Look for boats that cross the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar barcos que cruzan la línea</translation>
     </message>
     <message>
         <source>X,Y,WIDTH,HEIGHT: a box round one boat, for --proposals</source>
-        <translation type="unfinished"></translation>
+        <translation>X,Y,ANCHO,ALTO: un recuadro alrededor de un barco, para --proposals</translation>
     </message>
     <message>
         <source>Where boats come from: left or right of the line</source>
-        <translation type="unfinished"></translation>
+        <translation>De dónde vienen los barcos: izquierda o derecha de la línea</translation>
     </message>
     <message>
         <source>Nothing to do: name a picture with -o, or ask for --json or --proposals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada que hacer: indica una imagen con -o, o pide --json o --proposals.</translation>
     </message>
     <message>
         <source>--proposals needs a box round one boat: --boat X,Y,WIDTH,HEIGHT.</source>
-        <translation type="unfinished"></translation>
+        <translation>--proposals necesita un recuadro alrededor de un barco: --boat X,Y,ANCHO,ALTO.</translation>
     </message>
     <message>
         <source>Follows a boat, gate or head through a film, as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>Sigue un barco, una puerta o una cabeza por un vídeo, como tabla</translation>
     </message>
     <message>
         <source>Film to look at</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo que mirar</translation>
     </message>
     <message>
         <source>What is followed: X,Y,WIDTH,HEIGHT in pixels of the picture, from its upper left corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se sigue: X,Y,ANCHO,ALTO en píxeles de la imagen, desde su esquina superior izquierda</translation>
     </message>
     <message>
         <source>Second of the film at which the box was drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundo del vídeo en el que se dibujó el recuadro</translation>
     </message>
     <message>
         <source>Second at which following ends; otherwise where it is lost, or the film ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundo en el que termina el seguimiento; si no, donde se pierde o acaba el vídeo</translation>
     </message>
     <message>
         <source>Known points on the water (.json), for metres and speeds</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos conocidos en el agua (.json), para metros y velocidades</translation>
     </message>
     <message>
         <source>File to write (.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo que escribir (.csv)</translation>
     </message>
     <message>
         <source>In some frames the camera&apos;s motion is not known: too little of the picture stands still. They have no steadied place.</source>
-        <translation type="unfinished"></translation>
+        <translation>En algunos fotogramas no se conoce el movimiento de la cámara: demasiado poco de la imagen está quieto. No tienen lugar estabilizado.</translation>
     </message>
     <message>
         <source>Metres hold for what is on the water; a head is above it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los metros valen para lo que está en el agua; una cabeza está por encima.</translation>
     </message>
     <message>
         <source>Two known points give a scale only: lengths and speeds hold near them and along the line between them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dos puntos conocidos solo dan una escala: longitudes y velocidades valen cerca de ellos y a lo largo de la línea que los une.</translation>
     </message>
     <message>
         <source>What was deleted on one side stays on the other: --delete deletes it there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se borró en un lado se queda en el otro: --delete lo borra allí.</translation>
     </message>
     <message>
         <source>The server wants a user name: --user tells it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor pide un nombre de usuario: se indica con --user.</translation>
     </message>
     <message numerus="yes">
         <source>{} columns</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>{} columna</numerusform>
+            <numerusform>{} columnas</numerusform>
         </translation>
     </message>
 </context>
@@ -5076,95 +5076,95 @@
     </message>
     <message>
         <source>the start</source>
-        <translation type="unfinished"></translation>
+        <translation>la salida</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>To know</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso</translation>
     </message>
     <message>
         <source>waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>en espera</translation>
     </message>
     <message>
         <source>there</source>
-        <translation type="unfinished"></translation>
+        <translation>listo</translation>
     </message>
     <message>
         <source>failed</source>
-        <translation type="unfinished"></translation>
+        <translation>fallido</translation>
     </message>
     <message>
         <source>stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>detenido</translation>
     </message>
     <message>
         <source>%1, %2:%3 left</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, quedan %2:%3</translation>
     </message>
     <message>
         <source>A film is still being composed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún se está componiendo un vídeo.</translation>
     </message>
     <message>
         <source>%1 films are still being composed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún se están componiendo %1 vídeos.</translation>
     </message>
     <message>
         <source>It can go on in the background: the list of jobs (Ctrl+J in Compare films) tells how far it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puede seguir en segundo plano: la lista de tareas (Ctrl+J en Comparar vídeos) dice por dónde va.</translation>
     </message>
     <message>
         <source>Go on in the background</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguir en segundo plano</translation>
     </message>
     <message>
         <source>Stop it</source>
-        <translation type="unfinished"></translation>
+        <translation>Detenerlo</translation>
     </message>
     <message>
         <source>Stay here</source>
-        <translation type="unfinished"></translation>
+        <translation>Quedarse aquí</translation>
     </message>
     <message>
         <source>Put together…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uniendo…</translation>
     </message>
     <message>
         <source>Piece %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte %1 de %2</translation>
     </message>
     <message>
         <source>Checked…</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobado…</translation>
     </message>
     <message>
         <source>%1 %, %2 of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %, %2 de %3</translation>
     </message>
     <message>
         <source>Waits</source>
-        <translation type="unfinished"></translation>
+        <translation>En espera</translation>
     </message>
     <message>
         <source>✓ Fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ Descargado</translation>
     </message>
     <message>
         <source>Fetch</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargar</translation>
     </message>
     <message>
         <source>Bib</source>
-        <translation type="unfinished"></translation>
+        <translation>Dorsal</translation>
     </message>
     <message>
         <source>Name</source>
@@ -5176,23 +5176,23 @@
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Server</source>
-        <translation type="unfinished"></translation>
+        <translation>Servidor</translation>
     </message>
     <message>
         <source>1 film is ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>1 vídeo marcado</translation>
     </message>
     <message>
         <source>%1 films are ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 vídeos marcados</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -5200,79 +5200,79 @@
     </message>
     <message>
         <source>%1 fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 descargados</translation>
     </message>
     <message>
         <source>%1 not there yet</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 aún no están</translation>
     </message>
     <message>
         <source>%1 failed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fallidos</translation>
     </message>
     <message>
         <source>%1 cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cancelados</translation>
     </message>
     <message>
         <source>Move the selected mark &amp;here</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mover aquí la marca seleccionada</translation>
     </message>
     <message>
         <source>Mark one frame &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca un fotograma a&amp;ntes</translation>
     </message>
     <message>
         <source>Mark one frame &amp;later</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca un fotograma &amp;después</translation>
     </message>
     <message>
         <source>&amp;Remove the selected mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar la marca seleccionada</translation>
     </message>
     <message>
         <source>&amp;Previous mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca &amp;anterior</translation>
     </message>
     <message>
         <source>&amp;Next mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca &amp;siguiente</translation>
     </message>
     <message>
         <source>Nobody is called “%1” in these files.</source>
-        <translation type="unfinished"></translation>
+        <translation>En estos archivos nadie se llama «%1».</translation>
     </message>
     <message>
         <source>Like it: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Parecidos: %1.</translation>
     </message>
     <message>
         <source>Watched: 80 % of it was shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Visto: se mostró el 80 %</translation>
     </message>
     <message>
         <source>Of the split file: split taking edits it</source>
-        <translation type="unfinished"></translation>
+        <translation>Del archivo de parciales: se edita en la toma de parciales</translation>
     </message>
     <message>
         <source>Watched</source>
-        <translation type="unfinished"></translation>
+        <translation>Visto</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Duración</translation>
     </message>
     <message>
         <source>Minutes and seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutos y segundos</translation>
     </message>
     <message>
         <source>At</source>
-        <translation type="unfinished"></translation>
+        <translation>En</translation>
     </message>
     <message>
         <source>Moment of the film, minutes and seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Momento del vídeo, en minutos y segundos</translation>
     </message>
     <message>
         <source>Tag</source>
@@ -5296,31 +5296,31 @@
     </message>
     <message>
         <source>%1 s a run</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s por manga</translation>
     </message>
     <message>
         <source>one run</source>
-        <translation type="unfinished"></translation>
+        <translation>una manga</translation>
     </message>
     <message>
         <source>%1 runs</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mangas</translation>
     </message>
     <message>
         <source>Where most was lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde se perdió más</translation>
     </message>
     <message>
         <source>Seconds lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos perdidos</translation>
     </message>
     <message>
         <source>Of all that was lost, %</source>
-        <translation type="unfinished"></translation>
+        <translation>De todo lo perdido, %</translation>
     </message>
     <message>
         <source>No section was slower than the reference&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún tramo fue más lento que el de la referencia.</translation>
     </message>
     <message>
         <source>Lost</source>
@@ -5328,39 +5328,39 @@
     </message>
     <message>
         <source>Together, %</source>
-        <translation type="unfinished"></translation>
+        <translation>En conjunto, %</translation>
     </message>
     <message>
         <source>The gap along the course</source>
-        <translation type="unfinished"></translation>
+        <translation>La diferencia a lo largo del recorrido</translation>
     </message>
     <message>
         <source>After section</source>
-        <translation type="unfinished"></translation>
+        <translation>Tras el tramo</translation>
     </message>
     <message>
         <source>Seconds behind, without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos de diferencia, sin penalizaciones</translation>
     </message>
     <message>
         <source>result %1</source>
-        <translation type="unfinished"></translation>
+        <translation>resultado %1</translation>
     </message>
     <message>
         <source>Lost by what it is lost in</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdido según dónde se pierde</translation>
     </message>
     <message>
         <source>Of the reference&apos;s time, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Del tiempo de la referencia, %</translation>
     </message>
     <message>
         <source>Lost, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdido, 90 %</translation>
     </message>
     <message>
         <source>No loss</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin pérdida</translation>
     </message>
     <message>
         <source>By</source>
@@ -5368,7 +5368,7 @@
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -5376,15 +5376,15 @@
     </message>
     <message>
         <source>Lost, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdido, %</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>Mín.</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Máx.</translation>
     </message>
     <message>
         <source>A run, s</source>
@@ -5392,11 +5392,11 @@
     </message>
     <message>
         <source>No row loses time for sure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna fila pierde tiempo con seguridad.</translation>
     </message>
     <message>
         <source>Most for sure: %1 %2, %3 s a run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo más seguro: %1 %2, %3 s por manga.</translation>
     </message>
     <message>
         <source>Gate</source>
@@ -5404,11 +5404,11 @@
     </message>
     <message>
         <source>Gate %1 of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1 del tramo</translation>
     </message>
     <message>
         <source>Lost in an upstream gate of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdido en un remonte del tramo</translation>
     </message>
     <message>
         <source>%1:  %2</source>
@@ -5416,15 +5416,15 @@
     </message>
     <message>
         <source>upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>remonte</translation>
     </message>
     <message>
         <source>downstream</source>
-        <translation type="unfinished"></translation>
+        <translation>a favor</translation>
     </message>
     <message>
         <source>several sections</source>
-        <translation type="unfinished"></translation>
+        <translation>varios tramos</translation>
     </message>
     <message>
         <source>not known</source>
@@ -5432,7 +5432,7 @@
     </message>
     <message>
         <source>a race without a name</source>
-        <translation type="unfinished"></translation>
+        <translation>una carrera sin nombre</translation>
     </message>
     <message>
         <source>Run %1</source>
@@ -5440,183 +5440,183 @@
     </message>
     <message>
         <source>winner</source>
-        <translation type="unfinished"></translation>
+        <translation>ganador</translation>
     </message>
     <message>
         <source>fastest paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>paleo más rápido</translation>
     </message>
     <message>
         <source>ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>manga ideal</translation>
     </message>
     <message>
         <source>median of the finalists</source>
-        <translation type="unfinished"></translation>
+        <translation>mediana de los finalistas</translation>
     </message>
     <message>
         <source>own best other run</source>
-        <translation type="unfinished"></translation>
+        <translation>mejor otra manga propia</translation>
     </message>
     <message>
         <source>a rival</source>
-        <translation type="unfinished"></translation>
+        <translation>un rival</translation>
     </message>
     <message>
         <source>Open a race to see where time is lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre una carrera para ver dónde se pierde tiempo.</translation>
     </message>
     <message>
         <source>The crew has no other whole run here to be held against. Choose another reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tripulación no tiene aquí otra manga entera con la que comparar. Elige otra referencia.</translation>
     </message>
     <message>
         <source>There is no %1 here to hold the run against. Choose another reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí no hay con qué comparar la manga (%1). Elige otra referencia.</translation>
     </message>
     <message>
         <source>The two have no section in common that is timed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las dos no tienen en común ningún tramo cronometrado.</translation>
     </message>
     <message>
         <source>%1: nothing to be held against</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: nada con qué comparar</translation>
     </message>
     <message>
         <source>%1  %2 on %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2 frente a %3</translation>
     </message>
     <message>
         <source>%1: no section in common with %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ningún tramo en común con %2</translation>
     </message>
     <message>
         <source>%1  %2 on %3 in %4 (no total)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2 frente a %3 en %4 (sin total)</translation>
     </message>
     <message>
         <source>Explained by notes: %1 of %2 (%3 %)</source>
-        <translation type="unfinished"></translation>
+        <translation>Explicado por las notas: %1 de %2 (%3 %)</translation>
     </message>
     <message>
         <source>Most was lost in %1: %2 s of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que más se perdió fue en %1: %2 s de %3.</translation>
     </message>
     <message>
         <source>Penalties make %1 of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las penalizaciones suponen %1.</translation>
     </message>
     <message>
         <source>All %1 of the slower sections are needed to explain most of the loss.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hacen falta los %1 tramos más lentos para explicar la mayor parte de la pérdida.</translation>
     </message>
     <message>
         <source>%1 alone makes %2 % of what was lost in slower sections.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 supone por sí solo el %2 % de lo perdido en los tramos más lentos.</translation>
     </message>
     <message>
         <source>%1 of %2 slower sections make %3 % of what was lost in them.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 tramos más lentos suponen el %3 % de lo perdido en ellos.</translation>
     </message>
     <message>
         <source>Nobody was slower than the reference in a section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nadie fue más lento que la referencia en ningún tramo.</translation>
     </message>
     <message>
         <source>The greatest loss is that of %1 in S%2: %3 on %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mayor pérdida es la de %1 en S%2: %3 frente a %4.</translation>
     </message>
     <message>
         <source>Never behind the %1; %2 at the end of S%3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nunca por detrás (%1); %2 al final de S%3.</translation>
     </message>
     <message>
         <source>Farthest behind at the end: %1 after S%2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayor desventaja al final: %1 después de S%2.</translation>
     </message>
     <message>
         <source>Farthest behind after S%1: %2; %3 after S%4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayor desventaja después de S%1: %2; %3 después de S%4.</translation>
     </message>
     <message>
         <source>no motion of the boat</source>
-        <translation type="unfinished"></translation>
+        <translation>sin movimiento del barco</translation>
     </message>
     <message>
         <source>a hole of %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>un hueco de %1 s</translation>
     </message>
     <message>
         <source>%1 holes, the longest of %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 huecos, el más largo de %2 s</translation>
     </message>
     <message>
         <source>the clock ran backwards once</source>
-        <translation type="unfinished"></translation>
+        <translation>el reloj retrocedió una vez</translation>
     </message>
     <message>
         <source>the clock ran backwards %1 times</source>
-        <translation type="unfinished"></translation>
+        <translation>el reloj retrocedió %1 veces</translation>
     </message>
     <message>
         <source>a moment stands twice</source>
-        <translation type="unfinished"></translation>
+        <translation>un momento aparece dos veces</translation>
     </message>
     <message>
         <source>%1 moments stand twice</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 momentos aparecen dos veces</translation>
     </message>
     <message>
         <source>Top to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte superior hacia la proa</translation>
     </message>
     <message>
         <source>Bottom to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte inferior hacia la proa</translation>
     </message>
     <message>
         <source>Right to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Derecha hacia la proa</translation>
     </message>
     <message>
         <source>Left to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Izquierda hacia la proa</translation>
     </message>
     <message>
         <source>Back to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Dorso hacia la proa</translation>
     </message>
     <message>
         <source>Screen to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>Pantalla hacia la proa</translation>
     </message>
     <message>
         <source>%1 of %2 touched</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 con toque</translation>
     </message>
     <message>
         <source>Touched, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Con toque, %</translation>
     </message>
     <message>
         <source>Ranked rate, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia ordenada, 90 %</translation>
     </message>
     <message>
         <source>Touched</source>
-        <translation type="unfinished"></translation>
+        <translation>Con toque</translation>
     </message>
     <message>
         <source>All in common</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos en común</translation>
     </message>
     <message>
         <source>No run that is asked for has its penalties by gate. Enter them for each gate to see where they happen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna de las mangas pedidas tiene sus penalizaciones por puerta. Introdúcelas para cada puerta para ver dónde ocurren.</translation>
     </message>
     <message>
         <source>Passages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasos</translation>
     </message>
     <message>
         <source>Touches</source>
@@ -5628,31 +5628,31 @@
     </message>
     <message>
         <source>Touch rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frec. de toque</translation>
     </message>
     <message>
         <source>Ranked rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frec. ordenada</translation>
     </message>
     <message>
         <source>Above</source>
-        <translation type="unfinished"></translation>
+        <translation>Por encima</translation>
     </message>
     <message>
         <source>Gate %1, upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1, remonte</translation>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1</translation>
     </message>
     <message>
         <source>%1 missed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 saltos</translation>
     </message>
     <message>
         <source>stands out</source>
-        <translation type="unfinished"></translation>
+        <translation>destaca</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -5660,19 +5660,19 @@
     </message>
     <message>
         <source>(not given)</source>
-        <translation type="unfinished"></translation>
+        <translation>(sin indicar)</translation>
     </message>
     <message>
         <source>%1: touches at the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: toques en las puertas</translation>
     </message>
     <message>
         <source>Gates in order; ◀ upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Puertas en orden; ◀ remonte</translation>
     </message>
     <message>
         <source>Upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Remonte</translation>
     </message>
     <message>
         <source>Section</source>
@@ -5680,27 +5680,27 @@
     </message>
     <message>
         <source>Touches %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Toques %1</translation>
     </message>
     <message>
         <source> (the highest %1, %2 more in the table)</source>
-        <translation type="unfinished"></translation>
+        <translation> (las %1 más altas, %2 más en la tabla)</translation>
     </message>
     <message>
         <source>What was noted of penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se anotó de las penalizaciones</translation>
     </message>
     <message>
         <source>Of those noted, %</source>
-        <translation type="unfinished"></translation>
+        <translation>De las anotadas, %</translation>
     </message>
     <message>
         <source>Share, 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte, 90 %</translation>
     </message>
     <message>
         <source>Noted as</source>
-        <translation type="unfinished"></translation>
+        <translation>Anotado como</translation>
     </message>
     <message>
         <source>Penalties</source>
@@ -5708,27 +5708,27 @@
     </message>
     <message>
         <source>Of</source>
-        <translation type="unfinished"></translation>
+        <translation>De</translation>
     </message>
     <message>
         <source>Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte</translation>
     </message>
     <message>
         <source>Most of one kind: %1 %2, %3 of %4 noted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo más frecuente: %1 %2, %3 de %4 anotadas.</translation>
     </message>
     <message>
         <source>fastest third</source>
-        <translation type="unfinished"></translation>
+        <translation>tercio más rápido</translation>
     </message>
     <message>
         <source>middle third</source>
-        <translation type="unfinished"></translation>
+        <translation>tercio medio</translation>
     </message>
     <message>
         <source>slowest third</source>
-        <translation type="unfinished"></translation>
+        <translation>tercio más lento</translation>
     </message>
     <message>
         <source>Risk and speed</source>
@@ -5736,27 +5736,27 @@
     </message>
     <message>
         <source>Paddling time, % of the group&apos;s median</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo de paleo, % de la mediana del grupo</translation>
     </message>
     <message>
         <source>Touches a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Toques por manga</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>Equally fast in all</source>
-        <translation type="unfinished"></translation>
+        <translation>Igual de rápido en total</translation>
     </message>
     <message>
         <source>not planned</source>
-        <translation type="unfinished"></translation>
+        <translation>sin planificar</translation>
     </message>
     <message>
         <source>planned</source>
-        <translation type="unfinished"></translation>
+        <translation>planificado</translation>
     </message>
     <message>
         <source>Sessions</source>
@@ -5768,11 +5768,11 @@
     </message>
     <message>
         <source>What the sessions add up to, in the unit that they are written in</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que suman las sesiones, en la unidad en la que están escritas</translation>
     </message>
     <message>
         <source>In the sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>En las sesiones</translation>
     </message>
     <message>
         <source>Event</source>
@@ -5812,15 +5812,15 @@
     </message>
     <message>
         <source>From the first run of the heats to the second</source>
-        <translation type="unfinished"></translation>
+        <translation>De la primera manga clasificatoria a la segunda</translation>
     </message>
     <message>
         <source>From the semifinal to the final</source>
-        <translation type="unfinished"></translation>
+        <translation>De la semifinal a la final</translation>
     </message>
     <message>
         <source>From the heats to the final</source>
-        <translation type="unfinished"></translation>
+        <translation>De la clasificatoria a la final</translation>
     </message>
     <message>
         <source>Medals</source>
@@ -5836,11 +5836,11 @@
     </message>
     <message>
         <source>too few for a range</source>
-        <translation type="unfinished"></translation>
+        <translation>muy pocas para un intervalo</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a %2</translation>
     </message>
     <message>
         <source>too few</source>
@@ -5848,11 +5848,11 @@
     </message>
     <message>
         <source>Change behind, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambio de la diferencia, %</translation>
     </message>
     <message>
         <source>Change, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambio, %</translation>
     </message>
     <message>
         <source>Races</source>
@@ -5860,31 +5860,31 @@
     </message>
     <message>
         <source>Typical error, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Error típico, %</translation>
     </message>
     <message>
         <source>No change</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin cambio</translation>
     </message>
     <message>
         <source>No race of the team has both.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna carrera del equipo tiene ambas.</translation>
     </message>
     <message>
         <source>How much runs vary by chance</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuánto varían las mangas por azar</translation>
     </message>
     <message>
         <source>Within, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Variación, %</translation>
     </message>
     <message>
         <source>Own alone, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo propia, %</translation>
     </message>
     <message>
         <source>With a missed gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Con un salto</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
@@ -5892,15 +5892,15 @@
     </message>
     <message>
         <source>Trend behind the winners</source>
-        <translation type="unfinished"></translation>
+        <translation>Tendencia respecto a los ganadores</translation>
     </message>
     <message>
         <source>Trend behind the fastest splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Tendencia respecto a los parciales más rápidos</translation>
     </message>
     <message>
         <source>A year, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Al año, %</translation>
     </message>
     <message>
         <source>Verdict</source>
@@ -5908,11 +5908,11 @@
     </message>
     <message>
         <source>Too few runs of everybody to tell a trend: four over two months are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muy pocas mangas de todos para indicar una tendencia: hacen falta cuatro en dos meses.</translation>
     </message>
     <message>
         <source>%1 against</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 frente a</translation>
     </message>
     <message>
         <source>Against</source>
@@ -5920,7 +5920,7 @@
     </message>
     <message>
         <source>Ahead, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Delante, %</translation>
     </message>
     <message>
         <source>Met</source>
@@ -5928,35 +5928,35 @@
     </message>
     <message>
         <source>Won</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganadas</translation>
     </message>
     <message>
         <source>Gap, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Dif., %</translation>
     </message>
     <message>
         <source>Gap 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Dif. 90 %</translation>
     </message>
     <message>
         <source>Half</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitad</translation>
     </message>
     <message>
         <source>The athlete met nobody in these races.</source>
-        <translation type="unfinished"></translation>
+        <translation>El deportista no coincidió con nadie en estas carreras.</translation>
     </message>
     <message>
         <source>Of races, %</source>
-        <translation type="unfinished"></translation>
+        <translation>De las carreras, %</translation>
     </message>
     <message>
         <source>No race of the team has a result that says so.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna carrera del equipo tiene un resultado que lo diga.</translation>
     </message>
     <message>
         <source>Expected places among %1 boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Puestos esperados entre %1 barcos</translation>
     </message>
     <message>
         <source>Boat</source>
@@ -5964,23 +5964,23 @@
     </message>
     <message>
         <source>Medal, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Medalla, %</translation>
     </message>
     <message>
         <source>First, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Primero, %</translation>
     </message>
     <message>
         <source>Missed gate, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Salto, %</translation>
     </message>
     <message>
         <source>Too few runs to expect places of anybody: each boat needs three, and the boats must have met.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muy pocas mangas para esperar puestos de nadie: cada barco necesita tres, y los barcos deben haber coincidido.</translation>
     </message>
     <message>
         <source>What ranks took: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué hizo falta para los puestos: %1</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -5988,143 +5988,143 @@
     </message>
     <message>
         <source>Behind the winner, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Respecto al ganador, %</translation>
     </message>
     <message>
         <source>Quartiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuartiles</translation>
     </message>
     <message>
         <source>Least</source>
-        <translation type="unfinished"></translation>
+        <translation>Menor</translation>
     </message>
     <message>
         <source>Most</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayor</translation>
     </message>
     <message>
         <source>%1 would have</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 habría</translation>
     </message>
     <message>
         <source>Median of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediana de %1</translation>
     </message>
     <message>
         <source>The first %1, %2 more in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Los %1 primeros, %2 más en la tabla</translation>
     </message>
     <message>
         <source>&amp;Import .kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importar archivo .kvb</translation>
     </message>
     <message>
         <source>Import .s&amp;bm file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar archivo .s&amp;bm</translation>
     </message>
     <message>
         <source>Import from a &amp;watch or logger…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar de un reloj o re&amp;gistrador…</translation>
     </message>
     <message>
         <source>Move the trac&amp;k of the watch in time…</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazar en el tiempo el trac&amp;k del reloj…</translation>
     </message>
     <message>
         <source>Import &amp;power-meter data…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar datos del medidor de &amp;potencia…</translation>
     </message>
     <message>
         <source>Save the edited .&amp;kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el archivo .k&amp;vb editado</translation>
     </message>
     <message>
         <source>&amp;Export the strokes…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportar las paladas…</translation>
     </message>
     <message>
         <source>Export the &amp;turns…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar los g&amp;iros…</translation>
     </message>
     <message>
         <source>Export the se&amp;gments…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar los seg&amp;mentos…</translation>
     </message>
     <message>
         <source>Export the values per &amp;distance…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar los valores por &amp;distancia…</translation>
     </message>
     <message>
         <source>Mount of the p&amp;hone</source>
-        <translation type="unfinished"></translation>
+        <translation>Montaje del telé&amp;fono</translation>
     </message>
     <message>
         <source>Found from the position</source>
-        <translation type="unfinished"></translation>
+        <translation>Deducido de la posición</translation>
     </message>
     <message>
         <source>Session &amp;information…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Información de la sesión…</translation>
     </message>
     <message>
         <source>&amp;Analyse the recording again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Analizar de nuevo la grabación</translation>
     </message>
     <message>
         <source>&amp;Keep the selected stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Conservar el trecho seleccionado</translation>
     </message>
     <message>
         <source>Remove the selected &amp;stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar el &amp;trecho seleccionado</translation>
     </message>
     <message>
         <source>Re&amp;move the selected strokes, turns or mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar las paladas, los giros o la marca seleccionados</translation>
     </message>
     <message>
         <source>Select &amp;nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;No seleccionar nada</translation>
     </message>
     <message>
         <source>&amp;Segments</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Segmentos</translation>
     </message>
     <message>
         <source>&amp;Mark here</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marcar aquí</translation>
     </message>
     <message>
         <source>Mo&amp;ve the nearest mark here</source>
-        <translation type="unfinished"></translation>
+        <translation>Mo&amp;ver aquí la marca más cercana</translation>
     </message>
     <message>
         <source>Nearest mark &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca más cercana a&amp;ntes</translation>
     </message>
     <message>
         <source>Nearest mark &amp;later</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca más cercana &amp;después</translation>
     </message>
     <message>
         <source>&amp;Remove the nearest mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar la marca más cercana</translation>
     </message>
     <message>
         <source>Remove &amp;all marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar &amp;todas las marcas</translation>
     </message>
     <message>
         <source>&amp;Save the segments</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar los segmentos</translation>
     </message>
     <message>
         <source>&amp;Replay</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Repetición</translation>
     </message>
     <message>
         <source>&amp;Play, pause</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reproducir, pausar</translation>
     </message>
     <message>
         <source>&amp;Slower</source>
@@ -6136,27 +6136,27 @@
     </message>
     <message>
         <source>&amp;Real time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo r&amp;eal</translation>
     </message>
     <message>
         <source>P&amp;revious stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Palada &amp;anterior</translation>
     </message>
     <message>
         <source>&amp;Next stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Palada &amp;siguiente</translation>
     </message>
     <message>
         <source>&amp;Start</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Inicio</translation>
     </message>
     <message>
         <source>&amp;End</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fin</translation>
     </message>
     <message>
         <source>&amp;Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gráficos</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -6164,35 +6164,35 @@
     </message>
     <message>
         <source>&amp;Zoom to the selected stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Am&amp;pliar al trecho seleccionado</translation>
     </message>
     <message>
         <source>&amp;Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajustar</translation>
     </message>
     <message>
         <source>%1; “%2” is none.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1; «%2» no lo es.</translation>
     </message>
     <message>
         <source>%1 is of release %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es de la versión %2.</translation>
     </message>
     <message>
         <source>Its folder %1 cannot be written, so that the analyzer shows it and leaves it as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>En su carpeta %1 no se puede escribir, así que el analizador lo muestra y lo deja como está.</translation>
     </message>
     <message>
         <source>Who of the team it is; a question mark: only you can tell</source>
-        <translation type="unfinished"></translation>
+        <translation>Quién es del equipo; un signo de interrogación: solo tú lo sabes</translation>
     </message>
     <message>
         <source> or </source>
-        <translation type="unfinished"></translation>
+        <translation> o </translation>
     </message>
     <message>
         <source>Reckoned from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>Calculado a partir de la lista</translation>
     </message>
     <message>
         <source>Line</source>
@@ -6200,191 +6200,191 @@
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Columna</translation>
     </message>
     <message>
         <source>What stands there</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que pone ahí</translation>
     </message>
     <message>
         <source>Why it is not taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Por qué no se toma</translation>
     </message>
     <message>
         <source>Results list</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de resultados</translation>
     </message>
     <message>
         <source>Attached document</source>
-        <translation type="unfinished"></translation>
+        <translation>Documento adjunto</translation>
     </message>
     <message>
         <source>Table kept with the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla conservada con la carrera</translation>
     </message>
     <message>
         <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listas (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>The least is %1 (%2), the most %3 (%4), of %5 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>El menor es %1 (%2), el mayor %3 (%4), de %5 filas</translation>
     </message>
     <message>
         <source>; %1 without a number are left out</source>
-        <translation type="unfinished"></translation>
+        <translation>; %1 sin número se omiten</translation>
     </message>
     <message>
         <source>Choose a column of numbers or times: a click on one of its cells, then C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige una columna de números o tiempos: un clic en una de sus celdas y luego C.</translation>
     </message>
     <message>
         <source>Row</source>
-        <translation type="unfinished"></translation>
+        <translation>Fila</translation>
     </message>
     <message>
         <source>No row has a number in this column.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna fila tiene un número en esta columna.</translation>
     </message>
     <message>
         <source>&amp;Day</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Día</translation>
     </message>
     <message>
         <source>Start &amp;list…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lista de salida…</translation>
     </message>
     <message>
         <source>Films &amp;from…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos &amp;de…</translation>
     </message>
     <message>
         <source>Reckon with the camera&apos;s &amp;clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Contar con el re&amp;loj de la cámara</translation>
     </message>
     <message>
         <source>&amp;Remove the boat from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar el barco de la lista</translation>
     </message>
     <message>
         <source>To the next film that is not &amp;timed yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Al siguiente vídeo aún sin &amp;cronometrar</translation>
     </message>
     <message>
         <source>&amp;Open the film of the start in front</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir el vídeo de la salida de delante</translation>
     </message>
     <message>
         <source>&amp;Previous start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida &amp;anterior</translation>
     </message>
     <message>
         <source>&amp;Next start</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida &amp;siguiente</translation>
     </message>
     <message>
         <source>&amp;Agree: the film is named after its boat</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;onfirmar: el vídeo recibe el nombre de su barco</translation>
     </message>
     <message>
         <source>Agree to all that are &amp;sure</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar todos los &amp;seguros</translation>
     </message>
     <message>
         <source>Films from here on: one start &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos desde aquí: una salida an&amp;tes</translation>
     </message>
     <message>
         <source>Films from here on: one start late&amp;r</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos desde aquí: una salida d&amp;espués</translation>
     </message>
     <message>
         <source>Did not start, or did after all</source>
-        <translation type="unfinished"></translation>
+        <translation>No salió, o al final sí</translation>
     </message>
     <message>
         <source>Did not finish, or did after all</source>
-        <translation type="unfinished"></translation>
+        <translation>No terminó, o al final sí</translation>
     </message>
     <message>
         <source>&amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notas</translation>
     </message>
     <message>
         <source>Stroke on the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Palada a la izquierda</translation>
     </message>
     <message>
         <source>Stroke on the right</source>
-        <translation type="unfinished"></translation>
+        <translation>Palada a la derecha</translation>
     </message>
     <message>
         <source>Other hand for the selected stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra mano para la palada seleccionada</translation>
     </message>
     <message>
         <source>Play from the selected tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir desde la etiqueta seleccionada</translation>
     </message>
     <message>
         <source>To the other run of the time loss</source>
-        <translation type="unfinished"></translation>
+        <translation>A la otra manga de la pérdida de tiempo</translation>
     </message>
     <message>
         <source>Record the team radio, or end it</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabar la radio del equipo, o terminar</translation>
     </message>
     <message>
         <source>Clips of the chosen marks, one after another</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips de las marcas elegidas, uno tras otro</translation>
     </message>
     <message>
         <source>Add a &amp;category</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una &amp;categoría</translation>
     </message>
     <message>
         <source>&amp;Team</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Equipo</translation>
     </message>
     <message>
         <source>&amp;New athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuevo deportista…</translation>
     </message>
     <message>
         <source>Remo&amp;ve the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar el deportista</translation>
     </message>
     <message>
         <source>Re&amp;move the category</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar la ca&amp;tegoría</translation>
     </message>
     <message>
         <source>New &amp;season</source>
-        <translation type="unfinished"></translation>
+        <translation>Nueva te&amp;mporada</translation>
     </message>
     <message>
         <source>New &amp;race</source>
-        <translation type="unfinished"></translation>
+        <translation>Nueva ca&amp;rrera</translation>
     </message>
     <message>
         <source>Move season or race &amp;up</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;ubir temporada o carrera</translation>
     </message>
     <message>
         <source>Move season or race &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bajar temporada o carrera</translation>
     </message>
     <message>
         <source>Where the athlete &amp;loses time…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde &amp;pierde tiempo el deportista…</translation>
     </message>
     <message>
         <source>S&amp;eason of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporada del &amp;deportista</translation>
     </message>
     <message>
         <source>Compute all a&amp;verages again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Volver a calcular todas las medias</translation>
     </message>
     <message>
         <source>&amp;Find an athlete</source>
@@ -6392,23 +6392,23 @@
     </message>
     <message>
         <source>Take &amp;results over…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Incorporar resultados…</translation>
     </message>
     <message>
         <source>Cate&amp;gorization report…</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe de cate&amp;gorización…</translation>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el gr&amp;áfico…</translation>
     </message>
     <message>
         <source>&amp;Edit the cell</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Editar la celda</translation>
     </message>
     <message>
         <source>&amp;Remove what is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar lo elegido</translation>
     </message>
     <message>
         <source>Athletes</source>
@@ -6416,15 +6416,15 @@
     </message>
     <message>
         <source>Selection %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Selectivo %1</translation>
     </message>
     <message>
         <source>Race analyzer</source>
-        <translation type="unfinished"></translation>
+        <translation>Analizador de carreras</translation>
     </message>
     <message>
         <source>Every split of a race side by side, coloured by rank.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los parciales de una carrera lado a lado, coloreados por puesto.</translation>
     </message>
     <message>
         <source>Open races</source>
@@ -6440,7 +6440,7 @@
     </message>
     <message>
         <source>Where each run lost its time, section by section, and a season&apos;s pattern.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde perdió tiempo cada manga, tramo a tramo, y el patrón de una temporada.</translation>
     </message>
     <message>
         <source>Open split files</source>
@@ -6452,7 +6452,7 @@
     </message>
     <message>
         <source>Time every run from its video, exact to the frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronometrar cada manga en su vídeo, con exactitud de fotograma.</translation>
     </message>
     <message>
         <source>Open a folder of videos</source>
@@ -6464,7 +6464,7 @@
     </message>
     <message>
         <source>A folder of films played, compared in step, tagged, renamed and cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una carpeta de vídeos reproducidos, comparados a la par, etiquetados, renombrados y cortados.</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
@@ -6472,15 +6472,15 @@
     </message>
     <message>
         <source>Kayak cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Kayak cross</translation>
     </message>
     <message>
         <source>Time trials, heats and attacks of a cross race, from video.</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrarrelojes, series y ataques de una carrera de cross, en vídeo.</translation>
     </message>
     <message>
         <source>Open a kayak cross</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir un kayak cross</translation>
     </message>
     <message>
         <source>Compare films</source>
@@ -6488,55 +6488,55 @@
     </message>
     <message>
         <source>Two to four runs in one picture, together at a split, as a film to take home.</source>
-        <translation type="unfinished"></translation>
+        <translation>De dos a cuatro mangas en una imagen, a la par en un parcial, como vídeo para llevarse.</translation>
     </message>
     <message>
         <source>Comparisons of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparaciones de vídeos</translation>
     </message>
     <message>
         <source>Comparisons</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparaciones</translation>
     </message>
     <message>
         <source>Comparison</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparación</translation>
     </message>
     <message>
         <source>Team</source>
-        <translation type="unfinished"></translation>
+        <translation>Equipo</translation>
     </message>
     <message>
         <source>Results of every athlete, season by season, and their category.</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados de cada deportista, temporada a temporada, y su categoría.</translation>
     </message>
     <message>
         <source>Team results</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados del equipo</translation>
     </message>
     <message>
         <source>Teams</source>
-        <translation type="unfinished"></translation>
+        <translation>Equipos</translation>
     </message>
     <message>
         <source>Selection races</source>
-        <translation type="unfinished"></translation>
+        <translation>Selectivos</translation>
     </message>
     <message>
         <source>Who is selected, by which results, and why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quién queda seleccionado, con qué resultados y por qué.</translation>
     </message>
     <message>
         <source>Planning</source>
-        <translation type="unfinished"></translation>
+        <translation>Planificación</translation>
     </message>
     <message>
         <source>Seasons, weeks and sessions, heart, gym and goals of a group.</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporadas, semanas y sesiones, corazón, gimnasio y objetivos de un grupo.</translation>
     </message>
     <message>
         <source>Plannings</source>
-        <translation type="unfinished"></translation>
+        <translation>Planificaciones</translation>
     </message>
     <message>
         <source>Tests</source>
@@ -6544,7 +6544,7 @@
     </message>
     <message>
         <source>Lap, sprint and eight tests on the water, compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pruebas de vueltas, de esprint y del ocho en el agua, comparadas.</translation>
     </message>
     <message>
         <source>Boat motion</source>
@@ -6552,51 +6552,51 @@
     </message>
     <message>
         <source>Recordings of phone and watch over each other, and converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabaciones de teléfono y reloj superpuestas y convertidas.</translation>
     </message>
     <message>
         <source>Open recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir grabaciones</translation>
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabaciones</translation>
     </message>
     <message>
         <source>Strokes, turns and segments of a recording, on a map and replayed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Paladas, giros y segmentos de una grabación, en un mapa y reproducidos.</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>Every gate, penalty and run of all seasons, by one question.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada puerta, penalización y manga de todas las temporadas, con una pregunta.</translation>
     </message>
     <message>
         <source>Search files</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en archivos</translation>
     </message>
     <message>
         <source>Which gates are touched, by whom, and what it cost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué puertas se tocan, quién las toca y qué costó.</translation>
     </message>
     <message>
         <source>Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tablas</translation>
     </message>
     <message>
         <source>Any list of results, sorted, tinted, reckoned with, and whose it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cualquier lista de resultados, ordenada, coloreada, con cálculos, y de quién es.</translation>
     </message>
     <message>
         <source>Open lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir listas</translation>
     </message>
     <message>
         <source>Lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Listas</translation>
     </message>
     <message>
         <source>Season</source>
@@ -6604,75 +6604,75 @@
     </message>
     <message>
         <source>How a team&apos;s athletes stand: trend, rivals, medals, what it takes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cómo están los deportistas de un equipo: tendencia, rivales, medallas, qué hace falta.</translation>
     </message>
     <message>
         <source>Open a team</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir un equipo</translation>
     </message>
     <message>
         <source>Fetch films</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargar vídeos</translation>
     </message>
     <message>
         <source>The films of a race from a server, by the bibs of a start list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los vídeos de una carrera desde un servidor, por los dorsales de una lista de salida.</translation>
     </message>
     <message>
         <source>Open a source of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una fuente de vídeos</translation>
     </message>
     <message>
         <source>Sources of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuentes de vídeos</translation>
     </message>
     <message>
         <source>Test session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión de pruebas</translation>
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Prueba</translation>
     </message>
     <message>
         <source>New &amp;lap test</source>
-        <translation type="unfinished"></translation>
+        <translation>Nueva prueba de &amp;vueltas</translation>
     </message>
     <message>
         <source>New &amp;sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo &amp;esprint</translation>
     </message>
     <message>
         <source>New &amp;eight test</source>
-        <translation type="unfinished"></translation>
+        <translation>Nueva prueba del &amp;ocho</translation>
     </message>
     <message>
         <source>&amp;Duplicate the test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Duplicar la prueba</translation>
     </message>
     <message>
         <source>&amp;Previous test</source>
-        <translation type="unfinished"></translation>
+        <translation>Prueba &amp;anterior</translation>
     </message>
     <message>
         <source>Ne&amp;xt test</source>
-        <translation type="unfinished"></translation>
+        <translation>Prueba &amp;siguiente</translation>
     </message>
     <message>
         <source>&amp;Compare with the athlete&apos;s other tests</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Comparar con las otras pruebas del deportista</translation>
     </message>
     <message>
         <source>&amp;Tick every listed test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marcar todas las pruebas de la lista</translation>
     </message>
     <message>
         <source>&amp;Untick all</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Desmarcar todas</translation>
     </message>
     <message>
         <source>&amp;Values</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Valores</translation>
     </message>
     <message>
         <source>&amp;Table</source>
@@ -6680,39 +6680,39 @@
     </message>
     <message>
         <source>Charts by &amp;lap or stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráficos por vue&amp;lta o trecho</translation>
     </message>
     <message>
         <source>Charts by t&amp;urn</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráficos por &amp;giro</translation>
     </message>
     <message>
         <source>Charts by &amp;stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráficos por p&amp;alada</translation>
     </message>
     <message>
         <source>&amp;List of tests</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lista de pruebas</translation>
     </message>
     <message>
         <source>Choose an &amp;athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir un &amp;deportista</translation>
     </message>
     <message>
         <source>Take in from a split &amp;file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Incorporar de un archivo de pa&amp;rciales…</translation>
     </message>
     <message>
         <source>Take in from a &amp;recording…</source>
-        <translation type="unfinished"></translation>
+        <translation>Incorporar de una gra&amp;bación…</translation>
     </message>
     <message>
         <source>&amp;Export the table…</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xportar la tabla…</translation>
     </message>
     <message>
         <source>&amp;Copy the table</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar la tabla</translation>
     </message>
     <message>
         <source>Course</source>
@@ -6720,51 +6720,51 @@
     </message>
     <message>
         <source>The course drawn: banks, gates, split lines and the lines of runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>El recorrido dibujado: orillas, puertas, líneas de parciales y trazadas de las mangas.</translation>
     </message>
     <message>
         <source>Draw the course of a race</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujar el recorrido de una carrera</translation>
     </message>
     <message>
         <source>Tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguimiento</translation>
     </message>
     <message>
         <source>Boat, gate or head followed through a film: its path and speed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Barco, puerta o cabeza seguidos por un vídeo: su trayectoria y su velocidad.</translation>
     </message>
     <message>
         <source>Open films</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir vídeos</translation>
     </message>
     <message>
         <source>Slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen de línea</translation>
     </message>
     <message>
         <source>A finish camera made of the film of a tripod: every crossing of a line at a glance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una cámara de meta hecha con el vídeo de un trípode: cada paso por una línea de un vistazo.</translation>
     </message>
     <message>
         <source>Open films of a fixed camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir vídeos de una cámara fija</translation>
     </message>
     <message>
         <source>Share folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Compartir carpetas</translation>
     </message>
     <message>
         <source>A folder the same here and on the team&apos;s own server, nothing overwritten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una carpeta igual aquí y en el servidor propio del equipo, sin sobrescribir nada.</translation>
     </message>
     <message>
         <source>Share a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Compartir una carpeta</translation>
     </message>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpetas</translation>
     </message>
 </context>
 <context>
@@ -6779,27 +6779,27 @@
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>desconocida</translation>
     </message>
     <message>
         <source>&amp;Name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre</translation>
     </message>
     <message>
         <source>&amp;Club</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Club</translation>
     </message>
     <message>
         <source>&amp;Birth year</source>
-        <translation type="unfinished"></translation>
+        <translation>Año de na&amp;cimiento</translation>
     </message>
     <message>
         <source>&amp;Age group</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grupo de edad</translation>
     </message>
     <message>
         <source>Preselected, group %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Preseleccionado, grupo %1</translation>
     </message>
     <message>
         <source>none</source>
@@ -6807,14 +6807,14 @@
     </message>
     <message>
         <source>Bonus %1 (percent)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonificación %1 (porcentaje)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthleteList</name>
     <message>
         <source>Search athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar deportistas</translation>
     </message>
     <message>
         <source>Season</source>
@@ -6822,22 +6822,22 @@
     </message>
     <message>
         <source>none yet</source>
-        <translation type="unfinished"></translation>
+        <translation>aún ninguno</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthletePageDialog</name>
     <message>
         <source>Page of an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Página de un deportista</translation>
     </message>
     <message>
         <source>All races that are open</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las carreras abiertas</translation>
     </message>
     <message>
         <source>Only the race of the run that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo la carrera de la manga mostrada</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
@@ -6845,53 +6845,53 @@
     </message>
     <message>
         <source>&amp;From</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;De</translation>
     </message>
     <message>
         <source>&amp;Preview and print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vista previa e impresión…</translation>
     </message>
     <message>
         <source>&amp;Save as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar como PDF…</translation>
     </message>
     <message>
         <source>One A4 page: where time is lost on the %1, what to train, penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una página A4: dónde se pierde tiempo frente a la referencia (%1), qué entrenar, penalizaciones.</translation>
     </message>
     <message>
         <source>Choose one of the athletes of the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige uno de los deportistas de la lista.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthletePages</name>
     <message>
         <source>Save the page of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la página del deportista</translation>
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentos PDF (*.pdf)</translation>
     </message>
     <message>
         <source>The page cannot be written over a race that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>La página no se puede escribir encima de una carrera de la que se hace.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AthletePanel</name>
     <message>
         <source>Retired: left out of the categorization report</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirado: no aparece en el informe de categorización</translation>
     </message>
     <message>
         <source>Search athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar deportistas</translation>
     </message>
     <message>
         <source>Ctrl+F</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+F</translation>
     </message>
     <message>
         <source>All categories</source>
@@ -6903,66 +6903,66 @@
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre</translation>
     </message>
     <message>
         <source>Born</source>
-        <translation type="unfinished"></translation>
+        <translation>Nac.</translation>
     </message>
     <message>
         <source>birth year</source>
-        <translation type="unfinished"></translation>
+        <translation>año de nacimiento</translation>
     </message>
     <message>
         <source>Boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Barcos</translation>
     </message>
     <message>
         <source>Ret.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ret.</translation>
     </message>
     <message>
         <source>Retired</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirado</translation>
     </message>
     <message>
         <source>retirement</source>
-        <translation type="unfinished"></translation>
+        <translation>retirada</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AttackForm</name>
     <message>
         <source>Passed</source>
-        <translation type="unfinished"></translation>
+        <translation>Adelantó</translation>
     </message>
     <message>
         <source>No end</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin fin</translation>
     </message>
     <message>
         <source>Takes the end of the attack out</source>
-        <translation type="unfinished"></translation>
+        <translation>Quita el fin del ataque</translation>
     </message>
     <message>
         <source>The attacker went past</source>
-        <translation type="unfinished"></translation>
+        <translation>El atacante adelantó</translation>
     </message>
     <message>
         <source>Attacker</source>
-        <translation type="unfinished"></translation>
+        <translation>Atacante</translation>
     </message>
     <message>
         <source>on</source>
-        <translation type="unfinished"></translation>
+        <translation>a</translation>
     </message>
     <message>
         <source>attacker</source>
-        <translation type="unfinished"></translation>
+        <translation>atacante</translation>
     </message>
     <message>
         <source>outcome of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>desenlace de un ataque</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -6970,7 +6970,7 @@
     </message>
     <message>
         <source>Side</source>
-        <translation type="unfinished"></translation>
+        <translation>Lado</translation>
     </message>
     <message>
         <source>Place</source>
@@ -6978,74 +6978,74 @@
     </message>
     <message>
         <source>side of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>lado de un ataque</translation>
     </message>
     <message>
         <source>place of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>lugar de un ataque</translation>
     </message>
     <message>
         <source>comment on an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>comentario a un ataque</translation>
     </message>
     <message>
         <source>Start here</source>
-        <translation type="unfinished"></translation>
+        <translation>Empieza aquí</translation>
     </message>
     <message>
         <source>The attack starts at this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>El ataque empieza en este fotograma</translation>
     </message>
     <message>
         <source>End here</source>
-        <translation type="unfinished"></translation>
+        <translation>Termina aquí</translation>
     </message>
     <message>
         <source>The attack ends at this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>El ataque termina en este fotograma</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Removes the attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Quita el ataque</translation>
     </message>
     <message>
         <source>?  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>?  %1</translation>
     </message>
     <message>
         <source>unnamed</source>
-        <translation type="unfinished"></translation>
+        <translation>sin nombre</translation>
     </message>
     <message>
         <source>Start %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio %1</translation>
     </message>
     <message>
         <source>End %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin %1</translation>
     </message>
     <message>
         <source>defenders</source>
-        <translation type="unfinished"></translation>
+        <translation>defensores</translation>
     </message>
     <message>
         <source>%1 defends</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 defiende</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::AveragesModel</name>
     <message>
         <source>Share of the runs with so many penalty seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte de las mangas con tantos segundos de penalización</translation>
     </message>
     <message>
         <source>S%1</source>
-        <translation type="unfinished"></translation>
+        <translation>S%1</translation>
     </message>
     <message>
         <source>Season</source>
@@ -7057,50 +7057,50 @@
     </message>
     <message>
         <source>Behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Dif.</translation>
     </message>
     <message>
         <source>Clean</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpias</translation>
     </message>
     <message>
         <source>2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>2 s</translation>
     </message>
     <message>
         <source>4 s</source>
-        <translation type="unfinished"></translation>
+        <translation>4 s</translation>
     </message>
     <message>
         <source>6 to 48 s</source>
-        <translation type="unfinished"></translation>
+        <translation>6 a 48 s</translation>
     </message>
     <message>
         <source>50 s and more</source>
-        <translation type="unfinished"></translation>
+        <translation>50 s y más</translation>
     </message>
     <message>
         <source>All seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las temporadas</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::BalanceView</name>
     <message>
         <source>Side unknown: nothing tells which side of the phone points to the bow. Name its mount in the menu Edit, and left and right are found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lado desconocido: nada indica qué lado del teléfono apunta a la proa. Indica su montaje en el menú Editar y se sabrá cuál es la izquierda y cuál la derecha.</translation>
     </message>
     <message>
         <source>even</source>
-        <translation type="unfinished"></translation>
+        <translation>igual</translation>
     </message>
     <message>
         <source>left +%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>izquierda +%1 %</translation>
     </message>
     <message>
         <source>right +%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>derecha +%1 %</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -7108,7 +7108,7 @@
     </message>
     <message>
         <source>Force (N)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuerza (N)</translation>
     </message>
     <message>
         <source>Impulse (N·s)</source>
@@ -7726,7 +7726,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo</translation>
     </message>
     <message>
         <source>It is not marked from the start to a split.</source>
@@ -8190,7 +8190,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Within, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Variación, %</translation>
     </message>
     <message>
         <source>How much the runs vary by chance</source>
@@ -8198,7 +8198,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>A year, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Al año, %</translation>
     </message>
     <message>
         <source>Trend behind the winners, over all phases</source>
@@ -8430,7 +8430,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Words there</source>
@@ -8595,7 +8595,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>name</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre</translation>
     </message>
     <message>
         <source>width of the picture</source>
@@ -9118,7 +9118,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Force (N)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuerza (N)</translation>
     </message>
     <message>
         <source>Power (W)</source>
@@ -9341,7 +9341,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Bib</source>
-        <translation type="unfinished"></translation>
+        <translation>Dorsal</translation>
     </message>
     <message>
         <source>Name</source>
@@ -9361,11 +9361,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo</translation>
     </message>
     <message>
         <source>Type the name of another film to correct a single one</source>
@@ -9558,11 +9558,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::DetailsPanel</name>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué</translation>
     </message>
     <message>
         <source>Noted as</source>
-        <translation type="unfinished"></translation>
+        <translation>Anotado como</translation>
     </message>
     <message>
         <source>Penalties</source>
@@ -9582,7 +9582,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>Where the share lies with 90 %</source>
@@ -9690,7 +9690,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué</translation>
     </message>
     <message>
         <source>Then</source>
@@ -9958,7 +9958,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>1 exercise</source>
@@ -10059,7 +10059,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FailedFiles</name>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>What is wrong</source>
@@ -10141,7 +10141,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FetchWindow</name>
     <message>
         <source>Fetch films</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargar vídeos</translation>
     </message>
     <message>
         <source>&amp;Address</source>
@@ -10241,7 +10241,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Open a source of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una fuente de vídeos</translation>
     </message>
     <message>
         <source>Sources of films (*.json)</source>
@@ -10750,7 +10750,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FindWindow</name>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>Fields</source>
@@ -11060,11 +11060,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gate %1, upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1, remonte</translation>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1</translation>
     </message>
     <message>
         <source>Touches</source>
@@ -11084,7 +11084,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Remonte</translation>
     </message>
     <message>
         <source>Gates</source>
@@ -11138,11 +11138,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gate %1, upstream</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1, remonte</translation>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1</translation>
     </message>
     <message>
         <source>
@@ -11244,7 +11244,7 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -11332,7 +11332,7 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>removal of gym sessions</source>
@@ -11409,7 +11409,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Attacker</source>
-        <translation type="unfinished"></translation>
+        <translation>Atacante</translation>
     </message>
     <message>
         <source>On</source>
@@ -11421,7 +11421,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Side</source>
-        <translation type="unfinished"></translation>
+        <translation>Lado</translation>
     </message>
     <message>
         <source>Place</source>
@@ -11449,7 +11449,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1</translation>
     </message>
     <message>
         <source>attack</source>
@@ -11465,11 +11465,11 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>attacker</source>
-        <translation type="unfinished"></translation>
+        <translation>atacante</translation>
     </message>
     <message>
         <source>defenders</source>
-        <translation type="unfinished"></translation>
+        <translation>defensores</translation>
     </message>
     <message>
         <source>moment of an attack</source>
@@ -11571,11 +11571,11 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Barcos</translation>
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo</translation>
     </message>
     <message>
         <source>Taken</source>
@@ -11607,7 +11607,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Removes the heat with all its marks</source>
@@ -11626,7 +11626,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>S%1</source>
-        <translation type="unfinished"></translation>
+        <translation>S%1</translation>
     </message>
     <message>
         <source>is the reference</source>
@@ -11939,7 +11939,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a %2</translation>
     </message>
 </context>
 <context>
@@ -12116,7 +12116,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Start the timer…</source>
@@ -12276,7 +12276,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>removal of %1</source>
@@ -12972,7 +12972,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabaciones</translation>
     </message>
     <message>
         <source>&amp;Open recordings…</source>
@@ -13060,11 +13060,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Next stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>Palada &amp;siguiente</translation>
     </message>
     <message>
         <source>&amp;Charts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gráficos</translation>
     </message>
     <message>
         <source>Axes of the &amp;phone</source>
@@ -13210,7 +13210,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::MotionWindow</name>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabaciones</translation>
     </message>
     <message>
         <source>Open it</source>
@@ -13250,7 +13250,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Open recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir grabaciones</translation>
     </message>
     <message>
         <source>Raw recordings (*.kvb);;All files (*)</source>
@@ -13360,7 +13360,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
 </context>
 <context>
@@ -13469,15 +13469,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Results list</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de resultados</translation>
     </message>
     <message>
         <source>Attached document</source>
-        <translation type="unfinished"></translation>
+        <translation>Documento adjunto</translation>
     </message>
     <message>
         <source>Table kept with the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla conservada con la carrera</translation>
     </message>
     <message>
         <source>All categories</source>
@@ -13988,7 +13988,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Dif.</translation>
     </message>
     <message>
         <source>Known where the run was taken over from a split file</source>
@@ -14023,7 +14023,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Choose one of the athletes of the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige uno de los deportistas de la lista.</translation>
     </message>
     <message>
         <source>One file for the telephone, of one race as it was last saved. Films lie in the folder beside it.</source>
@@ -14050,7 +14050,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>The page cannot be written over a race that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>La página no se puede escribir encima de una carrera de la que se hace.</translation>
     </message>
     <message>
         <source>Making the page…</source>
@@ -14101,11 +14101,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Least</source>
-        <translation type="unfinished"></translation>
+        <translation>Menor</translation>
     </message>
     <message>
         <source>Most</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayor</translation>
     </message>
     <message>
         <source>Make</source>
@@ -14136,7 +14136,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1</translation>
     </message>
     <message>
         <source>, which is not on the cross course</source>
@@ -14299,7 +14299,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre</translation>
     </message>
     <message>
         <source>&amp;Categories</source>
@@ -14352,7 +14352,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;New athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuevo deportista…</translation>
     </message>
     <message>
         <source>&amp;Edit the athlete…</source>
@@ -14364,7 +14364,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>New &amp;season</source>
-        <translation type="unfinished"></translation>
+        <translation>Nueva te&amp;mporada</translation>
     </message>
     <message>
         <source>Remove the s&amp;eason</source>
@@ -14484,7 +14484,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Planning</source>
-        <translation type="unfinished"></translation>
+        <translation>Planificación</translation>
     </message>
     <message>
         <source>Plan</source>
@@ -14811,7 +14811,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Behind the winner, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Respecto al ganador, %</translation>
     </message>
     <message>
         <source>Behind the fastest splits, %</source>
@@ -15354,7 +15354,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Takes the recording out of the split file</source>
@@ -15574,7 +15574,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Release</source>
@@ -15593,7 +15593,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RatesPanel</name>
     <message>
         <source>Passages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasos</translation>
     </message>
     <message>
         <source>Runs that came past</source>
@@ -15613,7 +15613,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>Where the rate lies with 90 %</source>
@@ -15869,7 +15869,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabaciones</translation>
     </message>
 </context>
 <context>
@@ -15899,7 +15899,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RecordingPanel</name>
     <message>
         <source>Found from the position</source>
-        <translation type="unfinished"></translation>
+        <translation>Deducido de la posición</translation>
     </message>
     <message>
         <source>Later b&amp;y</source>
@@ -16001,7 +16001,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RenderQueue</name>
     <message>
         <source>A film is still being composed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún se está componiendo un vídeo.</translation>
     </message>
     <message>
         <source>Leaving the program stops that, and nothing of an unfinished film is kept.</source>
@@ -16046,7 +16046,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentos PDF (*.pdf)</translation>
     </message>
     <message>
         <source>Report</source>
@@ -16682,7 +16682,7 @@ Elige un archivo.</translation>
     <name>kavela::desktop::SearchPlaces</name>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Folders and files that are searched</source>
@@ -16706,7 +16706,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Search files</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en archivos</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -16937,7 +16937,7 @@ Elige un archivo.</translation>
     <name>kavela::desktop::SeasonPage</name>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a %2</translation>
     </message>
     <message>
         <source>too few</source>
@@ -16965,7 +16965,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -16981,7 +16981,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Lost, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdido, %</translation>
     </message>
     <message>
         <source>Of the reference&apos;s time there</source>
@@ -16989,7 +16989,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>A run</source>
@@ -17173,7 +17173,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentos PDF (*.pdf)</translation>
     </message>
     <message>
         <source>The report cannot be written over a file that it is made from.</source>
@@ -17208,7 +17208,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Open a team</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir un equipo</translation>
     </message>
     <message>
         <source>Teams (*.kvteam);;All files (*)</source>
@@ -17661,7 +17661,7 @@ Elige un archivo.</translation>
     <name>kavela::desktop::SelectionWindow</name>
     <message>
         <source>Selection races</source>
-        <translation type="unfinished"></translation>
+        <translation>Selectivos</translation>
     </message>
     <message>
         <source>Copy the table</source>
@@ -17677,7 +17677,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;Copy the table</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar la tabla</translation>
     </message>
     <message>
         <source>&amp;What if</source>
@@ -17769,7 +17769,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Selection %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Selectivo %1</translation>
     </message>
     <message>
         <source>What if: times and penalties typed now are tried only. End it (W) to go back to the real results.</source>
@@ -18081,7 +18081,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Take the selected stretch out</source>
@@ -18313,7 +18313,7 @@ Elige un archivo.</translation>
     <name>kavela::desktop::ShareWindow</name>
     <message>
         <source>Share folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Compartir carpetas</translation>
     </message>
     <message>
         <source>F&amp;older</source>
@@ -18762,7 +18762,7 @@ and %1 more</source>
     <name>kavela::desktop::SlitStrip</name>
     <message>
         <source>Slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen de línea</translation>
     </message>
     <message>
         <source>What stood on the line over the film, over time. A click goes there.</source>
@@ -18773,7 +18773,7 @@ and %1 more</source>
     <name>kavela::desktop::SlitView</name>
     <message>
         <source>Slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen de línea</translation>
     </message>
     <message>
         <source>%1 %</source>
@@ -18796,7 +18796,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen de línea</translation>
     </message>
     <message>
         <source>“%1” is not there.</source>
@@ -19325,7 +19325,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>All seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las temporadas</translation>
     </message>
     <message>
         <source>Categorization</source>
@@ -19383,7 +19383,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el gr&amp;áfico…</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -19510,7 +19510,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <name>kavela::desktop::TablesWindow</name>
     <message>
         <source>Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>Tablas</translation>
     </message>
     <message>
         <source>Drop a list of results here</source>
@@ -19582,7 +19582,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Open lists</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir listas</translation>
     </message>
     <message>
         <source>Begin anew?</source>
@@ -19825,7 +19825,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Day</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Día</translation>
     </message>
     <message>
         <source>Take over</source>
@@ -19891,7 +19891,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Prueba</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
@@ -20044,7 +20044,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Test</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Prueba</translation>
     </message>
     <message>
         <source>Take %1 runs in</source>
@@ -20410,7 +20410,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Barcos</translation>
     </message>
 </context>
 <context>
@@ -20467,7 +20467,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Team</source>
-        <translation type="unfinished"></translation>
+        <translation>Equipo</translation>
     </message>
     <message>
         <source>new athlete</source>
@@ -20557,7 +20557,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Test session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión de pruebas</translation>
     </message>
     <message>
         <source>Values</source>
@@ -20565,7 +20565,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Export the table…</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xportar la tabla…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -20667,7 +20667,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla</translation>
     </message>
     <message>
         <source>One ticked test is of another kind and left out here.</source>
@@ -20981,7 +20981,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <name>kavela::desktop::TrackingWindow</name>
     <message>
         <source>Tracking</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguimiento</translation>
     </message>
     <message>
         <source>Paths on films (*.track.json)</source>
@@ -21232,11 +21232,11 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Touches a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Toques por manga</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>90 %</translation>
     </message>
     <message>
         <source>Exact interval of the touches</source>
@@ -21287,7 +21287,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Film</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo</translation>
     </message>
     <message>
         <source>⚠ missing</source>
@@ -21323,7 +21323,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Removes the selected trial</source>
@@ -21346,7 +21346,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1</translation>
     </message>
     <message>
         <source>Split</source>
