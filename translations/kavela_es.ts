@@ -7112,42 +7112,42 @@
     </message>
     <message>
         <source>Impulse (N·s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Impulso (N·s)</translation>
     </message>
     <message>
         <source>Power (W)</source>
-        <translation type="unfinished"></translation>
+        <translation>Potencia (W)</translation>
     </message>
     <message>
         <source>Water phase (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fase acuática (s)</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Izquierda</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Derecha</translation>
     </message>
     <message>
         <source>Differences under %1 % are no finding</source>
-        <translation type="unfinished"></translation>
+        <translation>Las diferencias de menos del %1 % no significan nada</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::BodyPanel</name>
     <message>
         <source>Body</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuerpo</translation>
     </message>
     <message>
         <source>body data</source>
-        <translation type="unfinished"></translation>
+        <translation>datos corporales</translation>
     </message>
     <message>
         <source>Add weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir peso</translation>
     </message>
     <message>
         <source>Weight</source>
@@ -7159,94 +7159,97 @@
     </message>
     <message>
         <source>Resting heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia cardiaca en reposo</translation>
     </message>
     <message>
         <source>heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>frecuencia cardiaca</translation>
     </message>
     <message>
         <source>Add heart rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir frecuencia cardiaca</translation>
     </message>
     <message>
         <source>Heart-rate variability</source>
-        <translation type="unfinished"></translation>
+        <translation>Variabilidad de la frecuencia cardiaca</translation>
     </message>
     <message>
         <source>variability</source>
-        <translation type="unfinished"></translation>
+        <translation>variabilidad</translation>
     </message>
     <message>
         <source>Add measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir medición</translation>
     </message>
     <message>
         <source>Import list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar lista…</translation>
     </message>
     <message>
         <source>A list with a header: Date and one or more of AVNN, SDNN, rMSSD, pNN50, LF, HF. It can also be dropped here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una lista con cabecera: Date y uno o más de AVNN, SDNN, rMSSD, pNN50, LF, HF. También se puede soltar aquí.</translation>
     </message>
     <message>
         <source>Index of the chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Índice del gráfico</translation>
     </message>
     <message>
         <source>&amp;Index</source>
-        <translation type="unfinished"></translation>
+        <translation>Í&amp;ndice</translation>
     </message>
     <message>
         <source>Choose an athlete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige un deportista.</translation>
     </message>
     <message>
         <source>Add a season for this athlete first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade antes una temporada para este deportista.</translation>
     </message>
     <message>
         <source>No weight of this season yet.
 Press Insert to add today&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay pesos de esta temporada.
+Pulsa Insert para añadir el de hoy.</translation>
     </message>
     <message>
         <source>No heart rate of this season yet.
 Press Insert to add this morning&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay frecuencias cardiacas de esta temporada.
+Pulsa Insert para añadir la de esta mañana.</translation>
     </message>
     <message>
         <source>No measurement of this season yet.
 Press Insert to add one, or import a list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay mediciones de esta temporada.
+Pulsa Insert para añadir una, o importa una lista.</translation>
     </message>
     <message>
         <source>bpm</source>
-        <translation type="unfinished"></translation>
+        <translation>lpm</translation>
     </message>
     <message>
         <source>Add a few mornings&apos; heart rates to see the mean of the week against what is usual.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade las frecuencias cardiacas de unas cuantas mañanas para ver la media de la semana frente a lo habitual.</translation>
     </message>
     <message>
         <source>No %1 of this season. Add measurements, import a list or choose another index.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay %1 de esta temporada. Añade mediciones, importa una lista o elige otro índice.</translation>
     </message>
     <message>
         <source>Import variability</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar variabilidad</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt *.tsv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listas (*.csv *.txt *.tsv);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>import of variability</source>
-        <translation type="unfinished"></translation>
+        <translation>importación de variabilidad</translation>
     </message>
     <message>
         <source>The list cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La lista no se puede leer: %1</translation>
     </message>
 </context>
 <context>
@@ -7261,35 +7264,35 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Lag</source>
-        <translation type="unfinished"></translation>
+        <translation>Retardo</translation>
     </message>
     <message>
         <source>Off by</source>
-        <translation type="unfinished"></translation>
+        <translation>Desvío</translation>
     </message>
     <message>
         <source>Attach a film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Adjuntar un vídeo…</translation>
     </message>
     <message>
         <source>Beside the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Junto al vídeo</translation>
     </message>
     <message>
         <source>Detach</source>
-        <translation type="unfinished"></translation>
+        <translation>Separar</translation>
     </message>
     <message>
         <source>Takes the film shown beside off this run</source>
-        <translation type="unfinished"></translation>
+        <translation>Quita de esta manga el vídeo que se muestra al lado</translation>
     </message>
     <message>
         <source>Attach it to every run</source>
-        <translation type="unfinished"></translation>
+        <translation>Adjuntarlo a todas las mangas</translation>
     </message>
     <message>
         <source>A fixed camera often films the whole race in one go</source>
-        <translation type="unfinished"></translation>
+        <translation>Una cámara fija suele grabar toda la carrera de una vez</translation>
     </message>
     <message>
         <source>None</source>
@@ -7297,55 +7300,55 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Attach the film of a camera that stood at the course.</source>
-        <translation type="unfinished"></translation>
+        <translation>Adjunta el vídeo de una cámara colocada junto al recorrido.</translation>
     </message>
     <message>
         <source>Choose a camera to see its film beside this one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige una cámara para ver su vídeo junto a este.</translation>
     </message>
     <message>
         <source>Find one moment on both films, the fixed camera&apos;s alone with Alt+PgUp and Alt+PgDown. M marks it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Busca un mismo momento en los dos vídeos, el de la cámara fija solo con Alt+RePág y Alt+AvPág. M lo marca.</translation>
     </message>
     <message>
         <source>In step: the fixed camera&apos;s film is %1 s ahead.</source>
-        <translation type="unfinished"></translation>
+        <translation>A la par: el vídeo de la cámara fija va %1 s por delante.</translation>
     </message>
     <message>
         <source>Placed by the dates in the two films, to a second or two.</source>
-        <translation type="unfinished"></translation>
+        <translation>Colocado por las fechas de los dos vídeos, con una precisión de uno o dos segundos.</translation>
     </message>
     <message>
         <source>Not in step yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no van a la par.</translation>
     </message>
     <message>
         <source>Its film has no date: moments are kept without the time of its clock.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su vídeo no tiene fecha: los momentos se conservan sin la hora de su reloj.</translation>
     </message>
     <message>
         <source>fixed camera detached</source>
-        <translation type="unfinished"></translation>
+        <translation>cámara fija separada</translation>
     </message>
     <message>
         <source>fixed camera for every run</source>
-        <translation type="unfinished"></translation>
+        <translation>cámara fija para todas las mangas</translation>
     </message>
     <message>
         <source>The film of the fixed camera shows no frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>El vídeo de la cámara fija no muestra ningún fotograma.</translation>
     </message>
     <message>
         <source>moment on both films</source>
-        <translation type="unfinished"></translation>
+        <translation>momento en los dos vídeos</translation>
     </message>
     <message>
         <source>Same moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Mismo momento</translation>
     </message>
     <message>
         <source>moment removed</source>
-        <translation type="unfinished"></translation>
+        <translation>momento quitado</translation>
     </message>
 </context>
 <context>
@@ -7356,15 +7359,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source> · %1 of %2 selected runs</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 de %2 mangas seleccionadas</translation>
     </message>
     <message>
         <source>The filter matches nobody. Change it to see runs again.</source>
-        <translation type="unfinished"></translation>
+        <translation>El filtro no coincide con nadie. Cámbialo para volver a ver mangas.</translation>
     </message>
     <message>
         <source>Open a race to see its charts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre una carrera para ver sus gráficos.</translation>
     </message>
     <message numerus="yes">
         <source>%n runs</source>
@@ -7382,7 +7385,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Referencia</translation>
     </message>
     <message>
         <source>Reference</source>
@@ -7390,7 +7393,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>What the runs are held against</source>
-        <translation type="unfinished"></translation>
+        <translation>Con qué se comparan las mangas</translation>
     </message>
     <message>
         <source>Fit</source>
@@ -7410,7 +7413,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Best run</source>
-        <translation type="unfinished"></translation>
+        <translation>Mejor manga</translation>
     </message>
     <message>
         <source>Median</source>
@@ -7429,19 +7432,19 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Race progression</source>
-        <translation type="unfinished"></translation>
+        <translation>Evolución de la carrera</translation>
     </message>
     <message>
         <source>Averages</source>
-        <translation type="unfinished"></translation>
+        <translation>Medias</translation>
     </message>
     <message>
         <source>&amp;All seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Todas las temporadas</translation>
     </message>
     <message>
         <source>The season chart shows every season, not the chosen one alone</source>
-        <translation type="unfinished"></translation>
+        <translation>El gráfico de temporada muestra todas las temporadas, no solo la elegida</translation>
     </message>
     <message>
         <source>Save chart…</source>
@@ -7449,11 +7452,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>As a picture (PNG, SVG) or as CSV (Ctrl+E)</source>
-        <translation type="unfinished"></translation>
+        <translation>Como imagen (PNG, SVG) o como CSV (Ctrl+E)</translation>
     </message>
     <message>
         <source>The results of an athlete stand here as charts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los resultados de un deportista aparecen aquí en gráficos.</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -7461,42 +7464,42 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>all seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>todas las temporadas</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ChartView</name>
     <message>
         <source>No test yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay pruebas</translation>
     </message>
     <message>
         <source>%1 × %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2</translation>
     </message>
     <message>
         <source>Test</source>
-        <translation type="unfinished"></translation>
+        <translation>Prueba</translation>
     </message>
     <message>
         <source>Split %1 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcial %1 (s)</translation>
     </message>
     <message>
         <source>Total (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Total (s)</translation>
     </message>
     <message>
         <source>Standard deviation (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Desviación típica (s)</translation>
     </message>
     <message>
         <source>Laps</source>
-        <translation type="unfinished"></translation>
+        <translation>Vueltas</translation>
     </message>
     <message>
         <source>Turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Giros</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -7504,23 +7507,24 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Stretches</source>
-        <translation type="unfinished"></translation>
+        <translation>Trechos</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ClipPair</name>
     <message>
         <source>This run has no film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta manga no tiene vídeo.</translation>
     </message>
     <message>
         <source>The film is not there:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El vídeo no está ahí:
+%1</translation>
     </message>
     <message>
         <source>Play or pause the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir o pausar los clips</translation>
     </message>
     <message>
         <source>Play</source>
@@ -7528,90 +7532,90 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Play the clips from their beginnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir los clips desde el principio</translation>
     </message>
     <message>
         <source>From the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Desde el inicio</translation>
     </message>
     <message>
         <source>One frame back in the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fotograma atrás en los clips</translation>
     </message>
     <message>
         <source>Frame back</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotograma atrás</translation>
     </message>
     <message>
         <source>One frame forward in the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fotograma adelante en los clips</translation>
     </message>
     <message>
         <source>Frame on</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotograma adelante</translation>
     </message>
     <message>
         <source>Clips in slow motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips a cámara lenta</translation>
     </message>
     <message>
         <source>Slow motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Cámara lenta</translation>
     </message>
     <message>
         <source>Clips slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips más lentos</translation>
     </message>
     <message>
         <source>Slower</source>
-        <translation type="unfinished"></translation>
+        <translation>Más lento</translation>
     </message>
     <message>
         <source>Clips faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips más rápidos</translation>
     </message>
     <message>
         <source>Faster</source>
-        <translation type="unfinished"></translation>
+        <translation>Más rápido</translation>
     </message>
     <message>
         <source>Clips at normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips a velocidad normal</translation>
     </message>
     <message>
         <source>Normal speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad normal</translation>
     </message>
     <message>
         <source>Repeat the clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Repetir los clips</translation>
     </message>
     <message>
         <source>Repeat</source>
-        <translation type="unfinished"></translation>
+        <translation>Repetir</translation>
     </message>
     <message>
         <source>%1 · %2 s, at its end</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 s, al final</translation>
     </message>
     <message>
         <source>%1 · %2 of %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 de %3 s</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ColumnTable</name>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar</translation>
     </message>
     <message>
         <source>&amp;Copy what is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar lo seleccionado</translation>
     </message>
     <message>
         <source>&amp;Save as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar como CSV…</translation>
     </message>
     <message>
         <source>C&amp;olumns</source>
@@ -7630,34 +7634,34 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CommandPalette</name>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>An action, a file, an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Una acción, un archivo, un deportista</translation>
     </message>
     <message>
         <source>Nothing here is called “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí nada se llama «%1».</translation>
     </message>
     <message>
         <source>Searched: actions, recent files and the names in this window.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se buscó en: acciones, archivos recientes y los nombres de esta ventana.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CommentPage</name>
     <message>
         <source>score</source>
-        <translation type="unfinished"></translation>
+        <translation>nota</translation>
     </message>
     <message>
         <source>Show the coach&apos;s comments</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar los comentarios del entrenador</translation>
     </message>
     <message>
         <source>comment on split %1</source>
-        <translation type="unfinished"></translation>
+        <translation>comentario al parcial %1</translation>
     </message>
     <message>
         <source>Split</source>
@@ -7669,48 +7673,48 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>deportista</translation>
     </message>
     <message>
         <source>coach</source>
-        <translation type="unfinished"></translation>
+        <translation>entrenador</translation>
     </message>
     <message>
         <source>Scores</source>
-        <translation type="unfinished"></translation>
+        <translation>Notas</translation>
     </message>
     <message>
         <source>Give-ups</source>
-        <translation type="unfinished"></translation>
+        <translation>Abandonos</translation>
     </message>
     <message>
         <source>team radio</source>
-        <translation type="unfinished"></translation>
+        <translation>radio del equipo</translation>
     </message>
     <message>
         <source>team radio removed</source>
-        <translation type="unfinished"></translation>
+        <translation>radio del equipo quitada</translation>
     </message>
     <message>
         <source>team radio moved</source>
-        <translation type="unfinished"></translation>
+        <translation>radio del equipo movida</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CompareDocument</name>
     <message>
         <source>It is no comparison of films, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No es una comparación de vídeos, o está dañada: %1</translation>
     </message>
     <message>
         <source>1 film</source>
-        <translation type="unfinished"></translation>
+        <translation>1 vídeo</translation>
     </message>
     <message numerus="yes">
         <source>%n films</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n vídeo</numerusform>
+            <numerusform>%n vídeos</numerusform>
         </translation>
     </message>
 </context>
@@ -7718,11 +7722,11 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::CompareFilmsPanel</name>
     <message>
         <source>In it</source>
-        <translation type="unfinished"></translation>
+        <translation>Dentro</translation>
     </message>
     <message>
         <source>Its place in the composed film. Space chooses it or takes it out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su lugar en el vídeo compuesto. Espacio lo elige o lo saca.</translation>
     </message>
     <message>
         <source>Film</source>
@@ -7730,7 +7734,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>It is not marked from the start to a split.</source>
-        <translation type="unfinished"></translation>
+        <translation>No está marcada desde la salida hasta un parcial.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -7750,51 +7754,51 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Name in the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre en el vídeo</translation>
     </message>
     <message>
         <source>name in the film</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre en el vídeo</translation>
     </message>
     <message>
         <source>In place of that of the split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>En lugar del que tiene el archivo de parciales.</translation>
     </message>
     <message>
         <source>category in the film</source>
-        <translation type="unfinished"></translation>
+        <translation>categoría en el vídeo</translation>
     </message>
     <message>
         <source>Starts at [s]</source>
-        <translation type="unfinished"></translation>
+        <translation>Sale en [s]</translation>
     </message>
     <message>
         <source>The second of the film at which a run without marks starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>El segundo del vídeo en el que sale una manga sin marcas.</translation>
     </message>
     <message>
         <source>marked</source>
-        <translation type="unfinished"></translation>
+        <translation>marcada</translation>
     </message>
     <message>
         <source>The start is a second of the film, 0 to 86400</source>
-        <translation type="unfinished"></translation>
+        <translation>La salida es un segundo del vídeo, de 0 a 86400</translation>
     </message>
     <message>
         <source>start of a film</source>
-        <translation type="unfinished"></translation>
+        <translation>inicio de un vídeo</translation>
     </message>
     <message>
         <source>No.</source>
-        <translation type="unfinished"></translation>
+        <translation>N.º</translation>
     </message>
     <message>
         <source>Find a name, a category, a film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar un nombre, una categoría, un vídeo…</translation>
     </message>
     <message>
         <source>Add split files or films, then tick the two to four that are compared.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade archivos de parciales o vídeos y marca después de dos a cuatro para compararlos.</translation>
     </message>
     <message>
         <source>Add s&amp;plit files…</source>
@@ -7806,78 +7810,78 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>In the composed film</source>
-        <translation type="unfinished"></translation>
+        <translation>En el vídeo compuesto</translation>
     </message>
     <message>
         <source>No film is chosen yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay ningún vídeo elegido.</translation>
     </message>
     <message>
         <source>&amp;Take it out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sacarlo</translation>
     </message>
     <message>
         <source>Move it &amp;up</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;ubirlo</translation>
     </message>
     <message>
         <source>Move it &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bajarlo</translation>
     </message>
     <message>
         <source>Four films are the most. Take one out first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuatro vídeos es el máximo. Saca antes uno.</translation>
     </message>
     <message>
         <source>choice of a film</source>
-        <translation type="unfinished"></translation>
+        <translation>elección de un vídeo</translation>
     </message>
     <message>
         <source>removal of a film</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de un vídeo</translation>
     </message>
     <message>
         <source>order of the films</source>
-        <translation type="unfinished"></translation>
+        <translation>orden de los vídeos</translation>
     </message>
     <message>
         <source>path of a film</source>
-        <translation type="unfinished"></translation>
+        <translation>trayectoria de un vídeo</translation>
     </message>
     <message>
         <source>Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Trayectoria</translation>
     </message>
     <message>
         <source>Draws the path that was followed on it in the window Tracking.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja encima la trayectoria que se siguió en la ventana Seguimiento.</translation>
     </message>
     <message>
         <source>Follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguir</translation>
     </message>
     <message>
         <source>Shows it twice as large, round that path.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo muestra al doble de tamaño, alrededor de esa trayectoria.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CompareForm</name>
     <message>
         <source>&amp;Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Disposición</translation>
     </message>
     <message>
         <source>Line at</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea en</translation>
     </message>
     <message>
         <source>0 left, 1 right</source>
-        <translation type="unfinished"></translation>
+        <translation>0 izquierda, 1 derecha</translation>
     </message>
     <message>
         <source>&amp;Together</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;A la par</translation>
     </message>
     <message>
         <source>Split</source>
@@ -7885,15 +7889,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Sho&amp;wn</source>
-        <translation type="unfinished"></translation>
+        <translation>M&amp;ostrado</translation>
     </message>
     <message>
         <source>From split</source>
-        <translation type="unfinished"></translation>
+        <translation>Del parcial</translation>
     </message>
     <message>
         <source>To split</source>
-        <translation type="unfinished"></translation>
+        <translation>Al parcial</translation>
     </message>
     <message>
         <source>From</source>
@@ -7905,27 +7909,27 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Spee&amp;d</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Velocidad</translation>
     </message>
     <message>
         <source>Slow motion has no sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cámara lenta no tiene sonido.</translation>
     </message>
     <message>
         <source>To be read in it</source>
-        <translation type="unfinished"></translation>
+        <translation>Para leer en él</translation>
     </message>
     <message>
         <source>&amp;Names</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombres</translation>
     </message>
     <message>
         <source>&amp;Clock</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reloj</translation>
     </message>
     <message>
         <source>Split times and gaps</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempos parciales y diferencias</translation>
     </message>
     <message>
         <source>Section</source>
@@ -7937,43 +7941,43 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Chart of the gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráfico de la diferencia</translation>
     </message>
     <message>
         <source>The file</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo</translation>
     </message>
     <message>
         <source>Si&amp;ze</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tamaño</translation>
     </message>
     <message>
         <source>1080 × 1920, upright</source>
-        <translation type="unfinished"></translation>
+        <translation>1080 × 1920, vertical</translation>
     </message>
     <message>
         <source>720 × 1280, upright</source>
-        <translation type="unfinished"></translation>
+        <translation>720 × 1280, vertical</translation>
     </message>
     <message>
         <source>1080 × 1080, square</source>
-        <translation type="unfinished"></translation>
+        <translation>1080 × 1080, cuadrado</translation>
     </message>
     <message>
         <source>For sending</source>
-        <translation type="unfinished"></translation>
+        <translation>Para enviar</translation>
     </message>
     <message>
         <source>At most 1280 × 720 and coarser: a small file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Como máximo 1280 × 720 y menos fino: un archivo pequeño.</translation>
     </message>
     <message>
         <source>S&amp;ound of film</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sonido del vídeo</translation>
     </message>
     <message>
         <source>None in slow motion, nor while that film waits or is stretched.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno a cámara lenta, ni mientras ese vídeo espera o se estira.</translation>
     </message>
     <message>
         <source>none</source>
@@ -8158,15 +8162,15 @@ Press Insert to add one, or import a list.</source>
     <name>kavela::desktop::ComparisonPanel</name>
     <message>
         <source>%1 of %2 (%3–%4 %)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 (%3–%4 %)</translation>
     </message>
     <message>
         <source>Behind the winners in the &amp;phase</source>
-        <translation type="unfinished"></translation>
+        <translation>Respecto a los ganadores de la &amp;fase</translation>
     </message>
     <message>
         <source>Nobody of the team races in this category.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nadie del equipo compite en esta categoría.</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -8178,15 +8182,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Behind, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia, %</translation>
     </message>
     <message>
         <source>Median behind the winners of the phase, without missed gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediana respecto a los ganadores de la fase, sin saltos</translation>
     </message>
     <message>
         <source>of runs</source>
-        <translation type="unfinished"></translation>
+        <translation>de mangas</translation>
     </message>
     <message>
         <source>Within, %</source>
@@ -8194,7 +8198,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>How much the runs vary by chance</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuánto varían las mangas por azar</translation>
     </message>
     <message>
         <source>A year, %</source>
@@ -8202,11 +8206,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Trend behind the winners, over all phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Tendencia respecto a los ganadores, en todas las fases</translation>
     </message>
     <message>
         <source>Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>Tendencia</translation>
     </message>
     <message>
         <source>too few</source>
@@ -8222,7 +8226,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>The athletes year by year: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Los deportistas año a año: %1</translation>
     </message>
     <message>
         <source>Year</source>
@@ -8230,14 +8234,14 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Median behind the winner, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediana respecto al ganador, %</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CostPanel</name>
     <message>
         <source>%1 A medal.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Una medalla.</translation>
     </message>
     <message>
         <source>Crew</source>
@@ -8269,7 +8273,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>2 for a touch, 50 for a missed gate</source>
-        <translation type="unfinished"></translation>
+        <translation>2 por un toque, 50 por un salto</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -8277,58 +8281,58 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>As it was</source>
-        <translation type="unfinished"></translation>
+        <translation>Como fue</translation>
     </message>
     <message>
         <source>of</source>
-        <translation type="unfinished"></translation>
+        <translation>de</translation>
     </message>
     <message>
         <source>Places</source>
-        <translation type="unfinished"></translation>
+        <translation>Puestos</translation>
     </message>
     <message>
         <source>That it cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Que costó</translation>
     </message>
     <message>
         <source>Without it</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin ella</translation>
     </message>
     <message>
         <source>A missed gate also saved paddling, which is not taken back here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un salto de puerta también ahorró paleo, que aquí no se descuenta.</translation>
     </message>
     <message>
         <source>Show &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar t&amp;odas</translation>
     </message>
     <message>
         <source>No penalty of a whole run is known by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>De ninguna manga entera se conocen las penalizaciones por puerta.</translation>
     </message>
     <message>
         <source>Open the run at this section</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir la manga en este tramo</translation>
     </message>
     <message>
         <source>In split taking, where the section of the gate begins</source>
-        <translation type="unfinished"></translation>
+        <translation>En la toma de parciales, donde empieza el tramo de la puerta</translation>
     </message>
     <message>
         <source>Only gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo la puerta %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CourseCanvas</name>
     <message>
         <source>Drawing of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujo del recorrido</translation>
     </message>
     <message>
         <source>Hold the button down and draw along the water.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantén pulsado el botón y dibuja a lo largo del agua.</translation>
     </message>
     <message>
         <source>course</source>
@@ -8336,15 +8340,15 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>All %1 gates of the race are drawn. Race and course says how many there are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las %1 puertas de la carrera están dibujadas. «Carrera y recorrido» dice cuántas hay.</translation>
     </message>
     <message>
         <source>All %1 splits of the race are drawn. Race and course says how many there are.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los %1 parciales de la carrera están dibujados. «Carrera y recorrido» dice cuántos hay.</translation>
     </message>
     <message>
         <source>%1 removed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: quitado</translation>
     </message>
 </context>
 <context>
@@ -8359,7 +8363,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Race and course</source>
-        <translation type="unfinished"></translation>
+        <translation>Carrera y recorrido</translation>
     </message>
     <message>
         <source>Event</source>
@@ -8387,7 +8391,7 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Technique</source>
-        <translation type="unfinished"></translation>
+        <translation>Técnica</translation>
     </message>
     <message>
         <source>Comments</source>
@@ -8395,11 +8399,11 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Such as 4 8 12</source>
-        <translation type="unfinished"></translation>
+        <translation>Por ejemplo 4 8 12</translation>
     </message>
     <message>
         <source>Share the gates &amp;evenly</source>
-        <translation type="unfinished"></translation>
+        <translation>Repartir las puertas por &amp;igual</translation>
     </message>
     <message>
         <source>&amp;Gates</source>
@@ -8407,26 +8411,26 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Remontes</translation>
     </message>
     <message>
         <source>&amp;Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Parciales</translation>
     </message>
     <message>
         <source>Section %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Tramo %1: </translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CourseEditor</name>
     <message>
         <source>Photo or plan of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto o plano del recorrido</translation>
     </message>
     <message>
         <source>Pictures (*.png *.jpg *.jpeg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes (*.png *.jpg *.jpeg);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Text</source>
@@ -8434,23 +8438,23 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Words there</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto ahí</translation>
     </message>
     <message>
         <source>Draw the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujar el recorrido</translation>
     </message>
     <message>
         <source>The picture of the race cannot be drawn upon: %1 It stays as long as nothing is drawn.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede dibujar sobre la imagen de la carrera: %1 Se mantiene mientras no se dibuje nada.</translation>
     </message>
     <message>
         <source>Tab next part · arrows move it, Shift+arrows far · Alt+←/→ turn · PgDn its points · Delete · Insert puts one in the middle · Ctrl+Z undo, Ctrl+Shift+Z redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Tab: parte siguiente · las flechas la mueven, Mayús+flechas lejos · Alt+←/→ gira · AvPág sus puntos · Supr · Insert pone una en el medio · Ctrl+Z deshace, Ctrl+Mayús+Z rehace</translation>
     </message>
     <message>
         <source>&amp;Hold and move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Coger y mover</translation>
     </message>
     <message>
         <source>&amp;Gate</source>
@@ -8458,35 +8462,35 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>&amp;Split line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Línea de parcial</translation>
     </message>
     <message>
         <source>&amp;Bank</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Orilla</translation>
     </message>
     <message>
         <source>&amp;Line of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trazada de una manga</translation>
     </message>
     <message>
         <source>&amp;Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Te&amp;xto</translation>
     </message>
     <message>
         <source>&amp;Photo below…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Foto debajo…</translation>
     </message>
     <message>
         <source>Only whit&amp;e below</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo &amp;blanco debajo</translation>
     </message>
     <message>
         <source>text</source>
-        <translation type="unfinished"></translation>
+        <translation>texto</translation>
     </message>
     <message>
         <source>photo</source>
-        <translation type="unfinished"></translation>
+        <translation>foto</translation>
     </message>
     <message>
         <source>white</source>
@@ -8494,18 +8498,18 @@ Press Insert to add one, or import a list.</source>
     </message>
     <message>
         <source>Leave the course as it was? What was drawn is lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Dejar el recorrido como estaba? Lo dibujado se pierde.</translation>
     </message>
     <message>
         <source>Leave it</source>
-        <translation type="unfinished"></translation>
+        <translation>Dejarlo</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CourseMap</name>
     <message>
         <source>Map of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapa del recorrido</translation>
     </message>
     <message>
         <source>Turn %1
@@ -8513,19 +8517,23 @@ Duration %2 s, angle %3°
 Rotation: peak %4 °/s, mean %5 °/s
 Push out: peak %6 m/s², mean %7 m/s²
 Roll %8° (+ inside), pitch %9° (+ bow up)</source>
-        <translation type="unfinished"></translation>
+        <translation>Giro %1
+Duración %2 s, ángulo %3°
+Rotación: máxima %4 °/s, media %5 °/s
+Impulso de salida: máximo %6 m/s², medio %7 m/s²
+Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>There are no position fixes in this session: no map.</source>
-        <translation type="unfinished"></translation>
+        <translation>En esta sesión no hay posiciones: no hay mapa.</translation>
     </message>
     <message>
         <source>%1 km</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 km</translation>
     </message>
     <message>
         <source>%1 m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 m</translation>
     </message>
     <message>
         <source>N</source>
@@ -8533,65 +8541,65 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Speed (m/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad (m/s)</translation>
     </message>
     <message>
         <source>Stroke rate (1/min)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia de palada (1/min)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CoursePanel</name>
     <message>
         <source>C&amp;ourse of</source>
-        <translation type="unfinished"></translation>
+        <translation>Rec&amp;orrido de</translation>
     </message>
     <message>
         <source>The drawing of the course in this file cannot be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>El dibujo del recorrido de este archivo no se puede mostrar.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CoursePartForm</name>
     <message>
         <source>&amp;Number</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Número</translation>
     </message>
     <message>
         <source>&amp;Upstream gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Remonte</translation>
     </message>
     <message>
         <source>Na&amp;me or text</source>
-        <translation type="unfinished"></translation>
+        <translation>No&amp;mbre o texto</translation>
     </message>
     <message>
         <source> m</source>
-        <translation type="unfinished"></translation>
+        <translation> m</translation>
     </message>
     <message>
         <source>not measured</source>
-        <translation type="unfinished"></translation>
+        <translation>sin medir</translation>
     </message>
     <message>
         <source>&amp;Width of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anchura de la imagen</translation>
     </message>
     <message>
         <source>Nothing selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada seleccionado</translation>
     </message>
     <message>
         <source>The race has %1 gates only. Race and course says how many there are.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carrera solo tiene %1 puertas. «Carrera y recorrido» dice cuántas hay.</translation>
     </message>
     <message>
         <source>direction of gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>dirección de la puerta %1</translation>
     </message>
     <message>
         <source>number %1</source>
-        <translation type="unfinished"></translation>
+        <translation>número %1</translation>
     </message>
     <message>
         <source>name</source>
@@ -8599,7 +8607,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>width of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>anchura de la imagen</translation>
     </message>
 </context>
 <context>
@@ -8614,15 +8622,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Such as 1, 2, 3, 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Por ejemplo 1, 2, 3, 4</translation>
     </message>
     <message>
         <source>Roll after gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquimotaje tras la puerta</translation>
     </message>
     <message>
         <source>Empty without a roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Vacío si no hay esquimotaje</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -8634,23 +8642,23 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Which gates does the cross course have?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Qué puertas tiene el recorrido de cross?</translation>
     </message>
     <message>
         <source>1 gate</source>
-        <translation type="unfinished"></translation>
+        <translation>1 puerta</translation>
     </message>
     <message>
         <source>roll after %1</source>
-        <translation type="unfinished"></translation>
+        <translation>esquimotaje tras %1</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no gate number.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un número de puerta.</translation>
     </message>
     <message>
         <source>The roll is after gate %1, which is not on the course.</source>
-        <translation type="unfinished"></translation>
+        <translation>El esquimotaje está tras la puerta %1, que no está en el recorrido.</translation>
     </message>
     <message>
         <source>course</source>
@@ -8658,9 +8666,9 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message numerus="yes">
         <source>%n gates</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n puerta</numerusform>
+            <numerusform>%n puertas</numerusform>
         </translation>
     </message>
 </context>
@@ -8668,7 +8676,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::CrossActions</name>
     <message>
         <source>&amp;Open a split file…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir un archivo de parciales…</translation>
     </message>
     <message>
         <source>&amp;Save data</source>
@@ -8676,7 +8684,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Open a &amp;folder of films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una &amp;carpeta de vídeos…</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
@@ -8684,11 +8692,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Import films of time trials…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importar vídeos de contrarrelojes…</translation>
     </message>
     <message>
         <source>Film of the selected trial or &amp;heat…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo de la contrarreloj o &amp;serie seleccionada…</translation>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
@@ -8696,7 +8704,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Split &amp;taking of this race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Toma de parciales de esta carrera</translation>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
@@ -8704,7 +8712,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Open a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir un archivo de parciales</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -8712,19 +8720,19 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Course of the cross race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Recorrido de la carrera de cross</translation>
     </message>
     <message>
         <source>&amp;Previous trial or heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrarreloj o serie &amp;anterior</translation>
     </message>
     <message>
         <source>&amp;Next trial or heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrarreloj o serie &amp;siguiente</translation>
     </message>
     <message>
         <source>Copy the &amp;results</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar los &amp;resultados</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
@@ -8732,83 +8740,83 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Mark the frame shown</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marcar el fotograma mostrado</translation>
     </message>
     <message>
         <source>To the first mark</source>
-        <translation type="unfinished"></translation>
+        <translation>A la primera marca</translation>
     </message>
     <message>
         <source>Next &amp;gate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Puerta siguiente</translation>
     </message>
     <message>
         <source>Previous g&amp;ate</source>
-        <translation type="unfinished"></translation>
+        <translation>Pu&amp;erta anterior</translation>
     </message>
     <message>
         <source>Split, gate or boat &amp;%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcial, puerta o barco &amp;%1</translation>
     </message>
     <message>
         <source>&amp;Time trials</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Contrarrelojes</translation>
     </message>
     <message>
         <source>&amp;Add an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Añadir un deportista</translation>
     </message>
     <message>
         <source>M marks the &amp;splits</source>
-        <translation type="unfinished"></translation>
+        <translation>M marca los &amp;parciales</translation>
     </message>
     <message>
         <source>M marks the &amp;upstream gates</source>
-        <translation type="unfinished"></translation>
+        <translation>M marca los &amp;remontes</translation>
     </message>
     <message>
         <source>M marks the &amp;roll</source>
-        <translation type="unfinished"></translation>
+        <translation>M marca el &amp;esquimotaje</translation>
     </message>
     <message>
         <source>Re&amp;name the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cambiar el nombre del deportista</translation>
     </message>
     <message>
         <source>R&amp;emove the trial</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar la contrarreloj</translation>
     </message>
     <message>
         <source>Make &amp;heats from the trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Hacer &amp;series a partir de las contrarrelojes</translation>
     </message>
     <message>
         <source>&amp;Heats</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Series</translation>
     </message>
     <message>
         <source>&amp;Add a heat…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Añadir una serie…</translation>
     </message>
     <message>
         <source>A&amp;ttack, beginning here</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;taque, empieza aquí</translation>
     </message>
     <message>
         <source>&amp;End of the attack</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fin del ataque</translation>
     </message>
     <message>
         <source>Compare &amp;films of the heat…</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparar los &amp;vídeos de la serie…</translation>
     </message>
     <message>
         <source>&amp;Names of the boats…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombres de los barcos…</translation>
     </message>
     <message>
         <source>&amp;Remove the heat</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar la serie</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -8816,22 +8824,22 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Results</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Resultados</translation>
     </message>
     <message>
         <source>Time trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrarreloj</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CrossPage</name>
     <message>
         <source>There is no film to mark on.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún vídeo en el que marcar.</translation>
     </message>
     <message>
         <source>Nothing can be marked: %1 is not in the folder of the split file. File &gt; Where are the films now?</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede marcar nada: %1 no está en la carpeta del archivo de parciales. Archivo &gt; ¿Dónde están ahora los vídeos?</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
@@ -8842,15 +8850,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::CrossWindow</name>
     <message>
         <source>kayak cross</source>
-        <translation type="unfinished"></translation>
+        <translation>kayak cross</translation>
     </message>
     <message>
         <source>Time trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrarrelojes</translation>
     </message>
     <message>
         <source>Heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Series</translation>
     </message>
     <message>
         <source>Results</source>
@@ -8858,61 +8866,61 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>films of the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>vídeos de la carpeta</translation>
     </message>
     <message>
         <source>Import films with Ctrl+I, or drop them here: each becomes a time trial.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa vídeos con Ctrl+I o suéltalos aquí: cada uno se convierte en una contrarreloj.</translation>
     </message>
     <message>
         <source>No film yet. Ctrl+Shift+I chooses the film of what is selected; films can be dropped here too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay vídeo. Ctrl+Mayús+I elige el vídeo de lo seleccionado; también se pueden soltar vídeos aquí.</translation>
     </message>
     <message>
         <source>%1 is not in the folder of the split file. Ctrl+Shift+I chooses another film.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no está en la carpeta del archivo de parciales. Ctrl+Mayús+I elige otro vídeo.</translation>
     </message>
     <message>
         <source>Not found: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No encontrado: %1.</translation>
     </message>
     <message>
         <source>Import films of time trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar vídeos de contrarrelojes</translation>
     </message>
     <message>
         <source>Choose the film of the trial or heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir el vídeo de la contrarreloj o serie</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CrossingSearch</name>
     <message>
         <source>The slit picture shows what stood on the line all the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen de línea muestra de todos modos lo que hubo en la línea.</translation>
     </message>
     <message>
         <source>No boat was found that crosses this line in the direction of the arrow.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontró ningún barco que cruce esta línea en la dirección de la flecha.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CsvMappingDialog</name>
     <message>
         <source>%1 h %2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h %2 min</translation>
     </message>
     <message>
         <source>%1 min %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min %2 s</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 lines cannot be read. Line %2: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 líneas no se pueden leer. Línea %2: %3.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
@@ -8920,31 +8928,31 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>What each column holds was guessed from its title. Choose over a column what it is; a column without a choice is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que contiene cada columna se dedujo de su título. Elige encima de cada columna qué es; una columna sin elección se omite.</translation>
     </message>
     <message>
         <source>%1 samples, %2 per second, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 muestras, %2 por segundo, %3</translation>
     </message>
     <message>
         <source>%1 positions</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 posiciones</translation>
     </message>
     <message>
         <source>%1 heart rates</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 frecuencias cardiacas</translation>
     </message>
     <message>
         <source>Import “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar «%1»</translation>
     </message>
     <message>
         <source>Columns and units are read as they were for the last list with these titles. Choose over a column what it is; one without a choice is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las columnas y las unidades se leen como en la última lista con estos títulos. Elige encima de cada columna qué es; una sin elección se omite.</translation>
     </message>
     <message>
         <source>Guess from the titles</source>
-        <translation type="unfinished"></translation>
+        <translation>Deducir de los títulos</translation>
     </message>
     <message>
         <source>Import</source>
@@ -8956,34 +8964,34 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>This gives no samples.</source>
-        <translation type="unfinished"></translation>
+        <translation>De aquí no sale ninguna muestra.</translation>
     </message>
     <message>
         <source>This gives %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>De aquí sale: %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::CsvUnitsForm</name>
     <message>
         <source>&amp;Between columns</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entre columnas</translation>
     </message>
     <message>
         <source>Comma</source>
-        <translation type="unfinished"></translation>
+        <translation>Coma</translation>
     </message>
     <message>
         <source>Semicolon</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto y coma</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulador</translation>
     </message>
     <message>
         <source>&amp;Decimal comma</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Coma decimal</translation>
     </message>
     <message>
         <source>&amp;Times</source>
@@ -8991,7 +8999,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Dates</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechas</translation>
     </message>
     <message>
         <source>Seconds</source>
@@ -8999,55 +9007,55 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Milliseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Milisegundos</translation>
     </message>
     <message>
         <source>Microseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Microsegundos</translation>
     </message>
     <message>
         <source>Nanoseconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Nanosegundos</translation>
     </message>
     <message>
         <source>&amp;Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aceleración</translation>
     </message>
     <message>
         <source>g</source>
-        <translation type="unfinished"></translation>
+        <translation>g</translation>
     </message>
     <message>
         <source>m/s²</source>
-        <translation type="unfinished"></translation>
+        <translation>m/s²</translation>
     </message>
     <message>
         <source>&amp;Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rotación</translation>
     </message>
     <message>
         <source>rad/s</source>
-        <translation type="unfinished"></translation>
+        <translation>rad/s</translation>
     </message>
     <message>
         <source>°/s</source>
-        <translation type="unfinished"></translation>
+        <translation>°/s</translation>
     </message>
     <message>
         <source>An&amp;gles</source>
-        <translation type="unfinished"></translation>
+        <translation>Án&amp;gulos</translation>
     </message>
     <message>
         <source>Radians</source>
-        <translation type="unfinished"></translation>
+        <translation>Radianes</translation>
     </message>
     <message>
         <source>Degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Grados</translation>
     </message>
     <message>
         <source>&amp;Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Velocidad</translation>
     </message>
     <message>
         <source>m/s</source>
@@ -9055,35 +9063,35 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>km/h</source>
-        <translation type="unfinished"></translation>
+        <translation>km/h</translation>
     </message>
     <message>
         <source>Lying on its back, &amp;z reads</source>
-        <translation type="unfinished"></translation>
+        <translation>Tumbado sobre el dorso, &amp;z da</translation>
     </message>
     <message>
         <source>+1 g, upward</source>
-        <translation type="unfinished"></translation>
+        <translation>+1 g, hacia arriba</translation>
     </message>
     <message>
         <source>−1 g, downward</source>
-        <translation type="unfinished"></translation>
+        <translation>−1 g, hacia abajo</translation>
     </message>
     <message>
         <source>&amp;First sample at</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Primera muestra a las</translation>
     </message>
     <message>
         <source>The comma stands between columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>La coma está entre columnas.</translation>
     </message>
     <message>
         <source>The times of the list are no dates. This is when the file was written, less its length.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los tiempos de la lista no son fechas. Esta es la hora a la que se escribió el archivo, menos su duración.</translation>
     </message>
     <message>
         <source>The times of the list are dates.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los tiempos de la lista son fechas.</translation>
     </message>
 </context>
 <context>
@@ -9106,7 +9114,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 %2°, %3 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2°, %3 s</translation>
     </message>
     <message>
         <source>Time</source>
@@ -9114,7 +9122,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Stroke, rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Palada, frec.</translation>
     </message>
     <message>
         <source>Force (N)</source>
@@ -9122,7 +9130,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Power (W)</source>
-        <translation type="unfinished"></translation>
+        <translation>Potencia (W)</translation>
     </message>
     <message>
         <source>Turn</source>
@@ -9130,106 +9138,106 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Values at the cursor</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores en el cursor</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DayDesk</name>
     <message>
         <source>The race day could not be kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El día de carrera no se pudo conservar: %1</translation>
     </message>
     <message>
         <source> · U: %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · R: %1</translation>
     </message>
     <message>
         <source>start list</source>
-        <translation type="unfinished"></translation>
+        <translation>lista de salida</translation>
     </message>
     <message>
         <source>folder of the films</source>
-        <translation type="unfinished"></translation>
+        <translation>carpeta de los vídeos</translation>
     </message>
     <message>
         <source>start removed</source>
-        <translation type="unfinished"></translation>
+        <translation>salida quitada</translation>
     </message>
     <message>
         <source>There is no start list yet: Day &gt; Start list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay lista de salida: Día &gt; Lista de salida.</translation>
     </message>
     <message>
         <source>No film waits to be timed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún vídeo espera a ser cronometrado.</translation>
     </message>
     <message>
         <source>There is no film of %1 yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay vídeo de %1.</translation>
     </message>
     <message>
         <source>The film of %1 is still being copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>El vídeo de %1 aún se está copiando.</translation>
     </message>
     <message>
         <source>Is this %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Es este %1?</translation>
     </message>
     <message>
         <source>film of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>vídeo de %1</translation>
     </message>
     <message>
         <source>There is no film that is surely matched and not agreed to yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún vídeo asignado con seguridad que esté sin confirmar.</translation>
     </message>
     <message>
         <source>film agreed to</source>
-        <translation type="unfinished"></translation>
+        <translation>vídeo confirmado</translation>
     </message>
     <message>
         <source>films agreed to</source>
-        <translation type="unfinished"></translation>
+        <translation>vídeos confirmados</translation>
     </message>
     <message>
         <source>Not named, as it is not in the folder of the race or cannot be named there: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin nombre, porque no está en la carpeta de la carrera o no se le puede dar nombre ahí: %1</translation>
     </message>
     <message>
         <source>Agreed</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmado</translation>
     </message>
     <message>
         <source>films one start later</source>
-        <translation type="unfinished"></translation>
+        <translation>vídeos una salida después</translation>
     </message>
     <message>
         <source>films one start earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>vídeos una salida antes</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: no film</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ningún vídeo</translation>
     </message>
     <message>
         <source>film of another boat</source>
-        <translation type="unfinished"></translation>
+        <translation>vídeo de otro barco</translation>
     </message>
     <message>
         <source>film given to a boat</source>
-        <translation type="unfinished"></translation>
+        <translation>vídeo dado a un barco</translation>
     </message>
     <message>
         <source>There is no film %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún vídeo %1</translation>
     </message>
     <message>
         <source>%1 is timed: remove the last mark first.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está cronometrado: quita antes la última marca.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -9237,21 +9245,21 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>%1 counts again</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cuenta de nuevo</translation>
     </message>
     <message>
         <source>The clocks of camera and start list go together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los relojes de la cámara y de la lista de salida concuerdan.</translation>
     </message>
     <message>
         <source>clock of the camera</source>
-        <translation type="unfinished"></translation>
+        <translation>reloj de la cámara</translation>
     </message>
     <message numerus="yes">
         <source>%n films agreed to</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n vídeo confirmado</numerusform>
+            <numerusform>%n vídeos confirmados</numerusform>
         </translation>
     </message>
 </context>
@@ -9259,81 +9267,81 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::DayFilms</name>
     <message>
         <source>%1 could not be called %2 again: is that name taken?</source>
-        <translation type="unfinished"></translation>
+        <translation>A %1 no se le pudo volver a llamar %2: ¿está ocupado ese nombre?</translation>
     </message>
     <message>
         <source>%1 could not be copied from the card. Is the card out, or the disk full?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se pudo copiar de la tarjeta. ¿Se ha sacado la tarjeta o está lleno el disco?</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DayKeeping</name>
     <message>
         <source>The race day %1 cannot be read: %2. It stays as it is; a new one takes its name only after it was put aside.</source>
-        <translation type="unfinished"></translation>
+        <translation>El día de carrera %1 no se puede leer: %2. Se queda como está; uno nuevo toma su nombre solo después de apartarlo.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DayPanel</name>
     <message>
         <source>agreed</source>
-        <translation type="unfinished"></translation>
+        <translation>confirmado</translation>
     </message>
     <message>
         <source>kept</source>
-        <translation type="unfinished"></translation>
+        <translation>conservado</translation>
     </message>
     <message>
         <source>sure</source>
-        <translation type="unfinished"></translation>
+        <translation>seguro</translation>
     </message>
     <message>
         <source>likely</source>
-        <translation type="unfinished"></translation>
+        <translation>probable</translation>
     </message>
     <message>
         <source>unsure</source>
-        <translation type="unfinished"></translation>
+        <translation>inseguro</translation>
     </message>
     <message>
         <source>%1 d</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 d</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h</translation>
     </message>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>ahead of</source>
-        <translation type="unfinished"></translation>
+        <translation>por delante de</translation>
     </message>
     <message>
         <source>behind</source>
-        <translation type="unfinished"></translation>
+        <translation>por detrás de</translation>
     </message>
     <message>
         <source>Reckon with that</source>
-        <translation type="unfinished"></translation>
+        <translation>Contar con eso</translation>
     </message>
     <message>
         <source>No start list yet. Paste one, or take it from a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay lista de salida. Pega una o tómala de un archivo.</translation>
     </message>
     <message>
         <source>Start list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de salida…</translation>
     </message>
     <message>
         <source>Films from…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos de…</translation>
     </message>
     <message>
         <source>Start</source>
@@ -9349,7 +9357,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>A boat on the list has a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un barco de la lista tiene un nombre.</translation>
     </message>
     <message>
         <source>Cat</source>
@@ -9369,66 +9377,66 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Type the name of another film to correct a single one</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe el nombre de otro vídeo para corregir uno solo</translation>
     </message>
     <message>
         <source>Match</source>
-        <translation type="unfinished"></translation>
+        <translation>Asignación</translation>
     </message>
     <message>
         <source>Recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabado</translation>
     </message>
     <message>
         <source>When the recording began, and whether the camera or the file says so</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuándo empezó la grabación, y si lo dice la cámara o el archivo</translation>
     </message>
     <message>
         <source>camera</source>
-        <translation type="unfinished"></translation>
+        <translation>cámara</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>archivo</translation>
     </message>
     <message>
         <source>The camera&apos;s clock seems to be %1 the start list.</source>
-        <translation type="unfinished"></translation>
+        <translation>El reloj de la cámara parece ir %1 la lista de salida.</translation>
     </message>
     <message>
         <source>%1 is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no está ahí.</translation>
     </message>
     <message>
         <source>Copying %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiando %1.</translation>
     </message>
     <message>
         <source>%1 still growing.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 aún crece.</translation>
     </message>
     <message>
         <source>Of no boat: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>De ningún barco: %1.</translation>
     </message>
     <message>
         <source>Of no boat: %1 films, the first is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>De ningún barco: %1 vídeos, el primero es %2.</translation>
     </message>
     <message>
         <source>Of other days: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>De otros días: %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DerivedDialog</name>
     <message>
         <source>The &amp;highest number is the best</source>
-        <translation type="unfinished"></translation>
+        <translation>El número más &amp;alto es el mejor</translation>
     </message>
     <message>
         <source>Another column</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra columna</translation>
     </message>
     <message>
         <source>Total</source>
@@ -9440,51 +9448,51 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Gap to the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia con el mejor</translation>
     </message>
     <message>
         <source>Percent behind the best</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje respecto al mejor</translation>
     </message>
     <message>
         <source>Percentile</source>
-        <translation type="unfinished"></translation>
+        <translation>Percentil</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>&amp;What</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Qué</translation>
     </message>
     <message>
         <source>Sum &amp;of (none: times and penalties)</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma &amp;de (ninguna: tiempos y penalizaciones)</translation>
     </message>
     <message>
         <source>O&amp;f</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;e</translation>
     </message>
     <message>
         <source>&amp;Less</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Menos</translation>
     </message>
     <message>
         <source>Each &amp;compared within</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada uno &amp;comparado dentro de</translation>
     </message>
     <message>
         <source>the total, else the times</source>
-        <translation type="unfinished"></translation>
+        <translation>el total; si no, los tiempos</translation>
     </message>
     <message>
         <source>all rows</source>
-        <translation type="unfinished"></translation>
+        <translation>todas las filas</translation>
     </message>
 </context>
 <context>
@@ -9570,15 +9578,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>of</source>
-        <translation type="unfinished"></translation>
+        <translation>de</translation>
     </message>
     <message>
         <source>Those of which this was noted; for those of which it was not noted, all penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquellas de las que se anotó; para las que no se anotó, todas las penalizaciones</translation>
     </message>
     <message>
         <source>Share %</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte %</translation>
     </message>
     <message>
         <source>90 %</source>
@@ -9586,46 +9594,46 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Where the share lies with 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde está la parte con un 90 %</translation>
     </message>
     <message>
         <source>No penalty was noted in detail. Split taking notes them.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se anotó ninguna penalización con detalle. Se anotan en la toma de parciales.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DocumentChoiceDialog</name>
     <message>
         <source>%1   in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1   en %2</translation>
     </message>
     <message>
         <source>&amp;New…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuevo…</translation>
     </message>
     <message>
         <source>Open an&amp;other…</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir &amp;otro…</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir</translation>
     </message>
     <message>
         <source>None was opened yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no se ha abierto ninguno.</translation>
     </message>
     <message>
         <source>Opened before:</source>
-        <translation type="unfinished"></translation>
+        <translation>Abiertos antes:</translation>
     </message>
     <message>
         <source>Name the new file</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del archivo nuevo</translation>
     </message>
     <message>
         <source>%1 (*.%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (*.%2)</translation>
     </message>
     <message>
         <source>%1 (*.%2);;All files (*)</source>
@@ -9636,15 +9644,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::DrawnRates</name>
     <message>
         <source>Touches on the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Toques en el recorrido</translation>
     </message>
     <message>
         <source>Gate %1: %2 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1: %2 %</translation>
     </message>
     <message>
         <source>, %1 of %2 touched</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 de %2 con toque</translation>
     </message>
     <message>
         <source>%1 %</source>
@@ -9655,38 +9663,38 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::DropAreas</name>
     <message>
         <source>Import .kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar archivo .kvb</translation>
     </message>
     <message>
         <source>Import .sbm file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar archivo .sbm</translation>
     </message>
     <message>
         <source>Drag .kvb file to top left of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastra un archivo .kvb a la parte superior izquierda de la ventana</translation>
     </message>
     <message>
         <source>A raw recording of the boat: strokes and turns are found in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una grabación en bruto del barco: en ella se buscan paladas y giros.</translation>
     </message>
     <message>
         <source>Drag .sbm file to top right of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastra un archivo .sbm a la parte superior derecha de la ventana</translation>
     </message>
     <message>
         <source>A processed session, .sbm or .bms: strokes and turns are in it already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una sesión procesada, .sbm o .bms: ya contiene paladas y giros.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::EarlierWorkDialog</name>
     <message>
         <source>Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Documento</translation>
     </message>
     <message>
         <source>Kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservado</translation>
     </message>
     <message>
         <source>What</source>
@@ -9694,58 +9702,58 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Then</source>
-        <translation type="unfinished"></translation>
+        <translation>Entonces</translation>
     </message>
     <message>
         <source>given up</source>
-        <translation type="unfinished"></translation>
+        <translation>descartado</translation>
     </message>
     <message>
         <source>put off</source>
-        <translation type="unfinished"></translation>
+        <translation>aplazado</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta</translation>
     </message>
     <message>
         <source>Bring back earlier work</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar trabajo anterior</translation>
     </message>
     <message>
         <source>Nothing was kept that is not in a document again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se conservó nada que no esté ya en un documento.</translation>
     </message>
     <message>
         <source>Bring back</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::EditedFile</name>
     <message>
         <source>today %1</source>
-        <translation type="unfinished"></translation>
+        <translation>hoy %1</translation>
     </message>
     <message>
         <source>yesterday %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ayer %1</translation>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargar</translation>
     </message>
     <message>
         <source>Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Más tarde</translation>
     </message>
     <message>
         <source>Discard</source>
-        <translation type="unfinished"></translation>
+        <translation>Descartar</translation>
     </message>
     <message>
         <source>1 change</source>
-        <translation type="unfinished"></translation>
+        <translation>1 cambio</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -9753,15 +9761,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>The file was changed by another program since it was opened. Saving replaces what that program wrote.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro programa ha cambiado el archivo desde que se abrió. Al guardar se sustituye lo que escribió ese programa.</translation>
     </message>
     <message>
         <source>Replace it</source>
-        <translation type="unfinished"></translation>
+        <translation>Sustituirlo</translation>
     </message>
     <message>
         <source>Look at the other</source>
-        <translation type="unfinished"></translation>
+        <translation>Mirar el otro</translation>
     </message>
     <message>
         <source>Save as…</source>
@@ -9769,33 +9777,33 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>“%1” is open in another window. Close it there first, or take another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» está abierto en otra ventana. Ciérralo antes allí o usa otro nombre.</translation>
     </message>
     <message>
         <source>%1 (the other).%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (el otro).%2</translation>
     </message>
     <message>
         <source>Your work is kept apart, and offered when the file is opened again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tu trabajo se conserva aparte y se ofrece cuando el archivo se vuelve a abrir.</translation>
     </message>
     <message>
         <source>Your work is in this window alone: it could not be kept apart either.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tu trabajo solo está en esta ventana: tampoco se pudo conservar aparte.</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Reintentar</translation>
     </message>
     <message>
         <source>The file of the older version could not be kept beside the new one, so that nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de la versión anterior no se pudo conservar junto al nuevo, así que no se ha escrito nada.</translation>
     </message>
     <message numerus="yes">
         <source>%n changes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n cambio</numerusform>
+            <numerusform>%n cambios</numerusform>
         </translation>
     </message>
 </context>
@@ -9811,7 +9819,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Pha&amp;se</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fase</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -9823,25 +9831,27 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Taken from</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomado de</translation>
     </message>
     <message>
         <source>Time
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo
+(s)</translation>
     </message>
     <message>
         <source>Time of one eight</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo de un ocho</translation>
     </message>
     <message>
         <source>In the video
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>En el vídeo
+(s)</translation>
     </message>
     <message>
         <source>Where in the video the split was taken</source>
-        <translation type="unfinished"></translation>
+        <translation>En qué punto del vídeo se tomó el parcial</translation>
     </message>
     <message>
         <source>split %1</source>
@@ -9849,76 +9859,76 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>no video</source>
-        <translation type="unfinished"></translation>
+        <translation>sin vídeo</translation>
     </message>
     <message>
         <source>%1, no motion samples</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, sin muestras de movimiento</translation>
     </message>
     <message>
         <source>%1, %2 motion samples</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 muestras de movimiento</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::EmptySearch</name>
     <message>
         <source>Drop a folder of split files (.kvx) here</source>
-        <translation type="unfinished"></translation>
+        <translation>Suelta aquí una carpeta de archivos de parciales (.kvx)</translation>
     </message>
     <message>
         <source>All races below it are searched. They are only read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se busca en todas las carreras que contiene. Solo se leen.</translation>
     </message>
     <message>
         <source>Search a folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en una carpeta…</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::EntryTable</name>
     <message>
         <source>“%1” is a number from 0 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» es un número de 0 a %2</translation>
     </message>
     <message>
         <source>“%1” is more than 0. An emptied cell stands for none.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» es mayor que 0. Una celda vacía significa ninguno.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ExerciseTable</name>
     <message>
         <source>The file has no entry here. Typing makes one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo no tiene aquí ninguna entrada. Al escribir se crea una.</translation>
     </message>
     <message>
         <source>The estimate from repetitions and weight. A click or Ctrl+Enter takes it as the maximum.</source>
-        <translation type="unfinished"></translation>
+        <translation>La estimación a partir de las repeticiones y el peso. Un clic o Ctrl+Intro la toma como máximo.</translation>
     </message>
     <message>
         <source>Exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejercicio</translation>
     </message>
     <message>
         <source>exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>ejercicio</translation>
     </message>
     <message>
         <source>Sets</source>
-        <translation type="unfinished"></translation>
+        <translation>Series</translation>
     </message>
     <message>
         <source>sets</source>
-        <translation type="unfinished"></translation>
+        <translation>series</translation>
     </message>
     <message>
         <source>Repetitions</source>
-        <translation type="unfinished"></translation>
+        <translation>Repeticiones</translation>
     </message>
     <message>
         <source>repetitions</source>
-        <translation type="unfinished"></translation>
+        <translation>repeticiones</translation>
     </message>
     <message>
         <source>Weight</source>
@@ -9926,35 +9936,35 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>kg</source>
-        <translation type="unfinished"></translation>
+        <translation>kg</translation>
     </message>
     <message>
         <source>weight</source>
-        <translation type="unfinished"></translation>
+        <translation>peso</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Máximo</translation>
     </message>
     <message>
         <source>maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>máximo</translation>
     </message>
     <message>
         <source>Estimate</source>
-        <translation type="unfinished"></translation>
+        <translation>Estimación</translation>
     </message>
     <message>
         <source>Add exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir ejercicio</translation>
     </message>
     <message>
         <source>Remove exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar ejercicio</translation>
     </message>
     <message>
         <source>Take estimate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomar la estimación</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -9962,33 +9972,33 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>1 exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>1 ejercicio</translation>
     </message>
     <message>
         <source>%1 · %2 sets · tonnage %3 kg</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2 series · tonelaje %3 kg</translation>
     </message>
     <message>
         <source>Estimated maximum: table %1 · Epley %2 · Brzycki %3 · McGlothin %4 · Lombardi %5 · result &lt;b&gt;%6&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Máximo estimado: tabla %1 · Epley %2 · Brzycki %3 · McGlothin %4 · Lombardi %5 · resultado &lt;b&gt;%6&lt;/b&gt;</translation>
     </message>
     <message>
         <source>new exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>ejercicio nuevo</translation>
     </message>
     <message>
         <source>removal of an exercise</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de un ejercicio</translation>
     </message>
     <message>
         <source>estimated maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>máximo estimado</translation>
     </message>
     <message numerus="yes">
         <source>%n exercises</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n ejercicio</numerusform>
+            <numerusform>%n ejercicios</numerusform>
         </translation>
     </message>
 </context>
@@ -9996,7 +10006,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::ExportDialog</name>
     <message>
         <source>Export data</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar datos</translation>
     </message>
     <message>
         <source>Split files (*.kvx)</source>
@@ -10015,43 +10025,43 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Date</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fecha</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lugar</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FactsStatus</name>
     <message>
         <source>Which ones?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Cuáles?</translation>
     </message>
     <message>
         <source>reading was cancelled: not all files are here</source>
-        <translation type="unfinished"></translation>
+        <translation>se canceló la lectura: no están todos los archivos</translation>
     </message>
     <message>
         <source>1 file could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>1 archivo no se pudo leer</translation>
     </message>
     <message numerus="yes">
         <source>%n files could not be read</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n archivo no se pudo leer</numerusform>
+            <numerusform>%n archivos no se pudieron leer</numerusform>
         </translation>
     </message>
     <message>
         <source>1 copy of a file does not count</source>
-        <translation type="unfinished"></translation>
+        <translation>1 copia de un archivo no cuenta</translation>
     </message>
     <message numerus="yes">
         <source>%n copies of files do not count</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n copia de archivos no cuenta</numerusform>
+            <numerusform>%n copias de archivos no cuentan</numerusform>
         </translation>
     </message>
 </context>
@@ -10063,78 +10073,78 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>What is wrong</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué está mal</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta</translation>
     </message>
     <message>
         <source>Files that could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos que no se pudieron leer</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FetchActions</name>
     <message>
         <source>&amp;Open a source…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir una fuente…</translation>
     </message>
     <message>
         <source>&amp;Save the source…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar la fuente…</translation>
     </message>
     <message>
         <source>Choose the &amp;list of bibs…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir la &amp;lista de dorsales…</translation>
     </message>
     <message>
         <source>Choose the &amp;folder for the films…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir la &amp;carpeta para los vídeos…</translation>
     </message>
     <message>
         <source>&amp;Time the films of the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Cr&amp;onometrar los vídeos de la carpeta</translation>
     </message>
     <message>
         <source>Fet&amp;ch</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descargar</translation>
     </message>
     <message>
         <source>&amp;Show what would be fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar lo que se descargaría</translation>
     </message>
     <message>
         <source>&amp;Fetch the ticked films</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descargar los vídeos marcados</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message>
         <source>Tick &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar &amp;todos</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
-        <translation type="unfinished"></translation>
+        <translation>Desmarcar t&amp;odos</translation>
     </message>
     <message>
         <source>Ser&amp;ver</source>
-        <translation type="unfinished"></translation>
+        <translation>Ser&amp;vidor</translation>
     </message>
     <message>
         <source>&amp;Sign in…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Iniciar sesión…</translation>
     </message>
     <message>
         <source>&amp;Forget the password</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Olvidar la contraseña</translation>
     </message>
     <message>
         <source>&amp;Other servers</source>
-        <translation type="unfinished"></translation>
+        <translation>Otros &amp;servidores</translation>
     </message>
 </context>
 <context>
@@ -10145,71 +10155,71 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Di&amp;rección</translation>
     </message>
     <message>
         <source>Of one film, with {bib}, {category}, {phase} or {run} where they stand ({bib:3} is 014); or of a list: a page, JSON, M3U8 or WebDAV folder</source>
-        <translation type="unfinished"></translation>
+        <translation>De un vídeo, con {bib}, {category}, {phase} o {run} en su lugar ({bib:3} es 014); o de una lista: una página, JSON, M3U8 o carpeta WebDAV</translation>
     </message>
     <message>
         <source>&amp;Bibs from</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dorsales de</translation>
     </message>
     <message>
         <source>Start list or results (a column is called bib), or a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de salida o resultados (una columna se llama bib), o un archivo de parciales</translation>
     </message>
     <message>
         <source>start list, results or split file</source>
-        <translation type="unfinished"></translation>
+        <translation>lista de salida, resultados o archivo de parciales</translation>
     </message>
     <message>
         <source>F&amp;older</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Carpeta</translation>
     </message>
     <message>
         <source>Where the films are put; no file there is ever overwritten</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde se ponen los vídeos; nunca se sobrescribe ahí ningún archivo</translation>
     </message>
     <message>
         <source>for the films</source>
-        <translation type="unfinished"></translation>
+        <translation>para los vídeos</translation>
     </message>
     <message>
         <source>&amp;Names</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombres</translation>
     </message>
     <message>
         <source>Of the files: {name}, {category}, {phase}, {bib} and {number}</source>
-        <translation type="unfinished"></translation>
+        <translation>De los archivos: {name}, {category}, {phase}, {bib} y {number}</translation>
     </message>
     <message>
         <source>Choose a list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir una lista…</translation>
     </message>
     <message>
         <source>Start list, results, split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de salida, resultados, archivo de parciales</translation>
     </message>
     <message>
         <source>Choose a folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir una carpeta…</translation>
     </message>
     <message>
         <source>For the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Para los vídeos</translation>
     </message>
     <message>
         <source>Other se&amp;rvers that films may come from</source>
-        <translation type="unfinished"></translation>
+        <translation>Otros se&amp;rvidores de los que pueden venir vídeos</translation>
     </message>
     <message>
         <source>Show what would be fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar lo que se descargaría</translation>
     </message>
     <message>
         <source>Fetch the ticked films</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargar los vídeos marcados</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -10217,27 +10227,27 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Nothing is fetched before it is shown here</source>
-        <translation type="unfinished"></translation>
+        <translation>No se descarga nada antes de mostrarse aquí</translation>
     </message>
     <message>
         <source>Films are being fetched. Another source or list is opened after that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se están descargando vídeos. Después se abre otra fuente o lista.</translation>
     </message>
     <message>
         <source>“%1” is no source of films</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una fuente de vídeos</translation>
     </message>
     <message>
         <source>Start list, results or split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de salida, resultados o archivo de parciales</translation>
     </message>
     <message>
         <source>Lists and split files (*.csv *.txt *.tsv *.kvx);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Listas y archivos de parciales (*.csv *.txt *.tsv *.kvx);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Folder for the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta para los vídeos</translation>
     </message>
     <message>
         <source>Open a source of films</source>
@@ -10245,59 +10255,59 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Sources of films (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuentes de vídeos (*.json)</translation>
     </message>
     <message>
         <source>Save the source of films</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la fuente de vídeos</translation>
     </message>
     <message>
         <source>The source was saved. “kavela fetch” takes the file, too.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fuente se ha guardado. «kavela fetch» también acepta el archivo.</translation>
     </message>
     <message>
         <source>The source could not be saved</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar la fuente</translation>
     </message>
     <message>
         <source>What there is to fetch is being found out…</source>
-        <translation type="unfinished"></translation>
+        <translation>Averiguando qué hay que descargar…</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede crear la carpeta «%1».</translation>
     </message>
     <message>
         <source>Films are being fetched…</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargando vídeos…</translation>
     </message>
     <message>
         <source>There is no address to sign in to yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay ninguna dirección en la que iniciar sesión.</translation>
     </message>
     <message>
         <source>This computer has no password store that is open. The password holds until this window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este ordenador no tiene ningún almacén de contraseñas abierto. La contraseña vale hasta que se cierre esta ventana.</translation>
     </message>
     <message>
         <source>The password of %1 was forgotten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se olvidó la contraseña de %1.</translation>
     </message>
     <message>
         <source>%v of %m films</source>
-        <translation type="unfinished"></translation>
+        <translation>%v de %m vídeos</translation>
     </message>
     <message>
         <source>Films are being fetched</source>
-        <translation type="unfinished"></translation>
+        <translation>Se están descargando vídeos</translation>
     </message>
     <message>
         <source>What is there of them stays; fetching them again goes on with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que hay de ellos se queda; al descargarlos de nuevo se continúa desde ahí.</translation>
     </message>
     <message>
         <source>Stop and close</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener y cerrar</translation>
     </message>
 </context>
 <context>
@@ -10675,15 +10685,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FindActions</name>
     <message>
         <source>Queries</source>
-        <translation type="unfinished"></translation>
+        <translation>Consultas</translation>
     </message>
     <message>
         <source>Search a &amp;folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en una &amp;carpeta…</translation>
     </message>
     <message>
         <source>Search f&amp;iles…</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en &amp;archivos…</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
@@ -10699,51 +10709,51 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Save the result as &amp;CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar el resultado como CSV…</translation>
     </message>
     <message>
         <source>&amp;Query</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Consulta</translation>
     </message>
     <message>
         <source>&amp;Type a query</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Escribir una consulta</translation>
     </message>
     <message>
         <source>&amp;Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Ca&amp;mpos</translation>
     </message>
     <message>
         <source>&amp;Queries</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Consultas</translation>
     </message>
     <message>
         <source>&amp;Keep this query</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;onservar esta consulta</translation>
     </message>
     <message>
         <source>&amp;Give up the kept query</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descartar la consulta conservada</translation>
     </message>
     <message>
         <source>Resul&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Resul&amp;tado</translation>
     </message>
     <message>
         <source>&amp;Show the run at its frame</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar la manga en su fotograma</translation>
     </message>
     <message>
         <source>Open its &amp;race</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir su ca&amp;rrera</translation>
     </message>
     <message>
         <source>Its &amp;time losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Sus &amp;pérdidas de tiempo</translation>
     </message>
     <message>
         <source>The rows of the &amp;group</source>
-        <translation type="unfinished"></translation>
+        <translation>Las &amp;filas del grupo</translation>
     </message>
 </context>
 <context>
@@ -10754,27 +10764,27 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Campos</translation>
     </message>
     <message>
         <source>Queries</source>
-        <translation type="unfinished"></translation>
+        <translation>Consultas</translation>
     </message>
     <message>
         <source>gates up left cat K1W time&lt;4 – what, then what is asked of it</source>
-        <translation type="unfinished"></translation>
+        <translation>gates up left cat K1W time&lt;4 – qué, y después qué se le pide</translation>
     </message>
     <message>
         <source>Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar</translation>
     </message>
     <message>
         <source>Keeps this query among those at hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserva esta consulta entre las que están a mano</translation>
     </message>
     <message>
         <source>The files are being read…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo los archivos…</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -10790,31 +10800,31 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>. Reading was stopped: the others are not searched.</source>
-        <translation type="unfinished"></translation>
+        <translation>. Se detuvo la lectura: en los demás no se busca.</translation>
     </message>
     <message>
         <source>Nothing was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha encontrado nada.</translation>
     </message>
     <message>
         <source>In the group: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En el grupo: %1</translation>
     </message>
     <message>
         <source> · run %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · manga %1</translation>
     </message>
     <message>
         <source> · split %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · parcial %1</translation>
     </message>
     <message>
         <source> · %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 s</translation>
     </message>
     <message>
         <source>Save the result</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el resultado</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
@@ -10839,26 +10849,26 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::FoundLines</name>
     <message>
         <source>In the file</source>
-        <translation type="unfinished"></translation>
+        <translation>En el archivo</translation>
     </message>
     <message>
         <source>Was</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes</translation>
     </message>
     <message>
         <source>Will be</source>
-        <translation type="unfinished"></translation>
+        <translation>Después</translation>
     </message>
     <message>
         <source>new: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nuevo: %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FoundTable</name>
     <message>
         <source>rows of the group</source>
-        <translation type="unfinished"></translation>
+        <translation>filas del grupo</translation>
     </message>
     <message>
         <source>run</source>
@@ -10870,19 +10880,19 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>section</source>
-        <translation type="unfinished"></translation>
+        <translation>tramo</translation>
     </message>
     <message>
         <source>sections</source>
-        <translation type="unfinished"></translation>
+        <translation>tramos</translation>
     </message>
     <message>
         <source>gate</source>
-        <translation type="unfinished"></translation>
+        <translation>puerta</translation>
     </message>
     <message>
         <source>gates</source>
-        <translation type="unfinished"></translation>
+        <translation>puertas</translation>
     </message>
     <message>
         <source>penalty</source>
@@ -10898,47 +10908,47 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>losses</source>
-        <translation type="unfinished"></translation>
+        <translation>pérdidas</translation>
     </message>
     <message>
         <source>section with strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>tramo con paladas</translation>
     </message>
     <message>
         <source>sections with strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>tramos con paladas</translation>
     </message>
     <message>
         <source>tag</source>
-        <translation type="unfinished"></translation>
+        <translation>etiqueta</translation>
     </message>
     <message>
         <source>tags</source>
-        <translation type="unfinished"></translation>
+        <translation>etiquetas</translation>
     </message>
     <message>
         <source>group</source>
-        <translation type="unfinished"></translation>
+        <translation>grupo</translation>
     </message>
     <message>
         <source>groups</source>
-        <translation type="unfinished"></translation>
+        <translation>grupos</translation>
     </message>
     <message>
         <source>less than 1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>menos de 1 ms</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>%1 %2 in %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 %2 en %3</translation>
     </message>
     <message>
         <source>, the first %1 shown</source>
-        <translation type="unfinished"></translation>
+        <translation>, se muestran los %1 primeros</translation>
     </message>
 </context>
 <context>
@@ -11024,7 +11034,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <name>kavela::desktop::GateChart</name>
     <message>
         <source>No run has its penalties by gate. Enter them for each gate to see where they happen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna manga tiene sus penalizaciones por puerta. Introdúcelas para cada puerta para ver dónde ocurren.</translation>
     </message>
     <message>
         <source>Penalties by gate</source>
@@ -11032,11 +11042,11 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Runs with a penalty at the gate, of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mangas con penalización en la puerta, de %1</translation>
     </message>
     <message>
         <source> · ↑ upstream gate</source>
-        <translation type="unfinished"></translation>
+        <translation> · ↑ remonte</translation>
     </message>
     <message>
         <source>Gate</source>
@@ -11048,15 +11058,15 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Missed gate, 50 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Salto, 50 s</translation>
     </message>
     <message>
         <source>Touch, 2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Toque, 2 s</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>Gate %1, upstream</source>
@@ -11080,7 +11090,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>touch</source>
-        <translation type="unfinished"></translation>
+        <translation>toque</translation>
     </message>
     <message>
         <source>Upstream</source>
@@ -11103,7 +11113,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>Total</source>
@@ -11115,7 +11125,7 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>Mark the pole line too</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar también la línea de la puerta</translation>
     </message>
     <message>
         <source>Style</source>
@@ -11123,18 +11133,18 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     </message>
     <message>
         <source>A click brings a gate in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic trae una puerta al frente</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GateStrip</name>
     <message>
         <source>Penalties at the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Penalizaciones en las puertas</translation>
     </message>
     <message>
         <source>No gates yet: set up the course with Ctrl+G to note penalties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay puertas: configura el recorrido con Ctrl+G para anotar penalizaciones.</translation>
     </message>
     <message>
         <source>Gate %1, upstream</source>
@@ -11147,7 +11157,8 @@ Roll %8° (+ inside), pitch %9° (+ bow up)</source>
     <message>
         <source>
 T touch, F missed, 0 clean; N and P next and previous gate</source>
-        <translation type="unfinished"></translation>
+        <translation>
+T toque, F salto, 0 limpia; N y P puerta siguiente y anterior</translation>
     </message>
 </context>
 <context>
@@ -11184,63 +11195,63 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     <name>kavela::desktop::GoalsPanel</name>
     <message>
         <source>New group</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo nuevo</translation>
     </message>
     <message>
         <source>New goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Objetivo nuevo</translation>
     </message>
     <message>
         <source>New sub-goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Subobjetivo nuevo</translation>
     </message>
     <message>
         <source>Goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Objetivo</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Add group</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir grupo</translation>
     </message>
     <message>
         <source>A group of goals, such as “Technique”</source>
-        <translation type="unfinished"></translation>
+        <translation>Un grupo de objetivos, como «Técnica»</translation>
     </message>
     <message>
         <source>Add goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir objetivo</translation>
     </message>
     <message>
         <source>To the group that is chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Al grupo elegido</translation>
     </message>
     <message>
         <source>Add sub-goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir subobjetivo</translation>
     </message>
     <message>
         <source>To the group that is chosen, with a status (Insert)</source>
-        <translation type="unfinished"></translation>
+        <translation>Al grupo elegido, con un estado (Insert)</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Subir</translation>
     </message>
     <message>
         <source>Alt+Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Arriba</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Bajar</translation>
     </message>
     <message>
         <source>Alt+Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt+Abajo</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -11248,16 +11259,17 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>No goals are set for this season yet.
 “Add group” begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay objetivos para esta temporada.
+Se empieza con «Añadir grupo».</translation>
     </message>
     <message>
         <source>Choose a season to see its goals.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige una temporada para ver sus objetivos.</translation>
     </message>
     <message>
         <source>Group %1</source>
@@ -11265,46 +11277,46 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>%1 of %2 reached</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 logrados</translation>
     </message>
     <message>
         <source>, %1 given up</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 abandonados</translation>
     </message>
     <message>
         <source>text of a goal</source>
-        <translation type="unfinished"></translation>
+        <translation>texto de un objetivo</translation>
     </message>
     <message>
         <source>status of a goal</source>
-        <translation type="unfinished"></translation>
+        <translation>estado de un objetivo</translation>
     </message>
     <message>
         <source>new goal</source>
-        <translation type="unfinished"></translation>
+        <translation>objetivo nuevo</translation>
     </message>
     <message>
         <source>order of the goals</source>
-        <translation type="unfinished"></translation>
+        <translation>orden de los objetivos</translation>
     </message>
     <message>
         <source>removal of a goal</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de un objetivo</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::GymPanel</name>
     <message>
         <source>All seasons, in kilograms</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las temporadas, en kilogramos</translation>
     </message>
     <message>
         <source>kg</source>
-        <translation type="unfinished"></translation>
+        <translation>kg</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Máximo</translation>
     </message>
     <message>
         <source>Weight</source>
@@ -11312,23 +11324,23 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Exercises</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejercicios</translation>
     </message>
     <message>
         <source>Tonnage</source>
-        <translation type="unfinished"></translation>
+        <translation>Tonelaje</translation>
     </message>
     <message>
         <source>Exercise of the chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejercicio del gráfico</translation>
     </message>
     <message>
         <source>&amp;History of</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Historial de</translation>
     </message>
     <message>
         <source>Add session</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir sesión</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -11336,19 +11348,19 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>removal of gym sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de sesiones de gimnasio</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplicar</translation>
     </message>
     <message>
         <source>The same exercises once more, today</source>
-        <translation type="unfinished"></translation>
+        <translation>Los mismos ejercicios otra vez, hoy</translation>
     </message>
     <message>
         <source>date</source>
-        <translation type="unfinished"></translation>
+        <translation>fecha</translation>
     </message>
     <message>
         <source>new gym session</source>
@@ -11360,11 +11372,11 @@ T touch, F missed, 0 clean; N and P next and previous gate</source>
     </message>
     <message>
         <source>Choose an athlete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige un deportista.</translation>
     </message>
     <message>
         <source>Add a season for this athlete first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade antes una temporada para este deportista.</translation>
     </message>
     <message>
         <source>No gym session of this season yet.
@@ -11513,11 +11525,11 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Izquierda</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Derecha</translation>
     </message>
     <message>
         <source>Inside</source>
@@ -11892,7 +11904,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lugar</translation>
     </message>
     <message>
         <source>&amp;Kind</source>
@@ -11904,7 +11916,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>kg</source>
-        <translation type="unfinished"></translation>
+        <translation>kg</translation>
     </message>
     <message>
         <source>&amp;Paddle length</source>
@@ -12009,7 +12021,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Izquierda</translation>
     </message>
     <message>
         <source>Space</source>
@@ -12021,7 +12033,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Derecha</translation>
     </message>
     <message>
         <source>Full screen</source>
@@ -12092,11 +12104,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>Duplicate</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplicar</translation>
     </message>
     <message>
         <source>Another one like it</source>
@@ -12104,11 +12116,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Subir</translation>
     </message>
     <message>
         <source>Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Bajar</translation>
     </message>
     <message>
         <source>Remove the session</source>
@@ -12181,11 +12193,11 @@ Penalties are left out.</source>
     <name>kavela::desktop::KeptQueries</name>
     <message>
         <source>Queries</source>
-        <translation type="unfinished"></translation>
+        <translation>Consultas</translation>
     </message>
     <message>
         <source>Kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservado</translation>
     </message>
     <message>
         <source>Asked last</source>
@@ -12268,7 +12280,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::List</name>
     <message>
         <source>date</source>
-        <translation type="unfinished"></translation>
+        <translation>fecha</translation>
     </message>
     <message>
         <source>new %1</source>
@@ -13414,7 +13426,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -13524,7 +13536,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Di&amp;rección</translation>
     </message>
     <message>
         <source>&amp;User name</source>
@@ -13571,7 +13583,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Replace it</source>
-        <translation type="unfinished"></translation>
+        <translation>Sustituirlo</translation>
     </message>
     <message>
         <source>Save the planning online</source>
@@ -13984,7 +13996,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>date</source>
-        <translation type="unfinished"></translation>
+        <translation>fecha</translation>
     </message>
     <message>
         <source>Behind</source>
@@ -14211,7 +14223,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Repeat</source>
-        <translation type="unfinished"></translation>
+        <translation>Repetir</translation>
     </message>
     <message>
         <source>How often do the %1 chosen weeks follow themselves?
@@ -14520,7 +14532,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>deportista</translation>
     </message>
     <message>
         <source>removal of an athlete</source>
@@ -14677,11 +14689,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Best run</source>
-        <translation type="unfinished"></translation>
+        <translation>Mejor manga</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Izquierda</translation>
     </message>
 </context>
 <context>
@@ -14795,7 +14807,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Behind, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia, %</translation>
     </message>
     <message>
         <source>On splits, %</source>
@@ -14819,7 +14831,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Series</translation>
     </message>
     <message>
         <source>Final</source>
@@ -15923,7 +15935,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>kg</source>
-        <translation type="unfinished"></translation>
+        <translation>kg</translation>
     </message>
     <message>
         <source>&amp;Drag</source>
@@ -15966,7 +15978,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Then</source>
-        <translation type="unfinished"></translation>
+        <translation>Entonces</translation>
     </message>
     <message>
         <source>stays</source>
@@ -17102,7 +17114,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>Tendencia</translation>
     </message>
     <message>
         <source>Behind whom</source>
@@ -17420,7 +17432,7 @@ Elige un archivo.</translation>
     <name>kavela::desktop::SectionForm</name>
     <message>
         <source>Turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Giros</translation>
     </message>
     <message>
         <source>Turn %1</source>
@@ -17464,7 +17476,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>rad/s</source>
-        <translation type="unfinished"></translation>
+        <translation>rad/s</translation>
     </message>
     <message>
         <source>Told by the strokes that were recorded</source>
@@ -17473,7 +17485,8 @@ Elige un archivo.</translation>
     <message>
         <source>Time
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo
+(s)</translation>
     </message>
     <message>
         <source>Straight
@@ -17631,7 +17644,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>deportista</translation>
     </message>
     <message>
         <source>athlete removed</source>
@@ -17815,7 +17828,7 @@ Elige un archivo.</translation>
     <name>kavela::desktop::SensorChart</name>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>Time (s)</source>
@@ -17982,7 +17995,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Turns</source>
-        <translation type="unfinished"></translation>
+        <translation>Giros</translation>
     </message>
     <message>
         <source>Segments</source>
@@ -17998,7 +18011,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source> m</source>
-        <translation type="unfinished"></translation>
+        <translation> m</translation>
     </message>
     <message>
         <source>Values every</source>
@@ -18029,11 +18042,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Stroke rate (1/min)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia de palada (1/min)</translation>
     </message>
     <message>
         <source>Speed (m/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad (m/s)</translation>
     </message>
     <message>
         <source>The speed of the strokes is not known.</source>
@@ -18041,11 +18054,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Izquierda</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Derecha</translation>
     </message>
     <message>
         <source>Side unknown</source>
@@ -18073,7 +18086,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Keep</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar</translation>
     </message>
     <message>
         <source>Cut the session to the selected stretch</source>
@@ -18120,7 +18133,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Import .kvb file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar archivo .kvb</translation>
     </message>
     <message>
         <source>Recordings (*.kvb)</source>
@@ -18128,7 +18141,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Import .sbm file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar archivo .sbm</translation>
     </message>
     <message>
         <source>Sessions (*.sbm *.bms)</source>
@@ -18294,19 +18307,19 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
-        <translation type="unfinished"></translation>
+        <translation>Desmarcar t&amp;odos</translation>
     </message>
     <message>
         <source>Ser&amp;ver</source>
-        <translation type="unfinished"></translation>
+        <translation>Ser&amp;vidor</translation>
     </message>
     <message>
         <source>&amp;Sign in…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Iniciar sesión…</translation>
     </message>
     <message>
         <source>&amp;Forget the password</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Olvidar la contraseña</translation>
     </message>
 </context>
 <context>
@@ -18317,7 +18330,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>F&amp;older</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Carpeta</translation>
     </message>
     <message>
         <source>On this computer, with everything below it but hidden files</source>
@@ -18329,7 +18342,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;Address</source>
-        <translation type="unfinished"></translation>
+        <translation>Di&amp;rección</translation>
     </message>
     <message>
         <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
@@ -18414,7 +18427,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Files are being shared…</source>
@@ -18422,11 +18435,11 @@ and %1 more</source>
     </message>
     <message>
         <source>This computer has no password store that is open. The password holds until this window is closed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este ordenador no tiene ningún almacén de contraseñas abierto. La contraseña vale hasta que se cierre esta ventana.</translation>
     </message>
     <message>
         <source>The password of %1 was forgotten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se olvidó la contraseña de %1.</translation>
     </message>
     <message>
         <source>%v of %m files</source>
@@ -18442,7 +18455,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Stop and close</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener y cerrar</translation>
     </message>
 </context>
 <context>
@@ -18724,7 +18737,7 @@ and %1 more</source>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>There is no run to be marked.</source>
@@ -19159,7 +19172,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>New</source>
@@ -19258,11 +19271,11 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Izquierda</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Derecha</translation>
     </message>
     <message>
         <source>Strokes/min</source>
@@ -19538,7 +19551,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar</translation>
     </message>
     <message>
         <source>Reading %1…</source>
@@ -19805,7 +19818,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lugar</translation>
     </message>
     <message>
         <source>&amp;Season</source>
@@ -19833,11 +19846,11 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Tick &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar &amp;todos</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
-        <translation type="unfinished"></translation>
+        <translation>Desmarcar t&amp;odos</translation>
     </message>
     <message>
         <source>(line %1)</source>
@@ -19879,7 +19892,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <name>kavela::desktop::TakeRecordingDialog</name>
     <message>
         <source> m</source>
-        <translation type="unfinished"></translation>
+        <translation> m</translation>
     </message>
     <message>
         <source> rad/s</source>
@@ -19899,7 +19912,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lugar</translation>
     </message>
     <message>
         <source>La&amp;ps</source>
@@ -19953,7 +19966,8 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <message>
         <source>Time
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo
+(s)</translation>
     </message>
     <message>
         <source>Length of the section</source>
@@ -20526,7 +20540,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Test</source>
-        <translation type="unfinished"></translation>
+        <translation>Prueba</translation>
     </message>
     <message>
         <source>Location</source>
@@ -21303,7 +21317,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Re&amp;name the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cambiar el nombre del deportista</translation>
     </message>
     <message>
         <source>&amp;Film…</source>
@@ -21311,7 +21325,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>R&amp;emove the trial</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar la contrarreloj</translation>
     </message>
     <message>
         <source>Film…</source>
@@ -21358,7 +21372,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>From the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Desde el inicio</translation>
     </message>
     <message>
         <source>%1 boats</source>
@@ -21398,7 +21412,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>time trial of %1</source>
@@ -21472,7 +21486,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>Total</source>
@@ -21484,7 +21498,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Mark the pole line too</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar también la línea de la puerta</translation>
     </message>
     <message>
         <source>Turn to the</source>
@@ -21568,7 +21582,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Import variability</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar variabilidad</translation>
     </message>
     <message>
         <source>1 line is left out:</source>
@@ -21714,7 +21728,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargar</translation>
     </message>
     <message>
         <source>health</source>
@@ -21945,7 +21959,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Load</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargar</translation>
     </message>
     <message>
         <source>Week</source>
