@@ -7653,7 +7653,7 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     <name>kavela::desktop::CommentPage</name>
     <message>
         <source>score</source>
-        <translation>nota</translation>
+        <translation>puntuación</translation>
     </message>
     <message>
         <source>Show the coach&apos;s comments</source>
@@ -7681,7 +7681,7 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     </message>
     <message>
         <source>Scores</source>
-        <translation>Notas</translation>
+        <translation>Puntuaciones</translation>
     </message>
     <message>
         <source>Give-ups</source>
@@ -11364,11 +11364,11 @@ Se empieza con «Añadir grupo».</translation>
     </message>
     <message>
         <source>new gym session</source>
-        <translation type="unfinished"></translation>
+        <translation>sesión de gimnasio nueva</translation>
     </message>
     <message>
         <source>copy of a gym session</source>
-        <translation type="unfinished"></translation>
+        <translation>copia de una sesión de gimnasio</translation>
     </message>
     <message>
         <source>Choose an athlete.</source>
@@ -11381,35 +11381,37 @@ Se empieza con «Añadir grupo».</translation>
     <message>
         <source>No gym session of this season yet.
 Press Insert to add today&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay sesiones de gimnasio de esta temporada.
+Pulsa Insert para añadir la de hoy.</translation>
     </message>
     <message>
         <source>No exercise yet.
 Press Insert to add one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay ejercicios.
+Pulsa Insert para añadir uno.</translation>
     </message>
     <message>
         <source>Choose or add a session to see its exercises.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige o añade una sesión para ver sus ejercicios.</translation>
     </message>
     <message>
         <source>Add an exercise with its weight to see how it develops.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade un ejercicio con su peso para ver cómo evoluciona.</translation>
     </message>
     <message>
         <source>No weight of %1 yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay ningún peso de %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::HeatAttacks</name>
     <message>
         <source>✓ passed</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ adelantó</translation>
     </message>
     <message>
         <source>✗ held</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ aguantó</translation>
     </message>
     <message>
         <source>Start</source>
@@ -11425,7 +11427,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>A</translation>
     </message>
     <message>
         <source>Outcome</source>
@@ -11449,15 +11451,15 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Attack at this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Ataque en este fotograma</translation>
     </message>
     <message>
         <source>An attack starts here: then press the number of the attacker and those of the defenders</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí empieza un ataque: pulsa después el número del atacante y los de los defensores</translation>
     </message>
     <message>
         <source>A click shows the frame of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic muestra el fotograma de un ataque</translation>
     </message>
     <message>
         <source>Gate %1</source>
@@ -11465,15 +11467,15 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>attack</source>
-        <translation type="unfinished"></translation>
+        <translation>ataque</translation>
     </message>
     <message>
         <source>Attack: number of the attacker, then of the defenders</source>
-        <translation type="unfinished"></translation>
+        <translation>Ataque: número del atacante y después de los defensores</translation>
     </message>
     <message>
         <source>An attack without a moment, since there is no film: press the number of the attacker, then those of the defenders.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un ataque sin momento, porque no hay vídeo: pulsa el número del atacante y después los de los defensores.</translation>
     </message>
     <message>
         <source>attacker</source>
@@ -11485,43 +11487,43 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>moment of an attack</source>
-        <translation type="unfinished"></translation>
+        <translation>momento de un ataque</translation>
     </message>
     <message>
         <source>end of an attack removed</source>
-        <translation type="unfinished"></translation>
+        <translation>fin de un ataque quitado</translation>
     </message>
     <message>
         <source>attack removed</source>
-        <translation type="unfinished"></translation>
+        <translation>ataque quitado</translation>
     </message>
     <message>
         <source>Start ramp</source>
-        <translation type="unfinished"></translation>
+        <translation>Rampa de salida</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquimotaje</translation>
     </message>
     <message>
         <source>Eddy</source>
-        <translation type="unfinished"></translation>
+        <translation>Contra</translation>
     </message>
     <message>
         <source>Drop</source>
-        <translation type="unfinished"></translation>
+        <translation>Caída</translation>
     </message>
     <message>
         <source>Wave</source>
-        <translation type="unfinished"></translation>
+        <translation>Ola</translation>
     </message>
     <message>
         <source>Flat water</source>
-        <translation type="unfinished"></translation>
+        <translation>Agua llana</translation>
     </message>
     <message>
         <source>Finish</source>
-        <translation type="unfinished"></translation>
+        <translation>Meta</translation>
     </message>
     <message>
         <source>Left</source>
@@ -11533,34 +11535,34 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Inside</source>
-        <translation type="unfinished"></translation>
+        <translation>Por dentro</translation>
     </message>
     <message>
         <source>Outside</source>
-        <translation type="unfinished"></translation>
+        <translation>Por fuera</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::HeatDialog</name>
     <message>
         <source>Add a heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una serie</translation>
     </message>
     <message>
         <source>Names of the boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombres de los barcos</translation>
     </message>
     <message>
         <source>Boat %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Barco %1</translation>
     </message>
     <message>
         <source>Each boat needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada barco necesita un nombre.</translation>
     </message>
     <message>
         <source>%1 stands twice in the heat.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está dos veces en la serie.</translation>
     </message>
 </context>
 <context>
@@ -11571,15 +11573,15 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>⚠ missing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ falta: %1</translation>
     </message>
     <message>
         <source>%1 of %2 gates</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 puertas</translation>
     </message>
     <message>
         <source>Heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Serie</translation>
     </message>
     <message>
         <source>Boats</source>
@@ -11591,31 +11593,31 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomado</translation>
     </message>
     <message>
         <source>Add a heat…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una serie…</translation>
     </message>
     <message>
         <source>Adds a heat of up to four boats</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade una serie de hasta cuatro barcos</translation>
     </message>
     <message>
         <source>Names…</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombres…</translation>
     </message>
     <message>
         <source>Other names for the boats of the heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Otros nombres para los barcos de la serie</translation>
     </message>
     <message>
         <source>Film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo…</translation>
     </message>
     <message>
         <source>Chooses the film of the heat</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige el vídeo de la serie</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -11623,14 +11625,14 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Removes the heat with all its marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Quita la serie con todas sus marcas</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::HeatMapChart</name>
     <message>
         <source>Percent lost on %1, by section</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje perdido frente a %1, por tramo</translation>
     </message>
     <message>
         <source>Percent lost by run and section</source>
@@ -11642,7 +11644,7 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>is the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>es la referencia</translation>
     </message>
     <message>
         <source>Run</source>
@@ -11653,67 +11655,67 @@ Press Insert to add one.</source>
     <name>kavela::desktop::HeatOrders</name>
     <message>
         <source>Take at this frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomar en este fotograma</translation>
     </message>
     <message>
         <source>Takes the order shown at the frame shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Toma el orden mostrado en el fotograma mostrado</translation>
     </message>
     <message>
         <source>Start over</source>
-        <translation type="unfinished"></translation>
+        <translation>Empezar de nuevo</translation>
     </message>
     <message>
         <source>Back to the order as it was</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelve al orden tal como estaba</translation>
     </message>
     <message>
         <source>Comment on this order</source>
-        <translation type="unfinished"></translation>
+        <translation>Comentario a este orden</translation>
     </message>
     <message>
         <source>Add a heat first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade antes una serie.</translation>
     </message>
     <message>
         <source>The cross course has no gates yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>El recorrido de cross aún no tiene puertas.</translation>
     </message>
     <message>
         <source>This order does not count for the course. Choose a gate of the course first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este orden no cuenta para el recorrido. Elige antes una puerta del recorrido.</translation>
     </message>
     <message>
         <source>No boat is named yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay ningún barco con nombre.</translation>
     </message>
     <message>
         <source>order at gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>orden en la puerta %1</translation>
     </message>
     <message>
         <source>Gate %1:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1:  %2</translation>
     </message>
     <message>
         <source>comment on an order</source>
-        <translation type="unfinished"></translation>
+        <translation>comentario a un orden</translation>
     </message>
     <message>
         <source>not taken yet</source>
-        <translation type="unfinished"></translation>
+        <translation>aún sin tomar</translation>
     </message>
     <message>
         <source>taken at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>tomado en %1</translation>
     </message>
     <message>
         <source>offered</source>
-        <translation type="unfinished"></translation>
+        <translation>propuesto</translation>
     </message>
     <message>
         <source>Gate %1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerta %1 · %2</translation>
     </message>
     <message>
         <source>The cross course has no gates yet</source>
@@ -11721,30 +11723,30 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Keep its moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar su momento</translation>
     </message>
     <message>
         <source>Take without a moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomar sin momento</translation>
     </message>
     <message>
         <source>Corrects the order and leaves its moment as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrige el orden y deja su momento como está</translation>
     </message>
     <message>
         <source>Takes the order shown where there is no film</source>
-        <translation type="unfinished"></translation>
+        <translation>Toma el orden mostrado cuando no hay vídeo</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::HeatPage</name>
     <message>
         <source>No heats yet. Add a heat with its boats and choose its film; then go to each gate and press the numbers of the boats as they pass.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay series. Añade una serie con sus barcos y elige su vídeo; después ve a cada puerta y pulsa los números de los barcos a medida que pasan.</translation>
     </message>
     <message>
         <source>A%1</source>
-        <translation type="unfinished"></translation>
+        <translation>A%1</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
@@ -11752,43 +11754,43 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>order moved</source>
-        <translation type="unfinished"></translation>
+        <translation>orden movido</translation>
     </message>
     <message>
         <source>order removed</source>
-        <translation type="unfinished"></translation>
+        <translation>orden quitado</translation>
     </message>
     <message>
         <source>This heat has %1 boats.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta serie tiene %1 barcos.</translation>
     </message>
     <message>
         <source>heat</source>
-        <translation type="unfinished"></translation>
+        <translation>serie</translation>
     </message>
     <message>
         <source>heat removed</source>
-        <translation type="unfinished"></translation>
+        <translation>serie quitada</translation>
     </message>
     <message>
         <source>names of boats</source>
-        <translation type="unfinished"></translation>
+        <translation>nombres de barcos</translation>
     </message>
     <message>
         <source>film of a heat</source>
-        <translation type="unfinished"></translation>
+        <translation>vídeo de una serie</translation>
     </message>
     <message>
         <source>Add a heat first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade antes una serie.</translation>
     </message>
     <message>
         <source>This heat has no boats yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta serie aún no tiene barcos.</translation>
     </message>
     <message>
         <source>Select the attack that ends here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecciona el ataque que termina aquí.</translation>
     </message>
 </context>
 <context>
@@ -11866,37 +11868,40 @@ Press Insert to add one.</source>
     </message>
     <message>
         <source>Ideal run %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga ideal %1 s</translation>
     </message>
     <message>
         <source>No ideal run: a section has no time.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay manga ideal: un tramo no tiene tiempo.</translation>
     </message>
     <message>
         <source>
 Fastest run %1 s, %2
 %3 s behind the ideal run</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Manga más rápida %1 s, %2
+%3 s más que la manga ideal</translation>
     </message>
     <message>
         <source>
 Penalties are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Las penalizaciones no se cuentan.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::InformationDialog</name>
     <message>
         <source>Session information</source>
-        <translation type="unfinished"></translation>
+        <translation>Información de la sesión</translation>
     </message>
     <message>
         <source>The weight tells force and power when a recording is converted: analyse it again after changing it.</source>
-        <translation type="unfinished"></translation>
+        <translation>De los pesos salen la fuerza y la potencia al convertir una grabación: analízala de nuevo después de cambiarlos.</translation>
     </message>
     <message>
         <source>–</source>
-        <translation type="unfinished"></translation>
+        <translation>–</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
@@ -11912,7 +11917,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Peso</translation>
     </message>
     <message>
         <source>kg</source>
@@ -11920,27 +11925,27 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Paddle length</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Longitud de la pala</translation>
     </message>
     <message>
         <source>cm</source>
-        <translation type="unfinished"></translation>
+        <translation>cm</translation>
     </message>
     <message>
         <source>&amp;Blade area</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Superficie de la hoja</translation>
     </message>
     <message>
         <source>cm²</source>
-        <translation type="unfinished"></translation>
+        <translation>cm²</translation>
     </message>
     <message>
         <source>Blade &amp;height</source>
-        <translation type="unfinished"></translation>
+        <translation>Altura de la &amp;hoja</translation>
     </message>
     <message>
         <source>Hand po&amp;sition</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición de las &amp;manos</translation>
     </message>
 </context>
 <context>
@@ -11958,66 +11963,66 @@ Penalties are left out.</source>
     <name>kavela::desktop::IntervalForm</name>
     <message>
         <source>Minutes and seconds such as 1:30, or seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutos y segundos como 1:30, o segundos</translation>
     </message>
     <message>
         <source>&amp;Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Tí&amp;tulo</translation>
     </message>
     <message>
         <source>T&amp;arget</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Objetivo</translation>
     </message>
     <message>
         <source>Rh&amp;ythm</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;itmo</translation>
     </message>
     <message>
         <source>S&amp;ets</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Series</translation>
     </message>
     <message>
         <source>Re&amp;petitions</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;peticiones</translation>
     </message>
     <message>
         <source>&amp;Work</source>
-        <translation type="unfinished"></translation>
+        <translation>Tra&amp;bajo</translation>
     </message>
     <message>
         <source>&amp;Rest between repetitions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descanso entre repeticiones</translation>
     </message>
     <message>
         <source>Rest &amp;between sets</source>
-        <translation type="unfinished"></translation>
+        <translation>Descanso &amp;entre series</translation>
     </message>
     <message>
         <source>&amp;Kind of rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de des&amp;canso</translation>
     </message>
     <message>
         <source>&amp;Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Volumen</translation>
     </message>
     <message>
         <source>&amp;Intensity</source>
-        <translation type="unfinished"></translation>
+        <translation>Inte&amp;nsidad</translation>
     </message>
     <message>
         <source>&amp;Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Desc&amp;ripción</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::IntervalTimerDialog</name>
     <message>
         <source>%1 – timer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – temporizador</translation>
     </message>
     <message>
         <source>◀ Back</source>
-        <translation type="unfinished"></translation>
+        <translation>◀ Atrás</translation>
     </message>
     <message>
         <source>Left</source>
@@ -12025,11 +12030,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio</translation>
     </message>
     <message>
         <source>Skip ▶</source>
-        <translation type="unfinished"></translation>
+        <translation>Saltar ▶</translation>
     </message>
     <message>
         <source>Right</source>
@@ -12037,11 +12042,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Full screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Pantalla completa</translation>
     </message>
     <message>
         <source>F11</source>
-        <translation type="unfinished"></translation>
+        <translation>F11</translation>
     </message>
     <message>
         <source>Close</source>
@@ -12049,7 +12054,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Escape</source>
-        <translation type="unfinished"></translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -12057,11 +12062,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Start again</source>
-        <translation type="unfinished"></translation>
+        <translation>Empezar de nuevo</translation>
     </message>
     <message>
         <source>Go on</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuar</translation>
     </message>
     <message>
         <source>Start</source>
@@ -12076,7 +12081,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Make-up</source>
-        <translation type="unfinished"></translation>
+        <translation>Estructura</translation>
     </message>
     <message>
         <source>Total</source>
@@ -12084,23 +12089,23 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Work</source>
-        <translation type="unfinished"></translation>
+        <translation>Trabajo</translation>
     </message>
     <message>
         <source>New session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión nueva</translation>
     </message>
     <message>
         <source>interval session</source>
-        <translation type="unfinished"></translation>
+        <translation>sesión de intervalos</translation>
     </message>
     <message>
         <source>No favourite sessions yet. “Add” begins the first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay sesiones favoritas. Se empieza con «Añadir».</translation>
     </message>
     <message>
         <source>Add a session</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una sesión</translation>
     </message>
     <message>
         <source>Add</source>
@@ -12112,7 +12117,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Another one like it</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra igual</translation>
     </message>
     <message>
         <source>Up</source>
@@ -12124,7 +12129,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Remove the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar la sesión</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -12132,61 +12137,61 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Start the timer…</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar el temporizador…</translation>
     </message>
     <message>
         <source>A clock for the bank, readable from afar. Double click on a session opens it too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un reloj para la orilla, legible desde lejos. También lo abre un doble clic en una sesión.</translation>
     </message>
     <message>
         <source>new interval session</source>
-        <translation type="unfinished"></translation>
+        <translation>sesión de intervalos nueva</translation>
     </message>
     <message>
         <source>%1, copy</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, copia</translation>
     </message>
     <message>
         <source>copy of an interval session</source>
-        <translation type="unfinished"></translation>
+        <translation>copia de una sesión de intervalos</translation>
     </message>
     <message>
         <source>order of the interval sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>orden de las sesiones de intervalos</translation>
     </message>
     <message>
         <source>removal of an interval session</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de una sesión de intervalos</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::JobsWindow</name>
     <message>
         <source>S&amp;top</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Detener</translation>
     </message>
     <message>
         <source>Show the &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la &amp;carpeta</translation>
     </message>
     <message>
         <source>&amp;Clear what is over</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar lo terminado</translation>
     </message>
     <message>
         <source>Films being composed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos en composición</translation>
     </message>
     <message>
         <source>No film is being composed.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se está componiendo ningún vídeo.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::KeptColumns</name>
     <message>
         <source>&amp;All columns in their order</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Todas las columnas en su orden</translation>
     </message>
 </context>
 <context>
@@ -12201,26 +12206,26 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Asked last</source>
-        <translation type="unfinished"></translation>
+        <translation>Últimas consultas</translation>
     </message>
     <message>
         <source>Examples</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejemplos</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::KeyEditor</name>
     <message>
         <source>Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Teclas</translation>
     </message>
     <message>
         <source>Find an action</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar una acción</translation>
     </message>
     <message>
         <source>Standard keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Teclas estándar</translation>
     </message>
     <message>
         <source>Close</source>
@@ -12228,48 +12233,48 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>%1 is the key of “%2” already. “%3” can take it over; “%2” has it no longer then.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ya es la tecla de «%2». «%3» puede quedársela; entonces «%2» deja de tenerla.</translation>
     </message>
     <message>
         <source>Take it over</source>
-        <translation type="unfinished"></translation>
+        <translation>Quedársela</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::KeyOverlay</name>
     <message>
         <source>All keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las teclas</translation>
     </message>
     <message>
         <source>Up, Down, Page up and Page down show the rest; any other key closes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arriba, Abajo, RePág y AvPág muestran el resto; cualquier otra tecla cierra.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LaneStrip</name>
     <message>
         <source>Notes of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Notas de la manga</translation>
     </message>
     <message>
         <source>A click shows the frame of a mark, dragging moves the mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic muestra el fotograma de una marca; arrastrar mueve la marca</translation>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>Otros</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LineOverlay</name>
     <message>
         <source>Lines over the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Líneas sobre el vídeo</translation>
     </message>
     <message>
         <source>Drag an end of a line, or the line. With the focus here the arrows move it, with Shift by ten pixels; Tab goes from end to end, Esc leaves.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastra un extremo de una línea, o la línea. Con el foco aquí la mueven las flechas, con Mayús diez píxeles; Tab va de extremo a extremo, Esc sale.</translation>
     </message>
     <message>
         <source>Start</source>
@@ -12284,7 +12289,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>new %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: nuevo</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -12292,7 +12297,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>removal of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: eliminación</translation>
     </message>
 </context>
 <context>
@@ -12303,46 +12308,46 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>No row is left. Ctrl+Z takes the last step back.</source>
-        <translation type="unfinished"></translation>
+        <translation>No queda ninguna fila. Ctrl+Z deshace el último paso.</translation>
     </message>
     <message>
         <source>Every cell was taken.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se tomaron todas las celdas.</translation>
     </message>
     <message>
         <source>Chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráfico</translation>
     </message>
     <message>
         <source>Refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechazado</translation>
     </message>
     <message>
         <source>Refused (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechazado (%1)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::LoginDialog</name>
     <message>
         <source>&amp;Keep it in the password store of this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Conservarla en el almacén de contraseñas de este ordenador</translation>
     </message>
     <message>
         <source>Sign in to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar sesión en %1</translation>
     </message>
     <message>
         <source>Only this server is shown the password. It is never written into a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>La contraseña solo se muestra a este servidor. Nunca se escribe en un archivo.</translation>
     </message>
     <message>
         <source>&amp;User name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de &amp;usuario</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;ontraseña</translation>
     </message>
 </context>
 <context>
@@ -12871,7 +12876,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Micro splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Microparciales</translation>
     </message>
     <message>
         <source>Upstream gates</source>
@@ -12891,19 +12896,19 @@ Penalties are left out.</source>
     </message>
     <message>
         <source> · camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · cámara %1</translation>
     </message>
     <message>
         <source> · fixed camera %1</source>
-        <translation type="unfinished"></translation>
+        <translation> · cámara fija %1</translation>
     </message>
     <message>
         <source> · other run</source>
-        <translation type="unfinished"></translation>
+        <translation> · otra manga</translation>
     </message>
     <message>
         <source>%1 at %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en %2</translation>
     </message>
     <message>
         <source>Time</source>
@@ -12911,53 +12916,53 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca</translation>
     </message>
     <message>
         <source>Times are of this run, whatever film a mark lies on. A click shows the frame of a mark; Ctrl and Shift choose several for their clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Los tiempos son de esta manga, sea cual sea el vídeo en el que está la marca. Un clic muestra el fotograma de una marca; Ctrl y Mayús eligen varias para sus clips</translation>
     </message>
     <message>
         <source>Kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipos</translation>
     </message>
     <message>
         <source>The kinds of marks that are listed</source>
-        <translation type="unfinished"></translation>
+        <translation>Los tipos de marcas que se enumeran</translation>
     </message>
     <message>
         <source>Marks of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcas de la manga</translation>
     </message>
     <message>
         <source>All kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los tipos</translation>
     </message>
     <message>
         <source>Clips</source>
-        <translation type="unfinished"></translation>
+        <translation>Clips</translation>
     </message>
     <message>
         <source>Plays the clips of the chosen marks one after another; of all that are listed when not several are chosen</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproduce uno tras otro los clips de las marcas elegidas; de todas las enumeradas si no hay varias elegidas</translation>
     </message>
     <message numerus="yes">
         <source>%n second(s) before and after a mark</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n segundo antes y después de una marca</numerusform>
+            <numerusform>%n segundos antes y después de una marca</numerusform>
         </translation>
     </message>
     <message>
         <source> · outside the film</source>
-        <translation type="unfinished"></translation>
+        <translation> · fuera del vídeo</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MicroPage</name>
     <message>
         <source>Mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca</translation>
     </message>
     <message>
         <source>Time</source>
@@ -12965,15 +12970,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>From the one before</source>
-        <translation type="unfinished"></translation>
+        <translation>Desde el anterior</translation>
     </message>
     <message>
         <source>M marks a micro split at the frame shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>M marca un microparcial en el fotograma mostrado.</translation>
     </message>
     <message>
         <source>micro split</source>
-        <translation type="unfinished"></translation>
+        <translation>microparcial</translation>
     </message>
 </context>
 <context>
@@ -12988,7 +12993,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Open recordings…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir grabaciones…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
@@ -12996,79 +13001,79 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grabación</translation>
     </message>
     <message>
         <source>&amp;Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Convertir</translation>
     </message>
     <message>
         <source>Convert &amp;all ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir &amp;todas las marcadas</translation>
     </message>
     <message>
         <source>&amp;Open the converted session</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir la sesión convertida</translation>
     </message>
     <message>
         <source>&amp;Previous recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabación a&amp;nterior</translation>
     </message>
     <message>
         <source>&amp;Next recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabación &amp;siguiente</translation>
     </message>
     <message>
         <source>&amp;Show or hide</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar u ocultar</translation>
     </message>
     <message>
         <source>Show this one a&amp;lone</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar solo es&amp;ta</translation>
     </message>
     <message>
         <source>&amp;Remove from the list</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar de la lista</translation>
     </message>
     <message>
         <source>&amp;Time</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tiempo</translation>
     </message>
     <message>
         <source>&amp;Undo the move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deshacer el desplazamiento</translation>
     </message>
     <message>
         <source>&amp;Redo the move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rehacer el desplazamiento</translation>
     </message>
     <message>
         <source>Align the &amp;starts</source>
-        <translation type="unfinished"></translation>
+        <translation>Alinear los &amp;inicios</translation>
     </message>
     <message>
         <source>Align by the &amp;clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Alinear por el re&amp;loj</translation>
     </message>
     <message>
         <source>&amp;Align here: the cursor to the clicked moment</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alinear aquí: el cursor con el momento del clic</translation>
     </message>
     <message>
         <source>&amp;Forget the clicked moment</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Olvidar el momento del clic</translation>
     </message>
     <message>
         <source>&amp;Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ntes</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Desp&amp;ués</translation>
     </message>
     <message>
         <source>&amp;Previous stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Palada anterior</translation>
     </message>
     <message>
         <source>&amp;Next stroke</source>
@@ -13080,87 +13085,87 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Axes of the &amp;phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejes del &amp;teléfono</translation>
     </message>
     <message>
         <source>Axes of the phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejes del teléfono</translation>
     </message>
     <message>
         <source>&amp;Mark strokes and turns</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marcar paladas y giros</translation>
     </message>
     <message>
         <source>Zoom &amp;in</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;mpliar</translation>
     </message>
     <message>
         <source>Zoom &amp;out</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;educir</translation>
     </message>
     <message>
         <source>Show &amp;everything</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar t&amp;odo</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MotionAlignment</name>
     <message>
         <source>Every recording begins at 0. Ctrl+Z brings the alignment before back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las grabaciones empiezan en 0. Ctrl+Z recupera la alineación anterior.</translation>
     </message>
     <message>
         <source>Every recording stands at its date. Ctrl+Z brings the alignment before back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las grabaciones están en su fecha. Ctrl+Z recupera la alineación anterior.</translation>
     </message>
     <message>
         <source>The date is not known of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se conoce la fecha de %1</translation>
     </message>
     <message>
         <source>Click the moment where it should be, choose a recording, point at its moment and press A</source>
-        <translation type="unfinished"></translation>
+        <translation>Haz clic en el momento donde debe quedar, elige una grabación, señala su momento y pulsa A</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MotionCharts</name>
     <message>
         <source>here</source>
-        <translation type="unfinished"></translation>
+        <translation>aquí</translation>
     </message>
     <message>
         <source>L</source>
-        <translation type="unfinished"></translation>
+        <translation>I</translation>
     </message>
     <message>
         <source>R</source>
-        <translation type="unfinished"></translation>
+        <translation>D</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MotionConversions</name>
     <message>
         <source>Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir</translation>
     </message>
     <message>
         <source>%1  %2: %3 strokes, %4 turns</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  %2: %3 paladas, %4 giros</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::MotionPanel</name>
     <message>
         <source>%1 s of %2 s are recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay grabados %1 s de %2 s.</translation>
     </message>
     <message>
         <source>Nothing of it is recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada grabado de ella.</translation>
     </message>
     <message>
         <source>greatest %1 m/s, %2 m</source>
-        <translation type="unfinished"></translation>
+        <translation>máxima %1 m/s, %2 m</translation>
     </message>
     <message>
         <source>Section</source>
@@ -13180,7 +13185,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Heart</source>
-        <translation type="unfinished"></translation>
+        <translation>Corazón</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -13196,15 +13201,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Select a run to see its strokes, speed and heart rate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecciona una manga para ver sus paladas, su velocidad y su frecuencia cardiaca.</translation>
     </message>
     <message>
         <source>No recording is attached to this run. Split taking attaches one (Ctrl+B).</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta manga no tiene ninguna grabación adjunta. Se adjunta en la toma de parciales (Ctrl+B).</translation>
     </message>
     <message>
         <source>%1 of the part that is recorded; strokes of the whole run are not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de la parte grabada; las paladas de la manga entera no se conocen.</translation>
     </message>
     <message>
         <source>Run</source>
@@ -13215,7 +13220,7 @@ Penalties are left out.</source>
     <name>kavela::desktop::MotionRecordings</name>
     <message>
         <source>%1: there is not enough memory for it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: no hay memoria suficiente</translation>
     </message>
 </context>
 <context>
@@ -13226,35 +13231,35 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Open it</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrirla</translation>
     </message>
     <message>
         <source>Convert</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir</translation>
     </message>
     <message>
         <source>Writes strokes and turns as a processed session (.bms) beside the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe las paladas y los giros como sesión procesada (.bms) junto a la grabación</translation>
     </message>
     <message>
         <source>Convert all ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir todas las marcadas</translation>
     </message>
     <message>
         <source>At the cursor</source>
-        <translation type="unfinished"></translation>
+        <translation>En el cursor</translation>
     </message>
     <message>
         <source>Drop raw recordings (.kvb) here</source>
-        <translation type="unfinished"></translation>
+        <translation>Suelta aquí grabaciones en bruto (.kvb)</translation>
     </message>
     <message>
         <source>Several are laid over each other. They are only read: converting writes a new file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si hay varias, se superponen. Solo se leen: al convertir se escribe un archivo nuevo.</translation>
     </message>
     <message>
         <source>Open recordings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir grabaciones…</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -13266,7 +13271,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Raw recordings (*.kvb);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabaciones en bruto (*.kvb);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -13274,11 +13279,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Reading %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo %1…</translation>
     </message>
     <message>
         <source>Raw recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabaciones en bruto</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
@@ -13289,11 +13294,11 @@ Penalties are left out.</source>
     <name>kavela::desktop::NoteMarks</name>
     <message>
         <source>This mark lies on the film of a fixed camera that is not in step.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta marca está en el vídeo de una cámara fija que no va a la par.</translation>
     </message>
     <message>
         <source>The other run of this time loss is not in this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>La otra manga de esta pérdida de tiempo no está en este archivo.</translation>
     </message>
     <message>
         <source>Another run came to the front: nothing was marked.</source>
@@ -13313,15 +13318,15 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>This mark lies on another film than the one shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta marca está en un vídeo distinto del mostrado.</translation>
     </message>
     <message>
         <source>None of these marks lies on the film that is shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna de estas marcas está en el vídeo que se muestra.</translation>
     </message>
     <message>
         <source>Nothing is selected that could be removed. Ctrl and the arrows go from mark to mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada seleccionado que se pueda quitar. Ctrl y las flechas van de marca en marca.</translation>
     </message>
     <message>
         <source>mark removed</source>
@@ -13340,7 +13345,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Upstreams</source>
-        <translation type="unfinished"></translation>
+        <translation>Remontes</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -13348,7 +13353,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Micro</source>
-        <translation type="unfinished"></translation>
+        <translation>Micro</translation>
     </message>
     <message>
         <source>Tags</source>
@@ -13356,7 +13361,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Pérdidas</translation>
     </message>
     <message>
         <source>Comments</source>
@@ -13368,7 +13373,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>Cámaras</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -13379,50 +13384,50 @@ Penalties are left out.</source>
     <name>kavela::desktop::NotesPanel</name>
     <message>
         <source>Clip %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Clip %1 de %2</translation>
     </message>
     <message>
         <source>This key works in the mode %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta tecla funciona en el modo %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OfferDialog</name>
     <message>
         <source>A newer version</source>
-        <translation type="unfinished"></translation>
+        <translation>Una versión nueva</translation>
     </message>
     <message>
         <source>Kavela %1 is here</source>
-        <translation type="unfinished"></translation>
+        <translation>Kavela %1 está disponible</translation>
     </message>
     <message>
         <source>What is new</source>
-        <translation type="unfinished"></translation>
+        <translation>Novedades</translation>
     </message>
     <message>
         <source>Nothing is told of what is new.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se dice nada de las novedades.</translation>
     </message>
     <message>
         <source>The file has %1 and is put into %2. You install it yourself, when it suits you.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo tiene %1 y se guarda en %2. Lo instalas tú cuando te venga bien.</translation>
     </message>
     <message>
         <source>It is of %1. You have %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es del %1. Tienes la %2.</translation>
     </message>
     <message>
         <source>&amp;Skip this version</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Omitir esta versión</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation type="unfinished"></translation>
+        <translation>Desp&amp;ués</translation>
     </message>
     <message>
         <source>&amp;Download</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descargar</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
@@ -13434,19 +13439,19 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cerrar</translation>
     </message>
     <message>
         <source>&amp;Show the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar la carpeta</translation>
     </message>
     <message>
         <source>The file is the one that was signed, and stands as “%1” in %2. Leave Kavela before you install it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo es el que se firmó y está como «%1» en %2. Sal de Kavela antes de instalarlo.</translation>
     </message>
     <message>
         <source>Nothing was kept of the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha conservado nada del archivo.</translation>
     </message>
 </context>
 <context>
@@ -13457,27 +13462,27 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>What differs</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué difiere</translation>
     </message>
     <message>
         <source>How</source>
-        <translation type="unfinished"></translation>
+        <translation>Cómo</translation>
     </message>
     <message>
         <source>Official results and the films</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados oficiales y vídeos</translation>
     </message>
     <message>
         <source>&amp;Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Incorporar</translation>
     </message>
     <message>
         <source>&amp;Show the run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar la manga</translation>
     </message>
     <message>
         <source>A &amp;file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Un &amp;archivo…</translation>
     </message>
     <message>
         <source>Results list</source>
@@ -13501,11 +13506,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Official results</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados oficiales</translation>
     </message>
     <message>
         <source>Reading %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo %1…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -13513,26 +13518,26 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>The race carries no results list. Open one with “A file…”.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carrera no lleva ninguna lista de resultados. Abre una con «Un archivo…».</translation>
     </message>
     <message>
         <source>The films and this list say the same.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los vídeos y esta lista dicen lo mismo.</translation>
     </message>
     <message>
         <source>%1 differences, %2 of them to take over. The films&apos; own times stay; Ctrl+Z in split taking takes a step back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 diferencias, %2 de ellas por incorporar. Los tiempos propios de los vídeos se mantienen; Ctrl+Z en la toma de parciales retrocede un paso.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OnlineDialog</name>
     <message>
         <source>Any server that stores files by WebDAV will do. The password is asked for each time and stored nowhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sirve cualquier servidor que guarde archivos por WebDAV. La contraseña se pide cada vez y no se guarda en ningún sitio.</translation>
     </message>
     <message>
         <source>&amp;Planning</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Planificación</translation>
     </message>
     <message>
         <source>&amp;Address</source>
@@ -13540,46 +13545,46 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>&amp;User name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de &amp;usuario</translation>
     </message>
     <message>
         <source>Pass&amp;word</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;ontraseña</translation>
     </message>
     <message>
         <source>The settings name no shared planning.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los ajustes no indican ninguna planificación compartida.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OnlinePlanning</name>
     <message>
         <source>Saving the planning online…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardando la planificación en línea…</translation>
     </message>
     <message>
         <source>“%1” is saved online.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» está guardado en línea.</translation>
     </message>
     <message>
         <source>“%1” was changed on the server since this planning was read from there or saved there. Saving would lose that change.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» ha cambiado en el servidor desde que esta planificación se leyó o se guardó allí. Al guardar se perdería ese cambio.</translation>
     </message>
     <message>
         <source>There is a planning “%1” on the server that this one does not come from. Saving would replace it.</source>
-        <translation type="unfinished"></translation>
+        <translation>En el servidor hay una planificación «%1» de la que esta no procede. Al guardar se sustituiría.</translation>
     </message>
     <message>
         <source>Somebody else&apos;s work lies on the server</source>
-        <translation type="unfinished"></translation>
+        <translation>En el servidor hay trabajo de otra persona</translation>
     </message>
     <message>
         <source>Look at it</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlo</translation>
     </message>
     <message>
         <source>Save under another name…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar con otro nombre…</translation>
     </message>
     <message>
         <source>Replace it</source>
@@ -13587,23 +13592,23 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Save the planning online</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la planificación en línea</translation>
     </message>
     <message>
         <source>Name on the server</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre en el servidor</translation>
     </message>
     <message>
         <source>%1 (mine)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (mío)</translation>
     </message>
     <message>
         <source>“%1” cannot be the name of a file.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no puede ser el nombre de un archivo.</translation>
     </message>
     <message>
         <source>The server has no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor no tiene ese archivo.</translation>
     </message>
     <message>
         <source>What the server has is no planning.</source>
@@ -13611,83 +13616,83 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>The online planning could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo abrir la planificación en línea.</translation>
     </message>
     <message>
         <source>Open an online planning</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una planificación en línea</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OnlineSaving</name>
     <message>
         <source>The server changes the planning all the time.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor cambia la planificación continuamente.</translation>
     </message>
     <message>
         <source>The server has no such folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor no tiene esa carpeta.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OnlineStore</name>
     <message>
         <source>The address is none. It begins with https://.</source>
-        <translation type="unfinished"></translation>
+        <translation>La dirección no es válida. Empieza por https://.</translation>
     </message>
     <message>
         <source>Only https:// keeps the password and the plan from other readers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo https:// protege la contraseña y el plan de otros lectores.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::OrderBoard</name>
     <message>
         <source>Order at the gate in front</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden en la puerta de delante</translation>
     </message>
     <message>
         <source>A place up</source>
-        <translation type="unfinished"></translation>
+        <translation>Un puesto arriba</translation>
     </message>
     <message>
         <source>A place down</source>
-        <translation type="unfinished"></translation>
+        <translation>Un puesto abajo</translation>
     </message>
     <message>
         <source>Not seen at this gate</source>
-        <translation type="unfinished"></translation>
+        <translation>No se vio en esta puerta</translation>
     </message>
     <message>
         <source>Seen, as the last</source>
-        <translation type="unfinished"></translation>
+        <translation>Visto, el último</translation>
     </message>
     <message>
         <source>not of this heat</source>
-        <translation type="unfinished"></translation>
+        <translation>no es de esta serie</translation>
     </message>
     <message>
         <source>not seen</source>
-        <translation type="unfinished"></translation>
+        <translation>no visto</translation>
     </message>
     <message>
         <source>%1 won</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ganados</translation>
     </message>
     <message>
         <source>%1 lost</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 perdidos</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PageView</name>
     <message>
         <source>Pages of the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas del informe</translation>
     </message>
     <message>
         <source>There is nothing to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada que mostrar.</translation>
     </message>
 </context>
 <context>
@@ -13870,7 +13875,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Cre&amp;w</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;ripulación</translation>
     </message>
     <message>
         <source>All</source>
@@ -13992,7 +13997,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Enter a time or a position first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduce antes un tiempo o una posición.</translation>
     </message>
     <message>
         <source>date</source>
@@ -14004,7 +14009,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Known where the run was taken over from a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Se conoce si la manga se incorporó de un archivo de parciales</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -14012,22 +14017,22 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>removal of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de una manga</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PhonePageDialog</name>
     <message>
         <source>&amp;Cut the runs out of their films</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cortar las mangas de sus vídeos</translation>
     </message>
     <message>
         <source>Page for an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Página para un deportista</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar…</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
@@ -14039,26 +14044,26 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>One file for the telephone, of one race as it was last saved. Films lie in the folder beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un archivo para el teléfono, de una carrera tal como se guardó por última vez. Los vídeos están en la carpeta de al lado.</translation>
     </message>
     <message>
         <source>One file for the telephone, the season of %1 files as they were last saved. Films lie in the folder beside it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un archivo para el teléfono, la temporada de %1 archivos tal como se guardaron por última vez. Los vídeos están en la carpeta de al lado.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PhonePages</name>
     <message>
         <source>No clip of %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún clip de %1: %2</translation>
     </message>
     <message>
         <source>Save the page of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la página de %1</translation>
     </message>
     <message>
         <source>Pages (*.html *.htm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas (*.html *.htm)</translation>
     </message>
     <message>
         <source>The page cannot be written over a race that it is made from.</source>
@@ -14066,11 +14071,11 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Making the page…</source>
-        <translation type="unfinished"></translation>
+        <translation>Creando la página…</translation>
     </message>
     <message>
         <source>Page for an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Página para un deportista</translation>
     </message>
     <message>
         <source>%1 is written.</source>
@@ -14082,22 +14087,22 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Show in &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar en la &amp;carpeta</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PivotDialog</name>
     <message>
         <source>Pivot</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla dinámica</translation>
     </message>
     <message>
         <source>one column for all</source>
-        <translation type="unfinished"></translation>
+        <translation>una columna para todo</translation>
     </message>
     <message>
         <source>How many</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuántos</translation>
     </message>
     <message>
         <source>Sum</source>
@@ -14105,7 +14110,7 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Media</translation>
     </message>
     <message>
         <source>Median</source>
@@ -14121,30 +14126,30 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>Make</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear</translation>
     </message>
     <message>
         <source>A &amp;row for each</source>
-        <translation type="unfinished"></translation>
+        <translation>Una &amp;fila por cada</translation>
     </message>
     <message>
         <source>A &amp;column for each</source>
-        <translation type="unfinished"></translation>
+        <translation>Una &amp;columna por cada</translation>
     </message>
     <message>
         <source>&amp;Of</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;e</translation>
     </message>
     <message>
         <source>&amp;Tell</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PlaceGrid</name>
     <message>
         <source>Places at the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Puestos en las puertas</translation>
     </message>
     <message>
         <source>Gate %1</source>
@@ -14152,74 +14157,74 @@ Penalties are left out.</source>
     </message>
     <message>
         <source>, which is not on the cross course</source>
-        <translation type="unfinished"></translation>
+        <translation>, que no está en el recorrido de cross</translation>
     </message>
     <message>
         <source>, replaced by a later order</source>
-        <translation type="unfinished"></translation>
+        <translation>, sustituido por un orden posterior</translation>
     </message>
     <message>
         <source>No order yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay ningún orden.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PlanView</name>
     <message>
         <source>The week&apos;s date is in no calendar, so that it has no days.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fecha de la semana no está en ningún calendario, así que no tiene días.</translation>
     </message>
     <message>
         <source>new session</source>
-        <translation type="unfinished"></translation>
+        <translation>sesión nueva</translation>
     </message>
     <message>
         <source>session</source>
-        <translation type="unfinished"></translation>
+        <translation>sesión</translation>
     </message>
     <message>
         <source>removal of a session</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de una sesión</translation>
     </message>
     <message>
         <source>copied session</source>
-        <translation type="unfinished"></translation>
+        <translation>sesión copiada</translation>
     </message>
     <message>
         <source>move of a session</source>
-        <translation type="unfinished"></translation>
+        <translation>traslado de una sesión</translation>
     </message>
     <message>
         <source>There is no week there in this season.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahí no hay ninguna semana en esta temporada.</translation>
     </message>
     <message>
         <source>Week %1 is copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>La semana %1 está copiada.</translation>
     </message>
     <message>
         <source>One of the two weeks has a date that is in no calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una de las dos semanas tiene una fecha que no está en ningún calendario.</translation>
     </message>
     <message>
         <source>copy of a week</source>
-        <translation type="unfinished"></translation>
+        <translation>copia de una semana</translation>
     </message>
     <message>
         <source>Week %1 now holds the copied week; %2 sessions that stood there went. Ctrl+Z brings them back.</source>
-        <translation type="unfinished"></translation>
+        <translation>La semana %1 contiene ahora la semana copiada; se fueron %2 sesiones que había ahí. Ctrl+Z las recupera.</translation>
     </message>
     <message>
         <source>repeated weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>semanas repetidas</translation>
     </message>
     <message>
         <source>%1 weeks were written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se escribieron %1 semanas.</translation>
     </message>
     <message>
         <source>There is no week behind the chosen ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna semana detrás de las elegidas.</translation>
     </message>
     <message>
         <source>Repeat</source>
@@ -14228,63 +14233,64 @@ Penalties are left out.</source>
     <message>
         <source>How often do the %1 chosen weeks follow themselves?
 Sessions, totals, load, cycles, place, tests and goals of the weeks behind are replaced; their events and health stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Cuántas veces se repiten las %1 semanas elegidas?
+Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de las semanas siguientes; sus eventos y su salud se mantienen.</translation>
     </message>
     <message>
         <source>emptied weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>semanas vaciadas</translation>
     </message>
     <message>
         <source>planned totals</source>
-        <translation type="unfinished"></translation>
+        <translation>totales planificados</translation>
     </message>
     <message>
         <source>new week</source>
-        <translation type="unfinished"></translation>
+        <translation>semana nueva</translation>
     </message>
     <message>
         <source>removal of the last week</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de la última semana</translation>
     </message>
     <message>
         <source>Totals of the week</source>
-        <translation type="unfinished"></translation>
+        <translation>Totales de la semana</translation>
     </message>
     <message>
         <source>Totals of the chosen weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>Totales de las semanas elegidas</translation>
     </message>
     <message>
         <source>Totals of the mesocycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Totales del mesociclo</translation>
     </message>
     <message>
         <source>Totals of the season</source>
-        <translation type="unfinished"></translation>
+        <translation>Totales de la temporada</translation>
     </message>
     <message>
         <source>planned sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>sesiones planificadas</translation>
     </message>
     <message>
         <source>planned quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>cantidad planificada</translation>
     </message>
     <message>
         <source>Add an athlete with Ctrl+N to begin a plan.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade un deportista con Ctrl+N para empezar un plan.</translation>
     </message>
     <message>
         <source>Add a season with Ctrl+Shift+N: 52 empty weeks to fill.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade una temporada con Ctrl+Mayús+N: 52 semanas vacías para rellenar.</translation>
     </message>
     <message>
         <source>This season has no weeks. Add one with the menu Week.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta temporada no tiene semanas. Añade una con el menú Semana.</translation>
     </message>
     <message>
         <source>This season has no week of today.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta temporada no tiene la semana de hoy.</translation>
     </message>
 </context>
 <context>
@@ -14295,19 +14301,19 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Picture…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Foto…</translation>
     </message>
     <message>
         <source>&amp;No picture</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sin foto</translation>
     </message>
     <message>
         <source>Picture of the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Foto del deportista</translation>
     </message>
     <message>
         <source>Pictures (*.png *.jpg *.jpeg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes (*.png *.jpg *.jpeg)</translation>
     </message>
     <message>
         <source>&amp;Name</source>
@@ -14315,44 +14321,44 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Categorías</translation>
     </message>
     <message>
         <source>&amp;E-mail</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Correo</translation>
     </message>
     <message>
         <source>P&amp;hone</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Teléfono</translation>
     </message>
     <message>
         <source>The file is no picture, cannot be read, or is larger than 8 MB.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo no es una imagen, no se puede leer o supera los 8 MB.</translation>
     </message>
     <message>
         <source>The athlete needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>El deportista necesita un nombre.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PlanningDocument</name>
     <message>
         <source>online planning</source>
-        <translation type="unfinished"></translation>
+        <translation>planificación en línea</translation>
     </message>
     <message>
         <source>The planning “%1” will be replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>La planificación «%1» se va a sustituir.</translation>
     </message>
     <message>
         <source>1 athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>1 deportista</translation>
     </message>
     <message numerus="yes">
         <source>%n athletes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n deportista</numerusform>
+            <numerusform>%n deportistas</numerusform>
         </translation>
     </message>
 </context>
@@ -14368,11 +14374,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Edit the athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Editar el deportista…</translation>
     </message>
     <message>
         <source>&amp;Remove the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar el deportista</translation>
     </message>
     <message>
         <source>New &amp;season</source>
@@ -14380,87 +14386,87 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Remove the s&amp;eason</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar la t&amp;emporada</translation>
     </message>
     <message>
         <source>&amp;Session</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sesión</translation>
     </message>
     <message>
         <source>Sessions are in the plan: show &amp;it</source>
-        <translation type="unfinished"></translation>
+        <translation>Las sesiones están en el plan: m&amp;ostrarlo</translation>
     </message>
     <message>
         <source>&amp;New session…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nueva sesión…</translation>
     </message>
     <message>
         <source>&amp;Edit the session…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Editar la sesión…</translation>
     </message>
     <message>
         <source>&amp;Remove the session</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar la sesión</translation>
     </message>
     <message>
         <source>&amp;Copy the session</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar la sesión</translation>
     </message>
     <message>
         <source>&amp;Paste the session</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pegar la sesión</translation>
     </message>
     <message>
         <source>Move to the week &amp;before</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasar a la semana &amp;anterior</translation>
     </message>
     <message>
         <source>Move to the week be&amp;hind</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasar a la semana &amp;siguiente</translation>
     </message>
     <message>
         <source>&amp;Week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Semana</translation>
     </message>
     <message>
         <source>&amp;Previous week</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana &amp;anterior</translation>
     </message>
     <message>
         <source>&amp;Next week</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana &amp;siguiente</translation>
     </message>
     <message>
         <source>&amp;This week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Esta semana</translation>
     </message>
     <message>
         <source>&amp;Copy the week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar la semana</translation>
     </message>
     <message>
         <source>Paste the &amp;week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pegar la semana</translation>
     </message>
     <message>
         <source>&amp;Repeat the chosen weeks…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Repetir las semanas elegidas…</translation>
     </message>
     <message>
         <source>&amp;Empty the chosen weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vaciar las semanas elegidas</translation>
     </message>
     <message>
         <source>P&amp;lan what is in the sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;lanificar lo que hay en las sesiones</translation>
     </message>
     <message>
         <source>&amp;Add a week at the end</source>
-        <translation type="unfinished"></translation>
+        <translation>Aña&amp;dir una semana al final</translation>
     </message>
     <message>
         <source>Re&amp;move the last week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar la última semana</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -14472,23 +14478,23 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Informes: vista previa, PDF, impresión…</translation>
     </message>
     <message>
         <source>Week as a &amp;calendar file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana como archivo de &amp;calendario…</translation>
     </message>
     <message>
         <source>Import heart-rate &amp;variability…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar &amp;variabilidad de la frecuencia cardiaca…</translation>
     </message>
     <message>
         <source>Open an o&amp;nline planning…</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una planificación en &amp;línea…</translation>
     </message>
     <message>
         <source>Sa&amp;ve online…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar en línea…</translation>
     </message>
     <message>
         <source>Athletes</source>
@@ -14500,35 +14506,35 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Plan</source>
-        <translation type="unfinished"></translation>
+        <translation>Plan</translation>
     </message>
     <message>
         <source>Goals</source>
-        <translation type="unfinished"></translation>
+        <translation>Objetivos</translation>
     </message>
     <message>
         <source>Body and heart</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuerpo y corazón</translation>
     </message>
     <message>
         <source>Gym</source>
-        <translation type="unfinished"></translation>
+        <translation>Gimnasio</translation>
     </message>
     <message>
         <source>Ranking and races</source>
-        <translation type="unfinished"></translation>
+        <translation>Ranking y carreras</translation>
     </message>
     <message>
         <source>Interval sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesiones de intervalos</translation>
     </message>
     <message>
         <source>%1 measurements of heart-rate variability of this older file hold only a highest and a lowest value, for which the present version has no place: their dates are taken over, their values are not. Saving keeps the file as it was beside the new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mediciones de variabilidad de la frecuencia cardiaca de este archivo antiguo solo contienen un valor máximo y uno mínimo, para los que la versión actual no tiene lugar: se incorporan sus fechas, pero no sus valores. Al guardar se conserva el archivo tal como era junto al nuevo.</translation>
     </message>
     <message>
         <source>new athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>deportista nuevo</translation>
     </message>
     <message>
         <source>athlete</source>
@@ -14536,11 +14542,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>removal of an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de un deportista</translation>
     </message>
     <message>
         <source>Add an athlete first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade antes un deportista.</translation>
     </message>
     <message>
         <source>new season</source>
@@ -14634,50 +14640,50 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::PlotInteraction</name>
     <message>
         <source>Show everything</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar todo</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Ampliar</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Reducir</translation>
     </message>
     <message>
         <source>Show all series</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar todas las series</translation>
     </message>
     <message>
         <source>Copy the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar la imagen</translation>
     </message>
     <message>
         <source>Copy the values</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar los valores</translation>
     </message>
     <message>
         <source>Save as picture (PNG)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como imagen (PNG)…</translation>
     </message>
     <message>
         <source>Save as drawing (SVG)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como dibujo (SVG)…</translation>
     </message>
     <message>
         <source>Save as table (CSV)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como tabla (CSV)…</translation>
     </message>
     <message>
         <source>The chart was not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>El gráfico no se ha guardado</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::PotentialPanel</name>
     <message>
         <source>The best of every own section put together, without penalties. What is left is how far the best run is from it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo mejor de cada tramo propio, reunido, sin penalizaciones. Lo que queda es la distancia que le falta a la mejor manga.</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -14685,7 +14691,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Potential</source>
-        <translation type="unfinished"></translation>
+        <translation>Potencial</translation>
     </message>
     <message>
         <source>Best run</source>
@@ -14704,7 +14710,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Why it is refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Por qué se rechaza</translation>
     </message>
     <message>
         <source>Import power-meter data</source>
@@ -14712,15 +14718,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Samples: %1. Lines refused: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestras: %1. Líneas rechazadas: %2.</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"></translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>It &amp;begins after the session&apos;s start by</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Empieza después del inicio de la sesión en</translation>
     </message>
     <message>
         <source>Import</source>
@@ -14728,42 +14734,42 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>%1 of them lie in the session, which lasts %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de ellas están en la sesión, que dura %2.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ProgressionPanel</name>
     <message>
         <source>Behind the winners</source>
-        <translation type="unfinished"></translation>
+        <translation>Respecto a los ganadores</translation>
     </message>
     <message>
         <source>Behind the fastest splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Respecto a los parciales más rápidos</translation>
     </message>
     <message>
         <source>Behind whom</source>
-        <translation type="unfinished"></translation>
+        <translation>Respecto a quién</translation>
     </message>
     <message>
         <source>The winners&apos; totals have penalties in them, the fastest splits have not</source>
-        <translation type="unfinished"></translation>
+        <translation>Los totales de los ganadores incluyen penalizaciones; los parciales más rápidos, no</translation>
     </message>
     <message>
         <source>The team has no race of this athlete in these years.</source>
-        <translation type="unfinished"></translation>
+        <translation>El equipo no tiene ninguna carrera de este deportista en estos años.</translation>
     </message>
     <message>
         <source>Open the &amp;winner&apos;s run</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir la manga del &amp;ganador</translation>
     </message>
     <message>
         <source>In split taking, where a split file has the run</source>
-        <translation type="unfinished"></translation>
+        <translation>En la toma de parciales, si un archivo de parciales tiene la manga</translation>
     </message>
     <message>
         <source>With a missed gate: left out of spread, trend and changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Con un salto: no entra en variación, tendencia ni cambios</translation>
     </message>
     <message>
         <source>Year</source>
@@ -14795,11 +14801,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Winner&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>Del ganador</translation>
     </message>
     <message>
         <source>Winner</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganador</translation>
     </message>
     <message>
         <source>not known</source>
@@ -14811,7 +14817,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>On splits, %</source>
-        <translation type="unfinished"></translation>
+        <translation>En parciales, %</translation>
     </message>
     <message>
         <source>Result</source>
@@ -14819,7 +14825,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>The way of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La evolución de %1</translation>
     </message>
     <message>
         <source>Behind the winner, %</source>
@@ -14827,7 +14833,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Behind the fastest splits, %</source>
-        <translation type="unfinished"></translation>
+        <translation>Respecto a los parciales más rápidos, %</translation>
     </message>
     <message>
         <source>Heats</source>
@@ -14839,11 +14845,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Semifinal</source>
-        <translation type="unfinished"></translation>
+        <translation>Semifinal</translation>
     </message>
     <message>
         <source>Other runs</source>
-        <translation type="unfinished"></translation>
+        <translation>Otras mangas</translation>
     </message>
     <message>
         <source>Percent</source>
@@ -14851,21 +14857,21 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Missed gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Salto de puerta</translation>
     </message>
     <message>
         <source>3rd of finals, median</source>
-        <translation type="unfinished"></translation>
+        <translation>3.º de las finales, mediana</translation>
     </message>
     <message>
         <source>A run with a missed gate stands in the table alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una manga con salto está solo en la tabla.</translation>
     </message>
     <message numerus="yes">
         <source>%n runs with a missed gate stand in the table alone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manga con salto está solo en la tabla.</numerusform>
+            <numerusform>%n mangas con salto están solo en la tabla.</numerusform>
         </translation>
     </message>
 </context>
@@ -14873,85 +14879,85 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::QueryEdit</name>
     <message>
         <source>Query</source>
-        <translation type="unfinished"></translation>
+        <translation>Consulta</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::QueryFault</name>
     <message>
         <source>%1 (at letter %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (en la letra %2)</translation>
     </message>
     <message>
         <source>Writes “%1” there</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe ahí «%1»</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::QueryForm</name>
     <message>
         <source>Fi&amp;nd</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;uscar</translation>
     </message>
     <message>
         <source>Words that its words begin with; a whole name in quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>Palabras con las que empiezan las suyas; un nombre entero entre comillas</translation>
     </message>
     <message>
         <source>Seconds, or 1:32.45; %1 in front leaves out the limit itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos, o 1:32.45; con %1 delante se excluye el propio límite</translation>
     </message>
     <message>
         <source>At l&amp;east</source>
-        <translation type="unfinished"></translation>
+        <translation>Como míni&amp;mo</translation>
     </message>
     <message>
         <source>no limit</source>
-        <translation type="unfinished"></translation>
+        <translation>sin límite</translation>
     </message>
     <message>
         <source>At &amp;most</source>
-        <translation type="unfinished"></translation>
+        <translation>Como má&amp;ximo</translation>
     </message>
     <message>
         <source>G&amp;roups by</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;grupar por</translation>
     </message>
     <message>
         <source>Up to three columns with commas between them</source>
-        <translation type="unfinished"></translation>
+        <translation>Hasta tres columnas separadas por comas</translation>
     </message>
     <message>
         <source>no groups</source>
-        <translation type="unfinished"></translation>
+        <translation>sin grupos</translation>
     </message>
     <message>
         <source>&amp;Best</source>
-        <translation type="unfinished"></translation>
+        <translation>Me&amp;jores</translation>
     </message>
     <message>
         <source>all</source>
-        <translation type="unfinished"></translation>
+        <translation>todas</translation>
     </message>
     <message>
         <source>S&amp;ort by</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordenar por</translation>
     </message>
     <message>
         <source>as found</source>
-        <translation type="unfinished"></translation>
+        <translation>según aparecen</translation>
     </message>
     <message>
         <source>From the largest do&amp;wn</source>
-        <translation type="unfinished"></translation>
+        <translation>De mayor a me&amp;nor</translation>
     </message>
     <message>
         <source>Only the f&amp;irst</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Solo las primeras</translation>
     </message>
     <message>
         <source>Near it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Parecidos: %1</translation>
     </message>
 </context>
 <context>
@@ -15330,23 +15336,23 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RadioBox</name>
     <message>
         <source>Team radio</source>
-        <translation type="unfinished"></translation>
+        <translation>Radio del equipo</translation>
     </message>
     <message>
         <source>Records what you say about the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Graba lo que dices sobre la manga</translation>
     </message>
     <message>
         <source>Plays the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproduce la grabación</translation>
     </message>
     <message>
         <source>Attach…</source>
-        <translation type="unfinished"></translation>
+        <translation>Adjuntar…</translation>
     </message>
     <message>
         <source>Takes a sound file into the split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Incorpora un archivo de sonido al archivo de parciales</translation>
     </message>
     <message>
         <source>Save as…</source>
@@ -15354,15 +15360,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Writes the recording into a file of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe la grabación en un archivo propio</translation>
     </message>
     <message>
         <source>Earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes</translation>
     </message>
     <message>
         <source>Moves the recording up</source>
-        <translation type="unfinished"></translation>
+        <translation>Sube la grabación</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -15370,19 +15376,19 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Takes the recording out of the split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Saca la grabación del archivo de parciales</translation>
     </message>
     <message>
         <source>%1 · %2, %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2, %3</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener</translation>
     </message>
     <message>
         <source>Record</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabar</translation>
     </message>
     <message>
         <source>Play</source>
@@ -15390,35 +15396,35 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Recording, %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabando, %1 s</translation>
     </message>
     <message>
         <source>Record what you say to the athlete, or attach a voice message.</source>
-        <translation type="unfinished"></translation>
+        <translation>Graba lo que le dices al deportista, o adjunta un mensaje de voz.</translation>
     </message>
     <message>
         <source>This computer has no microphone that can be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este ordenador no tiene ningún micrófono que se pueda usar.</translation>
     </message>
     <message>
         <source>The microphone gave no sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>El micrófono no dio sonido.</translation>
     </message>
     <message>
         <source>Attach a recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Adjuntar una grabación</translation>
     </message>
     <message>
         <source>Sounds (*.m4a *.mp3 *.wav *.aiff *.aif *.caf *.ogg *.opus *.flac *.aac *.amr);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonidos (*.m4a *.mp3 *.wav *.aiff *.aif *.caf *.ogg *.opus *.flac *.aac *.amr);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>%1 has %2: recordings up to %3 can be kept in a split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tiene %2: en un archivo de parciales caben grabaciones de hasta %3.</translation>
     </message>
     <message>
         <source>%1 cannot be played: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se puede reproducir: %2</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
@@ -15426,53 +15432,53 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Recording %1 cannot be played: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>La grabación %1 no se puede reproducir: %2</translation>
     </message>
     <message>
         <source>recording %1</source>
-        <translation type="unfinished"></translation>
+        <translation>grabación %1</translation>
     </message>
     <message>
         <source>Save the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la grabación</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RangeLine</name>
     <message>
         <source>Click to go there. Drag the ends of the coloured part to choose what the film shows; near a split they take it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic va ahí. Arrastra los extremos de la parte coloreada para elegir lo que muestra el vídeo; cerca de un parcial lo toman.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RankingModel</name>
     <message>
         <source>%1 (was %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (era %2)</translation>
     </message>
     <message>
         <source>was %1, now %2</source>
-        <translation type="unfinished"></translation>
+        <translation>era %1, ahora %2</translation>
     </message>
     <message>
         <source>A time of 0 counts as the formula says and puts the athlete far in front. Edit &gt; Make times of 0 missing results.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un tiempo de 0 cuenta como dice la fórmula y coloca al deportista muy por delante. Editar &gt; Convertir los tiempos de 0 en resultados ausentes.</translation>
     </message>
     <message>
         <source>Dropped: the worst result</source>
-        <translation type="unfinished"></translation>
+        <translation>Descartado: el peor resultado</translation>
     </message>
     <message>
         <source>Dropped too: a bonus stands among the results</source>
-        <translation type="unfinished"></translation>
+        <translation>Descartado también: entre los resultados hay una bonificación</translation>
     </message>
     <message>
         <source>Counted</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta</translation>
     </message>
     <message>
         <source>#</source>
-        <translation type="unfinished"></translation>
+        <translation>#</translation>
     </message>
     <message>
         <source>SURNAME Name</source>
@@ -15496,7 +15502,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Pre</source>
-        <translation type="unfinished"></translation>
+        <translation>Pre</translation>
     </message>
     <message>
         <source>correction</source>
@@ -15512,7 +15518,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Tried only. Really: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo de prueba. En realidad: %1</translation>
     </message>
     <message>
         <source>no result</source>
@@ -15520,7 +15526,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Enter the time first: the penalty belongs to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduce antes el tiempo: la penalización va con él.</translation>
     </message>
     <message>
         <source>penalty</source>
@@ -15528,7 +15534,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>result removed</source>
-        <translation type="unfinished"></translation>
+        <translation>resultado quitado</translation>
     </message>
     <message>
         <source>result</source>
@@ -15539,15 +15545,15 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     <name>kavela::desktop::RankingPanel</name>
     <message>
         <source>entry of the ranking list</source>
-        <translation type="unfinished"></translation>
+        <translation>entrada del ranking</translation>
     </message>
     <message>
         <source>removal from the ranking list</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación del ranking</translation>
     </message>
     <message>
         <source>Take the season&apos;s statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomar la estadística de la temporada</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -15555,34 +15561,34 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>There is no split file in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No contiene ningún archivo de parciales.</translation>
     </message>
     <message>
         <source>Reading split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo archivos de parciales…</translation>
     </message>
     <message>
         <source>season statistics from split files</source>
-        <translation type="unfinished"></translation>
+        <translation>estadística de la temporada de archivos de parciales</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RankingSection</name>
     <message>
         <source>Add a release</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una edición</translation>
     </message>
     <message>
         <source>Remove the release</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar la edición</translation>
     </message>
     <message>
         <source>Ranking list</source>
-        <translation type="unfinished"></translation>
+        <translation>Ranking</translation>
     </message>
     <message>
         <source>Add release</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir edición</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -15609,7 +15615,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Runs that came past</source>
-        <translation type="unfinished"></translation>
+        <translation>Mangas que pasaron por ahí</translation>
     </message>
     <message>
         <source>Touches</source>
@@ -15617,11 +15623,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Rate %</source>
-        <translation type="unfinished"></translation>
+        <translation>Frec. %</translation>
     </message>
     <message>
         <source>Touches of 100 passages</source>
-        <translation type="unfinished"></translation>
+        <translation>Toques por cada 100 pasos</translation>
     </message>
     <message>
         <source>90 %</source>
@@ -15629,31 +15635,31 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Where the rate lies with 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde está la frecuencia con un 90 %</translation>
     </message>
     <message>
         <source>Ranked %</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden %</translation>
     </message>
     <message>
         <source>Drawn towards what all have in common, the more the fewer the passages</source>
-        <translation type="unfinished"></translation>
+        <translation>Acercada a lo que todas tienen en común, tanto más cuantos menos pasos</translation>
     </message>
     <message>
         <source>Ranked 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden 90 %</translation>
     </message>
     <message>
         <source>Where the ranked rate lies</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde está la frecuencia ordenada</translation>
     </message>
     <message>
         <source>Above %</source>
-        <translation type="unfinished"></translation>
+        <translation>Encima %</translation>
     </message>
     <message>
         <source>The chance to be above what all have in common; from 95 the row is bold</source>
-        <translation type="unfinished"></translation>
+        <translation>La probabilidad de estar por encima de lo que todas tienen en común; desde 95 la fila va en negrita</translation>
     </message>
     <message>
         <source>Missed</source>
@@ -15665,11 +15671,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Missed %</source>
-        <translation type="unfinished"></translation>
+        <translation>Saltos %</translation>
     </message>
     <message>
         <source>Missed 90 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Saltos 90 %</translation>
     </message>
     <message>
         <source>&amp;Rates</source>
@@ -15677,7 +15683,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>No run that is asked for has its penalties by gate.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna de las mangas pedidas tiene sus penalizaciones por puerta.</translation>
     </message>
 </context>
 <context>
@@ -15688,57 +15694,57 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>%1 of %2 files</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 archivos</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RecordedSoundPlayer</name>
     <message>
         <source>This computer has no loudspeaker.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este ordenador no tiene altavoz.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RecordingDialog</name>
     <message>
         <source>The film begins %1 after the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>El vídeo empieza %1 después de la grabación.</translation>
     </message>
     <message>
         <source>The film begins %1 before the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>El vídeo empieza %1 antes de la grabación.</translation>
     </message>
     <message>
         <source>Its clock gains %1 s in 100 s, which is taken out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su reloj adelanta %1 s cada 100 s; se compensa.</translation>
     </message>
     <message>
         <source>The recording is of another athlete and another day.</source>
-        <translation type="unfinished"></translation>
+        <translation>La grabación es de otro deportista y de otro día.</translation>
     </message>
     <message>
         <source>The recording is of another athlete.</source>
-        <translation type="unfinished"></translation>
+        <translation>La grabación es de otro deportista.</translation>
     </message>
     <message>
         <source>The recording is of another day.</source>
-        <translation type="unfinished"></translation>
+        <translation>La grabación es de otro día.</translation>
     </message>
     <message>
         <source>Recording of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabación de una manga</translation>
     </message>
     <message>
         <source>Choose a &amp;recording…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir una &amp;grabación…</translation>
     </message>
     <message>
         <source>&amp;Attach the part of this run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Adjuntar la parte de esta manga</translation>
     </message>
     <message>
         <source>Take o&amp;ff what is attached</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar lo adjunto</translation>
     </message>
     <message>
         <source>Close</source>
@@ -15746,11 +15752,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Common moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Momento común</translation>
     </message>
     <message>
         <source>A later one, against drift</source>
-        <translation type="unfinished"></translation>
+        <translation>Uno posterior, contra la deriva</translation>
     </message>
     <message>
         <source>From the film</source>
@@ -15770,11 +15776,11 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>recording %1</source>
-        <translation type="unfinished"></translation>
+        <translation>grabación %1</translation>
     </message>
     <message>
         <source>Reading %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo %1…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -15963,7 +15969,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>P&amp;hone</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Teléfono</translation>
     </message>
     <message>
         <source>Which side of the phone points to the bow; used where the position does not tell</source>
@@ -16374,7 +16380,7 @@ Sessions, totals, load, cycles, place, tests and goals of the weeks behind are r
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquimotaje</translation>
     </message>
     <message>
         <source>Style</source>
@@ -17118,15 +17124,15 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Behind whom</source>
-        <translation type="unfinished"></translation>
+        <translation>Respecto a quién</translation>
     </message>
     <message>
         <source>Behind the winners</source>
-        <translation type="unfinished"></translation>
+        <translation>Respecto a los ganadores</translation>
     </message>
     <message>
         <source>Behind the fastest splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Respecto a los parciales más rápidos</translation>
     </message>
     <message>
         <source>Head to head</source>
@@ -17663,7 +17669,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;Take over</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Incorporar</translation>
     </message>
     <message>
         <source>Athletes who get a result: %1, of them new in the selection: %2. Without a result then: %3. Runs and lines that stay out: %4. A click on an athlete chooses another one, or adds the name to the selection.</source>
@@ -17682,7 +17688,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Informes: vista previa, PDF, impresión…</translation>
     </message>
     <message>
         <source>Make times of 0 &amp;missing results</source>
@@ -17738,11 +17744,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;Edit the athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Editar el deportista…</translation>
     </message>
     <message>
         <source>&amp;Remove the athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar el deportista</translation>
     </message>
     <message>
         <source>&amp;Import athletes…</source>
@@ -17898,7 +17904,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquimotaje</translation>
     </message>
     <message>
         <source>Pitch</source>
@@ -17921,7 +17927,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Tí&amp;tulo</translation>
     </message>
     <message>
         <source>When</source>
@@ -17933,7 +17939,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Desc&amp;ripción</translation>
     </message>
     <message>
         <source>On the water</source>
@@ -17945,7 +17951,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>Otros</translation>
     </message>
     <message>
         <source>not in this week</source>
@@ -19128,7 +19134,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomado</translation>
     </message>
     <message>
         <source>Way</source>
@@ -19555,7 +19561,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Reading %1…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo %1…</translation>
     </message>
     <message>
         <source>“%1” cannot be opened as a table</source>
@@ -20439,13 +20445,13 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>1 athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>1 deportista</translation>
     </message>
     <message numerus="yes">
         <source>%n athletes</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n deportista</numerusform>
+            <numerusform>%n deportistas</numerusform>
         </translation>
     </message>
 </context>
@@ -20485,11 +20491,11 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>new athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>deportista nuevo</translation>
     </message>
     <message>
         <source>removal of an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de un deportista</translation>
     </message>
     <message>
         <source>new category</source>
@@ -20592,7 +20598,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>All kinds</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los tipos</translation>
     </message>
     <message>
         <source>Sprint data</source>
@@ -21329,7 +21335,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo…</translation>
     </message>
     <message>
         <source>Chooses the film of the selected trial</source>
@@ -21356,7 +21362,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquimotaje</translation>
     </message>
     <message>
         <source>Gate %1</source>
@@ -21748,7 +21754,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Goals</source>
-        <translation type="unfinished"></translation>
+        <translation>Objetivos</translation>
     </message>
     <message>
         <source>Week %1 · from %2</source>
