@@ -15760,19 +15760,19 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>From the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Del vídeo</translation>
     </message>
     <message>
         <source>From the chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Del gráfico</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar</translation>
     </message>
     <message>
         <source>film %1</source>
-        <translation type="unfinished"></translation>
+        <translation>vídeo %1</translation>
     </message>
     <message>
         <source>recording %1</source>
@@ -15788,66 +15788,66 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>No recording yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay grabación</translation>
     </message>
     <message>
         <source>Choose the recording (.kvb) of the run, or drop it here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige la grabación (.kvb) de la manga o suéltala aquí.</translation>
     </message>
     <message>
         <source>The boat&apos;s acceleration stands here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí aparece la aceleración del barco.</translation>
     </message>
     <message>
         <source>Find a moment that film and recording both show, such as the first stroke or a hit on the boat: go there in the film, click it in the chart, and set both.</source>
-        <translation type="unfinished"></translation>
+        <translation>Busca un momento que muestren el vídeo y la grabación, como la primera palada o un golpe en el barco: ve a él en el vídeo, haz clic en él en el gráfico y fija los dos.</translation>
     </message>
     <message>
         <source>Forward acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceleración hacia adelante</translation>
     </message>
     <message>
         <source>Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceleración</translation>
     </message>
     <message>
         <source>Yaw rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad de guiñada</translation>
     </message>
     <message>
         <source>film –</source>
-        <translation type="unfinished"></translation>
+        <translation>vídeo –</translation>
     </message>
     <message>
         <source>recording –</source>
-        <translation type="unfinished"></translation>
+        <translation>grabación –</translation>
     </message>
     <message>
         <source>The run has to be marked first: its start and its splits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes hay que marcar la manga: su salida y sus parciales.</translation>
     </message>
     <message>
         <source>Recording: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabación: %1</translation>
     </message>
     <message>
         <source>Run: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Manga: %1</translation>
     </message>
     <message>
         <source>Nothing of the recording lies within the run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada de la grabación está dentro de la manga.</translation>
     </message>
     <message>
         <source>The part of %1 is attached.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se adjunta la parte de %1.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RecordingList</name>
     <message>
         <source>%1 a second</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 por segundo</translation>
     </message>
     <message>
         <source>position</source>
@@ -15855,31 +15855,31 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>no position</source>
-        <translation type="unfinished"></translation>
+        <translation>sin posición</translation>
     </message>
     <message>
         <source>heart</source>
-        <translation type="unfinished"></translation>
+        <translation>corazón</translation>
     </message>
     <message>
         <source>no heart</source>
-        <translation type="unfinished"></translation>
+        <translation>sin corazón</translation>
     </message>
     <message>
         <source>watch</source>
-        <translation type="unfinished"></translation>
+        <translation>reloj</translation>
     </message>
     <message>
         <source>no watch</source>
-        <translation type="unfinished"></translation>
+        <translation>sin reloj</translation>
     </message>
     <message>
         <source>looking for strokes…</source>
-        <translation type="unfinished"></translation>
+        <translation>buscando paladas…</translation>
     </message>
     <message>
         <source>%1 strokes, %2 turns</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 paladas, %2 giros</translation>
     </message>
     <message>
         <source>side unknown</source>
@@ -15898,19 +15898,19 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>recording taken off</source>
-        <translation type="unfinished"></translation>
+        <translation>grabación quitada</translation>
     </message>
     <message>
         <source>Attach it all the same</source>
-        <translation type="unfinished"></translation>
+        <translation>Adjuntarla de todos modos</translation>
     </message>
     <message>
         <source>Recording of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabación de la manga</translation>
     </message>
     <message>
         <source>Recordings (*.kvb);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabaciones (*.kvb);;Todos los archivos (*)</translation>
     </message>
 </context>
 <context>
@@ -15921,11 +15921,11 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Later b&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;trasar</translation>
     </message>
     <message>
         <source>Drag a curve with Shift, or press A, to move it in time</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrastra una curva con Mayús, o pulsa A, para desplazarla en el tiempo</translation>
     </message>
     <message>
         <source>s</source>
@@ -15933,11 +15933,11 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>&amp;Mass in motion</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Masa en movimiento</translation>
     </message>
     <message>
         <source>Athlete, boat and kit</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportista, barco y equipo</translation>
     </message>
     <message>
         <source>kg</source>
@@ -15945,27 +15945,27 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>&amp;Drag</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Resistencia</translation>
     </message>
     <message>
         <source>Resistance of the hull over the square of its speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Resistencia del casco partida por el cuadrado de su velocidad</translation>
     </message>
     <message>
         <source>N·s²/m²</source>
-        <translation type="unfinished"></translation>
+        <translation>N·s²/m²</translation>
     </message>
     <message>
         <source>&amp;Boat</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Barco</translation>
     </message>
     <message>
         <source>Kayak</source>
-        <translation type="unfinished"></translation>
+        <translation>Kayak</translation>
     </message>
     <message>
         <source>Canoe</source>
-        <translation type="unfinished"></translation>
+        <translation>Canoa</translation>
     </message>
     <message>
         <source>P&amp;hone</source>
@@ -15973,14 +15973,14 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Which side of the phone points to the bow; used where the position does not tell</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué lado del teléfono apunta a la proa; se usa cuando la posición no lo dice</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RenameFilmsDialog</name>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora</translation>
     </message>
     <message>
         <source>Then</source>
@@ -15988,31 +15988,31 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>stays</source>
-        <translation type="unfinished"></translation>
+        <translation>se queda</translation>
     </message>
     <message>
         <source>stays: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>se queda: %1</translation>
     </message>
     <message>
         <source>Rename films</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar nombres de vídeos</translation>
     </message>
     <message>
         <source>How the films are to be called: {name}, {category}, {phase}, {bib} and {number} stand for what is known of each. Split files of the folder follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cómo se van a llamar los vídeos: {name}, {category}, {phase}, {bib} y {number} representan lo que se sabe de cada uno. Los archivos de parciales de la carpeta se adaptan.</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar nombres</translation>
     </message>
     <message>
         <source>%1 of %2 films get another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 vídeos reciben otro nombre.</translation>
     </message>
     <message>
         <source>%1 lack what the pattern asks for.</source>
-        <translation type="unfinished"></translation>
+        <translation>A %1 les falta lo que pide el patrón.</translation>
     </message>
 </context>
 <context>
@@ -16023,17 +16023,17 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Leaving the program stops that, and nothing of an unfinished film is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Al salir del programa eso se detiene, y de un vídeo sin terminar no se conserva nada.</translation>
     </message>
     <message>
         <source>Stop and leave</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener y salir</translation>
     </message>
     <message numerus="yes">
         <source>%n films are still being composed.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Aún se está componiendo %n vídeo.</numerusform>
+            <numerusform>Aún se están componiendo %n vídeos.</numerusform>
         </translation>
     </message>
 </context>
@@ -16041,26 +16041,26 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     <name>kavela::desktop::ReplayBar</name>
     <message>
         <source>Place in the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar en la sesión</translation>
     </message>
     <message>
         <source>Speed of the replay ([ slower, ] faster)</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad de la repetición ([ más lenta, ] más rápida)</translation>
     </message>
     <message>
         <source>Pause (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausa (Espacio)</translation>
     </message>
     <message>
         <source>Play (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir (Espacio)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ReportPreview</name>
     <message>
         <source>Save as PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como PDF</translation>
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
@@ -16068,7 +16068,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe</translation>
     </message>
     <message>
         <source>%1 %</source>
@@ -16076,23 +16076,23 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>Más pequeño</translation>
     </message>
     <message>
         <source>Larger</source>
-        <translation type="unfinished"></translation>
+        <translation>Más grande</translation>
     </message>
     <message>
         <source>Fit width</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar al ancho</translation>
     </message>
     <message>
         <source>Print…</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir…</translation>
     </message>
     <message>
         <source>Save as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como PDF…</translation>
     </message>
     <message>
         <source>Close</source>
@@ -16100,35 +16100,35 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>No pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin páginas</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Página %1 de %2</translation>
     </message>
     <message>
         <source>Preview – Kavela</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa – Kavela</translation>
     </message>
     <message>
         <source>%1, preview – Kavela</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, vista previa – Kavela</translation>
     </message>
     <message>
         <source>Saved as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardado como %1</translation>
     </message>
     <message>
         <source>Table as shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla tal como se muestra</translation>
     </message>
     <message>
         <source>Race report</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe de la carrera</translation>
     </message>
     <message>
         <source>Run sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoja de la manga</translation>
     </message>
 </context>
 <context>
@@ -16372,7 +16372,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     <name>kavela::desktop::RollForm</name>
     <message>
         <source>Part of the roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte del esquimotaje</translation>
     </message>
     <message>
         <source>Time</source>
@@ -16388,11 +16388,11 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Going over</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelco</translation>
     </message>
     <message>
         <source>Coming up</source>
-        <translation type="unfinished"></translation>
+        <translation>Subida</translation>
     </message>
     <message>
         <source>Total</source>
@@ -16403,7 +16403,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     <name>kavela::desktop::RowModel</name>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>sí</translation>
     </message>
 </context>
 <context>
@@ -16466,39 +16466,39 @@ Elige un archivo.</translation>
     <name>kavela::desktop::RunFilms</name>
     <message>
         <source>Import videos with Ctrl+I, or drop a folder of videos here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa vídeos con Ctrl+I o suelta aquí una carpeta de vídeos.</translation>
     </message>
     <message>
         <source>%1 is not in the folder of the split file.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no está en la carpeta del archivo de parciales.</translation>
     </message>
     <message>
         <source>All films are found</source>
-        <translation type="unfinished"></translation>
+        <translation>Se han encontrado todos los vídeos</translation>
     </message>
     <message>
         <source>%1 of %2 films are there. Not found: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Están %1 de %2 vídeos. No encontrados: %3.</translation>
     </message>
     <message>
         <source>Import video</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar vídeo</translation>
     </message>
     <message>
         <source>Add another camera of this run</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir otra cámara de esta manga</translation>
     </message>
     <message>
         <source>camera added</source>
-        <translation type="unfinished"></translation>
+        <translation>cámara añadida</translation>
     </message>
     <message>
         <source>Attach the film of a fixed camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Adjuntar el vídeo de una cámara fija</translation>
     </message>
     <message>
         <source>fixed camera attached</source>
-        <translation type="unfinished"></translation>
+        <translation>cámara fija adjuntada</translation>
     </message>
 </context>
 <context>
@@ -16654,27 +16654,27 @@ Elige un archivo.</translation>
     <name>kavela::desktop::RunsToEnter</name>
     <message>
         <source>perhaps %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿quizá %1?</translation>
     </message>
     <message>
         <source>another run is better</source>
-        <translation type="unfinished"></translation>
+        <translation>otra manga es mejor</translation>
     </message>
     <message>
         <source>; xTime %1 stays</source>
-        <translation type="unfinished"></translation>
+        <translation>; el xTime %1 se mantiene</translation>
     </message>
     <message>
         <source>line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1</translation>
     </message>
     <message>
         <source>(no run)</source>
-        <translation type="unfinished"></translation>
+        <translation>(ninguna manga)</translation>
     </message>
     <message>
         <source>has no result in this race</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene resultado en esta carrera</translation>
     </message>
     <message>
         <source>no result</source>
@@ -16682,18 +16682,18 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>(line %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(línea %1)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RunsToEnter::Outcome</name>
     <message>
         <source>place %1</source>
-        <translation type="unfinished"></translation>
+        <translation>puesto %1</translation>
     </message>
     <message>
         <source>place %1, was %2</source>
-        <translation type="unfinished"></translation>
+        <translation>puesto %1, era %2</translation>
     </message>
 </context>
 <context>
@@ -16704,23 +16704,23 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Folders and files that are searched</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpetas y archivos en los que se busca</translation>
     </message>
     <message>
         <source>Add folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir carpeta…</translation>
     </message>
     <message>
         <source>The chosen folder or file is not searched any more</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya no se busca en la carpeta o el archivo elegido</translation>
     </message>
     <message>
         <source>⚠ One could not be read…</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ Uno no se pudo leer…</translation>
     </message>
     <message>
         <source>Search a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en una carpeta</translation>
     </message>
     <message>
         <source>Search files</source>
@@ -16732,9 +16732,9 @@ Elige un archivo.</translation>
     </message>
     <message numerus="yes">
         <source>⚠ %n could not be read…</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>⚠ %n no se pudo leer…</numerusform>
+            <numerusform>⚠ %n no se pudieron leer…</numerusform>
         </translation>
     </message>
 </context>
@@ -16746,15 +16746,15 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;Open a team…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir un equipo…</translation>
     </message>
     <message>
         <source>Add &amp;split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir archivos de &amp;parciales…</translation>
     </message>
     <message>
         <source>Add a &amp;folder of races…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una &amp;carpeta de carreras…</translation>
     </message>
     <message>
         <source>Read &amp;again</source>
@@ -16770,19 +16770,19 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;Reports to look at and print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Informes para ver e imprimir…</translation>
     </message>
     <message>
         <source>Report of the &amp;athlete as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe del &amp;deportista como PDF…</translation>
     </message>
     <message>
         <source>Report of the tea&amp;m as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe del &amp;equipo como PDF…</translation>
     </message>
     <message>
         <source>Save the tab&amp;le as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la &amp;tabla como CSV…</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
@@ -16794,63 +16794,63 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;Progression</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Evolución</translation>
     </message>
     <message>
         <source>P&amp;hases</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fases</translation>
     </message>
     <message>
         <source>&amp;Spread</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Variación</translation>
     </message>
     <message>
         <source>&amp;Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tendencia</translation>
     </message>
     <message>
         <source>Head to h&amp;ead</source>
-        <translation type="unfinished"></translation>
+        <translation>Cara a c&amp;ara</translation>
     </message>
     <message>
         <source>&amp;Medals and finals</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Medallas y finales</translation>
     </message>
     <message>
         <source>E&amp;xpected places</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Puestos esperados</translation>
     </message>
     <message>
         <source>&amp;What it takes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Qué hace falta</translation>
     </message>
     <message>
         <source>&amp;Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deportistas</translation>
     </message>
     <message>
         <source>The who&amp;le chart</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;l gráfico entero</translation>
     </message>
     <message>
         <source>Athl&amp;ete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deportista</translation>
     </message>
     <message>
         <source>The &amp;next athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>El deportista &amp;siguiente</translation>
     </message>
     <message>
         <source>The athlete &amp;before</source>
-        <translation type="unfinished"></translation>
+        <translation>El deportista &amp;anterior</translation>
     </message>
     <message>
         <source>&amp;Show the athlete of the row</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar el deportista de la fila</translation>
     </message>
     <message>
         <source>Expect the places of a &amp;field…</source>
-        <translation type="unfinished"></translation>
+        <translation>Puestos esperados entre unos &amp;participantes…</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
@@ -16861,7 +16861,7 @@ Elige un archivo.</translation>
     <name>kavela::desktop::SeasonHeader</name>
     <message>
         <source>Add the races…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade las carreras…</translation>
     </message>
     <message>
         <source>&amp;Category</source>
@@ -16869,7 +16869,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;Years</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Años</translation>
     </message>
     <message>
         <source>&amp;Athlete</source>
@@ -16880,31 +16880,31 @@ Elige un archivo.</translation>
     <name>kavela::desktop::SeasonModel</name>
     <message>
         <source>✓ counts</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ cuenta</translation>
     </message>
     <message>
         <source>The first two seasons count for the categorization. Move a season by dragging it, or with Alt+Up and Alt+Down.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las dos primeras temporadas cuentan para la categorización. Mueve una temporada arrastrándola, o con Alt+Arriba y Alt+Abajo.</translation>
     </message>
     <message>
         <source>Final classification of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Clasificación final de la carrera</translation>
     </message>
     <message>
         <source>Position in the ICF world ranking at the end of the season</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición en el ranking mundial de la ICF al final de la temporada</translation>
     </message>
     <message>
         <source>Points in the ICF world ranking</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos en el ranking mundial de la ICF</translation>
     </message>
     <message>
         <source>Season, race</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporada, carrera</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>Place</source>
@@ -16920,35 +16920,35 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>ICF ranking position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición ranking ICF</translation>
     </message>
     <message>
         <source>ICF ranking points</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos ranking ICF</translation>
     </message>
     <message>
         <source>There is a season %1 already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay una temporada %1.</translation>
     </message>
     <message>
         <source>year</source>
-        <translation type="unfinished"></translation>
+        <translation>año</translation>
     </message>
     <message>
         <source>final position</source>
-        <translation type="unfinished"></translation>
+        <translation>posición final</translation>
     </message>
     <message>
         <source>“%1” is none of the events.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es ninguno de los eventos.</translation>
     </message>
     <message>
         <source>event</source>
-        <translation type="unfinished"></translation>
+        <translation>evento</translation>
     </message>
     <message>
         <source>location</source>
-        <translation type="unfinished"></translation>
+        <translation>lugar</translation>
     </message>
 </context>
 <context>
@@ -16967,15 +16967,15 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>No whole run of this athlete can be held against the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna manga entera de este deportista se puede comparar con la referencia.</translation>
     </message>
     <message>
         <source>Nothing stands out: there is no clip to choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>No destaca nada: no hay ningún clip que elegir.</translation>
     </message>
     <message>
         <source>&amp;Show this run</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar esta manga</translation>
     </message>
     <message>
         <source>By</source>
@@ -16995,7 +16995,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Seconds, of all runs together</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos, de todas las mangas juntas</translation>
     </message>
     <message>
         <source>Lost, %</source>
@@ -17003,7 +17003,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Of the reference&apos;s time there</source>
-        <translation type="unfinished"></translation>
+        <translation>Del tiempo de la referencia ahí</translation>
     </message>
     <message>
         <source>90 %</source>
@@ -17011,15 +17011,15 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>A run</source>
-        <translation type="unfinished"></translation>
+        <translation>Por manga</translation>
     </message>
     <message>
         <source>Seconds lost in a run on the average</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos perdidos por término medio en una manga</translation>
     </message>
     <message>
         <source>Of the gap, %</source>
-        <translation type="unfinished"></translation>
+        <translation>De la diferencia, %</translation>
     </message>
     <message>
         <source>Verdict</source>
@@ -17027,11 +17027,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>What the interval says: losing where all of it is above 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que dice el intervalo: se pierde donde todo él está por encima de 0</translation>
     </message>
     <message>
         <source>See</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver</translation>
     </message>
     <message>
         <source>Run</source>
@@ -17039,45 +17039,45 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Open a folder of races to see an athlete&apos;s season.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre una carpeta de carreras para ver la temporada de un deportista.</translation>
     </message>
     <message>
         <source>%1: no whole run in %2 files can be held against the %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ninguna manga entera de %2 archivos se puede comparar con la referencia (%3).</translation>
     </message>
     <message>
         <source>%1 on %2: %3 in %4; gap a run %5, penalties %6</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 frente a %2: %3 en %4; diferencia por manga %5, penalizaciones %6</translation>
     </message>
     <message>
         <source>one whole run</source>
-        <translation type="unfinished"></translation>
+        <translation>una manga entera</translation>
     </message>
     <message>
         <source>one file</source>
-        <translation type="unfinished"></translation>
+        <translation>un archivo</translation>
     </message>
     <message>
         <source>Train: nothing stands out from these runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrenar: en estas mangas no destaca nada.</translation>
     </message>
     <message>
         <source>%1. %2: %3, %4 s a run</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2: %3, %4 s por manga</translation>
     </message>
     <message>
         <source>Train:</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrenar:</translation>
     </message>
     <message>
         <source>gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>puerta %1</translation>
     </message>
     <message numerus="yes">
         <source>%n whole runs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manga entera</numerusform>
+            <numerusform>%n mangas enteras</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -17092,19 +17092,19 @@ Elige un archivo.</translation>
     <name>kavela::desktop::SeasonPages</name>
     <message>
         <source>Progression</source>
-        <translation type="unfinished"></translation>
+        <translation>Evolución</translation>
     </message>
     <message>
         <source>Phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Fases</translation>
     </message>
     <message>
         <source>From which phase to which</source>
-        <translation type="unfinished"></translation>
+        <translation>De qué fase a cuál</translation>
     </message>
     <message>
         <source>Run 1 to run 2 of the heats</source>
-        <translation type="unfinished"></translation>
+        <translation>De la manga 1 a la manga 2 de la clasificatoria</translation>
     </message>
     <message>
         <source>Semifinal to final</source>
@@ -17112,11 +17112,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Heats to final, percent behind</source>
-        <translation type="unfinished"></translation>
+        <translation>De la clasificatoria a la final, porcentaje de diferencia</translation>
     </message>
     <message>
         <source>Spread</source>
-        <translation type="unfinished"></translation>
+        <translation>Variación</translation>
     </message>
     <message>
         <source>Trend</source>
@@ -17144,7 +17144,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>How far</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuánto</translation>
     </message>
     <message>
         <source>Medals</source>
@@ -17164,7 +17164,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>What it takes</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué hace falta</translation>
     </message>
     <message>
         <source>Athletes</source>
@@ -17179,15 +17179,15 @@ Elige un archivo.</translation>
     <name>kavela::desktop::SeasonReports</name>
     <message>
         <source>The team</source>
-        <translation type="unfinished"></translation>
+        <translation>El equipo</translation>
     </message>
     <message>
         <source>Save the report of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el informe de %1</translation>
     </message>
     <message>
         <source>Save the report of the team</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el informe del equipo</translation>
     </message>
     <message>
         <source>PDF documents (*.pdf)</source>
@@ -17195,7 +17195,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>The report cannot be written over a file that it is made from.</source>
-        <translation type="unfinished"></translation>
+        <translation>El informe no se puede escribir encima de un archivo del que se hace.</translation>
     </message>
 </context>
 <context>
@@ -17206,15 +17206,15 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Drop a team (.kvteam) and the folder of its races here</source>
-        <translation type="unfinished"></translation>
+        <translation>Suelta aquí un equipo (.kvteam) y la carpeta de sus carreras</translation>
     </message>
     <message>
         <source>Open a team…</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir un equipo…</translation>
     </message>
     <message>
         <source>Add a folder of races…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una carpeta de carreras…</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -17230,11 +17230,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Teams (*.kvteam);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Equipos (*.kvteam);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Add split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir archivos de parciales</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -17242,23 +17242,23 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Add a folder of races</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una carpeta de carreras</translation>
     </message>
     <message>
         <source>Whose places to expect</source>
-        <translation type="unfinished"></translation>
+        <translation>De quiénes esperar puestos</translation>
     </message>
     <message>
         <source>A name a line, as a start list has them. Nothing for the team and those who raced most often.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre por línea, como en una lista de salida. Vacío para el equipo y los que más compitieron.</translation>
     </message>
     <message>
         <source>%1 could not be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se pudo leer: %2</translation>
     </message>
     <message>
         <source>How every athlete of a team stands over the seasons: behind the winners, against rivals, and against chance. Files are only read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cómo está cada deportista de un equipo a lo largo de las temporadas: respecto a los ganadores, frente a los rivales y frente al azar. Los archivos solo se leen.</translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -17266,48 +17266,48 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Nobody of this team races in any category yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nadie de este equipo compite aún en ninguna categoría.</translation>
     </message>
     <message>
         <source>No split files: winners and rivals are the team&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin archivos de parciales: ganadores y rivales son los del propio equipo</translation>
     </message>
     <message>
         <source>Races from 1 split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Carreras de 1 archivo de parciales</translation>
     </message>
     <message>
         <source>1 run compared</source>
-        <translation type="unfinished"></translation>
+        <translation>1 manga comparada</translation>
     </message>
     <message>
         <source>several athletes are called %1: their runs cannot be told apart</source>
-        <translation type="unfinished"></translation>
+        <translation>varios deportistas se llaman %1: sus mangas no se pueden distinguir</translation>
     </message>
     <message>
         <source>nobody in these races is called %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nadie en estas carreras se llama %1</translation>
     </message>
     <message>
         <source>too few runs to expect a place of %1 of the field</source>
-        <translation type="unfinished"></translation>
+        <translation>muy pocas mangas para esperar un puesto de %1 de los participantes</translation>
     </message>
     <message>
         <source>the team could not be read again: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>el equipo no se pudo volver a leer: %1</translation>
     </message>
     <message numerus="yes">
         <source>Races from %n split files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Carreras de %n archivo de parciales</numerusform>
+            <numerusform>Carreras de %n archivos de parciales</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n runs compared</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n manga comparada</numerusform>
+            <numerusform>%n mangas comparadas</numerusform>
         </translation>
     </message>
 </context>
@@ -17442,31 +17442,31 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Turn %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Giro %1</translation>
     </message>
     <message>
         <source>Stretch %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Trecho %1</translation>
     </message>
     <message>
         <source>Lap %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelta %1</translation>
     </message>
     <message>
         <source>La&amp;ps</source>
-        <translation type="unfinished"></translation>
+        <translation>V&amp;ueltas</translation>
     </message>
     <message>
         <source>number of laps</source>
-        <translation type="unfinished"></translation>
+        <translation>número de vueltas</translation>
     </message>
     <message>
         <source>Distance between the &amp;gates</source>
-        <translation type="unfinished"></translation>
+        <translation>Distancia entre las &amp;puertas</translation>
     </message>
     <message>
         <source>distance</source>
-        <translation type="unfinished"></translation>
+        <translation>distancia</translation>
     </message>
     <message>
         <source>m</source>
@@ -17474,11 +17474,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Turn li&amp;mit</source>
-        <translation type="unfinished"></translation>
+        <translation>Lí&amp;mite de giro</translation>
     </message>
     <message>
         <source>A faster rotation of the boat is a turn, a slower one straight paddling</source>
-        <translation type="unfinished"></translation>
+        <translation>Una rotación más rápida del barco es un giro; una más lenta, paleo en línea recta</translation>
     </message>
     <message>
         <source>rad/s</source>
@@ -17486,7 +17486,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Told by the strokes that were recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Según las paladas grabadas</translation>
     </message>
     <message>
         <source>Time
@@ -17497,55 +17497,64 @@ Elige un archivo.</translation>
     <message>
         <source>Straight
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Recta
+(s)</translation>
     </message>
     <message>
         <source>Rotation
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación
+(s)</translation>
     </message>
     <message>
         <source>Speed
 (m/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad
+(m/s)</translation>
     </message>
     <message>
         <source>Follows from distance and time until it is typed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sale de la distancia y el tiempo mientras no se escriba</translation>
     </message>
     <message>
         <source>Stroke rate
 (1/min)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frec. de palada
+(1/min)</translation>
     </message>
     <message>
         <source>Efficiency
 (m/stroke)</source>
-        <translation type="unfinished"></translation>
+        <translation>Eficiencia
+(m/palada)</translation>
     </message>
     <message>
         <source>Follows from speed and stroke rate until typed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sale de la velocidad y la frecuencia de palada mientras no se escriba</translation>
     </message>
     <message>
         <source>Left
 (rad/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Izquierda
+(rad/s)</translation>
     </message>
     <message>
         <source>Left
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Izquierda
+(s)</translation>
     </message>
     <message>
         <source>Right
 (rad/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Derecha
+(rad/s)</translation>
     </message>
     <message>
         <source>Right
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Derecha
+(s)</translation>
     </message>
     <message>
         <source>Sections</source>
@@ -17553,40 +17562,40 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>The time in straight line is part of the time of its section: it cannot be longer.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tiempo en línea recta es parte del tiempo de su tramo: no puede ser mayor.</translation>
     </message>
     <message>
         <source>section %1</source>
-        <translation type="unfinished"></translation>
+        <translation>tramo %1</translation>
     </message>
     <message>
         <source>turn %1</source>
-        <translation type="unfinished"></translation>
+        <translation>giro %1</translation>
     </message>
     <message>
         <source>Total: %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Total: %1 s</translation>
     </message>
     <message>
         <source>Total: – · %1 of %2 sections are timed</source>
-        <translation type="unfinished"></translation>
+        <translation>Total: – · %1 de %2 tramos cronometrados</translation>
     </message>
     <message>
         <source> · %1 strokes recorded</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 paladas grabadas</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SelectionDocument</name>
     <message>
         <source>1 race</source>
-        <translation type="unfinished"></translation>
+        <translation>1 carrera</translation>
     </message>
     <message numerus="yes">
         <source>%n races</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n carrera</numerusform>
+            <numerusform>%n carreras</numerusform>
         </translation>
     </message>
 </context>
@@ -17598,11 +17607,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Race location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar de la carrera</translation>
     </message>
     <message>
         <source>race added</source>
-        <translation type="unfinished"></translation>
+        <translation>carrera añadida</translation>
     </message>
     <message>
         <source>%1. %2</source>
@@ -17610,19 +17619,19 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Rename which race?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿A qué carrera se le cambia el nombre?</translation>
     </message>
     <message>
         <source>race renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre de carrera cambiado</translation>
     </message>
     <message>
         <source>Remove which race?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Qué carrera se quita?</translation>
     </message>
     <message>
         <source>race removed</source>
-        <translation type="unfinished"></translation>
+        <translation>carrera quitada</translation>
     </message>
     <message>
         <source>Category</source>
@@ -17630,11 +17639,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Category of the athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría de los deportistas</translation>
     </message>
     <message>
         <source>category added</source>
-        <translation type="unfinished"></translation>
+        <translation>categoría añadida</translation>
     </message>
     <message>
         <source>Add a category first.</source>
@@ -17642,11 +17651,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>%1 is in this category already.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ya está en esta categoría.</translation>
     </message>
     <message>
         <source>athlete added</source>
-        <translation type="unfinished"></translation>
+        <translation>deportista añadido</translation>
     </message>
     <message>
         <source>athlete</source>
@@ -17654,18 +17663,18 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>athlete removed</source>
-        <translation type="unfinished"></translation>
+        <translation>deportista quitado</translation>
     </message>
     <message>
         <source>times of 0</source>
-        <translation type="unfinished"></translation>
+        <translation>tiempos de 0</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SelectionTakeOverDialog</name>
     <message>
         <source>Results of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados de %1</translation>
     </message>
     <message>
         <source>&amp;Take over</source>
@@ -17673,7 +17682,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Athletes who get a result: %1, of them new in the selection: %2. Without a result then: %3. Runs and lines that stay out: %4. A click on an athlete chooses another one, or adds the name to the selection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportistas que reciben un resultado: %1, de ellos nuevos en el selectivo: %2. Sin resultado después: %3. Mangas y líneas que quedan fuera: %4. Un clic en un deportista elige otro, o añade el nombre al selectivo.</translation>
     </message>
 </context>
 <context>
@@ -17684,7 +17693,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Copy the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar la tabla</translation>
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
@@ -17692,7 +17701,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Make times of 0 &amp;missing results</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir los tiempos de 0 en resultados ausente&amp;s</translation>
     </message>
     <message>
         <source>&amp;Copy the table</source>
@@ -17700,47 +17709,47 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;What if</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Y si…: probar</translation>
     </message>
     <message>
         <source>&amp;Races</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Carreras</translation>
     </message>
     <message>
         <source>&amp;Add a race…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Añadir una carrera…</translation>
     </message>
     <message>
         <source>&amp;Rename a race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cam&amp;biar el nombre de una carrera…</translation>
     </message>
     <message>
         <source>Remo&amp;ve a race…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar una carrera…</translation>
     </message>
     <message>
         <source>Results from &amp;split files…</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados de archivos de &amp;parciales…</translation>
     </message>
     <message>
         <source>Results from a &amp;list (position, total, penalty)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados de una &amp;lista (posición, total, penalización)…</translation>
     </message>
     <message>
         <source>Results from a list with &amp;categories and clubs…</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados de una lista con ca&amp;tegorías y clubes…</translation>
     </message>
     <message>
         <source>&amp;Athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deportistas</translation>
     </message>
     <message>
         <source>Add a &amp;category…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una &amp;categoría…</translation>
     </message>
     <message>
         <source>&amp;Add an athlete…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir un &amp;deportista…</translation>
     </message>
     <message>
         <source>&amp;Edit the athlete…</source>
@@ -17752,15 +17761,15 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;Import athletes…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importar deportistas…</translation>
     </message>
     <message>
         <source>&amp;How a list has to look</source>
-        <translation type="unfinished"></translation>
+        <translation>Cómo tiene que ser una li&amp;sta</translation>
     </message>
     <message>
         <source>Category %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría %1</translation>
     </message>
     <message>
         <source>Categories</source>
@@ -17772,19 +17781,19 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Official times</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempos oficiales</translation>
     </message>
     <message>
         <source>xTimes</source>
-        <translation type="unfinished"></translation>
+        <translation>xTimes</translation>
     </message>
     <message>
         <source>What if…</source>
-        <translation type="unfinished"></translation>
+        <translation>Y si…</translation>
     </message>
     <message>
         <source>Try other times and penalties; nothing of it is kept (W)</source>
-        <translation type="unfinished"></translation>
+        <translation>Prueba otros tiempos y penalizaciones; no se conserva nada (W)</translation>
     </message>
     <message>
         <source>Selection %1</source>
@@ -17792,42 +17801,42 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>What if: times and penalties typed now are tried only. End it (W) to go back to the real results.</source>
-        <translation type="unfinished"></translation>
+        <translation>Y si: los tiempos y penalizaciones que se escriban ahora son solo de prueba. Termina (W) para volver a los resultados reales.</translation>
     </message>
     <message>
         <source>Add the races of the selection first (Ctrl+R), then athletes (Ctrl+N, or drop a .csv file).</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade primero las carreras del selectivo (Ctrl+R) y después los deportistas (Ctrl+N, o suelta un archivo .csv).</translation>
     </message>
     <message>
         <source>Now add a category (Ctrl+G), such as MK1; then its athletes (Ctrl+N, or drop a .csv file).</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade ahora una categoría (Ctrl+G), como MK1; después sus deportistas (Ctrl+N, o suelta un archivo .csv).</translation>
     </message>
     <message>
         <source>Add the athletes of the category (Ctrl+N, or drop a .csv file), then their results: type them, or take them over from split files (Ctrl+I).</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade los deportistas de la categoría (Ctrl+N, o suelta un archivo .csv) y después sus resultados: escríbelos o incorpóralos de archivos de parciales (Ctrl+I).</translation>
     </message>
     <message numerus="yes">
         <source>%n result(s) have a time of 0, which puts their athletes far in front. Edit &gt; Make times of 0 missing results.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n resultado tiene un tiempo de 0, lo que coloca a su deportista muy por delante. Editar &gt; Convertir los tiempos de 0 en resultados ausentes.</numerusform>
+            <numerusform>%n resultados tienen un tiempo de 0, lo que coloca a sus deportistas muy por delante. Editar &gt; Convertir los tiempos de 0 en resultados ausentes.</numerusform>
         </translation>
     </message>
     <message>
         <source>End what if</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminar la prueba</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>No bonus</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin bonificación</translation>
     </message>
     <message>
         <source>Bonus %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bonificación %1</translation>
     </message>
 </context>
 <context>
@@ -17838,41 +17847,41 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Time (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo (s)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SeriesDrawing</name>
     <message>
         <source>%1: low</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: mín.</translation>
     </message>
     <message>
         <source>%1: high</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: máx.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SessionCharts</name>
     <message>
         <source>none was recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>no se grabó</translation>
     </message>
     <message>
         <source>there are no turns</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay giros</translation>
     </message>
     <message>
         <source>there are no strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay paladas</translation>
     </message>
     <message>
         <source>not known, since nothing tells which side of the phone points to the bow</source>
-        <translation type="unfinished"></translation>
+        <translation>no se conoce, porque nada indica qué lado del teléfono apunta a la proa</translation>
     </message>
     <message>
         <source>not known, since there are no positions that tell the speed</source>
-        <translation type="unfinished"></translation>
+        <translation>no se conoce, porque no hay posiciones que indiquen la velocidad</translation>
     </message>
     <message>
         <source>Stroke rate</source>
@@ -17900,7 +17909,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Phases</source>
-        <translation type="unfinished"></translation>
+        <translation>Fases</translation>
     </message>
     <message>
         <source>Roll</source>
@@ -17908,22 +17917,22 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Pitch</source>
-        <translation type="unfinished"></translation>
+        <translation>Cabeceo</translation>
     </message>
     <message>
         <source>end</source>
-        <translation type="unfinished"></translation>
+        <translation>fin</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SessionDialog</name>
     <message>
         <source>at</source>
-        <translation type="unfinished"></translation>
+        <translation>a las</translation>
     </message>
     <message>
         <source>Training session</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión de entrenamiento</translation>
     </message>
     <message>
         <source>&amp;Title</source>
@@ -17931,7 +17940,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>When</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuándo</translation>
     </message>
     <message>
         <source>&amp;Place</source>
@@ -17943,11 +17952,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>On the water</source>
-        <translation type="unfinished"></translation>
+        <translation>En el agua</translation>
     </message>
     <message>
         <source>In the gym</source>
-        <translation type="unfinished"></translation>
+        <translation>En el gimnasio</translation>
     </message>
     <message>
         <source>Others</source>
@@ -17955,42 +17964,42 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>not in this week</source>
-        <translation type="unfinished"></translation>
+        <translation>no en esta semana</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SessionMarks</name>
     <message>
         <source>%1 marks: two make a segment</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 marcas: dos forman un segmento</translation>
     </message>
     <message>
         <source>%1 segments</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 segmentos</translation>
     </message>
     <message>
         <source>mark</source>
-        <translation type="unfinished"></translation>
+        <translation>marca</translation>
     </message>
     <message>
         <source>removal of a mark</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de una marca</translation>
     </message>
     <message>
         <source>removal of all marks</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de todas las marcas</translation>
     </message>
     <message>
         <source>There is a mark already</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay una marca</translation>
     </message>
     <message>
         <source>move of a mark</source>
-        <translation type="unfinished"></translation>
+        <translation>desplazamiento de una marca</translation>
     </message>
     <message>
         <source>Mark at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca en %1</translation>
     </message>
 </context>
 <context>
@@ -18005,15 +18014,15 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Segments</source>
-        <translation type="unfinished"></translation>
+        <translation>Segmentos</translation>
     </message>
     <message>
         <source>Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Distancia</translation>
     </message>
     <message>
         <source>Left and right</source>
-        <translation type="unfinished"></translation>
+        <translation>Izquierda y derecha</translation>
     </message>
     <message>
         <source> m</source>
@@ -18021,30 +18030,30 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Values every</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores cada</translation>
     </message>
     <message>
         <source>Strokes (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Paladas (%1)</translation>
     </message>
     <message>
         <source>Turns (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Giros (%1)</translation>
     </message>
     <message>
         <source>from the first mark</source>
-        <translation type="unfinished"></translation>
+        <translation>desde la primera marca</translation>
     </message>
     <message>
         <source>from the start</source>
-        <translation type="unfinished"></translation>
+        <translation>desde el inicio</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SessionView</name>
     <message>
         <source>Speed against stroke rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad frente a frecuencia de palada</translation>
     </message>
     <message>
         <source>Stroke rate (1/min)</source>
@@ -18056,7 +18065,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>The speed of the strokes is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>La velocidad de las paladas no se conoce.</translation>
     </message>
     <message>
         <source>Left</source>
@@ -18068,27 +18077,27 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Side unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Lado desconocido</translation>
     </message>
     <message>
         <source>Information…</source>
-        <translation type="unfinished"></translation>
+        <translation>Información…</translation>
     </message>
     <message>
         <source>Athlete, place, kind and equipment</source>
-        <translation type="unfinished"></translation>
+        <translation>Deportista, lugar, tipo y material</translation>
     </message>
     <message>
         <source>Name the phone&apos;s mount</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicar el montaje del teléfono</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Ampliar</translation>
     </message>
     <message>
         <source>Show the selected stretch alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar solo el trecho seleccionado</translation>
     </message>
     <message>
         <source>Keep</source>
@@ -18096,7 +18105,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Cut the session to the selected stretch</source>
-        <translation type="unfinished"></translation>
+        <translation>Recortar la sesión al trecho seleccionado</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -18104,7 +18113,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Take the selected stretch out</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar el trecho seleccionado</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -18116,11 +18125,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Colour of the course</source>
-        <translation type="unfinished"></translation>
+        <translation>Color del recorrido</translation>
     </message>
     <message>
         <source>%1 – %2: %3 s, %4 strokes, %5/min, %6 m, %7 m/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – %2: %3 s, %4 paladas, %5/min, %6 m, %7 m/s</translation>
     </message>
 </context>
 <context>
@@ -18131,7 +18140,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Sessions (*.bms);;Sessions (*.sbm)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesiones (*.bms);;Sesiones (*.sbm)</translation>
     </message>
     <message>
         <source>All files (*)</source>
@@ -18151,27 +18160,27 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Sessions (*.sbm *.bms)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesiones (*.sbm *.bms)</translation>
     </message>
     <message>
         <source>power of the power meter</source>
-        <translation type="unfinished"></translation>
+        <translation>potencia del medidor de potencia</translation>
     </message>
     <message>
         <source>Save the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la sesión</translation>
     </message>
     <message>
         <source>Save with it</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar con ellos</translation>
     </message>
     <message>
         <source>Save without it</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar sin ellos</translation>
     </message>
     <message>
         <source>Saved without the power meter&apos;s data, which are still here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardado sin los datos del medidor de potencia, que siguen aquí.</translation>
     </message>
 </context>
 <context>
@@ -18289,27 +18298,27 @@ Elige un archivo.</translation>
     <name>kavela::desktop::ShareActions</name>
     <message>
         <source>&amp;Open a folder to share…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir una carpeta para compartir…</translation>
     </message>
     <message>
         <source>Sha&amp;re</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;mpartir</translation>
     </message>
     <message>
         <source>&amp;Compare both sides</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Comparar los dos lados</translation>
     </message>
     <message>
         <source>&amp;Start with the ticked files</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Empezar con los archivos marcados</translation>
     </message>
     <message>
         <source>C&amp;ancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Ca&amp;ncelar</translation>
     </message>
     <message>
         <source>&amp;Tick all but deletions</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar &amp;todo menos los borrados</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
@@ -18340,11 +18349,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>On this computer, with everything below it but hidden files</source>
-        <translation type="unfinished"></translation>
+        <translation>En este ordenador, con todo lo que contiene salvo los archivos ocultos</translation>
     </message>
     <message>
         <source>the folder that is shared</source>
-        <translation type="unfinished"></translation>
+        <translation>la carpeta que se comparte</translation>
     </message>
     <message>
         <source>&amp;Address</source>
@@ -18352,11 +18361,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
-        <translation type="unfinished"></translation>
+        <translation>De una carpeta en un servidor WebDAV: Nextcloud, ownCloud, un NAS, Apache…</translation>
     </message>
     <message>
         <source>Choose the folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir la carpeta…</translation>
     </message>
     <message>
         <source>Compare</source>
@@ -18364,7 +18373,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Shows what differs; nothing is changed by it</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra lo que difiere; con ello no se cambia nada</translation>
     </message>
     <message>
         <source>Start</source>
@@ -18372,7 +18381,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Shares the ticked files</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparte los archivos marcados</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -18380,35 +18389,35 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Nothing is shared before it is shown here</source>
-        <translation type="unfinished"></translation>
+        <translation>No se comparte nada antes de mostrarse aquí</translation>
     </message>
     <message>
         <source>Another folder is shared once this one is done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se comparte otra carpeta cuando termine esta.</translation>
     </message>
     <message>
         <source>The folder to share</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta que compartir</translation>
     </message>
     <message>
         <source>There is no folder to share yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay ninguna carpeta que compartir.</translation>
     </message>
     <message>
         <source>“%1” is no folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una carpeta.</translation>
     </message>
     <message>
         <source>Both sides are looked at…</source>
-        <translation type="unfinished"></translation>
+        <translation>Mirando los dos lados…</translation>
     </message>
     <message>
         <source>%1: %2 of %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 de %3</translation>
     </message>
     <message>
         <source>%1: %2 files</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 archivos</translation>
     </message>
     <message>
         <source>%1 (on the server)</source>
@@ -18416,20 +18425,21 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>%1 (here)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (aquí)</translation>
     </message>
     <message>
         <source>Delete 1 file?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Borrar 1 archivo?</translation>
     </message>
     <message>
         <source>Delete %1 files?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Borrar %1 archivos?</translation>
     </message>
     <message>
         <source>
 and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>
+y %1 más</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -18437,7 +18447,7 @@ and %1 more</source>
     </message>
     <message>
         <source>Files are being shared…</source>
-        <translation type="unfinished"></translation>
+        <translation>Compartiendo archivos…</translation>
     </message>
     <message>
         <source>This computer has no password store that is open. The password holds until this window is closed.</source>
@@ -18449,15 +18459,15 @@ and %1 more</source>
     </message>
     <message>
         <source>%v of %m files</source>
-        <translation type="unfinished"></translation>
+        <translation>%v de %m archivos</translation>
     </message>
     <message>
         <source>Files are being shared</source>
-        <translation type="unfinished"></translation>
+        <translation>Se están compartiendo archivos</translation>
     </message>
     <message>
         <source>What is done stays done; sharing again goes on with the rest.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo hecho, hecho queda; al compartir de nuevo se sigue con el resto.</translation>
     </message>
     <message>
         <source>Stop and close</source>
@@ -18468,50 +18478,50 @@ and %1 more</source>
     <name>kavela::desktop::SiteList</name>
     <message>
         <source>Other servers that films may come from</source>
-        <translation type="unfinished"></translation>
+        <translation>Otros servidores de los que pueden venir vídeos</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitActions</name>
     <message>
         <source>&amp;Open a film…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir un vídeo…</translation>
     </message>
     <message>
         <source>Open the &amp;race of the film in split taking</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir la &amp;carrera del vídeo en la toma de parciales</translation>
     </message>
     <message>
         <source>&amp;Save the race</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar la carrera</translation>
     </message>
     <message>
         <source>Save what is seen as a &amp;picture…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar lo que se ve como &amp;imagen…</translation>
     </message>
     <message>
         <source>Save the &amp;water round the marks…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el a&amp;gua en torno a las marcas…</translation>
     </message>
     <message>
         <source>Save what is seen of the slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar lo que se ve de la imagen de línea</translation>
     </message>
     <message>
         <source>Pictures (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes (*.png)</translation>
     </message>
     <message>
         <source>The picture could not be saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar la imagen: %1</translation>
     </message>
     <message>
         <source>Save the water round the marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el agua en torno a las marcas</translation>
     </message>
     <message>
         <source>Bands (*.bands)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bandas (*.bands)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -18519,95 +18529,95 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Undo the mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deshacer la marca</translation>
     </message>
     <message>
         <source>&amp;Redo the mark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rehacer la marca</translation>
     </message>
     <message>
         <source>&amp;Lines</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Líneas</translation>
     </message>
     <message>
         <source>Draw a &amp;new line</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujar una línea &amp;nueva</translation>
     </message>
     <message>
         <source>Ne&amp;xt line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea &amp;siguiente</translation>
     </message>
     <message>
         <source>&amp;Previous line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea &amp;anterior</translation>
     </message>
     <message>
         <source>&amp;Turn the arrow: boats come from the other side</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Girar la flecha: los barcos vienen del otro lado</translation>
     </message>
     <message>
         <source>&amp;Remove the line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar la línea</translation>
     </message>
     <message>
         <source>Draw a box round one &amp;boat</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujar un recuadro alrededor de un &amp;barco</translation>
     </message>
     <message>
         <source>&amp;Look for boats that cross it</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar barcos que la &amp;crucen</translation>
     </message>
     <message>
         <source>&amp;Hair line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea &amp;fina</translation>
     </message>
     <message>
         <source>One frame &amp;earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fotograma a&amp;ntes</translation>
     </message>
     <message>
         <source>One frame &amp;later</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fotograma &amp;después</translation>
     </message>
     <message>
         <source>Ten frames earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Diez fotogramas antes</translation>
     </message>
     <message>
         <source>Ten frames later</source>
-        <translation type="unfinished"></translation>
+        <translation>Diez fotogramas después</translation>
     </message>
     <message>
         <source>A tenth of a frame earlier</source>
-        <translation type="unfinished"></translation>
+        <translation>Una décima de fotograma antes</translation>
     </message>
     <message>
         <source>A tenth of a frame later</source>
-        <translation type="unfinished"></translation>
+        <translation>Una décima de fotograma después</translation>
     </message>
     <message>
         <source>&amp;Next proposal</source>
-        <translation type="unfinished"></translation>
+        <translation>Propuesta &amp;siguiente</translation>
     </message>
     <message>
         <source>&amp;Previous proposal</source>
-        <translation type="unfinished"></translation>
+        <translation>Propuesta &amp;anterior</translation>
     </message>
     <message>
         <source>To the &amp;beginning</source>
-        <translation type="unfinished"></translation>
+        <translation>Al &amp;principio</translation>
     </message>
     <message>
         <source>&amp;Closer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ac&amp;ercar</translation>
     </message>
     <message>
         <source>&amp;Farther</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;lejar</translation>
     </message>
     <message>
         <source>The &amp;whole film</source>
-        <translation type="unfinished"></translation>
+        <translation>El &amp;vídeo entero</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
@@ -18615,11 +18625,11 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Mark the run at the hair line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marcar la manga en la línea fina</translation>
     </message>
     <message>
         <source>Take the mark &amp;away</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar la marca</translation>
     </message>
     <message>
         <source>&amp;Previous run</source>
@@ -18631,19 +18641,19 @@ and %1 more</source>
     </message>
     <message>
         <source>&amp;Refuse the proposal at the hair line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rechazar la propuesta en la línea fina</translation>
     </message>
     <message>
         <source>&amp;Forget what was refused on this line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Olvidar lo rechazado en esta línea</translation>
     </message>
     <message>
         <source>Accept a&amp;ll proposals</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar &amp;todas las propuestas</translation>
     </message>
     <message>
         <source>Accept a&amp;ll proposals: why not yet?</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar &amp;todas las propuestas: ¿por qué aún no?</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -18670,65 +18680,65 @@ and %1 more</source>
     <name>kavela::desktop::SlitKeeping</name>
     <message>
         <source>The lines in %1 cannot be read: %2. The file is put aside before new lines take its name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las líneas de %1 no se pueden leer: %2. El archivo se aparta antes de que líneas nuevas tomen su nombre.</translation>
     </message>
     <message>
         <source>The lines could not be kept in %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Las líneas no se pudieron conservar en %1: %2</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitLoader</name>
     <message>
         <source>The film ends early, after %1 frames.</source>
-        <translation type="unfinished"></translation>
+        <translation>El vídeo termina antes de tiempo, tras %1 fotogramas.</translation>
     </message>
     <message>
         <source>%1 frames cannot be decoded: their columns are black.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fotogramas no se pueden decodificar: sus columnas están en negro.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitPanel</name>
     <message>
         <source>Open the &amp;race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir la &amp;carrera…</translation>
     </message>
     <message>
         <source>Times &amp;finer than the frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempos más &amp;finos que el fotograma</translation>
     </message>
     <message>
         <source>Draw a box round one boat (B), then look for boats (Ctrl+B): where they may have crossed is listed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja un recuadro alrededor de un barco (B) y busca después barcos (Ctrl+B): aquí se enumera dónde pueden haber cruzado.</translation>
     </message>
     <message>
         <source>The time of the split follows the hair line between two frames; the mark itself stays on the frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tiempo del parcial sigue a la línea fina entre dos fotogramas; la marca se queda en el fotograma.</translation>
     </message>
     <message>
         <source>marks</source>
-        <translation type="unfinished"></translation>
+        <translation>marcas</translation>
     </message>
     <message>
         <source>Line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea %1</translation>
     </message>
     <message>
         <source>Marks go into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Las marcas van a %1</translation>
     </message>
     <message>
         <source>Marks need the race of this film in split taking.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las marcas necesitan la carrera de este vídeo en la toma de parciales.</translation>
     </message>
     <message>
         <source>No run of %1 has the film %2. Add it there as a film of the runs or as a fixed camera.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna manga de %1 tiene el vídeo %2. Añádelo allí como vídeo de las mangas o como cámara fija.</translation>
     </message>
     <message>
         <source>The runs that are seen on this film are listed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí se enumeran las mangas que se ven en este vídeo.</translation>
     </message>
 </context>
 <context>
@@ -18747,34 +18757,34 @@ and %1 more</source>
     </message>
     <message>
         <source>There is no run to be marked.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna manga que marcar.</translation>
     </message>
     <message>
         <source>This run has no film %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta manga no tiene el vídeo %1.</translation>
     </message>
     <message>
         <source>%1 in the slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en la imagen de línea</translation>
     </message>
     <message>
         <source>This run is not marked here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta manga no está marcada aquí.</translation>
     </message>
     <message>
         <source>mark removed in the slit picture</source>
-        <translation type="unfinished"></translation>
+        <translation>marca quitada en la imagen de línea</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SlitSaving</name>
     <message>
         <source>The water round the marks is in %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El agua en torno a las marcas está en %1.</translation>
     </message>
     <message>
         <source>The water round the marks could not be saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar el agua en torno a las marcas: %1</translation>
     </message>
 </context>
 <context>
@@ -18785,7 +18795,7 @@ and %1 more</source>
     </message>
     <message>
         <source>What stood on the line over the film, over time. A click goes there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que hubo en la línea trazada sobre el vídeo, a lo largo del tiempo. Un clic va ahí.</translation>
     </message>
 </context>
 <context>
@@ -18804,7 +18814,7 @@ and %1 more</source>
     </message>
     <message>
         <source>  (%1%2 of a frame)</source>
-        <translation type="unfinished"></translation>
+        <translation>  (%1%2 de un fotograma)</translation>
     </message>
 </context>
 <context>
@@ -18823,71 +18833,71 @@ and %1 more</source>
     </message>
     <message>
         <source>Open the film of a fixed camera</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir el vídeo de una cámara fija</translation>
     </message>
     <message>
         <source>Open the film of a camera on a tripod (Ctrl+O).</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre el vídeo de una cámara en trípode (Ctrl+O).</translation>
     </message>
     <message>
         <source>Press N and draw a line across the water in the film above: what stands on it is shown here over time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulsa N y dibuja una línea a través del agua en el vídeo de arriba: lo que hay en ella se muestra aquí a lo largo del tiempo.</translation>
     </message>
     <message>
         <source>Reading the film…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo el vídeo…</translation>
     </message>
     <message>
         <source>Reading the film:</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo el vídeo:</translation>
     </message>
     <message>
         <source>Looking for boats:</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando barcos:</translation>
     </message>
     <message>
         <source>Draw a line first: N.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja antes una línea: N.</translation>
     </message>
     <message>
         <source>%1 proposals were refused on this line. They are forgotten with it.</source>
-        <translation type="unfinished"></translation>
+        <translation>En esta línea se rechazaron %1 propuestas. Se olvidan con ella.</translation>
     </message>
     <message>
         <source>Remove the line</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar la línea</translation>
     </message>
     <message>
         <source>There is no proposal before this.</source>
-        <translation type="unfinished"></translation>
+        <translation>Antes de esta no hay ninguna propuesta.</translation>
     </message>
     <message>
         <source>There is no proposal behind this.</source>
-        <translation type="unfinished"></translation>
+        <translation>Después de esta no hay ninguna propuesta.</translation>
     </message>
     <message>
         <source>Marks need the race of this film: open it in split taking.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las marcas necesitan la carrera de este vídeo: ábrela en la toma de parciales.</translation>
     </message>
     <message>
         <source>Draw a box round one boat first: B.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja antes un recuadro alrededor de un barco: B.</translation>
     </message>
     <message>
         <source>Proposals are accepted one by one</source>
-        <translation type="unfinished"></translation>
+        <translation>Las propuestas se aceptan una a una</translation>
     </message>
     <message>
         <source>There is no slit picture yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay imagen de línea.</translation>
     </message>
     <message>
         <source>That part is not read yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esa parte aún no se ha leído.</translation>
     </message>
     <message>
         <source>There is nothing to learn from yet: look for boats, then mark and refuse what was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay nada de lo que aprender: busca barcos y después marca o rechaza lo encontrado.</translation>
     </message>
 </context>
 <context>
@@ -19083,31 +19093,31 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <name>kavela::desktop::StatisticsDialog</name>
     <message>
         <source>%1 in races, %2 in all</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en carreras, %2 en total</translation>
     </message>
     <message>
         <source>Left out</source>
-        <translation type="unfinished"></translation>
+        <translation>Omitido</translation>
     </message>
     <message>
         <source>Because it</source>
-        <translation type="unfinished"></translation>
+        <translation>Porque</translation>
     </message>
     <message>
         <source>Season statistics from split files</source>
-        <translation type="unfinished"></translation>
+        <translation>Estadística de la temporada de archivos de parciales</translation>
     </message>
     <message>
         <source>Runs found: %1, in %2 files. They replace what stands there now: %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mangas encontradas: %1, en %2 archivos. Sustituyen a las que hay ahora: %3.</translation>
     </message>
     <message>
         <source>None of the files has a run of this athlete and season. Nothing is replaced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno de los archivos tiene una manga de este deportista y esta temporada. No se sustituye nada.</translation>
     </message>
     <message>
         <source>&amp;Replace the statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sustituir la estadística</translation>
     </message>
 </context>
 <context>
@@ -19118,19 +19128,19 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>way of the run</source>
-        <translation type="unfinished"></translation>
+        <translation>trazada de la manga</translation>
     </message>
     <message>
         <source>way renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre de trazada cambiado</translation>
     </message>
     <message>
         <source>A time is a number of seconds such as 4.35, or 1:04.35</source>
-        <translation type="unfinished"></translation>
+        <translation>Un tiempo es un número de segundos como 4.35, o 1:04.35</translation>
     </message>
     <message>
         <source>time of a way</source>
-        <translation type="unfinished"></translation>
+        <translation>tiempo de una trazada</translation>
     </message>
     <message>
         <source>Taken</source>
@@ -19138,7 +19148,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Way</source>
-        <translation type="unfinished"></translation>
+        <translation>Trazada</translation>
     </message>
     <message>
         <source>Time</source>
@@ -19150,27 +19160,27 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>The tick is at the way that the run took. Names and times are edited by a double click.</source>
-        <translation type="unfinished"></translation>
+        <translation>La marca está en la trazada que siguió la manga. Los nombres y los tiempos se editan con un doble clic.</translation>
     </message>
     <message>
         <source>Add a way</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una trazada</translation>
     </message>
     <message>
         <source>A section, or a name for the place</source>
-        <translation type="unfinished"></translation>
+        <translation>Un tramo, o un nombre para el lugar</translation>
     </message>
     <message>
         <source>Another way, such as spin or direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra trazada, como spin o directa</translation>
     </message>
     <message>
         <source>Take its time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomar su tiempo</translation>
     </message>
     <message>
         <source>comment on ways</source>
-        <translation type="unfinished"></translation>
+        <translation>comentario a las trazadas</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -19186,11 +19196,11 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Compared</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparado</translation>
     </message>
     <message>
         <source>Time from</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo desde</translation>
     </message>
     <message>
         <source>Section</source>
@@ -19198,55 +19208,55 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Without a name</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin nombre</translation>
     </message>
     <message>
         <source>The run took the fastest way.</source>
-        <translation type="unfinished"></translation>
+        <translation>La manga siguió la trazada más rápida.</translation>
     </message>
     <message>
         <source>The way of the run cost %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>La trazada de la manga costó %1 s.</translation>
     </message>
     <message>
         <source>Choose a section or name a place, and add it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige un tramo o da nombre a un lugar, y añádelo.</translation>
     </message>
     <message>
         <source>Add the ways of paddling this place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade las trazadas para pasar por este lugar.</translation>
     </message>
     <message>
         <source>M marks where %1 ends</source>
-        <translation type="unfinished"></translation>
+        <translation>M marca dónde termina %1</translation>
     </message>
     <message>
         <source>M marks where %1 begins</source>
-        <translation type="unfinished"></translation>
+        <translation>M marca dónde empieza %1</translation>
     </message>
     <message>
         <source>Choose a section, or write a name for the place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige un tramo, o escribe un nombre para el lugar.</translation>
     </message>
     <message>
         <source>ways at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>trazadas en %1</translation>
     </message>
     <message>
         <source>way added</source>
-        <translation type="unfinished"></translation>
+        <translation>trazada añadida</translation>
     </message>
     <message>
         <source>Add a way and select it first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade antes una trazada y selecciónala.</translation>
     </message>
     <message>
         <source>%1 was not timed there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se cronometró ahí.</translation>
     </message>
     <message>
         <source>%1 is timed: %2 s. Empty its time to mark it anew.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está cronometrada: %2 s. Vacía su tiempo para marcarla de nuevo.</translation>
     </message>
     <message>
         <source>Start</source>
@@ -19254,19 +19264,19 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>The end of a way comes after its beginning at %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El fin de una trazada viene después de su inicio en %1.</translation>
     </message>
     <message>
         <source>way timed</source>
-        <translation type="unfinished"></translation>
+        <translation>trazada cronometrada</translation>
     </message>
     <message>
         <source>way removed</source>
-        <translation type="unfinished"></translation>
+        <translation>trazada quitada</translation>
     </message>
     <message>
         <source>ways removed</source>
-        <translation type="unfinished"></translation>
+        <translation>trazadas quitadas</translation>
     </message>
 </context>
 <context>
@@ -19285,15 +19295,15 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Strokes/min</source>
-        <translation type="unfinished"></translation>
+        <translation>Paladas/min</translation>
     </message>
     <message>
         <source>A marks a stroke on the left, D on the right, M with the other hand than before.</source>
-        <translation type="unfinished"></translation>
+        <translation>A marca una palada a la izquierda, D a la derecha, M con la otra mano que antes.</translation>
     </message>
     <message>
         <source>Rate now</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia ahora</translation>
     </message>
     <message>
         <source>Style</source>
@@ -19301,46 +19311,46 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>%1 per minute, %2 strokes</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 por minuto, %2 paladas</translation>
     </message>
     <message>
         <source>left stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>palada izquierda</translation>
     </message>
     <message>
         <source>right stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>palada derecha</translation>
     </message>
     <message>
         <source>other hand</source>
-        <translation type="unfinished"></translation>
+        <translation>otra mano</translation>
     </message>
     <message>
         <source>style of the stroke</source>
-        <translation type="unfinished"></translation>
+        <translation>estilo de la palada</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::SummaryPanel</name>
     <message>
         <source>Retired athletes are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los deportistas retirados se omiten.</translation>
     </message>
     <message>
         <source>Two seasons are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hacen falta dos temporadas.</translation>
     </message>
     <message>
         <source>The first two seasons have no race with a final position.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las dos primeras temporadas no tienen ninguna carrera con posición final.</translation>
     </message>
     <message>
         <source> and </source>
-        <translation type="unfinished"></translation>
+        <translation> y </translation>
     </message>
     <message>
         <source>Over the seasons</source>
-        <translation type="unfinished"></translation>
+        <translation>En las temporadas</translation>
     </message>
     <message>
         <source>All seasons</source>
@@ -19348,53 +19358,53 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Categorization</source>
-        <translation type="unfinished"></translation>
+        <translation>Categorización</translation>
     </message>
     <message>
         <source>, born %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, nacido en %1</translation>
     </message>
     <message>
         <source>One race has no final position. It counts as a medal here, not in the categorization.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una carrera no tiene posición final. Aquí cuenta como medalla, en la categorización no.</translation>
     </message>
     <message>
         <source>%1 races have no final position. They count as medals here, not in the categorization.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 carreras no tienen posición final. Aquí cuentan como medallas, en la categorización no.</translation>
     </message>
     <message>
         <source>Counted: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuentan: %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TableDocument</name>
     <message>
         <source>Join the athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Unir los deportistas</translation>
     </message>
     <message>
         <source>Say who line %1 is</source>
-        <translation type="unfinished"></translation>
+        <translation>Decir quién es la línea %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TablesActions</name>
     <message>
         <source>&amp;Open a list…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir una lista…</translation>
     </message>
     <message>
         <source>Open what was &amp;copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir lo &amp;copiado</translation>
     </message>
     <message>
         <source>A&amp;nother list of this file…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otra lista de este archivo…</translation>
     </message>
     <message>
         <source>&amp;Keep with the race…</source>
-        <translation type="unfinished"></translation>
+        <translation>Conser&amp;var con la carrera…</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
@@ -19418,71 +19428,71 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>The first line holds the &amp;titles</source>
-        <translation type="unfinished"></translation>
+        <translation>La primera línea contiene los &amp;títulos</translation>
     </message>
     <message>
         <source>The first line is a ro&amp;w</source>
-        <translation type="unfinished"></translation>
+        <translation>La primera línea es una &amp;fila</translation>
     </message>
     <message>
         <source>No &amp;groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin &amp;grupos</translation>
     </message>
     <message>
         <source>&amp;Column</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Columna</translation>
     </message>
     <message>
         <source>&amp;Sort</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordenar</translation>
     </message>
     <message>
         <source>Sort &amp;downwards</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenar de mayor a &amp;menor</translation>
     </message>
     <message>
         <source>&amp;Group by it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Agrupar por ella</translation>
     </message>
     <message>
         <source>&amp;Tint it</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;olorearla</translation>
     </message>
     <message>
         <source>&amp;Chart of it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gráfico de ella</translation>
     </message>
     <message>
         <source>&amp;Keep rows with…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Conservar filas con…</translation>
     </message>
     <message>
         <source>&amp;Leave it out</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;mitirla</translation>
     </message>
     <message>
         <source>&amp;Read it as</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Leerla como</translation>
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Añadir</translation>
     </message>
     <message>
         <source>&amp;Total</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Total</translation>
     </message>
     <message>
         <source>&amp;Rank</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Puesto</translation>
     </message>
     <message>
         <source>&amp;Gap to the best</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diferencia con el mejor</translation>
     </message>
     <message>
         <source>&amp;Percent behind the best</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;orcentaje respecto al mejor</translation>
     </message>
     <message>
         <source>Percenti&amp;le</source>
@@ -19490,23 +19500,23 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Another column…</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;tra columna…</translation>
     </message>
     <message>
         <source>P&amp;ivot…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla d&amp;inámica…</translation>
     </message>
     <message>
         <source>A&amp;thletes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deportistas</translation>
     </message>
     <message>
         <source>&amp;Join a team…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Unir un equipo…</translation>
     </message>
     <message>
         <source>&amp;Who is meant?…</source>
-        <translation type="unfinished"></translation>
+        <translation>¿&amp;Quién es?…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
@@ -19514,7 +19524,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>What was &amp;refused</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo &amp;rechazado</translation>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
@@ -19533,19 +19543,19 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Drop a list of results here</source>
-        <translation type="unfinished"></translation>
+        <translation>Suelta aquí una lista de resultados</translation>
     </message>
     <message>
         <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto (CSV, tabuladores, columnas de espacios), una hoja de cálculo (.xlsx, .ods), lo copiado de una página o una carrera que lleve una lista. Las listas solo se leen.</translation>
     </message>
     <message>
         <source>Open a list…</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una lista…</translation>
     </message>
     <message>
         <source>Open what was copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir lo copiado</translation>
     </message>
     <message>
         <source>Saved %1</source>
@@ -19553,7 +19563,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Kept with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservado con %1</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
@@ -19565,35 +19575,35 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>“%1” cannot be opened as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede abrir como tabla</translation>
     </message>
     <message>
         <source>What was copied is no list</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo copiado no es una lista</translation>
     </message>
     <message>
         <source>Which of its lists?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Cuál de sus listas?</translation>
     </message>
     <message>
         <source>What was copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo copiado</translation>
     </message>
     <message>
         <source>This step cannot be taken</source>
-        <translation type="unfinished"></translation>
+        <translation>Este paso no se puede dar</translation>
     </message>
     <message>
         <source>Keep rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar filas</translation>
     </message>
     <message>
         <source>Rows whose “%1” contains this are kept; the cell as it stands keeps just its like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se conservan las filas cuyo «%1» contiene esto; la celda tal cual conserva solo las iguales.</translation>
     </message>
     <message>
         <source> table</source>
-        <translation type="unfinished"></translation>
+        <translation> tabla</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv)</source>
@@ -19605,27 +19615,27 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Begin anew?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Empezar de nuevo?</translation>
     </message>
     <message>
         <source>What you made of this list is given up; the file stays.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se descarta lo que has hecho con esta lista; el archivo se queda.</translation>
     </message>
     <message>
         <source>Begin anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Empezar de nuevo</translation>
     </message>
     <message>
         <source>Join a team</source>
-        <translation type="unfinished"></translation>
+        <translation>Unir un equipo</translation>
     </message>
     <message>
         <source>Teams (*.kvteam);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Equipos (*.kvteam);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>The rows cannot be joined</source>
-        <translation type="unfinished"></translation>
+        <translation>Las filas no se pueden unir</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
@@ -19633,15 +19643,15 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Nobody of the team</source>
-        <translation type="unfinished"></translation>
+        <translation>Nadie del equipo</translation>
     </message>
     <message>
         <source>Who is %1 in line %2?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Quién es %1 en la línea %2?</translation>
     </message>
     <message>
         <source>Keep with the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar con la carrera</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -19653,44 +19663,44 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>The table was not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>La tabla no se ha guardado</translation>
     </message>
     <message>
         <source>The list that it is made from stays as it is. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lista de la que se hace se queda como está. Elige otro nombre.</translation>
     </message>
     <message>
         <source>Saving the table…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardando la tabla…</translation>
     </message>
     <message>
         <source>1 row</source>
-        <translation type="unfinished"></translation>
+        <translation>1 fila</translation>
     </message>
     <message>
         <source>1 column</source>
-        <translation type="unfinished"></translation>
+        <translation>1 columna</translation>
     </message>
     <message>
         <source>%1 refused (F7)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 rechazadas (F7)</translation>
     </message>
     <message>
         <source>%1 that only you can tell (F6)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 que solo tú sabes (F6)</translation>
     </message>
     <message numerus="yes">
         <source>%n rows</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n fila</numerusform>
+            <numerusform>%n filas</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n columns</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n columna</numerusform>
+            <numerusform>%n columnas</numerusform>
         </translation>
     </message>
 </context>
@@ -19788,7 +19798,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>not in the team</source>
-        <translation type="unfinished"></translation>
+        <translation>no está en el equipo</translation>
     </message>
     <message>
         <source>Leave out</source>
@@ -19796,31 +19806,31 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Add %1 to the team</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir a %1 al equipo</translation>
     </message>
     <message>
         <source>perhaps %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿quizá %1?</translation>
     </message>
     <message>
         <source>%1 is added to the athlete&apos;s boats</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 se añade a los barcos del deportista</translation>
     </message>
     <message>
         <source>the same stands there</source>
-        <translation type="unfinished"></translation>
+        <translation>ahí ya está lo mismo</translation>
     </message>
     <message>
         <source>Take results over</source>
-        <translation type="unfinished"></translation>
+        <translation>Incorporar resultados</translation>
     </message>
     <message>
         <source>Choose the event</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige el evento</translation>
     </message>
     <message>
         <source>&amp;Event</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Evento</translation>
     </message>
     <message>
         <source>&amp;Location</source>
@@ -19828,11 +19838,11 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Season</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Temporada</translation>
     </message>
     <message>
         <source>The positions are the &amp;final ones of the race</source>
-        <translation type="unfinished"></translation>
+        <translation>Las posiciones son las &amp;finales de la carrera</translation>
     </message>
     <message>
         <source>&amp;Category</source>
@@ -19860,7 +19870,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>(line %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(línea %1)</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
@@ -19872,25 +19882,25 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Take over 1 line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Incorporar 1 línea</translation>
     </message>
     <message>
         <source>Choose the event of the race.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige el evento de la carrera.</translation>
     </message>
     <message>
         <source>Nothing in the file belongs to an athlete of the team. A click on “not in the team” chooses one, or adds the name to the team.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada del archivo pertenece a un deportista del equipo. Un clic en «no está en el equipo» elige uno, o añade el nombre al equipo.</translation>
     </message>
     <message>
         <source>%1 of %2 lines are ticked; %3 stay out. A click on an athlete chooses another one, or adds the name to the team.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 líneas están marcadas; %3 quedan fuera. Un clic en un deportista elige otro, o añade el nombre al equipo.</translation>
     </message>
     <message numerus="yes">
         <source>&amp;Take over %n lines</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&amp;Incorporar %n línea</numerusform>
+            <numerusform>&amp;Incorporar %n líneas</numerusform>
         </translation>
     </message>
 </context>
@@ -19902,11 +19912,11 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source> rad/s</source>
-        <translation type="unfinished"></translation>
+        <translation> rad/s</translation>
     </message>
     <message>
         <source>Take a test in from a recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Incorporar una prueba de una grabación</translation>
     </message>
     <message>
         <source>&amp;Test</source>
@@ -19922,35 +19932,35 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>La&amp;ps</source>
-        <translation type="unfinished"></translation>
+        <translation>V&amp;ueltas</translation>
     </message>
     <message>
         <source>&amp;Distance between the gates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Distancia entre las puertas</translation>
     </message>
     <message>
         <source>T&amp;urn limit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Límite de giro</translation>
     </message>
     <message>
         <source>&amp;Suggest the marks again</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Volver a proponer las marcas</translation>
     </message>
     <message>
         <source>Take in</source>
-        <translation type="unfinished"></translation>
+        <translation>Incorporar</translation>
     </message>
     <message>
         <source>Lap %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelta %1</translation>
     </message>
     <message>
         <source>Stretch %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Trecho %1</translation>
     </message>
     <message>
         <source>Eight %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocho %1</translation>
     </message>
     <message>
         <source>Start</source>
@@ -19958,16 +19968,17 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>%1 strokes and %2 turns were found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se encontraron %1 paladas y %2 giros.</translation>
     </message>
     <message>
         <source>Ends at
 (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Termina en
+(s)</translation>
     </message>
     <message>
         <source>Seconds from the beginning of the recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos desde el principio de la grabación</translation>
     </message>
     <message>
         <source>Time
@@ -19977,43 +19988,43 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Length of the section</source>
-        <translation type="unfinished"></translation>
+        <translation>Duración del tramo</translation>
     </message>
     <message>
         <source>No such test was found in the recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>En la grabación no se encontró ninguna prueba así.</translation>
     </message>
     <message>
         <source>Each mark has to be later than the one before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada marca tiene que ser posterior a la anterior.</translation>
     </message>
     <message>
         <source>Laps found in the recording: %1 of %2. What is taken in has no more of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vueltas encontradas en la grabación: %1 de %2. Lo que se incorpora no tiene más.</translation>
     </message>
     <message>
         <source>Eights found in the recording: %1 of %2. What is taken in has no more of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ochos encontrados en la grabación: %1 de %2. Lo que se incorpora no tiene más.</translation>
     </message>
     <message>
         <source>Rotation and marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación y marcas</translation>
     </message>
     <message>
         <source>Time from the beginning of the recording (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo desde el principio de la grabación (s)</translation>
     </message>
     <message>
         <source>Rotation (rad/s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación (rad/s)</translation>
     </message>
     <message>
         <source>Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotación</translation>
     </message>
     <message>
         <source>Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcas</translation>
     </message>
 </context>
 <context>
@@ -20048,19 +20059,19 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Motion</source>
-        <translation type="unfinished"></translation>
+        <translation>Movimiento</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>sí</translation>
     </message>
     <message>
         <source>Take in tests from “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Incorporar pruebas de «%1»</translation>
     </message>
     <message>
         <source>Take in</source>
-        <translation type="unfinished"></translation>
+        <translation>Incorporar</translation>
     </message>
     <message>
         <source>&amp;Test</source>
@@ -20068,19 +20079,19 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Take %1 runs in</source>
-        <translation type="unfinished"></translation>
+        <translation>Incorporar %1 mangas</translation>
     </message>
     <message>
         <source>Each section of the run becomes a lap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada tramo de la manga se convierte en una vuelta.</translation>
     </message>
     <message>
         <source>Each section of the run becomes a stretch of the sprint.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cada tramo de la manga se convierte en un trecho del esprint.</translation>
     </message>
     <message>
         <source>The first five sections become the splits, with their marks in the video; the motion samples of the run tell its rotation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los cinco primeros tramos se convierten en los parciales, con sus marcas en el vídeo; las muestras de movimiento de la manga dan su rotación.</translation>
     </message>
 </context>
 <context>
@@ -20406,27 +20417,27 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <name>kavela::desktop::TeamAthleteDialog</name>
     <message>
         <source>New athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo deportista</translation>
     </message>
     <message>
         <source>Written in capitals in the team</source>
-        <translation type="unfinished"></translation>
+        <translation>En el equipo se escribe en mayúsculas</translation>
     </message>
     <message>
         <source>Such as 1998</source>
-        <translation type="unfinished"></translation>
+        <translation>Por ejemplo 1998</translation>
     </message>
     <message>
         <source>&amp;Surname</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Apellido</translation>
     </message>
     <message>
         <source>&amp;Given name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre</translation>
     </message>
     <message>
         <source>&amp;Born in</source>
-        <translation type="unfinished"></translation>
+        <translation>Na&amp;cido en</translation>
     </message>
     <message>
         <source>Boats</source>
@@ -20437,11 +20448,11 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <name>kavela::desktop::TeamDocument</name>
     <message>
         <source>It is no team file, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un archivo de equipo, o está dañado: %1</translation>
     </message>
     <message>
         <source>averages</source>
-        <translation type="unfinished"></translation>
+        <translation>medias</translation>
     </message>
     <message>
         <source>1 athlete</source>
@@ -20459,15 +20470,15 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <name>kavela::desktop::TeamWindow</name>
     <message>
         <source>Take results over</source>
-        <translation type="unfinished"></translation>
+        <translation>Incorporar resultados</translation>
     </message>
     <message>
         <source>Split files and result lists (*.kvx *.csv *.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de parciales y listas de resultados (*.kvx *.csv *.txt);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>“%1” cannot be taken over</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede incorporar</translation>
     </message>
     <message>
         <source>There are no results in it.</source>
@@ -20479,7 +20490,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>There are no runs in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No contiene ninguna manga.</translation>
     </message>
     <message>
         <source>results taken over</source>
@@ -20499,38 +20510,38 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>new category</source>
-        <translation type="unfinished"></translation>
+        <translation>categoría nueva</translation>
     </message>
     <message>
         <source>removal of a category</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de una categoría</translation>
     </message>
     <message>
         <source>Choose an athlete and a category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige antes un deportista y una categoría.</translation>
     </message>
     <message>
         <source>Add a season first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade antes una temporada.</translation>
     </message>
     <message>
         <source>Choose a category first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige antes una categoría.</translation>
     </message>
     <message>
         <source>No athlete comes into question in %1: two seasons are needed, with a final position in one of the first two.</source>
-        <translation type="unfinished"></translation>
+        <translation>En %1 ningún deportista entra en consideración: hacen falta dos temporadas, con una posición final en una de las dos primeras.</translation>
     </message>
     <message>
         <source>Categorization %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Categorización %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TestListPanel</name>
     <message>
         <source>All tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las pruebas</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -20538,7 +20549,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Ticked tests are laid over the chosen one (Space)</source>
-        <translation type="unfinished"></translation>
+        <translation>Las pruebas marcadas se superponen a la elegida (Espacio)</translation>
     </message>
     <message>
         <source>Date</source>
@@ -20550,18 +20561,18 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>All athletes</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los deportistas</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TestSessionWindow</name>
     <message>
         <source>Time (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo (s)</translation>
     </message>
     <message>
         <source>Value</source>
@@ -20569,11 +20580,11 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>There are no values in this attempt.</source>
-        <translation type="unfinished"></translation>
+        <translation>En este intento no hay valores.</translation>
     </message>
     <message>
         <source>Heart rate (1/min)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia cardiaca (1/min)</translation>
     </message>
     <message>
         <source>Test session</source>
@@ -20581,7 +20592,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores</translation>
     </message>
     <message>
         <source>&amp;Export the table…</source>
@@ -20594,7 +20605,8 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <message>
         <source>Attempt %1
 %2 stroke values, %3 of the sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>Intento %1
+%2 valores de paladas, %3 del esprint</translation>
     </message>
     <message>
         <source>All kinds</source>
@@ -20602,7 +20614,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Sprint data</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos del esprint</translation>
     </message>
     <message>
         <source>Export the table</source>
@@ -20617,21 +20629,21 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <name>kavela::desktop::TestsDocument</name>
     <message>
         <source>It is no file of tests, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un archivo de pruebas, o está dañado: %1</translation>
     </message>
     <message>
         <source>removal of tests</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de pruebas</translation>
     </message>
     <message>
         <source>1 test</source>
-        <translation type="unfinished"></translation>
+        <translation>1 prueba</translation>
     </message>
     <message numerus="yes">
         <source>%n tests</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n prueba</numerusform>
+            <numerusform>%n pruebas</numerusform>
         </translation>
     </message>
 </context>
@@ -20639,7 +20651,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <name>kavela::desktop::TestsWindow</name>
     <message>
         <source>Take tests in from a split file</source>
-        <translation type="unfinished"></translation>
+        <translation>Incorporar pruebas de un archivo de parciales</translation>
     </message>
     <message>
         <source>Split files (*.kvx);;All files (*)</source>
@@ -20647,31 +20659,31 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Take a test in from a recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Incorporar una prueba de una grabación</translation>
     </message>
     <message>
         <source>Recordings (*.kvb);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabaciones (*.kvb);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>“%1” cannot be taken in</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede incorporar</translation>
     </message>
     <message>
         <source>There are no runs in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No contiene ninguna manga.</translation>
     </message>
     <message>
         <source>tests taken in</source>
-        <translation type="unfinished"></translation>
+        <translation>pruebas incorporadas</translation>
     </message>
     <message>
         <source>test taken in</source>
-        <translation type="unfinished"></translation>
+        <translation>prueba incorporada</translation>
     </message>
     <message>
         <source>It is no raw recording, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No es una grabación en bruto, o está dañada: %1</translation>
     </message>
     <message>
         <source>Tests</source>
@@ -20683,7 +20695,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Values</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores</translation>
     </message>
     <message>
         <source>Table</source>
@@ -20691,76 +20703,76 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>One ticked test is of another kind and left out here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una prueba marcada es de otro tipo y aquí se omite.</translation>
     </message>
     <message>
         <source>%1 ticked tests are of another kind and left out here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pruebas marcadas son de otro tipo y aquí se omiten.</translation>
     </message>
     <message>
         <source>new eight test</source>
-        <translation type="unfinished"></translation>
+        <translation>nueva prueba del ocho</translation>
     </message>
     <message>
         <source>new sprint</source>
-        <translation type="unfinished"></translation>
+        <translation>nuevo esprint</translation>
     </message>
     <message>
         <source>new lap test</source>
-        <translation type="unfinished"></translation>
+        <translation>nueva prueba de vueltas</translation>
     </message>
     <message>
         <source>copy of a test</source>
-        <translation type="unfinished"></translation>
+        <translation>copia de una prueba</translation>
     </message>
     <message>
         <source>Export the table of tests</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar la tabla de pruebas</translation>
     </message>
     <message>
         <source>Semicolon-separated text (*.csv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto separado por punto y coma (*.csv);;Todos los archivos (*)</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TickStrip</name>
     <message>
         <source>Other marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Otras marcas</translation>
     </message>
     <message>
         <source>A click shows the frame of a mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic muestra el fotograma de una marca</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TimeLine</name>
     <message>
         <source>Time line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea de tiempo</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TimerFace</name>
     <message>
         <source>%1 – paused</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 – en pausa</translation>
     </message>
     <message>
         <source>Set %1 of %2   ·   Repetition %3 of %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Serie %1 de %2   ·   Repetición %3 de %4</translation>
     </message>
     <message>
         <source>Well done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bien hecho.</translation>
     </message>
     <message>
         <source>Next: the end</source>
-        <translation type="unfinished"></translation>
+        <translation>Después: el final</translation>
     </message>
     <message>
         <source>Next: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Después: %1 %2</translation>
     </message>
 </context>
 <context>
@@ -20866,23 +20878,23 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <name>kavela::desktop::TotalsChart</name>
     <message>
         <source>No run has a time for the whole course yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna manga tiene aún un tiempo del recorrido entero.</translation>
     </message>
     <message>
         <source>Time and penalties of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo y penalizaciones de %1</translation>
     </message>
     <message>
         <source>Seconds on the course, without penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos en el recorrido, sin penalizaciones</translation>
     </message>
     <message>
         <source> · %1 without a total</source>
-        <translation type="unfinished"></translation>
+        <translation> · %1 sin total</translation>
     </message>
     <message>
         <source>Penalty seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos de penalización</translation>
     </message>
     <message>
         <source>← slower      faster →</source>
@@ -20914,87 +20926,87 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionada</translation>
     </message>
     <message>
         <source>Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>Totales</translation>
     </message>
     <message>
         <source>Total time against penalties</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo total frente a penalizaciones</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrackDocument</name>
     <message>
         <source>It is no path on a film, or a damaged one: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No es una trayectoria sobre un vídeo, o está dañada: %1</translation>
     </message>
     <message>
         <source>a path of 1 frame</source>
-        <translation type="unfinished"></translation>
+        <translation>una trayectoria de 1 fotograma</translation>
     </message>
     <message>
         <source>a path of %1 frames</source>
-        <translation type="unfinished"></translation>
+        <translation>una trayectoria de %1 fotogramas</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrackLine</name>
     <message>
         <source>Coloured where the path is known; diamonds are the boxes that were drawn. Click to go there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Coloreado donde se conoce la trayectoria; los rombos son los recuadros dibujados. Un clic va ahí.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrackOffsetDialog</name>
     <message>
         <source>Track of a watch</source>
-        <translation type="unfinished"></translation>
+        <translation>Track de un reloj</translation>
     </message>
     <message>
         <source>The clock of the watch is perhaps wrong. Say when the track began in truth.</source>
-        <translation type="unfinished"></translation>
+        <translation>El reloj quizá no va en hora. Indica cuándo empezó en realidad el track.</translation>
     </message>
     <message>
         <source>With the &amp;recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Con la &amp;grabación</translation>
     </message>
     <message>
         <source>Both were started at the same moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Los dos se iniciaron en el mismo momento</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabación</translation>
     </message>
     <message>
         <source>Track, by its clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Track, según su reloj</translation>
     </message>
     <message>
         <source>The track &amp;began</source>
-        <translation type="unfinished"></translation>
+        <translation>El track &amp;empezó</translation>
     </message>
     <message>
         <source>Join it</source>
-        <translation type="unfinished"></translation>
+        <translation>Unirlo</translation>
     </message>
     <message>
         <source>%1 of %2 positions and %3 of %4 heart rates lie in the recording, or a minute around it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 posiciones y %3 de %4 frecuencias cardiacas están en la grabación, o a un minuto de ella.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrackOverlay</name>
     <message>
         <source>Box round what is followed</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuadro alrededor de lo que se sigue</translation>
     </message>
     <message>
         <source>Draw a box round boat, head or gate. By keys: B proposes a box, arrows move it, with Shift they size it, Enter takes it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja un recuadro alrededor de un barco, una cabeza o una puerta. Con teclas: B propone un recuadro, las flechas lo mueven, con Mayús cambian su tamaño, Intro lo toma.</translation>
     </message>
 </context>
 <context>
@@ -21005,31 +21017,31 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Paths on films (*.track.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>Trayectorias sobre vídeos (*.track.json)</translation>
     </message>
     <message>
         <source>Open a film, then draw a box round what is to be followed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre un vídeo y dibuja un recuadro alrededor de lo que se va a seguir.</translation>
     </message>
     <message>
         <source>Following: %p %</source>
-        <translation type="unfinished"></translation>
+        <translation>Siguiendo: %p %</translation>
     </message>
     <message>
         <source>Draw a box round what is to be followed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibuja un recuadro alrededor de lo que se va a seguir.</translation>
     </message>
     <message>
         <source>No known point yet. Tick Path &gt; Click known points, then click the foot of a gate&apos;s poles in the picture.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay ningún punto conocido. Activa Trayectoria &gt; Marcar puntos conocidos y haz clic en la imagen al pie de los palos de una puerta.</translation>
     </message>
     <message>
         <source>&amp;Take it away</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitarlo</translation>
     </message>
     <message>
         <source>removal of a known point</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de un punto conocido</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -21037,39 +21049,39 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Figures</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifras</translation>
     </message>
     <message>
         <source>Known points</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos conocidos</translation>
     </message>
     <message>
         <source>A place on the water is a number of metres, -10000 to 10000</source>
-        <translation type="unfinished"></translation>
+        <translation>Un lugar en el agua es un número de metros, de -10000 a 10000</translation>
     </message>
     <message>
         <source>metres of a known point</source>
-        <translation type="unfinished"></translation>
+        <translation>metros de un punto conocido</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto</translation>
     </message>
     <message>
         <source>Across</source>
-        <translation type="unfinished"></translation>
+        <translation>A lo ancho</translation>
     </message>
     <message>
         <source>Along</source>
-        <translation type="unfinished"></translation>
+        <translation>A lo largo</translation>
     </message>
     <message>
         <source>&amp;Open a film or a path…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir un vídeo o una trayectoria…</translation>
     </message>
     <message>
         <source>&amp;Export the path as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportar la trayectoria como CSV…</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -21089,162 +21101,162 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>P&amp;ath</source>
-        <translation type="unfinished"></translation>
+        <translation>Trayec&amp;toria</translation>
     </message>
     <message>
         <source>Propose a &amp;box</source>
-        <translation type="unfinished"></translation>
+        <translation>Proponer un &amp;recuadro</translation>
     </message>
     <message>
         <source>&amp;Take the box of this frame away</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar el recuadro de este fotograma</translation>
     </message>
     <message>
         <source>To the next &amp;gap</source>
-        <translation type="unfinished"></translation>
+        <translation>Al siguiente &amp;hueco</translation>
     </message>
     <message>
         <source>&amp;Stop following</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dejar de seguir</translation>
     </message>
     <message>
         <source>Click &amp;known points</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar puntos &amp;conocidos</translation>
     </message>
     <message>
         <source>&amp;Forget the known points</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Olvidar los puntos conocidos</translation>
     </message>
     <message>
         <source>It lies on the &amp;water</source>
-        <translation type="unfinished"></translation>
+        <translation>Está en el &amp;agua</translation>
     </message>
     <message>
         <source>whether it lies on the water</source>
-        <translation type="unfinished"></translation>
+        <translation>si está en el agua</translation>
     </message>
     <message>
         <source>Open a film or a path on one</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir un vídeo o una trayectoria sobre uno</translation>
     </message>
     <message>
         <source>Films and paths (*.mp4 *.mov *.m4v *.mkv *.avi *.mts *.track.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos y trayectorias (*.mp4 *.mov *.m4v *.mkv *.avi *.mts *.track.json);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>The film %1 is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>El vídeo %1 no está ahí.</translation>
     </message>
     <message>
         <source>%1 s · frame %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s · fotograma %2</translation>
     </message>
     <message>
         <source>The film is still being read. Draw the box again in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>El vídeo aún se está leyendo. Vuelve a dibujar el recuadro dentro de un momento.</translation>
     </message>
     <message>
         <source>Stop following first, with Escape.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deja antes de seguir, con Esc.</translation>
     </message>
     <message>
         <source>box</source>
-        <translation type="unfinished"></translation>
+        <translation>recuadro</translation>
     </message>
     <message>
         <source>Following. Escape stops it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Siguiendo. Esc lo detiene.</translation>
     </message>
     <message>
         <source>The boxes were changed meanwhile, so that the path was not taken over. Draw the box again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mientras tanto se cambiaron los recuadros, así que la trayectoria no se ha incorporado. Vuelve a dibujar el recuadro.</translation>
     </message>
     <message>
         <source>path</source>
-        <translation type="unfinished"></translation>
+        <translation>trayectoria</translation>
     </message>
     <message>
         <source>Lost at %1 s. Draw a new box here, or where it is seen again; what lies between stays a gap until both sides meet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Perdido en %1 s. Dibuja un recuadro nuevo aquí, o donde se vuelva a ver; lo que queda en medio es un hueco hasta que los dos lados se encuentren.</translation>
     </message>
     <message>
         <source>Followed without a gap.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguido sin huecos.</translation>
     </message>
     <message>
         <source>Followed, with one gap. G goes there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguido, con un hueco. G va a él.</translation>
     </message>
     <message>
         <source>Followed, with %1 gaps. G goes to the next one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguido, con %1 huecos. G va al siguiente.</translation>
     </message>
     <message>
         <source>No box was drawn in this frame.</source>
-        <translation type="unfinished"></translation>
+        <translation>En este fotograma no se dibujó ningún recuadro.</translation>
     </message>
     <message>
         <source>removal of a box</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de un recuadro</translation>
     </message>
     <message>
         <source>The path has no gap.</source>
-        <translation type="unfinished"></translation>
+        <translation>La trayectoria no tiene huecos.</translation>
     </message>
     <message>
         <source>Click the foot of a gate&apos;s poles where they meet the water, four for metres or two for a scale only, then type where they stand. P ends it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haz clic al pie de los palos de una puerta, donde tocan el agua, cuatro para metros o dos solo para una escala, y escribe después dónde están. P termina.</translation>
     </message>
     <message>
         <source>Four known points are the most. Take one away first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuatro puntos conocidos es el máximo. Quita antes uno.</translation>
     </message>
     <message>
         <source>The known points belong into one frame; this is where the first one was clicked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los puntos conocidos van en un mismo fotograma; este es donde se hizo clic en el primero.</translation>
     </message>
     <message>
         <source>known point</source>
-        <translation type="unfinished"></translation>
+        <translation>punto conocido</translation>
     </message>
     <message>
         <source>removal of the known points</source>
-        <translation type="unfinished"></translation>
+        <translation>eliminación de los puntos conocidos</translation>
     </message>
     <message>
         <source>Two points give a scale only: lengths and speeds hold near them and along the line between them. Four give the perspective too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dos puntos solo dan una escala: longitudes y velocidades valen cerca de ellos y a lo largo de la línea que los une. Cuatro dan también la perspectiva.</translation>
     </message>
     <message>
         <source>What is followed is not on the water, such as a head: its metres are off.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se sigue no está en el agua, como una cabeza: sus metros no son exactos.</translation>
     </message>
     <message>
         <source>Export the path</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar la trayectoria</translation>
     </message>
     <message>
         <source>Tables (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tablas (*.csv)</translation>
     </message>
     <message>
         <source>%1 is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está listo.</translation>
     </message>
     <message>
         <source>The path could not be exported</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo exportar la trayectoria</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TradeOffPanel</name>
     <message>
         <source>In percent of the median of its group</source>
-        <translation type="unfinished"></translation>
+        <translation>En porcentaje de la mediana de su grupo</translation>
     </message>
     <message>
         <source>By paddling time</source>
-        <translation type="unfinished"></translation>
+        <translation>Por tiempo de paleo</translation>
     </message>
     <message>
         <source>Runs</source>
@@ -21260,38 +21272,38 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Exact interval of the touches</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalo exacto de los toques</translation>
     </message>
     <message>
         <source>Missed a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Saltos/manga</translation>
     </message>
     <message>
         <source>Paddling %</source>
-        <translation type="unfinished"></translation>
+        <translation>Paleo %</translation>
     </message>
     <message>
         <source>Total %</source>
-        <translation type="unfinished"></translation>
+        <translation>Total %</translation>
     </message>
     <message>
         <source>No group has enough whole runs to be divided.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún grupo tiene suficientes mangas enteras para dividirlo.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::TrialList</name>
     <message>
         <source>New athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo deportista</translation>
     </message>
     <message>
         <source>Enter adds a time trial of that athlete; Esc gives the keys back to the film</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro añade una contrarreloj de ese deportista; Esc devuelve las teclas al vídeo</translation>
     </message>
     <message>
         <source>A time trial needs the name of its athlete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una contrarreloj necesita el nombre de su deportista.</translation>
     </message>
     <message>
         <source>Pos</source>
@@ -21311,15 +21323,15 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>⚠ missing</source>
-        <translation type="unfinished"></translation>
+        <translation>⚠ falta</translation>
     </message>
     <message>
         <source>%1 is not in the folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no está en la carpeta</translation>
     </message>
     <message>
         <source>Add an athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir un deportista</translation>
     </message>
     <message>
         <source>Re&amp;name the athlete</source>
@@ -21327,7 +21339,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Film…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vídeo…</translation>
     </message>
     <message>
         <source>R&amp;emove the trial</source>
@@ -21339,7 +21351,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Chooses the film of the selected trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige el vídeo de la contrarreloj seleccionada</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -21347,7 +21359,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Removes the selected trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Quita la contrarreloj seleccionada</translation>
     </message>
 </context>
 <context>
@@ -21382,19 +21394,19 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>%1 boats</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 barcos</translation>
     </message>
     <message>
         <source>How many boats go on to the heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuántos barcos pasan a las series</translation>
     </message>
     <message>
         <source>Make heats from the trials</source>
-        <translation type="unfinished"></translation>
+        <translation>Hacer series a partir de las contrarrelojes</translation>
     </message>
     <message>
         <source>Heats of four, the fastest against the slowest. Heats that exist stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Series de cuatro, los más rápidos contra los más lentos. Las series que existen se mantienen.</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -21406,15 +21418,15 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>A click shows the frame of a split</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic muestra el fotograma de un parcial</translation>
     </message>
     <message>
         <source>gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>puerta %1</translation>
     </message>
     <message>
         <source>roll</source>
-        <translation type="unfinished"></translation>
+        <translation>esquimotaje</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -21422,58 +21434,58 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>time trial of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>contrarreloj de %1</translation>
     </message>
     <message>
         <source>films imported</source>
-        <translation type="unfinished"></translation>
+        <translation>vídeos importados</translation>
     </message>
     <message>
         <source>film of the trial</source>
-        <translation type="unfinished"></translation>
+        <translation>vídeo de la contrarreloj</translation>
     </message>
     <message>
         <source>athlete renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre de deportista cambiado</translation>
     </message>
     <message>
         <source>time trial removed</source>
-        <translation type="unfinished"></translation>
+        <translation>contrarreloj quitada</translation>
     </message>
     <message>
         <source>No trial has a time yet: heats are made from the fastest ones.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna contrarreloj tiene aún un tiempo: las series se hacen con las más rápidas.</translation>
     </message>
     <message>
         <source>There are heats already. They stay as they are, and those from the trials come behind them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay series. Se quedan como están, y las de las contrarrelojes van detrás.</translation>
     </message>
     <message>
         <source>Make heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Hacer series</translation>
     </message>
     <message>
         <source>heats from the trials</source>
-        <translation type="unfinished"></translation>
+        <translation>series a partir de las contrarrelojes</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::Updates</name>
     <message>
         <source>Newer versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Versiones nuevas</translation>
     </message>
     <message>
         <source>May Kavela look once a day whether there is a newer version? It tells the server the version that you have, and nothing else. Without a yes it never looks by itself. You can change this in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Puede Kavela mirar una vez al día si hay una versión nueva? Le dice al servidor la versión que tienes, y nada más. Sin un sí no mira nunca por su cuenta. Puedes cambiarlo en los ajustes.</translation>
     </message>
     <message>
         <source>Yes, look once a day</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí, mirar una vez al día</translation>
     </message>
     <message>
         <source>Looking for a newer version…</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando una versión nueva…</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -21508,7 +21520,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Turn to the</source>
-        <translation type="unfinished"></translation>
+        <translation>Giro a la</translation>
     </message>
     <message>
         <source>Style</source>
@@ -21520,7 +21532,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Gate %1 is no upstream gate. N goes to the next one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La puerta %1 no es un remonte. N va al siguiente.</translation>
     </message>
     <message>
         <source>%1 of gate %2</source>
@@ -21536,11 +21548,11 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>The marks of gate %1 are removed. Ctrl+Z brings them back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las marcas de la puerta %1 se han quitado. Ctrl+Z las recupera.</translation>
     </message>
     <message>
         <source>Gate %1 is no upstream gate</source>
-        <translation type="unfinished"></translation>
+        <translation>La puerta %1 no es un remonte</translation>
     </message>
     <message>
         <source>Gate %1: M marks the %2</source>
@@ -21552,11 +21564,11 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>%1 s in the gate</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s en la puerta</translation>
     </message>
     <message>
         <source>gate %1</source>
-        <translation type="unfinished"></translation>
+        <translation>puerta %1</translation>
     </message>
 </context>
 <context>
@@ -21565,26 +21577,28 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
         <source>No test yet.
 
 Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay pruebas.
+
+Añade una a mano con Ctrl+N, o suelta aquí archivos de parciales y grabaciones.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::VariabilityDialog</name>
     <message>
         <source>There is no measurement in this list.</source>
-        <translation type="unfinished"></translation>
+        <translation>En esta lista no hay ninguna medición.</translation>
     </message>
     <message>
         <source>All %1 measurements of this list are there already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las %1 mediciones de esta lista ya están.</translation>
     </message>
     <message>
         <source>1 measurement is new.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 medición es nueva.</translation>
     </message>
     <message>
         <source>1 other is there already.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 más ya está.</translation>
     </message>
     <message>
         <source>Import variability</source>
@@ -21592,11 +21606,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>1 line is left out:</source>
-        <translation type="unfinished"></translation>
+        <translation>1 línea se omite:</translation>
     </message>
     <message>
         <source>Add 1 measurement</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir 1 medición</translation>
     </message>
     <message>
         <source>Line</source>
@@ -21604,34 +21618,34 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Reason</source>
-        <translation type="unfinished"></translation>
+        <translation>Motivo</translation>
     </message>
     <message numerus="yes">
         <source>%n measurements are new.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n medición es nueva.</numerusform>
+            <numerusform>%n mediciones son nuevas.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n others are there already.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n más ya está.</numerusform>
+            <numerusform>%n más ya están.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n lines are left out:</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n línea se omite:</numerusform>
+            <numerusform>%n líneas se omiten:</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Add %n measurements</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Añadir %n medición</numerusform>
+            <numerusform>Añadir %n mediciones</numerusform>
         </translation>
     </message>
 </context>
@@ -21702,7 +21716,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>done on</source>
-        <translation type="unfinished"></translation>
+        <translation>hecho el</translation>
     </message>
     <message>
         <source>Endurance test</source>
@@ -21714,23 +21728,23 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Injured part</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte lesionada</translation>
     </message>
     <message>
         <source>Health notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notas de salud</translation>
     </message>
     <message>
         <source>“%1” are no dates. Write them as 2026-03-10, with commas between.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no son fechas. Escríbelas como 2026-03-10, separadas por comas.</translation>
     </message>
     <message>
         <source>dates of tests</source>
-        <translation type="unfinished"></translation>
+        <translation>fechas de pruebas</translation>
     </message>
     <message>
         <source>load</source>
-        <translation type="unfinished"></translation>
+        <translation>carga</translation>
     </message>
     <message>
         <source>Load</source>
@@ -21738,19 +21752,19 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>health</source>
-        <translation type="unfinished"></translation>
+        <translation>salud</translation>
     </message>
     <message>
         <source>Health</source>
-        <translation type="unfinished"></translation>
+        <translation>Salud</translation>
     </message>
     <message>
         <source>One per line</source>
-        <translation type="unfinished"></translation>
+        <translation>Uno por línea</translation>
     </message>
     <message>
         <source>goals of the week</source>
-        <translation type="unfinished"></translation>
+        <translation>objetivos de la semana</translation>
     </message>
     <message>
         <source>Goals</source>
@@ -21758,7 +21772,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Week %1 · from %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana %1 · desde %2</translation>
     </message>
     <message>
         <source>Week %1</source>
@@ -21766,7 +21780,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>%1 weeks are chosen: load, cycles and place go into all of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay %1 semanas elegidas: la carga, los ciclos y el lugar van a todas ellas.</translation>
     </message>
 </context>
 <context>
@@ -21793,7 +21807,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>On no day of this week</source>
-        <translation type="unfinished"></translation>
+        <translation>En ningún día de esta semana</translation>
     </message>
     <message>
         <source>Session</source>
@@ -21804,11 +21818,11 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::WhyKeys</name>
     <message>
         <source>Go to a number first, or hold Alt and click on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ve antes a un número, o haz clic en él manteniendo Alt.</translation>
     </message>
     <message>
         <source>Nothing was computed here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí no se ha calculado nada.</translation>
     </message>
 </context>
 <context>
@@ -21942,7 +21956,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     <name>kavela::desktop::Workspace</name>
     <message>
         <source>Save the changes to %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Guardar los cambios de %1?</translation>
     </message>
 </context>
 <context>
@@ -21953,7 +21967,7 @@ Add one by hand with Ctrl+N, or drop split files and recordings here.</source>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mes</translation>
     </message>
     <message>
         <source>Macrocycle</source>
