@@ -1173,7 +1173,7 @@
     </message>
     <message>
         <source>Place</source>
-        <translation>Puesto</translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>On-water test</source>
@@ -3734,7 +3734,7 @@
     </message>
     <message>
         <source>Place</source>
-        <translation>Puesto</translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>Date</source>
@@ -5216,7 +5216,7 @@
     </message>
     <message>
         <source>Move the selected mark &amp;here</source>
-        <translation>Mover aquí &amp;la marca seleccionada</translation>
+        <translation>&amp;Mover aquí la marca seleccionada</translation>
     </message>
     <message>
         <source>Mark one frame &amp;earlier</source>
@@ -6016,7 +6016,7 @@
     </message>
     <message>
         <source>&amp;Import .kvb file</source>
-        <translation>Impor&amp;tar archivo .kvb</translation>
+        <translation>&amp;Importar archivo .kvb</translation>
     </message>
     <message>
         <source>Import .s&amp;bm file</source>
@@ -6024,7 +6024,7 @@
     </message>
     <message>
         <source>Import from a &amp;watch or logger…</source>
-        <translation>Importar de &amp;un reloj o registrador…</translation>
+        <translation>Importar de un reloj o re&amp;gistrador…</translation>
     </message>
     <message>
         <source>Move the trac&amp;k of the watch in time…</source>
@@ -6040,7 +6040,7 @@
     </message>
     <message>
         <source>&amp;Export the strokes…</source>
-        <translation>Exportar &amp;las paladas…</translation>
+        <translation>&amp;Exportar las paladas…</translation>
     </message>
     <message>
         <source>Export the &amp;turns…</source>
@@ -6156,7 +6156,7 @@
     </message>
     <message>
         <source>&amp;Charts</source>
-        <translation>G&amp;ráficos</translation>
+        <translation>&amp;Gráficos</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -6260,7 +6260,7 @@
     </message>
     <message>
         <source>Reckon with the camera&apos;s &amp;clock</source>
-        <translation>Contar con el &amp;reloj de la cámara</translation>
+        <translation>Contar con el re&amp;loj de la cámara</translation>
     </message>
     <message>
         <source>&amp;Remove the boat from the list</source>
@@ -6272,7 +6272,7 @@
     </message>
     <message>
         <source>&amp;Open the film of the start in front</source>
-        <translation>Abrir &amp;el vídeo de la salida de delante</translation>
+        <translation>&amp;Abrir el vídeo de la salida de delante</translation>
     </message>
     <message>
         <source>&amp;Previous start</source>
@@ -6288,15 +6288,15 @@
     </message>
     <message>
         <source>Agree to all that are &amp;sure</source>
-        <translation>Confirmar &amp;todos los seguros</translation>
+        <translation>Confirmar todos los &amp;seguros</translation>
     </message>
     <message>
         <source>Films from here on: one start &amp;earlier</source>
-        <translation>Vídeos desde aquí: &amp;una salida antes</translation>
+        <translation>Vídeos desde aquí: una salida an&amp;tes</translation>
     </message>
     <message>
         <source>Films from here on: one start late&amp;r</source>
-        <translation>&amp;Vídeos desde aquí: una salida después</translation>
+        <translation>Vídeos desde aquí: una salida d&amp;espués</translation>
     </message>
     <message>
         <source>Did not start, or did after all</source>
@@ -6344,7 +6344,7 @@
     </message>
     <message>
         <source>&amp;Team</source>
-        <translation>E&amp;quipo</translation>
+        <translation>&amp;Equipo</translation>
     </message>
     <message>
         <source>&amp;New athlete…</source>
@@ -6388,7 +6388,7 @@
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation>Buscar &amp;un deportista</translation>
+        <translation>&amp;Buscar un deportista</translation>
     </message>
     <message>
         <source>Take &amp;results over…</source>
@@ -6396,11 +6396,11 @@
     </message>
     <message>
         <source>Cate&amp;gorization report…</source>
-        <translation>Informe &amp;de categorización…</translation>
+        <translation>Informe de cate&amp;gorización…</translation>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
-        <translation>Guardar e&amp;l gráfico…</translation>
+        <translation>Guardar el gr&amp;áfico…</translation>
     </message>
     <message>
         <source>&amp;Edit the cell</source>
@@ -6648,7 +6648,7 @@
     </message>
     <message>
         <source>&amp;Duplicate the test</source>
-        <translation>Duplicar la &amp;prueba</translation>
+        <translation>&amp;Duplicar la prueba</translation>
     </message>
     <message>
         <source>&amp;Previous test</source>
@@ -6692,7 +6692,7 @@
     </message>
     <message>
         <source>&amp;List of tests</source>
-        <translation>Lista de &amp;pruebas</translation>
+        <translation>&amp;Lista de pruebas</translation>
     </message>
     <message>
         <source>Choose an &amp;athlete</source>
@@ -6700,7 +6700,7 @@
     </message>
     <message>
         <source>Take in from a split &amp;file…</source>
-        <translation>&amp;Incorporar de un archivo de parciales…</translation>
+        <translation>Incorporar de un archivo de pa&amp;rciales…</translation>
     </message>
     <message>
         <source>Take in from a &amp;recording…</source>
@@ -6791,7 +6791,7 @@
     </message>
     <message>
         <source>&amp;Birth year</source>
-        <translation>&amp;Año de nacimiento</translation>
+        <translation>Año de na&amp;cimiento</translation>
     </message>
     <message>
         <source>&amp;Age group</source>
@@ -6845,7 +6845,7 @@
     </message>
     <message>
         <source>&amp;From</source>
-        <translation>D&amp;e</translation>
+        <translation>&amp;De</translation>
     </message>
     <message>
         <source>&amp;Preview and print…</source>
@@ -6974,7 +6974,7 @@
     </message>
     <message>
         <source>Place</source>
-        <translation>Puesto</translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>side of an attack</source>
@@ -7611,7 +7611,7 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     </message>
     <message>
         <source>&amp;Copy what is selected</source>
-        <translation>Copiar &amp;lo seleccionado</translation>
+        <translation>&amp;Copiar lo seleccionado</translation>
     </message>
     <message>
         <source>&amp;Save as CSV…</source>
@@ -7619,7 +7619,7 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     </message>
     <message>
         <source>C&amp;olumns</source>
-        <translation>Colum&amp;nas</translation>
+        <translation>C&amp;olumnas</translation>
     </message>
     <message>
         <source>Save the table</source>
@@ -7901,11 +7901,11 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     </message>
     <message>
         <source>From</source>
-        <translation>De</translation>
+        <translation>Desde</translation>
     </message>
     <message>
         <source>To</source>
-        <translation>A</translation>
+        <translation>Hasta</translation>
     </message>
     <message>
         <source>Spee&amp;d</source>
@@ -8043,7 +8043,7 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     </message>
     <message>
         <source>P&amp;art</source>
-        <translation>&amp;Parte</translation>
+        <translation>P&amp;arte</translation>
     </message>
     <message>
         <source>&amp;Begin here</source>
@@ -8371,7 +8371,7 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation>Puesto</translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>Date</source>
@@ -8407,7 +8407,7 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     </message>
     <message>
         <source>&amp;Gates</source>
-        <translation>Puer&amp;tas</translation>
+        <translation>&amp;Puertas</translation>
     </message>
     <message>
         <source>&amp;Upstream gates</source>
@@ -8696,7 +8696,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>Film of the selected trial or &amp;heat…</source>
-        <translation>&amp;Vídeo de la contrarreloj o serie seleccionada…</translation>
+        <translation>Vídeo de la contrarreloj o &amp;serie seleccionada…</translation>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
@@ -8720,7 +8720,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>&amp;Course of the cross race</source>
-        <translation>Recorrido de la &amp;carrera de cross</translation>
+        <translation>&amp;Recorrido de la carrera de cross</translation>
     </message>
     <message>
         <source>&amp;Previous trial or heat</source>
@@ -8732,7 +8732,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>Copy the &amp;results</source>
-        <translation>Copiar &amp;los resultados</translation>
+        <translation>Copiar los &amp;resultados</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
@@ -8995,7 +8995,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>&amp;Times</source>
-        <translation>Tiemp&amp;os</translation>
+        <translation>&amp;Tiempos</translation>
     </message>
     <message>
         <source>Dates</source>
@@ -9702,7 +9702,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>Then</source>
-        <translation>Entonces</translation>
+        <translation>Después</translation>
     </message>
     <message>
         <source>given up</source>
@@ -10029,7 +10029,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation>Lu&amp;gar</translation>
+        <translation>&amp;Lugar</translation>
     </message>
 </context>
 <context>
@@ -10112,7 +10112,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>&amp;Show what would be fetched</source>
-        <translation>Mostrar lo que &amp;se descargaría</translation>
+        <translation>&amp;Mostrar lo que se descargaría</translation>
     </message>
     <message>
         <source>&amp;Fetch the ticked films</source>
@@ -10120,11 +10120,11 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>Ca&amp;ncelar</translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message>
         <source>Tick &amp;all</source>
-        <translation>&amp;Marcar todos</translation>
+        <translation>Marcar &amp;todos</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
@@ -10211,7 +10211,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>Other se&amp;rvers that films may come from</source>
-        <translation>&amp;Otros servidores de los que pueden venir vídeos</translation>
+        <translation>Otros se&amp;rvidores de los que pueden venir vídeos</translation>
     </message>
     <message>
         <source>Show what would be fetched</source>
@@ -10539,7 +10539,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>Pre&amp;vious film</source>
-        <translation>Vídeo &amp;anterior</translation>
+        <translation>Vídeo an&amp;terior</translation>
     </message>
     <message>
         <source>&amp;List</source>
@@ -10693,7 +10693,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>Search f&amp;iles…</source>
-        <translation>&amp;Buscar en archivos…</translation>
+        <translation>Buscar en &amp;archivos…</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
@@ -10705,7 +10705,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation>Archivos &amp;que no se pudieron leer…</translation>
+        <translation>Archivos que no se pu&amp;dieron leer…</translation>
     </message>
     <message>
         <source>Save the result as &amp;CSV…</source>
@@ -11086,7 +11086,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>missed</source>
-        <translation>con salto</translation>
+        <translation>salto</translation>
     </message>
     <message>
         <source>touch</source>
@@ -11109,7 +11109,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>In</source>
-        <translation>En</translation>
+        <translation>Entrada</translation>
     </message>
     <message>
         <source>Out</source>
@@ -11415,7 +11415,7 @@ Pulsa Insert para añadir uno.</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation>Salida</translation>
+        <translation>Inicio</translation>
     </message>
     <message>
         <source>End</source>
@@ -11439,7 +11439,7 @@ Pulsa Insert para añadir uno.</translation>
     </message>
     <message>
         <source>Place</source>
-        <translation>Puesto</translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>Comment</source>
@@ -11909,7 +11909,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation>Lu&amp;gar</translation>
+        <translation>&amp;Lugar</translation>
     </message>
     <message>
         <source>&amp;Kind</source>
@@ -12070,7 +12070,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation>Salida</translation>
+        <translation>Iniciar</translation>
     </message>
 </context>
 <context>
@@ -12202,7 +12202,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>Kept</source>
-        <translation>Conservado</translation>
+        <translation>Conservadas</translation>
     </message>
     <message>
         <source>Asked last</source>
@@ -12432,7 +12432,7 @@ Las penalizaciones no se cuentan.</translation>
     <name>kavela::desktop::LossPage</name>
     <message>
         <source>Start</source>
-        <translation>Salida</translation>
+        <translation>Inicio</translation>
     </message>
     <message>
         <source>End</source>
@@ -12614,7 +12614,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>&amp;Read all again</source>
-        <translation>Volver a &amp;leer todo</translation>
+        <translation>&amp;Volver a leer todo</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
@@ -12630,7 +12630,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>&amp;Save the chart…</source>
-        <translation>Guardar el grá&amp;fico…</translation>
+        <translation>&amp;Guardar el gráfico…</translation>
     </message>
     <message>
         <source>&amp;Run</source>
@@ -12698,7 +12698,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>Gap &amp;along the course</source>
-        <translation>Diferencia a &amp;lo largo del recorrido</translation>
+        <translation>Diferencia a lo largo del &amp;recorrido</translation>
     </message>
     <message>
         <source>Table of s&amp;ections</source>
@@ -12722,7 +12722,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>Show the whole &amp;chart</source>
-        <translation>Mostrar el &amp;gráfico entero</translation>
+        <translation>Mostrar el gráfico &amp;entero</translation>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
@@ -12997,7 +12997,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation>Guardar el grá&amp;fico…</translation>
+        <translation>Guardar el &amp;gráfico…</translation>
     </message>
     <message>
         <source>&amp;Recording</source>
@@ -13029,7 +13029,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>Show this one a&amp;lone</source>
-        <translation>Mostrar solo &amp;esta</translation>
+        <translation>Mostrar solo es&amp;ta</translation>
     </message>
     <message>
         <source>&amp;Remove from the list</source>
@@ -13081,7 +13081,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>&amp;Charts</source>
-        <translation>G&amp;ráficos</translation>
+        <translation>&amp;Gráficos</translation>
     </message>
     <message>
         <source>Axes of the &amp;phone</source>
@@ -13097,7 +13097,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>Zoom &amp;in</source>
-        <translation>&amp;Ampliar</translation>
+        <translation>A&amp;mpliar</translation>
     </message>
     <message>
         <source>Zoom &amp;out</source>
@@ -13423,7 +13423,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>&amp;Later</source>
-        <translation>Desp&amp;ués</translation>
+        <translation>&amp;Más tarde</translation>
     </message>
     <message>
         <source>&amp;Download</source>
@@ -13431,7 +13431,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>Ca&amp;ncelar</translation>
+        <translation>&amp;Cancelar</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -13719,7 +13719,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation>Archivos &amp;que no se pudieron leer…</translation>
+        <translation>Archivos que no se pu&amp;dieron leer…</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
@@ -13727,7 +13727,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation>Guardar el grá&amp;fico…</translation>
+        <translation>Guardar el &amp;gráfico…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
@@ -13767,7 +13767,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>The &amp;whole chart</source>
-        <translation>El &amp;gráfico entero</translation>
+        <translation>El gráfico &amp;entero</translation>
     </message>
 </context>
 <context>
@@ -14321,7 +14321,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>&amp;Categories</source>
-        <translation>Cate&amp;gorías</translation>
+        <translation>&amp;Categorías</translation>
     </message>
     <message>
         <source>&amp;E-mail</source>
@@ -14386,7 +14386,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Remove the s&amp;eason</source>
-        <translation>Quitar la &amp;temporada</translation>
+        <translation>Quitar la t&amp;emporada</translation>
     </message>
     <message>
         <source>&amp;Session</source>
@@ -14394,7 +14394,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Sessions are in the plan: show &amp;it</source>
-        <translation>&amp;Las sesiones están en el plan: mostrarlo</translation>
+        <translation>Las sesiones están en el plan: m&amp;ostrarlo</translation>
     </message>
     <message>
         <source>&amp;New session…</source>
@@ -14426,7 +14426,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>&amp;Week</source>
-        <translation>Se&amp;mana</translation>
+        <translation>&amp;Semana</translation>
     </message>
     <message>
         <source>&amp;Previous week</source>
@@ -14474,7 +14474,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation>Buscar &amp;un deportista</translation>
+        <translation>&amp;Buscar un deportista</translation>
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
@@ -14490,11 +14490,11 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Open an o&amp;nline planning…</source>
-        <translation>Abrir una &amp;planificación en línea…</translation>
+        <translation>Abrir una planificación en &amp;línea…</translation>
     </message>
     <message>
         <source>Sa&amp;ve online…</source>
-        <translation>Guardar en &amp;línea…</translation>
+        <translation>&amp;Guardar en línea…</translation>
     </message>
     <message>
         <source>Athletes</source>
@@ -14699,7 +14699,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Left</source>
-        <translation>Izquierda</translation>
+        <translation>Resta</translation>
     </message>
 </context>
 <context>
@@ -14781,7 +14781,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Place</source>
-        <translation>Puesto</translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -14837,7 +14837,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Heats</source>
-        <translation>Series</translation>
+        <translation>Clasificatorias</translation>
     </message>
     <message>
         <source>Final</source>
@@ -14897,7 +14897,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     <name>kavela::desktop::QueryForm</name>
     <message>
         <source>Fi&amp;nd</source>
-        <translation>&amp;Buscar</translation>
+        <translation>B&amp;uscar</translation>
     </message>
     <message>
         <source>Words that its words begin with; a whole name in quotes</source>
@@ -14984,7 +14984,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>&amp;Times</source>
-        <translation>Tiemp&amp;os</translation>
+        <translation>&amp;Tiempos</translation>
     </message>
     <message>
         <source>&amp;Gap to the reference</source>
@@ -15032,7 +15032,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>C&amp;olumns</source>
-        <translation>Colum&amp;nas</translation>
+        <translation>C&amp;olumnas</translation>
     </message>
     <message>
         <source>&amp;Find a name</source>
@@ -15072,7 +15072,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>The results list as a &amp;table</source>
-        <translation>&amp;La lista de resultados como tabla</translation>
+        <translation>La lista de resultados como &amp;tabla</translation>
     </message>
     <message>
         <source>&amp;Clear the comparison</source>
@@ -15092,11 +15092,11 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>P&amp;enalties at the gates</source>
-        <translation>Penalizaciones en &amp;las puertas</translation>
+        <translation>P&amp;enalizaciones en las puertas</translation>
     </message>
     <message>
         <source>&amp;Totals</source>
-        <translation>Totale&amp;s</translation>
+        <translation>&amp;Totales</translation>
     </message>
     <message>
         <source>&amp;Penalties</source>
@@ -15112,7 +15112,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>&amp;Save the chart…</source>
-        <translation>Guardar el grá&amp;fico…</translation>
+        <translation>&amp;Guardar el gráfico…</translation>
     </message>
     <message>
         <source>&amp;Window</source>
@@ -15921,7 +15921,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Later b&amp;y</source>
-        <translation>Retra&amp;sar</translation>
+        <translation>Re&amp;trasar</translation>
     </message>
     <message>
         <source>Drag a curve with Shift, or press A, to move it in time</source>
@@ -15984,7 +15984,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Then</source>
-        <translation>Entonces</translation>
+        <translation>Después</translation>
     </message>
     <message>
         <source>stays</source>
@@ -16754,7 +16754,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Add a &amp;folder of races…</source>
-        <translation>Añadir &amp;una carpeta de carreras…</translation>
+        <translation>Añadir una &amp;carpeta de carreras…</translation>
     </message>
     <message>
         <source>Read &amp;again</source>
@@ -16766,7 +16766,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation>Archivos &amp;que no se pudieron leer…</translation>
+        <translation>Archivos que no se pu&amp;dieron leer…</translation>
     </message>
     <message>
         <source>&amp;Reports to look at and print…</source>
@@ -16774,11 +16774,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Report of the &amp;athlete as PDF…</source>
-        <translation>Informe del deportista &amp;como PDF…</translation>
+        <translation>Informe del &amp;deportista como PDF…</translation>
     </message>
     <message>
         <source>Report of the tea&amp;m as PDF…</source>
-        <translation>Informe de&amp;l equipo como PDF…</translation>
+        <translation>Informe del &amp;equipo como PDF…</translation>
     </message>
     <message>
         <source>Save the tab&amp;le as CSV…</source>
@@ -16786,7 +16786,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation>Guardar el grá&amp;fico…</translation>
+        <translation>Guardar el &amp;gráfico…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
@@ -16850,7 +16850,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Expect the places of a &amp;field…</source>
-        <translation>&amp;Puestos esperados entre unos participantes…</translation>
+        <translation>Puestos esperados entre unos &amp;participantes…</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
@@ -16912,7 +16912,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Rank</source>
-        <translation>Puesto</translation>
+        <translation>Ranking</translation>
     </message>
     <message>
         <source>Points</source>
@@ -17701,7 +17701,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Make times of 0 &amp;missing results</source>
-        <translation>Convertir los &amp;tiempos de 0 en resultados ausentes</translation>
+        <translation>Convertir los tiempos de 0 en resultados ausente&amp;s</translation>
     </message>
     <message>
         <source>&amp;Copy the table</source>
@@ -17709,7 +17709,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;What if</source>
-        <translation>&amp;Y si…: probar</translation>
+        <translation>&amp;Probar supuestos</translation>
     </message>
     <message>
         <source>&amp;Races</source>
@@ -17729,7 +17729,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Results from &amp;split files…</source>
-        <translation>Resultados &amp;de archivos de parciales…</translation>
+        <translation>Resultados de archivos de &amp;parciales…</translation>
     </message>
     <message>
         <source>Results from a &amp;list (position, total, penalty)…</source>
@@ -17737,7 +17737,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Results from a list with &amp;categories and clubs…</source>
-        <translation>&amp;Resultados de una lista con categorías y clubes…</translation>
+        <translation>Resultados de una lista con ca&amp;tegorías y clubes…</translation>
     </message>
     <message>
         <source>&amp;Athletes</source>
@@ -17789,7 +17789,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>What if…</source>
-        <translation>Y si…</translation>
+        <translation>Supuestos…</translation>
     </message>
     <message>
         <source>Try other times and penalties; nothing of it is kept (W)</source>
@@ -17801,7 +17801,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>What if: times and penalties typed now are tried only. End it (W) to go back to the real results.</source>
-        <translation>Y si: los tiempos y penalizaciones que se escriban ahora son solo de prueba. Termina (W) para volver a los resultados reales.</translation>
+        <translation>Supuestos: los tiempos y penalizaciones que se escriban ahora son solo de prueba. Termina (W) para volver a los resultados reales.</translation>
     </message>
     <message>
         <source>Add the races of the selection first (Ctrl+R), then athletes (Ctrl+N, or drop a .csv file).</source>
@@ -17824,7 +17824,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>End what if</source>
-        <translation>Terminar la prueba</translation>
+        <translation>Terminar supuestos</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
@@ -17913,7 +17913,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Roll</source>
-        <translation>Esquimotaje</translation>
+        <translation>Balanceo</translation>
     </message>
     <message>
         <source>Pitch</source>
@@ -17944,7 +17944,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>&amp;Place</source>
-        <translation>&amp;Puesto</translation>
+        <translation>Lu&amp;gar</translation>
     </message>
     <message>
         <source>&amp;Description</source>
@@ -18377,7 +18377,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation>Salida</translation>
+        <translation>Empezar</translation>
     </message>
     <message>
         <source>Shares the ticked files</source>
@@ -18443,7 +18443,7 @@ y %1 más</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation>Eliminar</translation>
+        <translation>Borrar</translation>
     </message>
     <message>
         <source>Files are being shared…</source>
@@ -18497,11 +18497,11 @@ y %1 más</translation>
     </message>
     <message>
         <source>Save what is seen as a &amp;picture…</source>
-        <translation>Guardar &amp;lo que se ve como imagen…</translation>
+        <translation>Guardar lo que se ve como &amp;imagen…</translation>
     </message>
     <message>
         <source>Save the &amp;water round the marks…</source>
-        <translation>Guardar el agua en &amp;torno a las marcas…</translation>
+        <translation>Guardar el a&amp;gua en torno a las marcas…</translation>
     </message>
     <message>
         <source>Save what is seen of the slit picture</source>
@@ -18561,7 +18561,7 @@ y %1 más</translation>
     </message>
     <message>
         <source>Draw a box round one &amp;boat</source>
-        <translation>&amp;Dibujar un recuadro alrededor de un barco</translation>
+        <translation>Dibujar un recuadro alrededor de un &amp;barco</translation>
     </message>
     <message>
         <source>&amp;Look for boats that cross it</source>
@@ -19144,7 +19144,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Taken</source>
-        <translation>Tomado</translation>
+        <translation>Elegida</translation>
     </message>
     <message>
         <source>Way</source>
@@ -19260,7 +19260,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Start</source>
-        <translation>Salida</translation>
+        <translation>Inicio</translation>
     </message>
     <message>
         <source>The end of a way comes after its beginning at %1.</source>
@@ -19412,7 +19412,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
-        <translation>Guardar e&amp;l gráfico…</translation>
+        <translation>Guardar el gr&amp;áfico…</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -19428,7 +19428,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>The first line holds the &amp;titles</source>
-        <translation>&amp;La primera línea contiene los títulos</translation>
+        <translation>La primera línea contiene los &amp;títulos</translation>
     </message>
     <message>
         <source>The first line is a ro&amp;w</source>
@@ -19448,7 +19448,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Sort &amp;downwards</source>
-        <translation>Ordenar &amp;de mayor a menor</translation>
+        <translation>Ordenar de mayor a &amp;menor</translation>
     </message>
     <message>
         <source>&amp;Group by it</source>
@@ -19456,7 +19456,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Tint it</source>
-        <translation>&amp;Colorearla</translation>
+        <translation>C&amp;olorearla</translation>
     </message>
     <message>
         <source>&amp;Chart of it</source>
@@ -19464,7 +19464,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Keep rows with…</source>
-        <translation>Conservar &amp;filas con…</translation>
+        <translation>&amp;Conservar filas con…</translation>
     </message>
     <message>
         <source>&amp;Leave it out</source>
@@ -19476,7 +19476,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation>Añadi&amp;r</translation>
+        <translation>&amp;Añadir</translation>
     </message>
     <message>
         <source>&amp;Total</source>
@@ -19500,7 +19500,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Another column…</source>
-        <translation>Otra &amp;columna…</translation>
+        <translation>O&amp;tra columna…</translation>
     </message>
     <message>
         <source>P&amp;ivot…</source>
@@ -19532,7 +19532,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>The &amp;whole chart</source>
-        <translation>El &amp;gráfico entero</translation>
+        <translation>El gráfico &amp;entero</translation>
     </message>
 </context>
 <context>
@@ -19834,7 +19834,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation>Lu&amp;gar</translation>
+        <translation>&amp;Lugar</translation>
     </message>
     <message>
         <source>&amp;Season</source>
@@ -19842,7 +19842,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>The positions are the &amp;final ones of the race</source>
-        <translation>&amp;Las posiciones son las finales de la carrera</translation>
+        <translation>Las posiciones son las &amp;finales de la carrera</translation>
     </message>
     <message>
         <source>&amp;Category</source>
@@ -19862,7 +19862,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Tick &amp;all</source>
-        <translation>&amp;Marcar todos</translation>
+        <translation>Marcar &amp;todos</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
@@ -19928,7 +19928,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation>Lu&amp;gar</translation>
+        <translation>&amp;Lugar</translation>
     </message>
     <message>
         <source>La&amp;ps</source>
@@ -19936,7 +19936,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Distance between the gates</source>
-        <translation>Distancia &amp;entre las puertas</translation>
+        <translation>&amp;Distancia entre las puertas</translation>
     </message>
     <message>
         <source>T&amp;urn limit</source>
@@ -19964,7 +19964,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Start</source>
-        <translation>Salida</translation>
+        <translation>Inicio</translation>
     </message>
     <message>
         <source>%1 strokes and %2 turns were found.</source>
@@ -20114,7 +20114,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Import official &amp;results…</source>
-        <translation>&amp;Importar resultados oficiales…</translation>
+        <translation>Importar &amp;resultados oficiales…</translation>
     </message>
     <message>
         <source>Compare &amp;with official results…</source>
@@ -20130,7 +20130,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Export data…</source>
-        <translation>Exportar &amp;los datos…</translation>
+        <translation>&amp;Exportar los datos…</translation>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
@@ -20150,7 +20150,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Race and &amp;course…</source>
-        <translation>&amp;Carrera y recorrido…</translation>
+        <translation>Carrera y recorri&amp;do…</translation>
     </message>
     <message>
         <source>Names of the &amp;films…</source>
@@ -20166,7 +20166,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation>Buscar &amp;un deportista</translation>
+        <translation>&amp;Buscar un deportista</translation>
     </message>
     <message>
         <source>Move the run up</source>
@@ -20206,7 +20206,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Gates</source>
-        <translation>Puer&amp;tas</translation>
+        <translation>&amp;Puertas</translation>
     </message>
     <message>
         <source>&amp;Touch: 2 s</source>
@@ -20254,7 +20254,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>The frames shown are &amp;one moment</source>
-        <translation>&amp;Los fotogramas mostrados son un mismo momento</translation>
+        <translation>Los fotogramas mostrados son &amp;un mismo momento</translation>
     </message>
     <message>
         <source>&amp;Draw the course…</source>
@@ -20262,7 +20262,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Sl&amp;it picture of the last camera</source>
-        <translation>&amp;Imagen de línea de la última cámara</translation>
+        <translation>Imagen de l&amp;ínea de la última cámara</translation>
     </message>
     <message>
         <source>There is no film here that has a slit picture.</source>
@@ -20799,7 +20799,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Save &amp;as…</source>
-        <translation>Guardar c&amp;omo…</translation>
+        <translation>Guardar &amp;como…</translation>
     </message>
     <message>
         <source>Open</source>
@@ -20847,7 +20847,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Home</source>
-        <translation>I&amp;nicio</translation>
+        <translation>&amp;Inicio</translation>
     </message>
     <message>
         <source>Se&amp;ttings…</source>
@@ -21081,7 +21081,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Export the path as CSV…</source>
-        <translation>Exportar la &amp;trayectoria como CSV…</translation>
+        <translation>&amp;Exportar la trayectoria como CSV…</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -21500,7 +21500,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>In</source>
-        <translation>En</translation>
+        <translation>Entrada</translation>
     </message>
     <message>
         <source>Out</source>
@@ -21685,11 +21685,11 @@ Añade una a mano con Ctrl+N, o suelta aquí archivos de parciales y grabaciones
     </message>
     <message>
         <source>From</source>
-        <translation>De</translation>
+        <translation>Desde</translation>
     </message>
     <message>
         <source>To</source>
-        <translation>A</translation>
+        <translation>Hasta</translation>
     </message>
 </context>
 <context>
@@ -21704,7 +21704,7 @@ Añade una a mano con Ctrl+N, o suelta aquí archivos de parciales y grabaciones
     </message>
     <message>
         <source>Place</source>
-        <translation>Puesto</translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>Event</source>
@@ -21748,7 +21748,7 @@ Añade una a mano con Ctrl+N, o suelta aquí archivos de parciales y grabaciones
     </message>
     <message>
         <source>Load</source>
-        <translation>Cargar</translation>
+        <translation>Carga</translation>
     </message>
     <message>
         <source>health</source>
@@ -21979,7 +21979,7 @@ Añade una a mano con Ctrl+N, o suelta aquí archivos de parciales y grabaciones
     </message>
     <message>
         <source>Load</source>
-        <translation>Cargar</translation>
+        <translation>Carga</translation>
     </message>
     <message>
         <source>Week</source>
