@@ -5216,7 +5216,7 @@
     </message>
     <message>
         <source>Move the selected mark &amp;here</source>
-        <translation>&amp;Mover aquí la marca seleccionada</translation>
+        <translation>Mover aquí &amp;la marca seleccionada</translation>
     </message>
     <message>
         <source>Mark one frame &amp;earlier</source>
@@ -6016,7 +6016,7 @@
     </message>
     <message>
         <source>&amp;Import .kvb file</source>
-        <translation>&amp;Importar archivo .kvb</translation>
+        <translation>Impor&amp;tar archivo .kvb</translation>
     </message>
     <message>
         <source>Import .s&amp;bm file</source>
@@ -6024,7 +6024,7 @@
     </message>
     <message>
         <source>Import from a &amp;watch or logger…</source>
-        <translation>Importar de un reloj o re&amp;gistrador…</translation>
+        <translation>Importar de &amp;un reloj o registrador…</translation>
     </message>
     <message>
         <source>Move the trac&amp;k of the watch in time…</source>
@@ -6040,7 +6040,7 @@
     </message>
     <message>
         <source>&amp;Export the strokes…</source>
-        <translation>&amp;Exportar las paladas…</translation>
+        <translation>Exportar &amp;las paladas…</translation>
     </message>
     <message>
         <source>Export the &amp;turns…</source>
@@ -6156,7 +6156,7 @@
     </message>
     <message>
         <source>&amp;Charts</source>
-        <translation>&amp;Gráficos</translation>
+        <translation>G&amp;ráficos</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -6260,7 +6260,7 @@
     </message>
     <message>
         <source>Reckon with the camera&apos;s &amp;clock</source>
-        <translation>Contar con el re&amp;loj de la cámara</translation>
+        <translation>Contar con el &amp;reloj de la cámara</translation>
     </message>
     <message>
         <source>&amp;Remove the boat from the list</source>
@@ -6272,7 +6272,7 @@
     </message>
     <message>
         <source>&amp;Open the film of the start in front</source>
-        <translation>&amp;Abrir el vídeo de la salida de delante</translation>
+        <translation>Abrir &amp;el vídeo de la salida de delante</translation>
     </message>
     <message>
         <source>&amp;Previous start</source>
@@ -6288,15 +6288,15 @@
     </message>
     <message>
         <source>Agree to all that are &amp;sure</source>
-        <translation>Confirmar todos los &amp;seguros</translation>
+        <translation>Confirmar &amp;todos los seguros</translation>
     </message>
     <message>
         <source>Films from here on: one start &amp;earlier</source>
-        <translation>Vídeos desde aquí: una salida an&amp;tes</translation>
+        <translation>Vídeos desde aquí: &amp;una salida antes</translation>
     </message>
     <message>
         <source>Films from here on: one start late&amp;r</source>
-        <translation>Vídeos desde aquí: una salida d&amp;espués</translation>
+        <translation>&amp;Vídeos desde aquí: una salida después</translation>
     </message>
     <message>
         <source>Did not start, or did after all</source>
@@ -6344,7 +6344,7 @@
     </message>
     <message>
         <source>&amp;Team</source>
-        <translation>&amp;Equipo</translation>
+        <translation>E&amp;quipo</translation>
     </message>
     <message>
         <source>&amp;New athlete…</source>
@@ -6388,7 +6388,7 @@
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation>&amp;Buscar un deportista</translation>
+        <translation>Buscar &amp;un deportista</translation>
     </message>
     <message>
         <source>Take &amp;results over…</source>
@@ -6396,11 +6396,11 @@
     </message>
     <message>
         <source>Cate&amp;gorization report…</source>
-        <translation>Informe de cate&amp;gorización…</translation>
+        <translation>Informe &amp;de categorización…</translation>
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
-        <translation>Guardar el gr&amp;áfico…</translation>
+        <translation>Guardar e&amp;l gráfico…</translation>
     </message>
     <message>
         <source>&amp;Edit the cell</source>
@@ -6648,7 +6648,7 @@
     </message>
     <message>
         <source>&amp;Duplicate the test</source>
-        <translation>&amp;Duplicar la prueba</translation>
+        <translation>Duplicar la &amp;prueba</translation>
     </message>
     <message>
         <source>&amp;Previous test</source>
@@ -6692,7 +6692,7 @@
     </message>
     <message>
         <source>&amp;List of tests</source>
-        <translation>&amp;Lista de pruebas</translation>
+        <translation>Lista de &amp;pruebas</translation>
     </message>
     <message>
         <source>Choose an &amp;athlete</source>
@@ -6700,7 +6700,7 @@
     </message>
     <message>
         <source>Take in from a split &amp;file…</source>
-        <translation>Incorporar de un archivo de pa&amp;rciales…</translation>
+        <translation>&amp;Incorporar de un archivo de parciales…</translation>
     </message>
     <message>
         <source>Take in from a &amp;recording…</source>
@@ -6791,7 +6791,7 @@
     </message>
     <message>
         <source>&amp;Birth year</source>
-        <translation>Año de na&amp;cimiento</translation>
+        <translation>&amp;Año de nacimiento</translation>
     </message>
     <message>
         <source>&amp;Age group</source>
@@ -6845,7 +6845,7 @@
     </message>
     <message>
         <source>&amp;From</source>
-        <translation>&amp;De</translation>
+        <translation>D&amp;e</translation>
     </message>
     <message>
         <source>&amp;Preview and print…</source>
@@ -7611,7 +7611,7 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     </message>
     <message>
         <source>&amp;Copy what is selected</source>
-        <translation>&amp;Copiar lo seleccionado</translation>
+        <translation>Copiar &amp;lo seleccionado</translation>
     </message>
     <message>
         <source>&amp;Save as CSV…</source>
@@ -7619,7 +7619,7 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     </message>
     <message>
         <source>C&amp;olumns</source>
-        <translation>C&amp;olumnas</translation>
+        <translation>Colum&amp;nas</translation>
     </message>
     <message>
         <source>Save the table</source>
@@ -8043,7 +8043,7 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     </message>
     <message>
         <source>P&amp;art</source>
-        <translation>P&amp;arte</translation>
+        <translation>&amp;Parte</translation>
     </message>
     <message>
         <source>&amp;Begin here</source>
@@ -8407,7 +8407,7 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     </message>
     <message>
         <source>&amp;Gates</source>
-        <translation>&amp;Puertas</translation>
+        <translation>Puer&amp;tas</translation>
     </message>
     <message>
         <source>&amp;Upstream gates</source>
@@ -8696,7 +8696,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>Film of the selected trial or &amp;heat…</source>
-        <translation>Vídeo de la contrarreloj o &amp;serie seleccionada…</translation>
+        <translation>&amp;Vídeo de la contrarreloj o serie seleccionada…</translation>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
@@ -8720,7 +8720,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>&amp;Course of the cross race</source>
-        <translation>&amp;Recorrido de la carrera de cross</translation>
+        <translation>Recorrido de la &amp;carrera de cross</translation>
     </message>
     <message>
         <source>&amp;Previous trial or heat</source>
@@ -8732,7 +8732,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>Copy the &amp;results</source>
-        <translation>Copiar los &amp;resultados</translation>
+        <translation>Copiar &amp;los resultados</translation>
     </message>
     <message>
         <source>&amp;Mark</source>
@@ -8995,7 +8995,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>&amp;Times</source>
-        <translation>&amp;Tiempos</translation>
+        <translation>Tiemp&amp;os</translation>
     </message>
     <message>
         <source>Dates</source>
@@ -10029,7 +10029,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation>&amp;Lugar</translation>
+        <translation>Lu&amp;gar</translation>
     </message>
 </context>
 <context>
@@ -10112,7 +10112,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>&amp;Show what would be fetched</source>
-        <translation>&amp;Mostrar lo que se descargaría</translation>
+        <translation>Mostrar lo que &amp;se descargaría</translation>
     </message>
     <message>
         <source>&amp;Fetch the ticked films</source>
@@ -10120,11 +10120,11 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>&amp;Cancelar</translation>
+        <translation>Ca&amp;ncelar</translation>
     </message>
     <message>
         <source>Tick &amp;all</source>
-        <translation>Marcar &amp;todos</translation>
+        <translation>&amp;Marcar todos</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
@@ -10211,7 +10211,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>Other se&amp;rvers that films may come from</source>
-        <translation>Otros se&amp;rvidores de los que pueden venir vídeos</translation>
+        <translation>&amp;Otros servidores de los que pueden venir vídeos</translation>
     </message>
     <message>
         <source>Show what would be fetched</source>
@@ -10539,7 +10539,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>Pre&amp;vious film</source>
-        <translation>Vídeo an&amp;terior</translation>
+        <translation>Vídeo &amp;anterior</translation>
     </message>
     <message>
         <source>&amp;List</source>
@@ -10693,7 +10693,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>Search f&amp;iles…</source>
-        <translation>Buscar en &amp;archivos…</translation>
+        <translation>&amp;Buscar en archivos…</translation>
     </message>
     <message>
         <source>&amp;Read again</source>
@@ -10705,7 +10705,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation>Archivos que no se pu&amp;dieron leer…</translation>
+        <translation>Archivos &amp;que no se pudieron leer…</translation>
     </message>
     <message>
         <source>Save the result as &amp;CSV…</source>
@@ -11909,7 +11909,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation>&amp;Lugar</translation>
+        <translation>Lu&amp;gar</translation>
     </message>
     <message>
         <source>&amp;Kind</source>
@@ -12614,7 +12614,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>&amp;Read all again</source>
-        <translation>&amp;Volver a leer todo</translation>
+        <translation>Volver a &amp;leer todo</translation>
     </message>
     <message>
         <source>S&amp;top reading</source>
@@ -12630,7 +12630,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>&amp;Save the chart…</source>
-        <translation>&amp;Guardar el gráfico…</translation>
+        <translation>Guardar el grá&amp;fico…</translation>
     </message>
     <message>
         <source>&amp;Run</source>
@@ -12698,7 +12698,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>Gap &amp;along the course</source>
-        <translation>Diferencia a lo largo del &amp;recorrido</translation>
+        <translation>Diferencia a &amp;lo largo del recorrido</translation>
     </message>
     <message>
         <source>Table of s&amp;ections</source>
@@ -12722,7 +12722,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>Show the whole &amp;chart</source>
-        <translation>Mostrar el gráfico &amp;entero</translation>
+        <translation>Mostrar el &amp;gráfico entero</translation>
     </message>
     <message>
         <source>&amp;Blue to orange instead of green to red</source>
@@ -12997,7 +12997,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation>Guardar el &amp;gráfico…</translation>
+        <translation>Guardar el grá&amp;fico…</translation>
     </message>
     <message>
         <source>&amp;Recording</source>
@@ -13029,7 +13029,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>Show this one a&amp;lone</source>
-        <translation>Mostrar solo es&amp;ta</translation>
+        <translation>Mostrar solo &amp;esta</translation>
     </message>
     <message>
         <source>&amp;Remove from the list</source>
@@ -13081,7 +13081,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>&amp;Charts</source>
-        <translation>&amp;Gráficos</translation>
+        <translation>G&amp;ráficos</translation>
     </message>
     <message>
         <source>Axes of the &amp;phone</source>
@@ -13097,7 +13097,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>Zoom &amp;in</source>
-        <translation>A&amp;mpliar</translation>
+        <translation>&amp;Ampliar</translation>
     </message>
     <message>
         <source>Zoom &amp;out</source>
@@ -13431,7 +13431,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation>&amp;Cancelar</translation>
+        <translation>Ca&amp;ncelar</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -13719,7 +13719,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation>Archivos que no se pu&amp;dieron leer…</translation>
+        <translation>Archivos &amp;que no se pudieron leer…</translation>
     </message>
     <message>
         <source>Save the &amp;table as CSV…</source>
@@ -13727,7 +13727,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation>Guardar el &amp;gráfico…</translation>
+        <translation>Guardar el grá&amp;fico…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
@@ -13767,7 +13767,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>The &amp;whole chart</source>
-        <translation>El gráfico &amp;entero</translation>
+        <translation>El &amp;gráfico entero</translation>
     </message>
 </context>
 <context>
@@ -14321,7 +14321,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>&amp;Categories</source>
-        <translation>&amp;Categorías</translation>
+        <translation>Cate&amp;gorías</translation>
     </message>
     <message>
         <source>&amp;E-mail</source>
@@ -14386,7 +14386,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Remove the s&amp;eason</source>
-        <translation>Quitar la t&amp;emporada</translation>
+        <translation>Quitar la &amp;temporada</translation>
     </message>
     <message>
         <source>&amp;Session</source>
@@ -14394,7 +14394,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Sessions are in the plan: show &amp;it</source>
-        <translation>Las sesiones están en el plan: m&amp;ostrarlo</translation>
+        <translation>&amp;Las sesiones están en el plan: mostrarlo</translation>
     </message>
     <message>
         <source>&amp;New session…</source>
@@ -14426,7 +14426,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>&amp;Week</source>
-        <translation>&amp;Semana</translation>
+        <translation>Se&amp;mana</translation>
     </message>
     <message>
         <source>&amp;Previous week</source>
@@ -14474,7 +14474,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation>&amp;Buscar un deportista</translation>
+        <translation>Buscar &amp;un deportista</translation>
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
@@ -14490,11 +14490,11 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Open an o&amp;nline planning…</source>
-        <translation>Abrir una planificación en &amp;línea…</translation>
+        <translation>Abrir una &amp;planificación en línea…</translation>
     </message>
     <message>
         <source>Sa&amp;ve online…</source>
-        <translation>&amp;Guardar en línea…</translation>
+        <translation>Guardar en &amp;línea…</translation>
     </message>
     <message>
         <source>Athletes</source>
@@ -14897,7 +14897,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     <name>kavela::desktop::QueryForm</name>
     <message>
         <source>Fi&amp;nd</source>
-        <translation>B&amp;uscar</translation>
+        <translation>&amp;Buscar</translation>
     </message>
     <message>
         <source>Words that its words begin with; a whole name in quotes</source>
@@ -14984,7 +14984,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>&amp;Times</source>
-        <translation>&amp;Tiempos</translation>
+        <translation>Tiemp&amp;os</translation>
     </message>
     <message>
         <source>&amp;Gap to the reference</source>
@@ -15032,7 +15032,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>C&amp;olumns</source>
-        <translation>C&amp;olumnas</translation>
+        <translation>Colum&amp;nas</translation>
     </message>
     <message>
         <source>&amp;Find a name</source>
@@ -15072,7 +15072,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>The results list as a &amp;table</source>
-        <translation>La lista de resultados como &amp;tabla</translation>
+        <translation>&amp;La lista de resultados como tabla</translation>
     </message>
     <message>
         <source>&amp;Clear the comparison</source>
@@ -15092,11 +15092,11 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>P&amp;enalties at the gates</source>
-        <translation>P&amp;enalizaciones en las puertas</translation>
+        <translation>Penalizaciones en &amp;las puertas</translation>
     </message>
     <message>
         <source>&amp;Totals</source>
-        <translation>&amp;Totales</translation>
+        <translation>Totale&amp;s</translation>
     </message>
     <message>
         <source>&amp;Penalties</source>
@@ -15112,7 +15112,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>&amp;Save the chart…</source>
-        <translation>&amp;Guardar el gráfico…</translation>
+        <translation>Guardar el grá&amp;fico…</translation>
     </message>
     <message>
         <source>&amp;Window</source>
@@ -15921,7 +15921,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Later b&amp;y</source>
-        <translation>Re&amp;trasar</translation>
+        <translation>Retra&amp;sar</translation>
     </message>
     <message>
         <source>Drag a curve with Shift, or press A, to move it in time</source>
@@ -16754,7 +16754,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Add a &amp;folder of races…</source>
-        <translation>Añadir una &amp;carpeta de carreras…</translation>
+        <translation>Añadir &amp;una carpeta de carreras…</translation>
     </message>
     <message>
         <source>Read &amp;again</source>
@@ -16766,7 +16766,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Files that could not be rea&amp;d…</source>
-        <translation>Archivos que no se pu&amp;dieron leer…</translation>
+        <translation>Archivos &amp;que no se pudieron leer…</translation>
     </message>
     <message>
         <source>&amp;Reports to look at and print…</source>
@@ -16774,11 +16774,11 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Report of the &amp;athlete as PDF…</source>
-        <translation>Informe del &amp;deportista como PDF…</translation>
+        <translation>Informe del deportista &amp;como PDF…</translation>
     </message>
     <message>
         <source>Report of the tea&amp;m as PDF…</source>
-        <translation>Informe del &amp;equipo como PDF…</translation>
+        <translation>Informe de&amp;l equipo como PDF…</translation>
     </message>
     <message>
         <source>Save the tab&amp;le as CSV…</source>
@@ -16786,7 +16786,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Save the &amp;chart…</source>
-        <translation>Guardar el &amp;gráfico…</translation>
+        <translation>Guardar el grá&amp;fico…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
@@ -16850,7 +16850,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Expect the places of a &amp;field…</source>
-        <translation>Puestos esperados entre unos &amp;participantes…</translation>
+        <translation>&amp;Puestos esperados entre unos participantes…</translation>
     </message>
     <message>
         <source>Pa&amp;ge for an athlete…</source>
@@ -17701,7 +17701,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Make times of 0 &amp;missing results</source>
-        <translation>Convertir los tiempos de 0 en resultados ausente&amp;s</translation>
+        <translation>Convertir los &amp;tiempos de 0 en resultados ausentes</translation>
     </message>
     <message>
         <source>&amp;Copy the table</source>
@@ -17729,7 +17729,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Results from &amp;split files…</source>
-        <translation>Resultados de archivos de &amp;parciales…</translation>
+        <translation>Resultados &amp;de archivos de parciales…</translation>
     </message>
     <message>
         <source>Results from a &amp;list (position, total, penalty)…</source>
@@ -17737,7 +17737,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>Results from a list with &amp;categories and clubs…</source>
-        <translation>Resultados de una lista con ca&amp;tegorías y clubes…</translation>
+        <translation>&amp;Resultados de una lista con categorías y clubes…</translation>
     </message>
     <message>
         <source>&amp;Athletes</source>
@@ -18497,11 +18497,11 @@ y %1 más</translation>
     </message>
     <message>
         <source>Save what is seen as a &amp;picture…</source>
-        <translation>Guardar lo que se ve como &amp;imagen…</translation>
+        <translation>Guardar &amp;lo que se ve como imagen…</translation>
     </message>
     <message>
         <source>Save the &amp;water round the marks…</source>
-        <translation>Guardar el a&amp;gua en torno a las marcas…</translation>
+        <translation>Guardar el agua en &amp;torno a las marcas…</translation>
     </message>
     <message>
         <source>Save what is seen of the slit picture</source>
@@ -18561,7 +18561,7 @@ y %1 más</translation>
     </message>
     <message>
         <source>Draw a box round one &amp;boat</source>
-        <translation>Dibujar un recuadro alrededor de un &amp;barco</translation>
+        <translation>&amp;Dibujar un recuadro alrededor de un barco</translation>
     </message>
     <message>
         <source>&amp;Look for boats that cross it</source>
@@ -19412,7 +19412,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Save the c&amp;hart…</source>
-        <translation>Guardar el gr&amp;áfico…</translation>
+        <translation>Guardar e&amp;l gráfico…</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -19428,7 +19428,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>The first line holds the &amp;titles</source>
-        <translation>La primera línea contiene los &amp;títulos</translation>
+        <translation>&amp;La primera línea contiene los títulos</translation>
     </message>
     <message>
         <source>The first line is a ro&amp;w</source>
@@ -19448,7 +19448,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Sort &amp;downwards</source>
-        <translation>Ordenar de mayor a &amp;menor</translation>
+        <translation>Ordenar &amp;de mayor a menor</translation>
     </message>
     <message>
         <source>&amp;Group by it</source>
@@ -19456,7 +19456,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Tint it</source>
-        <translation>C&amp;olorearla</translation>
+        <translation>&amp;Colorearla</translation>
     </message>
     <message>
         <source>&amp;Chart of it</source>
@@ -19464,7 +19464,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Keep rows with…</source>
-        <translation>&amp;Conservar filas con…</translation>
+        <translation>Conservar &amp;filas con…</translation>
     </message>
     <message>
         <source>&amp;Leave it out</source>
@@ -19476,7 +19476,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation>&amp;Añadir</translation>
+        <translation>Añadi&amp;r</translation>
     </message>
     <message>
         <source>&amp;Total</source>
@@ -19500,7 +19500,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Another column…</source>
-        <translation>O&amp;tra columna…</translation>
+        <translation>Otra &amp;columna…</translation>
     </message>
     <message>
         <source>P&amp;ivot…</source>
@@ -19532,7 +19532,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>The &amp;whole chart</source>
-        <translation>El gráfico &amp;entero</translation>
+        <translation>El &amp;gráfico entero</translation>
     </message>
 </context>
 <context>
@@ -19834,7 +19834,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation>&amp;Lugar</translation>
+        <translation>Lu&amp;gar</translation>
     </message>
     <message>
         <source>&amp;Season</source>
@@ -19842,7 +19842,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>The positions are the &amp;final ones of the race</source>
-        <translation>Las posiciones son las &amp;finales de la carrera</translation>
+        <translation>&amp;Las posiciones son las finales de la carrera</translation>
     </message>
     <message>
         <source>&amp;Category</source>
@@ -19862,7 +19862,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Tick &amp;all</source>
-        <translation>Marcar &amp;todos</translation>
+        <translation>&amp;Marcar todos</translation>
     </message>
     <message>
         <source>Tick &amp;none</source>
@@ -19928,7 +19928,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation>&amp;Lugar</translation>
+        <translation>Lu&amp;gar</translation>
     </message>
     <message>
         <source>La&amp;ps</source>
@@ -19936,7 +19936,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Distance between the gates</source>
-        <translation>&amp;Distancia entre las puertas</translation>
+        <translation>Distancia &amp;entre las puertas</translation>
     </message>
     <message>
         <source>T&amp;urn limit</source>
@@ -20114,7 +20114,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Import official &amp;results…</source>
-        <translation>Importar &amp;resultados oficiales…</translation>
+        <translation>&amp;Importar resultados oficiales…</translation>
     </message>
     <message>
         <source>Compare &amp;with official results…</source>
@@ -20130,7 +20130,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Export data…</source>
-        <translation>&amp;Exportar los datos…</translation>
+        <translation>Exportar &amp;los datos…</translation>
     </message>
     <message>
         <source>Show in the race &amp;analyzer</source>
@@ -20150,7 +20150,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Race and &amp;course…</source>
-        <translation>Carrera y recorri&amp;do…</translation>
+        <translation>&amp;Carrera y recorrido…</translation>
     </message>
     <message>
         <source>Names of the &amp;films…</source>
@@ -20166,7 +20166,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Find an athlete</source>
-        <translation>&amp;Buscar un deportista</translation>
+        <translation>Buscar &amp;un deportista</translation>
     </message>
     <message>
         <source>Move the run up</source>
@@ -20206,7 +20206,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Gates</source>
-        <translation>&amp;Puertas</translation>
+        <translation>Puer&amp;tas</translation>
     </message>
     <message>
         <source>&amp;Touch: 2 s</source>
@@ -20254,7 +20254,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>The frames shown are &amp;one moment</source>
-        <translation>Los fotogramas mostrados son &amp;un mismo momento</translation>
+        <translation>&amp;Los fotogramas mostrados son un mismo momento</translation>
     </message>
     <message>
         <source>&amp;Draw the course…</source>
@@ -20262,7 +20262,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Sl&amp;it picture of the last camera</source>
-        <translation>Imagen de l&amp;ínea de la última cámara</translation>
+        <translation>&amp;Imagen de línea de la última cámara</translation>
     </message>
     <message>
         <source>There is no film here that has a slit picture.</source>
@@ -20799,7 +20799,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Save &amp;as…</source>
-        <translation>Guardar &amp;como…</translation>
+        <translation>Guardar c&amp;omo…</translation>
     </message>
     <message>
         <source>Open</source>
@@ -20847,7 +20847,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Home</source>
-        <translation>&amp;Inicio</translation>
+        <translation>I&amp;nicio</translation>
     </message>
     <message>
         <source>Se&amp;ttings…</source>
@@ -21081,7 +21081,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>&amp;Export the path as CSV…</source>
-        <translation>&amp;Exportar la trayectoria como CSV…</translation>
+        <translation>Exportar la &amp;trayectoria como CSV…</translation>
     </message>
     <message>
         <source>&amp;Play</source>
