@@ -1969,7 +1969,7 @@
     </message>
     <message>
         <source>gate {}</source>
-        <translation>puerta {}</translation>
+        <translation>pta. {}</translation>
     </message>
     <message>
         <source>  {} of {}, without {}</source>
@@ -2156,7 +2156,7 @@
     </message>
     <message>
         <source>within</source>
-        <translation>entre mangas</translation>
+        <translation>dentro de</translation>
     </message>
     <message>
         <source>trend</source>
@@ -3383,15 +3383,15 @@
     </message>
     <message>
         <source>Lost, s</source>
-        <translation>Perdido, s</translation>
+        <translation>Pérd., s</translation>
     </message>
     <message>
         <source>A run, s</source>
-        <translation>Por manga, s</translation>
+        <translation>s/manga</translation>
     </message>
     <message>
         <source>Percent</source>
-        <translation>Porcentaje</translation>
+        <translation>Porc.</translation>
     </message>
     <message>
         <source>90 % interval</source>
@@ -3443,7 +3443,7 @@
     </message>
     <message>
         <source>Percent, 90 %</source>
-        <translation>Porcentaje, 90 %</translation>
+        <translation>Porc., 90 %</translation>
     </message>
     <message>
         <source>All</source>
@@ -3994,7 +3994,7 @@
     </message>
     <message>
         <source>Chance, %</source>
-        <translation>Probabilidad, %</translation>
+        <translation>Prob., %</translation>
     </message>
     <message>
         <source>% a year</source>
@@ -15921,7 +15921,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Later b&amp;y</source>
-        <translation>Retra&amp;sar</translation>
+        <translation>Retra&amp;so</translation>
     </message>
     <message>
         <source>Drag a curve with Shift, or press A, to move it in time</source>
@@ -16282,7 +16282,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Held</source>
-        <translation>Aguantó</translation>
+        <translation>Aguantados</translation>
     </message>
     <message>
         <source>Defence</source>
