@@ -74,6 +74,7 @@ Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
       m_earlierWork(*this, m_workspace, m_autosave),
       m_quitting([this] { return windows(); }, [this] { rememberSession(); }),
       m_choice(*this, m_workspace),
+      m_guide(m_workspace),
       m_plannings(*this, m_workspace, m_autosave),
       m_analysis(*this, m_workspace),
       m_splitFiles(*this, m_workspace, m_autosave, m_analysis),

@@ -3,6 +3,7 @@
 #include "common/why.h"
 #include "desktop/analysis_windows.h"
 #include "desktop/earlier_work.h"
+#include "desktop/help/guide_help.h"
 #include "desktop/opened_as.h"
 #include "desktop/planning_windows.h"
 #include "desktop/quitting.h"
@@ -194,6 +195,7 @@ private:
     EarlierWork m_earlierWork;
     Quitting m_quitting;
     ToolChoice m_choice;
+    GuideHelp m_guide;
     PlanningWindows m_plannings;
     AnalysisWindows m_analysis;
     SplitFileWindows m_splitFiles;
