@@ -8,6 +8,7 @@
 #include "desktop/shell/home_window.h"
 #include "desktop/shell/settings_window.h"
 #include "desktop/tools.h"
+#include "desktop/update/offer_dialog.h"
 
 #include <gmock/gmock.h>
 
