@@ -19,6 +19,8 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <memory>
+
 /// Who hears the program instead of seeing it is told what each part is.
 namespace kavela::test {
 namespace {
@@ -90,11 +92,17 @@ TEST_F(SpokenNamesTest, AreThoseOfEveryPartOfEveryWindowWithAFile) {
     EXPECT_EQ(silentPartsOf(*m_program.front()).join('\n'), "");
 }
 
-TEST_F(SpokenNamesTest, AreThoseOfEveryToolBeforeItHasAFile) {
+TEST_F(SpokenNamesTest, AreThoseOfEveryToolThatOpensWithoutAFile) {
     const desktop::Autosave kept(QString::fromStdString((m_folder.path() / "kept").string()));
     for (const desktop::ToolKind& tool : desktop::toolKinds()) {
+        if (tool.choice != desktop::ToolKind::Choice::Document &&
+            tool.choice != desktop::ToolKind::Choice::None)
+            continue;
         const std::unique_ptr<desktop::ToolWindow> window(tool.make(m_workspace, kept));
         window->setAttribute(Qt::WA_DeleteOnClose, false);
+        if (window->file())
+            window->startNew(QString::fromStdString((m_folder.path() / "new").string()) + '.' +
+                             tool.documents.suffix);
         window->show();
         EXPECT_EQ(silentPartsOf(*window).join('\n'), "") << tool.kind.toStdString();
         window->hide();
