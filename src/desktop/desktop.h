@@ -13,6 +13,7 @@
 #include "desktop/shell/wheel_guard.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/split_file_windows.h"
+#include "desktop/steps/first_steps.h"
 #include "desktop/tool_choice.h"
 #include "desktop/update/updates.h"
 
@@ -198,6 +199,7 @@ private:
     Quitting m_quitting;
     ToolChoice m_choice;
     GuideHelp m_guide;
+    FirstSteps m_firstSteps;
     PlanningWindows m_plannings;
     AnalysisWindows m_analysis;
     SplitFileWindows m_splitFiles;
