@@ -8,6 +8,7 @@
 #include "desktop/planning_windows.h"
 #include "desktop/quitting.h"
 #include "desktop/shell/autosave.h"
+#include "desktop/shell/focus_edge.h"
 #include "desktop/shell/spoken_names.h"
 #include "desktop/shell/tool_window.h"
 #include "desktop/shell/wheel_guard.h"
@@ -190,6 +191,7 @@ private:
     Workspace& m_workspace;
     WheelGuard m_wheelGuard;
     SpokenNames m_spokenNames;
+    FocusEdge m_focusEdge;
     QPointer<HomeWindow> m_home;
     QPointer<QWidget> m_lastFront; ///< of the windows, the one that the coach was in last
     QList<QPointer<ToolWindow>> m_windows;

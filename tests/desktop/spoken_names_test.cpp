@@ -2,6 +2,7 @@
 
 #include "common/recorders.h"
 #include "common/temp_folder.h"
+#include "desktop/charts/chart_plot.h"
 #include "desktop/desktop.h"
 #include "desktop/shell/tool_window.h"
 #include "desktop/tools.h"
@@ -10,6 +11,7 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -107,6 +109,35 @@ TEST_F(SpokenNamesTest, AreThoseOfEveryToolThatOpensWithoutAFile) {
         EXPECT_EQ(silentPartsOf(*window).join('\n'), "") << tool.kind.toStdString();
         window->hide();
     }
+}
+
+/// A painted part shows nothing of the focus by itself.
+TEST_F(SpokenNamesTest, GoWithAnEdgeAroundThePaintedPartThatHasTheFocus) {
+    m_program.openPenalties({example("races/riverside_cup.kvx")});
+    ASSERT_EQ(m_program.windows().size(), 1);
+    desktop::ToolWindow* const window = m_program.windows().constFirst();
+    QApplication::setActiveWindow(window);
+    desktop::ChartPlot* plot = nullptr;
+    QTRY_VERIFY([&] {
+        for (auto* const each : window->findChildren<desktop::ChartPlot*>())
+            if (each->isVisible())
+                plot = each;
+        return plot != nullptr;
+    }());
+    QApplication::processEvents();
+    window->setFocus();
+    const QImage without = plot->grab().toImage();
+    plot->setFocus();
+    ASSERT_TRUE(plot->hasFocus());
+    QImage with = plot->grab().toImage();
+    EXPECT_NE(with.pixelColor(0, with.height() / 2), without.pixelColor(0, with.height() / 2));
+    plot->resize(plot->size() - QSize(40, 40));
+    with = plot->grab().toImage();
+    EXPECT_EQ(with.pixelColor(with.width() - 1, with.height() / 2),
+              plot->palette().color(QPalette::Highlight))
+        << "it follows the size";
+    plot->clearFocus();
+    EXPECT_NE(plot->grab().toImage().pixelColor(0, 40), plot->palette().color(QPalette::Highlight));
 }
 
 /// The nearest thing that is read as a title, and no long explanation.

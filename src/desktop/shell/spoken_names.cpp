@@ -1,5 +1,7 @@
 #include "desktop/shell/spoken_names.h"
 
+#include "desktop/shell/focus_edge.h"
+
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QComboBox>
@@ -126,16 +128,14 @@ QAccessibleInterface* paintedInterface(const QString& className, QObject* object
     if (!className.startsWith("kavela::") || !object->isWidgetType())
         return nullptr;
     auto* const widget = static_cast<QWidget*>(object);
-    const QMetaObject* base = widget->metaObject();
-    while (base && QByteArrayView(base->className()).startsWith("kavela::"))
-        base = base->superClass();
-    const bool isOurs = base == &QWidget::staticMetaObject || base == &QFrame::staticMetaObject;
-    if (!isOurs || widget->isWindow() || widget->focusPolicy() == Qt::NoFocus)
+    if (widget->focusPolicy() == Qt::NoFocus)
         return nullptr;
-    if (widget->layout())
-        return new QAccessibleWidget(widget, QAccessible::Grouping);
-    return new QAccessibleWidget(widget, className.contains("Chart") ? QAccessible::Chart
-                                                                     : QAccessible::Graphic);
+    if (isPainted(*widget))
+        return new QAccessibleWidget(widget, className.contains("Chart") ? QAccessible::Chart
+                                                                         : QAccessible::Graphic);
+    const bool isGroup = widget->layout() && !widget->isWindow() &&
+                         widget->metaObject()->superClass() == &QWidget::staticMetaObject;
+    return isGroup ? new QAccessibleWidget(widget, QAccessible::Grouping) : nullptr;
 }
 
 } // namespace
