@@ -20,6 +20,7 @@
 #include "desktop/shell/home_window.h"
 #include "desktop/shell/screen_fit.h"
 #include "desktop/shell/settings_window.h"
+#include "desktop/steps/steps_box.h"
 #include "desktop/taking/taking_window.h"
 #include "desktop/team/team_window.h"
 #include "desktop/tools.h"
@@ -74,6 +75,8 @@ Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
       m_earlierWork(*this, m_workspace, m_autosave),
       m_quitting([this] { return windows(); }, [this] { rememberSession(); }),
       m_choice(*this, m_workspace),
+      m_guide(m_workspace),
+      m_firstSteps(m_workspace),
       m_plannings(*this, m_workspace, m_autosave),
       m_analysis(*this, m_workspace),
       m_splitFiles(*this, m_workspace, m_autosave, m_analysis),
@@ -119,6 +122,8 @@ void Desktop::showHome() {
         }
         m_home = new HomeWindow(m_workspace, tools);
         m_home->setAttribute(Qt::WA_DeleteOnClose);
+        if (m_firstSteps.isOffered())
+            m_home->addBelowHeader(new StepsBox(m_firstSteps));
         connect(m_home, &HomeWindow::settingsRequested, this, &Desktop::openSettings);
         connect(m_home, &HomeWindow::sampleRequested, this, &Desktop::openSampleSeason);
         connect(m_home, &HomeWindow::filesRequested, this,

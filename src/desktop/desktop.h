@@ -3,14 +3,18 @@
 #include "common/why.h"
 #include "desktop/analysis_windows.h"
 #include "desktop/earlier_work.h"
+#include "desktop/help/guide_help.h"
 #include "desktop/opened_as.h"
 #include "desktop/planning_windows.h"
 #include "desktop/quitting.h"
 #include "desktop/shell/autosave.h"
+#include "desktop/shell/focus_edge.h"
+#include "desktop/shell/spoken_names.h"
 #include "desktop/shell/tool_window.h"
 #include "desktop/shell/wheel_guard.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/split_file_windows.h"
+#include "desktop/steps/first_steps.h"
 #include "desktop/tool_choice.h"
 #include "desktop/update/updates.h"
 
@@ -186,6 +190,8 @@ private:
 
     Workspace& m_workspace;
     WheelGuard m_wheelGuard;
+    SpokenNames m_spokenNames;
+    FocusEdge m_focusEdge;
     QPointer<HomeWindow> m_home;
     QPointer<QWidget> m_lastFront; ///< of the windows, the one that the coach was in last
     QList<QPointer<ToolWindow>> m_windows;
@@ -194,6 +200,8 @@ private:
     EarlierWork m_earlierWork;
     Quitting m_quitting;
     ToolChoice m_choice;
+    GuideHelp m_guide;
+    FirstSteps m_firstSteps;
     PlanningWindows m_plannings;
     AnalysisWindows m_analysis;
     SplitFileWindows m_splitFiles;

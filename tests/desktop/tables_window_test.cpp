@@ -22,6 +22,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QLabel>
 #include <QTest>
 
 /// Any list as a table, and official results beside the films, as a coach uses them.
@@ -312,6 +313,32 @@ TEST_F(TablesWindowTest, TakesOfficialResultsOverLineByLine) {
     window.undo();
     EXPECT_EQ(window.document().run(1).sectioninfo.realtime, 0);
     EXPECT_THAT(dialog.differences(), SizeIs(1)) << "it follows what is taken back";
+}
+
+/// The lines below the first one were cut off.
+TEST(TablesWindowStart, SaysWholeWhatCanBeOpenedInAnyFont) {
+    const TempFolder folder;
+    desktop::Workspace workspace(
+        Preferences(folder.path() / "preferences.ini"), [](std::string_view) {}, systemNow);
+    const QFont before = QApplication::font();
+    for (const int points : {9, 18}) {
+        QFont font = before;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+        desktop::TablesWindow window(workspace);
+        window.setAttribute(Qt::WA_DeleteOnClose, false);
+        window.show();
+        QApplication::processEvents();
+        int wrapped = 0;
+        for (const QLabel* const label : window.findChildren<QLabel*>())
+            if (label->isVisible() && label->wordWrap()) {
+                ++wrapped;
+                EXPECT_GE(label->height(), label->heightForWidth(label->width()))
+                    << label->text().toStdString() << " at " << points;
+            }
+        EXPECT_GT(wrapped, 0);
+    }
+    QApplication::setFont(before);
 }
 
 } // namespace

@@ -45,6 +45,8 @@ void openOverlay(QMainWindow& window) {
 void addHelpMenu(QMainWindow& window, Workspace& workspace, const QString& kind,
                  std::function<Commands()> more) {
     QMenu* menu = window.menuBar()->addMenu(QObject::tr("&Help"));
+    menu->addAction(QObject::tr("User &guide"), QKeySequence(Qt::Key_F1), &window,
+                    [&workspace, kind] { emit workspace.guideRequested(kind); });
     menu->addAction(
         QObject::tr("&Search everything…"), QKeySequence(Qt::CTRL | Qt::Key_K), &window,
         [&window, &workspace, more = std::move(more)] { openPalette(window, workspace, more); });

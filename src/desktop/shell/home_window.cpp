@@ -46,14 +46,14 @@ HomeWindow::HomeWindow(Workspace& workspace, const Tools& tools) : m_workspace(w
     makeMenus();
 
     auto* page = new QWidget;
-    auto* column = new QVBoxLayout(page);
-    column->setContentsMargins(theme::PageMargin, theme::PageMargin, theme::PageMargin,
-                               theme::PageMargin);
-    column->setSpacing(theme::LargeSpacing);
-    column->addWidget(header());
-    column->addWidget(keptWork());
-    column->addWidget(tiles(tools));
-    column->addStretch(1);
+    m_column = new QVBoxLayout(page);
+    m_column->setContentsMargins(theme::PageMargin, theme::PageMargin, theme::PageMargin,
+                                 theme::PageMargin);
+    m_column->setSpacing(theme::LargeSpacing);
+    m_column->addWidget(header());
+    m_column->addWidget(keptWork());
+    m_column->addWidget(tiles(tools));
+    m_column->addStretch(1);
     auto* area = new QScrollArea;
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
@@ -76,6 +76,10 @@ void HomeWindow::makeMenus() {
                     &HomeWindow::settingsRequested);
     file->addAction(tr("&Quit"), QKeySequence::Quit, this, [] { QCoreApplication::quit(); });
     addHelpMenu(*this, m_workspace, "home", [] { return Commands(); });
+}
+
+void HomeWindow::addBelowHeader(QWidget* part) {
+    m_column->insertWidget(1, part);
 }
 
 QWidget* HomeWindow::header() {

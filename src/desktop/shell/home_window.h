@@ -32,6 +32,9 @@ public:
     };
     void showKeptWork(const std::vector<KeptWork>& works);
 
+    /// Puts something below the name of the program, above all else; the window owns it.
+    void addBelowHeader(QWidget* part);
+
 signals:
     void settingsRequested();
     void sampleRequested();
@@ -52,6 +55,7 @@ private:
     void chooseFile();
 
     Workspace& m_workspace;
+    QVBoxLayout* m_column = nullptr;
     QListWidget* m_recent = nullptr;
     QLabel* m_noRecent = nullptr;
     QWidget* m_keptBox = nullptr;

@@ -26,7 +26,9 @@ struct Scheme {
     QColor alternate;
     QColor text;
     QColor button;
-    QColor highlight;
+    QColor highlight; ///< white is read on it
+    QColor link;
+    QColor quiet; ///< text that only helps; read all the same
     QColor disabled;
 };
 
@@ -39,13 +41,13 @@ QPalette paletteOf(const Scheme& scheme) {
     palette.setColor(QPalette::ToolTipBase, scheme.base);
     palette.setColor(QPalette::Highlight, scheme.highlight);
     palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, scheme.highlight);
+    palette.setColor(QPalette::Link, scheme.link);
     for (const auto role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
         palette.setColor(role, scheme.text);
         palette.setColor(QPalette::Disabled, role, scheme.disabled);
     }
-    palette.setColor(QPalette::PlaceholderText, scheme.disabled);
+    palette.setColor(QPalette::PlaceholderText, scheme.quiet);
     return palette;
 }
 
@@ -68,7 +70,7 @@ bool isDark(const QPalette& palette) {
 }
 
 QColor quietText(const QPalette& palette) {
-    return mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window), 0.4);
+    return mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window), 0.33);
 }
 
 QColor hairline(const QPalette& palette) {
@@ -91,13 +93,15 @@ QFrame* floatingFrame(QWidget& window) {
 
 QPalette darkPalette() {
     return paletteOf({QColor(0x1F, 0x22, 0x25), QColor(0x27, 0x2B, 0x2F), QColor(0x2D, 0x32, 0x36),
-                      QColor(0xE8, 0xEA, 0xEC), QColor(0x2F, 0x34, 0x39), QColor(0x1C, 0x8F, 0x9A),
+                      QColor(0xE8, 0xEA, 0xEC), QColor(0x2F, 0x34, 0x39), QColor(0x16, 0x82, 0x8C),
+                      QColor(0x5C, 0xC4, 0xCE), QColor(0x9B, 0xA2, 0xA7),
                       QColor(0x80, 0x86, 0x8B)});
 }
 
 QPalette lightPalette() {
     return paletteOf({QColor(0xF5, 0xF6, 0xF7), QColor(0xFF, 0xFF, 0xFF), QColor(0xF0, 0xF2, 0xF3),
                       QColor(0x1D, 0x21, 0x24), QColor(0xFB, 0xFB, 0xFC), Accent,
+                      QColor(0x0B, 0x6E, 0x77), QColor(0x62, 0x69, 0x6E),
                       QColor(0x8D, 0x93, 0x98)});
 }
 

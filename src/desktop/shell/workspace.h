@@ -115,6 +115,8 @@ signals:
     void openRequested(const QString& path);
     /// The coach wants to know, in a window, whether there is a newer version of the program.
     void newerVersionRequested(QWidget* over);
+    /// The coach wants the guide to be opened where it is about the windows of a kind.
+    void guideRequested(const QString& kind);
 
 private:
     Preferences m_preferences;

@@ -78,7 +78,6 @@ QWidget* TablesWindow::makeStartPage() {
            "a page, or a race that carries a list. Lists are only read."));
     text->setWordWrap(true);
     text->setAlignment(Qt::AlignCenter);
-    text->setMaximumWidth(width() * 2 / 3);
     text->setForegroundRole(QPalette::PlaceholderText);
     auto* const files = new QPushButton(tr("Open a list…"));
     auto* const copied = new QPushButton(tr("Open what was copied"));
@@ -87,9 +86,10 @@ QWidget* TablesWindow::makeStartPage() {
     auto* const column = new QVBoxLayout(page);
     column->setSpacing(theme::LargeSpacing);
     column->addStretch();
-    for (QWidget* const part : {static_cast<QWidget*>(title), static_cast<QWidget*>(text),
-                                static_cast<QWidget*>(files), static_cast<QWidget*>(copied)})
-        column->addWidget(part, 0, Qt::AlignHCenter);
+    column->addWidget(title, 0, Qt::AlignHCenter);
+    column->addWidget(text); // over the whole width: how high it is follows from that
+    for (QPushButton* const button : {files, copied})
+        column->addWidget(button, 0, Qt::AlignHCenter);
     column->addStretch();
     return page;
 }
