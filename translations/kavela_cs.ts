@@ -415,6 +415,10 @@
         <source>&amp;Look for a newer version</source>
         <translation>Zjistit &amp;novější verzi</translation>
     </message>
+    <message>
+        <source>User &amp;guide</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QueryForm</name>
@@ -948,6 +952,137 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Splits</source>
+        <translation type="unfinished">Mezičasy</translation>
+    </message>
+    <message>
+        <source>Splits of the time trial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time trials</source>
+        <translation type="unfinished">Časovky</translation>
+    </message>
+    <message>
+        <source>Heats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacks</source>
+        <translation type="unfinished">Útoky</translation>
+    </message>
+    <message>
+        <source>Who attacks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Side of the attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place of the attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacks by athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacks by place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notes of the run</source>
+        <translation type="unfinished">Poznámky k jízdě</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation type="unfinished">Jízdy</translation>
+    </message>
+    <message>
+        <source>Athletes</source>
+        <translation type="unfinished">Závodníci</translation>
+    </message>
+    <message>
+        <source>Results by season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Averages</source>
+        <translation type="unfinished">Průměry</translation>
+    </message>
+    <message>
+        <source>Ranking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touches by gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was noted of penalties</source>
+        <translation type="unfinished">Co bylo u penalizací poznamenáno</translation>
+    </message>
+    <message>
+        <source>What penalties cost</source>
+        <translation type="unfinished">Co penalizace stály</translation>
+    </message>
+    <message>
+        <source>Risk and speed by thirds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Losses by section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation type="unfinished">Testy</translation>
+    </message>
+    <message>
+        <source>Goals</source>
+        <translation type="unfinished">Cíle</translation>
+    </message>
+    <message>
+        <source>Measures of the body</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exercises</source>
+        <translation type="unfinished">Cviky</translation>
+    </message>
+    <message>
+        <source>Intervals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films compared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films to choose from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation type="unfinished">Filmy</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation type="unfinished">Poslední soubory</translation>
+    </message>
+    <message>
+        <source>Work kept</source>
+        <translation type="unfinished">Uchovaná práce</translation>
+    </message>
+</context>
+<context>
     <name>TestCharts</name>
     <message>
         <source>Not recorded, and not entered</source>
@@ -1158,7 +1293,7 @@
     </message>
     <message>
         <source>Load %1 %</source>
-        <translation>Zatížení %1 %</translation>
+        <translation>Zatížení %1&#xa0;%</translation>
     </message>
     <message>
         <source>Macrocycle</source>
@@ -1921,7 +2056,7 @@
     </message>
     <message>
         <source>     Explained by notes: {} of {} ({:.0f} %)</source>
-        <translation>     Vysvětleno poznámkami: {} z {} ({:.0f} %)</translation>
+        <translation>     Vysvětleno poznámkami: {} z {} ({:.0f}&#xa0;%)</translation>
     </message>
     <message>
         <source>Tells how often gates are touched, what it cost, and whether speed pays</source>
@@ -1957,11 +2092,11 @@
     </message>
     <message>
         <source>{} of {} whole runs without a penalty: {:.1f} % ({})</source>
-        <translation>{} z {} úplných jízd bez penalizace: {:.1f} % ({})</translation>
+        <translation>{} z {} úplných jízd bez penalizace: {:.1f}&#xa0;% ({})</translation>
     </message>
     <message>
         <source>Ranked: drawn towards {:.1f} %, the more the fewer the passages;</source>
-        <translation>Vyhlazené: přitaženo k {:.1f} %, tím víc, čím méně je průjezdů;</translation>
+        <translation>Vyhlazené: přitaženo k {:.1f}&#xa0;%, tím víc, čím méně je průjezdů;</translation>
     </message>
     <message>
         <source>{} of {}</source>
@@ -1989,7 +2124,7 @@
     </message>
     <message>
         <source>{} {} of {} ({:.0f} %, {:.0f}–{:.0f})</source>
-        <translation>{} {} z {} ({:.0f} %, {:.0f}–{:.0f})</translation>
+        <translation>{} {} z {} ({:.0f}&#xa0;%, {:.0f}–{:.0f})</translation>
     </message>
     <message>
         <source>Noted of {}</source>
@@ -1997,7 +2132,7 @@
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run; times in percent of the group&apos;s median</source>
-        <translation>1 % rychlosti vyváží {:.2f} ťuku na jízdu; časy v procentech mediánu skupiny</translation>
+        <translation>1&#xa0;% rychlosti vyváží {:.2f} ťuku na jízdu; časy v procentech mediánu skupiny</translation>
     </message>
     <message>
         <source>The sum of the best splits, and what each run could be</source>
@@ -2163,7 +2298,7 @@
     </message>
     <message>
         <source>Runs vary by {:.1f} %{}, from {}; {:.2f} % is worth gaining.</source>
-        <translation>Jízdy kolísají o {:.1f} %{}, z {}; vyplatí se získat {:.2f} %.</translation>
+        <translation>Jízdy kolísají o {:.1f}&#xa0;%{}, z {}; vyplatí se získat {:.2f}&#xa0;%.</translation>
     </message>
     <message>
         <source>Neither winners nor fastest splits of these races are known.</source>
@@ -2187,7 +2322,7 @@
     </message>
     <message>
         <source>{:.1f} % (all {:.1f}{})</source>
-        <translation>{:.1f} % (vše {:.1f}{})</translation>
+        <translation>{:.1f}&#xa0;% (vše {:.1f}{})</translation>
     </message>
     <message>
         <source>, {} missed</source>
@@ -2195,11 +2330,11 @@
     </message>
     <message>
         <source>{:+.1f} %/yr{} </source>
-        <translation>{:+.1f} %/rok{} </translation>
+        <translation>{:+.1f}&#xa0;%/rok{} </translation>
     </message>
     <message>
         <source>{} of {} ({:.0f}–{:.0f} %)</source>
-        <translation>{} z {} ({:.0f}–{:.0f} %)</translation>
+        <translation>{} z {} ({:.0f}–{:.0f}&#xa0;%)</translation>
     </message>
     <message numerus="yes">
         <source>{} races</source>
@@ -2211,7 +2346,7 @@
     </message>
     <message>
         <source> {} of {} ({:.0f}–{:.0f} %), {:+.1f} %</source>
-        <translation> {} z {} ({:.0f}–{:.0f} %), {:+.1f} %</translation>
+        <translation> {} z {} ({:.0f}–{:.0f}&#xa0;%), {:+.1f}&#xa0;%</translation>
     </message>
     <message>
         <source>rank {}</source>
@@ -2511,11 +2646,11 @@
     </message>
     <message>
         <source>90 %, Student&apos;s t</source>
-        <translation>90 %, Studentovo t</translation>
+        <translation>90&#xa0;%, Studentovo t</translation>
     </message>
     <message>
         <source>90 %, Wilson</source>
-        <translation>90 %, Wilson</translation>
+        <translation>90&#xa0;%, Wilson</translation>
     </message>
     <message>
         <source>own</source>
@@ -2859,7 +2994,7 @@
     </message>
     <message>
         <source>5 % and 95 % of the beta distribution</source>
-        <translation>5 % a 95 % beta rozdělení</translation>
+        <translation>5&#xa0;% a 95&#xa0;% beta rozdělení</translation>
     </message>
     <message>
         <source>x</source>
@@ -2875,7 +3010,7 @@
     </message>
     <message>
         <source>Wilson&apos;s interval, 90 %</source>
-        <translation>Wilsonův interval, 90 %</translation>
+        <translation>Wilsonův interval, 90&#xa0;%</translation>
     </message>
     <message>
         <source>{} runs are</source>
@@ -2967,11 +3102,11 @@
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run.</source>
-        <translation>1 % rychlosti vyváží {:.2f} ťuku na jízdu.</translation>
+        <translation>1&#xa0;% rychlosti vyváží {:.2f} ťuku na jízdu.</translation>
     </message>
     <message>
         <source>{} of {} without a penalty: {:.1f} % ({:.1f}–{:.1f}).</source>
-        <translation>{} z {} bez penalizace: {:.1f} % ({:.1f}–{:.1f}).</translation>
+        <translation>{} z {} bez penalizace: {:.1f}&#xa0;% ({:.1f}–{:.1f}).</translation>
     </message>
     <message>
         <source>{} {} {}, place</source>
@@ -2987,19 +3122,19 @@
     </message>
     <message>
         <source>{} {} of {} ({:.0f}–{:.0f} %)</source>
-        <translation>{} {} z {} ({:.0f}–{:.0f} %)</translation>
+        <translation>{} {} z {} ({:.0f}–{:.0f}&#xa0;%)</translation>
     </message>
     <message>
         <source>{:.1f} % behind the winner, {} (median of {})</source>
-        <translation>{:.1f} % za vítězem, {} (medián z {})</translation>
+        <translation>{:.1f}&#xa0;% za vítězem, {} (medián z {})</translation>
     </message>
     <message>
         <source>within {:.1f} % from run to run</source>
-        <translation>kolísání od jízdy k jízdě {:.1f} %</translation>
+        <translation>kolísání od jízdy k jízdě {:.1f}&#xa0;%</translation>
     </message>
     <message>
         <source>trend {:+.1f} % a year: {}</source>
-        <translation>trend {:+.1f} % za rok: {}</translation>
+        <translation>trend {:+.1f}&#xa0;% za rok: {}</translation>
     </message>
     <message>
         <source>{}: too few runs to tell a trend behind {}.</source>
@@ -3007,7 +3142,7 @@
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
-        <translation>{}: {:+.1f} % za rok za {}{}, {}.</translation>
+        <translation>{}: {:+.1f}&#xa0;% za rok za {}{}, {}.</translation>
     </message>
     <message>
         <source>{} of {}&apos;s races is known.</source>
@@ -3019,11 +3154,11 @@
     </message>
     <message>
         <source>From run to run {:.1f} % is chance.</source>
-        <translation>Od jízdy k jízdě je {:.1f} % náhoda.</translation>
+        <translation>Od jízdy k jízdě je {:.1f}&#xa0;% náhoda.</translation>
     </message>
     <message>
         <source>From run to run {:.1f} % ({:.1f} to {:.1f}) is chance; {:.2f} % is worth gaining.</source>
-        <translation>Od jízdy k jízdě je {:.1f} % ({:.1f} až {:.1f}) náhoda; vyplatí se získat {:.2f} %.</translation>
+        <translation>Od jízdy k jízdě je {:.1f}&#xa0;% ({:.1f} až {:.1f}) náhoda; vyplatí se získat {:.2f}&#xa0;%.</translation>
     </message>
     <message>
         <source>{} of {} grew faster beyond doubt, {} slower.</source>
@@ -3051,11 +3186,11 @@
     </message>
     <message>
         <source>{:.1f} % would have been among the first three in {} of {}.</source>
-        <translation>{:.1f} % by stačilo na první tři v {} z {}.</translation>
+        <translation>{:.1f}&#xa0;% by stačilo na první tři v {} z {}.</translation>
     </message>
     <message>
         <source>The third was {:.1f} % behind in the median of {}.</source>
-        <translation>Třetí byl {:.1f} % za vítězem, medián z {}.</translation>
+        <translation>Třetí byl {:.1f}&#xa0;% za vítězem, medián z {}.</translation>
     </message>
     <message>
         <source>Nobody of the team has runs enough to expect a place of.</source>
@@ -3063,7 +3198,7 @@
     </message>
     <message>
         <source>{} may expect place {:.1f} of {}, a medal by {:.0f} %.</source>
-        <translation>{} může čekat místo {:.1f} z {}, medaili s {:.0f} %.</translation>
+        <translation>{} může čekat místo {:.1f} z {}, medaili s {:.0f}&#xa0;%.</translation>
     </message>
     <message numerus="yes">
         <source>{} finals</source>
@@ -3075,7 +3210,7 @@
     </message>
     <message>
         <source>{:.1f} % would have been a medal in {} of {}</source>
-        <translation>{2}: {0:.1f} % by stačilo na medaili v {1}</translation>
+        <translation>{2}: {0:.1f}&#xa0;% by stačilo na medaili v {1}</translation>
     </message>
     <message>
         <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
@@ -3083,11 +3218,11 @@
     </message>
     <message>
         <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>{}: {}, {} z {} ({:.0f}–{:.0f} %).</translation>
+        <translation>{}: {}, {} z {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
-        <translation>Nejblíž vítězům ({}): {}, {:.1f} % (medián z {}).</translation>
+        <translation>Nejblíž vítězům ({}): {}, {:.1f}&#xa0;% (medián z {}).</translation>
     </message>
     <message>
         <source>No winner of a phase &quot;{}&quot; of these races is known.</source>
@@ -3115,7 +3250,7 @@
     </message>
     <message>
         <source>{}, spread {:.2f}, missed {:.1f} %</source>
-        <translation>{}, rozptyl {:.2f}, neprojeté {:.1f} %</translation>
+        <translation>{}, rozptyl {:.2f}, neprojeté {:.1f}&#xa0;%</translation>
     </message>
     <message>
         <source>How far behind the winner of the phase and class, penalties included.</source>
@@ -3295,11 +3430,11 @@
     </message>
     <message>
         <source>90 %, Student&apos;s t with {} degrees</source>
-        <translation>90 %, Studentovo t, stupně volnosti: {}</translation>
+        <translation>90&#xa0;%, Studentovo t, stupně volnosti: {}</translation>
     </message>
     <message>
         <source>{:+.1f} % a year</source>
-        <translation>{:+.1f} % za rok</translation>
+        <translation>{:+.1f}&#xa0;% za rok</translation>
     </message>
     <message>
         <source>spread, percent</source>
@@ -3323,7 +3458,7 @@
     </message>
     <message>
         <source>90 %, χ²</source>
-        <translation>90 %, χ²</translation>
+        <translation>90&#xa0;%, χ²</translation>
     </message>
     <message>
         <source>common spread, percent</source>
@@ -3335,7 +3470,7 @@
     </message>
     <message>
         <source>exact Poisson interval, 90 %</source>
-        <translation>přesný Poissonův interval, 90 %</translation>
+        <translation>přesný Poissonův interval, 90&#xa0;%</translation>
     </message>
     <message>
         <source>median paddling</source>
@@ -3471,7 +3606,7 @@
     </message>
     <message>
         <source>Percent, 90 %</source>
-        <translation>Proc., 90 %</translation>
+        <translation>Proc., 90&#xa0;%</translation>
     </message>
     <message>
         <source>All</source>
@@ -3919,7 +4054,7 @@
     </message>
     <message>
         <source>rank %1: %2 %</source>
-        <translation>pořadí %1: %2 %</translation>
+        <translation>pořadí %1: %2&#xa0;%</translation>
     </message>
     <message>
         <source>own median</source>
@@ -3935,7 +4070,7 @@
     </message>
     <message>
         <source>%1 · %2 races · intervals are 90 %</source>
-        <translation>%1 · závodů: %2 · intervaly jsou 90 %</translation>
+        <translation>%1 · závodů: %2 · intervaly jsou 90&#xa0;%</translation>
     </message>
     <message>
         <source>Percent behind the winner</source>
@@ -4015,7 +4150,7 @@
     </message>
     <message>
         <source>%1 athletes · intervals are 90 %</source>
-        <translation>závodníků: %1 · intervaly jsou 90 %</translation>
+        <translation>závodníků: %1 · intervaly jsou 90&#xa0;%</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -4915,7 +5050,7 @@
     </message>
     <message>
         <source>chance from run to run {:.1f} %, all {:.1f} %; {:.2f} % matters</source>
-        <translation>náhoda od jízdy k jízdě {:.1f} %, všichni {:.1f} %; význam má {:.2f} %</translation>
+        <translation>náhoda od jízdy k jízdě {:.1f}&#xa0;%, všichni {:.1f}&#xa0;%; význam má {:.2f}&#xa0;%</translation>
     </message>
     <message>
         <source>none</source>
@@ -5178,7 +5313,7 @@
     </message>
     <message>
         <source>%1 %, %2 of %3</source>
-        <translation>%1 %, %2 z %3</translation>
+        <translation>%1&#xa0;%, %2 z %3</translation>
     </message>
     <message>
         <source>Waits</source>
@@ -5278,7 +5413,7 @@
     </message>
     <message>
         <source>Watched: 80 % of it was shown</source>
-        <translation>Zhlédnuto: přehráno 80 % filmu</translation>
+        <translation>Zhlédnuto: přehráno 80&#xa0;% filmu</translation>
     </message>
     <message>
         <source>Of the split file: split taking edits it</source>
@@ -5386,7 +5521,7 @@
     </message>
     <message>
         <source>Lost, 90 %</source>
-        <translation>Ztráta, 90 %</translation>
+        <translation>Ztráta, 90&#xa0;%</translation>
     </message>
     <message>
         <source>No loss</source>
@@ -5526,7 +5661,7 @@
     </message>
     <message>
         <source>Explained by notes: %1 of %2 (%3 %)</source>
-        <translation>Vysvětleno poznámkami: %1 z %2 (%3 %)</translation>
+        <translation>Vysvětleno poznámkami: %1 z %2 (%3&#xa0;%)</translation>
     </message>
     <message>
         <source>Most was lost in %1: %2 s of %3.</source>
@@ -5542,11 +5677,11 @@
     </message>
     <message>
         <source>%1 alone makes %2 % of what was lost in slower sections.</source>
-        <translation>Samotný úsek %1 tvoří %2 % toho, co se v pomalejších úsecích ztratilo.</translation>
+        <translation>Samotný úsek %1 tvoří %2&#xa0;% toho, co se v pomalejších úsecích ztratilo.</translation>
     </message>
     <message>
         <source>%1 of %2 slower sections make %3 % of what was lost in them.</source>
-        <translation>%1 z %2 pomalejších úseků tvoří %3 % toho, co se v nich ztratilo.</translation>
+        <translation>%1 z %2 pomalejších úseků tvoří %3&#xa0;% toho, co se v nich ztratilo.</translation>
     </message>
     <message>
         <source>Nobody was slower than the reference in a section.</source>
@@ -5630,7 +5765,7 @@
     </message>
     <message>
         <source>Ranked rate, 90 %</source>
-        <translation>Vyhlazený podíl, 90 %</translation>
+        <translation>Vyhlazený podíl, 90&#xa0;%</translation>
     </message>
     <message>
         <source>Touched</source>
@@ -5726,7 +5861,7 @@
     </message>
     <message>
         <source>Share, 90 %</source>
-        <translation>Podíl, 90 %</translation>
+        <translation>Podíl, 90&#xa0;%</translation>
     </message>
     <message>
         <source>Noted as</source>
@@ -5774,7 +5909,7 @@
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#xa0;%</translation>
     </message>
     <message>
         <source>Equally fast in all</source>
@@ -5966,7 +6101,7 @@
     </message>
     <message>
         <source>Gap 90 %</source>
-        <translation>Odstup 90 %</translation>
+        <translation>Odstup 90&#xa0;%</translation>
     </message>
     <message>
         <source>Half</source>
@@ -7126,11 +7261,11 @@
     </message>
     <message>
         <source>left +%1 %</source>
-        <translation>levá +%1 %</translation>
+        <translation>levá +%1&#xa0;%</translation>
     </message>
     <message>
         <source>right +%1 %</source>
-        <translation>pravá +%1 %</translation>
+        <translation>pravá +%1&#xa0;%</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -7162,7 +7297,7 @@
     </message>
     <message>
         <source>Differences under %1 % are no finding</source>
-        <translation>Rozdíly pod %1 % nic neznamenají</translation>
+        <translation>Rozdíly pod %1&#xa0;% nic neznamenají</translation>
     </message>
 </context>
 <context>
@@ -8194,7 +8329,7 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     <name>kavela::desktop::ComparisonPanel</name>
     <message>
         <source>%1 of %2 (%3–%4 %)</source>
-        <translation>%1 z %2 (%3–%4 %)</translation>
+        <translation>%1 z %2 (%3–%4&#xa0;%)</translation>
     </message>
     <message>
         <source>Behind the winners in the &amp;phase</source>
@@ -9624,11 +9759,11 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#xa0;%</translation>
     </message>
     <message>
         <source>Where the share lies with 90 %</source>
-        <translation>Kde podíl leží s 90 %</translation>
+        <translation>Kde podíl leží s 90&#xa0;%</translation>
     </message>
     <message>
         <source>No penalty was noted in detail. Split taking notes them.</source>
@@ -9682,7 +9817,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>Gate %1: %2 %</source>
-        <translation>Branka %1: %2 %</translation>
+        <translation>Branka %1: %2&#xa0;%</translation>
     </message>
     <message>
         <source>, %1 of %2 touched</source>
@@ -9690,7 +9825,7 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -11346,6 +11481,65 @@ Začíná se pomocí „Přidat skupinu“.</translation>
     </message>
 </context>
 <context>
+    <name>kavela::desktop::GuideWindow</name>
+    <message>
+        <source>User guide – Kavela</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ways through the guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation type="unfinished">Vpřed</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished">%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation type="unfinished">Hledání</translation>
+    </message>
+    <message>
+        <source>Next place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search the guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” does not come with the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No chapter has these words.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>In %n chapters. Enter goes to the next place.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::GymPanel</name>
     <message>
         <source>All seasons, in kilograms</source>
@@ -12569,7 +12763,7 @@ Bez penalizací.</translation>
     </message>
     <message>
         <source>%1 s (%2 %) against %3</source>
-        <translation>%1 s (%2 %) proti %3</translation>
+        <translation>%1 s (%2&#xa0;%) proti %3</translation>
     </message>
     <message>
         <source>Go back to the run that lost the time first.</source>
@@ -15356,7 +15550,7 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     </message>
     <message>
         <source>&lt;b&gt;%1&lt;/b&gt; runs, &lt;b&gt;%2&lt;/b&gt; of them clean (%3 %)  ·  touches per run &lt;b&gt;%4&lt;/b&gt;  ·  missed gates per run &lt;b&gt;%5&lt;/b&gt;</source>
-        <translation>jízd &lt;b&gt;%1&lt;/b&gt;, z toho čistých &lt;b&gt;%2&lt;/b&gt; (%3 %)  ·  ťuků na jízdu &lt;b&gt;%4&lt;/b&gt;  ·  neprojetých branek na jízdu &lt;b&gt;%5&lt;/b&gt;</translation>
+        <translation>jízd &lt;b&gt;%1&lt;/b&gt;, z toho čistých &lt;b&gt;%2&lt;/b&gt; (%3&#xa0;%)  ·  ťuků na jízdu &lt;b&gt;%4&lt;/b&gt;  ·  neprojetých branek na jízdu &lt;b&gt;%5&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Take from split files…</source>
@@ -15678,11 +15872,11 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#xa0;%</translation>
     </message>
     <message>
         <source>Where the rate lies with 90 %</source>
-        <translation>Kde podíl leží s 90 %</translation>
+        <translation>Kde podíl leží s 90&#xa0;%</translation>
     </message>
     <message>
         <source>Ranked %</source>
@@ -15694,7 +15888,7 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     </message>
     <message>
         <source>Ranked 90 %</source>
-        <translation>Vyhlaz. 90 %</translation>
+        <translation>Vyhlaz. 90&#xa0;%</translation>
     </message>
     <message>
         <source>Where the ranked rate lies</source>
@@ -15722,7 +15916,7 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     </message>
     <message>
         <source>Missed 90 %</source>
-        <translation>Neprojeté 90 %</translation>
+        <translation>Neprojeté 90&#xa0;%</translation>
     </message>
     <message>
         <source>&amp;Rates</source>
@@ -16120,7 +16314,7 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Smaller</source>
@@ -16306,7 +16500,7 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -17057,7 +17251,7 @@ Vyberte soubor.</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#xa0;%</translation>
     </message>
     <message>
         <source>A run</source>
@@ -18862,7 +19056,7 @@ a dalších %1</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>frame %1   %2 s</source>
@@ -19038,7 +19232,7 @@ place %4 of %5
 %6 s behind the best, %7 %</source>
         <translation>%1, %2: %3 s
 místo %4 z %5
-%6 s za nejlepším, %7 %</translation>
+%6 s za nejlepším, %7&#xa0;%</translation>
     </message>
     <message>
         <source>%1, %2: %3 s
@@ -19174,6 +19368,41 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <message>
         <source>&amp;Replace the statistics</source>
         <translation>&amp;Nahradit statistiku</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::StepsBox</name>
+    <message>
+        <source>Hide these steps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a race: “Try the sample season”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask a number of its table why it is what it is: Alt+click, or Shift+F1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>See where the time was lost: Ctrl+Shift+L.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the film of a run, or take a split: Ctrl+T.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make an athlete&apos;s report or page: Ctrl+P.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All first steps are done. F1 tells the rest.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First steps, three minutes</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -21331,7 +21560,7 @@ hodnot záběrů %2, sprintu %3</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#xa0;%</translation>
     </message>
     <message>
         <source>Exact interval of the touches</source>

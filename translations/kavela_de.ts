@@ -415,6 +415,10 @@
         <source>&amp;Look for a newer version</source>
         <translation>Nach neuerer Version &amp;suchen</translation>
     </message>
+    <message>
+        <source>User &amp;guide</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QueryForm</name>
@@ -947,6 +951,137 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Splits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Splits of the time trial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time trials</source>
+        <translation type="unfinished">Zeitfahren</translation>
+    </message>
+    <message>
+        <source>Heats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacks</source>
+        <translation type="unfinished">Angriffe</translation>
+    </message>
+    <message>
+        <source>Who attacks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Side of the attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place of the attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacks by athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacks by place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notes of the run</source>
+        <translation type="unfinished">Notizen des Laufs</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation type="unfinished">Läufe</translation>
+    </message>
+    <message>
+        <source>Athletes</source>
+        <translation type="unfinished">Athleten</translation>
+    </message>
+    <message>
+        <source>Results by season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Averages</source>
+        <translation type="unfinished">Mittelwerte</translation>
+    </message>
+    <message>
+        <source>Ranking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touches by gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was noted of penalties</source>
+        <translation type="unfinished">Was zu Strafen notiert wurde</translation>
+    </message>
+    <message>
+        <source>What penalties cost</source>
+        <translation type="unfinished">Was Strafen kosten</translation>
+    </message>
+    <message>
+        <source>Risk and speed by thirds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Losses by section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation type="unfinished">Tests</translation>
+    </message>
+    <message>
+        <source>Goals</source>
+        <translation type="unfinished">Ziele</translation>
+    </message>
+    <message>
+        <source>Measures of the body</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exercises</source>
+        <translation type="unfinished">Übungen</translation>
+    </message>
+    <message>
+        <source>Intervals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films compared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films to choose from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation type="unfinished">Filme</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation type="unfinished">Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Work kept</source>
+        <translation type="unfinished">Bewahrte Arbeit</translation>
+    </message>
+</context>
+<context>
     <name>TestCharts</name>
     <message>
         <source>Not recorded, and not entered</source>
@@ -1157,7 +1292,7 @@
     </message>
     <message>
         <source>Load %1 %</source>
-        <translation>Belastung %1 %</translation>
+        <translation>Belastung %1&#xa0;%</translation>
     </message>
     <message>
         <source>Macrocycle</source>
@@ -1910,7 +2045,7 @@
     </message>
     <message>
         <source>     Explained by notes: {} of {} ({:.0f} %)</source>
-        <translation>     Durch Notizen erklärt: {} von {} ({:.0f} %)</translation>
+        <translation>     Durch Notizen erklärt: {} von {} ({:.0f}&#xa0;%)</translation>
     </message>
     <message>
         <source>Tells how often gates are touched, what it cost, and whether speed pays</source>
@@ -1946,11 +2081,11 @@
     </message>
     <message>
         <source>{} of {} whole runs without a penalty: {:.1f} % ({})</source>
-        <translation>{} von {} ganzen Läufen ohne Strafe: {:.1f} % ({})</translation>
+        <translation>{} von {} ganzen Läufen ohne Strafe: {:.1f}&#xa0;% ({})</translation>
     </message>
     <message>
         <source>Ranked: drawn towards {:.1f} %, the more the fewer the passages;</source>
-        <translation>Gereiht: zu {:.1f} % hingezogen, umso mehr, je weniger Durchfahrten;</translation>
+        <translation>Gereiht: zu {:.1f}&#xa0;% hingezogen, umso mehr, je weniger Durchfahrten;</translation>
     </message>
     <message>
         <source>{} of {}</source>
@@ -1977,7 +2112,7 @@
     </message>
     <message>
         <source>{} {} of {} ({:.0f} %, {:.0f}–{:.0f})</source>
-        <translation>{} {} von {} ({:.0f} %, {:.0f}–{:.0f})</translation>
+        <translation>{} {} von {} ({:.0f}&#xa0;%, {:.0f}–{:.0f})</translation>
     </message>
     <message>
         <source>Noted of {}</source>
@@ -1985,7 +2120,7 @@
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run; times in percent of the group&apos;s median</source>
-        <translation>1 % Tempo wiegt {:.2f} Berührungen je Lauf auf; Zeiten in Prozent des Medians der Gruppe</translation>
+        <translation>1&#xa0;% Tempo wiegt {:.2f} Berührungen je Lauf auf; Zeiten in Prozent des Medians der Gruppe</translation>
     </message>
     <message>
         <source>The sum of the best splits, and what each run could be</source>
@@ -2144,7 +2279,7 @@
     </message>
     <message>
         <source>Runs vary by {:.1f} %{}, from {}; {:.2f} % is worth gaining.</source>
-        <translation>Läufe schwanken um {:.1f} %{} ({}); {:.2f} % zu gewinnen lohnt sich.</translation>
+        <translation>Läufe schwanken um {:.1f}&#xa0;%{} ({}); {:.2f}&#xa0;% zu gewinnen lohnt sich.</translation>
     </message>
     <message>
         <source>Neither winners nor fastest splits of these races are known.</source>
@@ -2168,7 +2303,7 @@
     </message>
     <message>
         <source>{:.1f} % (all {:.1f}{})</source>
-        <translation>{:.1f} % (alle {:.1f}{})</translation>
+        <translation>{:.1f}&#xa0;% (alle {:.1f}{})</translation>
     </message>
     <message>
         <source>, {} missed</source>
@@ -2176,11 +2311,11 @@
     </message>
     <message>
         <source>{:+.1f} %/yr{} </source>
-        <translation>{:+.1f} %/Jahr{} </translation>
+        <translation>{:+.1f}&#xa0;%/Jahr{} </translation>
     </message>
     <message>
         <source>{} of {} ({:.0f}–{:.0f} %)</source>
-        <translation>{} von {} ({:.0f}–{:.0f} %)</translation>
+        <translation>{} von {} ({:.0f}–{:.0f}&#xa0;%)</translation>
     </message>
     <message numerus="yes">
         <source>{} races</source>
@@ -2191,7 +2326,7 @@
     </message>
     <message>
         <source> {} of {} ({:.0f}–{:.0f} %), {:+.1f} %</source>
-        <translation> {} von {} ({:.0f}–{:.0f} %), {:+.1f} %</translation>
+        <translation> {} von {} ({:.0f}–{:.0f}&#xa0;%), {:+.1f}&#xa0;%</translation>
     </message>
     <message>
         <source>rank {}</source>
@@ -2488,11 +2623,11 @@
     </message>
     <message>
         <source>90 %, Student&apos;s t</source>
-        <translation>90 %, Student-t</translation>
+        <translation>90&#xa0;%, Student-t</translation>
     </message>
     <message>
         <source>90 %, Wilson</source>
-        <translation>90 %, Wilson</translation>
+        <translation>90&#xa0;%, Wilson</translation>
     </message>
     <message>
         <source>own</source>
@@ -2836,7 +2971,7 @@
     </message>
     <message>
         <source>5 % and 95 % of the beta distribution</source>
-        <translation>5 % und 95 % der Betaverteilung</translation>
+        <translation>5&#xa0;% und 95&#xa0;% der Betaverteilung</translation>
     </message>
     <message>
         <source>x</source>
@@ -2852,7 +2987,7 @@
     </message>
     <message>
         <source>Wilson&apos;s interval, 90 %</source>
-        <translation>Wilson-Intervall, 90 %</translation>
+        <translation>Wilson-Intervall, 90&#xa0;%</translation>
     </message>
     <message>
         <source>{} runs are</source>
@@ -2941,11 +3076,11 @@
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run.</source>
-        <translation>1 % Tempo wiegt {:.2f} Berührungen je Lauf auf.</translation>
+        <translation>1&#xa0;% Tempo wiegt {:.2f} Berührungen je Lauf auf.</translation>
     </message>
     <message>
         <source>{} of {} without a penalty: {:.1f} % ({:.1f}–{:.1f}).</source>
-        <translation>{} von {} ohne Strafe: {:.1f} % ({:.1f}–{:.1f}).</translation>
+        <translation>{} von {} ohne Strafe: {:.1f}&#xa0;% ({:.1f}–{:.1f}).</translation>
     </message>
     <message>
         <source>{} {} {}, place</source>
@@ -2961,19 +3096,19 @@
     </message>
     <message>
         <source>{} {} of {} ({:.0f}–{:.0f} %)</source>
-        <translation>{} {} von {} ({:.0f}–{:.0f} %)</translation>
+        <translation>{} {} von {} ({:.0f}–{:.0f}&#xa0;%)</translation>
     </message>
     <message>
         <source>{:.1f} % behind the winner, {} (median of {})</source>
-        <translation>{:.1f} % hinter dem Sieger, {} (Median: {})</translation>
+        <translation>{:.1f}&#xa0;% hinter dem Sieger, {} (Median: {})</translation>
     </message>
     <message>
         <source>within {:.1f} % from run to run</source>
-        <translation>Streuung {:.1f} % von Lauf zu Lauf</translation>
+        <translation>Streuung {:.1f}&#xa0;% von Lauf zu Lauf</translation>
     </message>
     <message>
         <source>trend {:+.1f} % a year: {}</source>
-        <translation>Trend {:+.1f} % im Jahr: {}</translation>
+        <translation>Trend {:+.1f}&#xa0;% im Jahr: {}</translation>
     </message>
     <message>
         <source>{}: too few runs to tell a trend behind {}.</source>
@@ -2981,7 +3116,7 @@
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
-        <translation>{}: {:+.1f} % im Jahr, Abstand zu: {}{}, {}.</translation>
+        <translation>{}: {:+.1f}&#xa0;% im Jahr, Abstand zu: {}{}, {}.</translation>
     </message>
     <message>
         <source>{} of {}&apos;s races is known.</source>
@@ -2993,11 +3128,11 @@
     </message>
     <message>
         <source>From run to run {:.1f} % is chance.</source>
-        <translation>Von Lauf zu Lauf sind {:.1f} % Zufall.</translation>
+        <translation>Von Lauf zu Lauf sind {:.1f}&#xa0;% Zufall.</translation>
     </message>
     <message>
         <source>From run to run {:.1f} % ({:.1f} to {:.1f}) is chance; {:.2f} % is worth gaining.</source>
-        <translation>Von Lauf zu Lauf sind {:.1f} % ({:.1f} bis {:.1f}) Zufall; {:.2f} % zu gewinnen lohnt sich.</translation>
+        <translation>Von Lauf zu Lauf sind {:.1f}&#xa0;% ({:.1f} bis {:.1f}) Zufall; {:.2f}&#xa0;% zu gewinnen lohnt sich.</translation>
     </message>
     <message>
         <source>{} of {} grew faster beyond doubt, {} slower.</source>
@@ -3024,11 +3159,11 @@
     </message>
     <message>
         <source>{:.1f} % would have been among the first three in {} of {}.</source>
-        <translation>{:.1f} % wären unter den ersten drei gewesen: {} von {}.</translation>
+        <translation>{:.1f}&#xa0;% wären unter den ersten drei gewesen: {} von {}.</translation>
     </message>
     <message>
         <source>The third was {:.1f} % behind in the median of {}.</source>
-        <translation>Der Dritte lag {:.1f} % zurück (Median: {}).</translation>
+        <translation>Der Dritte lag {:.1f}&#xa0;% zurück (Median: {}).</translation>
     </message>
     <message>
         <source>Nobody of the team has runs enough to expect a place of.</source>
@@ -3036,7 +3171,7 @@
     </message>
     <message>
         <source>{} may expect place {:.1f} of {}, a medal by {:.0f} %.</source>
-        <translation>{} darf Platz {:.1f} von {} erwarten, eine Medaille mit {:.0f} %.</translation>
+        <translation>{} darf Platz {:.1f} von {} erwarten, eine Medaille mit {:.0f}&#xa0;%.</translation>
     </message>
     <message numerus="yes">
         <source>{} finals</source>
@@ -3047,7 +3182,7 @@
     </message>
     <message>
         <source>{:.1f} % would have been a medal in {} of {}</source>
-        <translation>{:.1f} % wären eine Medaille gewesen: {} von {}</translation>
+        <translation>{:.1f}&#xa0;% wären eine Medaille gewesen: {} von {}</translation>
     </message>
     <message>
         <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
@@ -3055,11 +3190,11 @@
     </message>
     <message>
         <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>{}: {}, {} von {} ({:.0f}–{:.0f} %).</translation>
+        <translation>{}: {}, {} von {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
-        <translation>Den Siegern am nächsten ({}): {}, {:.1f} % (Median: {}).</translation>
+        <translation>Den Siegern am nächsten ({}): {}, {:.1f}&#xa0;% (Median: {}).</translation>
     </message>
     <message>
         <source>No winner of a phase &quot;{}&quot; of these races is known.</source>
@@ -3087,7 +3222,7 @@
     </message>
     <message>
         <source>{}, spread {:.2f}, missed {:.1f} %</source>
-        <translation>{}, Streuung {:.2f}, verfehlt {:.1f} %</translation>
+        <translation>{}, Streuung {:.2f}, verfehlt {:.1f}&#xa0;%</translation>
     </message>
     <message>
         <source>How far behind the winner of the phase and class, penalties included.</source>
@@ -3267,11 +3402,11 @@
     </message>
     <message>
         <source>90 %, Student&apos;s t with {} degrees</source>
-        <translation>90 %, Student-t mit {} Freiheitsgraden</translation>
+        <translation>90&#xa0;%, Student-t mit {} Freiheitsgraden</translation>
     </message>
     <message>
         <source>{:+.1f} % a year</source>
-        <translation>{:+.1f} % im Jahr</translation>
+        <translation>{:+.1f}&#xa0;% im Jahr</translation>
     </message>
     <message>
         <source>spread, percent</source>
@@ -3295,7 +3430,7 @@
     </message>
     <message>
         <source>90 %, χ²</source>
-        <translation>90 %, χ²</translation>
+        <translation>90&#xa0;%, χ²</translation>
     </message>
     <message>
         <source>common spread, percent</source>
@@ -3307,7 +3442,7 @@
     </message>
     <message>
         <source>exact Poisson interval, 90 %</source>
-        <translation>exaktes Poisson-Intervall, 90 %</translation>
+        <translation>exaktes Poisson-Intervall, 90&#xa0;%</translation>
     </message>
     <message>
         <source>median paddling</source>
@@ -3443,7 +3578,7 @@
     </message>
     <message>
         <source>Percent, 90 %</source>
-        <translation>Prozent, 90 %</translation>
+        <translation>Prozent, 90&#xa0;%</translation>
     </message>
     <message>
         <source>All</source>
@@ -3890,7 +4025,7 @@
     </message>
     <message>
         <source>rank %1: %2 %</source>
-        <translation>Platz %1: %2 %</translation>
+        <translation>Platz %1: %2&#xa0;%</translation>
     </message>
     <message>
         <source>own median</source>
@@ -3906,7 +4041,7 @@
     </message>
     <message>
         <source>%1 · %2 races · intervals are 90 %</source>
-        <translation>%1 · %2 Rennen · Intervalle sind 90 %</translation>
+        <translation>%1 · %2 Rennen · Intervalle sind 90&#xa0;%</translation>
     </message>
     <message>
         <source>Percent behind the winner</source>
@@ -3986,7 +4121,7 @@
     </message>
     <message>
         <source>%1 athletes · intervals are 90 %</source>
-        <translation>%1 Athleten · Intervalle sind 90 %</translation>
+        <translation>%1 Athleten · Intervalle sind 90&#xa0;%</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -4886,7 +5021,7 @@
     </message>
     <message>
         <source>chance from run to run {:.1f} %, all {:.1f} %; {:.2f} % matters</source>
-        <translation>Zufall von Lauf zu Lauf {:.1f} %, alle {:.1f} %; {:.2f} % zählen</translation>
+        <translation>Zufall von Lauf zu Lauf {:.1f}&#xa0;%, alle {:.1f}&#xa0;%; {:.2f}&#xa0;% zählen</translation>
     </message>
     <message>
         <source>none</source>
@@ -5148,7 +5283,7 @@
     </message>
     <message>
         <source>%1 %, %2 of %3</source>
-        <translation>%1 %, %2 von %3</translation>
+        <translation>%1&#xa0;%, %2 von %3</translation>
     </message>
     <message>
         <source>Waits</source>
@@ -5248,7 +5383,7 @@
     </message>
     <message>
         <source>Watched: 80 % of it was shown</source>
-        <translation>Angesehen: 80 % davon wurden gezeigt</translation>
+        <translation>Angesehen: 80&#xa0;% davon wurden gezeigt</translation>
     </message>
     <message>
         <source>Of the split file: split taking edits it</source>
@@ -5356,7 +5491,7 @@
     </message>
     <message>
         <source>Lost, 90 %</source>
-        <translation>Verlust, 90 %</translation>
+        <translation>Verlust, 90&#xa0;%</translation>
     </message>
     <message>
         <source>No loss</source>
@@ -5496,7 +5631,7 @@
     </message>
     <message>
         <source>Explained by notes: %1 of %2 (%3 %)</source>
-        <translation>Durch Notizen erklärt: %1 von %2 (%3 %)</translation>
+        <translation>Durch Notizen erklärt: %1 von %2 (%3&#xa0;%)</translation>
     </message>
     <message>
         <source>Most was lost in %1: %2 s of %3.</source>
@@ -5512,11 +5647,11 @@
     </message>
     <message>
         <source>%1 alone makes %2 % of what was lost in slower sections.</source>
-        <translation>%1 allein macht %2 % des Verlusts in langsameren Abschnitten aus.</translation>
+        <translation>%1 allein macht %2&#xa0;% des Verlusts in langsameren Abschnitten aus.</translation>
     </message>
     <message>
         <source>%1 of %2 slower sections make %3 % of what was lost in them.</source>
-        <translation>%1 von %2 langsameren Abschnitten machen %3 % des Verlusts in ihnen aus.</translation>
+        <translation>%1 von %2 langsameren Abschnitten machen %3&#xa0;% des Verlusts in ihnen aus.</translation>
     </message>
     <message>
         <source>Nobody was slower than the reference in a section.</source>
@@ -5600,7 +5735,7 @@
     </message>
     <message>
         <source>Ranked rate, 90 %</source>
-        <translation>Gereihte Rate, 90 %</translation>
+        <translation>Gereihte Rate, 90&#xa0;%</translation>
     </message>
     <message>
         <source>Touched</source>
@@ -5696,7 +5831,7 @@
     </message>
     <message>
         <source>Share, 90 %</source>
-        <translation>Anteil, 90 %</translation>
+        <translation>Anteil, 90&#xa0;%</translation>
     </message>
     <message>
         <source>Noted as</source>
@@ -5744,7 +5879,7 @@
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#xa0;%</translation>
     </message>
     <message>
         <source>Equally fast in all</source>
@@ -5936,7 +6071,7 @@
     </message>
     <message>
         <source>Gap 90 %</source>
-        <translation>Rückstand 90 %</translation>
+        <translation>Rückstand 90&#xa0;%</translation>
     </message>
     <message>
         <source>Half</source>
@@ -7096,11 +7231,11 @@
     </message>
     <message>
         <source>left +%1 %</source>
-        <translation>links +%1 %</translation>
+        <translation>links +%1&#xa0;%</translation>
     </message>
     <message>
         <source>right +%1 %</source>
-        <translation>rechts +%1 %</translation>
+        <translation>rechts +%1&#xa0;%</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -7132,7 +7267,7 @@
     </message>
     <message>
         <source>Differences under %1 % are no finding</source>
-        <translation>Unterschiede unter %1 % sagen nichts</translation>
+        <translation>Unterschiede unter %1&#xa0;% sagen nichts</translation>
     </message>
 </context>
 <context>
@@ -8162,7 +8297,7 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     <name>kavela::desktop::ComparisonPanel</name>
     <message>
         <source>%1 of %2 (%3–%4 %)</source>
-        <translation>%1 von %2 (%3–%4 %)</translation>
+        <translation>%1 von %2 (%3–%4&#xa0;%)</translation>
     </message>
     <message>
         <source>Behind the winners in the &amp;phase</source>
@@ -9590,11 +9725,11 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#xa0;%</translation>
     </message>
     <message>
         <source>Where the share lies with 90 %</source>
-        <translation>Wo der Anteil mit 90 % liegt</translation>
+        <translation>Wo der Anteil mit 90&#xa0;% liegt</translation>
     </message>
     <message>
         <source>No penalty was noted in detail. Split taking notes them.</source>
@@ -9648,7 +9783,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>Gate %1: %2 %</source>
-        <translation>Tor %1: %2 %</translation>
+        <translation>Tor %1: %2&#xa0;%</translation>
     </message>
     <message>
         <source>, %1 of %2 touched</source>
@@ -9656,7 +9791,7 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -11305,6 +11440,64 @@ T Berührung, F Torfehler, 0 fehlerfrei; N und P nächstes und voriges Tor</tran
     </message>
 </context>
 <context>
+    <name>kavela::desktop::GuideWindow</name>
+    <message>
+        <source>User guide – Kavela</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ways through the guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation type="unfinished">Vorwärts</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished">%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation type="unfinished">Suchen</translation>
+    </message>
+    <message>
+        <source>Next place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search the guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” does not come with the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No chapter has these words.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>In %n chapters. Enter goes to the next place.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::GymPanel</name>
     <message>
         <source>All seasons, in kilograms</source>
@@ -12528,7 +12721,7 @@ Strafen sind nicht enthalten.</translation>
     </message>
     <message>
         <source>%1 s (%2 %) against %3</source>
-        <translation>%1 s (%2 %) gegen %3</translation>
+        <translation>%1 s (%2&#xa0;%) gegen %3</translation>
     </message>
     <message>
         <source>Go back to the run that lost the time first.</source>
@@ -15309,7 +15502,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>&lt;b&gt;%1&lt;/b&gt; runs, &lt;b&gt;%2&lt;/b&gt; of them clean (%3 %)  ·  touches per run &lt;b&gt;%4&lt;/b&gt;  ·  missed gates per run &lt;b&gt;%5&lt;/b&gt;</source>
-        <translation>&lt;b&gt;%1&lt;/b&gt; Läufe, &lt;b&gt;%2&lt;/b&gt; davon fehlerfrei (%3 %)  ·  Berührungen je Lauf &lt;b&gt;%4&lt;/b&gt;  ·  Torfehler je Lauf &lt;b&gt;%5&lt;/b&gt;</translation>
+        <translation>&lt;b&gt;%1&lt;/b&gt; Läufe, &lt;b&gt;%2&lt;/b&gt; davon fehlerfrei (%3&#xa0;%)  ·  Berührungen je Lauf &lt;b&gt;%4&lt;/b&gt;  ·  Torfehler je Lauf &lt;b&gt;%5&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Take from split files…</source>
@@ -15631,11 +15824,11 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#xa0;%</translation>
     </message>
     <message>
         <source>Where the rate lies with 90 %</source>
-        <translation>Wo die Rate mit 90 % liegt</translation>
+        <translation>Wo die Rate mit 90&#xa0;% liegt</translation>
     </message>
     <message>
         <source>Ranked %</source>
@@ -15647,7 +15840,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Ranked 90 %</source>
-        <translation>Gereiht 90 %</translation>
+        <translation>Gereiht 90&#xa0;%</translation>
     </message>
     <message>
         <source>Where the ranked rate lies</source>
@@ -15675,7 +15868,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>Missed 90 %</source>
-        <translation>Verfehlt 90 %</translation>
+        <translation>Verfehlt 90&#xa0;%</translation>
     </message>
     <message>
         <source>&amp;Rates</source>
@@ -16072,7 +16265,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Smaller</source>
@@ -16258,7 +16451,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -17007,7 +17200,7 @@ Eine Datei wählen.</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#xa0;%</translation>
     </message>
     <message>
         <source>A run</source>
@@ -18806,7 +18999,7 @@ und %1 weitere</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>frame %1   %2 s</source>
@@ -18982,7 +19175,7 @@ place %4 of %5
 %6 s behind the best, %7 %</source>
         <translation>%1, %2: %3 s
 Platz %4 von %5
-%6 s hinter dem Besten, %7 %</translation>
+%6 s hinter dem Besten, %7&#xa0;%</translation>
     </message>
     <message>
         <source>%1, %2: %3 s
@@ -19118,6 +19311,41 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <message>
         <source>&amp;Replace the statistics</source>
         <translation>Statistik &amp;ersetzen</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::StepsBox</name>
+    <message>
+        <source>Hide these steps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a race: “Try the sample season”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask a number of its table why it is what it is: Alt+click, or Shift+F1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>See where the time was lost: Ctrl+Shift+L.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the film of a run, or take a split: Ctrl+T.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make an athlete&apos;s report or page: Ctrl+P.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All first steps are done. F1 tells the rest.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First steps, three minutes</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -21268,7 +21496,7 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#xa0;%</translation>
     </message>
     <message>
         <source>Exact interval of the touches</source>

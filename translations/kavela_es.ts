@@ -415,6 +415,10 @@
         <source>&amp;Look for a newer version</source>
         <translation>B&amp;uscar una versión nueva</translation>
     </message>
+    <message>
+        <source>User &amp;guide</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QueryForm</name>
@@ -947,6 +951,137 @@
     </message>
 </context>
 <context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Splits</source>
+        <translation type="unfinished">Parciales</translation>
+    </message>
+    <message>
+        <source>Splits of the time trial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time trials</source>
+        <translation type="unfinished">Contrarrelojes</translation>
+    </message>
+    <message>
+        <source>Heats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacks</source>
+        <translation type="unfinished">Ataques</translation>
+    </message>
+    <message>
+        <source>Who attacks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Side of the attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place of the attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacks by athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacks by place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notes of the run</source>
+        <translation type="unfinished">Notas de la manga</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation type="unfinished">Mangas</translation>
+    </message>
+    <message>
+        <source>Athletes</source>
+        <translation type="unfinished">Deportistas</translation>
+    </message>
+    <message>
+        <source>Results by season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Averages</source>
+        <translation type="unfinished">Medias</translation>
+    </message>
+    <message>
+        <source>Ranking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touches by gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was noted of penalties</source>
+        <translation type="unfinished">Lo que se anotó de las penalizaciones</translation>
+    </message>
+    <message>
+        <source>What penalties cost</source>
+        <translation type="unfinished">Lo que cuestan las penalizaciones</translation>
+    </message>
+    <message>
+        <source>Risk and speed by thirds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Losses by section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation type="unfinished">Pruebas</translation>
+    </message>
+    <message>
+        <source>Goals</source>
+        <translation type="unfinished">Objetivos</translation>
+    </message>
+    <message>
+        <source>Measures of the body</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exercises</source>
+        <translation type="unfinished">Ejercicios</translation>
+    </message>
+    <message>
+        <source>Intervals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films compared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films to choose from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation type="unfinished">Vídeos</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation type="unfinished">Archivos recientes</translation>
+    </message>
+    <message>
+        <source>Work kept</source>
+        <translation type="unfinished">Trabajo conservado</translation>
+    </message>
+</context>
+<context>
     <name>TestCharts</name>
     <message>
         <source>Not recorded, and not entered</source>
@@ -1157,7 +1292,7 @@
     </message>
     <message>
         <source>Load %1 %</source>
-        <translation>Carga %1 %</translation>
+        <translation>Carga %1&#xa0;%</translation>
     </message>
     <message>
         <source>Macrocycle</source>
@@ -1910,7 +2045,7 @@
     </message>
     <message>
         <source>     Explained by notes: {} of {} ({:.0f} %)</source>
-        <translation>     Explicado por las notas: {} de {} ({:.0f} %)</translation>
+        <translation>     Explicado por las notas: {} de {} ({:.0f}&#xa0;%)</translation>
     </message>
     <message>
         <source>Tells how often gates are touched, what it cost, and whether speed pays</source>
@@ -1946,11 +2081,11 @@
     </message>
     <message>
         <source>{} of {} whole runs without a penalty: {:.1f} % ({})</source>
-        <translation>{} de {} mangas enteras sin penalización: {:.1f} % ({})</translation>
+        <translation>{} de {} mangas enteras sin penalización: {:.1f}&#xa0;% ({})</translation>
     </message>
     <message>
         <source>Ranked: drawn towards {:.1f} %, the more the fewer the passages;</source>
-        <translation>Por orden: acercadas al {:.1f} %, tanto más cuantos menos pasos;</translation>
+        <translation>Por orden: acercadas al {:.1f}&#xa0;%, tanto más cuantos menos pasos;</translation>
     </message>
     <message>
         <source>{} of {}</source>
@@ -1977,7 +2112,7 @@
     </message>
     <message>
         <source>{} {} of {} ({:.0f} %, {:.0f}–{:.0f})</source>
-        <translation>{} {} de {} ({:.0f} %, {:.0f}–{:.0f})</translation>
+        <translation>{} {} de {} ({:.0f}&#xa0;%, {:.0f}–{:.0f})</translation>
     </message>
     <message>
         <source>Noted of {}</source>
@@ -1985,7 +2120,7 @@
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run; times in percent of the group&apos;s median</source>
-        <translation>Un 1 % de velocidad compensa {:.2f} toques por manga; tiempos en porcentaje de la mediana del grupo</translation>
+        <translation>Un 1&#xa0;% de velocidad compensa {:.2f} toques por manga; tiempos en porcentaje de la mediana del grupo</translation>
     </message>
     <message>
         <source>The sum of the best splits, and what each run could be</source>
@@ -2144,7 +2279,7 @@
     </message>
     <message>
         <source>Runs vary by {:.1f} %{}, from {}; {:.2f} % is worth gaining.</source>
-        <translation>Las mangas varían un {:.1f} %{}, de {}; merece la pena ganar un {:.2f} %.</translation>
+        <translation>Las mangas varían un {:.1f}&#xa0;%{}, de {}; merece la pena ganar un {:.2f}&#xa0;%.</translation>
     </message>
     <message>
         <source>Neither winners nor fastest splits of these races are known.</source>
@@ -2168,7 +2303,7 @@
     </message>
     <message>
         <source>{:.1f} % (all {:.1f}{})</source>
-        <translation>{:.1f} % (todos {:.1f}{})</translation>
+        <translation>{:.1f}&#xa0;% (todos {:.1f}{})</translation>
     </message>
     <message>
         <source>, {} missed</source>
@@ -2176,11 +2311,11 @@
     </message>
     <message>
         <source>{:+.1f} %/yr{} </source>
-        <translation>{:+.1f} %/año{} </translation>
+        <translation>{:+.1f}&#xa0;%/año{} </translation>
     </message>
     <message>
         <source>{} of {} ({:.0f}–{:.0f} %)</source>
-        <translation>{} de {} ({:.0f}–{:.0f} %)</translation>
+        <translation>{} de {} ({:.0f}–{:.0f}&#xa0;%)</translation>
     </message>
     <message numerus="yes">
         <source>{} races</source>
@@ -2191,7 +2326,7 @@
     </message>
     <message>
         <source> {} of {} ({:.0f}–{:.0f} %), {:+.1f} %</source>
-        <translation> {} de {} ({:.0f}–{:.0f} %), {:+.1f} %</translation>
+        <translation> {} de {} ({:.0f}–{:.0f}&#xa0;%), {:+.1f}&#xa0;%</translation>
     </message>
     <message>
         <source>rank {}</source>
@@ -2488,11 +2623,11 @@
     </message>
     <message>
         <source>90 %, Student&apos;s t</source>
-        <translation>90 %, t de Student</translation>
+        <translation>90&#xa0;%, t de Student</translation>
     </message>
     <message>
         <source>90 %, Wilson</source>
-        <translation>90 %, Wilson</translation>
+        <translation>90&#xa0;%, Wilson</translation>
     </message>
     <message>
         <source>own</source>
@@ -2836,7 +2971,7 @@
     </message>
     <message>
         <source>5 % and 95 % of the beta distribution</source>
-        <translation>5 % y 95 % de la distribución beta</translation>
+        <translation>5&#xa0;% y 95&#xa0;% de la distribución beta</translation>
     </message>
     <message>
         <source>x</source>
@@ -2852,7 +2987,7 @@
     </message>
     <message>
         <source>Wilson&apos;s interval, 90 %</source>
-        <translation>Intervalo de Wilson, 90 %</translation>
+        <translation>Intervalo de Wilson, 90&#xa0;%</translation>
     </message>
     <message>
         <source>{} runs are</source>
@@ -2941,11 +3076,11 @@
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run.</source>
-        <translation>Un 1 % de velocidad compensa {:.2f} toques por manga.</translation>
+        <translation>Un 1&#xa0;% de velocidad compensa {:.2f} toques por manga.</translation>
     </message>
     <message>
         <source>{} of {} without a penalty: {:.1f} % ({:.1f}–{:.1f}).</source>
-        <translation>{} de {} sin penalización: {:.1f} % ({:.1f}–{:.1f}).</translation>
+        <translation>{} de {} sin penalización: {:.1f}&#xa0;% ({:.1f}–{:.1f}).</translation>
     </message>
     <message>
         <source>{} {} {}, place</source>
@@ -2961,19 +3096,19 @@
     </message>
     <message>
         <source>{} {} of {} ({:.0f}–{:.0f} %)</source>
-        <translation>{} {} de {} ({:.0f}–{:.0f} %)</translation>
+        <translation>{} {} de {} ({:.0f}–{:.0f}&#xa0;%)</translation>
     </message>
     <message>
         <source>{:.1f} % behind the winner, {} (median of {})</source>
-        <translation>{:.1f} % respecto al ganador, {} (mediana de {})</translation>
+        <translation>{:.1f}&#xa0;% respecto al ganador, {} (mediana de {})</translation>
     </message>
     <message>
         <source>within {:.1f} % from run to run</source>
-        <translation>variación del {:.1f} % de manga a manga</translation>
+        <translation>variación del {:.1f}&#xa0;% de manga a manga</translation>
     </message>
     <message>
         <source>trend {:+.1f} % a year: {}</source>
-        <translation>tendencia {:+.1f} % al año: {}</translation>
+        <translation>tendencia {:+.1f}&#xa0;% al año: {}</translation>
     </message>
     <message>
         <source>{}: too few runs to tell a trend behind {}.</source>
@@ -2981,7 +3116,7 @@
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
-        <translation>{}: {:+.1f} % al año respecto a {}{}, {}.</translation>
+        <translation>{}: {:+.1f}&#xa0;% al año respecto a {}{}, {}.</translation>
     </message>
     <message>
         <source>{} of {}&apos;s races is known.</source>
@@ -2993,11 +3128,11 @@
     </message>
     <message>
         <source>From run to run {:.1f} % is chance.</source>
-        <translation>De manga a manga, un {:.1f} % es azar.</translation>
+        <translation>De manga a manga, un {:.1f}&#xa0;% es azar.</translation>
     </message>
     <message>
         <source>From run to run {:.1f} % ({:.1f} to {:.1f}) is chance; {:.2f} % is worth gaining.</source>
-        <translation>De manga a manga, un {:.1f} % ({:.1f} a {:.1f}) es azar; merece la pena ganar un {:.2f} %.</translation>
+        <translation>De manga a manga, un {:.1f}&#xa0;% ({:.1f} a {:.1f}) es azar; merece la pena ganar un {:.2f}&#xa0;%.</translation>
     </message>
     <message>
         <source>{} of {} grew faster beyond doubt, {} slower.</source>
@@ -3024,11 +3159,11 @@
     </message>
     <message>
         <source>{:.1f} % would have been among the first three in {} of {}.</source>
-        <translation>Un {:.1f} % habría estado entre los tres primeros en {} de {}.</translation>
+        <translation>Un {:.1f}&#xa0;% habría estado entre los tres primeros en {} de {}.</translation>
     </message>
     <message>
         <source>The third was {:.1f} % behind in the median of {}.</source>
-        <translation>El tercero quedó a un {:.1f} % en la mediana de {}.</translation>
+        <translation>El tercero quedó a un {:.1f}&#xa0;% en la mediana de {}.</translation>
     </message>
     <message>
         <source>Nobody of the team has runs enough to expect a place of.</source>
@@ -3036,7 +3171,7 @@
     </message>
     <message>
         <source>{} may expect place {:.1f} of {}, a medal by {:.0f} %.</source>
-        <translation>{} puede esperar el puesto {:.1f} de {}, y una medalla con un {:.0f} %.</translation>
+        <translation>{} puede esperar el puesto {:.1f} de {}, y una medalla con un {:.0f}&#xa0;%.</translation>
     </message>
     <message numerus="yes">
         <source>{} finals</source>
@@ -3047,7 +3182,7 @@
     </message>
     <message>
         <source>{:.1f} % would have been a medal in {} of {}</source>
-        <translation>Un {:.1f} % habría sido medalla en {} de {}</translation>
+        <translation>Un {:.1f}&#xa0;% habría sido medalla en {} de {}</translation>
     </message>
     <message>
         <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
@@ -3055,11 +3190,11 @@
     </message>
     <message>
         <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>{}: {}, {} de {} ({:.0f}–{:.0f} %).</translation>
+        <translation>{}: {}, {} de {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
-        <translation>Más cerca de los ganadores ({}): {}, {:.1f} % (mediana de {}).</translation>
+        <translation>Más cerca de los ganadores ({}): {}, {:.1f}&#xa0;% (mediana de {}).</translation>
     </message>
     <message>
         <source>No winner of a phase &quot;{}&quot; of these races is known.</source>
@@ -3087,7 +3222,7 @@
     </message>
     <message>
         <source>{}, spread {:.2f}, missed {:.1f} %</source>
-        <translation>{}, variación {:.2f}, saltos {:.1f} %</translation>
+        <translation>{}, variación {:.2f}, saltos {:.1f}&#xa0;%</translation>
     </message>
     <message>
         <source>How far behind the winner of the phase and class, penalties included.</source>
@@ -3267,11 +3402,11 @@
     </message>
     <message>
         <source>90 %, Student&apos;s t with {} degrees</source>
-        <translation>90 %, t de Student con {} grados</translation>
+        <translation>90&#xa0;%, t de Student con {} grados</translation>
     </message>
     <message>
         <source>{:+.1f} % a year</source>
-        <translation>{:+.1f} % al año</translation>
+        <translation>{:+.1f}&#xa0;% al año</translation>
     </message>
     <message>
         <source>spread, percent</source>
@@ -3295,7 +3430,7 @@
     </message>
     <message>
         <source>90 %, χ²</source>
-        <translation>90 %, χ²</translation>
+        <translation>90&#xa0;%, χ²</translation>
     </message>
     <message>
         <source>common spread, percent</source>
@@ -3307,7 +3442,7 @@
     </message>
     <message>
         <source>exact Poisson interval, 90 %</source>
-        <translation>intervalo exacto de Poisson, 90 %</translation>
+        <translation>intervalo exacto de Poisson, 90&#xa0;%</translation>
     </message>
     <message>
         <source>median paddling</source>
@@ -3395,7 +3530,7 @@
     </message>
     <message>
         <source>90 % interval</source>
-        <translation>Intervalo 90 %</translation>
+        <translation>Intervalo 90&#xa0;%</translation>
     </message>
     <message>
         <source>Verdict</source>
@@ -3443,7 +3578,7 @@
     </message>
     <message>
         <source>Percent, 90 %</source>
-        <translation>Porc., 90 %</translation>
+        <translation>Porc., 90&#xa0;%</translation>
     </message>
     <message>
         <source>All</source>
@@ -3890,7 +4025,7 @@
     </message>
     <message>
         <source>rank %1: %2 %</source>
-        <translation>puesto %1: %2 %</translation>
+        <translation>puesto %1: %2&#xa0;%</translation>
     </message>
     <message>
         <source>own median</source>
@@ -3906,7 +4041,7 @@
     </message>
     <message>
         <source>%1 · %2 races · intervals are 90 %</source>
-        <translation>%1 · %2 carreras · los intervalos son del 90 %</translation>
+        <translation>%1 · %2 carreras · los intervalos son del 90&#xa0;%</translation>
     </message>
     <message>
         <source>Percent behind the winner</source>
@@ -3986,7 +4121,7 @@
     </message>
     <message>
         <source>%1 athletes · intervals are 90 %</source>
-        <translation>%1 deportistas · los intervalos son del 90 %</translation>
+        <translation>%1 deportistas · los intervalos son del 90&#xa0;%</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -4886,7 +5021,7 @@
     </message>
     <message>
         <source>chance from run to run {:.1f} %, all {:.1f} %; {:.2f} % matters</source>
-        <translation>azar de manga a manga {:.1f} %, todos {:.1f} %; importa un {:.2f} %</translation>
+        <translation>azar de manga a manga {:.1f}&#xa0;%, todos {:.1f}&#xa0;%; importa un {:.2f}&#xa0;%</translation>
     </message>
     <message>
         <source>none</source>
@@ -5148,7 +5283,7 @@
     </message>
     <message>
         <source>%1 %, %2 of %3</source>
-        <translation>%1 %, %2 de %3</translation>
+        <translation>%1&#xa0;%, %2 de %3</translation>
     </message>
     <message>
         <source>Waits</source>
@@ -5248,7 +5383,7 @@
     </message>
     <message>
         <source>Watched: 80 % of it was shown</source>
-        <translation>Visto: se mostró el 80 %</translation>
+        <translation>Visto: se mostró el 80&#xa0;%</translation>
     </message>
     <message>
         <source>Of the split file: split taking edits it</source>
@@ -5356,7 +5491,7 @@
     </message>
     <message>
         <source>Lost, 90 %</source>
-        <translation>Perdido, 90 %</translation>
+        <translation>Perdido, 90&#xa0;%</translation>
     </message>
     <message>
         <source>No loss</source>
@@ -5496,7 +5631,7 @@
     </message>
     <message>
         <source>Explained by notes: %1 of %2 (%3 %)</source>
-        <translation>Explicado por las notas: %1 de %2 (%3 %)</translation>
+        <translation>Explicado por las notas: %1 de %2 (%3&#xa0;%)</translation>
     </message>
     <message>
         <source>Most was lost in %1: %2 s of %3.</source>
@@ -5512,11 +5647,11 @@
     </message>
     <message>
         <source>%1 alone makes %2 % of what was lost in slower sections.</source>
-        <translation>%1 supone por sí solo el %2 % de lo perdido en los tramos más lentos.</translation>
+        <translation>%1 supone por sí solo el %2&#xa0;% de lo perdido en los tramos más lentos.</translation>
     </message>
     <message>
         <source>%1 of %2 slower sections make %3 % of what was lost in them.</source>
-        <translation>%1 de %2 tramos más lentos suponen el %3 % de lo perdido en ellos.</translation>
+        <translation>%1 de %2 tramos más lentos suponen el %3&#xa0;% de lo perdido en ellos.</translation>
     </message>
     <message>
         <source>Nobody was slower than the reference in a section.</source>
@@ -5600,7 +5735,7 @@
     </message>
     <message>
         <source>Ranked rate, 90 %</source>
-        <translation>Frecuencia ordenada, 90 %</translation>
+        <translation>Frecuencia ordenada, 90&#xa0;%</translation>
     </message>
     <message>
         <source>Touched</source>
@@ -5696,7 +5831,7 @@
     </message>
     <message>
         <source>Share, 90 %</source>
-        <translation>Parte, 90 %</translation>
+        <translation>Parte, 90&#xa0;%</translation>
     </message>
     <message>
         <source>Noted as</source>
@@ -5744,7 +5879,7 @@
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#xa0;%</translation>
     </message>
     <message>
         <source>Equally fast in all</source>
@@ -5936,7 +6071,7 @@
     </message>
     <message>
         <source>Gap 90 %</source>
-        <translation>Dif. 90 %</translation>
+        <translation>Dif. 90&#xa0;%</translation>
     </message>
     <message>
         <source>Half</source>
@@ -7096,11 +7231,11 @@
     </message>
     <message>
         <source>left +%1 %</source>
-        <translation>izquierda +%1 %</translation>
+        <translation>izquierda +%1&#xa0;%</translation>
     </message>
     <message>
         <source>right +%1 %</source>
-        <translation>derecha +%1 %</translation>
+        <translation>derecha +%1&#xa0;%</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -7132,7 +7267,7 @@
     </message>
     <message>
         <source>Differences under %1 % are no finding</source>
-        <translation>Las diferencias de menos del %1 % no significan nada</translation>
+        <translation>Las diferencias de menos del %1&#xa0;% no significan nada</translation>
     </message>
 </context>
 <context>
@@ -8162,7 +8297,7 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     <name>kavela::desktop::ComparisonPanel</name>
     <message>
         <source>%1 of %2 (%3–%4 %)</source>
-        <translation>%1 de %2 (%3–%4 %)</translation>
+        <translation>%1 de %2 (%3–%4&#xa0;%)</translation>
     </message>
     <message>
         <source>Behind the winners in the &amp;phase</source>
@@ -9590,11 +9725,11 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#xa0;%</translation>
     </message>
     <message>
         <source>Where the share lies with 90 %</source>
-        <translation>Dónde está la parte con un 90 %</translation>
+        <translation>Dónde está la parte con un 90&#xa0;%</translation>
     </message>
     <message>
         <source>No penalty was noted in detail. Split taking notes them.</source>
@@ -9648,7 +9783,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>Gate %1: %2 %</source>
-        <translation>Puerta %1: %2 %</translation>
+        <translation>Puerta %1: %2&#xa0;%</translation>
     </message>
     <message>
         <source>, %1 of %2 touched</source>
@@ -9656,7 +9791,7 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -11305,6 +11440,64 @@ Se empieza con «Añadir grupo».</translation>
     </message>
 </context>
 <context>
+    <name>kavela::desktop::GuideWindow</name>
+    <message>
+        <source>User guide – Kavela</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ways through the guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation type="unfinished">Adelante</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished">%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation type="unfinished">Buscar</translation>
+    </message>
+    <message>
+        <source>Next place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search the guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” does not come with the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No chapter has these words.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>In %n chapters. Enter goes to the next place.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::GymPanel</name>
     <message>
         <source>All seasons, in kilograms</source>
@@ -12528,7 +12721,7 @@ Las penalizaciones no se cuentan.</translation>
     </message>
     <message>
         <source>%1 s (%2 %) against %3</source>
-        <translation>%1 s (%2 %) frente a %3</translation>
+        <translation>%1 s (%2&#xa0;%) frente a %3</translation>
     </message>
     <message>
         <source>Go back to the run that lost the time first.</source>
@@ -15309,7 +15502,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>&lt;b&gt;%1&lt;/b&gt; runs, &lt;b&gt;%2&lt;/b&gt; of them clean (%3 %)  ·  touches per run &lt;b&gt;%4&lt;/b&gt;  ·  missed gates per run &lt;b&gt;%5&lt;/b&gt;</source>
-        <translation>&lt;b&gt;%1&lt;/b&gt; mangas, &lt;b&gt;%2&lt;/b&gt; de ellas limpias (%3 %)  ·  toques por manga &lt;b&gt;%4&lt;/b&gt;  ·  saltos por manga &lt;b&gt;%5&lt;/b&gt;</translation>
+        <translation>&lt;b&gt;%1&lt;/b&gt; mangas, &lt;b&gt;%2&lt;/b&gt; de ellas limpias (%3&#xa0;%)  ·  toques por manga &lt;b&gt;%4&lt;/b&gt;  ·  saltos por manga &lt;b&gt;%5&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Take from split files…</source>
@@ -15631,11 +15824,11 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#xa0;%</translation>
     </message>
     <message>
         <source>Where the rate lies with 90 %</source>
-        <translation>Dónde está la frecuencia con un 90 %</translation>
+        <translation>Dónde está la frecuencia con un 90&#xa0;%</translation>
     </message>
     <message>
         <source>Ranked %</source>
@@ -15647,7 +15840,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Ranked 90 %</source>
-        <translation>Orden 90 %</translation>
+        <translation>Orden 90&#xa0;%</translation>
     </message>
     <message>
         <source>Where the ranked rate lies</source>
@@ -15675,7 +15868,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>Missed 90 %</source>
-        <translation>Saltos 90 %</translation>
+        <translation>Saltos 90&#xa0;%</translation>
     </message>
     <message>
         <source>&amp;Rates</source>
@@ -16072,7 +16265,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Smaller</source>
@@ -16258,7 +16451,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -17007,7 +17200,7 @@ Elige un archivo.</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#xa0;%</translation>
     </message>
     <message>
         <source>A run</source>
@@ -18806,7 +18999,7 @@ y %1 más</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>frame %1   %2 s</source>
@@ -18982,7 +19175,7 @@ place %4 of %5
 %6 s behind the best, %7 %</source>
         <translation>%1, %2: %3 s
 puesto %4 de %5
-%6 s más que el mejor, %7 %</translation>
+%6 s más que el mejor, %7&#xa0;%</translation>
     </message>
     <message>
         <source>%1, %2: %3 s
@@ -19118,6 +19311,41 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <message>
         <source>&amp;Replace the statistics</source>
         <translation>&amp;Sustituir la estadística</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::StepsBox</name>
+    <message>
+        <source>Hide these steps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a race: “Try the sample season”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask a number of its table why it is what it is: Alt+click, or Shift+F1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>See where the time was lost: Ctrl+Shift+L.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the film of a run, or take a split: Ctrl+T.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make an athlete&apos;s report or page: Ctrl+P.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All first steps are done. F1 tells the rest.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First steps, three minutes</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -21025,7 +21253,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>Following: %p %</source>
-        <translation>Siguiendo: %p %</translation>
+        <translation>Siguiendo: %p&#xa0;%</translation>
     </message>
     <message>
         <source>Draw a box round what is to be followed.</source>
@@ -21268,7 +21496,7 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#xa0;%</translation>
     </message>
     <message>
         <source>Exact interval of the touches</source>

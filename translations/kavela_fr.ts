@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>“%1” is in the team already.</source>
-        <translation>« %1 » est déjà dans l’équipe.</translation>
+        <translation>«&#xa0;%1&#xa0;» est déjà dans l’équipe.</translation>
     </message>
 </context>
 <context>
@@ -134,7 +134,7 @@
     </message>
     <message>
         <source>%1 in all, %2 of it work; repetitions: %3</source>
-        <translation>%1 en tout, dont %2 d’effort ; répétitions : %3</translation>
+        <translation>%1 en tout, dont %2 d’effort&#x202f;; répétitions&#x202f;: %3</translation>
     </message>
 </context>
 <context>
@@ -211,7 +211,7 @@
     </message>
     <message>
         <source>Usual: mean ± one standard deviation of the four weeks before</source>
-        <translation>Habituel : moyenne ± un écart-type des quatre semaines précédentes</translation>
+        <translation>Habituel&#x202f;: moyenne ± un écart-type des quatre semaines précédentes</translation>
     </message>
     <message>
         <source>Each day</source>
@@ -227,7 +227,7 @@
     </message>
     <message>
         <source>Week to %1: mean %2</source>
-        <translation>Semaine jusqu’au %1 : moyenne %2</translation>
+        <translation>Semaine jusqu’au %1&#x202f;: moyenne %2</translation>
     </message>
     <message>
         <source>%1. What is usual is known after seven measured days of the 28 before.</source>
@@ -249,7 +249,7 @@
     <name>OlderRecordings</name>
     <message>
         <source>“%1” is a recording of version 4. It can be converted to the current version: “%2” is written beside it, the recording itself stays as it is.</source>
-        <translation>« %1 » est un enregistrement de version 4. Il peut être converti à la version actuelle : « %2 » est écrit à côté, l’enregistrement lui-même reste tel quel.</translation>
+        <translation>«&#xa0;%1&#xa0;» est un enregistrement de version 4. Il peut être converti à la version actuelle&#x202f;: «&#xa0;%2&#xa0;» est écrit à côté, l’enregistrement lui-même reste tel quel.</translation>
     </message>
     <message>
         <source>Convert and open</source>
@@ -310,7 +310,7 @@
     <name>ProgressionChart</name>
     <message>
         <source>Position after each phase; the chosen race is drawn heavier</source>
-        <translation>Position après chaque phase ; la course choisie est en trait plus épais</translation>
+        <translation>Position après chaque phase&#x202f;; la course choisie est en trait plus épais</translation>
     </message>
     <message>
         <source>position</source>
@@ -357,7 +357,7 @@
     </message>
     <message>
         <source>&amp;Why this number?</source>
-        <translation>Pourquoi &amp;ce nombre ?</translation>
+        <translation>Pourquoi &amp;ce nombre&#x202f;?</translation>
     </message>
     <message>
         <source>&amp;Change keys…</source>
@@ -369,7 +369,7 @@
     </message>
     <message>
         <source>Where are the films now?</source>
-        <translation>Où sont les films maintenant ?</translation>
+        <translation>Où sont les films maintenant&#x202f;?</translation>
     </message>
     <message>
         <source>Videos (*.mov *.mp4 *.m4v *.avi *.mkv *.mts *.m2ts *.ts *.3gp *.webm *.mpg);;All files (*)</source>
@@ -405,15 +405,19 @@
     </message>
     <message>
         <source>Mark the start first: the splits are expected from there on.</source>
-        <translation>Marquez d’abord le départ : les intermédiaires sont attendus à partir de là.</translation>
+        <translation>Marquez d’abord le départ&#x202f;: les intermédiaires sont attendus à partir de là.</translation>
     </message>
     <message>
         <source>No other run has split %1 yet: nothing tells where it is to be expected.</source>
-        <translation>Aucune autre manche n’a encore l’intermédiaire %1 : rien ne dit où l’attendre.</translation>
+        <translation>Aucune autre manche n’a encore l’intermédiaire %1&#x202f;: rien ne dit où l’attendre.</translation>
     </message>
     <message>
         <source>&amp;Look for a newer version</source>
         <translation>Chercher &amp;une version plus récente</translation>
+    </message>
+    <message>
+        <source>User &amp;guide</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -488,7 +492,7 @@
     <message>
         <source>How the films are named, such as &quot;{any} {name} {category} {phase}&quot;.
 {name}, {category}, {phase}, {bib}, {number} and {any} stand for what differs.</source>
-        <translation>Comment les films sont nommés, par exemple « {any} {name} {category} {phase} ».
+        <translation>Comment les films sont nommés, par exemple «&#xa0;{any} {name} {category} {phase}&#xa0;».
 {name}, {category}, {phase}, {bib}, {number} et {any} remplacent ce qui diffère.</translation>
     </message>
     <message>
@@ -601,7 +605,7 @@
     <name>SeasonChart</name>
     <message>
         <source>%1: penalty (s)</source>
-        <translation>%1 : pénalité (s)</translation>
+        <translation>%1&#x202f;: pénalité (s)</translation>
     </message>
     <message>
         <source>% behind</source>
@@ -617,7 +621,7 @@
     </message>
     <message>
         <source>Penalties only; percent behind comes with split files</source>
-        <translation>Seulement les pénalités ; le pourcentage de retard vient avec les fichiers d’intermédiaires</translation>
+        <translation>Seulement les pénalités&#x202f;; le pourcentage de retard vient avec les fichiers d’intermédiaires</translation>
     </message>
     <message>
         <source>Percent behind the fastest stands here once runs are taken over from split files.</source>
@@ -644,7 +648,7 @@
     </message>
     <message>
         <source>“%1” cannot be read</source>
-        <translation>« %1 » ne peut pas être lu</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être lu</translation>
     </message>
     <message>
         <source>One athlete was added.</source>
@@ -652,23 +656,23 @@
     </message>
     <message>
         <source>The list is no UTF-8 text and was read as Latin-1: look at the names.</source>
-        <translation>La liste n’est pas un texte UTF-8 et a été lue en Latin-1 : vérifiez les noms.</translation>
+        <translation>La liste n’est pas un texte UTF-8 et a été lue en Latin-1&#x202f;: vérifiez les noms.</translation>
     </message>
     <message>
         <source>Line %1: the category %2 is new in the selection.</source>
-        <translation>Ligne %1 : la catégorie %2 est nouvelle dans la sélection.</translation>
+        <translation>Ligne %1&#x202f;: la catégorie %2 est nouvelle dans la sélection.</translation>
     </message>
     <message>
         <source>Line %1: the category %2 is new in the selection, and none that boats are raced in.</source>
-        <translation>Ligne %1 : la catégorie %2 est nouvelle dans la sélection, et ce n’est pas une catégorie de bateaux de course.</translation>
+        <translation>Ligne %1&#x202f;: la catégorie %2 est nouvelle dans la sélection, et ce n’est pas une catégorie de bateaux de course.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation>Ligne %1 : %2</translation>
+        <translation>Ligne %1&#x202f;: %2</translation>
     </message>
     <message>
         <source>Results of which race?</source>
-        <translation>Résultats de quelle course ?</translation>
+        <translation>Résultats de quelle course&#x202f;?</translation>
     </message>
     <message>
         <source>Add a category first.</source>
@@ -706,7 +710,7 @@
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation>« %1 » ne peut pas être ouvert</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être ouvert</translation>
     </message>
 </context>
 <context>
@@ -771,7 +775,7 @@
     </message>
     <message>
         <source>Import the recording of the boat first: a track gives it positions and heart rates.</source>
-        <translation>Importez d’abord l’enregistrement du bateau : une trace lui donne positions et fréquences cardiaques.</translation>
+        <translation>Importez d’abord l’enregistrement du bateau&#x202f;: une trace lui donne positions et fréquences cardiaques.</translation>
     </message>
     <message>
         <source>track of a watch</source>
@@ -795,11 +799,11 @@
     </message>
     <message>
         <source>“%1” cannot be read</source>
-        <translation>« %1 » ne peut pas être lu</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être lu</translation>
     </message>
     <message>
         <source>Import a recording or a session first: power-meter data belongs to its strokes.</source>
-        <translation>Importez d’abord un enregistrement ou une séance : les données du capteur de puissance vont avec ses coups de pagaie.</translation>
+        <translation>Importez d’abord un enregistrement ou une séance&#x202f;: les données du capteur de puissance vont avec ses coups de pagaie.</translation>
     </message>
     <message>
         <source>import of power-meter data</source>
@@ -897,15 +901,15 @@
     </message>
     <message>
         <source>Side unknown: when the session was made, it was not known which side of the phone points to the bow.</source>
-        <translation>Côté inconnu : quand la séance a été faite, on ne savait pas quel côté du téléphone pointe vers l’avant.</translation>
+        <translation>Côté inconnu&#x202f;: quand la séance a été faite, on ne savait pas quel côté du téléphone pointe vers l’avant.</translation>
     </message>
     <message>
         <source>The file does not tell how the clocks of strokes and fixes go together: they were fitted by the turns and may be some seconds apart.</source>
-        <translation>Le fichier ne dit pas comment s’accordent les horloges des coups de pagaie et des positions : elles ont été ajustées d’après les virages et peuvent différer de quelques secondes.</translation>
+        <translation>Le fichier ne dit pas comment s’accordent les horloges des coups de pagaie et des positions&#x202f;: elles ont été ajustées d’après les virages et peuvent différer de quelques secondes.</translation>
     </message>
     <message>
         <source>Power-meter data is not in the strokes yet; you are asked on saving.</source>
-        <translation>Les données du capteur de puissance ne sont pas encore dans les coups de pagaie ; la question sera posée à l’enregistrement.</translation>
+        <translation>Les données du capteur de puissance ne sont pas encore dans les coups de pagaie&#x202f;; la question sera posée à l’enregistrement.</translation>
     </message>
 </context>
 <context>
@@ -944,6 +948,137 @@
     <message>
         <source>has no run of %1</source>
         <translation>n’a aucune manche de %1</translation>
+    </message>
+</context>
+<context>
+    <name>SpokenNames</name>
+    <message>
+        <source>Splits</source>
+        <translation type="unfinished">Inters</translation>
+    </message>
+    <message>
+        <source>Splits of the time trial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time trials</source>
+        <translation type="unfinished">Contre-la-montre</translation>
+    </message>
+    <message>
+        <source>Heats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacks</source>
+        <translation type="unfinished">Attaques</translation>
+    </message>
+    <message>
+        <source>Who attacks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Side of the attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place of the attack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacks by athlete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attacks by place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notes of the run</source>
+        <translation type="unfinished">Notes de la manche</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation type="unfinished">Manches</translation>
+    </message>
+    <message>
+        <source>Athletes</source>
+        <translation type="unfinished">Athlètes</translation>
+    </message>
+    <message>
+        <source>Results by season</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Averages</source>
+        <translation type="unfinished">Moyennes</translation>
+    </message>
+    <message>
+        <source>Ranking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Touches by gate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was noted of penalties</source>
+        <translation type="unfinished">Ce qui a été noté des pénalités</translation>
+    </message>
+    <message>
+        <source>What penalties cost</source>
+        <translation type="unfinished">Ce que coûtent les pénalités</translation>
+    </message>
+    <message>
+        <source>Risk and speed by thirds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Losses by section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tests</source>
+        <translation type="unfinished">Tests</translation>
+    </message>
+    <message>
+        <source>Goals</source>
+        <translation type="unfinished">Objectifs</translation>
+    </message>
+    <message>
+        <source>Measures of the body</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exercises</source>
+        <translation type="unfinished">Exercices</translation>
+    </message>
+    <message>
+        <source>Intervals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films compared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films to choose from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation type="unfinished">Films</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recent files</source>
+        <translation type="unfinished">Fichiers récents</translation>
+    </message>
+    <message>
+        <source>Work kept</source>
+        <translation type="unfinished">Travail conservé</translation>
     </message>
 </context>
 <context>
@@ -993,7 +1128,7 @@
     </message>
     <message>
         <source>M marks the %1</source>
-        <translation>M marque : %1</translation>
+        <translation>M marque&#x202f;: %1</translation>
     </message>
     <message>
         <source>The roll is marked</source>
@@ -1005,7 +1140,7 @@
     </message>
     <message>
         <source>Gate %1: M marks the %2</source>
-        <translation>Porte %1 : M marque : %2</translation>
+        <translation>Porte %1&#x202f;: M marque&#x202f;: %2</translation>
     </message>
     <message>
         <source>Gate %1 is marked</source>
@@ -1033,7 +1168,7 @@
     </message>
     <message>
         <source>%1:  %2</source>
-        <translation>%1 :  %2</translation>
+        <translation>%1&#x202f;:  %2</translation>
     </message>
     <message>
         <source>Split %1 was put in between two marks. Ctrl+Z takes it out again.</source>
@@ -1045,7 +1180,7 @@
     </message>
     <message>
         <source>The cross course has no gates yet: they are set above.</source>
-        <translation>Le parcours de cross n’a pas encore de portes : elles se règlent ci-dessus.</translation>
+        <translation>Le parcours de cross n’a pas encore de portes&#x202f;: elles se règlent ci-dessus.</translation>
     </message>
     <message>
         <source>%1 of gate %2</source>
@@ -1084,7 +1219,7 @@
     <name>TypedMeasures</name>
     <message>
         <source>This moment is in no calendar: %1 seconds from 2001-01-01. It stays as it is until another date is typed.</source>
-        <translation>Ce moment n’est dans aucun calendrier : %1 secondes depuis 2001-01-01. Il reste tel quel jusqu’à la saisie d’une autre date.</translation>
+        <translation>Ce moment n’est dans aucun calendrier&#x202f;: %1 secondes depuis 2001-01-01. Il reste tel quel jusqu’à la saisie d’une autre date.</translation>
     </message>
     <message>
         <source>A value below 0 cannot be measured.</source>
@@ -1157,7 +1292,7 @@
     </message>
     <message>
         <source>Load %1 %</source>
-        <translation>Charge %1 %</translation>
+        <translation>Charge %1&#x202f;%</translation>
     </message>
     <message>
         <source>Macrocycle</source>
@@ -1225,7 +1360,7 @@
     </message>
     <message>
         <source>The time zone “%1” is unknown.</source>
-        <translation>Le fuseau horaire « %1 » est inconnu.</translation>
+        <translation>Le fuseau horaire «&#xa0;%1&#xa0;» est inconnu.</translation>
     </message>
     <message>
         <source>A value is negative.</source>
@@ -1356,7 +1491,7 @@
     </message>
     <message>
         <source>The place in the column: one more than are faster to the hundredth.</source>
-        <translation>La place dans la colonne : une de plus que le nombre de ceux qui sont plus rapides au centième.</translation>
+        <translation>La place dans la colonne&#x202f;: une de plus que le nombre de ceux qui sont plus rapides au centième.</translation>
     </message>
     <message>
         <source>1 + faster</source>
@@ -1615,7 +1750,7 @@
     </message>
     <message>
         <source>The athlete&apos;s name; a crew as &quot;A / B&quot;</source>
-        <translation>Le nom de l’athlète ; un équipage sous la forme &quot;A / B&quot;</translation>
+        <translation>Le nom de l’athlète&#x202f;; un équipage sous la forme &quot;A / B&quot;</translation>
     </message>
     <message>
         <source>Replace a training file that is there already</source>
@@ -1623,7 +1758,7 @@
     </message>
     <message>
         <source>Kavela: splits, results and recordings of canoe slalom.</source>
-        <translation>Kavela : intermédiaires, résultats et enregistrements de canoë-kayak slalom.</translation>
+        <translation>Kavela&#x202f;: intermédiaires, résultats et enregistrements de canoë-kayak slalom.</translation>
     </message>
     <message>
         <source>Files to open in the desktop program</source>
@@ -1635,7 +1770,7 @@
     </message>
     <message>
         <source>Language of what is said: en or one that is built in</source>
-        <translation>Langue des messages : en ou l’une de celles qui sont intégrées</translation>
+        <translation>Langue des messages&#x202f;: en ou l’une de celles qui sont intégrées</translation>
     </message>
     <message>
         <source>There is not enough memory for this file.</source>
@@ -1704,7 +1839,7 @@
     </message>
     <message>
         <source>Folder to write to; made where it is missing</source>
-        <translation>Dossier où écrire ; créé s’il manque</translation>
+        <translation>Dossier où écrire&#x202f;; créé s’il manque</translation>
     </message>
     <message>
         <source>Makes short films of runs as well</source>
@@ -1720,11 +1855,11 @@
     </message>
     <message>
         <source>File to write: semicolon-separated text</source>
-        <translation>Fichier à écrire : texte séparé par des points-virgules</translation>
+        <translation>Fichier à écrire&#x202f;: texte séparé par des points-virgules</translation>
     </message>
     <message>
         <source>File to write: the race report, on A4 pages</source>
-        <translation>Fichier à écrire : le rapport de course, sur des pages A4</translation>
+        <translation>Fichier à écrire&#x202f;: le rapport de course, sur des pages A4</translation>
     </message>
     <message>
         <source>There is no split file.</source>
@@ -1786,11 +1921,11 @@
     </message>
     <message>
         <source>Searches split files: a season in one question</source>
-        <translation>Cherche dans les fichiers d’intermédiaires : une saison en une question</translation>
+        <translation>Cherche dans les fichiers d’intermédiaires&#x202f;: une saison en une question</translation>
     </message>
     <message>
         <source>Split files, or folders with them; last the query, in quotes</source>
-        <translation>Fichiers d’intermédiaires, ou dossiers qui en contiennent ; en dernier la requête, entre guillemets</translation>
+        <translation>Fichiers d’intermédiaires, ou dossiers qui en contiennent&#x202f;; en dernier la requête, entre guillemets</translation>
     </message>
     <message>
         <source>Print one JSON document</source>
@@ -1846,7 +1981,7 @@
     </message>
     <message>
         <source>Semicolon-separated text with a header line: position, bib, name, nationality, time, penalty</source>
-        <translation>Texte séparé par des points-virgules avec une ligne de titres : position, bib, name, nationality, time, penalty</translation>
+        <translation>Texte séparé par des points-virgules avec une ligne de titres&#x202f;: position, bib, name, nationality, time, penalty</translation>
     </message>
     <message>
         <source>Says what files are, or what is wrong in them</source>
@@ -1866,15 +2001,15 @@
     </message>
     <message>
         <source>Split file (.kvx) of any release; with --athlete also folders of them</source>
-        <translation>Fichier d’intermédiaires (.kvx) de n’importe quelle version ; avec --athlete aussi des dossiers qui en contiennent</translation>
+        <translation>Fichier d’intermédiaires (.kvx) de n’importe quelle version&#x202f;; avec --athlete aussi des dossiers qui en contiennent</translation>
     </message>
     <message>
         <source>winner, fastest, ideal, median, own or run:I; winner without other word</source>
-        <translation>winner, fastest, ideal, median, own ou run:I ; sans autre mention winner</translation>
+        <translation>winner, fastest, ideal, median, own ou run:I&#x202f;; sans autre mention winner</translation>
     </message>
     <message>
         <source>The season of an athlete over all the paths; a crew as &quot;A / B&quot;</source>
-        <translation>La saison d’un athlète sur tous les chemins donnés ; un équipage sous la forme &quot;A / B&quot;</translation>
+        <translation>La saison d’un athlète sur tous les chemins donnés&#x202f;; un équipage sous la forme &quot;A / B&quot;</translation>
     </message>
     <message>
         <source>Only the athlete&apos;s runs of this category</source>
@@ -1886,7 +2021,7 @@
     </message>
     <message>
         <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, …</source>
-        <translation>Expliquer plutôt un seul nombre : loss/RUN/winner/5, gap/RUN/ideal, …</translation>
+        <translation>Expliquer plutôt un seul nombre&#x202f;: loss/RUN/winner/5, gap/RUN/ideal, …</translation>
     </message>
     <message>
         <source>run {}</source>
@@ -1910,7 +2045,7 @@
     </message>
     <message>
         <source>     Explained by notes: {} of {} ({:.0f} %)</source>
-        <translation>     Expliqué par des notes : {} sur {} ({:.0f} %)</translation>
+        <translation>     Expliqué par des notes&#x202f;: {} sur {} ({:.0f}&#x202f;%)</translation>
     </message>
     <message>
         <source>Tells how often gates are touched, what it cost, and whether speed pays</source>
@@ -1922,7 +2057,7 @@
     </message>
     <message>
         <source>What the rates are by; by gate without other word</source>
-        <translation>Selon quoi sont les taux ; par porte sans autre mention</translation>
+        <translation>Selon quoi sont les taux&#x202f;; par porte sans autre mention</translation>
     </message>
     <message>
         <source>Only runs of this category</source>
@@ -1930,15 +2065,15 @@
     </message>
     <message>
         <source>File to write the rates to: semicolon-separated text</source>
-        <translation>Fichier où écrire les taux : texte séparé par des points-virgules</translation>
+        <translation>Fichier où écrire les taux&#x202f;: texte séparé par des points-virgules</translation>
     </message>
     <message>
         <source>Explain one number instead: rate/gate/7, touches/crew/NAME, cost/RUN/GATE, …</source>
-        <translation>Expliquer plutôt un seul nombre : rate/gate/7, touches/crew/NAME, cost/RUN/GATE, …</translation>
+        <translation>Expliquer plutôt un seul nombre&#x202f;: rate/gate/7, touches/crew/NAME, cost/RUN/GATE, …</translation>
     </message>
     <message>
         <source>… {} more; all of them with --json, --csv or in a pipe</source>
-        <translation>… {} de plus ; toutes avec --json, --csv ou dans un tube</translation>
+        <translation>… {} de plus&#x202f;; toutes avec --json, --csv ou dans un tube</translation>
     </message>
     <message>
         <source>Penalties by {} · {}, {}</source>
@@ -1946,11 +2081,11 @@
     </message>
     <message>
         <source>{} of {} whole runs without a penalty: {:.1f} % ({})</source>
-        <translation>{} manches complètes sur {} sans pénalité : {:.1f} % ({})</translation>
+        <translation>{} manches complètes sur {} sans pénalité&#x202f;: {:.1f}&#x202f;% ({})</translation>
     </message>
     <message>
         <source>Ranked: drawn towards {:.1f} %, the more the fewer the passages;</source>
-        <translation>Classé : ramené vers {:.1f} %, d’autant plus que les passages sont peu nombreux ;</translation>
+        <translation>Classé&#x202f;: ramené vers {:.1f}&#x202f;%, d’autant plus que les passages sont peu nombreux&#x202f;;</translation>
     </message>
     <message>
         <source>{} of {}</source>
@@ -1977,7 +2112,7 @@
     </message>
     <message>
         <source>{} {} of {} ({:.0f} %, {:.0f}–{:.0f})</source>
-        <translation>{} {} sur {} ({:.0f} %, {:.0f}–{:.0f})</translation>
+        <translation>{} {} sur {} ({:.0f}&#x202f;%, {:.0f}–{:.0f})</translation>
     </message>
     <message>
         <source>Noted of {}</source>
@@ -1985,7 +2120,7 @@
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run; times in percent of the group&apos;s median</source>
-        <translation>1 % de vitesse paie pour {:.2f} touche par manche ; temps en pour cent de la médiane du groupe</translation>
+        <translation>1&#x202f;% de vitesse paie pour {:.2f} touche par manche&#x202f;; temps en pour cent de la médiane du groupe</translation>
     </message>
     <message>
         <source>The sum of the best splits, and what each run could be</source>
@@ -1997,7 +2132,7 @@
     </message>
     <message>
         <source>Tell how a number came about: perfect, or xtime/5 (runs from 0)</source>
-        <translation>Dire comment un nombre est né : perfect, ou xtime/5 (manches à partir de 0)</translation>
+        <translation>Dire comment un nombre est né&#x202f;: perfect, ou xtime/5 (manches à partir de 0)</translation>
     </message>
     <message>
         <source>The weeks of each athlete&apos;s seasons</source>
@@ -2064,23 +2199,23 @@
     </message>
     <message>
         <source>Split files (.kvx) of any release, or folders of them: they tell the winners and the rivals</source>
-        <translation>Fichiers d’intermédiaires (.kvx) de n’importe quelle version, ou dossiers qui en contiennent : ils disent les vainqueurs et les rivaux</translation>
+        <translation>Fichiers d’intermédiaires (.kvx) de n’importe quelle version, ou dossiers qui en contiennent&#x202f;: ils disent les vainqueurs et les rivaux</translation>
     </message>
     <message>
         <source>Category: MK1, WK1, MC1, WC1, MX1, WX1</source>
-        <translation>Catégorie : MK1, WK1, MC1, WC1, MX1, WX1</translation>
+        <translation>Catégorie&#x202f;: MK1, WK1, MC1, WC1, MX1, WX1</translation>
     </message>
     <message>
         <source>Only these: 2025, or 2023-2025</source>
-        <translation>Seulement celles-ci : 2025, ou 2023-2025</translation>
+        <translation>Seulement celles-ci&#x202f;: 2025, ou 2023-2025</translation>
     </message>
     <message>
         <source>Whose places to expect of one another; the team and those who raced most often without it</source>
-        <translation>De qui attendre les places les uns face aux autres ; sans cela, l’équipe et ceux qui ont couru le plus souvent</translation>
+        <translation>De qui attendre les places les uns face aux autres&#x202f;; sans cela, l’équipe et ceux qui ont couru le plus souvent</translation>
     </message>
     <message>
         <source>File to write: the runs of the athletes as semicolon-separated text</source>
-        <translation>Fichier à écrire : les manches des athlètes en texte séparé par des points-virgules</translation>
+        <translation>Fichier à écrire&#x202f;: les manches des athlètes en texte séparé par des points-virgules</translation>
     </message>
     <message>
         <source>Folder to write a report of the team and a page for each athlete into</source>
@@ -2088,7 +2223,7 @@
     </message>
     <message>
         <source>Explain one number instead: spread, trend/NAME, percent/NAME/2025/WC1/Final, …</source>
-        <translation>Expliquer plutôt un seul nombre : spread, trend/NAME, percent/NAME/2025/WC1/Final, …</translation>
+        <translation>Expliquer plutôt un seul nombre&#x202f;: spread, trend/NAME, percent/NAME/2025/WC1/Final, …</translation>
     </message>
     <message>
         <source>{:+.1f} to {:+.1f}</source>
@@ -2107,7 +2242,7 @@
     <message>
         <source>  {}. {}: {}, {} s a run
 </source>
-        <translation>  {}. {} : {}, {} s par manche
+        <translation>  {}. {}&#x202f;: {}, {} s par manche
 </translation>
     </message>
     <message numerus="yes">
@@ -2144,7 +2279,7 @@
     </message>
     <message>
         <source>Runs vary by {:.1f} %{}, from {}; {:.2f} % is worth gaining.</source>
-        <translation>Les manches varient de {:.1f} %{}, d’après {} ; gagner {:.2f} % en vaut la peine.</translation>
+        <translation>Les manches varient de {:.1f}&#x202f;%{}, d’après {}&#x202f;; gagner {:.2f}&#x202f;% en vaut la peine.</translation>
     </message>
     <message>
         <source>Neither winners nor fastest splits of these races are known.</source>
@@ -2168,7 +2303,7 @@
     </message>
     <message>
         <source>{:.1f} % (all {:.1f}{})</source>
-        <translation>{:.1f} % (tous {:.1f}{})</translation>
+        <translation>{:.1f}&#x202f;% (tous {:.1f}{})</translation>
     </message>
     <message>
         <source>, {} missed</source>
@@ -2176,11 +2311,11 @@
     </message>
     <message>
         <source>{:+.1f} %/yr{} </source>
-        <translation>{:+.1f} %/an{} </translation>
+        <translation>{:+.1f}&#x202f;%/an{} </translation>
     </message>
     <message>
         <source>{} of {} ({:.0f}–{:.0f} %)</source>
-        <translation>{} sur {} ({:.0f}–{:.0f} %)</translation>
+        <translation>{} sur {} ({:.0f}–{:.0f}&#x202f;%)</translation>
     </message>
     <message numerus="yes">
         <source>{} races</source>
@@ -2191,7 +2326,7 @@
     </message>
     <message>
         <source> {} of {} ({:.0f}–{:.0f} %), {:+.1f} %</source>
-        <translation> {} sur {} ({:.0f}–{:.0f} %), {:+.1f} %</translation>
+        <translation> {} sur {} ({:.0f}–{:.0f}&#x202f;%), {:+.1f}&#x202f;%</translation>
     </message>
     <message>
         <source>rank {}</source>
@@ -2199,15 +2334,15 @@
     </message>
     <message>
         <source>… {} more; all of them with --json or in a pipe</source>
-        <translation>… {} de plus ; tout avec --json ou dans un tube</translation>
+        <translation>… {} de plus&#x202f;; tout avec --json ou dans un tube</translation>
     </message>
     <message>
         <source>{} more boats come into question: name a field with --field</source>
-        <translation>{} autres bateaux entrent en ligne de compte : nommez un plateau avec --field</translation>
+        <translation>{} autres bateaux entrent en ligne de compte&#x202f;: nommez un plateau avec --field</translation>
     </message>
     <message>
         <source>{} is left out: fewer than {} runs, or never met the others</source>
-        <translation>{} est laissé de côté : moins de {} manches, ou n’a jamais rencontré les autres</translation>
+        <translation>{} est laissé de côté&#x202f;: moins de {} manches, ou n’a jamais rencontré les autres</translation>
     </message>
     <message>
         <source>The ranking of each category</source>
@@ -2247,7 +2382,7 @@
     </message>
     <message>
         <source>Race of the selection: its name, or its number counted from 0</source>
-        <translation>Course de la sélection : son nom, ou son numéro compté à partir de 0</translation>
+        <translation>Course de la sélection&#x202f;: son nom, ou son numéro compté à partir de 0</translation>
     </message>
     <message>
         <source>Kind of bonus that counts in the scores, from 0</source>
@@ -2267,7 +2402,7 @@
     </message>
     <message>
         <source>Colours: race or training</source>
-        <translation>Couleurs : race ou training</translation>
+        <translation>Couleurs&#x202f;: race ou training</translation>
     </message>
     <message>
         <source>Times from the start to each split</source>
@@ -2287,7 +2422,7 @@
     </message>
     <message>
         <source>Tell how a number came about: cell/5/3, band/5/3, ideal/3, ideal/total (runs from 0, columns and sections from 1)</source>
-        <translation>Dire comment un nombre est né : cell/5/3, band/5/3, ideal/3, ideal/total (manches à partir de 0, colonnes et secteurs à partir de 1)</translation>
+        <translation>Dire comment un nombre est né&#x202f;: cell/5/3, band/5/3, ideal/3, ideal/total (manches à partir de 0, colonnes et secteurs à partir de 1)</translation>
     </message>
     <message>
         <source>{} gates, {} upstream</source>
@@ -2307,15 +2442,15 @@
     </message>
     <message>
         <source>&quot;{}&quot; is no number from {:g} to {:g} {}.</source>
-        <translation>« {} » n’est pas un nombre de {:g} à {:g} {}.</translation>
+        <translation>«&#xa0;{}&#xa0;» n’est pas un nombre de {:g} à {:g} {}.</translation>
     </message>
     <message>
         <source>&quot;{}&quot; is none of: {}.</source>
-        <translation>« {} » n’est aucun de : {}.</translation>
+        <translation>«&#xa0;{}&#xa0;» n’est aucun de&#x202f;: {}.</translation>
     </message>
     <message>
         <source>Side of the phone that points to the bow, where fixes do not tell: top, bottom, right, left, back or screen</source>
-        <translation>Côté du téléphone qui pointe vers l’avant, là où les positions ne le disent pas : top, bottom, right, left, back ou screen</translation>
+        <translation>Côté du téléphone qui pointe vers l’avant, là où les positions ne le disent pas&#x202f;: top, bottom, right, left, back ou screen</translation>
     </message>
     <message>
         <source>Athlete, boat and kit in kg</source>
@@ -2327,7 +2462,7 @@
     </message>
     <message>
         <source>Class of boat: k1, c1, c2, kayak or canoe</source>
-        <translation>Classe du bateau : k1, c1, c2, kayak ou canoe</translation>
+        <translation>Classe du bateau&#x202f;: k1, c1, c2, kayak ou canoe</translation>
     </message>
     <message numerus="yes">
         <source>{} bouts</source>
@@ -2342,7 +2477,7 @@
     </message>
     <message>
         <source>{:g} kg, drag {:g} N·s²/m², {}; force and power hold on flat water only</source>
-        <translation>{:g} kg, résistance {:g} N·s²/m², {} ; force et puissance ne valent qu’en eau plate</translation>
+        <translation>{:g} kg, résistance {:g} N·s²/m², {}&#x202f;; force et puissance ne valent qu’en eau plate</translation>
     </message>
     <message>
         <source>Shows any list of results as a table, with columns reckoned</source>
@@ -2350,15 +2485,15 @@
     </message>
     <message>
         <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), or a split file (.kvx) that carries one</source>
-        <translation>Une liste : texte (CSV, tabulations, colonnes séparées par des blancs), classeur (.xlsx, .ods), ou fichier d’intermédiaires (.kvx) qui en porte une</translation>
+        <translation>Une liste&#x202f;: texte (CSV, tabulations, colonnes séparées par des blancs), classeur (.xlsx, .ods), ou fichier d’intermédiaires (.kvx) qui en porte une</translation>
     </message>
     <message>
         <source>A column to add: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; with &quot;by Category&quot; within each category, with &quot;down&quot; the highest first</source>
-        <translation>Une colonne à ajouter : total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1 ; avec &quot;by Category&quot; au sein de chaque catégorie, avec &quot;down&quot; le plus grand d’abord</translation>
+        <translation>Une colonne à ajouter&#x202f;: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1&#x202f;; avec &quot;by Category&quot; au sein de chaque catégorie, avec &quot;down&quot; le plus grand d’abord</translation>
     </message>
     <message>
         <source>ROW,COL,VALUE,FN as in Nation,Category,Time,mean; FN is count, sum, mean, median, least or most</source>
-        <translation>ROW,COL,VALUE,FN comme dans Nation,Category,Time,mean ; FN est count, sum, mean, median, least ou most</translation>
+        <translation>ROW,COL,VALUE,FN comme dans Nation,Category,Time,mean&#x202f;; FN est count, sum, mean, median, least ou most</translation>
     </message>
     <message>
         <source>Team (.kvteam) whose athletes are looked for</source>
@@ -2366,15 +2501,15 @@
     </message>
     <message>
         <source>The sheet, where there are several; of a split file which of its lists</source>
-        <translation>La feuille, s’il y en a plusieurs ; pour un fichier d’intermédiaires, laquelle de ses listes</translation>
+        <translation>La feuille, s’il y en a plusieurs&#x202f;; pour un fichier d’intermédiaires, laquelle de ses listes</translation>
     </message>
     <message>
         <source>File to write the table to: semicolon-separated text</source>
-        <translation>Fichier où écrire le tableau : texte séparé par des points-virgules</translation>
+        <translation>Fichier où écrire le tableau&#x202f;: texte séparé par des points-virgules</translation>
     </message>
     <message>
         <source>Category, letter for letter as in the file: MK1, WK1, MC1, WC1, MX1, WX1</source>
-        <translation>Catégorie, lettre pour lettre comme dans le fichier : MK1, WK1, MC1, WC1, MX1, WX1</translation>
+        <translation>Catégorie, lettre pour lettre comme dans le fichier&#x202f;: MK1, WK1, MC1, WC1, MX1, WX1</translation>
     </message>
     <message>
         <source>What the athletes of a team reached</source>
@@ -2426,11 +2561,11 @@
     </message>
     <message>
         <source>Imported “%1”</source>
-        <translation>« %1 » importé</translation>
+        <translation>«&#xa0;%1&#xa0;» importé</translation>
     </message>
     <message>
         <source>“%1” cannot be imported</source>
-        <translation>« %1 » ne peut pas être importé</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être importé</translation>
     </message>
     <message>
         <source>Watches and phones (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;All files (*)</source>
@@ -2466,7 +2601,7 @@
     </message>
     <message>
         <source>Stopped; nothing was written.</source>
-        <translation>Arrêté ; rien n’a été écrit.</translation>
+        <translation>Arrêté&#x202f;; rien n’a été écrit.</translation>
     </message>
     <message numerus="yes">
         <source>{} frames</source>
@@ -2488,11 +2623,11 @@
     </message>
     <message>
         <source>90 %, Student&apos;s t</source>
-        <translation>90 %, t de Student</translation>
+        <translation>90&#x202f;%, t de Student</translation>
     </message>
     <message>
         <source>90 %, Wilson</source>
-        <translation>90 %, Wilson</translation>
+        <translation>90&#x202f;%, Wilson</translation>
     </message>
     <message>
         <source>own</source>
@@ -2544,7 +2679,7 @@
     </message>
     <message>
         <source>What was lost on the water: all stretches together.</source>
-        <translation>Ce qui a été perdu sur l’eau : tous les tronçons ensemble.</translation>
+        <translation>Ce qui a été perdu sur l’eau&#x202f;: tous les tronçons ensemble.</translation>
     </message>
     <message>
         <source>Σ losses</source>
@@ -2560,7 +2695,7 @@
     </message>
     <message>
         <source>What neither water nor penalties tell: official against video time.</source>
-        <translation>Ce que ni l’eau ni les pénalités n’expliquent : temps officiel face au temps vidéo.</translation>
+        <translation>Ce que ni l’eau ni les pénalités n’expliquent&#x202f;: temps officiel face au temps vidéo.</translation>
     </message>
     <message>
         <source>gap − paddling − penalties</source>
@@ -2612,7 +2747,7 @@
     </message>
     <message>
         <source>Time lost as noted; several reasons of one note share it equally.</source>
-        <translation>Temps perdu selon les notes ; plusieurs raisons d’une même note se le partagent à parts égales.</translation>
+        <translation>Temps perdu selon les notes&#x202f;; plusieurs raisons d’une même note se le partagent à parts égales.</translation>
     </message>
     <message>
         <source>Σ notes above 0</source>
@@ -2620,7 +2755,7 @@
     </message>
     <message>
         <source>Time gained as noted; several reasons of one note share it equally.</source>
-        <translation>Temps gagné selon les notes ; plusieurs raisons d’une même note se le partagent à parts égales.</translation>
+        <translation>Temps gagné selon les notes&#x202f;; plusieurs raisons d’une même note se le partagent à parts égales.</translation>
     </message>
     <message>
         <source>Σ notes below 0</source>
@@ -2644,7 +2779,7 @@
     </message>
     <message>
         <source>ratio estimator: Cochran, Sampling Techniques, 1977</source>
-        <translation>estimateur par quotient : Cochran, Sampling Techniques, 1977</translation>
+        <translation>estimateur par quotient&#x202f;: Cochran, Sampling Techniques, 1977</translation>
     </message>
     <message>
         <source>What was lost here in a run on the average.</source>
@@ -2672,7 +2807,7 @@
     </message>
     <message>
         <source>interval: Student&apos;s t</source>
-        <translation>intervalle : t de Student</translation>
+        <translation>intervalle&#x202f;: t de Student</translation>
     </message>
     <message>
         <source>The mean difference of penalties of the whole runs.</source>
@@ -2684,7 +2819,7 @@
     </message>
     <message>
         <source>What was lost on the water up to a mark: all stretches before it.</source>
-        <translation>Ce qui a été perdu sur l’eau jusqu’à une marque : tous les tronçons qui la précèdent.</translation>
+        <translation>Ce qui a été perdu sur l’eau jusqu’à une marque&#x202f;: tous les tronçons qui la précèdent.</translation>
     </message>
     <message>
         <source>Σ losses to here</source>
@@ -2692,7 +2827,7 @@
     </message>
     <message>
         <source>The total of the run: the official one where it has one.</source>
-        <translation>Le temps total de la manche : l’officiel là où elle en a un.</translation>
+        <translation>Le temps total de la manche&#x202f;: l’officiel là où elle en a un.</translation>
     </message>
     <message>
         <source>One more than have a smaller total in the group, to the hundredth.</source>
@@ -2820,7 +2955,7 @@
     </message>
     <message>
         <source>Unfinished runs are not counted: nobody knows whether they would have stayed clean.</source>
-        <translation>Les manches inachevées ne sont pas comptées : nul ne sait si elles seraient restées sans pénalité.</translation>
+        <translation>Les manches inachevées ne sont pas comptées&#x202f;: nul ne sait si elles seraient restées sans pénalité.</translation>
     </message>
     <message>
         <source>{} more are not listed.</source>
@@ -2836,7 +2971,7 @@
     </message>
     <message>
         <source>5 % and 95 % of the beta distribution</source>
-        <translation>5 % et 95 % de la loi bêta</translation>
+        <translation>5&#x202f;% et 95&#x202f;% de la loi bêta</translation>
     </message>
     <message>
         <source>x</source>
@@ -2852,7 +2987,7 @@
     </message>
     <message>
         <source>Wilson&apos;s interval, 90 %</source>
-        <translation>intervalle de Wilson, 90 %</translation>
+        <translation>intervalle de Wilson, 90&#x202f;%</translation>
     </message>
     <message>
         <source>{} runs are</source>
@@ -2860,7 +2995,7 @@
     </message>
     <message>
         <source>{} left out: {} penalties are not known by gate.</source>
-        <translation>{} laissées de côté : {} pénalités ne sont pas connues par porte.</translation>
+        <translation>{} laissées de côté&#x202f;: {} pénalités ne sont pas connues par porte.</translation>
     </message>
     <message>
         <source> and {} more</source>
@@ -2868,7 +3003,7 @@
     </message>
     <message>
         <source>{} {} out: touched more than the {} that all have in common.</source>
-        <translation>{} {} à part : davantage de touches que les {} communs à tous.</translation>
+        <translation>{} {} à part&#x202f;: davantage de touches que les {} communs à tous.</translation>
     </message>
     <message numerus="yes">
         <source>{} touches</source>
@@ -2886,19 +3021,19 @@
     </message>
     <message>
         <source>Too few to tell: {} in {}.</source>
-        <translation>Trop peu pour conclure : {} sur {}.</translation>
+        <translation>Trop peu pour conclure&#x202f;: {} sur {}.</translation>
     </message>
     <message>
         <source>Only one {}: there is nothing to compare it with.</source>
-        <translation>Un seul groupe ({}) : il n’y a rien à quoi le comparer.</translation>
+        <translation>Un seul groupe ({})&#x202f;: il n’y a rien à quoi le comparer.</translation>
     </message>
     <message>
         <source>No {} stands out: the highest, {} ({}), may be chance.</source>
-        <translation>Rien ne ressort ({}) : le plus haut, {} ({}), peut être dû au hasard.</translation>
+        <translation>Rien ne ressort ({})&#x202f;: le plus haut, {} ({}), peut être dû au hasard.</translation>
     </message>
     <message>
         <source>Without this {}: {}.</source>
-        <translation>Sans ce groupe ({}) : {}.</translation>
+        <translation>Sans ce groupe ({})&#x202f;: {}.</translation>
     </message>
     <message>
         <source>None of {} cost a place.</source>
@@ -2929,7 +3064,7 @@
     </message>
     <message>
         <source>Too few to tell: no group has {} whole runs.</source>
-        <translation>Trop peu pour conclure : aucun groupe n’a {} manches complètes.</translation>
+        <translation>Trop peu pour conclure&#x202f;: aucun groupe n’a {} manches complètes.</translation>
     </message>
     <message>
         <source>{} touches a run in {}, all in one third of the field.</source>
@@ -2941,11 +3076,11 @@
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run.</source>
-        <translation>1 % de vitesse paie pour {:.2f} touche par manche.</translation>
+        <translation>1&#x202f;% de vitesse paie pour {:.2f} touche par manche.</translation>
     </message>
     <message>
         <source>{} of {} without a penalty: {:.1f} % ({:.1f}–{:.1f}).</source>
-        <translation>{} sur {} sans pénalité : {:.1f} % ({:.1f}–{:.1f}).</translation>
+        <translation>{} sur {} sans pénalité&#x202f;: {:.1f}&#x202f;% ({:.1f}–{:.1f}).</translation>
     </message>
     <message>
         <source>{} {} {}, place</source>
@@ -2957,31 +3092,31 @@
     </message>
     <message>
         <source>{} left out: {}</source>
-        <translation>{} laissées de côté : {}</translation>
+        <translation>{} laissées de côté&#x202f;: {}</translation>
     </message>
     <message>
         <source>{} {} of {} ({:.0f}–{:.0f} %)</source>
-        <translation>{} {} sur {} ({:.0f}–{:.0f} %)</translation>
+        <translation>{} {} sur {} ({:.0f}–{:.0f}&#x202f;%)</translation>
     </message>
     <message>
         <source>{:.1f} % behind the winner, {} (median of {})</source>
-        <translation>{:.1f} % derrière le vainqueur, {} (médiane de {})</translation>
+        <translation>{:.1f}&#x202f;% derrière le vainqueur, {} (médiane de {})</translation>
     </message>
     <message>
         <source>within {:.1f} % from run to run</source>
-        <translation>à {:.1f} % près d’une manche à l’autre</translation>
+        <translation>à {:.1f}&#x202f;% près d’une manche à l’autre</translation>
     </message>
     <message>
         <source>trend {:+.1f} % a year: {}</source>
-        <translation>tendance {:+.1f} % par an : {}</translation>
+        <translation>tendance {:+.1f}&#x202f;% par an&#x202f;: {}</translation>
     </message>
     <message>
         <source>{}: too few runs to tell a trend behind {}.</source>
-        <translation>{} : trop peu de manches pour dire une tendance derrière {}.</translation>
+        <translation>{}&#x202f;: trop peu de manches pour dire une tendance derrière {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
-        <translation>{} : {:+.1f} % par an derrière {}{}, {}.</translation>
+        <translation>{}&#x202f;: {:+.1f}&#x202f;% par an derrière {}{}, {}.</translation>
     </message>
     <message>
         <source>{} of {}&apos;s races is known.</source>
@@ -2993,11 +3128,11 @@
     </message>
     <message>
         <source>From run to run {:.1f} % is chance.</source>
-        <translation>D’une manche à l’autre, {:.1f} % est dû au hasard.</translation>
+        <translation>D’une manche à l’autre, {:.1f}&#x202f;% est dû au hasard.</translation>
     </message>
     <message>
         <source>From run to run {:.1f} % ({:.1f} to {:.1f}) is chance; {:.2f} % is worth gaining.</source>
-        <translation>D’une manche à l’autre, {:.1f} % (de {:.1f} à {:.1f}) est dû au hasard ; gagner {:.2f} % en vaut la peine.</translation>
+        <translation>D’une manche à l’autre, {:.1f}&#x202f;% (de {:.1f} à {:.1f}) est dû au hasard&#x202f;; gagner {:.2f}&#x202f;% en vaut la peine.</translation>
     </message>
     <message>
         <source>{} of {} grew faster beyond doubt, {} slower.</source>
@@ -3024,11 +3159,11 @@
     </message>
     <message>
         <source>{:.1f} % would have been among the first three in {} of {}.</source>
-        <translation>{:.1f} % aurait été parmi les trois premiers dans {} sur {}.</translation>
+        <translation>{:.1f}&#x202f;% aurait été parmi les trois premiers dans {} sur {}.</translation>
     </message>
     <message>
         <source>The third was {:.1f} % behind in the median of {}.</source>
-        <translation>Le troisième était à {:.1f} % en médiane de {}.</translation>
+        <translation>Le troisième était à {:.1f}&#x202f;% en médiane de {}.</translation>
     </message>
     <message>
         <source>Nobody of the team has runs enough to expect a place of.</source>
@@ -3036,7 +3171,7 @@
     </message>
     <message>
         <source>{} may expect place {:.1f} of {}, a medal by {:.0f} %.</source>
-        <translation>{} peut attendre la place {:.1f} sur {}, une médaille à {:.0f} %.</translation>
+        <translation>{} peut attendre la place {:.1f} sur {}, une médaille à {:.0f}&#x202f;%.</translation>
     </message>
     <message numerus="yes">
         <source>{} finals</source>
@@ -3047,7 +3182,7 @@
     </message>
     <message>
         <source>{:.1f} % would have been a medal in {} of {}</source>
-        <translation>{:.1f} % aurait été une médaille dans {} sur {}</translation>
+        <translation>{:.1f}&#x202f;% aurait été une médaille dans {} sur {}</translation>
     </message>
     <message>
         <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
@@ -3055,15 +3190,15 @@
     </message>
     <message>
         <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>{} : {}, {} sur {} ({:.0f}–{:.0f} %).</translation>
+        <translation>{}&#x202f;: {}, {} sur {} ({:.0f}–{:.0f}&#x202f;%).</translation>
     </message>
     <message>
         <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
-        <translation>Le plus près des vainqueurs ({}) : {}, {:.1f} % (médiane de {}).</translation>
+        <translation>Le plus près des vainqueurs ({})&#x202f;: {}, {:.1f}&#x202f;% (médiane de {}).</translation>
     </message>
     <message>
         <source>No winner of a phase &quot;{}&quot; of these races is known.</source>
-        <translation>Aucun vainqueur d’une phase « {} » de ces courses n’est connu.</translation>
+        <translation>Aucun vainqueur d’une phase «&#xa0;{}&#xa0;» de ces courses n’est connu.</translation>
     </message>
     <message>
         <source>split {}, fastest of it {:.2f}</source>
@@ -3087,7 +3222,7 @@
     </message>
     <message>
         <source>{}, spread {:.2f}, missed {:.1f} %</source>
-        <translation>{}, dispersion {:.2f}, manquées {:.1f} %</translation>
+        <translation>{}, dispersion {:.2f}, manquées {:.1f}&#x202f;%</translation>
     </message>
     <message>
         <source>How far behind the winner of the phase and class, penalties included.</source>
@@ -3099,7 +3234,7 @@
     </message>
     <message>
         <source>of the class winner, not of the men&apos;s kayaks: Wells, thesis, 2018</source>
-        <translation>du vainqueur de la classe, non des kayaks hommes : Wells, thèse, 2018</translation>
+        <translation>du vainqueur de la classe, non des kayaks hommes&#x202f;: Wells, thèse, 2018</translation>
     </message>
     <message>
         <source>How far behind the fastest times of all splits together, without penalties.</source>
@@ -3119,7 +3254,7 @@
     </message>
     <message>
         <source>mixed model of elite canoeists: Bonetti, Hopkins, 2010; interval: χ²</source>
-        <translation>modèle mixte de céistes d’élite : Bonetti, Hopkins, 2010 ; intervalle : χ²</translation>
+        <translation>modèle mixte de céistes d’élite&#x202f;: Bonetti, Hopkins, 2010&#x202f;; intervalle&#x202f;: χ²</translation>
     </message>
     <message>
         <source>How much this athlete&apos;s runs varied by chance.</source>
@@ -3139,7 +3274,7 @@
     </message>
     <message>
         <source>What is worth gaining: one more medal in ten races among equals at the top.</source>
-        <translation>Ce qu’il vaut la peine de gagner : une médaille de plus en dix courses entre égaux au sommet.</translation>
+        <translation>Ce qu’il vaut la peine de gagner&#x202f;: une médaille de plus en dix courses entre égaux au sommet.</translation>
     </message>
     <message>
         <source>0.3 · spread</source>
@@ -3167,7 +3302,7 @@
     </message>
     <message>
         <source>interval: Wilson</source>
-        <translation>intervalle : Wilson</translation>
+        <translation>intervalle&#x202f;: Wilson</translation>
     </message>
     <message>
         <source>Races in whose final the athlete was.</source>
@@ -3203,11 +3338,11 @@
     </message>
     <message>
         <source>typical error: Hopkins, 2000</source>
-        <translation>erreur type : Hopkins, 2000</translation>
+        <translation>erreur type&#x202f;: Hopkins, 2000</translation>
     </message>
     <message>
         <source>Phases that both have in which the athlete was faster; ties count half.</source>
-        <translation>Phases communes où l’athlète était plus rapide ; les ex æquo comptent pour moitié.</translation>
+        <translation>Phases communes où l’athlète était plus rapide&#x202f;; les ex æquo comptent pour moitié.</translation>
     </message>
     <message>
         <source>(won + ties/2) / met</source>
@@ -3239,11 +3374,11 @@
     </message>
     <message>
         <source>The mean place among this field; with a missed gate behind all that have none.</source>
-        <translation>La place moyenne dans ce plateau ; avec une porte manquée, derrière tous ceux qui n’en ont pas.</translation>
+        <translation>La place moyenne dans ce plateau&#x202f;; avec une porte manquée, derrière tous ceux qui n’en ont pas.</translation>
     </message>
     <message>
         <source>Σ place · chance,  result normal: effect, spread · √(1 + 1/n)</source>
-        <translation>Σ place · probabilité,  résultat normal : effet, dispersion · √(1 + 1/n)</translation>
+        <translation>Σ place · probabilité,  résultat normal&#x202f;: effet, dispersion · √(1 + 1/n)</translation>
     </message>
     <message>
         <source>The chance of one of the first three places among this field.</source>
@@ -3267,11 +3402,11 @@
     </message>
     <message>
         <source>90 %, Student&apos;s t with {} degrees</source>
-        <translation>90 %, t de Student à {} degrés</translation>
+        <translation>90&#x202f;%, t de Student à {} degrés</translation>
     </message>
     <message>
         <source>{:+.1f} % a year</source>
-        <translation>{:+.1f} % par an</translation>
+        <translation>{:+.1f}&#x202f;% par an</translation>
     </message>
     <message>
         <source>spread, percent</source>
@@ -3295,7 +3430,7 @@
     </message>
     <message>
         <source>90 %, χ²</source>
-        <translation>90 %, χ²</translation>
+        <translation>90&#x202f;%, χ²</translation>
     </message>
     <message>
         <source>common spread, percent</source>
@@ -3307,7 +3442,7 @@
     </message>
     <message>
         <source>exact Poisson interval, 90 %</source>
-        <translation>intervalle exact de Poisson, 90 %</translation>
+        <translation>intervalle exact de Poisson, 90&#x202f;%</translation>
     </message>
     <message>
         <source>median paddling</source>
@@ -3355,7 +3490,7 @@
     </message>
     <message>
         <source>Losses and penalties · %1on the reference &quot;%2&quot; · %3</source>
-        <translation>Pertes et pénalités · %1face à la référence « %2 » · %3</translation>
+        <translation>Pertes et pénalités · %1face à la référence «&#xa0;%2&#xa0;» · %3</translation>
     </message>
     <message>
         <source>Where time is lost</source>
@@ -3363,7 +3498,7 @@
     </message>
     <message>
         <source>Seconds a run: gap %1, penalties %2</source>
-        <translation>Secondes par manche : écart %1, pénalités %2</translation>
+        <translation>Secondes par manche&#x202f;: écart %1, pénalités %2</translation>
     </message>
     <message>
         <source>No whole run can be held against this reference.</source>
@@ -3395,7 +3530,7 @@
     </message>
     <message>
         <source>90 % interval</source>
-        <translation>Intervalle à 90 %</translation>
+        <translation>Intervalle à 90&#x202f;%</translation>
     </message>
     <message>
         <source>Verdict</source>
@@ -3423,7 +3558,7 @@
     </message>
     <message>
         <source>%1. %2, %3: %4 s a run</source>
-        <translation>%1. %2, %3 : %4 s par manche</translation>
+        <translation>%1. %2, %3&#x202f;: %4 s par manche</translation>
     </message>
     <message>
         <source>See </source>
@@ -3443,7 +3578,7 @@
     </message>
     <message>
         <source>Percent, 90 %</source>
-        <translation>Pour cent, 90 %</translation>
+        <translation>Pour cent, 90&#x202f;%</translation>
     </message>
     <message>
         <source>All</source>
@@ -3467,7 +3602,7 @@
     </message>
     <message>
         <source>Noted of %1 %2, shares of those noted:</source>
-        <translation>Noté pour %1 %2, parts des pénalités notées :</translation>
+        <translation>Noté pour %1 %2, parts des pénalités notées&#x202f;:</translation>
     </message>
     <message>
         <source>penalty</source>
@@ -3522,7 +3657,7 @@
     </message>
     <message>
         <source>* best of its column, in %1; all others in %2</source>
-        <translation>* meilleur de sa colonne, en %1 ; tous les autres en %2</translation>
+        <translation>* meilleur de sa colonne, en %1&#x202f;; tous les autres en %2</translation>
     </message>
     <message>
         <source>Page %1 / %2</source>
@@ -3610,7 +3745,7 @@
     </message>
     <message>
         <source>Load, %</source>
-        <translation>Charge, %</translation>
+        <translation>Charge,&#x202f;%</translation>
     </message>
     <message>
         <source>Event, place</source>
@@ -3758,7 +3893,7 @@
     </message>
     <message>
         <source> Grey: not timed as a whole, never a best.</source>
-        <translation> Gris : non chronométré en entier, jamais un meilleur.</translation>
+        <translation> Gris&#x202f;: non chronométré en entier, jamais un meilleur.</translation>
     </message>
     <message>
         <source>Split %1</source>
@@ -3770,7 +3905,7 @@
     </message>
     <message>
         <source>%1 s of %2 s; strokes are counted of whole sections.</source>
-        <translation>%1 s sur %2 s ; les coups de pagaie sont comptés sur des secteurs entiers.</translation>
+        <translation>%1 s sur %2 s&#x202f;; les coups de pagaie sont comptés sur des secteurs entiers.</translation>
     </message>
     <message>
         <source>The penalties of this run are not known by gate.</source>
@@ -3870,7 +4005,7 @@
     </message>
     <message>
         <source>gap and rank among all runs of the category; the run&apos;s with penalties</source>
-        <translation>écart et rang parmi toutes les manches de la catégorie ; pour la manche avec pénalités</translation>
+        <translation>écart et rang parmi toutes les manches de la catégorie&#x202f;; pour la manche avec pénalités</translation>
     </message>
     <message>
         <source>Splits</source>
@@ -3882,7 +4017,7 @@
     </message>
     <message>
         <source>Recording: </source>
-        <translation>Enregistrement : </translation>
+        <translation>Enregistrement&#x202f;: </translation>
     </message>
     <message>
         <source>third of the final, median</source>
@@ -3890,7 +4025,7 @@
     </message>
     <message>
         <source>rank %1: %2 %</source>
-        <translation>rang %1 : %2 %</translation>
+        <translation>rang %1&#x202f;: %2&#x202f;%</translation>
     </message>
     <message>
         <source>own median</source>
@@ -3906,7 +4041,7 @@
     </message>
     <message>
         <source>%1 · %2 races · intervals are 90 %</source>
-        <translation>%1 · %2 courses · les intervalles sont à 90 %</translation>
+        <translation>%1 · %2 courses · les intervalles sont à 90&#x202f;%</translation>
     </message>
     <message>
         <source>Percent behind the winner</source>
@@ -3986,7 +4121,7 @@
     </message>
     <message>
         <source>%1 athletes · intervals are 90 %</source>
-        <translation>%1 athlètes · les intervalles sont à 90 %</translation>
+        <translation>%1 athlètes · les intervalles sont à 90&#x202f;%</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -3994,7 +4129,7 @@
     </message>
     <message>
         <source>Chance, %</source>
-        <translation>Hasard, %</translation>
+        <translation>Hasard,&#x202f;%</translation>
     </message>
     <message>
         <source>% a year</source>
@@ -4014,7 +4149,7 @@
     </message>
     <message>
         <source>What a rank took: </source>
-        <translation>Ce que demandait un rang : </translation>
+        <translation>Ce que demandait un rang&#x202f;: </translation>
     </message>
     <message>
         <source>Expected places</source>
@@ -4082,7 +4217,7 @@
     </message>
     <message>
         <source>Score: the sum of the others divided by three. %1: no result, P: preselected.</source>
-        <translation>Score : la somme des autres divisée par trois. %1 : pas de résultat, P : présélectionné.</translation>
+        <translation>Score&#x202f;: la somme des autres divisée par trois. %1&#x202f;: pas de résultat, P&#x202f;: présélectionné.</translation>
     </message>
     <message>
         <source>Categories</source>
@@ -4130,7 +4265,7 @@
     </message>
     <message>
         <source>Percentiles of each column; the best has 100.</source>
-        <translation>Percentiles de chaque colonne ; le meilleur a 100.</translation>
+        <translation>Percentiles de chaque colonne&#x202f;; le meilleur a 100.</translation>
     </message>
     <message>
         <source>Times from the start, without penalties.</source>
@@ -4206,7 +4341,7 @@
     </message>
     <message>
         <source>Dropped: the worst result of all.</source>
-        <translation>Écarté : le plus mauvais résultat de tous.</translation>
+        <translation>Écarté&#x202f;: le plus mauvais résultat de tous.</translation>
     </message>
     <message>
         <source>not in the score</source>
@@ -4214,7 +4349,7 @@
     </message>
     <message>
         <source>Dropped too: a bonus stands among the results.</source>
-        <translation>Écarté aussi : un bonus figure parmi les résultats.</translation>
+        <translation>Écarté aussi&#x202f;: un bonus figure parmi les résultats.</translation>
     </message>
     <message>
         <source>How far behind the best of the category in this race, with penalties.</source>
@@ -4346,7 +4481,7 @@
     </message>
     <message>
         <source>Ghost: seen through</source>
-        <translation>Fantôme : en transparence</translation>
+        <translation>Fantôme&#x202f;: en transparence</translation>
     </message>
     <message>
         <source>Left and right of a line</source>
@@ -4394,7 +4529,7 @@
     </message>
     <message>
         <source>Own time less the reference&apos;s; all of them add up to what is shown on top</source>
-        <translation>Temps propre moins celui de la référence ; tous ensemble font ce qui est affiché en haut</translation>
+        <translation>Temps propre moins celui de la référence&#x202f;; tous ensemble font ce qui est affiché en haut</translation>
     </message>
     <message>
         <source>Between</source>
@@ -4646,23 +4781,23 @@
     </message>
     <message>
         <source>Average:</source>
-        <translation>Moyenne :</translation>
+        <translation>Moyenne&#x202f;:</translation>
     </message>
     <message>
         <source>Average variation:</source>
-        <translation>Variation moyenne :</translation>
+        <translation>Variation moyenne&#x202f;:</translation>
     </message>
     <message>
         <source>Total variation:</source>
-        <translation>Variation totale :</translation>
+        <translation>Variation totale&#x202f;:</translation>
     </message>
     <message>
         <source>Average increase:</source>
-        <translation>Hausse moyenne :</translation>
+        <translation>Hausse moyenne&#x202f;:</translation>
     </message>
     <message>
         <source>Total increase:</source>
-        <translation>Hausse totale :</translation>
+        <translation>Hausse totale&#x202f;:</translation>
     </message>
     <message>
         <source>Lap time</source>
@@ -4730,11 +4865,11 @@
     </message>
     <message>
         <source>The film {} is left out: its name is no UTF-8 text.</source>
-        <translation>Le film {} est laissé de côté : son nom n’est pas un texte UTF-8.</translation>
+        <translation>Le film {} est laissé de côté&#x202f;: son nom n’est pas un texte UTF-8.</translation>
     </message>
     <message>
         <source>The folder {} cannot be read: {}</source>
-        <translation>Le dossier {} ne peut pas être lu : {}</translation>
+        <translation>Le dossier {} ne peut pas être lu&#x202f;: {}</translation>
     </message>
     <message>
         <source>No video in {} carries the name {}. Nothing was written.</source>
@@ -4746,7 +4881,7 @@
     </message>
     <message>
         <source>This call needs the program that paints and makes films, which could not be started: {}</source>
-        <translation>Cet appel demande le programme qui dessine et fait les films ; il n’a pas pu être démarré : {}</translation>
+        <translation>Cet appel demande le programme qui dessine et fait les films&#x202f;; il n’a pas pu être démarré&#x202f;: {}</translation>
     </message>
     <message>
         <source>The file {} exists and is not the sample&apos;s. Choose another folder.</source>
@@ -4754,7 +4889,7 @@
     </message>
     <message>
         <source>The file {} could not be written: {}</source>
-        <translation>Le fichier {} n’a pas pu être écrit : {}</translation>
+        <translation>Le fichier {} n’a pas pu être écrit&#x202f;: {}</translation>
     </message>
     <message>
         <source>The file {} is none of these tables and stays as it is. Nothing was written.</source>
@@ -4762,35 +4897,35 @@
     </message>
     <message>
         <source>The folder {} could not be made: {}</source>
-        <translation>Le dossier {} n’a pas pu être créé : {}</translation>
+        <translation>Le dossier {} n’a pas pu être créé&#x202f;: {}</translation>
     </message>
     <message>
         <source>Line {}: {}, and was imported as it stands.</source>
-        <translation>Ligne {} : {}, et a été importée telle quelle.</translation>
+        <translation>Ligne {}&#x202f;: {}, et a été importée telle quelle.</translation>
     </message>
     <message>
         <source>There is no run {}: the file has {}, counted from 0.</source>
-        <translation>Il n’y a pas de manche {} : le fichier en a {}, comptées à partir de 0.</translation>
+        <translation>Il n’y a pas de manche {}&#x202f;: le fichier en a {}, comptées à partir de 0.</translation>
     </message>
     <message>
         <source>No run has the category &quot;{}&quot;.{}</source>
-        <translation>Aucune manche n’a la catégorie « {} ».{}</translation>
+        <translation>Aucune manche n’a la catégorie «&#xa0;{}&#xa0;».{}</translation>
     </message>
     <message>
         <source>Nobody of the team races in &quot;{}&quot;. Categories: {}.</source>
-        <translation>Personne de l’équipe ne court en « {} ». Catégories : {}.</translation>
+        <translation>Personne de l’équipe ne court en «&#xa0;{}&#xa0;». Catégories&#x202f;: {}.</translation>
     </message>
     <message>
         <source>Several athletes of the team are called {}: their runs cannot be told apart.</source>
-        <translation>Plusieurs athlètes de l’équipe s’appellent {} : leurs manches ne peuvent pas être distinguées.</translation>
+        <translation>Plusieurs athlètes de l’équipe s’appellent {}&#x202f;: leurs manches ne peuvent pas être distinguées.</translation>
     </message>
     <message>
         <source>The file {} is of an older version, {}, and was not changed. Bring it to the current one first: kavela upgrade {}</source>
-        <translation>Le fichier {} est d’une version plus ancienne, {}, et n’a pas été modifié. Amenez-le d’abord à l’actuelle : kavela upgrade {}</translation>
+        <translation>Le fichier {} est d’une version plus ancienne, {}, et n’a pas été modifié. Amenez-le d’abord à l’actuelle&#x202f;: kavela upgrade {}</translation>
     </message>
     <message>
         <source>The time of {} ({}) in {} is 0; a missing result should be 999.9.</source>
-        <translation>Le temps de {} ({}) dans {} est 0 ; un résultat absent devrait être 999.9.</translation>
+        <translation>Le temps de {} ({}) dans {} est 0&#x202f;; un résultat absent devrait être 999.9.</translation>
     </message>
     <message>
         <source>No athlete has a bonus of kind {}.</source>
@@ -4798,11 +4933,11 @@
     </message>
     <message>
         <source>The list {} is no UTF-8 text and was read as Latin-1: look at the names.</source>
-        <translation>La liste {} n’est pas un texte UTF-8 et a été lue en Latin-1 : vérifiez les noms.</translation>
+        <translation>La liste {} n’est pas un texte UTF-8 et a été lue en Latin-1&#x202f;: vérifiez les noms.</translation>
     </message>
     <message>
         <source>The list {} could not be read: {}</source>
-        <translation>La liste {} n’a pas pu être lue : {}</translation>
+        <translation>La liste {} n’a pas pu être lue&#x202f;: {}</translation>
     </message>
     <message>
         <source>{} of {} skipped.</source>
@@ -4814,7 +4949,7 @@
     </message>
     <message>
         <source>No run has the {} &quot;{}&quot;. There is {}.</source>
-        <translation>Aucune manche pour {} « {} ». Il y a {}.</translation>
+        <translation>Aucune manche pour {} «&#xa0;{}&#xa0;». Il y a {}.</translation>
     </message>
     <message>
         <source>There is no file and no command {}. Run with --help for the commands.</source>
@@ -4822,19 +4957,19 @@
     </message>
     <message>
         <source>The desktop program could not be started: {}</source>
-        <translation>Le programme de bureau n’a pas pu être démarré : {}</translation>
+        <translation>Le programme de bureau n’a pas pu être démarré&#x202f;: {}</translation>
     </message>
     <message>
         <source>{}: this is its {}; it carries {} too (--sheet).</source>
-        <translation>{} : voici {} ; il contient aussi {} (--sheet).</translation>
+        <translation>{}&#x202f;: voici {}&#x202f;; il contient aussi {} (--sheet).</translation>
     </message>
     <message>
         <source>Line {}, {}: perhaps {}; not joined.</source>
-        <translation>Ligne {}, {} : peut-être {} ; non relié.</translation>
+        <translation>Ligne {}, {}&#x202f;: peut-être {}&#x202f;; non relié.</translation>
     </message>
     <message>
         <source>{}: this is no team: {}</source>
-        <translation>{} : ce n’est pas une équipe : {}</translation>
+        <translation>{}&#x202f;: ce n’est pas une équipe&#x202f;: {}</translation>
     </message>
     <message>
         <source>The team has no athlete {}.</source>
@@ -4842,15 +4977,15 @@
     </message>
     <message>
         <source>{} does not race in {}. Categories: {}.</source>
-        <translation>{} ne court pas en {}. Catégories : {}.</translation>
+        <translation>{} ne court pas en {}. Catégories&#x202f;: {}.</translation>
     </message>
     <message>
         <source>The file could not be read: {}</source>
-        <translation>Le fichier n’a pas pu être lu : {}</translation>
+        <translation>Le fichier n’a pas pu être lu&#x202f;: {}</translation>
     </message>
     <message>
         <source>There is no number with the id &quot;{}&quot; here.</source>
-        <translation>Il n’y a ici aucun nombre d’identifiant « {} ».</translation>
+        <translation>Il n’y a ici aucun nombre d’identifiant «&#xa0;{}&#xa0;».</translation>
     </message>
     <message>
         <source>losing</source>
@@ -4870,7 +5005,7 @@
     </message>
     <message>
         <source>circle: heats, triangle: semifinal, square: final</source>
-        <translation>cercle : qualifications, triangle : demi-finale, carré : finale</translation>
+        <translation>cercle&#x202f;: qualifications, triangle&#x202f;: demi-finale, carré&#x202f;: finale</translation>
     </message>
     <message>
         <source>{:.0f} to {:.0f}</source>
@@ -4886,7 +5021,7 @@
     </message>
     <message>
         <source>chance from run to run {:.1f} %, all {:.1f} %; {:.2f} % matters</source>
-        <translation>hasard d’une manche à l’autre {:.1f} %, tous {:.1f} % ; {:.2f} % compte</translation>
+        <translation>hasard d’une manche à l’autre {:.1f}&#x202f;%, tous {:.1f}&#x202f;%&#x202f;; {:.2f}&#x202f;% compte</translation>
     </message>
     <message>
         <source>none</source>
@@ -4918,11 +5053,11 @@
     </message>
     <message>
         <source>Split files (.kvx) of any release, and folders of them; several make a season</source>
-        <translation>Fichiers d’intermédiaires (.kvx) de n’importe quelle version, et dossiers qui en contiennent ; plusieurs font une saison</translation>
+        <translation>Fichiers d’intermédiaires (.kvx) de n’importe quelle version, et dossiers qui en contiennent&#x202f;; plusieurs font une saison</translation>
     </message>
     <message>
         <source>Whose page; a crew as &quot;A / B&quot;</source>
-        <translation>De qui est la page ; un équipage sous la forme &quot;A / B&quot;</translation>
+        <translation>De qui est la page&#x202f;; un équipage sous la forme &quot;A / B&quot;</translation>
     </message>
     <message>
         <source>File to write, ending in .html</source>
@@ -4962,7 +5097,7 @@
     </message>
     <message>
         <source>Print JSON; nothing is asked</source>
-        <translation>Afficher du JSON ; rien n’est demandé</translation>
+        <translation>Afficher du JSON&#x202f;; rien n’est demandé</translation>
     </message>
     <message>
         <source>Shows what stood on a line of a film over time, as a picture</source>
@@ -4974,7 +5109,7 @@
     </message>
     <message>
         <source>X1,Y1,X2,Y2: the ends of the line in pixels</source>
-        <translation>X1,Y1,X2,Y2 : les extrémités de la ligne en pixels</translation>
+        <translation>X1,Y1,X2,Y2&#x202f;: les extrémités de la ligne en pixels</translation>
     </message>
     <message>
         <source>Picture to write (.png)</source>
@@ -4990,19 +5125,19 @@
     </message>
     <message>
         <source>X,Y,WIDTH,HEIGHT: a box round one boat, for --proposals</source>
-        <translation>X,Y,WIDTH,HEIGHT : un cadre autour d’un bateau, pour --proposals</translation>
+        <translation>X,Y,WIDTH,HEIGHT&#x202f;: un cadre autour d’un bateau, pour --proposals</translation>
     </message>
     <message>
         <source>Where boats come from: left or right of the line</source>
-        <translation>D’où viennent les bateaux : left ou right de la ligne</translation>
+        <translation>D’où viennent les bateaux&#x202f;: left ou right de la ligne</translation>
     </message>
     <message>
         <source>Nothing to do: name a picture with -o, or ask for --json or --proposals.</source>
-        <translation>Rien à faire : nommez une image avec -o, ou demandez --json ou --proposals.</translation>
+        <translation>Rien à faire&#x202f;: nommez une image avec -o, ou demandez --json ou --proposals.</translation>
     </message>
     <message>
         <source>--proposals needs a box round one boat: --boat X,Y,WIDTH,HEIGHT.</source>
-        <translation>--proposals demande un cadre autour d’un bateau : --boat X,Y,WIDTH,HEIGHT.</translation>
+        <translation>--proposals demande un cadre autour d’un bateau&#x202f;: --boat X,Y,WIDTH,HEIGHT.</translation>
     </message>
     <message>
         <source>Follows a boat, gate or head through a film, as a table</source>
@@ -5014,7 +5149,7 @@
     </message>
     <message>
         <source>What is followed: X,Y,WIDTH,HEIGHT in pixels of the picture, from its upper left corner</source>
-        <translation>Ce qui est suivi : X,Y,WIDTH,HEIGHT en pixels de l’image, depuis son coin supérieur gauche</translation>
+        <translation>Ce qui est suivi&#x202f;: X,Y,WIDTH,HEIGHT en pixels de l’image, depuis son coin supérieur gauche</translation>
     </message>
     <message>
         <source>Second of the film at which the box was drawn</source>
@@ -5022,7 +5157,7 @@
     </message>
     <message>
         <source>Second at which following ends; otherwise where it is lost, or the film ends</source>
-        <translation>Seconde où finit le suivi ; sinon là où l’objet est perdu, ou à la fin du film</translation>
+        <translation>Seconde où finit le suivi&#x202f;; sinon là où l’objet est perdu, ou à la fin du film</translation>
     </message>
     <message>
         <source>Known points on the water (.json), for metres and speeds</source>
@@ -5034,23 +5169,23 @@
     </message>
     <message>
         <source>In some frames the camera&apos;s motion is not known: too little of the picture stands still. They have no steadied place.</source>
-        <translation>Sur certaines images, le mouvement de la caméra n’est pas connu : trop peu de l’image est immobile. Elles n’ont pas de place stabilisée.</translation>
+        <translation>Sur certaines images, le mouvement de la caméra n’est pas connu&#x202f;: trop peu de l’image est immobile. Elles n’ont pas de place stabilisée.</translation>
     </message>
     <message>
         <source>Metres hold for what is on the water; a head is above it.</source>
-        <translation>Les mètres valent pour ce qui est sur l’eau ; une tête est au-dessus.</translation>
+        <translation>Les mètres valent pour ce qui est sur l’eau&#x202f;; une tête est au-dessus.</translation>
     </message>
     <message>
         <source>Two known points give a scale only: lengths and speeds hold near them and along the line between them.</source>
-        <translation>Deux points connus ne donnent qu’une échelle : longueurs et vitesses valent près d’eux et le long de la ligne entre eux.</translation>
+        <translation>Deux points connus ne donnent qu’une échelle&#x202f;: longueurs et vitesses valent près d’eux et le long de la ligne entre eux.</translation>
     </message>
     <message>
         <source>What was deleted on one side stays on the other: --delete deletes it there.</source>
-        <translation>Ce qui a été supprimé d’un côté reste de l’autre : --delete l’y supprime.</translation>
+        <translation>Ce qui a été supprimé d’un côté reste de l’autre&#x202f;: --delete l’y supprime.</translation>
     </message>
     <message>
         <source>The server wants a user name: --user tells it.</source>
-        <translation>Le serveur veut un nom d’utilisateur : --user l’indique.</translation>
+        <translation>Le serveur veut un nom d’utilisateur&#x202f;: --user l’indique.</translation>
     </message>
     <message numerus="yes">
         <source>{} columns</source>
@@ -5120,7 +5255,7 @@
     </message>
     <message>
         <source>It can go on in the background: the list of jobs (Ctrl+J in Compare films) tells how far it is.</source>
-        <translation>La composition peut continuer en arrière-plan : la liste des tâches (Ctrl+J dans Comparer des films) dit où elle en est.</translation>
+        <translation>La composition peut continuer en arrière-plan&#x202f;: la liste des tâches (Ctrl+J dans Comparer des films) dit où elle en est.</translation>
     </message>
     <message>
         <source>Go on in the background</source>
@@ -5148,7 +5283,7 @@
     </message>
     <message>
         <source>%1 %, %2 of %3</source>
-        <translation>%1 %, %2 sur %3</translation>
+        <translation>%1&#x202f;%, %2 sur %3</translation>
     </message>
     <message>
         <source>Waits</source>
@@ -5240,19 +5375,19 @@
     </message>
     <message>
         <source>Nobody is called “%1” in these files.</source>
-        <translation>Personne ne s’appelle « %1 » dans ces fichiers.</translation>
+        <translation>Personne ne s’appelle «&#xa0;%1&#xa0;» dans ces fichiers.</translation>
     </message>
     <message>
         <source>Like it: %1.</source>
-        <translation>Semblable : %1.</translation>
+        <translation>Semblable&#x202f;: %1.</translation>
     </message>
     <message>
         <source>Watched: 80 % of it was shown</source>
-        <translation>Vu : 80 % en a été montré</translation>
+        <translation>Vu&#x202f;: 80&#x202f;% en a été montré</translation>
     </message>
     <message>
         <source>Of the split file: split taking edits it</source>
-        <translation>Du fichier d’intermédiaires : la prise de temps intermédiaires la modifie</translation>
+        <translation>Du fichier d’intermédiaires&#x202f;: la prise de temps intermédiaires la modifie</translation>
     </message>
     <message>
         <source>Watched</source>
@@ -5280,11 +5415,11 @@
     </message>
     <message>
         <source>Imported “%1”</source>
-        <translation>« %1 » importé</translation>
+        <translation>«&#xa0;%1&#xa0;» importé</translation>
     </message>
     <message>
         <source>“%1” cannot be imported</source>
-        <translation>« %1 » ne peut pas être importé</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être importé</translation>
     </message>
     <message>
         <source>Watches and phones (*.gpx *.tcx *.fit *.csv *.tsv *.txt);;All files (*)</source>
@@ -5316,7 +5451,7 @@
     </message>
     <message>
         <source>Of all that was lost, %</source>
-        <translation>De tout ce qui a été perdu, %</translation>
+        <translation>De tout ce qui a été perdu,&#x202f;%</translation>
     </message>
     <message>
         <source>No section was slower than the reference&apos;s.</source>
@@ -5328,7 +5463,7 @@
     </message>
     <message>
         <source>Together, %</source>
-        <translation>Cumul, %</translation>
+        <translation>Cumul,&#x202f;%</translation>
     </message>
     <message>
         <source>The gap along the course</source>
@@ -5352,11 +5487,11 @@
     </message>
     <message>
         <source>Of the reference&apos;s time, %</source>
-        <translation>Du temps de la référence, %</translation>
+        <translation>Du temps de la référence,&#x202f;%</translation>
     </message>
     <message>
         <source>Lost, 90 %</source>
-        <translation>Perdu, 90 %</translation>
+        <translation>Perdu, 90&#x202f;%</translation>
     </message>
     <message>
         <source>No loss</source>
@@ -5376,7 +5511,7 @@
     </message>
     <message>
         <source>Lost, %</source>
-        <translation>Perdu, %</translation>
+        <translation>Perdu,&#x202f;%</translation>
     </message>
     <message>
         <source>Low</source>
@@ -5396,7 +5531,7 @@
     </message>
     <message>
         <source>Most for sure: %1 %2, %3 s a run.</source>
-        <translation>Le plus sûr : %1 %2, %3 s par manche.</translation>
+        <translation>Le plus sûr&#x202f;: %1 %2, %3 s par manche.</translation>
     </message>
     <message>
         <source>Gate</source>
@@ -5412,7 +5547,7 @@
     </message>
     <message>
         <source>%1:  %2</source>
-        <translation>%1 :  %2</translation>
+        <translation>%1&#x202f;:  %2</translation>
     </message>
     <message>
         <source>upstream</source>
@@ -5472,7 +5607,7 @@
     </message>
     <message>
         <source>There is no %1 here to hold the run against. Choose another reference.</source>
-        <translation>Il n’y a ici aucune référence « %1 » à laquelle comparer la manche. Choisissez-en une autre.</translation>
+        <translation>Il n’y a ici aucune référence «&#xa0;%1&#xa0;» à laquelle comparer la manche. Choisissez-en une autre.</translation>
     </message>
     <message>
         <source>The two have no section in common that is timed.</source>
@@ -5480,7 +5615,7 @@
     </message>
     <message>
         <source>%1: nothing to be held against</source>
-        <translation>%1 : rien à quoi comparer</translation>
+        <translation>%1&#x202f;: rien à quoi comparer</translation>
     </message>
     <message>
         <source>%1  %2 on %3</source>
@@ -5488,7 +5623,7 @@
     </message>
     <message>
         <source>%1: no section in common with %2</source>
-        <translation>%1 : aucun secteur en commun avec %2</translation>
+        <translation>%1&#x202f;: aucun secteur en commun avec %2</translation>
     </message>
     <message>
         <source>%1  %2 on %3 in %4 (no total)</source>
@@ -5496,11 +5631,11 @@
     </message>
     <message>
         <source>Explained by notes: %1 of %2 (%3 %)</source>
-        <translation>Expliqué par des notes : %1 sur %2 (%3 %)</translation>
+        <translation>Expliqué par des notes&#x202f;: %1 sur %2 (%3&#x202f;%)</translation>
     </message>
     <message>
         <source>Most was lost in %1: %2 s of %3.</source>
-        <translation>La plus grande perte est en %1 : %2 s sur %3.</translation>
+        <translation>La plus grande perte est en %1&#x202f;: %2 s sur %3.</translation>
     </message>
     <message>
         <source>Penalties make %1 of it.</source>
@@ -5512,11 +5647,11 @@
     </message>
     <message>
         <source>%1 alone makes %2 % of what was lost in slower sections.</source>
-        <translation>%1 à lui seul fait %2 % de ce qui a été perdu dans les secteurs plus lents.</translation>
+        <translation>%1 à lui seul fait %2&#x202f;% de ce qui a été perdu dans les secteurs plus lents.</translation>
     </message>
     <message>
         <source>%1 of %2 slower sections make %3 % of what was lost in them.</source>
-        <translation>%1 des %2 secteurs plus lents font %3 % de ce qui y a été perdu.</translation>
+        <translation>%1 des %2 secteurs plus lents font %3&#x202f;% de ce qui y a été perdu.</translation>
     </message>
     <message>
         <source>Nobody was slower than the reference in a section.</source>
@@ -5524,19 +5659,19 @@
     </message>
     <message>
         <source>The greatest loss is that of %1 in S%2: %3 on %4.</source>
-        <translation>La plus grande perte est celle de %1 en S%2 : %3 face à %4.</translation>
+        <translation>La plus grande perte est celle de %1 en S%2&#x202f;: %3 face à %4.</translation>
     </message>
     <message>
         <source>Never behind the %1; %2 at the end of S%3.</source>
-        <translation>Jamais derrière (%1) ; %2 à la fin de S%3.</translation>
+        <translation>Jamais derrière (%1)&#x202f;; %2 à la fin de S%3.</translation>
     </message>
     <message>
         <source>Farthest behind at the end: %1 after S%2.</source>
-        <translation>Le plus loin derrière à la fin : %1 après S%2.</translation>
+        <translation>Le plus loin derrière à la fin&#x202f;: %1 après S%2.</translation>
     </message>
     <message>
         <source>Farthest behind after S%1: %2; %3 after S%4.</source>
-        <translation>Le plus loin derrière après S%1 : %2 ; %3 après S%4.</translation>
+        <translation>Le plus loin derrière après S%1&#x202f;: %2&#x202f;; %3 après S%4.</translation>
     </message>
     <message>
         <source>no motion of the boat</source>
@@ -5596,11 +5731,11 @@
     </message>
     <message>
         <source>Touched, %</source>
-        <translation>Touché, %</translation>
+        <translation>Touché,&#x202f;%</translation>
     </message>
     <message>
         <source>Ranked rate, 90 %</source>
-        <translation>Taux classé, 90 %</translation>
+        <translation>Taux classé, 90&#x202f;%</translation>
     </message>
     <message>
         <source>Touched</source>
@@ -5664,11 +5799,11 @@
     </message>
     <message>
         <source>%1: touches at the gates</source>
-        <translation>%1 : touches aux portes</translation>
+        <translation>%1&#x202f;: touches aux portes</translation>
     </message>
     <message>
         <source>Gates in order; ◀ upstream</source>
-        <translation>Portes dans l’ordre ; ◀ remontée</translation>
+        <translation>Portes dans l’ordre&#x202f;; ◀ remontée</translation>
     </message>
     <message>
         <source>Upstream</source>
@@ -5692,11 +5827,11 @@
     </message>
     <message>
         <source>Of those noted, %</source>
-        <translation>Des pénalités notées, %</translation>
+        <translation>Des pénalités notées,&#x202f;%</translation>
     </message>
     <message>
         <source>Share, 90 %</source>
-        <translation>Part, 90 %</translation>
+        <translation>Part, 90&#x202f;%</translation>
     </message>
     <message>
         <source>Noted as</source>
@@ -5716,7 +5851,7 @@
     </message>
     <message>
         <source>Most of one kind: %1 %2, %3 of %4 noted.</source>
-        <translation>Le plus d’un même genre : %1 %2, %3 sur %4 notées.</translation>
+        <translation>Le plus d’un même genre&#x202f;: %1 %2, %3 sur %4 notées.</translation>
     </message>
     <message>
         <source>fastest third</source>
@@ -5736,7 +5871,7 @@
     </message>
     <message>
         <source>Paddling time, % of the group&apos;s median</source>
-        <translation>Temps de navigation, % de la médiane du groupe</translation>
+        <translation>Temps de navigation,&#x202f;% de la médiane du groupe</translation>
     </message>
     <message>
         <source>Touches a run</source>
@@ -5744,7 +5879,7 @@
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#x202f;%</translation>
     </message>
     <message>
         <source>Equally fast in all</source>
@@ -5848,11 +5983,11 @@
     </message>
     <message>
         <source>Change behind, %</source>
-        <translation>Évolution du retard, %</translation>
+        <translation>Évolution du retard,&#x202f;%</translation>
     </message>
     <message>
         <source>Change, %</source>
-        <translation>Évolution, %</translation>
+        <translation>Évolution,&#x202f;%</translation>
     </message>
     <message>
         <source>Races</source>
@@ -5860,7 +5995,7 @@
     </message>
     <message>
         <source>Typical error, %</source>
-        <translation>Erreur type, %</translation>
+        <translation>Erreur type,&#x202f;%</translation>
     </message>
     <message>
         <source>No change</source>
@@ -5876,11 +6011,11 @@
     </message>
     <message>
         <source>Within, %</source>
-        <translation>Dispersion, %</translation>
+        <translation>Dispersion,&#x202f;%</translation>
     </message>
     <message>
         <source>Own alone, %</source>
-        <translation>Propre seule, %</translation>
+        <translation>Propre seule,&#x202f;%</translation>
     </message>
     <message>
         <source>With a missed gate</source>
@@ -5900,7 +6035,7 @@
     </message>
     <message>
         <source>A year, %</source>
-        <translation>Par an, %</translation>
+        <translation>Par an,&#x202f;%</translation>
     </message>
     <message>
         <source>Verdict</source>
@@ -5908,7 +6043,7 @@
     </message>
     <message>
         <source>Too few runs of everybody to tell a trend: four over two months are needed.</source>
-        <translation>Trop peu de manches de chacun pour dire une tendance : il en faut quatre sur deux mois.</translation>
+        <translation>Trop peu de manches de chacun pour dire une tendance&#x202f;: il en faut quatre sur deux mois.</translation>
     </message>
     <message>
         <source>%1 against</source>
@@ -5920,7 +6055,7 @@
     </message>
     <message>
         <source>Ahead, %</source>
-        <translation>Devant, %</translation>
+        <translation>Devant,&#x202f;%</translation>
     </message>
     <message>
         <source>Met</source>
@@ -5932,11 +6067,11 @@
     </message>
     <message>
         <source>Gap, %</source>
-        <translation>Écart, %</translation>
+        <translation>Écart,&#x202f;%</translation>
     </message>
     <message>
         <source>Gap 90 %</source>
-        <translation>Écart 90 %</translation>
+        <translation>Écart 90&#x202f;%</translation>
     </message>
     <message>
         <source>Half</source>
@@ -5948,7 +6083,7 @@
     </message>
     <message>
         <source>Of races, %</source>
-        <translation>Des courses, %</translation>
+        <translation>Des courses,&#x202f;%</translation>
     </message>
     <message>
         <source>No race of the team has a result that says so.</source>
@@ -5964,23 +6099,23 @@
     </message>
     <message>
         <source>Medal, %</source>
-        <translation>Médaille, %</translation>
+        <translation>Médaille,&#x202f;%</translation>
     </message>
     <message>
         <source>First, %</source>
-        <translation>Première place, %</translation>
+        <translation>Première place,&#x202f;%</translation>
     </message>
     <message>
         <source>Missed gate, %</source>
-        <translation>Porte manquée, %</translation>
+        <translation>Porte manquée,&#x202f;%</translation>
     </message>
     <message>
         <source>Too few runs to expect places of anybody: each boat needs three, and the boats must have met.</source>
-        <translation>Trop peu de manches pour attendre des places de quiconque : il en faut trois à chaque bateau, et les bateaux doivent s’être rencontrés.</translation>
+        <translation>Trop peu de manches pour attendre des places de quiconque&#x202f;: il en faut trois à chaque bateau, et les bateaux doivent s’être rencontrés.</translation>
     </message>
     <message>
         <source>What ranks took: %1</source>
-        <translation>Ce que demandaient les rangs : %1</translation>
+        <translation>Ce que demandaient les rangs&#x202f;: %1</translation>
     </message>
     <message>
         <source>Rank</source>
@@ -5988,7 +6123,7 @@
     </message>
     <message>
         <source>Behind the winner, %</source>
-        <translation>Derrière le vainqueur, %</translation>
+        <translation>Derrière le vainqueur,&#x202f;%</translation>
     </message>
     <message>
         <source>Quartiles</source>
@@ -6172,7 +6307,7 @@
     </message>
     <message>
         <source>%1; “%2” is none.</source>
-        <translation>%1 ; « %2 » n’en est pas un.</translation>
+        <translation>%1&#x202f;; «&#xa0;%2&#xa0;» n’en est pas un.</translation>
     </message>
     <message>
         <source>%1 is of release %2.</source>
@@ -6180,11 +6315,11 @@
     </message>
     <message>
         <source>Its folder %1 cannot be written, so that the analyzer shows it and leaves it as it is.</source>
-        <translation>Son dossier %1 n’est pas accessible en écriture : l’analyse de course l’affiche et le laisse tel quel.</translation>
+        <translation>Son dossier %1 n’est pas accessible en écriture&#x202f;: l’analyse de course l’affiche et le laisse tel quel.</translation>
     </message>
     <message>
         <source>Who of the team it is; a question mark: only you can tell</source>
-        <translation>Qui de l’équipe c’est ; un point d’interrogation : vous seul pouvez le dire</translation>
+        <translation>Qui de l’équipe c’est&#x202f;; un point d’interrogation&#x202f;: vous seul pouvez le dire</translation>
     </message>
     <message>
         <source> or </source>
@@ -6236,7 +6371,7 @@
     </message>
     <message>
         <source>Choose a column of numbers or times: a click on one of its cells, then C.</source>
-        <translation>Choisissez une colonne de nombres ou de temps : un clic sur une de ses cellules, puis C.</translation>
+        <translation>Choisissez une colonne de nombres ou de temps&#x202f;: un clic sur une de ses cellules, puis C.</translation>
     </message>
     <message>
         <source>Row</source>
@@ -6284,7 +6419,7 @@
     </message>
     <message>
         <source>&amp;Agree: the film is named after its boat</source>
-        <translation>Valider : le film prend le &amp;nom de son bateau</translation>
+        <translation>Valider&#x202f;: le film prend le &amp;nom de son bateau</translation>
     </message>
     <message>
         <source>Agree to all that are &amp;sure</source>
@@ -6292,11 +6427,11 @@
     </message>
     <message>
         <source>Films from here on: one start &amp;earlier</source>
-        <translation>F&amp;ilms à partir d’ici : un départ plus tôt</translation>
+        <translation>F&amp;ilms à partir d’ici&#x202f;: un départ plus tôt</translation>
     </message>
     <message>
         <source>Films from here on: one start late&amp;r</source>
-        <translation>Films à partir d’ici : &amp;un départ plus tard</translation>
+        <translation>Films à partir d’ici&#x202f;: &amp;un départ plus tard</translation>
     </message>
     <message>
         <source>Did not start, or did after all</source>
@@ -6604,7 +6739,7 @@
     </message>
     <message>
         <source>How a team&apos;s athletes stand: trend, rivals, medals, what it takes.</source>
-        <translation>Où en sont les athlètes d’une équipe : tendance, rivaux, médailles, ce qu’il faut.</translation>
+        <translation>Où en sont les athlètes d’une équipe&#x202f;: tendance, rivaux, médailles, ce qu’il faut.</translation>
     </message>
     <message>
         <source>Open a team</source>
@@ -6720,7 +6855,7 @@
     </message>
     <message>
         <source>The course drawn: banks, gates, split lines and the lines of runs.</source>
-        <translation>Le parcours dessiné : rives, portes, lignes intermédiaires et trajectoires des manches.</translation>
+        <translation>Le parcours dessiné&#x202f;: rives, portes, lignes intermédiaires et trajectoires des manches.</translation>
     </message>
     <message>
         <source>Draw the course of a race</source>
@@ -6732,7 +6867,7 @@
     </message>
     <message>
         <source>Boat, gate or head followed through a film: its path and speed.</source>
-        <translation>Bateau, porte ou tête suivis dans un film : leur trajectoire et leur vitesse.</translation>
+        <translation>Bateau, porte ou tête suivis dans un film&#x202f;: leur trajectoire et leur vitesse.</translation>
     </message>
     <message>
         <source>Open films</source>
@@ -6744,7 +6879,7 @@
     </message>
     <message>
         <source>A finish camera made of the film of a tripod: every crossing of a line at a glance.</source>
-        <translation>Une photo-finish faite du film d’un trépied : chaque passage d’une ligne d’un coup d’œil.</translation>
+        <translation>Une photo-finish faite du film d’un trépied&#x202f;: chaque passage d’une ligne d’un coup d’œil.</translation>
     </message>
     <message>
         <source>Open films of a fixed camera</source>
@@ -6857,7 +6992,7 @@
     </message>
     <message>
         <source>One A4 page: where time is lost on the %1, what to train, penalties.</source>
-        <translation>Une page A4 : où le temps est perdu sur la référence (%1), ce qu’il faut travailler, les pénalités.</translation>
+        <translation>Une page A4&#x202f;: où le temps est perdu sur la référence (%1), ce qu’il faut travailler, les pénalités.</translation>
     </message>
     <message>
         <source>Choose one of the athletes of the list.</source>
@@ -6883,7 +7018,7 @@
     <name>kavela::desktop::AthletePanel</name>
     <message>
         <source>Retired: left out of the categorization report</source>
-        <translation>A arrêté : absent du rapport de catégorisation</translation>
+        <translation>A arrêté&#x202f;: absent du rapport de catégorisation</translation>
     </message>
     <message>
         <source>Search athletes</source>
@@ -7088,7 +7223,7 @@
     <name>kavela::desktop::BalanceView</name>
     <message>
         <source>Side unknown: nothing tells which side of the phone points to the bow. Name its mount in the menu Edit, and left and right are found.</source>
-        <translation>Côté inconnu : rien ne dit quel côté du téléphone pointe vers l’avant. Nommez sa fixation dans le menu Édition : gauche et droite seront trouvées.</translation>
+        <translation>Côté inconnu&#x202f;: rien ne dit quel côté du téléphone pointe vers l’avant. Nommez sa fixation dans le menu Édition&#x202f;: gauche et droite seront trouvées.</translation>
     </message>
     <message>
         <source>even</source>
@@ -7096,11 +7231,11 @@
     </message>
     <message>
         <source>left +%1 %</source>
-        <translation>gauche +%1 %</translation>
+        <translation>gauche +%1&#x202f;%</translation>
     </message>
     <message>
         <source>right +%1 %</source>
-        <translation>droite +%1 %</translation>
+        <translation>droite +%1&#x202f;%</translation>
     </message>
     <message>
         <source>Strokes</source>
@@ -7132,7 +7267,7 @@
     </message>
     <message>
         <source>Differences under %1 % are no finding</source>
-        <translation>Des différences de moins de %1 % ne prouvent rien</translation>
+        <translation>Des différences de moins de %1&#x202f;% ne prouvent rien</translation>
     </message>
 </context>
 <context>
@@ -7187,7 +7322,7 @@
     </message>
     <message>
         <source>A list with a header: Date and one or more of AVNN, SDNN, rMSSD, pNN50, LF, HF. It can also be dropped here.</source>
-        <translation>Une liste avec des titres : Date et un ou plusieurs de AVNN, SDNN, rMSSD, pNN50, LF, HF. Elle peut aussi être déposée ici.</translation>
+        <translation>Une liste avec des titres&#x202f;: Date et un ou plusieurs de AVNN, SDNN, rMSSD, pNN50, LF, HF. Elle peut aussi être déposée ici.</translation>
     </message>
     <message>
         <source>Index of the chart</source>
@@ -7249,7 +7384,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>The list cannot be read: %1</source>
-        <translation>La liste ne peut pas être lue : %1</translation>
+        <translation>La liste ne peut pas être lue&#x202f;: %1</translation>
     </message>
 </context>
 <context>
@@ -7312,7 +7447,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>In step: the fixed camera&apos;s film is %1 s ahead.</source>
-        <translation>Synchronisé : le film de la caméra fixe est en avance de %1 s.</translation>
+        <translation>Synchronisé&#x202f;: le film de la caméra fixe est en avance de %1 s.</translation>
     </message>
     <message>
         <source>Placed by the dates in the two films, to a second or two.</source>
@@ -7324,7 +7459,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>Its film has no date: moments are kept without the time of its clock.</source>
-        <translation>Son film n’a pas de date : les moments sont gardés sans l’heure de son horloge.</translation>
+        <translation>Son film n’a pas de date&#x202f;: les moments sont gardés sans l’heure de son horloge.</translation>
     </message>
     <message>
         <source>fixed camera detached</source>
@@ -7519,7 +7654,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     <message>
         <source>The film is not there:
 %1</source>
-        <translation>Le film n’est pas là :
+        <translation>Le film n’est pas là&#x202f;:
 %1</translation>
     </message>
     <message>
@@ -7642,11 +7777,11 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>Nothing here is called “%1”.</source>
-        <translation>Rien ici ne s’appelle « %1 ».</translation>
+        <translation>Rien ici ne s’appelle «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Searched: actions, recent files and the names in this window.</source>
-        <translation>Recherché : actions, fichiers récents et noms dans cette fenêtre.</translation>
+        <translation>Recherché&#x202f;: actions, fichiers récents et noms dans cette fenêtre.</translation>
     </message>
 </context>
 <context>
@@ -7704,7 +7839,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     <name>kavela::desktop::CompareDocument</name>
     <message>
         <source>It is no comparison of films, or a damaged one: %1</source>
-        <translation>Ce n’est pas une comparaison de films, ou elle est abîmée : %1</translation>
+        <translation>Ce n’est pas une comparaison de films, ou elle est abîmée&#x202f;: %1</translation>
     </message>
     <message>
         <source>1 film</source>
@@ -7969,7 +8104,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>At most 1280 × 720 and coarser: a small file.</source>
-        <translation>Au plus 1280 × 720 et moins fin : un petit fichier.</translation>
+        <translation>Au plus 1280 × 720 et moins fin&#x202f;: un petit fichier.</translation>
     </message>
     <message>
         <source>S&amp;ound of film</source>
@@ -8015,7 +8150,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>Films being composed: &amp;jobs</source>
-        <translation>Films en composition : &amp;tâches</translation>
+        <translation>Films en composition&#x202f;: &amp;tâches</translation>
     </message>
     <message>
         <source>&amp;Find a run or a film</source>
@@ -8071,7 +8206,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>The film could not be composed: %1</source>
-        <translation>Le film n’a pas pu être composé : %1</translation>
+        <translation>Le film n’a pas pu être composé&#x202f;: %1</translation>
     </message>
     <message>
         <source>%1 is there. %2</source>
@@ -8107,7 +8242,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>Four films are the most: these are the first four</source>
-        <translation>Quatre films au plus : voici les quatre premiers</translation>
+        <translation>Quatre films au plus&#x202f;: voici les quatre premiers</translation>
     </message>
     <message>
         <source>Pause</source>
@@ -8123,7 +8258,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>Two films are aligned: choose two.</source>
-        <translation>On aligne deux films : choisissez-en deux.</translation>
+        <translation>On aligne deux films&#x202f;: choisissez-en deux.</translation>
     </message>
     <message>
         <source>Click the same two things in both films, such as the poles of a gate. A gives it up.</source>
@@ -8151,18 +8286,18 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>Composing: %1, %2 more</source>
-        <translation>Composition : %1, %2 de plus</translation>
+        <translation>Composition&#x202f;: %1, %2 de plus</translation>
     </message>
     <message>
         <source>Composing: %1</source>
-        <translation>Composition : %1</translation>
+        <translation>Composition&#x202f;: %1</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::ComparisonPanel</name>
     <message>
         <source>%1 of %2 (%3–%4 %)</source>
-        <translation>%1 sur %2 (%3–%4 %)</translation>
+        <translation>%1 sur %2 (%3–%4&#x202f;%)</translation>
     </message>
     <message>
         <source>Behind the winners in the &amp;phase</source>
@@ -8182,7 +8317,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>Behind, %</source>
-        <translation>Retard, %</translation>
+        <translation>Retard,&#x202f;%</translation>
     </message>
     <message>
         <source>Median behind the winners of the phase, without missed gates</source>
@@ -8194,7 +8329,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>Within, %</source>
-        <translation>Dispersion, %</translation>
+        <translation>Dispersion,&#x202f;%</translation>
     </message>
     <message>
         <source>How much the runs vary by chance</source>
@@ -8202,7 +8337,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>A year, %</source>
-        <translation>Par an, %</translation>
+        <translation>Par an,&#x202f;%</translation>
     </message>
     <message>
         <source>Trend behind the winners, over all phases</source>
@@ -8226,7 +8361,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>The athletes year by year: %1</source>
-        <translation>Les athlètes année par année : %1</translation>
+        <translation>Les athlètes année par année&#x202f;: %1</translation>
     </message>
     <message>
         <source>Year</source>
@@ -8234,7 +8369,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>Median behind the winner, %</source>
-        <translation>Médiane du retard sur le vainqueur, %</translation>
+        <translation>Médiane du retard sur le vainqueur,&#x202f;%</translation>
     </message>
 </context>
 <context>
@@ -8419,7 +8554,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>Section %1: </source>
-        <translation>Secteur %1 : </translation>
+        <translation>Secteur %1&#x202f;: </translation>
     </message>
 </context>
 <context>
@@ -8446,7 +8581,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>The picture of the race cannot be drawn upon: %1 It stays as long as nothing is drawn.</source>
-        <translation>On ne peut pas dessiner sur l’image de la course : %1 Elle reste tant que rien n’est dessiné.</translation>
+        <translation>On ne peut pas dessiner sur l’image de la course&#x202f;: %1 Elle reste tant que rien n’est dessiné.</translation>
     </message>
     <message>
         <source>Tab next part · arrows move it, Shift+arrows far · Alt+←/→ turn · PgDn its points · Delete · Insert puts one in the middle · Ctrl+Z undo, Ctrl+Shift+Z redo</source>
@@ -8498,7 +8633,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>Leave the course as it was? What was drawn is lost.</source>
-        <translation>Laisser le parcours tel qu’il était ? Ce qui a été dessiné est perdu.</translation>
+        <translation>Laisser le parcours tel qu’il était&#x202f;? Ce qui a été dessiné est perdu.</translation>
     </message>
     <message>
         <source>Leave it</source>
@@ -8519,13 +8654,13 @@ Push out: peak %6 m/s², mean %7 m/s²
 Roll %8° (+ inside), pitch %9° (+ bow up)</source>
         <translation>Virage %1
 Durée %2 s, angle %3°
-Rotation : pointe %4 °/s, moyenne %5 °/s
-Relance : pointe %6 m/s², moyenne %7 m/s²
+Rotation&#x202f;: pointe %4 °/s, moyenne %5 °/s
+Relance&#x202f;: pointe %6 m/s², moyenne %7 m/s²
 Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>There are no position fixes in this session: no map.</source>
-        <translation>Il n’y a pas de positions dans cette séance : pas de carte.</translation>
+        <translation>Il n’y a pas de positions dans cette séance&#x202f;: pas de carte.</translation>
     </message>
     <message>
         <source>%1 km</source>
@@ -8642,7 +8777,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Which gates does the cross course have?</source>
-        <translation>Quelles portes a le parcours de cross ?</translation>
+        <translation>Quelles portes a le parcours de cross&#x202f;?</translation>
     </message>
     <message>
         <source>1 gate</source>
@@ -8654,7 +8789,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no gate number.</source>
-        <translation>« %1 » n’est pas un numéro de porte.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un numéro de porte.</translation>
     </message>
     <message>
         <source>The roll is after gate %1, which is not on the course.</source>
@@ -8700,7 +8835,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
-        <translation>Où so&amp;nt les films maintenant ?…</translation>
+        <translation>Où so&amp;nt les films maintenant&#x202f;?…</translation>
     </message>
     <message>
         <source>Split &amp;taking of this race</source>
@@ -8839,7 +8974,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Nothing can be marked: %1 is not in the folder of the split file. File &gt; Where are the films now?</source>
-        <translation>Rien ne peut être marqué : %1 n’est pas dans le dossier du fichier d’intermédiaires. Fichier &gt; Où sont les films maintenant ?</translation>
+        <translation>Rien ne peut être marqué&#x202f;: %1 n’est pas dans le dossier du fichier d’intermédiaires. Fichier &gt; Où sont les films maintenant&#x202f;?</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
@@ -8870,11 +9005,11 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Import films with Ctrl+I, or drop them here: each becomes a time trial.</source>
-        <translation>Importez des films avec Ctrl+I, ou déposez-les ici : chacun devient un contre-la-montre.</translation>
+        <translation>Importez des films avec Ctrl+I, ou déposez-les ici&#x202f;: chacun devient un contre-la-montre.</translation>
     </message>
     <message>
         <source>No film yet. Ctrl+Shift+I chooses the film of what is selected; films can be dropped here too.</source>
-        <translation>Pas encore de film. Ctrl+Maj+I choisit le film de ce qui est sélectionné ; des films peuvent aussi être déposés ici.</translation>
+        <translation>Pas encore de film. Ctrl+Maj+I choisit le film de ce qui est sélectionné&#x202f;; des films peuvent aussi être déposés ici.</translation>
     </message>
     <message>
         <source>%1 is not in the folder of the split file. Ctrl+Shift+I chooses another film.</source>
@@ -8882,7 +9017,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Not found: %1.</source>
-        <translation>Introuvable : %1.</translation>
+        <translation>Introuvable&#x202f;: %1.</translation>
     </message>
     <message>
         <source>Import films of time trials</source>
@@ -8920,15 +9055,15 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>%1 lines cannot be read. Line %2: %3.</source>
-        <translation>%1 lignes ne peuvent pas être lues. Ligne %2 : %3.</translation>
+        <translation>%1 lignes ne peuvent pas être lues. Ligne %2&#x202f;: %3.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation>Ligne %1 : %2</translation>
+        <translation>Ligne %1&#x202f;: %2</translation>
     </message>
     <message>
         <source>What each column holds was guessed from its title. Choose over a column what it is; a column without a choice is left out.</source>
-        <translation>Le contenu de chaque colonne a été deviné d’après son titre. Choisissez au-dessus d’une colonne ce qu’elle est ; une colonne sans choix est laissée de côté.</translation>
+        <translation>Le contenu de chaque colonne a été deviné d’après son titre. Choisissez au-dessus d’une colonne ce qu’elle est&#x202f;; une colonne sans choix est laissée de côté.</translation>
     </message>
     <message>
         <source>%1 samples, %2 per second, %3</source>
@@ -8944,11 +9079,11 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Import “%1”</source>
-        <translation>Importer « %1 »</translation>
+        <translation>Importer «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Columns and units are read as they were for the last list with these titles. Choose over a column what it is; one without a choice is left out.</source>
-        <translation>Colonnes et unités sont lues comme pour la dernière liste à ces titres. Choisissez au-dessus d’une colonne ce qu’elle est ; une colonne sans choix est laissée de côté.</translation>
+        <translation>Colonnes et unités sont lues comme pour la dernière liste à ces titres. Choisissez au-dessus d’une colonne ce qu’elle est&#x202f;; une colonne sans choix est laissée de côté.</translation>
     </message>
     <message>
         <source>Guess from the titles</source>
@@ -9145,11 +9280,11 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     <name>kavela::desktop::DayDesk</name>
     <message>
         <source>The race day could not be kept: %1</source>
-        <translation>Le jour de course n’a pas pu être conservé : %1</translation>
+        <translation>Le jour de course n’a pas pu être conservé&#x202f;: %1</translation>
     </message>
     <message>
         <source> · U: %1</source>
-        <translation> · U : %1</translation>
+        <translation> · U&#x202f;: %1</translation>
     </message>
     <message>
         <source>start list</source>
@@ -9165,7 +9300,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>There is no start list yet: Day &gt; Start list.</source>
-        <translation>Il n’y a pas encore de liste de départ : Jour &gt; Liste de départ.</translation>
+        <translation>Il n’y a pas encore de liste de départ&#x202f;: Jour &gt; Liste de départ.</translation>
     </message>
     <message>
         <source>No film waits to be timed.</source>
@@ -9181,7 +9316,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Is this %1?</source>
-        <translation>Est-ce %1 ?</translation>
+        <translation>Est-ce %1&#x202f;?</translation>
     </message>
     <message>
         <source>film of %1</source>
@@ -9201,7 +9336,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Not named, as it is not in the folder of the race or cannot be named there: %1</source>
-        <translation>Pas renommé, car hors du dossier de la course ou impossible à renommer là : %1</translation>
+        <translation>Pas renommé, car hors du dossier de la course ou impossible à renommer là&#x202f;: %1</translation>
     </message>
     <message>
         <source>Agreed</source>
@@ -9217,11 +9352,11 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#x202f;: %2</translation>
     </message>
     <message>
         <source>%1: no film</source>
-        <translation>%1 : pas de film</translation>
+        <translation>%1&#x202f;: pas de film</translation>
     </message>
     <message>
         <source>film of another boat</source>
@@ -9237,7 +9372,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>%1 is timed: remove the last mark first.</source>
-        <translation>%1 est chronométré : retirez d’abord la dernière marque.</translation>
+        <translation>%1 est chronométré&#x202f;: retirez d’abord la dernière marque.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -9267,18 +9402,18 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     <name>kavela::desktop::DayFilms</name>
     <message>
         <source>%1 could not be called %2 again: is that name taken?</source>
-        <translation>%1 n’a pas pu être renommé %2 : ce nom est-il pris ?</translation>
+        <translation>%1 n’a pas pu être renommé %2&#x202f;: ce nom est-il pris&#x202f;?</translation>
     </message>
     <message>
         <source>%1 could not be copied from the card. Is the card out, or the disk full?</source>
-        <translation>%1 n’a pas pu être copié depuis la carte. La carte est-elle retirée, ou le disque plein ?</translation>
+        <translation>%1 n’a pas pu être copié depuis la carte. La carte est-elle retirée, ou le disque plein&#x202f;?</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::DayKeeping</name>
     <message>
         <source>The race day %1 cannot be read: %2. It stays as it is; a new one takes its name only after it was put aside.</source>
-        <translation>Le jour de course %1 ne peut pas être lu : %2. Il reste tel quel ; un nouveau ne prend son nom qu’une fois l’ancien mis de côté.</translation>
+        <translation>Le jour de course %1 ne peut pas être lu&#x202f;: %2. Il reste tel quel&#x202f;; un nouveau ne prend son nom qu’une fois l’ancien mis de côté.</translation>
     </message>
 </context>
 <context>
@@ -9417,15 +9552,15 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Of no boat: %1.</source>
-        <translation>D’aucun bateau : %1.</translation>
+        <translation>D’aucun bateau&#x202f;: %1.</translation>
     </message>
     <message>
         <source>Of no boat: %1 films, the first is %2.</source>
-        <translation>D’aucun bateau : %1 films, le premier est %2.</translation>
+        <translation>D’aucun bateau&#x202f;: %1 films, le premier est %2.</translation>
     </message>
     <message>
         <source>Of other days: %1.</source>
-        <translation>D’autres jours : %1.</translation>
+        <translation>D’autres jours&#x202f;: %1.</translation>
     </message>
 </context>
 <context>
@@ -9472,7 +9607,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Sum &amp;of (none: times and penalties)</source>
-        <translation>&amp;Somme de (aucun : temps et pénalités)</translation>
+        <translation>&amp;Somme de (aucun&#x202f;: temps et pénalités)</translation>
     </message>
     <message>
         <source>O&amp;f</source>
@@ -9511,7 +9646,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Nothing to open in “%1”</source>
-        <translation>Rien à ouvrir dans « %1 »</translation>
+        <translation>Rien à ouvrir dans «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>There is no split file (.kvx) and no film in this folder.</source>
@@ -9519,7 +9654,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>“%1” is not where it was</source>
-        <translation>« %1 » n’est plus à sa place</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est plus à sa place</translation>
     </message>
     <message>
         <source>It was in %1. Open it from where it is now, then ask again.</source>
@@ -9543,7 +9678,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>%1 is not in split taking any more: it was removed there, or has another crew and film.</source>
-        <translation>%1 n’est plus dans la prise de temps intermédiaires : la manche y a été retirée, ou a un autre équipage et un autre film.</translation>
+        <translation>%1 n’est plus dans la prise de temps intermédiaires&#x202f;: la manche y a été retirée, ou a un autre équipage et un autre film.</translation>
     </message>
     <message>
         <source>%1 (*.%2);;All files (*)</source>
@@ -9551,7 +9686,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Of single split files, or of all in a folder and below it?</source>
-        <translation>À partir de certains fichiers d’intermédiaires, ou de tous ceux d’un dossier et de ses sous-dossiers ?</translation>
+        <translation>À partir de certains fichiers d’intermédiaires, ou de tous ceux d’un dossier et de ses sous-dossiers&#x202f;?</translation>
     </message>
     <message>
         <source>Split files…</source>
@@ -9582,19 +9717,19 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Those of which this was noted; for those of which it was not noted, all penalties</source>
-        <translation>Celles où ceci a été noté ; pour celles où rien n’a été noté, toutes les pénalités</translation>
+        <translation>Celles où ceci a été noté&#x202f;; pour celles où rien n’a été noté, toutes les pénalités</translation>
     </message>
     <message>
         <source>Share %</source>
-        <translation>Part %</translation>
+        <translation>Part&#x202f;%</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#x202f;%</translation>
     </message>
     <message>
         <source>Where the share lies with 90 %</source>
-        <translation>Où se trouve la part, à 90 %</translation>
+        <translation>Où se trouve la part, à 90&#x202f;%</translation>
     </message>
     <message>
         <source>No penalty was noted in detail. Split taking notes them.</source>
@@ -9625,7 +9760,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Opened before:</source>
-        <translation>Ouverts auparavant :</translation>
+        <translation>Ouverts auparavant&#x202f;:</translation>
     </message>
     <message>
         <source>Name the new file</source>
@@ -9648,7 +9783,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Gate %1: %2 %</source>
-        <translation>Porte %1 : %2 %</translation>
+        <translation>Porte %1&#x202f;: %2&#x202f;%</translation>
     </message>
     <message>
         <source>, %1 of %2 touched</source>
@@ -9656,7 +9791,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#x202f;%</translation>
     </message>
 </context>
 <context>
@@ -9675,7 +9810,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>A raw recording of the boat: strokes and turns are found in it.</source>
-        <translation>Un enregistrement brut du bateau : coups de pagaie et virages y sont trouvés.</translation>
+        <translation>Un enregistrement brut du bateau&#x202f;: coups de pagaie et virages y sont trouvés.</translation>
     </message>
     <message>
         <source>Drag .sbm file to top right of the window</source>
@@ -9683,7 +9818,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>A processed session, .sbm or .bms: strokes and turns are in it already.</source>
-        <translation>Une séance traitée, .sbm ou .bms : coups de pagaie et virages y sont déjà.</translation>
+        <translation>Une séance traitée, .sbm ou .bms&#x202f;: coups de pagaie et virages y sont déjà.</translation>
     </message>
 </context>
 <context>
@@ -9757,7 +9892,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation>« %1 » ne peut pas être ouvert</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être ouvert</translation>
     </message>
     <message>
         <source>The file was changed by another program since it was opened. Saving replaces what that program wrote.</source>
@@ -9777,7 +9912,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>“%1” is open in another window. Close it there first, or take another name.</source>
-        <translation>« %1 » est ouvert dans une autre fenêtre. Fermez-le d’abord là-bas, ou prenez un autre nom.</translation>
+        <translation>«&#xa0;%1&#xa0;» est ouvert dans une autre fenêtre. Fermez-le d’abord là-bas, ou prenez un autre nom.</translation>
     </message>
     <message>
         <source>%1 (the other).%2</source>
@@ -9789,7 +9924,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Your work is in this window alone: it could not be kept apart either.</source>
-        <translation>Votre travail n’est que dans cette fenêtre : il n’a pas non plus pu être conservé à part.</translation>
+        <translation>Votre travail n’est que dans cette fenêtre&#x202f;: il n’a pas non plus pu être conservé à part.</translation>
     </message>
     <message>
         <source>Try again</source>
@@ -9797,7 +9932,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>The file of the older version could not be kept beside the new one, so that nothing was written.</source>
-        <translation>Le fichier de l’ancienne version n’a pas pu être conservé à côté du nouveau : rien n’a été écrit.</translation>
+        <translation>Le fichier de l’ancienne version n’a pas pu être conservé à côté du nouveau&#x202f;: rien n’a été écrit.</translation>
     </message>
     <message numerus="yes">
         <source>%n changes</source>
@@ -9889,11 +10024,11 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     <name>kavela::desktop::EntryTable</name>
     <message>
         <source>“%1” is a number from 0 to %2</source>
-        <translation>« %1 » est un nombre de 0 à %2</translation>
+        <translation>«&#xa0;%1&#xa0;» est un nombre de 0 à %2</translation>
     </message>
     <message>
         <source>“%1” is more than 0. An emptied cell stands for none.</source>
-        <translation>« %1 » est plus grand que 0. Une cellule vidée signifie aucun.</translation>
+        <translation>«&#xa0;%1&#xa0;» est plus grand que 0. Une cellule vidée signifie aucun.</translation>
     </message>
 </context>
 <context>
@@ -9980,7 +10115,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Estimated maximum: table %1 · Epley %2 · Brzycki %3 · McGlothin %4 · Lombardi %5 · result &lt;b&gt;%6&lt;/b&gt;</source>
-        <translation>Maximum estimé : tableau %1 · Epley %2 · Brzycki %3 · McGlothin %4 · Lombardi %5 · résultat &lt;b&gt;%6&lt;/b&gt;</translation>
+        <translation>Maximum estimé&#x202f;: tableau %1 · Epley %2 · Brzycki %3 · McGlothin %4 · Lombardi %5 · résultat &lt;b&gt;%6&lt;/b&gt;</translation>
     </message>
     <message>
         <source>new exercise</source>
@@ -10036,11 +10171,11 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     <name>kavela::desktop::FactsStatus</name>
     <message>
         <source>Which ones?</source>
-        <translation>Lesquels ?</translation>
+        <translation>Lesquels&#x202f;?</translation>
     </message>
     <message>
         <source>reading was cancelled: not all files are here</source>
-        <translation>la lecture a été annulée : tous les fichiers ne sont pas là</translation>
+        <translation>la lecture a été annulée&#x202f;: tous les fichiers ne sont pas là</translation>
     </message>
     <message>
         <source>1 file could not be read</source>
@@ -10159,7 +10294,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Of one film, with {bib}, {category}, {phase} or {run} where they stand ({bib:3} is 014); or of a list: a page, JSON, M3U8 or WebDAV folder</source>
-        <translation>D’un film, avec {bib}, {category}, {phase} ou {run} à leur place ({bib:3} est 014) ; ou d’une liste : page, JSON, M3U8 ou dossier WebDAV</translation>
+        <translation>D’un film, avec {bib}, {category}, {phase} ou {run} à leur place ({bib:3} est 014)&#x202f;; ou d’une liste&#x202f;: page, JSON, M3U8 ou dossier WebDAV</translation>
     </message>
     <message>
         <source>&amp;Bibs from</source>
@@ -10179,7 +10314,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Where the films are put; no file there is ever overwritten</source>
-        <translation>Où sont placés les films ; aucun fichier n’y est jamais écrasé</translation>
+        <translation>Où sont placés les films&#x202f;; aucun fichier n’y est jamais écrasé</translation>
     </message>
     <message>
         <source>for the films</source>
@@ -10191,7 +10326,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Of the files: {name}, {category}, {phase}, {bib} and {number}</source>
-        <translation>Des fichiers : {name}, {category}, {phase}, {bib} et {number}</translation>
+        <translation>Des fichiers&#x202f;: {name}, {category}, {phase}, {bib} et {number}</translation>
     </message>
     <message>
         <source>Choose a list…</source>
@@ -10235,7 +10370,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>“%1” is no source of films</source>
-        <translation>« %1 » n’est pas une source de films</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une source de films</translation>
     </message>
     <message>
         <source>Start list, results or split file</source>
@@ -10263,7 +10398,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>The source was saved. “kavela fetch” takes the file, too.</source>
-        <translation>La source a été enregistrée. « kavela fetch » accepte aussi ce fichier.</translation>
+        <translation>La source a été enregistrée. «&#xa0;kavela fetch&#xa0;» accepte aussi ce fichier.</translation>
     </message>
     <message>
         <source>The source could not be saved</source>
@@ -10275,7 +10410,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be made.</source>
-        <translation>Le dossier « %1 » ne peut pas être créé.</translation>
+        <translation>Le dossier «&#xa0;%1&#xa0;» ne peut pas être créé.</translation>
     </message>
     <message>
         <source>Films are being fetched…</source>
@@ -10303,7 +10438,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>What is there of them stays; fetching them again goes on with it.</source>
-        <translation>Ce qui en est là reste ; une nouvelle récupération reprend à cet endroit.</translation>
+        <translation>Ce qui en est là reste&#x202f;; une nouvelle récupération reprend à cet endroit.</translation>
     </message>
     <message>
         <source>Stop and close</source>
@@ -10314,7 +10449,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     <name>kavela::desktop::FilmBrowser</name>
     <message>
         <source>Filter: k1w 12 semi</source>
-        <translation>Filtre : k1w 12 demi</translation>
+        <translation>Filtre&#x202f;: k1w 12 demi</translation>
     </message>
     <message>
         <source>No film here. Open a folder of films with Ctrl+O, or drop one.</source>
@@ -10322,7 +10457,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>No tag yet: M sets one where a film stands.</source>
-        <translation>Pas encore d’étiquette : M en pose une là où le film est arrêté.</translation>
+        <translation>Pas encore d’étiquette&#x202f;: M en pose une là où le film est arrêté.</translation>
     </message>
     <message>
         <source>List</source>
@@ -10376,11 +10511,11 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>The film has not been read so far yet: nothing was marked.</source>
-        <translation>Le film n’a pas encore été lu jusque-là : rien n’a été marqué.</translation>
+        <translation>Le film n’a pas encore été lu jusque-là&#x202f;: rien n’a été marqué.</translation>
     </message>
     <message>
         <source>The film has not been read so far yet: no frame to step from.</source>
-        <translation>Le film n’a pas encore été lu jusque-là : pas d’image d’où avancer.</translation>
+        <translation>Le film n’a pas encore été lu jusque-là&#x202f;: pas d’image d’où avancer.</translation>
     </message>
 </context>
 <context>
@@ -10392,7 +10527,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     <message>
         <source>The film is no longer there:
 %1</source>
-        <translation>Le film n’est plus là :
+        <translation>Le film n’est plus là&#x202f;:
 %1</translation>
     </message>
     <message>
@@ -10412,11 +10547,11 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>“%1” has films that are to be renamed, and is open in another window. Close it there first.</source>
-        <translation>« %1 » a des films à renommer et est ouvert dans une autre fenêtre. Fermez-le d’abord là-bas.</translation>
+        <translation>«&#xa0;%1&#xa0;» a des films à renommer et est ouvert dans une autre fenêtre. Fermez-le d’abord là-bas.</translation>
     </message>
     <message>
         <source>A renaming was cut off here, and its note cannot be read: %1</source>
-        <translation>Un changement de noms a été interrompu ici, et sa note ne peut pas être lue : %1</translation>
+        <translation>Un changement de noms a été interrompu ici, et sa note ne peut pas être lue&#x202f;: %1</translation>
     </message>
     <message>
         <source>Renaming was cut off</source>
@@ -10425,8 +10560,8 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     <message numerus="yes">
         <source>%n film(s) of this folder were being renamed when the program ended. No film is lost: the renaming can be completed, or undone.</source>
         <translation>
-            <numerusform>%n film de ce dossier était en cours de changement de nom quand le programme s’est arrêté. Aucun film n’est perdu : le changement peut être achevé ou annulé.</numerusform>
-            <numerusform>%n films de ce dossier étaient en cours de changement de nom quand le programme s’est arrêté. Aucun film n’est perdu : le changement peut être achevé ou annulé.</numerusform>
+            <numerusform>%n film de ce dossier était en cours de changement de nom quand le programme s’est arrêté. Aucun film n’est perdu&#x202f;: le changement peut être achevé ou annulé.</numerusform>
+            <numerusform>%n films de ce dossier étaient en cours de changement de nom quand le programme s’est arrêté. Aucun film n’est perdu&#x202f;: le changement peut être achevé ou annulé.</numerusform>
         </translation>
     </message>
     <message>
@@ -10439,22 +10574,22 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>This tag is of the split file: split taking edits it.</source>
-        <translation>Cette étiquette est du fichier d’intermédiaires : la prise de temps intermédiaires la modifie.</translation>
+        <translation>Cette étiquette est du fichier d’intermédiaires&#x202f;: la prise de temps intermédiaires la modifie.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::FilmStage</name>
     <message>
         <source>Typing: Esc gives the keys back to the film</source>
-        <translation>Saisie : Échap rend les touches au film</translation>
+        <translation>Saisie&#x202f;: Échap rend les touches au film</translation>
     </message>
     <message>
         <source>Fixed: %1</source>
-        <translation>Fixe : %1</translation>
+        <translation>Fixe&#x202f;: %1</translation>
     </message>
     <message>
         <source>Where are the films now?…</source>
-        <translation>Où sont les films maintenant ?…</translation>
+        <translation>Où sont les films maintenant&#x202f;?…</translation>
     </message>
     <message>
         <source>Playing %1</source>
@@ -10466,7 +10601,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Camera %1: </source>
-        <translation>Caméra %1 : </translation>
+        <translation>Caméra %1&#x202f;: </translation>
     </message>
 </context>
 <context>
@@ -10654,7 +10789,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>&amp;Tag that M sets:</source>
-        <translation>Étiquette &amp;posée par M :</translation>
+        <translation>Étiquette &amp;posée par M&#x202f;:</translation>
     </message>
     <message>
         <source>Cut</source>
@@ -10666,7 +10801,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>“%1” is not there.</source>
-        <translation>« %1 » n’est pas là.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas là.</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
@@ -10678,7 +10813,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>⚠ Not read: %1</source>
-        <translation>⚠ Non lu : %1</translation>
+        <translation>⚠ Non lu&#x202f;: %1</translation>
     </message>
 </context>
 <context>
@@ -10800,7 +10935,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>. Reading was stopped: the others are not searched.</source>
-        <translation>. La lecture a été arrêtée : on n’a pas cherché dans les autres.</translation>
+        <translation>. La lecture a été arrêtée&#x202f;: on n’a pas cherché dans les autres.</translation>
     </message>
     <message>
         <source>Nothing was found.</source>
@@ -10808,7 +10943,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>In the group: %1</source>
-        <translation>Dans le groupe : %1</translation>
+        <translation>Dans le groupe&#x202f;: %1</translation>
     </message>
     <message>
         <source> · run %1</source>
@@ -10861,7 +10996,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>new: %1</source>
-        <translation>nouveau : %1</translation>
+        <translation>nouveau&#x202f;: %1</translation>
     </message>
 </context>
 <context>
@@ -10967,7 +11102,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Gap to the best run: %1</source>
-        <translation>Écart à la meilleure manche : %1</translation>
+        <translation>Écart à la meilleure manche&#x202f;: %1</translation>
     </message>
     <message>
         <source>Gap to the median of each section</source>
@@ -10975,7 +11110,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>Gap to the ideal run: the best of each section</source>
-        <translation>Écart à la manche idéale : le meilleur de chaque secteur</translation>
+        <translation>Écart à la manche idéale&#x202f;: le meilleur de chaque secteur</translation>
     </message>
     <message>
         <source>Gap to %1</source>
@@ -11019,11 +11154,11 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>%1: gap</source>
-        <translation>%1 : écart</translation>
+        <translation>%1&#x202f;: écart</translation>
     </message>
     <message>
         <source>%1: in the section</source>
-        <translation>%1 : dans le secteur</translation>
+        <translation>%1&#x202f;: dans le secteur</translation>
     </message>
     <message>
         <source>Gap along the course for the selected runs</source>
@@ -11144,7 +11279,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
     <message>
         <source>No gates yet: set up the course with Ctrl+G to note penalties.</source>
-        <translation>Pas encore de portes : réglez le parcours avec Ctrl+G pour noter des pénalités.</translation>
+        <translation>Pas encore de portes&#x202f;: réglez le parcours avec Ctrl+G pour noter des pénalités.</translation>
     </message>
     <message>
         <source>Gate %1, upstream</source>
@@ -11158,7 +11293,7 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
         <source>
 T touch, F missed, 0 clean; N and P next and previous gate</source>
         <translation>
-T touche, F manquée, 0 sans pénalité ; N et P porte suivante et précédente</translation>
+T touche, F manquée, 0 sans pénalité&#x202f;; N et P porte suivante et précédente</translation>
     </message>
 </context>
 <context>
@@ -11219,7 +11354,7 @@ T touche, F manquée, 0 sans pénalité ; N et P porte suivante et précédent
     </message>
     <message>
         <source>A group of goals, such as “Technique”</source>
-        <translation>Un groupe d’objectifs, comme « Technique »</translation>
+        <translation>Un groupe d’objectifs, comme «&#xa0;Technique&#xa0;»</translation>
     </message>
     <message>
         <source>Add goal</source>
@@ -11265,7 +11400,7 @@ T touche, F manquée, 0 sans pénalité ; N et P porte suivante et précédent
         <source>No goals are set for this season yet.
 “Add group” begins.</source>
         <translation>Encore aucun objectif pour cette saison.
-« Ajouter un groupe » pour commencer.</translation>
+«&#xa0;Ajouter un groupe&#xa0;» pour commencer.</translation>
     </message>
     <message>
         <source>Choose a season to see its goals.</source>
@@ -11302,6 +11437,64 @@ T touche, F manquée, 0 sans pénalité ; N et P porte suivante et précédent
     <message>
         <source>removal of a goal</source>
         <translation>retrait d’un objectif</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::GuideWindow</name>
+    <message>
+        <source>User guide – Kavela</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ways through the guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation type="unfinished">Vers l’avant</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation type="unfinished">%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation type="unfinished">Chercher</translation>
+    </message>
+    <message>
+        <source>Next place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search the guide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” does not come with the program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No chapter has these words.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>In %n chapters. Enter goes to the next place.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -11455,7 +11648,7 @@ Appuyez sur Inser pour en ajouter un.</translation>
     </message>
     <message>
         <source>An attack starts here: then press the number of the attacker and those of the defenders</source>
-        <translation>Une attaque commence ici : tapez ensuite le numéro de l’attaquant et ceux des défenseurs</translation>
+        <translation>Une attaque commence ici&#x202f;: tapez ensuite le numéro de l’attaquant et ceux des défenseurs</translation>
     </message>
     <message>
         <source>A click shows the frame of an attack</source>
@@ -11471,11 +11664,11 @@ Appuyez sur Inser pour en ajouter un.</translation>
     </message>
     <message>
         <source>Attack: number of the attacker, then of the defenders</source>
-        <translation>Attaque : numéro de l’attaquant, puis des défenseurs</translation>
+        <translation>Attaque&#x202f;: numéro de l’attaquant, puis des défenseurs</translation>
     </message>
     <message>
         <source>An attack without a moment, since there is no film: press the number of the attacker, then those of the defenders.</source>
-        <translation>Une attaque sans moment, puisqu’il n’y a pas de film : tapez le numéro de l’attaquant, puis ceux des défenseurs.</translation>
+        <translation>Une attaque sans moment, puisqu’il n’y a pas de film&#x202f;: tapez le numéro de l’attaquant, puis ceux des défenseurs.</translation>
     </message>
     <message>
         <source>attacker</source>
@@ -11573,7 +11766,7 @@ Appuyez sur Inser pour en ajouter un.</translation>
     </message>
     <message>
         <source>⚠ missing: %1</source>
-        <translation>⚠ manque : %1</translation>
+        <translation>⚠ manque&#x202f;: %1</translation>
     </message>
     <message>
         <source>%1 of %2 gates</source>
@@ -11695,7 +11888,7 @@ Appuyez sur Inser pour en ajouter un.</translation>
     </message>
     <message>
         <source>Gate %1:  %2</source>
-        <translation>Porte %1 :  %2</translation>
+        <translation>Porte %1&#x202f;:  %2</translation>
     </message>
     <message>
         <source>comment on an order</source>
@@ -11742,7 +11935,7 @@ Appuyez sur Inser pour en ajouter un.</translation>
     <name>kavela::desktop::HeatPage</name>
     <message>
         <source>No heats yet. Add a heat with its boats and choose its film; then go to each gate and press the numbers of the boats as they pass.</source>
-        <translation>Encore aucune série. Ajoutez une série avec ses bateaux et choisissez son film ; allez ensuite à chaque porte et tapez les numéros des bateaux dans l’ordre de passage.</translation>
+        <translation>Encore aucune série. Ajoutez une série avec ses bateaux et choisissez son film&#x202f;; allez ensuite à chaque porte et tapez les numéros des bateaux dans l’ordre de passage.</translation>
     </message>
     <message>
         <source>A%1</source>
@@ -11817,7 +12010,7 @@ Appuyez sur Inser pour en ajouter un.</translation>
     </message>
     <message>
         <source>Where was the time won and lost, and why?</source>
-        <translation>Où le temps a-t-il été gagné et perdu, et pourquoi ?</translation>
+        <translation>Où le temps a-t-il été gagné et perdu, et pourquoi&#x202f;?</translation>
     </message>
     <message>
         <source>Try the sample season</source>
@@ -11872,7 +12065,7 @@ Appuyez sur Inser pour en ajouter un.</translation>
     </message>
     <message>
         <source>No ideal run: a section has no time.</source>
-        <translation>Pas de manche idéale : un secteur n’a pas de temps.</translation>
+        <translation>Pas de manche idéale&#x202f;: un secteur n’a pas de temps.</translation>
     </message>
     <message>
         <source>
@@ -11897,7 +12090,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>The weight tells force and power when a recording is converted: analyse it again after changing it.</source>
-        <translation>Le poids donne force et puissance à la conversion d’un enregistrement : analysez-le à nouveau après l’avoir changé.</translation>
+        <translation>Le poids donne force et puissance à la conversion d’un enregistrement&#x202f;: analysez-le à nouveau après l’avoir changé.</translation>
     </message>
     <message>
         <source>–</source>
@@ -12101,7 +12294,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>No favourite sessions yet. “Add” begins the first.</source>
-        <translation>Encore aucune séance favorite. « Ajouter » crée la première.</translation>
+        <translation>Encore aucune séance favorite. «&#xa0;Ajouter&#xa0;» crée la première.</translation>
     </message>
     <message>
         <source>Add a session</source>
@@ -12233,7 +12426,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>%1 is the key of “%2” already. “%3” can take it over; “%2” has it no longer then.</source>
-        <translation>%1 est déjà la touche de « %2 ». « %3 » peut la reprendre ; « %2 » ne l’aura alors plus.</translation>
+        <translation>%1 est déjà la touche de «&#xa0;%2&#xa0;». «&#xa0;%3&#xa0;» peut la reprendre&#x202f;; «&#xa0;%2&#xa0;» ne l’aura alors plus.</translation>
     </message>
     <message>
         <source>Take it over</source>
@@ -12248,7 +12441,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Up, Down, Page up and Page down show the rest; any other key closes.</source>
-        <translation>Haut, Bas, Page préc. et Page suiv. montrent la suite ; toute autre touche ferme.</translation>
+        <translation>Haut, Bas, Page préc. et Page suiv. montrent la suite&#x202f;; toute autre touche ferme.</translation>
     </message>
 </context>
 <context>
@@ -12274,7 +12467,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Drag an end of a line, or the line. With the focus here the arrows move it, with Shift by ten pixels; Tab goes from end to end, Esc leaves.</source>
-        <translation>Faites glisser une extrémité d’une ligne, ou la ligne. Quand elle est active, les flèches la déplacent, avec Maj de dix pixels ; Tab va d’une extrémité à l’autre, Échap quitte.</translation>
+        <translation>Faites glisser une extrémité d’une ligne, ou la ligne. Quand elle est active, les flèches la déplacent, avec Maj de dix pixels&#x202f;; Tab va d’une extrémité à l’autre, Échap quitte.</translation>
     </message>
     <message>
         <source>Start</source>
@@ -12289,7 +12482,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>new %1</source>
-        <translation>ajout : %1</translation>
+        <translation>ajout&#x202f;: %1</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -12297,7 +12490,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>removal of %1</source>
-        <translation>retrait : %1</translation>
+        <translation>retrait&#x202f;: %1</translation>
     </message>
 </context>
 <context>
@@ -12417,7 +12610,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Alt+click or Shift+F1: why</source>
-        <translation>Alt+clic ou Maj+F1 : pourquoi</translation>
+        <translation>Alt+clic ou Maj+F1&#x202f;: pourquoi</translation>
     </message>
     <message>
         <source>Ru&amp;n</source>
@@ -12528,7 +12721,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>%1 s (%2 %) against %3</source>
-        <translation>%1 s (%2 %) face à %3</translation>
+        <translation>%1 s (%2&#x202f;%) face à %3</translation>
     </message>
     <message>
         <source>Go back to the run that lost the time first.</source>
@@ -12622,7 +12815,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Page of an athlete: PDF, preview, print…</source>
-        <translation>Page d’u&amp;n athlète : PDF, aperçu, impression…</translation>
+        <translation>Page d’u&amp;n athlète&#x202f;: PDF, aperçu, impression…</translation>
     </message>
     <message>
         <source>Save the table as &amp;CSV…</source>
@@ -12789,11 +12982,11 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>%1 is not in the files any more; another run is shown.</source>
-        <translation>%1 n’est plus dans les fichiers ; une autre manche est affichée.</translation>
+        <translation>%1 n’est plus dans les fichiers&#x202f;; une autre manche est affichée.</translation>
     </message>
     <message>
         <source>%1 is not in the files any more; the winner is the reference now.</source>
-        <translation>%1 n’est plus dans les fichiers ; le vainqueur est maintenant la référence.</translation>
+        <translation>%1 n’est plus dans les fichiers&#x202f;; le vainqueur est maintenant la référence.</translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -12801,15 +12994,15 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation>%1 ne peut pas être lu : %2</translation>
+        <translation>%1 ne peut pas être lu&#x202f;: %2</translation>
     </message>
     <message>
         <source>%1 files cannot be read, the first of them %2: %3</source>
-        <translation>%1 fichiers ne peuvent pas être lus, le premier est %2 : %3</translation>
+        <translation>%1 fichiers ne peuvent pas être lus, le premier est %2&#x202f;: %3</translation>
     </message>
     <message>
         <source>Stopped: not all files were read.</source>
-        <translation>Arrêté : tous les fichiers n’ont pas été lus.</translation>
+        <translation>Arrêté&#x202f;: tous les fichiers n’ont pas été lus.</translation>
     </message>
     <message>
         <source>There is no run in what was opened.</source>
@@ -12845,11 +13038,11 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>No film shows this of either run: a film and both marks are needed.</source>
-        <translation>Aucun film ne montre cela, pour aucune des deux manches : il faut un film et les deux marques.</translation>
+        <translation>Aucun film ne montre cela, pour aucune des deux manches&#x202f;: il faut un film et les deux marques.</translation>
     </message>
     <message>
         <source>No film shows the run here; that of the reference plays alone.</source>
-        <translation>Aucun film ne montre la manche ici ; celui de la référence est lu seul.</translation>
+        <translation>Aucun film ne montre la manche ici&#x202f;; celui de la référence est lu seul.</translation>
     </message>
     <message>
         <source>There is no run to watch beside it.</source>
@@ -12920,7 +13113,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Times are of this run, whatever film a mark lies on. A click shows the frame of a mark; Ctrl and Shift choose several for their clips</source>
-        <translation>Les temps sont ceux de cette manche, quel que soit le film de la marque. Un clic montre l’image d’une marque ; Ctrl et Maj en choisissent plusieurs pour leurs extraits</translation>
+        <translation>Les temps sont ceux de cette manche, quel que soit le film de la marque. Un clic montre l’image d’une marque&#x202f;; Ctrl et Maj en choisissent plusieurs pour leurs extraits</translation>
     </message>
     <message>
         <source>Kinds</source>
@@ -12944,7 +13137,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Plays the clips of the chosen marks one after another; of all that are listed when not several are chosen</source>
-        <translation>Lit l’un après l’autre les extraits des marques choisies ; de toutes celles listées si plusieurs ne sont pas choisies</translation>
+        <translation>Lit l’un après l’autre les extraits des marques choisies&#x202f;; de toutes celles listées si plusieurs ne sont pas choisies</translation>
     </message>
     <message numerus="yes">
         <source>%n second(s) before and after a mark</source>
@@ -13057,7 +13250,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>&amp;Align here: the cursor to the clicked moment</source>
-        <translation>Aligner &amp;ici : le curseur au moment cliqué</translation>
+        <translation>Aligner &amp;ici&#x202f;: le curseur au moment cliqué</translation>
     </message>
     <message>
         <source>&amp;Forget the clicked moment</source>
@@ -13150,7 +13343,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>%1  %2: %3 strokes, %4 turns</source>
-        <translation>%1  %2 : %3 coups de pagaie, %4 virages</translation>
+        <translation>%1  %2&#x202f;: %3 coups de pagaie, %4 virages</translation>
     </message>
 </context>
 <context>
@@ -13209,7 +13402,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>%1 of the part that is recorded; strokes of the whole run are not known.</source>
-        <translation>%1 de la partie enregistrée ; les coups de pagaie de la manche entière ne sont pas connus.</translation>
+        <translation>%1 de la partie enregistrée&#x202f;; les coups de pagaie de la manche entière ne sont pas connus.</translation>
     </message>
     <message>
         <source>Run</source>
@@ -13220,7 +13413,7 @@ Les pénalités sont laissées de côté.</translation>
     <name>kavela::desktop::MotionRecordings</name>
     <message>
         <source>%1: there is not enough memory for it</source>
-        <translation>%1 : il n’y a pas assez de mémoire pour cela</translation>
+        <translation>%1&#x202f;: il n’y a pas assez de mémoire pour cela</translation>
     </message>
 </context>
 <context>
@@ -13255,7 +13448,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Several are laid over each other. They are only read: converting writes a new file.</source>
-        <translation>Plusieurs sont superposés. Ils sont seulement lus : convertir écrit un nouveau fichier.</translation>
+        <translation>Plusieurs sont superposés. Ils sont seulement lus&#x202f;: convertir écrit un nouveau fichier.</translation>
     </message>
     <message>
         <source>Open recordings…</source>
@@ -13302,11 +13495,11 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Another run came to the front: nothing was marked.</source>
-        <translation>Une autre manche est passée au premier plan : rien n’a été marqué.</translation>
+        <translation>Une autre manche est passée au premier plan&#x202f;: rien n’a été marqué.</translation>
     </message>
     <message>
         <source>Nothing can be marked: %1 is not in the folder of the split file. Cameras &gt; Where are the films now?</source>
-        <translation>Rien ne peut être marqué : %1 n’est pas dans le dossier du fichier d’intermédiaires. Caméras &gt; Où sont les films maintenant ?</translation>
+        <translation>Rien ne peut être marqué&#x202f;: %1 n’est pas dans le dossier du fichier d’intermédiaires. Caméras &gt; Où sont les films maintenant&#x202f;?</translation>
     </message>
     <message>
         <source>mark moved</source>
@@ -13447,7 +13640,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>The file is the one that was signed, and stands as “%1” in %2. Leave Kavela before you install it.</source>
-        <translation>Le fichier est bien celui qui a été signé ; il se trouve sous le nom « %1 » dans %2. Quittez Kavela avant de l’installer.</translation>
+        <translation>Le fichier est bien celui qui a été signé&#x202f;; il se trouve sous le nom «&#xa0;%1&#xa0;» dans %2. Quittez Kavela avant de l’installer.</translation>
     </message>
     <message>
         <source>Nothing was kept of the file.</source>
@@ -13514,11 +13707,11 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation>« %1 » ne peut pas être ouvert</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être ouvert</translation>
     </message>
     <message>
         <source>The race carries no results list. Open one with “A file…”.</source>
-        <translation>La course ne porte pas de liste de résultats. Ouvrez-en une avec « Un fichier… ».</translation>
+        <translation>La course ne porte pas de liste de résultats. Ouvrez-en une avec «&#xa0;Un fichier…&#xa0;».</translation>
     </message>
     <message>
         <source>The films and this list say the same.</source>
@@ -13526,7 +13719,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>%1 differences, %2 of them to take over. The films&apos; own times stay; Ctrl+Z in split taking takes a step back.</source>
-        <translation>%1 différences, dont %2 à reprendre. Les temps propres des films restent ; Ctrl+Z dans la prise de temps intermédiaires annule une étape.</translation>
+        <translation>%1 différences, dont %2 à reprendre. Les temps propres des films restent&#x202f;; Ctrl+Z dans la prise de temps intermédiaires annule une étape.</translation>
     </message>
 </context>
 <context>
@@ -13564,15 +13757,15 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>“%1” is saved online.</source>
-        <translation>« %1 » est enregistrée en ligne.</translation>
+        <translation>«&#xa0;%1&#xa0;» est enregistrée en ligne.</translation>
     </message>
     <message>
         <source>“%1” was changed on the server since this planning was read from there or saved there. Saving would lose that change.</source>
-        <translation>« %1 » a été modifiée sur le serveur depuis que cette planification y a été lue ou enregistrée. Enregistrer perdrait cette modification.</translation>
+        <translation>«&#xa0;%1&#xa0;» a été modifiée sur le serveur depuis que cette planification y a été lue ou enregistrée. Enregistrer perdrait cette modification.</translation>
     </message>
     <message>
         <source>There is a planning “%1” on the server that this one does not come from. Saving would replace it.</source>
-        <translation>Il y a sur le serveur une planification « %1 » dont celle-ci ne provient pas. Enregistrer la remplacerait.</translation>
+        <translation>Il y a sur le serveur une planification «&#xa0;%1&#xa0;» dont celle-ci ne provient pas. Enregistrer la remplacerait.</translation>
     </message>
     <message>
         <source>Somebody else&apos;s work lies on the server</source>
@@ -13604,7 +13797,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>“%1” cannot be the name of a file.</source>
-        <translation>« %1 » ne peut pas être le nom d’un fichier.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être le nom d’un fichier.</translation>
     </message>
     <message>
         <source>The server has no such file.</source>
@@ -13826,7 +14019,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Which gates are touched and missed, by whom, and what it cost: of one race, of several, or of a whole season. Files are only read.</source>
-        <translation>Quelles portes sont touchées et manquées, par qui, et ce que cela a coûté : pour une course, plusieurs, ou toute une saison. Les fichiers sont seulement lus.</translation>
+        <translation>Quelles portes sont touchées et manquées, par qui, et ce que cela a coûté&#x202f;: pour une course, plusieurs, ou toute une saison. Les fichiers sont seulement lus.</translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -13906,7 +14099,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Choose what else happened at the gate in front; M adds it</source>
-        <translation>Choisissez ce qui s’est encore passé à la porte au premier plan ; M l’ajoute</translation>
+        <translation>Choisissez ce qui s’est encore passé à la porte au premier plan&#x202f;; M l’ajoute</translation>
     </message>
     <message>
         <source>Moment</source>
@@ -13930,11 +14123,11 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Gate %1: %2 s. The lists change its penalty.</source>
-        <translation>Porte %1 : %2 s. Les listes changent sa pénalité.</translation>
+        <translation>Porte %1&#x202f;: %2 s. Les listes changent sa pénalité.</translation>
     </message>
     <message>
         <source>Gate %1: %2 s. M adds a penalty.</source>
-        <translation>Porte %1 : %2 s. M ajoute une pénalité.</translation>
+        <translation>Porte %1&#x202f;: %2 s. M ajoute une pénalité.</translation>
     </message>
     <message>
         <source>The seconds differ from the penalties listed at gate %1.</source>
@@ -13942,11 +14135,11 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>The course has no gates yet: Ctrl+G sets it up.</source>
-        <translation>Le parcours n’a pas encore de portes : Ctrl+G les règle.</translation>
+        <translation>Le parcours n’a pas encore de portes&#x202f;: Ctrl+G les règle.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; begins a second one.</source>
-        <translation>« %1 » en commence une deuxième.</translation>
+        <translation>«&#xa0;%1&#xa0;» en commence une deuxième.</translation>
     </message>
     <message>
         <source>penalty at gate %1</source>
@@ -14055,7 +14248,7 @@ Les pénalités sont laissées de côté.</translation>
     <name>kavela::desktop::PhonePages</name>
     <message>
         <source>No clip of %1: %2</source>
-        <translation>Pas d’extrait de %1 : %2</translation>
+        <translation>Pas d’extrait de %1&#x202f;: %2</translation>
     </message>
     <message>
         <source>Save the page of %1</source>
@@ -14172,7 +14365,7 @@ Les pénalités sont laissées de côté.</translation>
     <name>kavela::desktop::PlanView</name>
     <message>
         <source>The week&apos;s date is in no calendar, so that it has no days.</source>
-        <translation>La date de la semaine n’est dans aucun calendrier : elle n’a donc pas de jours.</translation>
+        <translation>La date de la semaine n’est dans aucun calendrier&#x202f;: elle n’a donc pas de jours.</translation>
     </message>
     <message>
         <source>new session</source>
@@ -14212,7 +14405,7 @@ Les pénalités sont laissées de côté.</translation>
     </message>
     <message>
         <source>Week %1 now holds the copied week; %2 sessions that stood there went. Ctrl+Z brings them back.</source>
-        <translation>La semaine %1 contient maintenant la semaine copiée ; %2 séances qui s’y trouvaient sont parties. Ctrl+Z les rétablit.</translation>
+        <translation>La semaine %1 contient maintenant la semaine copiée&#x202f;; %2 séances qui s’y trouvaient sont parties. Ctrl+Z les rétablit.</translation>
     </message>
     <message>
         <source>repeated weeks</source>
@@ -14233,8 +14426,8 @@ Les pénalités sont laissées de côté.</translation>
     <message>
         <source>How often do the %1 chosen weeks follow themselves?
 Sessions, totals, load, cycles, place, tests and goals of the weeks behind are replaced; their events and health stay.</source>
-        <translation>Combien de fois les %1 semaines choisies se répètent-elles à la suite ?
-Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivantes sont remplacés ; leurs compétitions et leur santé restent.</translation>
+        <translation>Combien de fois les %1 semaines choisies se répètent-elles à la suite&#x202f;?
+Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivantes sont remplacés&#x202f;; leurs compétitions et leur santé restent.</translation>
     </message>
     <message>
         <source>emptied weeks</source>
@@ -14282,7 +14475,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Add a season with Ctrl+Shift+N: 52 empty weeks to fill.</source>
-        <translation>Ajoutez une saison avec Ctrl+Maj+N : 52 semaines vides à remplir.</translation>
+        <translation>Ajoutez une saison avec Ctrl+Maj+N&#x202f;: 52 semaines vides à remplir.</translation>
     </message>
     <message>
         <source>This season has no weeks. Add one with the menu Week.</source>
@@ -14348,7 +14541,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>The planning “%1” will be replaced.</source>
-        <translation>La planification « %1 » sera remplacée.</translation>
+        <translation>La planification «&#xa0;%1&#xa0;» sera remplacée.</translation>
     </message>
     <message>
         <source>1 athlete</source>
@@ -14394,7 +14587,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Sessions are in the plan: show &amp;it</source>
-        <translation>Les séances sont dans le &amp;plan : l’afficher</translation>
+        <translation>Les séances sont dans le &amp;plan&#x202f;: l’afficher</translation>
     </message>
     <message>
         <source>&amp;New session…</source>
@@ -14478,7 +14671,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
-        <translation>Rapports : aperçu, &amp;PDF, impression…</translation>
+        <translation>Rapports&#x202f;: aperçu, &amp;PDF, impression…</translation>
     </message>
     <message>
         <source>Week as a &amp;calendar file…</source>
@@ -14530,7 +14723,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>%1 measurements of heart-rate variability of this older file hold only a highest and a lowest value, for which the present version has no place: their dates are taken over, their values are not. Saving keeps the file as it was beside the new one.</source>
-        <translation>%1 mesures de variabilité de la fréquence cardiaque de cet ancien fichier ne contiennent qu’une valeur haute et une valeur basse, qui n’ont pas de place dans la version actuelle : leurs dates sont reprises, leurs valeurs non. L’enregistrement garde le fichier d’origine à côté du nouveau.</translation>
+        <translation>%1 mesures de variabilité de la fréquence cardiaque de cet ancien fichier ne contiennent qu’une valeur haute et une valeur basse, qui n’ont pas de place dans la version actuelle&#x202f;: leurs dates sont reprises, leurs valeurs non. L’enregistrement garde le fichier d’origine à côté du nouveau.</translation>
     </message>
     <message>
         <source>new athlete</source>
@@ -14569,15 +14762,15 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Backwards, again: faster</source>
-        <translation>En arrière, encore une fois : plus vite</translation>
+        <translation>En arrière, encore une fois&#x202f;: plus vite</translation>
     </message>
     <message>
         <source>Stop; held, J and L step a frame</source>
-        <translation>Arrêt ; maintenu, J et L avancent d’une image</translation>
+        <translation>Arrêt&#x202f;; maintenu, J et L avancent d’une image</translation>
     </message>
     <message>
         <source>Forwards, again: faster</source>
-        <translation>En avant, encore une fois : plus vite</translation>
+        <translation>En avant, encore une fois&#x202f;: plus vite</translation>
     </message>
     <message>
         <source>Slow motion backwards</source>
@@ -14718,7 +14911,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Samples: %1. Lines refused: %2.</source>
-        <translation>Échantillons : %1. Lignes refusées : %2.</translation>
+        <translation>Échantillons&#x202f;: %1. Lignes refusées&#x202f;: %2.</translation>
     </message>
     <message>
         <source> s</source>
@@ -14769,7 +14962,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>With a missed gate: left out of spread, trend and changes</source>
-        <translation>Avec une porte manquée : absente de la dispersion, de la tendance et des évolutions</translation>
+        <translation>Avec une porte manquée&#x202f;: absente de la dispersion, de la tendance et des évolutions</translation>
     </message>
     <message>
         <source>Year</source>
@@ -14813,11 +15006,11 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Behind, %</source>
-        <translation>Retard, %</translation>
+        <translation>Retard,&#x202f;%</translation>
     </message>
     <message>
         <source>On splits, %</source>
-        <translation>Sur inters, %</translation>
+        <translation>Sur inters,&#x202f;%</translation>
     </message>
     <message>
         <source>Result</source>
@@ -14829,11 +15022,11 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Behind the winner, %</source>
-        <translation>Derrière le vainqueur, %</translation>
+        <translation>Derrière le vainqueur,&#x202f;%</translation>
     </message>
     <message>
         <source>Behind the fastest splits, %</source>
-        <translation>Derrière les intermédiaires les plus rapides, %</translation>
+        <translation>Derrière les intermédiaires les plus rapides,&#x202f;%</translation>
     </message>
     <message>
         <source>Heats</source>
@@ -14890,7 +15083,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Writes “%1” there</source>
-        <translation>Y écrit « %1 »</translation>
+        <translation>Y écrit «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -14901,11 +15094,11 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Words that its words begin with; a whole name in quotes</source>
-        <translation>Mots par lesquels commencent les siens ; un nom entier entre guillemets</translation>
+        <translation>Mots par lesquels commencent les siens&#x202f;; un nom entier entre guillemets</translation>
     </message>
     <message>
         <source>Seconds, or 1:32.45; %1 in front leaves out the limit itself</source>
-        <translation>Secondes, ou 1:32.45 ; %1 devant exclut la limite elle-même</translation>
+        <translation>Secondes, ou 1:32.45&#x202f;; %1 devant exclut la limite elle-même</translation>
     </message>
     <message>
         <source>At l&amp;east</source>
@@ -14957,7 +15150,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Near it: %1</source>
-        <translation>Proche : %1</translation>
+        <translation>Proche&#x202f;: %1</translation>
     </message>
 </context>
 <context>
@@ -14972,7 +15165,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>&amp;Report: preview, PDF, print…</source>
-        <translation>Rapport : aperçu, PDF, &amp;impression…</translation>
+        <translation>Rapport&#x202f;: aperçu, PDF, &amp;impression…</translation>
     </message>
     <message>
         <source>Save the table as &amp;CSV…</source>
@@ -15004,15 +15197,15 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>&amp;Reference: the best</source>
-        <translation>Référence : &amp;le meilleur</translation>
+        <translation>Référence&#x202f;: &amp;le meilleur</translation>
     </message>
     <message>
         <source>Reference: the &amp;median</source>
-        <translation>&amp;Référence : la médiane</translation>
+        <translation>&amp;Référence&#x202f;: la médiane</translation>
     </message>
     <message>
         <source>Reference: the &amp;selected row</source>
-        <translation>Référence : la ligne &amp;sélectionnée</translation>
+        <translation>Référence&#x202f;: la ligne &amp;sélectionnée</translation>
     </message>
     <message>
         <source>&amp;Table</source>
@@ -15124,7 +15317,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>&amp;Larger: the table or the chart alone</source>
-        <translation>Plus &amp;grand : le tableau ou le graphique seul</translation>
+        <translation>Plus &amp;grand&#x202f;: le tableau ou le graphique seul</translation>
     </message>
     <message>
         <source>&amp;Next race</source>
@@ -15200,7 +15393,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     <name>kavela::desktop::RaceKeeping</name>
     <message>
         <source>“%1” is open in another window</source>
-        <translation>« %1 » est ouvert dans une autre fenêtre</translation>
+        <translation>«&#xa0;%1&#xa0;» est ouvert dans une autre fenêtre</translation>
     </message>
     <message>
         <source>Save and close it there, then keep the table. Nothing was written.</source>
@@ -15212,7 +15405,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>“%1” keeps a table already</source>
-        <translation>« %1 » conserve déjà un tableau</translation>
+        <translation>«&#xa0;%1&#xa0;» conserve déjà un tableau</translation>
     </message>
     <message>
         <source>This one takes its place. The official results themselves stay.</source>
@@ -15224,7 +15417,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>The table was not kept with “%1”</source>
-        <translation>Le tableau n’a pas été conservé avec « %1 »</translation>
+        <translation>Le tableau n’a pas été conservé avec «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -15267,7 +15460,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>This course has %1 sections. The colours and the penalties in brackets are those of the first ten; place, gap and percent are there for all of them.</source>
-        <translation>Ce parcours a %1 secteurs. Les couleurs et les pénalités entre parenthèses sont celles des dix premiers ; place, écart et pourcentage existent pour tous.</translation>
+        <translation>Ce parcours a %1 secteurs. Les couleurs et les pénalités entre parenthèses sont celles des dix premiers&#x202f;; place, écart et pourcentage existent pour tous.</translation>
     </message>
     <message>
         <source>Save the table</source>
@@ -15305,11 +15498,11 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     <name>kavela::desktop::RacesSection</name>
     <message>
         <source>No runs yet: take them from the season&apos;s split files.</source>
-        <translation>Encore aucune manche : prenez-les dans les fichiers d’intermédiaires de la saison.</translation>
+        <translation>Encore aucune manche&#x202f;: prenez-les dans les fichiers d’intermédiaires de la saison.</translation>
     </message>
     <message>
         <source>&lt;b&gt;%1&lt;/b&gt; runs, &lt;b&gt;%2&lt;/b&gt; of them clean (%3 %)  ·  touches per run &lt;b&gt;%4&lt;/b&gt;  ·  missed gates per run &lt;b&gt;%5&lt;/b&gt;</source>
-        <translation>&lt;b&gt;%1&lt;/b&gt; manches, dont &lt;b&gt;%2&lt;/b&gt; sans pénalité (%3 %)  ·  touches par manche &lt;b&gt;%4&lt;/b&gt;  ·  portes manquées par manche &lt;b&gt;%5&lt;/b&gt;</translation>
+        <translation>&lt;b&gt;%1&lt;/b&gt; manches, dont &lt;b&gt;%2&lt;/b&gt; sans pénalité (%3&#x202f;%)  ·  touches par manche &lt;b&gt;%4&lt;/b&gt;  ·  portes manquées par manche &lt;b&gt;%5&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Take from split files…</source>
@@ -15420,19 +15613,19 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>%1 has %2: recordings up to %3 can be kept in a split file.</source>
-        <translation>%1 fait %2 : un fichier d’intermédiaires peut garder des enregistrements jusqu’à %3.</translation>
+        <translation>%1 fait %2&#x202f;: un fichier d’intermédiaires peut garder des enregistrements jusqu’à %3.</translation>
     </message>
     <message>
         <source>%1 cannot be played: %2</source>
-        <translation>%1 ne peut pas être lu : %2</translation>
+        <translation>%1 ne peut pas être lu&#x202f;: %2</translation>
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation>%1 ne peut pas être lu : %2</translation>
+        <translation>%1 ne peut pas être lu&#x202f;: %2</translation>
     </message>
     <message>
         <source>Recording %1 cannot be played: %2</source>
-        <translation>L’enregistrement %1 ne peut pas être lu : %2</translation>
+        <translation>L’enregistrement %1 ne peut pas être lu&#x202f;: %2</translation>
     </message>
     <message>
         <source>recording %1</source>
@@ -15447,18 +15640,18 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     <name>kavela::desktop::RangeLine</name>
     <message>
         <source>Click to go there. Drag the ends of the coloured part to choose what the film shows; near a split they take it.</source>
-        <translation>Cliquez pour y aller. Faites glisser les bords de la partie colorée pour choisir ce que montre le film ; près d’un intermédiaire, ils s’y calent.</translation>
+        <translation>Cliquez pour y aller. Faites glisser les bords de la partie colorée pour choisir ce que montre le film&#x202f;; près d’un intermédiaire, ils s’y calent.</translation>
     </message>
 </context>
 <context>
     <name>kavela::desktop::RankingModel</name>
     <message>
         <source>%1 (was %2)</source>
-        <translation>%1 (avant : %2)</translation>
+        <translation>%1 (avant&#x202f;: %2)</translation>
     </message>
     <message>
         <source>was %1, now %2</source>
-        <translation>avant : %1, maintenant : %2</translation>
+        <translation>avant&#x202f;: %1, maintenant&#x202f;: %2</translation>
     </message>
     <message>
         <source>A time of 0 counts as the formula says and puts the athlete far in front. Edit &gt; Make times of 0 missing results.</source>
@@ -15466,11 +15659,11 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Dropped: the worst result</source>
-        <translation>Écarté : le plus mauvais résultat</translation>
+        <translation>Écarté&#x202f;: le plus mauvais résultat</translation>
     </message>
     <message>
         <source>Dropped too: a bonus stands among the results</source>
-        <translation>Écarté aussi : un bonus figure parmi les résultats</translation>
+        <translation>Écarté aussi&#x202f;: un bonus figure parmi les résultats</translation>
     </message>
     <message>
         <source>Counted</source>
@@ -15518,7 +15711,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Tried only. Really: %1</source>
-        <translation>Seulement un essai. En réalité : %1</translation>
+        <translation>Seulement un essai. En réalité&#x202f;: %1</translation>
     </message>
     <message>
         <source>no result</source>
@@ -15526,7 +15719,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Enter the time first: the penalty belongs to it.</source>
-        <translation>Saisissez d’abord le temps : la pénalité s’y rattache.</translation>
+        <translation>Saisissez d’abord le temps&#x202f;: la pénalité s’y rattache.</translation>
     </message>
     <message>
         <source>penalty</source>
@@ -15623,7 +15816,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Rate %</source>
-        <translation>Taux %</translation>
+        <translation>Taux&#x202f;%</translation>
     </message>
     <message>
         <source>Touches of 100 passages</source>
@@ -15631,15 +15824,15 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#x202f;%</translation>
     </message>
     <message>
         <source>Where the rate lies with 90 %</source>
-        <translation>Où se trouve le taux, à 90 %</translation>
+        <translation>Où se trouve le taux, à 90&#x202f;%</translation>
     </message>
     <message>
         <source>Ranked %</source>
-        <translation>Classé %</translation>
+        <translation>Classé&#x202f;%</translation>
     </message>
     <message>
         <source>Drawn towards what all have in common, the more the fewer the passages</source>
@@ -15647,7 +15840,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Ranked 90 %</source>
-        <translation>Classé 90 %</translation>
+        <translation>Classé 90&#x202f;%</translation>
     </message>
     <message>
         <source>Where the ranked rate lies</source>
@@ -15655,11 +15848,11 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Above %</source>
-        <translation>Au-dessus %</translation>
+        <translation>Au-dessus&#x202f;%</translation>
     </message>
     <message>
         <source>The chance to be above what all have in common; from 95 the row is bold</source>
-        <translation>La probabilité d’être au-dessus de ce que tous ont en commun ; à partir de 95 la ligne est en gras</translation>
+        <translation>La probabilité d’être au-dessus de ce que tous ont en commun&#x202f;; à partir de 95 la ligne est en gras</translation>
     </message>
     <message>
         <source>Missed</source>
@@ -15671,11 +15864,11 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Missed %</source>
-        <translation>Manquées %</translation>
+        <translation>Manquées&#x202f;%</translation>
     </message>
     <message>
         <source>Missed 90 %</source>
-        <translation>Manquées 90 %</translation>
+        <translation>Manquées 90&#x202f;%</translation>
     </message>
     <message>
         <source>&amp;Rates</source>
@@ -15784,7 +15977,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation>« %1 » ne peut pas être ouvert</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être ouvert</translation>
     </message>
     <message>
         <source>No recording yet</source>
@@ -15800,7 +15993,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Find a moment that film and recording both show, such as the first stroke or a hit on the boat: go there in the film, click it in the chart, and set both.</source>
-        <translation>Trouvez un moment visible sur le film et dans l’enregistrement, comme le premier coup de pagaie ou un choc sur le bateau : allez-y dans le film, cliquez-le dans le graphique, et posez les deux.</translation>
+        <translation>Trouvez un moment visible sur le film et dans l’enregistrement, comme le premier coup de pagaie ou un choc sur le bateau&#x202f;: allez-y dans le film, cliquez-le dans le graphique, et posez les deux.</translation>
     </message>
     <message>
         <source>Forward acceleration</source>
@@ -15824,15 +16017,15 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>The run has to be marked first: its start and its splits.</source>
-        <translation>La manche doit d’abord être marquée : son départ et ses intermédiaires.</translation>
+        <translation>La manche doit d’abord être marquée&#x202f;: son départ et ses intermédiaires.</translation>
     </message>
     <message>
         <source>Recording: %1</source>
-        <translation>Enregistrement : %1</translation>
+        <translation>Enregistrement&#x202f;: %1</translation>
     </message>
     <message>
         <source>Run: %1</source>
-        <translation>Manche : %1</translation>
+        <translation>Manche&#x202f;: %1</translation>
     </message>
     <message>
         <source>Nothing of the recording lies within the run.</source>
@@ -15973,7 +16166,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Which side of the phone points to the bow; used where the position does not tell</source>
-        <translation>Quel côté du téléphone pointe vers l’avant ; utilisé là où la position ne le dit pas</translation>
+        <translation>Quel côté du téléphone pointe vers l’avant&#x202f;; utilisé là où la position ne le dit pas</translation>
     </message>
 </context>
 <context>
@@ -15992,7 +16185,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>stays: %1</source>
-        <translation>reste : %1</translation>
+        <translation>reste&#x202f;: %1</translation>
     </message>
     <message>
         <source>Rename films</source>
@@ -16000,7 +16193,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>How the films are to be called: {name}, {category}, {phase}, {bib} and {number} stand for what is known of each. Split files of the folder follow.</source>
-        <translation>Comment les films doivent s’appeler : {name}, {category}, {phase}, {bib} et {number} remplacent ce qu’on sait de chacun. Les fichiers d’intermédiaires du dossier suivent.</translation>
+        <translation>Comment les films doivent s’appeler&#x202f;: {name}, {category}, {phase}, {bib} et {number} remplacent ce qu’on sait de chacun. Les fichiers d’intermédiaires du dossier suivent.</translation>
     </message>
     <message>
         <source>Rename</source>
@@ -16072,7 +16265,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#x202f;%</translation>
     </message>
     <message>
         <source>Smaller</source>
@@ -16135,7 +16328,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     <name>kavela::desktop::ResultsDialog</name>
     <message>
         <source>Line %1: %2</source>
-        <translation>Ligne %1 : %2</translation>
+        <translation>Ligne %1&#x202f;: %2</translation>
     </message>
     <message>
         <source>Official results from %1</source>
@@ -16155,7 +16348,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Type a part of the name for another line; an emptied cell stands for none</source>
-        <translation>Tapez une partie du nom pour une autre ligne ; une cellule vidée signifie aucune</translation>
+        <translation>Tapez une partie du nom pour une autre ligne&#x202f;; une cellule vidée signifie aucune</translation>
     </message>
     <message>
         <source>Phase</source>
@@ -16171,11 +16364,11 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>“%1” stands in %2 lines of the list: it must be in one.</source>
-        <translation>« %1 » figure dans %2 lignes de la liste : il doit figurer dans une seule.</translation>
+        <translation>«&#xa0;%1&#xa0;» figure dans %2 lignes de la liste&#x202f;: il doit figurer dans une seule.</translation>
     </message>
     <message>
         <source>%1 lines come into the file. Real time and penalty are taken for %2 of %3 runs: those that are ticked.</source>
-        <translation>%1 lignes entrent dans le fichier. Temps réel et pénalité sont repris pour %2 manches sur %3 : celles cochées.</translation>
+        <translation>%1 lignes entrent dans le fichier. Temps réel et pénalité sont repris pour %2 manches sur %3&#x202f;: celles cochées.</translation>
     </message>
     <message>
         <source>No line was found for %1. A part of the name, typed in the last column, chooses one.</source>
@@ -16198,11 +16391,11 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>⚠ Not finished: no order was taken.</source>
-        <translation>⚠ Inachevé : aucun ordre n’a été pris.</translation>
+        <translation>⚠ Inachevé&#x202f;: aucun ordre n’a été pris.</translation>
     </message>
     <message>
         <source>⚠ Not finished. Gates without an order: %1.</source>
-        <translation>⚠ Inachevé. Portes sans ordre : %1.</translation>
+        <translation>⚠ Inachevé. Portes sans ordre&#x202f;: %1.</translation>
     </message>
     <message>
         <source>⚠ Not all boats were seen at the last gate.</source>
@@ -16210,7 +16403,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Gates without an order: %1.</source>
-        <translation>Portes sans ordre : %1.</translation>
+        <translation>Portes sans ordre&#x202f;: %1.</translation>
     </message>
     <message>
         <source>Final</source>
@@ -16258,7 +16451,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#x202f;%</translation>
     </message>
     <message>
         <source>Athlete</source>
@@ -16298,7 +16491,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>No results yet: they follow from the orders at the gates that are taken on the page of heats.</source>
-        <translation>Encore aucun résultat : ils découlent des ordres aux portes pris sur la page des séries.</translation>
+        <translation>Encore aucun résultat&#x202f;: ils découlent des ordres aux portes pris sur la page des séries.</translation>
     </message>
     <message>
         <source>Attacks and defences</source>
@@ -16329,7 +16522,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     </message>
     <message>
         <source>Choose the boat %1 races in: menu Team, “Add a category”.</source>
-        <translation>Choisissez le bateau de course de %1 : menu Équipe, « Ajouter une catégorie ».</translation>
+        <translation>Choisissez le bateau de course de %1&#x202f;: menu Équipe, «&#xa0;Ajouter une catégorie&#xa0;».</translation>
     </message>
     <message>
         <source>Add the first season with Ctrl+Shift+N, or drop a split file or a list of results here to take results over.</source>
@@ -16478,7 +16671,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>%1 of %2 films are there. Not found: %3.</source>
-        <translation>%1 films sur %2 sont là. Introuvables : %3.</translation>
+        <translation>%1 films sur %2 sont là. Introuvables&#x202f;: %3.</translation>
     </message>
     <message>
         <source>Import video</source>
@@ -16564,11 +16757,11 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Touched: gate %1.</source>
-        <translation>Touchée : porte %1.</translation>
+        <translation>Touchée&#x202f;: porte %1.</translation>
     </message>
     <message>
         <source>Missed: gate %1.</source>
-        <translation>Manquée : porte %1.</translation>
+        <translation>Manquée&#x202f;: porte %1.</translation>
     </message>
     <message>
         <source>To best</source>
@@ -16654,7 +16847,7 @@ Choisissez un fichier.</translation>
     <name>kavela::desktop::RunsToEnter</name>
     <message>
         <source>perhaps %1?</source>
-        <translation>peut-être %1 ?</translation>
+        <translation>peut-être %1&#x202f;?</translation>
     </message>
     <message>
         <source>another run is better</source>
@@ -16940,7 +17133,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>“%1” is none of the events.</source>
-        <translation>« %1 » n’est aucune des compétitions.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est aucune des compétitions.</translation>
     </message>
     <message>
         <source>event</source>
@@ -16971,7 +17164,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Nothing stands out: there is no clip to choose.</source>
-        <translation>Rien ne ressort : il n’y a pas d’extrait à choisir.</translation>
+        <translation>Rien ne ressort&#x202f;: il n’y a pas d’extrait à choisir.</translation>
     </message>
     <message>
         <source>&amp;Show this run</source>
@@ -16999,7 +17192,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Lost, %</source>
-        <translation>Perdu, %</translation>
+        <translation>Perdu,&#x202f;%</translation>
     </message>
     <message>
         <source>Of the reference&apos;s time there</source>
@@ -17007,7 +17200,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#x202f;%</translation>
     </message>
     <message>
         <source>A run</source>
@@ -17019,7 +17212,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Of the gap, %</source>
-        <translation>De l’écart, %</translation>
+        <translation>De l’écart,&#x202f;%</translation>
     </message>
     <message>
         <source>Verdict</source>
@@ -17027,7 +17220,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>What the interval says: losing where all of it is above 0</source>
-        <translation>Ce que dit l’intervalle : en perte là où il est tout entier au-dessus de 0</translation>
+        <translation>Ce que dit l’intervalle&#x202f;: en perte là où il est tout entier au-dessus de 0</translation>
     </message>
     <message>
         <source>See</source>
@@ -17043,11 +17236,11 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>%1: no whole run in %2 files can be held against the %3.</source>
-        <translation>%1 : aucune manche complète dans %2 fichiers ne peut être comparée à la référence (%3).</translation>
+        <translation>%1&#x202f;: aucune manche complète dans %2 fichiers ne peut être comparée à la référence (%3).</translation>
     </message>
     <message>
         <source>%1 on %2: %3 in %4; gap a run %5, penalties %6</source>
-        <translation>%1 face à %2 : %3 dans %4 ; écart par manche %5, pénalités %6</translation>
+        <translation>%1 face à %2&#x202f;: %3 dans %4&#x202f;; écart par manche %5, pénalités %6</translation>
     </message>
     <message>
         <source>one whole run</source>
@@ -17059,15 +17252,15 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Train: nothing stands out from these runs.</source>
-        <translation>À travailler : rien ne ressort de ces manches.</translation>
+        <translation>À travailler&#x202f;: rien ne ressort de ces manches.</translation>
     </message>
     <message>
         <source>%1. %2: %3, %4 s a run</source>
-        <translation>%1. %2 : %3, %4 s par manche</translation>
+        <translation>%1. %2&#x202f;: %3, %4 s par manche</translation>
     </message>
     <message>
         <source>Train:</source>
-        <translation>À travailler :</translation>
+        <translation>À travailler&#x202f;:</translation>
     </message>
     <message>
         <source>gate %1</source>
@@ -17250,15 +17443,15 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>A name a line, as a start list has them. Nothing for the team and those who raced most often.</source>
-        <translation>Un nom par ligne, comme dans une liste de départ. Rien : l’équipe et ceux qui ont couru le plus souvent.</translation>
+        <translation>Un nom par ligne, comme dans une liste de départ. Rien&#x202f;: l’équipe et ceux qui ont couru le plus souvent.</translation>
     </message>
     <message>
         <source>%1 could not be read: %2</source>
-        <translation>%1 n’a pas pu être lu : %2</translation>
+        <translation>%1 n’a pas pu être lu&#x202f;: %2</translation>
     </message>
     <message>
         <source>How every athlete of a team stands over the seasons: behind the winners, against rivals, and against chance. Files are only read.</source>
-        <translation>Où en est chaque athlète d’une équipe au fil des saisons : derrière les vainqueurs, face aux rivaux, et face au hasard. Les fichiers sont seulement lus.</translation>
+        <translation>Où en est chaque athlète d’une équipe au fil des saisons&#x202f;: derrière les vainqueurs, face aux rivaux, et face au hasard. Les fichiers sont seulement lus.</translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -17270,7 +17463,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>No split files: winners and rivals are the team&apos;s own</source>
-        <translation>Pas de fichiers d’intermédiaires : vainqueurs et rivaux sont ceux de l’équipe</translation>
+        <translation>Pas de fichiers d’intermédiaires&#x202f;: vainqueurs et rivaux sont ceux de l’équipe</translation>
     </message>
     <message>
         <source>Races from 1 split file</source>
@@ -17282,7 +17475,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>several athletes are called %1: their runs cannot be told apart</source>
-        <translation>plusieurs athlètes s’appellent %1 : leurs manches ne peuvent pas être distinguées</translation>
+        <translation>plusieurs athlètes s’appellent %1&#x202f;: leurs manches ne peuvent pas être distinguées</translation>
     </message>
     <message>
         <source>nobody in these races is called %1</source>
@@ -17294,7 +17487,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>the team could not be read again: %1</source>
-        <translation>l’équipe n’a pas pu être relue : %1</translation>
+        <translation>l’équipe n’a pas pu être relue&#x202f;: %1</translation>
     </message>
     <message numerus="yes">
         <source>Races from %n split files</source>
@@ -17562,7 +17755,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>The time in straight line is part of the time of its section: it cannot be longer.</source>
-        <translation>Le temps en ligne droite fait partie du temps de son secteur : il ne peut pas être plus long.</translation>
+        <translation>Le temps en ligne droite fait partie du temps de son secteur&#x202f;: il ne peut pas être plus long.</translation>
     </message>
     <message>
         <source>section %1</source>
@@ -17574,11 +17767,11 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Total: %1 s</source>
-        <translation>Total : %1 s</translation>
+        <translation>Total&#x202f;: %1 s</translation>
     </message>
     <message>
         <source>Total: – · %1 of %2 sections are timed</source>
-        <translation>Total : – · %1 secteurs sur %2 sont chronométrés</translation>
+        <translation>Total&#x202f;: – · %1 secteurs sur %2 sont chronométrés</translation>
     </message>
     <message>
         <source> · %1 strokes recorded</source>
@@ -17619,7 +17812,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Rename which race?</source>
-        <translation>Renommer quelle course ?</translation>
+        <translation>Renommer quelle course&#x202f;?</translation>
     </message>
     <message>
         <source>race renamed</source>
@@ -17627,7 +17820,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Remove which race?</source>
-        <translation>Retirer quelle course ?</translation>
+        <translation>Retirer quelle course&#x202f;?</translation>
     </message>
     <message>
         <source>race removed</source>
@@ -17682,7 +17875,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Athletes who get a result: %1, of them new in the selection: %2. Without a result then: %3. Runs and lines that stay out: %4. A click on an athlete chooses another one, or adds the name to the selection.</source>
-        <translation>Athlètes qui reçoivent un résultat : %1, dont nouveaux dans la sélection : %2. Ensuite sans résultat : %3. Manches et lignes non reprises : %4. Un clic sur un athlète en choisit un autre, ou ajoute le nom à la sélection.</translation>
+        <translation>Athlètes qui reçoivent un résultat&#x202f;: %1, dont nouveaux dans la sélection&#x202f;: %2. Ensuite sans résultat&#x202f;: %3. Manches et lignes non reprises&#x202f;: %4. Un clic sur un athlète en choisit un autre, ou ajoute le nom à la sélection.</translation>
     </message>
 </context>
 <context>
@@ -17697,7 +17890,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>&amp;Reports: preview, PDF, print…</source>
-        <translation>Rapports : aperçu, &amp;PDF, impression…</translation>
+        <translation>Rapports&#x202f;: aperçu, &amp;PDF, impression…</translation>
     </message>
     <message>
         <source>Make times of 0 &amp;missing results</source>
@@ -17793,7 +17986,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Try other times and penalties; nothing of it is kept (W)</source>
-        <translation>Essayer d’autres temps et pénalités ; rien n’en est gardé (W)</translation>
+        <translation>Essayer d’autres temps et pénalités&#x202f;; rien n’en est gardé (W)</translation>
     </message>
     <message>
         <source>Selection %1</source>
@@ -17801,7 +17994,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>What if: times and penalties typed now are tried only. End it (W) to go back to the real results.</source>
-        <translation>Et si : les temps et pénalités saisis maintenant ne sont qu’un essai. Terminez-le (W) pour revenir aux résultats réels.</translation>
+        <translation>Et si&#x202f;: les temps et pénalités saisis maintenant ne sont qu’un essai. Terminez-le (W) pour revenir aux résultats réels.</translation>
     </message>
     <message>
         <source>Add the races of the selection first (Ctrl+R), then athletes (Ctrl+N, or drop a .csv file).</source>
@@ -17809,11 +18002,11 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Now add a category (Ctrl+G), such as MK1; then its athletes (Ctrl+N, or drop a .csv file).</source>
-        <translation>Ajoutez maintenant une catégorie (Ctrl+G), comme MK1 ; puis ses athlètes (Ctrl+N, ou déposez un fichier .csv).</translation>
+        <translation>Ajoutez maintenant une catégorie (Ctrl+G), comme MK1&#x202f;; puis ses athlètes (Ctrl+N, ou déposez un fichier .csv).</translation>
     </message>
     <message>
         <source>Add the athletes of the category (Ctrl+N, or drop a .csv file), then their results: type them, or take them over from split files (Ctrl+I).</source>
-        <translation>Ajoutez les athlètes de la catégorie (Ctrl+N, ou déposez un fichier .csv), puis leurs résultats : saisissez-les, ou reprenez-les de fichiers d’intermédiaires (Ctrl+I).</translation>
+        <translation>Ajoutez les athlètes de la catégorie (Ctrl+N, ou déposez un fichier .csv), puis leurs résultats&#x202f;: saisissez-les, ou reprenez-les de fichiers d’intermédiaires (Ctrl+I).</translation>
     </message>
     <message numerus="yes">
         <source>%n result(s) have a time of 0, which puts their athletes far in front. Edit &gt; Make times of 0 missing results.</source>
@@ -17854,11 +18047,11 @@ Choisissez un fichier.</translation>
     <name>kavela::desktop::SeriesDrawing</name>
     <message>
         <source>%1: low</source>
-        <translation>%1 : bas</translation>
+        <translation>%1&#x202f;: bas</translation>
     </message>
     <message>
         <source>%1: high</source>
-        <translation>%1 : haut</translation>
+        <translation>%1&#x202f;: haut</translation>
     </message>
 </context>
 <context>
@@ -17971,7 +18164,7 @@ Choisissez un fichier.</translation>
     <name>kavela::desktop::SessionMarks</name>
     <message>
         <source>%1 marks: two make a segment</source>
-        <translation>%1 marques : deux font un segment</translation>
+        <translation>%1 marques&#x202f;: deux font un segment</translation>
     </message>
     <message>
         <source>%1 segments</source>
@@ -18129,7 +18322,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>%1 – %2: %3 s, %4 strokes, %5/min, %6 m, %7 m/s</source>
-        <translation>%1 – %2 : %3 s, %4 coups de pagaie, %5/min, %6 m, %7 m/s</translation>
+        <translation>%1 – %2&#x202f;: %3 s, %4 coups de pagaie, %5/min, %6 m, %7 m/s</translation>
     </message>
 </context>
 <context>
@@ -18247,11 +18440,11 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Race: best green, others red</source>
-        <translation>Course : le meilleur en vert, les autres en rouge</translation>
+        <translation>Course&#x202f;: le meilleur en vert, les autres en rouge</translation>
     </message>
     <message>
         <source>Training: cells tinted by rank</source>
-        <translation>Entraînement : cellules teintées selon le rang</translation>
+        <translation>Entraînement&#x202f;: cellules teintées selon le rang</translation>
     </message>
     <message>
         <source>Colours of the split table</source>
@@ -18361,7 +18554,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
-        <translation>D’un dossier sur un serveur WebDAV : Nextcloud, ownCloud, un NAS, Apache…</translation>
+        <translation>D’un dossier sur un serveur WebDAV&#x202f;: Nextcloud, ownCloud, un NAS, Apache…</translation>
     </message>
     <message>
         <source>Choose the folder…</source>
@@ -18373,7 +18566,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Shows what differs; nothing is changed by it</source>
-        <translation>Montre ce qui diffère ; rien n’en est modifié</translation>
+        <translation>Montre ce qui diffère&#x202f;; rien n’en est modifié</translation>
     </message>
     <message>
         <source>Start</source>
@@ -18405,7 +18598,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>“%1” is no folder.</source>
-        <translation>« %1 » n’est pas un dossier.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un dossier.</translation>
     </message>
     <message>
         <source>Both sides are looked at…</source>
@@ -18413,11 +18606,11 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>%1: %2 of %3</source>
-        <translation>%1 : %2 sur %3</translation>
+        <translation>%1&#x202f;: %2 sur %3</translation>
     </message>
     <message>
         <source>%1: %2 files</source>
-        <translation>%1 : %2 fichiers</translation>
+        <translation>%1&#x202f;: %2 fichiers</translation>
     </message>
     <message>
         <source>%1 (on the server)</source>
@@ -18429,11 +18622,11 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Delete 1 file?</source>
-        <translation>Supprimer 1 fichier ?</translation>
+        <translation>Supprimer 1 fichier&#x202f;?</translation>
     </message>
     <message>
         <source>Delete %1 files?</source>
-        <translation>Supprimer %1 fichiers ?</translation>
+        <translation>Supprimer %1 fichiers&#x202f;?</translation>
     </message>
     <message>
         <source>
@@ -18467,7 +18660,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>What is done stays done; sharing again goes on with the rest.</source>
-        <translation>Ce qui est fait reste fait ; un nouveau partage continue avec le reste.</translation>
+        <translation>Ce qui est fait reste fait&#x202f;; un nouveau partage continue avec le reste.</translation>
     </message>
     <message>
         <source>Stop and close</source>
@@ -18513,7 +18706,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>The picture could not be saved: %1</source>
-        <translation>L’image n’a pas pu être enregistrée : %1</translation>
+        <translation>L’image n’a pas pu être enregistrée&#x202f;: %1</translation>
     </message>
     <message>
         <source>Save the water round the marks</source>
@@ -18553,7 +18746,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>&amp;Turn the arrow: boats come from the other side</source>
-        <translation>Retourner la &amp;flèche : les bateaux viennent de l’autre côté</translation>
+        <translation>Retourner la &amp;flèche&#x202f;: les bateaux viennent de l’autre côté</translation>
     </message>
     <message>
         <source>&amp;Remove the line</source>
@@ -18653,7 +18846,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>Accept a&amp;ll proposals: why not yet?</source>
-        <translation>Accepter &amp;toutes les propositions : pourquoi pas encore ?</translation>
+        <translation>Accepter &amp;toutes les propositions&#x202f;: pourquoi pas encore&#x202f;?</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -18680,11 +18873,11 @@ et %1 autres</translation>
     <name>kavela::desktop::SlitKeeping</name>
     <message>
         <source>The lines in %1 cannot be read: %2. The file is put aside before new lines take its name.</source>
-        <translation>Les lignes dans %1 ne peuvent pas être lues : %2. Le fichier est mis de côté avant que de nouvelles lignes prennent son nom.</translation>
+        <translation>Les lignes dans %1 ne peuvent pas être lues&#x202f;: %2. Le fichier est mis de côté avant que de nouvelles lignes prennent son nom.</translation>
     </message>
     <message>
         <source>The lines could not be kept in %1: %2</source>
-        <translation>Les lignes n’ont pas pu être conservées dans %1 : %2</translation>
+        <translation>Les lignes n’ont pas pu être conservées dans %1&#x202f;: %2</translation>
     </message>
 </context>
 <context>
@@ -18695,7 +18888,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>%1 frames cannot be decoded: their columns are black.</source>
-        <translation>%1 images ne peuvent pas être décodées : leurs colonnes sont noires.</translation>
+        <translation>%1 images ne peuvent pas être décodées&#x202f;: leurs colonnes sont noires.</translation>
     </message>
 </context>
 <context>
@@ -18710,11 +18903,11 @@ et %1 autres</translation>
     </message>
     <message>
         <source>Draw a box round one boat (B), then look for boats (Ctrl+B): where they may have crossed is listed here.</source>
-        <translation>Dessinez un cadre autour d’un bateau (B), puis cherchez les bateaux (Ctrl+B) : là où ils ont pu passer est listé ici.</translation>
+        <translation>Dessinez un cadre autour d’un bateau (B), puis cherchez les bateaux (Ctrl+B)&#x202f;: là où ils ont pu passer est listé ici.</translation>
     </message>
     <message>
         <source>The time of the split follows the hair line between two frames; the mark itself stays on the frame.</source>
-        <translation>Le temps de l’intermédiaire suit le réticule entre deux images ; la marque elle-même reste sur l’image.</translation>
+        <translation>Le temps de l’intermédiaire suit le réticule entre deux images&#x202f;; la marque elle-même reste sur l’image.</translation>
     </message>
     <message>
         <source>marks</source>
@@ -18753,7 +18946,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#x202f;: %2</translation>
     </message>
     <message>
         <source>There is no run to be marked.</source>
@@ -18784,7 +18977,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>The water round the marks could not be saved: %1</source>
-        <translation>L’eau autour des marques n’a pas pu être enregistrée : %1</translation>
+        <translation>L’eau autour des marques n’a pas pu être enregistrée&#x202f;: %1</translation>
     </message>
 </context>
 <context>
@@ -18806,7 +18999,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#x202f;%</translation>
     </message>
     <message>
         <source>frame %1   %2 s</source>
@@ -18829,7 +19022,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>“%1” is not there.</source>
-        <translation>« %1 » n’est pas là.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas là.</translation>
     </message>
     <message>
         <source>Open the film of a fixed camera</source>
@@ -18841,7 +19034,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>Press N and draw a line across the water in the film above: what stands on it is shown here over time.</source>
-        <translation>Appuyez sur N et dessinez une ligne en travers de l’eau dans le film ci-dessus : ce qui s’y trouve est montré ici au fil du temps.</translation>
+        <translation>Appuyez sur N et dessinez une ligne en travers de l’eau dans le film ci-dessus&#x202f;: ce qui s’y trouve est montré ici au fil du temps.</translation>
     </message>
     <message>
         <source>Reading the film…</source>
@@ -18849,15 +19042,15 @@ et %1 autres</translation>
     </message>
     <message>
         <source>Reading the film:</source>
-        <translation>Lecture du film :</translation>
+        <translation>Lecture du film&#x202f;:</translation>
     </message>
     <message>
         <source>Looking for boats:</source>
-        <translation>Recherche de bateaux :</translation>
+        <translation>Recherche de bateaux&#x202f;:</translation>
     </message>
     <message>
         <source>Draw a line first: N.</source>
-        <translation>Dessinez d’abord une ligne : N.</translation>
+        <translation>Dessinez d’abord une ligne&#x202f;: N.</translation>
     </message>
     <message>
         <source>%1 proposals were refused on this line. They are forgotten with it.</source>
@@ -18877,11 +19070,11 @@ et %1 autres</translation>
     </message>
     <message>
         <source>Marks need the race of this film: open it in split taking.</source>
-        <translation>Les marques demandent la course de ce film : ouvrez-la dans la prise de temps intermédiaires.</translation>
+        <translation>Les marques demandent la course de ce film&#x202f;: ouvrez-la dans la prise de temps intermédiaires.</translation>
     </message>
     <message>
         <source>Draw a box round one boat first: B.</source>
-        <translation>Dessinez d’abord un cadre autour d’un bateau : B.</translation>
+        <translation>Dessinez d’abord un cadre autour d’un bateau&#x202f;: B.</translation>
     </message>
     <message>
         <source>Proposals are accepted one by one</source>
@@ -18897,7 +19090,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>There is nothing to learn from yet: look for boats, then mark and refuse what was found.</source>
-        <translation>Il n’y a encore rien dont apprendre : cherchez des bateaux, puis marquez et refusez ce qui a été trouvé.</translation>
+        <translation>Il n’y a encore rien dont apprendre&#x202f;: cherchez des bateaux, puis marquez et refusez ce qui a été trouvé.</translation>
     </message>
 </context>
 <context>
@@ -18915,7 +19108,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>Nothing can be marked: %1 is not in the folder of the split file. Cameras &gt; Where are the films now?</source>
-        <translation>Rien ne peut être marqué : %1 n’est pas dans le dossier du fichier d’intermédiaires. Caméras &gt; Où sont les films maintenant ?</translation>
+        <translation>Rien ne peut être marqué&#x202f;: %1 n’est pas dans le dossier du fichier d’intermédiaires. Caméras &gt; Où sont les films maintenant&#x202f;?</translation>
     </message>
     <message>
         <source>No mark is selected. Ctrl and the arrows go from mark to mark.</source>
@@ -18923,7 +19116,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>Another run came to the front: nothing was marked.</source>
-        <translation>Une autre manche est passée au premier plan : rien n’a été marqué.</translation>
+        <translation>Une autre manche est passée au premier plan&#x202f;: rien n’a été marqué.</translation>
     </message>
     <message>
         <source>The times of this run were taken without marks on the video. Marking it anew replaces them.</source>
@@ -18943,7 +19136,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>%1:  %2</source>
-        <translation>%1 :  %2</translation>
+        <translation>%1&#x202f;:  %2</translation>
     </message>
     <message>
         <source>Split %1 was put in between two marks. Ctrl+Z takes it out again.</source>
@@ -18980,17 +19173,17 @@ et %1 autres</translation>
         <source>%1, %2: %3 s
 place %4 of %5
 %6 s behind the best, %7 %</source>
-        <translation>%1, %2 : %3 s
+        <translation>%1, %2&#x202f;: %3 s
 place %4 sur %5
-%6 s derrière le meilleur, %7 %</translation>
+%6 s derrière le meilleur, %7&#x202f;%</translation>
     </message>
     <message>
         <source>%1, %2: %3 s
 %4
 It counts for nothing: no place, no gap, never a best.</source>
-        <translation>%1, %2 : %3 s
+        <translation>%1, %2&#x202f;: %3 s
 %4
-Il ne compte pour rien : pas de place, pas d’écart, jamais un meilleur.</translation>
+Il ne compte pour rien&#x202f;: pas de place, pas d’écart, jamais un meilleur.</translation>
     </message>
     <message>
         <source>The best of every section, put together</source>
@@ -19015,7 +19208,7 @@ Il ne compte pour rien : pas de place, pas d’écart, jamais un meilleur.</tr
     <message>
         <source>Section %1: the colours and the penalties in brackets are those of the first ten sections only.
 Place, gap and percent are there as in any other.</source>
-        <translation>Secteur %1 : les couleurs et les pénalités entre parenthèses sont seulement celles des dix premiers secteurs.
+        <translation>Secteur %1&#x202f;: les couleurs et les pénalités entre parenthèses sont seulement celles des dix premiers secteurs.
 Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
@@ -19043,7 +19236,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     <name>kavela::desktop::SplitsShown</name>
     <message>
         <source>%1?</source>
-        <translation>%1 ?</translation>
+        <translation>%1&#x202f;?</translation>
     </message>
 </context>
 <context>
@@ -19074,7 +19267,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Paste the list: bib, name, category and start time or order, or with titles in its first line. Boats that are in this phase already are corrected.</source>
-        <translation>Collez la liste : dossard, nom, catégorie et heure ou ordre de départ, ou avec des titres en première ligne. Les bateaux déjà dans cette phase sont corrigés.</translation>
+        <translation>Collez la liste&#x202f;: dossard, nom, catégorie et heure ou ordre de départ, ou avec des titres en première ligne. Les bateaux déjà dans cette phase sont corrigés.</translation>
     </message>
     <message>
         <source>Lists (*.csv *.txt);;All files (*)</source>
@@ -19082,11 +19275,11 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Starts: %1. Lines that cannot be taken: %2.</source>
-        <translation>Départs : %1. Lignes qui ne peuvent pas être reprises : %2.</translation>
+        <translation>Départs&#x202f;: %1. Lignes qui ne peuvent pas être reprises&#x202f;: %2.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation>Ligne %1 : %2</translation>
+        <translation>Ligne %1&#x202f;: %2</translation>
     </message>
 </context>
 <context>
@@ -19109,7 +19302,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Runs found: %1, in %2 files. They replace what stands there now: %3.</source>
-        <translation>Manches trouvées : %1, dans %2 fichiers. Elles remplacent ce qui est là maintenant : %3.</translation>
+        <translation>Manches trouvées&#x202f;: %1, dans %2 fichiers. Elles remplacent ce qui est là maintenant&#x202f;: %3.</translation>
     </message>
     <message>
         <source>None of the files has a run of this athlete and season. Nothing is replaced.</source>
@@ -19118,6 +19311,41 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     <message>
         <source>&amp;Replace the statistics</source>
         <translation>&amp;Remplacer les statistiques</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::StepsBox</name>
+    <message>
+        <source>Hide these steps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a race: “Try the sample season”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask a number of its table why it is what it is: Alt+click, or Shift+F1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>See where the time was lost: Ctrl+Shift+L.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the film of a run, or take a split: Ctrl+T.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make an athlete&apos;s report or page: Ctrl+P.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All first steps are done. F1 tells the rest.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First steps, three minutes</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -19256,7 +19484,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>%1 is timed: %2 s. Empty its time to mark it anew.</source>
-        <translation>%1 est chronométrée : %2 s. Videz son temps pour la marquer à nouveau.</translation>
+        <translation>%1 est chronométrée&#x202f;: %2 s. Videz son temps pour la marquer à nouveau.</translation>
     </message>
     <message>
         <source>Start</source>
@@ -19374,7 +19602,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Counted: %1</source>
-        <translation>Comptées : %1</translation>
+        <translation>Comptées&#x202f;: %1</translation>
     </message>
 </context>
 <context>
@@ -19516,7 +19744,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Who is meant?…</source>
-        <translation>&amp;Qui est visé ?…</translation>
+        <translation>&amp;Qui est visé&#x202f;?…</translation>
     </message>
     <message>
         <source>&amp;Show</source>
@@ -19575,7 +19803,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>“%1” cannot be opened as a table</source>
-        <translation>« %1 » ne peut pas être ouvert en tableau</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être ouvert en tableau</translation>
     </message>
     <message>
         <source>What was copied is no list</source>
@@ -19583,7 +19811,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Which of its lists?</source>
-        <translation>Laquelle de ses listes ?</translation>
+        <translation>Laquelle de ses listes&#x202f;?</translation>
     </message>
     <message>
         <source>What was copied</source>
@@ -19599,7 +19827,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Rows whose “%1” contains this are kept; the cell as it stands keeps just its like.</source>
-        <translation>Les lignes dont « %1 » contient ceci sont gardées ; la cellule telle quelle ne garde que ses semblables.</translation>
+        <translation>Les lignes dont «&#xa0;%1&#xa0;» contient ceci sont gardées&#x202f;; la cellule telle quelle ne garde que ses semblables.</translation>
     </message>
     <message>
         <source> table</source>
@@ -19615,11 +19843,11 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Begin anew?</source>
-        <translation>Tout recommencer ?</translation>
+        <translation>Tout recommencer&#x202f;?</translation>
     </message>
     <message>
         <source>What you made of this list is given up; the file stays.</source>
-        <translation>Ce que vous avez fait de cette liste est abandonné ; le fichier reste.</translation>
+        <translation>Ce que vous avez fait de cette liste est abandonné&#x202f;; le fichier reste.</translation>
     </message>
     <message>
         <source>Begin anew</source>
@@ -19639,7 +19867,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation>« %1 » ne peut pas être ouvert</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être ouvert</translation>
     </message>
     <message>
         <source>Nobody of the team</source>
@@ -19647,7 +19875,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Who is %1 in line %2?</source>
-        <translation>Qui est %1 à la ligne %2 ?</translation>
+        <translation>Qui est %1 à la ligne %2&#x202f;?</translation>
     </message>
     <message>
         <source>Keep with the race</source>
@@ -19716,11 +19944,11 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>There is no tag %1 yet: type its name above.</source>
-        <translation>Il n’y a pas encore d’étiquette %1 : tapez son nom ci-dessus.</translation>
+        <translation>Il n’y a pas encore d’étiquette %1&#x202f;: tapez son nom ci-dessus.</translation>
     </message>
     <message>
         <source>This tag is of the split file: split taking moves it.</source>
-        <translation>Cette étiquette est du fichier d’intermédiaires : la prise de temps intermédiaires la déplace.</translation>
+        <translation>Cette étiquette est du fichier d’intermédiaires&#x202f;: la prise de temps intermédiaires la déplace.</translation>
     </message>
     <message>
         <source>No tag is selected.</source>
@@ -19810,7 +20038,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>perhaps %1?</source>
-        <translation>peut-être %1 ?</translation>
+        <translation>peut-être %1&#x202f;?</translation>
     </message>
     <message>
         <source>%1 is added to the athlete&apos;s boats</source>
@@ -19890,11 +20118,11 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Nothing in the file belongs to an athlete of the team. A click on “not in the team” chooses one, or adds the name to the team.</source>
-        <translation>Rien dans le fichier n’est d’un athlète de l’équipe. Un clic sur « pas dans l’équipe » en choisit un, ou ajoute le nom à l’équipe.</translation>
+        <translation>Rien dans le fichier n’est d’un athlète de l’équipe. Un clic sur «&#xa0;pas dans l’équipe&#xa0;» en choisit un, ou ajoute le nom à l’équipe.</translation>
     </message>
     <message>
         <source>%1 of %2 lines are ticked; %3 stay out. A click on an athlete chooses another one, or adds the name to the team.</source>
-        <translation>%1 lignes sur %2 sont cochées ; %3 ne sont pas reprises. Un clic sur un athlète en choisit un autre, ou ajoute le nom à l’équipe.</translation>
+        <translation>%1 lignes sur %2 sont cochées&#x202f;; %3 ne sont pas reprises. Un clic sur un athlète en choisit un autre, ou ajoute le nom à l’équipe.</translation>
     </message>
     <message numerus="yes">
         <source>&amp;Take over %n lines</source>
@@ -20000,11 +20228,11 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Laps found in the recording: %1 of %2. What is taken in has no more of them.</source>
-        <translation>Tours trouvés dans l’enregistrement : %1 sur %2. Ce qui est repris n’en a pas davantage.</translation>
+        <translation>Tours trouvés dans l’enregistrement&#x202f;: %1 sur %2. Ce qui est repris n’en a pas davantage.</translation>
     </message>
     <message>
         <source>Eights found in the recording: %1 of %2. What is taken in has no more of them.</source>
-        <translation>Huit trouvés dans l’enregistrement : %1 sur %2. Ce qui est repris n’en a pas davantage.</translation>
+        <translation>Huit trouvés dans l’enregistrement&#x202f;: %1 sur %2. Ce qui est repris n’en a pas davantage.</translation>
     </message>
     <message>
         <source>Rotation and marks</source>
@@ -20067,7 +20295,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Take in tests from “%1”</source>
-        <translation>Reprendre des tests de « %1 »</translation>
+        <translation>Reprendre des tests de «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Take in</source>
@@ -20091,7 +20319,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>The first five sections become the splits, with their marks in the video; the motion samples of the run tell its rotation.</source>
-        <translation>Les cinq premiers secteurs deviennent les intermédiaires, avec leurs marques sur la vidéo ; les échantillons de mouvement de la manche donnent sa rotation.</translation>
+        <translation>Les cinq premiers secteurs deviennent les intermédiaires, avec leurs marques sur la vidéo&#x202f;; les échantillons de mouvement de la manche donnent sa rotation.</translation>
     </message>
 </context>
 <context>
@@ -20126,7 +20354,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Run s&amp;heet: preview, PDF, print…</source>
-        <translation>Fic&amp;he de manche : aperçu, PDF, impression…</translation>
+        <translation>Fic&amp;he de manche&#x202f;: aperçu, PDF, impression…</translation>
     </message>
     <message>
         <source>&amp;Export data…</source>
@@ -20210,11 +20438,11 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Touch: 2 s</source>
-        <translation>&amp;Touche : 2 s</translation>
+        <translation>&amp;Touche&#x202f;: 2 s</translation>
     </message>
     <message>
         <source>Missed gate: &amp;50 s</source>
-        <translation>Porte &amp;manquée : 50 s</translation>
+        <translation>Porte &amp;manquée&#x202f;: 50 s</translation>
     </message>
     <message>
         <source>&amp;Clean</source>
@@ -20238,7 +20466,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Where are the films now?…</source>
-        <translation>Où so&amp;nt les films maintenant ?…</translation>
+        <translation>Où so&amp;nt les films maintenant&#x202f;?…</translation>
     </message>
     <message>
         <source>Last camera one frame back</source>
@@ -20250,7 +20478,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>&amp;Larger: without the table, the film alone, all again</source>
-        <translation>&amp;Plus grand : sans le tableau, le film seul, tout à nouveau</translation>
+        <translation>&amp;Plus grand&#x202f;: sans le tableau, le film seul, tout à nouveau</translation>
     </message>
     <message>
         <source>The frames shown are &amp;one moment</source>
@@ -20281,7 +20509,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source> &quot;Save as…&quot; writes a copy in the present release and opens it here; its films stay where they are.</source>
-        <translation> « Enregistrer sous… » écrit une copie dans la version actuelle et l’ouvre ici ; ses films restent où ils sont.</translation>
+        <translation> «&#xa0;Enregistrer sous…&#xa0;» écrit une copie dans la version actuelle et l’ouvre ici&#x202f;; ses films restent où ils sont.</translation>
     </message>
     <message>
         <source>Save as…</source>
@@ -20305,7 +20533,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>“%1” holds no runs. Nothing was imported.</source>
-        <translation>« %1 » ne contient aucune manche. Rien n’a été importé.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne contient aucune manche. Rien n’a été importé.</translation>
     </message>
     <message>
         <source>split file imported</source>
@@ -20402,7 +20630,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>In which folder do the films appear?</source>
-        <translation>Dans quel dossier les films arrivent-ils ?</translation>
+        <translation>Dans quel dossier les films arrivent-ils&#x202f;?</translation>
     </message>
     <message>
         <source>A click on a time shows its frame</source>
@@ -20448,7 +20676,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     <name>kavela::desktop::TeamDocument</name>
     <message>
         <source>It is no team file, or a damaged one: %1</source>
-        <translation>Ce n’est pas un fichier d’équipe, ou il est abîmé : %1</translation>
+        <translation>Ce n’est pas un fichier d’équipe, ou il est abîmé&#x202f;: %1</translation>
     </message>
     <message>
         <source>averages</source>
@@ -20478,7 +20706,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>“%1” cannot be taken over</source>
-        <translation>« %1 » ne peut pas être repris</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être repris</translation>
     </message>
     <message>
         <source>There are no results in it.</source>
@@ -20486,7 +20714,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation>Ligne %1 : %2</translation>
+        <translation>Ligne %1&#x202f;: %2</translation>
     </message>
     <message>
         <source>There are no runs in it.</source>
@@ -20530,7 +20758,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>No athlete comes into question in %1: two seasons are needed, with a final position in one of the first two.</source>
-        <translation>Aucun athlète n’entre en ligne de compte en %1 : il faut deux saisons, avec une place finale dans l’une des deux premières.</translation>
+        <translation>Aucun athlète n’entre en ligne de compte en %1&#x202f;: il faut deux saisons, avec une place finale dans l’une des deux premières.</translation>
     </message>
     <message>
         <source>Categorization %1</source>
@@ -20600,7 +20828,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>“%1” cannot be opened</source>
-        <translation>« %1 » ne peut pas être ouvert</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être ouvert</translation>
     </message>
     <message>
         <source>Attempt %1
@@ -20629,7 +20857,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     <name>kavela::desktop::TestsDocument</name>
     <message>
         <source>It is no file of tests, or a damaged one: %1</source>
-        <translation>Ce n’est pas un fichier de tests, ou il est abîmé : %1</translation>
+        <translation>Ce n’est pas un fichier de tests, ou il est abîmé&#x202f;: %1</translation>
     </message>
     <message>
         <source>removal of tests</source>
@@ -20667,7 +20895,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>“%1” cannot be taken in</source>
-        <translation>« %1 » ne peut pas être repris</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être repris</translation>
     </message>
     <message>
         <source>There are no runs in it.</source>
@@ -20683,7 +20911,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>It is no raw recording, or a damaged one: %1</source>
-        <translation>Ce n’est pas un enregistrement brut, ou il est abîmé : %1</translation>
+        <translation>Ce n’est pas un enregistrement brut, ou il est abîmé&#x202f;: %1</translation>
     </message>
     <message>
         <source>Tests</source>
@@ -20768,11 +20996,11 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Next: the end</source>
-        <translation>Ensuite : la fin</translation>
+        <translation>Ensuite&#x202f;: la fin</translation>
     </message>
     <message>
         <source>Next: %1 %2</source>
-        <translation>Ensuite : %1 %2</translation>
+        <translation>Ensuite&#x202f;: %1 %2</translation>
     </message>
 </context>
 <context>
@@ -20831,15 +21059,15 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>⚠ Another program changed “%1”. What is shown here is from before.</source>
-        <translation>⚠ Un autre programme a modifié « %1 ». Ce qui est affiché ici date d’avant.</translation>
+        <translation>⚠ Un autre programme a modifié «&#xa0;%1&#xa0;». Ce qui est affiché ici date d’avant.</translation>
     </message>
     <message>
         <source>⚠ “%1” is no longer in its folder. Saving puts it there again.</source>
-        <translation>⚠ « %1 » n’est plus dans son dossier. L’enregistrer l’y remet.</translation>
+        <translation>⚠ «&#xa0;%1&#xa0;» n’est plus dans son dossier. L’enregistrer l’y remet.</translation>
     </message>
     <message>
         <source>Opening “%1” again gives up what was not saved here.</source>
-        <translation>Ouvrir « %1 » à nouveau abandonne ce qui n’a pas été enregistré ici.</translation>
+        <translation>Ouvrir «&#xa0;%1&#xa0;» à nouveau abandonne ce qui n’a pas été enregistré ici.</translation>
     </message>
     <message>
         <source>Bring &amp;back earlier work…</source>
@@ -20941,7 +21169,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     <name>kavela::desktop::TrackDocument</name>
     <message>
         <source>It is no path on a film, or a damaged one: %1</source>
-        <translation>Ce n’est pas une trajectoire sur un film, ou elle est abîmée : %1</translation>
+        <translation>Ce n’est pas une trajectoire sur un film, ou elle est abîmée&#x202f;: %1</translation>
     </message>
     <message>
         <source>a path of 1 frame</source>
@@ -20956,7 +21184,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     <name>kavela::desktop::TrackLine</name>
     <message>
         <source>Coloured where the path is known; diamonds are the boxes that were drawn. Click to go there.</source>
-        <translation>En couleur là où la trajectoire est connue ; les losanges sont les cadres dessinés. Cliquez pour y aller.</translation>
+        <translation>En couleur là où la trajectoire est connue&#x202f;; les losanges sont les cadres dessinés. Cliquez pour y aller.</translation>
     </message>
 </context>
 <context>
@@ -21006,7 +21234,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Draw a box round boat, head or gate. By keys: B proposes a box, arrows move it, with Shift they size it, Enter takes it.</source>
-        <translation>Dessinez un cadre autour d’un bateau, d’une tête ou d’une porte. Au clavier : B propose un cadre, les flèches le déplacent, avec Maj elles le redimensionnent, Entrée le prend.</translation>
+        <translation>Dessinez un cadre autour d’un bateau, d’une tête ou d’une porte. Au clavier&#x202f;: B propose un cadre, les flèches le déplacent, avec Maj elles le redimensionnent, Entrée le prend.</translation>
     </message>
 </context>
 <context>
@@ -21025,7 +21253,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Following: %p %</source>
-        <translation>Suivi : %p %</translation>
+        <translation>Suivi&#x202f;: %p&#x202f;%</translation>
     </message>
     <message>
         <source>Draw a box round what is to be followed.</source>
@@ -21177,7 +21405,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Lost at %1 s. Draw a new box here, or where it is seen again; what lies between stays a gap until both sides meet.</source>
-        <translation>Perdu à %1 s. Dessinez un nouveau cadre ici, ou là où il réapparaît ; l’intervalle reste un trou jusqu’à ce que les deux côtés se rejoignent.</translation>
+        <translation>Perdu à %1 s. Dessinez un nouveau cadre ici, ou là où il réapparaît&#x202f;; l’intervalle reste un trou jusqu’à ce que les deux côtés se rejoignent.</translation>
     </message>
     <message>
         <source>Followed without a gap.</source>
@@ -21213,7 +21441,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>The known points belong into one frame; this is where the first one was clicked.</source>
-        <translation>Les points connus doivent être dans une même image ; celle-ci est celle où le premier a été cliqué.</translation>
+        <translation>Les points connus doivent être dans une même image&#x202f;; celle-ci est celle où le premier a été cliqué.</translation>
     </message>
     <message>
         <source>known point</source>
@@ -21225,11 +21453,11 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Two points give a scale only: lengths and speeds hold near them and along the line between them. Four give the perspective too.</source>
-        <translation>Deux points ne donnent qu’une échelle : longueurs et vitesses valent près d’eux et le long de la ligne entre eux. Quatre donnent aussi la perspective.</translation>
+        <translation>Deux points ne donnent qu’une échelle&#x202f;: longueurs et vitesses valent près d’eux et le long de la ligne entre eux. Quatre donnent aussi la perspective.</translation>
     </message>
     <message>
         <source>What is followed is not on the water, such as a head: its metres are off.</source>
-        <translation>Ce qui est suivi n’est pas sur l’eau, comme une tête : ses mètres sont faussés.</translation>
+        <translation>Ce qui est suivi n’est pas sur l’eau, comme une tête&#x202f;: ses mètres sont faussés.</translation>
     </message>
     <message>
         <source>Export the path</source>
@@ -21268,7 +21496,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>90 %</source>
-        <translation>90 %</translation>
+        <translation>90&#x202f;%</translation>
     </message>
     <message>
         <source>Exact interval of the touches</source>
@@ -21280,11 +21508,11 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Paddling %</source>
-        <translation>Navigation %</translation>
+        <translation>Navigation&#x202f;%</translation>
     </message>
     <message>
         <source>Total %</source>
-        <translation>Total %</translation>
+        <translation>Total&#x202f;%</translation>
     </message>
     <message>
         <source>No group has enough whole runs to be divided.</source>
@@ -21299,7 +21527,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Enter adds a time trial of that athlete; Esc gives the keys back to the film</source>
-        <translation>Entrée ajoute un contre-la-montre de cet athlète ; Échap rend les touches au film</translation>
+        <translation>Entrée ajoute un contre-la-montre de cet athlète&#x202f;; Échap rend les touches au film</translation>
     </message>
     <message>
         <source>A time trial needs the name of its athlete.</source>
@@ -21454,7 +21682,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>No trial has a time yet: heats are made from the fastest ones.</source>
-        <translation>Aucun contre-la-montre n’a encore de temps : les séries se font avec les plus rapides.</translation>
+        <translation>Aucun contre-la-montre n’a encore de temps&#x202f;: les séries se font avec les plus rapides.</translation>
     </message>
     <message>
         <source>There are heats already. They stay as they are, and those from the trials come behind them.</source>
@@ -21477,7 +21705,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>May Kavela look once a day whether there is a newer version? It tells the server the version that you have, and nothing else. Without a yes it never looks by itself. You can change this in the settings.</source>
-        <translation>Kavela peut-il chercher une fois par jour s’il y a une version plus récente ? Il indique au serveur la version que vous avez, et rien d’autre. Sans un oui, il ne cherche jamais de lui-même. Cela se change dans les réglages.</translation>
+        <translation>Kavela peut-il chercher une fois par jour s’il y a une version plus récente&#x202f;? Il indique au serveur la version que vous avez, et rien d’autre. Sans un oui, il ne cherche jamais de lui-même. Cela se change dans les réglages.</translation>
     </message>
     <message>
         <source>Yes, look once a day</source>
@@ -21556,7 +21784,7 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Gate %1: M marks the %2</source>
-        <translation>Porte %1 : M marque : %2</translation>
+        <translation>Porte %1&#x202f;: M marque&#x202f;: %2</translation>
     </message>
     <message>
         <source>Gate %1 is marked</source>
@@ -21606,7 +21834,7 @@ Ajoutez-en un à la main avec Ctrl+N, ou déposez ici des fichiers d’interméd
     </message>
     <message>
         <source>1 line is left out:</source>
-        <translation>1 ligne est laissée de côté :</translation>
+        <translation>1 ligne est laissée de côté&#x202f;:</translation>
     </message>
     <message>
         <source>Add 1 measurement</source>
@@ -21637,8 +21865,8 @@ Ajoutez-en un à la main avec Ctrl+N, ou déposez ici des fichiers d’interméd
     <message numerus="yes">
         <source>%n lines are left out:</source>
         <translation>
-            <numerusform>%n ligne est laissée de côté :</numerusform>
-            <numerusform>%n lignes sont laissées de côté :</numerusform>
+            <numerusform>%n ligne est laissée de côté&#x202f;:</numerusform>
+            <numerusform>%n lignes sont laissées de côté&#x202f;:</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -21736,7 +21964,7 @@ Ajoutez-en un à la main avec Ctrl+N, ou déposez ici des fichiers d’interméd
     </message>
     <message>
         <source>“%1” are no dates. Write them as 2026-03-10, with commas between.</source>
-        <translation>« %1 » : ce ne sont pas des dates. Écrivez-les comme 2026-03-10, séparées par des virgules.</translation>
+        <translation>«&#xa0;%1&#xa0;»&#x202f;: ce ne sont pas des dates. Écrivez-les comme 2026-03-10, séparées par des virgules.</translation>
     </message>
     <message>
         <source>dates of tests</source>
@@ -21780,7 +22008,7 @@ Ajoutez-en un à la main avec Ctrl+N, ou déposez ici des fichiers d’interméd
     </message>
     <message>
         <source>%1 weeks are chosen: load, cycles and place go into all of them.</source>
-        <translation>%1 semaines sont choisies : charge, cycles et lieu vont dans toutes.</translation>
+        <translation>%1 semaines sont choisies&#x202f;: charge, cycles et lieu vont dans toutes.</translation>
     </message>
 </context>
 <context>
@@ -21829,7 +22057,7 @@ Ajoutez-en un à la main avec Ctrl+N, ou déposez ici des fichiers d’interméd
     <name>kavela::desktop::WhyLabel</name>
     <message>
         <source>Alt+click or Shift+F1: why</source>
-        <translation>Alt+clic ou Maj+F1 : pourquoi</translation>
+        <translation>Alt+clic ou Maj+F1&#x202f;: pourquoi</translation>
     </message>
 </context>
 <context>
@@ -21840,11 +22068,11 @@ Ajoutez-en un à la main avec Ctrl+N, ou déposez ici des fichiers d’interméd
     </message>
     <message>
         <source>dropped: worst</source>
-        <translation>écarté : le plus mauvais</translation>
+        <translation>écarté&#x202f;: le plus mauvais</translation>
     </message>
     <message>
         <source>dropped: bonus</source>
-        <translation>écarté : bonus</translation>
+        <translation>écarté&#x202f;: bonus</translation>
     </message>
     <message>
         <source>no result</source>
@@ -21876,11 +22104,11 @@ Ajoutez-en un à la main avec Ctrl+N, ou déposez ici des fichiers d’interméd
     </message>
     <message>
         <source>Score: %1 / 3 = %2</source>
-        <translation>Score : %1 / 3 = %2</translation>
+        <translation>Score&#x202f;: %1 / 3 = %2</translation>
     </message>
     <message>
         <source>Place: was %1, now %2. Score: was %3, now %4.</source>
-        <translation>Place : avant %1, maintenant %2. Score : avant %3, maintenant %4.</translation>
+        <translation>Place&#x202f;: avant %1, maintenant %2. Score&#x202f;: avant %3, maintenant %4.</translation>
     </message>
     <message>
         <source>%1 s in %2</source>
@@ -21897,7 +22125,7 @@ Ajoutez-en un à la main avec Ctrl+N, ou déposez ici des fichiers d’interméd
     <name>kavela::desktop::WhyWindow</name>
     <message>
         <source>Rule: %1</source>
-        <translation>Règle : %1</translation>
+        <translation>Règle&#x202f;: %1</translation>
     </message>
     <message>
         <source>Within %1</source>
@@ -21905,11 +22133,11 @@ Ajoutez-en un à la main avec Ctrl+N, ou déposez ici des fichiers d’interméd
     </message>
     <message>
         <source>Source: %1</source>
-        <translation>Source : %1</translation>
+        <translation>Source&#x202f;: %1</translation>
     </message>
     <message>
         <source>Why this number?</source>
-        <translation>Pourquoi ce nombre ?</translation>
+        <translation>Pourquoi ce nombre&#x202f;?</translation>
     </message>
     <message>
         <source>Why %1</source>
@@ -21956,7 +22184,7 @@ Ajoutez-en un à la main avec Ctrl+N, ou déposez ici des fichiers d’interméd
     <name>kavela::desktop::Workspace</name>
     <message>
         <source>Save the changes to %1?</source>
-        <translation>Enregistrer les changements de %1 ?</translation>
+        <translation>Enregistrer les changements de %1&#x202f;?</translation>
     </message>
 </context>
 <context>
