@@ -116,13 +116,14 @@ QWidget* HomeWindow::tiles(const Tools& tools) {
     std::size_t below = 0; ///< the tools of the longer one of these columns
     for (const ToolGroup& group : std::span(tools).last(std::min(tools.size(), ColumnsOfRecent)))
         below = std::max(below, group.tools.size());
-    const int rows = static_cast<int>(std::ranges::max(tools, {}, [](const ToolGroup& group) {
-                                          return group.tools.size();
-                                      }).tools.size());
+    std::size_t rows = 0;
+    for (const ToolGroup& group : tools)
+        rows = std::max(rows, group.tools.size());
     const int free = static_cast<int>(below) + 1;
     // First, so that Tab comes to them before it goes through all tools.
     grid->addWidget(recentFiles(), free, std::max(0, columns - static_cast<int>(ColumnsOfRecent)),
-                    std::max(RowsOfRecent, rows + 1 - free), static_cast<int>(ColumnsOfRecent));
+                    std::max(RowsOfRecent, static_cast<int>(rows) + 1 - free),
+                    static_cast<int>(ColumnsOfRecent));
     int column = 0;
     for (const ToolGroup& group : tools) {
         auto* const heading = label(group.title, theme::titleFont(*this));
