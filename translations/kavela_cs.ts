@@ -417,7 +417,7 @@
     </message>
     <message>
         <source>User &amp;guide</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Příručka</translation>
     </message>
 </context>
 <context>
@@ -955,131 +955,131 @@
     <name>SpokenNames</name>
     <message>
         <source>Splits</source>
-        <translation type="unfinished">Mezičasy</translation>
+        <translation>Mezičasy</translation>
     </message>
     <message>
         <source>Splits of the time trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezičasy časovky</translation>
     </message>
     <message>
         <source>Time trials</source>
-        <translation type="unfinished">Časovky</translation>
+        <translation>Časovky</translation>
     </message>
     <message>
         <source>Heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozjížďky</translation>
     </message>
     <message>
         <source>Attacks</source>
-        <translation type="unfinished">Útoky</translation>
+        <translation>Útoky</translation>
     </message>
     <message>
         <source>Who attacks</source>
-        <translation type="unfinished"></translation>
+        <translation>Kdo útočí</translation>
     </message>
     <message>
         <source>Side of the attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Strana útoku</translation>
     </message>
     <message>
         <source>Place of the attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo útoku</translation>
     </message>
     <message>
         <source>Attacks by athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Útoky podle závodníků</translation>
     </message>
     <message>
         <source>Attacks by place</source>
-        <translation type="unfinished"></translation>
+        <translation>Útoky podle místa</translation>
     </message>
     <message>
         <source>Notes of the run</source>
-        <translation type="unfinished">Poznámky k jízdě</translation>
+        <translation>Poznámky k jízdě</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished">Jízdy</translation>
+        <translation>Jízdy</translation>
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished">Závodníci</translation>
+        <translation>Závodníci</translation>
     </message>
     <message>
         <source>Results by season</source>
-        <translation type="unfinished"></translation>
+        <translation>Výsledky podle sezony</translation>
     </message>
     <message>
         <source>Averages</source>
-        <translation type="unfinished">Průměry</translation>
+        <translation>Průměry</translation>
     </message>
     <message>
         <source>Ranking</source>
-        <translation type="unfinished"></translation>
+        <translation>Pořadí</translation>
     </message>
     <message>
         <source>Touches by gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Dotyky podle branek</translation>
     </message>
     <message>
         <source>What was noted of penalties</source>
-        <translation type="unfinished">Co bylo u penalizací poznamenáno</translation>
+        <translation>Co bylo poznamenáno k trestům</translation>
     </message>
     <message>
         <source>What penalties cost</source>
-        <translation type="unfinished">Co penalizace stály</translation>
+        <translation>Co tresty stojí</translation>
     </message>
     <message>
         <source>Risk and speed by thirds</source>
-        <translation type="unfinished"></translation>
+        <translation>Riziko a rychlost po třetinách</translation>
     </message>
     <message>
         <source>Losses by section</source>
-        <translation type="unfinished"></translation>
+        <translation>Ztráty podle úseků</translation>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished">Testy</translation>
+        <translation>Testy</translation>
     </message>
     <message>
         <source>Goals</source>
-        <translation type="unfinished">Cíle</translation>
+        <translation>Cíle</translation>
     </message>
     <message>
         <source>Measures of the body</source>
-        <translation type="unfinished"></translation>
+        <translation>Tělesné míry</translation>
     </message>
     <message>
         <source>Exercises</source>
-        <translation type="unfinished">Cviky</translation>
+        <translation>Cviky</translation>
     </message>
     <message>
         <source>Intervals</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervaly</translation>
     </message>
     <message>
         <source>Films compared</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnávaná videa</translation>
     </message>
     <message>
         <source>Films to choose from</source>
-        <translation type="unfinished"></translation>
+        <translation>Videa na výběr</translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished">Filmy</translation>
+        <translation>Videa</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory</translation>
     </message>
     <message>
         <source>Recent files</source>
-        <translation type="unfinished">Poslední soubory</translation>
+        <translation>Naposledy otevřené</translation>
     </message>
     <message>
         <source>Work kept</source>
-        <translation type="unfinished">Uchovaná práce</translation>
+        <translation>Uchovaná práce</translation>
     </message>
 </context>
 <context>
@@ -11484,58 +11484,58 @@ Začíná se pomocí „Přidat skupinu“.</translation>
     <name>kavela::desktop::GuideWindow</name>
     <message>
         <source>User guide – Kavela</source>
-        <translation type="unfinished"></translation>
+        <translation>Příručka – Kavela</translation>
     </message>
     <message>
         <source>User guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Příručka</translation>
     </message>
     <message>
         <source>Ways through the guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Cesty příručkou</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zpět</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished">Vpřed</translation>
+        <translation>Vpřed</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished">%1 (%2)</translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished">Hledání</translation>
+        <translation>Hledat</translation>
     </message>
     <message>
         <source>Next place</source>
-        <translation type="unfinished"></translation>
+        <translation>Další místo</translation>
     </message>
     <message>
         <source>Search the guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledat v příručce</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Obsah</translation>
     </message>
     <message>
         <source>“%1” does not come with the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ není součástí programu.</translation>
     </message>
     <message>
         <source>No chapter has these words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná kapitola tato slova neobsahuje.</translation>
     </message>
     <message numerus="yes">
         <source>In %n chapters. Enter goes to the next place.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>V %n kapitole. Enter jde na další místo.</numerusform>
+            <numerusform>Ve %n kapitolách. Enter jde na další místo.</numerusform>
+            <numerusform>V %n kapitolách. Enter jde na další místo.</numerusform>
         </translation>
     </message>
 </context>
@@ -19374,35 +19374,35 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <name>kavela::desktop::StepsBox</name>
     <message>
         <source>Hide these steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrýt tyto kroky</translation>
     </message>
     <message>
         <source>Open a race: “Try the sample season”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřete závod: „Vyzkoušet ukázkovou sezonu“.</translation>
     </message>
     <message>
         <source>Ask a number of its table why it is what it is: Alt+click, or Shift+F1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeptejte se čísla v tabulce, proč je takové: Alt+klik nebo Shift+F1.</translation>
     </message>
     <message>
         <source>See where the time was lost: Ctrl+Shift+L.</source>
-        <translation type="unfinished"></translation>
+        <translation>Podívejte se, kde se ztratil čas: Ctrl+Shift+L.</translation>
     </message>
     <message>
         <source>Play the film of a run, or take a split: Ctrl+T.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehrajte video jízdy nebo změřte mezičas: Ctrl+T.</translation>
     </message>
     <message>
         <source>Make an athlete&apos;s report or page: Ctrl+P.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytvořte zprávu nebo stránku závodníka: Ctrl+P.</translation>
     </message>
     <message>
         <source>All first steps are done. F1 tells the rest.</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny první kroky jsou hotové. Zbytek řekne F1.</translation>
     </message>
     <message>
         <source>First steps, three minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>První kroky, tři minuty</translation>
     </message>
 </context>
 <context>

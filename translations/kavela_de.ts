@@ -417,7 +417,7 @@
     </message>
     <message>
         <source>User &amp;guide</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Handbuch</translation>
     </message>
 </context>
 <context>
@@ -954,131 +954,131 @@
     <name>SpokenNames</name>
     <message>
         <source>Splits</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeiten</translation>
     </message>
     <message>
         <source>Splits of the time trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischenzeiten des Zeitfahrens</translation>
     </message>
     <message>
         <source>Time trials</source>
-        <translation type="unfinished">Zeitfahren</translation>
+        <translation>Zeitfahren</translation>
     </message>
     <message>
         <source>Heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Heats</translation>
     </message>
     <message>
         <source>Attacks</source>
-        <translation type="unfinished">Angriffe</translation>
+        <translation>Angriffe</translation>
     </message>
     <message>
         <source>Who attacks</source>
-        <translation type="unfinished"></translation>
+        <translation>Wer angreift</translation>
     </message>
     <message>
         <source>Side of the attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite des Angriffs</translation>
     </message>
     <message>
         <source>Place of the attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort des Angriffs</translation>
     </message>
     <message>
         <source>Attacks by athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Angriffe nach Athleten</translation>
     </message>
     <message>
         <source>Attacks by place</source>
-        <translation type="unfinished"></translation>
+        <translation>Angriffe nach Ort</translation>
     </message>
     <message>
         <source>Notes of the run</source>
-        <translation type="unfinished">Notizen des Laufs</translation>
+        <translation>Notizen des Laufs</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished">Läufe</translation>
+        <translation>Läufe</translation>
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished">Athleten</translation>
+        <translation>Athleten</translation>
     </message>
     <message>
         <source>Results by season</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse nach Saison</translation>
     </message>
     <message>
         <source>Averages</source>
-        <translation type="unfinished">Mittelwerte</translation>
+        <translation>Mittelwerte</translation>
     </message>
     <message>
         <source>Ranking</source>
-        <translation type="unfinished"></translation>
+        <translation>Rangliste</translation>
     </message>
     <message>
         <source>Touches by gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Berührungen nach Tor</translation>
     </message>
     <message>
         <source>What was noted of penalties</source>
-        <translation type="unfinished">Was zu Strafen notiert wurde</translation>
+        <translation>Was zu Strafen notiert wurde</translation>
     </message>
     <message>
         <source>What penalties cost</source>
-        <translation type="unfinished">Was Strafen kosten</translation>
+        <translation>Was Strafen kosten</translation>
     </message>
     <message>
         <source>Risk and speed by thirds</source>
-        <translation type="unfinished"></translation>
+        <translation>Risiko und Tempo nach Dritteln</translation>
     </message>
     <message>
         <source>Losses by section</source>
-        <translation type="unfinished"></translation>
+        <translation>Verluste nach Abschnitt</translation>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished">Tests</translation>
+        <translation>Tests</translation>
     </message>
     <message>
         <source>Goals</source>
-        <translation type="unfinished">Ziele</translation>
+        <translation>Ziele</translation>
     </message>
     <message>
         <source>Measures of the body</source>
-        <translation type="unfinished"></translation>
+        <translation>Körpermaße</translation>
     </message>
     <message>
         <source>Exercises</source>
-        <translation type="unfinished">Übungen</translation>
+        <translation>Übungen</translation>
     </message>
     <message>
         <source>Intervals</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalle</translation>
     </message>
     <message>
         <source>Films compared</source>
-        <translation type="unfinished"></translation>
+        <translation>Verglichene Filme</translation>
     </message>
     <message>
         <source>Films to choose from</source>
-        <translation type="unfinished"></translation>
+        <translation>Filme zur Auswahl</translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished">Filme</translation>
+        <translation>Filme</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien</translation>
     </message>
     <message>
         <source>Recent files</source>
-        <translation type="unfinished">Zuletzt geöffnet</translation>
+        <translation>Zuletzt geöffnet</translation>
     </message>
     <message>
         <source>Work kept</source>
-        <translation type="unfinished">Bewahrte Arbeit</translation>
+        <translation>Bewahrte Arbeit</translation>
     </message>
 </context>
 <context>
@@ -11443,57 +11443,57 @@ T Berührung, F Torfehler, 0 fehlerfrei; N und P nächstes und voriges Tor</tran
     <name>kavela::desktop::GuideWindow</name>
     <message>
         <source>User guide – Kavela</source>
-        <translation type="unfinished"></translation>
+        <translation>Handbuch – Kavela</translation>
     </message>
     <message>
         <source>User guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Handbuch</translation>
     </message>
     <message>
         <source>Ways through the guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Wege durch das Handbuch</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished">Vorwärts</translation>
+        <translation>Vorwärts</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished">%1 (%2)</translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished">Suchen</translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>Next place</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste Stelle</translation>
     </message>
     <message>
         <source>Search the guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Handbuch suchen</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Inhalt</translation>
     </message>
     <message>
         <source>“%1” does not come with the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ liegt dem Programm nicht bei.</translation>
     </message>
     <message>
         <source>No chapter has these words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Kapitel enthält diese Wörter.</translation>
     </message>
     <message numerus="yes">
         <source>In %n chapters. Enter goes to the next place.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>In %n Kapitel. Enter geht zur nächsten Stelle.</numerusform>
+            <numerusform>In %n Kapiteln. Enter geht zur nächsten Stelle.</numerusform>
         </translation>
     </message>
 </context>
@@ -19317,35 +19317,35 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <name>kavela::desktop::StepsBox</name>
     <message>
         <source>Hide these steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Schritte ausblenden</translation>
     </message>
     <message>
         <source>Open a race: “Try the sample season”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Rennen öffnen: „Beispielsaison ausprobieren“.</translation>
     </message>
     <message>
         <source>Ask a number of its table why it is what it is: Alt+click, or Shift+F1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Zahl der Tabelle fragen, warum sie so ist: Alt+Klick oder Umschalt+F1.</translation>
     </message>
     <message>
         <source>See where the time was lost: Ctrl+Shift+L.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sehen, wo die Zeit verloren ging: Strg+Umschalt+L.</translation>
     </message>
     <message>
         <source>Play the film of a run, or take a split: Ctrl+T.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Film eines Laufs abspielen oder eine Zwischenzeit nehmen: Strg+T.</translation>
     </message>
     <message>
         <source>Make an athlete&apos;s report or page: Ctrl+P.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht oder Seite eines Athleten machen: Strg+P.</translation>
     </message>
     <message>
         <source>All first steps are done. F1 tells the rest.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle ersten Schritte sind getan. F1 erzählt den Rest.</translation>
     </message>
     <message>
         <source>First steps, three minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Schritte, drei Minuten</translation>
     </message>
 </context>
 <context>

@@ -417,7 +417,7 @@
     </message>
     <message>
         <source>User &amp;guide</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guía del usuario</translation>
     </message>
 </context>
 <context>
@@ -954,131 +954,131 @@
     <name>SpokenNames</name>
     <message>
         <source>Splits</source>
-        <translation type="unfinished">Parciales</translation>
+        <translation>Parciales</translation>
     </message>
     <message>
         <source>Splits of the time trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Parciales de la contrarreloj</translation>
     </message>
     <message>
         <source>Time trials</source>
-        <translation type="unfinished">Contrarrelojes</translation>
+        <translation>Contrarrelojes</translation>
     </message>
     <message>
         <source>Heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Series</translation>
     </message>
     <message>
         <source>Attacks</source>
-        <translation type="unfinished">Ataques</translation>
+        <translation>Ataques</translation>
     </message>
     <message>
         <source>Who attacks</source>
-        <translation type="unfinished"></translation>
+        <translation>Quién ataca</translation>
     </message>
     <message>
         <source>Side of the attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Lado del ataque</translation>
     </message>
     <message>
         <source>Place of the attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar del ataque</translation>
     </message>
     <message>
         <source>Attacks by athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Ataques por deportista</translation>
     </message>
     <message>
         <source>Attacks by place</source>
-        <translation type="unfinished"></translation>
+        <translation>Ataques por lugar</translation>
     </message>
     <message>
         <source>Notes of the run</source>
-        <translation type="unfinished">Notas de la manga</translation>
+        <translation>Notas de la manga</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished">Mangas</translation>
+        <translation>Mangas</translation>
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished">Deportistas</translation>
+        <translation>Deportistas</translation>
     </message>
     <message>
         <source>Results by season</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados por temporada</translation>
     </message>
     <message>
         <source>Averages</source>
-        <translation type="unfinished">Medias</translation>
+        <translation>Promedios</translation>
     </message>
     <message>
         <source>Ranking</source>
-        <translation type="unfinished"></translation>
+        <translation>Clasificación</translation>
     </message>
     <message>
         <source>Touches by gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Toques por puerta</translation>
     </message>
     <message>
         <source>What was noted of penalties</source>
-        <translation type="unfinished">Lo que se anotó de las penalizaciones</translation>
+        <translation>Lo anotado sobre las penalizaciones</translation>
     </message>
     <message>
         <source>What penalties cost</source>
-        <translation type="unfinished">Lo que cuestan las penalizaciones</translation>
+        <translation>Lo que cuestan las penalizaciones</translation>
     </message>
     <message>
         <source>Risk and speed by thirds</source>
-        <translation type="unfinished"></translation>
+        <translation>Riesgo y velocidad por tercios</translation>
     </message>
     <message>
         <source>Losses by section</source>
-        <translation type="unfinished"></translation>
+        <translation>Pérdidas por sección</translation>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished">Pruebas</translation>
+        <translation>Pruebas</translation>
     </message>
     <message>
         <source>Goals</source>
-        <translation type="unfinished">Objetivos</translation>
+        <translation>Objetivos</translation>
     </message>
     <message>
         <source>Measures of the body</source>
-        <translation type="unfinished"></translation>
+        <translation>Medidas del cuerpo</translation>
     </message>
     <message>
         <source>Exercises</source>
-        <translation type="unfinished">Ejercicios</translation>
+        <translation>Ejercicios</translation>
     </message>
     <message>
         <source>Intervals</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalos</translation>
     </message>
     <message>
         <source>Films compared</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos comparados</translation>
     </message>
     <message>
         <source>Films to choose from</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos para elegir</translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished">Vídeos</translation>
+        <translation>Vídeos</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos</translation>
     </message>
     <message>
         <source>Recent files</source>
-        <translation type="unfinished">Archivos recientes</translation>
+        <translation>Archivos recientes</translation>
     </message>
     <message>
         <source>Work kept</source>
-        <translation type="unfinished">Trabajo conservado</translation>
+        <translation>Trabajo guardado</translation>
     </message>
 </context>
 <context>
@@ -11443,57 +11443,57 @@ Se empieza con «Añadir grupo».</translation>
     <name>kavela::desktop::GuideWindow</name>
     <message>
         <source>User guide – Kavela</source>
-        <translation type="unfinished"></translation>
+        <translation>Guía del usuario – Kavela</translation>
     </message>
     <message>
         <source>User guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Guía del usuario</translation>
     </message>
     <message>
         <source>Ways through the guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Caminos por la guía</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Atrás</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished">Adelante</translation>
+        <translation>Adelante</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished">%1 (%2)</translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished">Buscar</translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>Next place</source>
-        <translation type="unfinished"></translation>
+        <translation>Siguiente lugar</translation>
     </message>
     <message>
         <source>Search the guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en la guía</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Contenido</translation>
     </message>
     <message>
         <source>“%1” does not come with the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no viene con el programa.</translation>
     </message>
     <message>
         <source>No chapter has these words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún capítulo tiene estas palabras.</translation>
     </message>
     <message numerus="yes">
         <source>In %n chapters. Enter goes to the next place.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>En %n capítulo. Intro va al siguiente lugar.</numerusform>
+            <numerusform>En %n capítulos. Intro va al siguiente lugar.</numerusform>
         </translation>
     </message>
 </context>
@@ -19317,35 +19317,35 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <name>kavela::desktop::StepsBox</name>
     <message>
         <source>Hide these steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocultar estos pasos</translation>
     </message>
     <message>
         <source>Open a race: “Try the sample season”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir una carrera: «Probar la temporada de ejemplo».</translation>
     </message>
     <message>
         <source>Ask a number of its table why it is what it is: Alt+click, or Shift+F1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Preguntar a un número de la tabla por qué es así: Alt+clic o Mayús+F1.</translation>
     </message>
     <message>
         <source>See where the time was lost: Ctrl+Shift+L.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver dónde se perdió el tiempo: Ctrl+Mayús+L.</translation>
     </message>
     <message>
         <source>Play the film of a run, or take a split: Ctrl+T.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir el vídeo de una manga o tomar un parcial: Ctrl+T.</translation>
     </message>
     <message>
         <source>Make an athlete&apos;s report or page: Ctrl+P.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hacer el informe o la página de un deportista: Ctrl+P.</translation>
     </message>
     <message>
         <source>All first steps are done. F1 tells the rest.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los primeros pasos están hechos. F1 cuenta el resto.</translation>
     </message>
     <message>
         <source>First steps, three minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Primeros pasos, tres minutos</translation>
     </message>
 </context>
 <context>

@@ -417,7 +417,7 @@
     </message>
     <message>
         <source>User &amp;guide</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guide d’utilisation</translation>
     </message>
 </context>
 <context>
@@ -954,131 +954,131 @@
     <name>SpokenNames</name>
     <message>
         <source>Splits</source>
-        <translation type="unfinished">Inters</translation>
+        <translation>Temps intermédiaires</translation>
     </message>
     <message>
         <source>Splits of the time trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps intermédiaires du contre-la-montre</translation>
     </message>
     <message>
         <source>Time trials</source>
-        <translation type="unfinished">Contre-la-montre</translation>
+        <translation>Contre-la-montre</translation>
     </message>
     <message>
         <source>Heats</source>
-        <translation type="unfinished"></translation>
+        <translation>Séries</translation>
     </message>
     <message>
         <source>Attacks</source>
-        <translation type="unfinished">Attaques</translation>
+        <translation>Attaques</translation>
     </message>
     <message>
         <source>Who attacks</source>
-        <translation type="unfinished"></translation>
+        <translation>Qui attaque</translation>
     </message>
     <message>
         <source>Side of the attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Côté de l’attaque</translation>
     </message>
     <message>
         <source>Place of the attack</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu de l’attaque</translation>
     </message>
     <message>
         <source>Attacks by athlete</source>
-        <translation type="unfinished"></translation>
+        <translation>Attaques par athlète</translation>
     </message>
     <message>
         <source>Attacks by place</source>
-        <translation type="unfinished"></translation>
+        <translation>Attaques par lieu</translation>
     </message>
     <message>
         <source>Notes of the run</source>
-        <translation type="unfinished">Notes de la manche</translation>
+        <translation>Notes de la manche</translation>
     </message>
     <message>
         <source>Runs</source>
-        <translation type="unfinished">Manches</translation>
+        <translation>Manches</translation>
     </message>
     <message>
         <source>Athletes</source>
-        <translation type="unfinished">Athlètes</translation>
+        <translation>Athlètes</translation>
     </message>
     <message>
         <source>Results by season</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats par saison</translation>
     </message>
     <message>
         <source>Averages</source>
-        <translation type="unfinished">Moyennes</translation>
+        <translation>Moyennes</translation>
     </message>
     <message>
         <source>Ranking</source>
-        <translation type="unfinished"></translation>
+        <translation>Classement</translation>
     </message>
     <message>
         <source>Touches by gate</source>
-        <translation type="unfinished"></translation>
+        <translation>Touches par porte</translation>
     </message>
     <message>
         <source>What was noted of penalties</source>
-        <translation type="unfinished">Ce qui a été noté des pénalités</translation>
+        <translation>Ce qui a été noté des pénalités</translation>
     </message>
     <message>
         <source>What penalties cost</source>
-        <translation type="unfinished">Ce que coûtent les pénalités</translation>
+        <translation>Ce que coûtent les pénalités</translation>
     </message>
     <message>
         <source>Risk and speed by thirds</source>
-        <translation type="unfinished"></translation>
+        <translation>Risque et vitesse par tiers</translation>
     </message>
     <message>
         <source>Losses by section</source>
-        <translation type="unfinished"></translation>
+        <translation>Pertes par section</translation>
     </message>
     <message>
         <source>Tests</source>
-        <translation type="unfinished">Tests</translation>
+        <translation>Tests</translation>
     </message>
     <message>
         <source>Goals</source>
-        <translation type="unfinished">Objectifs</translation>
+        <translation>Objectifs</translation>
     </message>
     <message>
         <source>Measures of the body</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesures du corps</translation>
     </message>
     <message>
         <source>Exercises</source>
-        <translation type="unfinished">Exercices</translation>
+        <translation>Exercices</translation>
     </message>
     <message>
         <source>Intervals</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalles</translation>
     </message>
     <message>
         <source>Films compared</source>
-        <translation type="unfinished"></translation>
+        <translation>Films comparés</translation>
     </message>
     <message>
         <source>Films to choose from</source>
-        <translation type="unfinished"></translation>
+        <translation>Films au choix</translation>
     </message>
     <message>
         <source>Films</source>
-        <translation type="unfinished">Films</translation>
+        <translation>Films</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers</translation>
     </message>
     <message>
         <source>Recent files</source>
-        <translation type="unfinished">Fichiers récents</translation>
+        <translation>Fichiers récents</translation>
     </message>
     <message>
         <source>Work kept</source>
-        <translation type="unfinished">Travail conservé</translation>
+        <translation>Travail conservé</translation>
     </message>
 </context>
 <context>
@@ -11443,57 +11443,57 @@ T touche, F manquée, 0 sans pénalité&#x202f;; N et P porte suivante et préc�
     <name>kavela::desktop::GuideWindow</name>
     <message>
         <source>User guide – Kavela</source>
-        <translation type="unfinished"></translation>
+        <translation>Guide d’utilisation – Kavela</translation>
     </message>
     <message>
         <source>User guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Guide d’utilisation</translation>
     </message>
     <message>
         <source>Ways through the guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Chemins dans le guide</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Retour</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished">Vers l’avant</translation>
+        <translation>Suivant</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished">%1 (%2)</translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished">Chercher</translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>Next place</source>
-        <translation type="unfinished"></translation>
+        <translation>Passage suivant</translation>
     </message>
     <message>
         <source>Search the guide</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher dans le guide</translation>
     </message>
     <message>
         <source>Contents</source>
-        <translation type="unfinished"></translation>
+        <translation>Sommaire</translation>
     </message>
     <message>
         <source>“%1” does not come with the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas fourni avec le programme.</translation>
     </message>
     <message>
         <source>No chapter has these words.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun chapitre ne contient ces mots.</translation>
     </message>
     <message numerus="yes">
         <source>In %n chapters. Enter goes to the next place.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Dans %n chapitre. Entrée va au passage suivant.</numerusform>
+            <numerusform>Dans %n chapitres. Entrée va au passage suivant.</numerusform>
         </translation>
     </message>
 </context>
@@ -19317,35 +19317,35 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     <name>kavela::desktop::StepsBox</name>
     <message>
         <source>Hide these steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer ces étapes</translation>
     </message>
     <message>
         <source>Open a race: “Try the sample season”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une course : « Essayer la saison d’exemple ».</translation>
     </message>
     <message>
         <source>Ask a number of its table why it is what it is: Alt+click, or Shift+F1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Demander à un nombre du tableau pourquoi il est ce qu’il est : Alt+clic, ou Maj+F1.</translation>
     </message>
     <message>
         <source>See where the time was lost: Ctrl+Shift+L.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voir où le temps a été perdu : Ctrl+Maj+L.</translation>
     </message>
     <message>
         <source>Play the film of a run, or take a split: Ctrl+T.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire le film d’une manche, ou prendre un temps : Ctrl+T.</translation>
     </message>
     <message>
         <source>Make an athlete&apos;s report or page: Ctrl+P.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire le rapport ou la page d’un athlète : Ctrl+P.</translation>
     </message>
     <message>
         <source>All first steps are done. F1 tells the rest.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les premières étapes sont faites. F1 dit le reste.</translation>
     </message>
     <message>
         <source>First steps, three minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Premiers pas, trois minutes</translation>
     </message>
 </context>
 <context>
