@@ -27,6 +27,7 @@ GuideText::GuideText(QWidget* parent) : QTextBrowser(parent) {
     document()->setDocumentMargin(PageEdge);
     document()->setMarkdown(guideText());
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &GuideText::noteTop);
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, &GuideText::keepTop);
 }
 
 /// A large picture is shown small, with all its pixels on a fine screen.
@@ -54,6 +55,20 @@ void GuideText::showBlock(int block) {
     const QRectF place = document()->documentLayout()->blockBoundingRect(shown);
     verticalScrollBar()->setValue(static_cast<int>(std::floor(place.top())));
     m_top = block; // also where the end of the guide is too near to bring it to the top
+}
+
+/// Laid out anew, also later than the size changed, the text moves under the scroll bar.
+void GuideText::keepTop() {
+    if (m_isPlacing)
+        return;
+    m_isPlacing = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_isPlacing = false;
+            showBlock(m_top);
+        },
+        Qt::QueuedConnection);
 }
 
 void GuideText::noteTop() {

@@ -33,6 +33,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void keepTop();
     void noteTop();
     [[nodiscard]] QRegularExpression sought(const QString& query) const;
 

@@ -34,8 +34,7 @@ protected:
 
 bool isPainted(const QWidget& widget) {
     const QMetaObject* base = widget.metaObject();
-    if (!QByteArrayView(base->className()).startsWith("kavela::") || widget.isWindow() ||
-        widget.layout())
+    if (!QByteArrayView(base->className()).startsWith("kavela::") || widget.layout())
         return false;
     while (QByteArrayView(base->className()).startsWith("kavela::"))
         base = base->superClass();
