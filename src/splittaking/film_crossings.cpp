@@ -66,7 +66,7 @@ Alert refusedOnFilm(std::string text) {
 
 } // namespace
 
-std::optional<FilmOfRun> filmOfRun(const athletedata031& run, std::string_view film) {
+std::optional<CameraOfRun> filmOfRun(const athletedata031& run, std::string_view film) {
     const auto placeIn = [&](const std::vector<std::string>& films) -> std::optional<std::size_t> {
         const auto found = std::ranges::find(films, film);
         if (film.empty() || found == films.end())
@@ -74,14 +74,14 @@ std::optional<FilmOfRun> filmOfRun(const athletedata031& run, std::string_view f
         return static_cast<std::size_t>(found - films.begin());
     };
     if (const auto camera = placeIn(run.videoname))
-        return FilmOfRun{*camera, false};
+        return CameraOfRun{*camera, false};
     if (const auto camera = placeIn(run.fixcameras))
-        return FilmOfRun{*camera, true};
+        return CameraOfRun{*camera, true};
     return std::nullopt;
 }
 
 std::optional<CMTime> markOnFilm(const athletedata031& run, const RunMarks& marks,
-                                 const FilmOfRun& film, std::size_t mark) {
+                                 const CameraOfRun& film, std::size_t mark) {
     if (!film.isFixed) {
         if (const auto moment = ownMoment(marks, mark, film.camera))
             return moment;
@@ -95,7 +95,7 @@ std::optional<CMTime> markOnFilm(const athletedata031& run, const RunMarks& mark
 }
 
 std::optional<Alert> setMarkOnFilm(const athletedata031& run, RunMarks& marks,
-                                   const FilmOfRun& film, std::size_t mark, const CMTime& moment,
+                                   const CameraOfRun& film, std::size_t mark, const CMTime& moment,
                                    std::int64_t totalsplits) {
     if (std::cmp_greater(mark, totalsplits))
         return refusedOnFilm("The course has " + std::to_string(totalsplits) +

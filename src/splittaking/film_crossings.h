@@ -15,27 +15,28 @@
 namespace kavela {
 
 /// What a film is to a run.
-struct FilmOfRun {
+struct CameraOfRun {
     std::size_t camera = 0; ///< counted from 0, of the run's own films or of its fixed cameras
     bool isFixed = false;
 
-    friend bool operator==(const FilmOfRun&, const FilmOfRun&) = default;
+    friend bool operator==(const CameraOfRun&, const CameraOfRun&) = default;
 };
 
 /// Nothing for a run without that film, known by its bare name.
-[[nodiscard]] std::optional<FilmOfRun> filmOfRun(const athletedata031& run, std::string_view film);
+[[nodiscard]] std::optional<CameraOfRun> filmOfRun(const athletedata031& run,
+                                                   std::string_view film);
 
 /// The moment of a mark on that film: 0 is the start, 1 the first split. Nothing where it is not
 /// taken, or where the run does not tell how that film lies beside its first one.
 [[nodiscard]] std::optional<CMTime> markOnFilm(const athletedata031& run, const RunMarks& marks,
-                                               const FilmOfRun& film, std::size_t mark);
+                                               const CameraOfRun& film, std::size_t mark);
 
 /// Sets or moves a mark to a moment of that film; the other cameras' stamps follow by what other
 /// marks of the run tell. Splits before it that are not marked stay so. Returns why it cannot lie
 /// there: behind its neighbours, on a film that does not tell how it lies beside the run's first
 /// one, or beyond the splits of the course; the marks are then as they were.
 [[nodiscard]] std::optional<Alert> setMarkOnFilm(const athletedata031& run, RunMarks& marks,
-                                                 const FilmOfRun& film, std::size_t mark,
+                                                 const CameraOfRun& film, std::size_t mark,
                                                  const CMTime& moment, std::int64_t totalsplits);
 
 /// Takes a mark away without moving those behind it; nothing for one that is not there.

@@ -36,7 +36,7 @@ RunMarks markedOnBoth() {
 TEST(FilmCrossings, MarkOnASecondCameraTakesTheFirstOneAlong) {
     const athletedata031 run = twoCameras();
     const auto film = filmOfRun(run, "bank.mp4");
-    ASSERT_EQ(film, (FilmOfRun{1, false}));
+    ASSERT_EQ(film, (CameraOfRun{1, false}));
     RunMarks marks = markedOnBoth();
     EXPECT_EQ(setMarkOnFilm(run, marks, *film, 2, frame(1300), Splits), std::nullopt);
     ASSERT_EQ(marks.marks.size(), 2U);
@@ -56,7 +56,7 @@ TEST(FilmCrossings, FixedCameraMarksTheRunsOwnFilmByTheirLag) {
     run.videoname = {"run.mp4"};
     run.fixcameras = {"bridge.mp4"};
     const auto film = filmOfRun(run, "bridge.mp4");
-    ASSERT_EQ(film, (FilmOfRun{0, true}));
+    ASSERT_EQ(film, (CameraOfRun{0, true}));
     RunMarks marks;
     EXPECT_TRUE(setMarkOnFilm(run, marks, *film, 1, frame(5000), Splits)) << "not synchronised";
     markSync(run, 0, frame(100), frame(4100), std::nullopt);
@@ -67,7 +67,7 @@ TEST(FilmCrossings, FixedCameraMarksTheRunsOwnFilmByTheirLag) {
 
 TEST(FilmCrossings, KeepsTheOrderOfMarksAndTheSplitsOfTheCourse) {
     const athletedata031 run = twoCameras();
-    const FilmOfRun film{0, false};
+    const CameraOfRun film{0, false};
     RunMarks marks = markedOnBoth();
     const RunMarks before = marks;
     EXPECT_TRUE(setMarkOnFilm(run, marks, film, 2, frame(600), Splits)) << "on split 1";
