@@ -51,7 +51,7 @@ struct Point {
     double north = 0;
 };
 
-Point pointFrom(const Place& origin, double latitude, double longitude) {
+Point pointFrom(const TestPlace& origin, double latitude, double longitude) {
     constexpr double MetresPerDegree = 111320;
     return {(longitude - origin.longitude) * MetresPerDegree *
                 std::cos(origin.latitude * DegreeInRadians),

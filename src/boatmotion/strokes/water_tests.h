@@ -45,15 +45,15 @@ struct Lap {
                                            std::span<const double> marks);
 
 /// A place on the water.
-struct Place {
+struct TestPlace {
     double latitude = 0;  ///< degrees
     double longitude = 0; ///< degrees
 };
 
 /// A line on the water, from one bank to the other.
 struct StartLine {
-    Place from;
-    Place to;
+    TestPlace from;
+    TestPlace to;
 };
 
 /// The moments at which the boat's fixes cross a line, either way, on the clock of the analysis.
