@@ -97,12 +97,15 @@ OpensAs splitFileOpensAs(const ContentKind& document, const QString& path) {
 }
 
 std::optional<OpensAs> documentOpensAs(const ContentKind& document, const QString& path) {
-    static const std::map<std::string_view, OpensAs> Kinds{
-        {"selection races", OpensAs::Selection}, {"team", OpensAs::Team},
-        {"planning", OpensAs::Planning},         {"test results", OpensAs::Tests},
-        {"raw session", OpensAs::Recording},     {"smart session", OpensAs::Session},
-        {"test session", OpensAs::TestSession},  {"comparison", OpensAs::Comparison},
-        {"path", OpensAs::Tracking}};
+    static const std::map<std::string_view, OpensAs> Kinds{{"selection races", OpensAs::Selection},
+                                                           {"team", OpensAs::Team},
+                                                           {"planning", OpensAs::Planning},
+                                                           {"test results", OpensAs::Tests},
+                                                           {"raw session", OpensAs::Recording},
+                                                           {"smart session", OpensAs::Session},
+                                                           {"test session", OpensAs::TestSession},
+                                                           {"comparison", OpensAs::Comparison},
+                                                           {"path", OpensAs::Tracking}};
     if (document.kind == "split file")
         return splitFileOpensAs(document, path);
     const auto kind = Kinds.find(document.kind);

@@ -90,15 +90,16 @@ SplitFileWindows::SplitFileWindows(Desktop& program, Workspace& workspace, const
 /// films of its folder.
 void SplitFileWindows::openFilm(const QString& path) {
     const QString file = splitFileWith(path);
-    (void)openTaking(file.isEmpty() ? QFileInfo(path).absolutePath() : file, [path](TakingWindow& window) {
-        const std::string film = QFileInfo(path).fileName().toStdString();
-        const TakingDocument& document = window.document();
-        for (int run = 0; run < document.runCount(); ++run)
-            if (std::ranges::count(document.run(run).videoname, film) > 0) {
-                window.selectRun(run);
-                return;
-            }
-    });
+    (void)openTaking(file.isEmpty() ? QFileInfo(path).absolutePath() : file,
+                     [path](TakingWindow& window) {
+                         const std::string film = QFileInfo(path).fileName().toStdString();
+                         const TakingDocument& document = window.document();
+                         for (int run = 0; run < document.runCount(); ++run)
+                             if (std::ranges::count(document.run(run).videoname, film) > 0) {
+                                 window.selectRun(run);
+                                 return;
+                             }
+                     });
 }
 
 TakingWindow* SplitFileWindows::openTaking(const QString& path, const Then& then) {

@@ -32,13 +32,14 @@ struct FolderScan {
     std::vector<std::uint64_t> hashes; ///< of the contents of these files
     std::size_t read = 0;              ///< files that were read now, the others being known
     std::vector<ScanFault> failed;
-    std::vector<ScanCopy> copies; ///< that do not count
+    std::vector<ScanCopy> copies;               ///< that do not count
     std::vector<std::filesystem::path> folders; ///< that were walked, for whoever watches them
     bool isCancelled = false;
 };
 
 /// Reads what the paths mean, folders with all below them. A file that several of them lead to
-/// counts once, and so does one of which copies lie elsewhere: a backup is no second race. A file that is named itself is read whatever its name.
+/// counts once, and so does one of which copies lie elsewhere: a backup is no second race. A file
+/// that is named itself is read whatever its name.
 [[nodiscard]] FolderScan scanPaths(std::span<const std::filesystem::path> paths,
                                    const ScanOptions& options = {});
 

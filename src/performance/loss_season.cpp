@@ -19,7 +19,8 @@ namespace {
 
 constexpr std::size_t MostClips = 3;
 constexpr std::size_t MostToTrain = 3;
-constexpr std::array<std::string_view, 3> Verdicts{KAVELA_TEXT("losing"), KAVELA_TEXT("gaining"), KAVELA_TEXT("unclear")};
+constexpr std::array<std::string_view, 3> Verdicts{KAVELA_TEXT("losing"), KAVELA_TEXT("gaining"),
+                                                   KAVELA_TEXT("unclear")};
 constexpr std::array<std::string_view, 5> SeasonFields{"kind", "third", "upstream", "direction",
                                                        "style"};
 /// The keys that have an order of their own; labels come as they are met.

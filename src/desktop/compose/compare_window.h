@@ -114,7 +114,7 @@ private:
     QTimer m_soon;                     ///< several edits and sizes in a row make one preview
     std::vector<std::uint64_t> m_jobs; ///< of this window
     bool m_isAligning = false;
-    bool m_isCutToFour = false; ///< more films were asked for
+    bool m_isCutToFour = false;                           ///< more films were asked for
     std::array<std::vector<composepoint001>, 2> m_points; ///< clicked so far, of both films
     std::vector<QPointF> m_crosses;
     BackgroundWork m_work;

@@ -1,7 +1,7 @@
 #include "desktop/shell/settings_window.h"
 
-#include "desktop/shell/fault_label.h"
 #include "common/text.h"
+#include "desktop/shell/fault_label.h"
 #include "desktop/shell/language.h"
 #include "desktop/shell/number_box.h"
 #include "desktop/shell/qt_text.h"
