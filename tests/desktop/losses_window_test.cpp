@@ -325,6 +325,23 @@ TEST_F(LossesWindowTest, WritesThePageForATelephoneFromTheSavedFiles) {
     EXPECT_TRUE(m_window.findChild<QMessageBox*>("pageWritten"));
 }
 
+TEST_F(LossesWindowTest, EnterWritesThePageThatADialogIsFor) {
+    ASSERT_TRUE(open({add("first.kvx", threeRuns())}, 1));
+    m_window.askForPhonePage();
+    auto* const asked = m_window.findChild<PhonePageDialog*>();
+    ASSERT_TRUE(asked);
+    PhonePageDialog telephone(asked->request(), &m_window);
+    asked->reject();
+    telephone.show();
+    QTest::keyClick(&telephone, Qt::Key_Return);
+    EXPECT_EQ(telephone.result(), QDialog::Accepted);
+    AthletePageDialog paper(state(), m_window.season().query(), &m_window);
+    const QSignalSpy saves(&paper, &AthletePageDialog::saveRequested);
+    paper.show();
+    QTest::keyClick(&paper, Qt::Key_Return);
+    EXPECT_EQ(saves.count(), 1);
+}
+
 TEST_F(LossesWindowTest, WritesTheAthletesPageOfOneRaceOrOfAll) {
     const QString first = add("first.kvx", threeRuns());
     splittakerdata031 second = threeRuns();

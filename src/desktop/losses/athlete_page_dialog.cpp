@@ -55,6 +55,7 @@ void AthletePageDialog::makeLayout() {
     form->addRow(tr("&From"), m_scope);
     form->addRow(m_remark);
     form->addRow(buttons);
+    m_save->setDefault(true); // once it is part of the dialog: a button asks that for it
     const bool hasSeveral = m_state.facts().files().size() > 1;
     m_scope->setEnabled(hasSeveral);
     m_scope->setCurrentIndex(hasSeveral ? 0 : 1);
@@ -63,7 +64,6 @@ void AthletePageDialog::makeLayout() {
 void AthletePageDialog::makeButtons() {
     m_preview = new QPushButton(tr("&Preview and print…"));
     m_save = new QPushButton(tr("&Save as PDF…"));
-    m_save->setDefault(true);
     connect(m_preview, &QPushButton::clicked, this, &AthletePageDialog::previewRequested);
     connect(m_save, &QPushButton::clicked, this, &AthletePageDialog::saveRequested);
 }

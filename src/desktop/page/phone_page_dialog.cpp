@@ -68,7 +68,6 @@ PhonePageDialog::PhonePageDialog(PhonePageRequest request, QWidget* parent)
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     m_save = buttons->addButton(tr("&Save…"), QDialogButtonBox::AcceptRole);
     m_save->setObjectName("save");
-    m_save->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* const form = new QFormLayout(this);
@@ -76,6 +75,7 @@ PhonePageDialog::PhonePageDialog(PhonePageRequest request, QWidget* parent)
     form->addRow(m_clips);
     form->addRow(m_remark);
     form->addRow(buttons);
+    m_save->setDefault(true); // once it is part of the dialog: a button asks that for it
     connect(m_crews, &QComboBox::currentTextChanged, this, &PhonePageDialog::showChoice);
     showChoice();
 }

@@ -105,7 +105,6 @@ StatisticsDialog::StatisticsDialog(const statisticsplanning_v3& before,
         buttons->addButton(tr("&Replace the statistics"), QDialogButtonBox::AcceptRole);
     replace->setObjectName("replace");
     replace->setEnabled(isAny);
-    replace->setDefault(isAny);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* const column = new QVBoxLayout(this);
@@ -117,8 +116,10 @@ StatisticsDialog::StatisticsDialog(const statisticsplanning_v3& before,
         column->addWidget(leftOutTable(leftOut, this), 1);
     column->addWidget(buttons);
     resize(760, 520);
-    if (isAny)
-        replace->setFocus();
+    if (!isAny)
+        return;
+    replace->setDefault(true); // once it is part of the dialog: a button asks that for it
+    replace->setFocus();
 }
 
 } // namespace kavela::desktop
