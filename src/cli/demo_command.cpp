@@ -5,7 +5,6 @@
 #include "common/error.h"
 #include "common/safe_file.h"
 #include "common/text.h"
-#include "sample/season.h"
 
 #include <fstream>
 #include <iterator>
@@ -26,8 +25,7 @@ bool wouldReplace(const fs::path& target, const SampleFile& file) {
     return content != file.content;
 }
 
-int writeSeason(const fs::path& folder) {
-    const std::vector<SampleFile> season = sampleSeason();
+int writeSeason(const fs::path& folder, const std::vector<SampleFile>& season) {
     for (const SampleFile& file : season) {
         if (wouldReplace(folder / file.name, file)) {
             logLine(say("The file {} exists and is not the sample's. Choose another folder.",
@@ -49,11 +47,10 @@ int writeSeason(const fs::path& folder) {
                : NotDone;
 }
 
-int demo(const fs::path& folder, bool withFilms, const Painting* painting) {
-    const Painting* const filming = neededIf(withFilms, painting);
+int demo(const fs::path& folder, bool withFilms, const Painting& painting) {
     try {
-        const int status = writeSeason(folder);
-        return status == Done && filming ? filming->writeSeasonFilms(folder) : status;
+        const int status = writeSeason(folder, painting.sampleFiles());
+        return status == Done && withFilms ? painting.writeSeasonFilms(folder) : status;
     } catch (const FileError& error) {
         logLine("Failed to create file");
         logLine(
@@ -76,7 +73,7 @@ void addDemo(Command program, int& status, const Painting* painting) {
                    "camera/sprint.kvx, and stand beside these files: 64 films, 86 MB in all, made "
                    "in about a minute. A film that is there already "
                    "stays as it is, so that a call that was stopped can be repeated.");
-    command.onRun([=, &status] { status = demo(*folder, *withFilms, painting); });
+    command.onRun([=, &status] { status = demo(*folder, *withFilms, needed(painting)); });
 }
 
 } // namespace kavela::cli

@@ -8,6 +8,7 @@
 #include "performance/season.h"
 #include "results/categorization.h"
 #include "results/selection_records.h"
+#include "sample/season.h"
 #include "splitdata/document.h"
 
 #include <array>
@@ -109,6 +110,9 @@ public:
     /// Cuts the clips that lie beside an athlete's page, with a progress bar; an earlier clip of
     /// the same run is replaced. False, after a message for each, when one could not be cut.
     [[nodiscard]] virtual bool arePageClipsCut(const std::vector<page::ClipOrder>& clips) const = 0;
+
+    /// The files of the sample season, which is too much for a program that is built for a table.
+    [[nodiscard]] virtual std::vector<SampleFile> sampleFiles() const = 0;
 
     /// Makes the films of the sample season beside their split files, with a progress bar; a film
     /// that is there already stays. Returns the exit status; throws FileError when a film cannot be

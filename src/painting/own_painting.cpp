@@ -78,6 +78,10 @@ bool OwnPainting::arePageClipsCut(const std::vector<page::ClipOrder>& clips) con
     return painting::arePageClipsCut(clips);
 }
 
+std::vector<SampleFile> OwnPainting::sampleFiles() const {
+    return sampleSeason();
+}
+
 int OwnPainting::writeSeasonFilms(const fs::path& folder) const {
     return painting::writeSeasonFilms(folder);
 }

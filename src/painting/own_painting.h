@@ -22,6 +22,7 @@ public:
     [[nodiscard]] bool areSeasonPagesWritten(const Season& season,
                                              const std::filesystem::path& folder) const override;
     [[nodiscard]] bool arePageClipsCut(const std::vector<page::ClipOrder>& clips) const override;
+    [[nodiscard]] std::vector<SampleFile> sampleFiles() const override;
     [[nodiscard]] int writeSeasonFilms(const std::filesystem::path& folder) const override;
     [[nodiscard]] int composeFilm(const std::filesystem::path& job,
                                   const std::filesystem::path& output) const override;
