@@ -48,7 +48,10 @@ DocumentChoiceDialog::DocumentChoiceDialog(DocumentKind kind, const QStringList&
         new QLabel(recent.isEmpty() ? tr("None was opened yet.") : tr("Opened before:")));
     column->addWidget(m_recent, 1);
     column->addWidget(buttons);
-    (recent.isEmpty() ? add : open)->setDefault(true);
+    QPushButton* const likely = recent.isEmpty() ? add : open;
+    likely->setDefault(true);
+    if (recent.isEmpty())
+        likely->setFocus(); // else the one that was made first has it, and Enter
     m_recent->setVisible(!recent.isEmpty());
     m_recent->setCurrentRow(0);
     resize(520, recent.isEmpty() ? sizeHint().height() : 320);
