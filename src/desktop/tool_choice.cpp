@@ -37,9 +37,8 @@ void ToolChoice::choose(const ToolKind& tool) const {
     if (tool.choice == ToolKind::Choice::Folder)
         chosen = {QFileDialog::getExistingDirectory(m_program.front(), kind.title)};
     else
-        chosen = QFileDialog::getOpenFileNames(
-            m_program.front(), kind.title, QString(),
-            Desktop::tr("%1 (*.%2);;All files (*)").arg(kind.plural, kind.suffix));
+        chosen = QFileDialog::getOpenFileNames(m_program.front(), kind.title, QString(),
+                                               kind.openFilter());
     chosen.removeAll(QString());
     if (tool.opens == OpensAs::Race || tool.opens == OpensAs::Recording)
         m_program.openAll(chosen);
@@ -57,9 +56,8 @@ void ToolChoice::chooseFilesOrFolder(const ToolKind& tool) const {
         {Desktop::tr("Split files…"), Desktop::tr("A folder…")}, m_program.front());
     QStringList chosen;
     if (choice == 0)
-        chosen = QFileDialog::getOpenFileNames(
-            m_program.front(), kind.title, QString(),
-            Desktop::tr("%1 (*.%2);;All files (*)").arg(kind.plural, kind.suffix));
+        chosen = QFileDialog::getOpenFileNames(m_program.front(), kind.title, QString(),
+                                               kind.openFilter());
     else if (choice == 1)
         chosen = {QFileDialog::getExistingDirectory(m_program.front(), kind.title)};
     chosen.removeAll(QString());

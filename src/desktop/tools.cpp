@@ -22,6 +22,7 @@
 #include "desktop/tracking/tracking_window.h"
 #include "desktop/watertests/tests_window.h"
 #include "planning/messages.h"
+#include "splittaking/video_names.h"
 
 #include <QCoreApplication>
 #include <QDate>
@@ -47,6 +48,15 @@ ToolWindow* makeEditor(Workspace& workspace, const Autosave& autosave) {
 template <class Window>
 ToolWindow* makeReader(Workspace& workspace, const Autosave& /*autosave*/) {
     return new Window(workspace);
+}
+
+/// What cameras write beside mp4.
+QStringList filmSuffixes() {
+    QStringList suffixes;
+    for (const std::string_view extension : videoExtensions())
+        if (extension != "mp4")
+            suffixes.append(QString::fromLatin1(extension));
+    return suffixes;
 }
 
 std::vector<ToolKind> makeTools() {
@@ -90,7 +100,7 @@ std::vector<ToolKind> makeTools() {
          tr("A folder of films played, compared in step, tagged, renamed and cut."),
          "films",
          Choice::Folder,
-         {tr("Open a folder of films"), tr("Films"), "mp4", {}},
+         {tr("Open a folder of films"), tr("Films"), "mp4", {}, filmSuffixes()},
          makeReader<FilmsWindow>},
         {"cross",
          OpensAs::Cross,
@@ -114,7 +124,7 @@ std::vector<ToolKind> makeTools() {
          tr("Boat, gate or head followed through a film: its path and speed."),
          "tracking",
          Choice::Files,
-         {tr("Open films"), tr("Films"), "mp4", {}},
+         {tr("Open films"), tr("Films"), "mp4", {}, filmSuffixes()},
          makeEditor<TrackingWindow>},
         {"slit",
          OpensAs::SlitPicture,
@@ -122,7 +132,7 @@ std::vector<ToolKind> makeTools() {
          tr("A finish camera made of the film of a tripod: every crossing of a line at a glance."),
          "slit",
          Choice::Files,
-         {tr("Open films of a fixed camera"), tr("Films"), "mp4", {}},
+         {tr("Open films of a fixed camera"), tr("Films"), "mp4", {}, filmSuffixes()},
          makeReader<SlitWindow>},
         {"team",
          OpensAs::Team,
@@ -194,7 +204,7 @@ std::vector<ToolKind> makeTools() {
          tr("Any list of results, sorted, tinted, reckoned with, and whose it is."),
          "tables",
          Choice::None,
-         {tr("Open lists"), tr("Lists"), "csv", {}},
+         {tr("Open lists"), tr("Lists"), "csv", {}, {"tsv", "txt", "xlsx", "ods", "kvx"}},
          makeReader<TablesWindow>},
         {"season",
          OpensAs::Season,

@@ -151,6 +151,10 @@ std::pair<std::size_t, std::size_t> nextSeparator(std::string_view text) {
 
 } // namespace
 
+std::span<const std::string_view> videoExtensions() {
+    return VideoExtensions;
+}
+
 bool isVideoFile(std::string_view fileName) {
     const std::size_t dot = fileName.find_last_of('.');
     if (dot == std::string_view::npos || fileName.starts_with('.'))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,9 @@ struct FilmFacts {
     std::optional<int> bib;
     std::optional<int> number; ///< of the film or the run
 };
+
+/// The extensions of films, in small letters and without the point, the most common first.
+[[nodiscard]] std::span<const std::string_view> videoExtensions();
 
 /// Whether a file is a film by its extension, of those that cameras and phones write. Files that
 /// systems hide, with a dot in front, are none.

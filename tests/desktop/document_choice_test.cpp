@@ -1,6 +1,7 @@
 #include "desktop/shell/document_choice.h"
 
 #include "common/temp_folder.h"
+#include "desktop/tools.h"
 
 #include <gtest/gtest.h>
 
@@ -50,6 +51,18 @@ TEST(DocumentChoice, NamesANewDocumentWhereItWillBeSaved) {
     EXPECT_TRUE(dialog.choice().isNew);
 }
 
+TEST(DocumentChoice, ShowsTheFilmsOfEveryCamera) {
+    int films = 0;
+    for (const desktop::ToolKind& tool : desktop::toolKinds()) {
+        if (tool.documents.suffix != "mp4")
+            continue;
+        ++films;
+        EXPECT_TRUE(tool.documents.openFilter().contains(" *.mov ")) << tool.title.toStdString();
+    }
+    EXPECT_GE(films, 3);
+    EXPECT_TRUE(Teams.openFilter().startsWith("Teams (*.kvteam);;"));
+}
+
 TEST(DocumentChoice, ChoosesNothingWhenNamingIsGivenUp) {
     DocumentChoiceDialog dialog(Teams, {}, nullptr);
     dialog.show();
@@ -57,7 +70,8 @@ TEST(DocumentChoice, ChoosesNothingWhenNamingIsGivenUp) {
         if (auto* const naming = QApplication::activeModalWidget())
             naming->close();
     });
-    QTest::keyClick(&dialog, Qt::Key_Return); // new is what is left to do
+    ASSERT_TRUE(dialog.focusWidget());
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Return); // new is what is left to do
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_TRUE(dialog.choice().path.isEmpty());
 }

@@ -14,6 +14,12 @@
 
 namespace kavela::desktop {
 
+QString DocumentKind::openFilter() const {
+    const QStringList suffixes = QStringList{suffix} + further;
+    return DocumentChoiceDialog::tr("%1 (*.%2);;All files (*)")
+        .arg(plural, suffixes.join(QStringLiteral(" *.")));
+}
+
 DocumentChoiceDialog::DocumentChoiceDialog(DocumentKind kind, const QStringList& recent,
                                            QWidget* parent)
     : QDialog(parent), m_kind(std::move(kind)), m_recent(new QListWidget) {
@@ -79,9 +85,8 @@ void DocumentChoiceDialog::nameNew() {
 }
 
 void DocumentChoiceDialog::openOther() {
-    const QString path = QFileDialog::getOpenFileName(
-        this, m_kind.title, m_folder,
-        tr("%1 (*.%2);;All files (*)").arg(m_kind.plural, m_kind.suffix));
+    const QString path =
+        QFileDialog::getOpenFileName(this, m_kind.title, m_folder, m_kind.openFilter());
     if (path.isEmpty())
         return;
     m_choice = {path, false};

@@ -9,10 +9,14 @@ namespace kavela::desktop {
 
 /// How the documents of a tool are called where one is chosen.
 struct DocumentKind {
-    QString title;    ///< of the dialog
-    QString plural;   ///< in the list of kinds of files
-    QString suffix;   ///< without the point
-    QString proposed; ///< the name of a new one, without suffix
+    QString title;            ///< of the dialog
+    QString plural;           ///< in the list of kinds of files
+    QString suffix;           ///< without the point
+    QString proposed;         ///< the name of a new one, without suffix
+    QStringList further = {}; ///< other suffixes of what the tool opens too, without the point
+
+    /// The kinds of files that a dialog offers where one is opened.
+    [[nodiscard]] QString openFilter() const;
 };
 
 /// A document to open, or to begin under a name that was chosen. An empty path for none.
