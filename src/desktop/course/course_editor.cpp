@@ -1,6 +1,7 @@
 #include "desktop/course/course_editor.h"
 
 #include "desktop/course/course_part_form.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/typing.h"
 #include "desktop/shell/workspace.h"
@@ -126,7 +127,7 @@ QWidget* CourseEditor::makeTools() {
         std::pair{CourseTool::Line, tr("&Line of a run")},
         std::pair{CourseTool::Text, tr("&Text")}};
     auto* box = new QWidget;
-    box->setFixedWidth(SideWidth);
+    box->setFixedWidth(grown(*this, SideWidth));
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(theme::SmallSpacing);
@@ -147,7 +148,7 @@ QWidget* CourseEditor::makeTools() {
 
 QWidget* CourseEditor::makeGround() {
     auto* box = new QWidget;
-    box->setFixedWidth(SideWidth);
+    box->setFixedWidth(grown(*this, SideWidth));
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);
     auto* const photo = new QPushButton(tr("&Photo below…"));

@@ -2,6 +2,7 @@
 
 #include "desktop/charts/series_chart.h"
 #include "desktop/planning/ranking/ranking_charts.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
@@ -59,7 +60,7 @@ RankingSection::RankingSection(QWidget* parent)
     buttons->addWidget(buttonFor(m_add, tr("Add release"), "addRelease"));
     buttons->addWidget(buttonFor(remove, tr("Remove"), "removeRelease"));
     auto* const left = new QWidget;
-    left->setFixedWidth(TableWidth);
+    left->setFixedWidth(grown(*this, TableWidth));
     auto* const column = new QVBoxLayout(left);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(theme::Spacing);
