@@ -20,6 +20,7 @@
 #include <QUndoCommand>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 
 namespace kavela::desktop {
@@ -127,7 +128,6 @@ QWidget* CourseEditor::makeTools() {
         std::pair{CourseTool::Line, tr("&Line of a run")},
         std::pair{CourseTool::Text, tr("&Text")}};
     auto* box = new QWidget;
-    box->setFixedWidth(grown(*this, SideWidth));
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(theme::SmallSpacing);
@@ -143,12 +143,12 @@ QWidget* CourseEditor::makeTools() {
         setTool(static_cast<CourseTool>(tool));
         m_canvas->setFocus();
     });
+    box->setFixedWidth(std::max(grown(*this, SideWidth), box->minimumSizeHint().width()));
     return box;
 }
 
 QWidget* CourseEditor::makeGround() {
     auto* box = new QWidget;
-    box->setFixedWidth(grown(*this, SideWidth));
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);
     auto* const photo = new QPushButton(tr("&Photo below…"));
@@ -164,6 +164,7 @@ QWidget* CourseEditor::makeGround() {
             usePhoto(path);
     });
     connect(white, &QPushButton::clicked, this, &CourseEditor::useWhite);
+    box->setFixedWidth(std::max(grown(*this, SideWidth), box->minimumSizeHint().width()));
     return box;
 }
 

@@ -13,6 +13,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace kavela::desktop {
 
 namespace {
@@ -60,12 +62,12 @@ RankingSection::RankingSection(QWidget* parent)
     buttons->addWidget(buttonFor(m_add, tr("Add release"), "addRelease"));
     buttons->addWidget(buttonFor(remove, tr("Remove"), "removeRelease"));
     auto* const left = new QWidget;
-    left->setFixedWidth(grown(*this, TableWidth));
     auto* const column = new QVBoxLayout(left);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(theme::Spacing);
     column->addLayout(buttons);
     column->addWidget(m_table, 1);
+    left->setFixedWidth(std::max(grown(*this, TableWidth), left->minimumSizeHint().width()));
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(theme::LargeSpacing);
