@@ -76,6 +76,17 @@ protected:
         return silent;
     }
 
+    /// Those that the keyboard goes to. The edge itself, which comes and goes, is none of them.
+    static QList<QWidget*> paintedParts(const QWidget& window) {
+        QList<QWidget*> parts;
+        for (QWidget* const part : window.findChildren<QWidget*>())
+            if (part->window() == &window && part->focusPolicy() != Qt::NoFocus &&
+                !part->focusProxy() && desktop::isPainted(*part) && part->isEnabled() &&
+                !part->visibleRegion().isEmpty())
+                parts.append(part);
+        return parts;
+    }
+
     static QString example(const char* name) { return QString(KAVELA_EXAMPLES) + '/' + name; }
 
     TempFolder m_folder;
@@ -163,11 +174,7 @@ TEST_F(SpokenNamesTest, GoWithAnEdgeOnEveryPaintedPartOfEveryTool) {
         window->show();
         QApplication::setActiveWindow(window.get());
         QApplication::processEvents();
-        for (QWidget* const part : window->findChildren<QWidget*>()) {
-            if (part->window() != window.get() || part->focusPolicy() == Qt::NoFocus ||
-                part->focusProxy() || !desktop::isPainted(*part) || !part->isEnabled() ||
-                part->visibleRegion().isEmpty())
-                continue;
+        for (QWidget* const part : paintedParts(*window)) {
             part->setFocus();
             if (!part->hasFocus())
                 continue; // it hands it on to another part
