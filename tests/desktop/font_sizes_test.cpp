@@ -157,7 +157,8 @@ TEST_P(FontSizesTest, LeavePaintedRowsTheRoomOfTheirLines) {
     const int line = board.fontMetrics().height();
     const int small = QFontMetrics(desktop::theme::captionFont(board)).height();
     desktop::OrderBoard::Order order;
-    order.seen = {{{"Ana", "AN", 1, Qt::red}, 0}, {{"Bea", "BE", 2, Qt::blue}, 1}};
+    order.seen.push_back({{"Ana", "AN", 1, Qt::red}, 0});
+    order.seen.push_back({{"Bea", "BE", 2, Qt::blue}, 1});
     board.resize(board.sizeHint());
     board.show(order);
     EXPECT_GE(board.sizeHint().height() / 4, line + small);
