@@ -3,7 +3,12 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/charts/chart_plot.h"
+#include "desktop/course/course_editor.h"
 #include "desktop/desktop.h"
+#include "desktop/help/guide_window.h"
+#include "desktop/shell/focus_edge.h"
+#include "desktop/shell/login_dialog.h"
+#include "desktop/shell/settings_window.h"
 #include "desktop/shell/tool_window.h"
 #include "desktop/tools.h"
 #include "desktop/update/offer_dialog.h"
@@ -21,7 +26,10 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <initializer_list>
 #include <memory>
+#include <optional>
+#include <vector>
 
 /// Who hears the program instead of seeing it is told what each part is.
 namespace kavela::test {
@@ -68,6 +76,17 @@ protected:
         return silent;
     }
 
+    /// Those that the keyboard goes to. The edge itself, which comes and goes, is none of them.
+    static QList<QWidget*> paintedParts(const QWidget& window) {
+        QList<QWidget*> parts;
+        for (QWidget* const part : window.findChildren<QWidget*>())
+            if (part->window() == &window && part->focusPolicy() != Qt::NoFocus &&
+                !part->focusProxy() && desktop::isPainted(*part) && part->isEnabled() &&
+                !part->visibleRegion().isEmpty())
+                parts.append(part);
+        return parts;
+    }
+
     static QString example(const char* name) { return QString(KAVELA_EXAMPLES) + '/' + name; }
 
     TempFolder m_folder;
@@ -109,6 +128,65 @@ TEST_F(SpokenNamesTest, AreThoseOfEveryToolThatOpensWithoutAFile) {
         EXPECT_EQ(silentPartsOf(*window).join('\n'), "") << tool.kind.toStdString();
         window->hide();
     }
+}
+
+/// The page on which a window waits for its file: what most see of it first.
+TEST_F(SpokenNamesTest, AreThoseOfEveryToolBeforeItsFileIsOpened) {
+    const desktop::Autosave kept(QString::fromStdString((m_folder.path() / "kept").string()));
+    for (const desktop::ToolKind& tool : desktop::toolKinds()) {
+        const std::unique_ptr<desktop::ToolWindow> window(tool.make(m_workspace, kept));
+        window->setAttribute(Qt::WA_DeleteOnClose, false);
+        window->show();
+        EXPECT_EQ(silentPartsOf(*window).join('\n'), "") << tool.title.toStdString();
+        window->hide();
+    }
+}
+
+TEST_F(SpokenNamesTest, AreThoseOfEveryPartOfTheDialogs) {
+    infodata031 race;
+    race.gates = 4;
+    race.upGates = {2};
+    desktop::CourseEditor course(race, m_workspace, nullptr);
+    desktop::SettingsWindow settings(m_workspace);
+    desktop::GuideWindow guide(m_workspace);
+    desktop::LoginDialog login("films.example.org", std::nullopt, nullptr);
+    for (QWidget* const window :
+         std::initializer_list<QWidget*>{&course, &settings, &guide, &login}) {
+        window->setAttribute(Qt::WA_DeleteOnClose, false);
+        window->show();
+        EXPECT_EQ(silentPartsOf(*window).join('\n'), "") << window->metaObject()->className();
+        window->hide();
+    }
+}
+
+/// Wherever Tab leads, in every tool.
+TEST_F(SpokenNamesTest, GoWithAnEdgeOnEveryPaintedPartOfEveryTool) {
+    const desktop::Autosave kept(QString::fromStdString((m_folder.path() / "kept").string()));
+    infodata031 race;
+    race.gates = 4;
+    std::vector<std::unique_ptr<QWidget>> windows;
+    windows.push_back(std::make_unique<desktop::CourseEditor>(race, m_workspace, nullptr));
+    for (const desktop::ToolKind& tool : desktop::toolKinds())
+        windows.emplace_back(tool.make(m_workspace, kept));
+    int painted = 0;
+    for (const auto& window : windows) {
+        window->setAttribute(Qt::WA_DeleteOnClose, false);
+        window->show();
+        QApplication::setActiveWindow(window.get());
+        QApplication::processEvents();
+        for (QWidget* const part : paintedParts(*window)) {
+            part->setFocus();
+            if (!part->hasFocus())
+                continue; // it hands it on to another part
+            ++painted;
+            const QImage with = part->grab().toImage();
+            EXPECT_EQ(with.pixelColor(0, with.height() / 2),
+                      part->palette().color(QPalette::Highlight))
+                << part->metaObject()->className();
+        }
+        window->hide();
+    }
+    EXPECT_GT(painted, 0);
 }
 
 /// A painted part shows nothing of the focus by itself.

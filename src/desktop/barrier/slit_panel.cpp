@@ -1,6 +1,7 @@
 #include "desktop/barrier/slit_panel.h"
 
 #include "desktop/shell/fault_label.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 
@@ -56,8 +57,8 @@ SlitPanel::SlitPanel()
 }
 
 void SlitPanel::makeLayout() {
-    setMinimumWidth(300);
-    m_progress->setMaximumHeight(18);
+    setMinimumWidth(grown(*this, 300));
+    m_progress->setMaximumHeight(grown(*this, 18));
     auto* const lines = new QHBoxLayout;
     lines->addWidget(m_line, 1);
     lines->addWidget(new QLabel(tr("marks")));

@@ -1,5 +1,6 @@
 #include "desktop/barrier/slit_view.h"
 
+#include "desktop/shell/growth.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
@@ -62,10 +63,11 @@ QString clockText(double seconds, int decimals) {
 }
 
 void paintLabel(QPainter& painter, double x, int y, const QString& text, const QColor& colour) {
+    const int height = std::max(SlitLabelHeight, painter.fontMetrics().height());
     const int width = painter.fontMetrics().horizontalAdvance(text) + 2 * theme::SmallSpacing;
     const int left = std::clamp(static_cast<int>(x) - width / 2, 0,
                                 std::max(painter.device()->width() - width, 0));
-    const QRect box(left, y, width, SlitLabelHeight);
+    const QRect box(left, y, width, height);
     painter.fillRect(box, SlitVeil);
     painter.setPen(colour);
     painter.drawText(box, Qt::AlignCenter, text);
@@ -118,7 +120,7 @@ double SlitView::columns() const {
 }
 
 QRect SlitView::area() const {
-    return rect().adjusted(0, SlitRulerHeight, 0, 0);
+    return rect().adjusted(0, grown(*this, SlitRulerHeight), 0, 0);
 }
 
 double SlitView::columnOf(double seconds) const {
@@ -295,13 +297,15 @@ void SlitView::paintRuler(QPainter& painter) const {
     const double to = slitSecondsAt(*m_index, 0, columnAt(width()));
     if (to <= from)
         return;
-    const double step = rulerStep(width() / (to - from));
+    const double step = rulerStep(width() / (to - from) / growthOf(*this));
+    const int ruler = grown(*this, SlitRulerHeight);
+    const int half = grown(*this, 45);
     painter.setPen(SlitLetters);
     for (double number = std::ceil(from / step); number * step <= to; ++number) {
         const double seconds = number * step;
         const double x = placeOf(columnOf(seconds));
-        painter.drawLine(QPointF(x, SlitRulerHeight - 5), QPointF(x, SlitRulerHeight));
-        painter.drawText(QRectF(x - 45, 0, 90, SlitRulerHeight - 5), Qt::AlignCenter,
+        painter.drawLine(QPointF(x, ruler - 5), QPointF(x, ruler));
+        painter.drawText(QRectF(x - half, 0, 2 * half, ruler - 5), Qt::AlignCenter,
                          clockText(seconds, step < 0.1 ? 2
                                             : step < 1 ? 1
                                                        : 0));
@@ -316,7 +320,7 @@ void SlitView::paintGuesses(QPainter& painter) const {
             continue;
         painter.setPen(QPen(GuessColour, 1, Qt::DashLine));
         painter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
-        paintLabel(painter, x, area.bottom() - SlitLabelHeight,
+        paintLabel(painter, x, area.bottom() - grown(*this, SlitLabelHeight),
                    tr("%1 %").arg(std::lround(guess.confidence * 100)), GuessColour);
     }
 }
@@ -330,7 +334,8 @@ void SlitView::paintMarks(QPainter& painter) const {
             continue;
         painter.setPen(QPen(MarkColour, mark.isCurrent ? 3 : 1));
         painter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
-        paintLabel(painter, x, area.top() + SlitLabelHeight + 2, mark.label, MarkColour);
+        paintLabel(painter, x, area.top() + grown(*this, SlitLabelHeight) + 2, mark.label,
+                   MarkColour);
     }
 }
 

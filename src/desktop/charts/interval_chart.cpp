@@ -220,7 +220,7 @@ void IntervalChart::paintMark(QCPPainter& painter, std::size_t index) const {
     painter.setFont(font);
     painter.setPen(palette().color(QPalette::Text));
     const double height = QFontMetrics(font).height();
-    painter.drawText(QRectF(x - 40, pixel(mark.high) - height - 1, 80, height), Qt::AlignCenter,
+    painter.drawText(QRectF(x - 80, pixel(mark.high) - height - 1, 160, height), Qt::AlignCenter,
                      valueText(std::round(mark.value * 10) / 10)); // as fine as it is known
 }
 
@@ -258,7 +258,7 @@ void IntervalChart::paintSectionStart(QCPPainter& painter, std::size_t mark) con
     painter.setPen(QPen(theme::hairline(palette()), 1, Qt::DashLine));
     painter.drawLine(QPointF(x, plot.top()), QPointF(x, plot.bottom() + RiverHeight));
     painter.setPen(theme::quietText(palette()));
-    painter.drawText(QRectF(x + 3, plot.top(), 60, painter.fontMetrics().height()),
+    painter.drawText(QRectF(x + 3, plot.top(), 160, painter.fontMetrics().height()),
                      Qt::AlignLeft | Qt::AlignVCenter,
                      QStringLiteral("S%1").arg(*m_content.marks[mark].section));
 }

@@ -1,5 +1,6 @@
 #include "desktop/compose/range_line.h"
 
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QMouseEvent>
@@ -30,11 +31,11 @@ RangeLine::RangeLine(QWidget* parent) : QWidget(parent) {
 }
 
 QSize RangeLine::sizeHint() const {
-    return {400, LineHeight};
+    return {400, grown(*this, LineHeight)};
 }
 
 QSize RangeLine::minimumSizeHint() const {
-    return {120, LineHeight};
+    return {120, grown(*this, LineHeight)};
 }
 
 void RangeLine::setTimes(const CommonRange& choice, const CommonRange& shown,
@@ -125,33 +126,34 @@ void RangeLine::mouseReleaseEvent(QMouseEvent* /*event*/) {
 
 void RangeLine::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    const QRect bar(SideRoom, BarTop, std::max(width() - 2 * SideRoom, 1), BarHeight);
+    const int top = grown(*this, BarTop); // below the titles
+    const QRect bar(SideRoom, top, std::max(width() - 2 * SideRoom, 1), BarHeight);
     painter.fillRect(bar, theme::surface(palette()));
     if (m_choice.to <= m_choice.from)
         return;
     const int from = placeOf(m_shown.from);
     const int to = placeOf(m_shown.to);
-    painter.fillRect(QRect(from, BarTop, to - from, BarHeight), theme::Accent);
+    painter.fillRect(QRect(from, top, to - from, BarHeight), theme::Accent);
     painter.setPen(palette().color(QPalette::WindowText));
     painter.setFont(theme::captionFont(*this));
     int free = 0; // where the next title may begin
     for (const SplitMoment& moment : m_splits) {
         const int place = placeOf(moment.common);
-        painter.drawLine(place, BarTop - 3, place, BarTop + BarHeight + 3);
+        painter.drawLine(place, top - 3, place, top + BarHeight + 3);
         const QString title = m_titles.value(static_cast<int>(moment.split));
         const int length = painter.fontMetrics().horizontalAdvance(title);
         const int left = std::clamp(place - length / 2, 0, std::max(width() - length, 0));
         if (left >= free) {
-            painter.drawText(left, BarTop - 5, title);
+            painter.drawText(left, top - 5, title);
             free = left + length + theme::SmallSpacing;
         }
     }
     for (const int grip : {from, to})
-        painter.fillRect(QRect(grip - 2, BarTop - 3, 4, BarHeight + 6),
+        painter.fillRect(QRect(grip - 2, top - 3, 4, BarHeight + 6),
                          palette().color(QPalette::WindowText));
     painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
     const int at = placeOf(m_position);
-    painter.drawLine(at, BarTop - 2, at, height());
+    painter.drawLine(at, top - 2, at, height());
 }
 
 } // namespace kavela::desktop

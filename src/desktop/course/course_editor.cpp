@@ -1,6 +1,7 @@
 #include "desktop/course/course_editor.h"
 
 #include "desktop/course/course_part_form.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/typing.h"
 #include "desktop/shell/workspace.h"
@@ -19,6 +20,7 @@
 #include <QUndoCommand>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 
 namespace kavela::desktop {
@@ -126,7 +128,6 @@ QWidget* CourseEditor::makeTools() {
         std::pair{CourseTool::Line, tr("&Line of a run")},
         std::pair{CourseTool::Text, tr("&Text")}};
     auto* box = new QWidget;
-    box->setFixedWidth(SideWidth);
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(theme::SmallSpacing);
@@ -142,12 +143,12 @@ QWidget* CourseEditor::makeTools() {
         setTool(static_cast<CourseTool>(tool));
         m_canvas->setFocus();
     });
+    box->setFixedWidth(std::max(grown(*this, SideWidth), box->minimumSizeHint().width()));
     return box;
 }
 
 QWidget* CourseEditor::makeGround() {
     auto* box = new QWidget;
-    box->setFixedWidth(SideWidth);
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);
     auto* const photo = new QPushButton(tr("&Photo below…"));
@@ -163,6 +164,7 @@ QWidget* CourseEditor::makeGround() {
             usePhoto(path);
     });
     connect(white, &QPushButton::clicked, this, &CourseEditor::useWhite);
+    box->setFixedWidth(std::max(grown(*this, SideWidth), box->minimumSizeHint().width()));
     return box;
 }
 

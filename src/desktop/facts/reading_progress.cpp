@@ -1,6 +1,7 @@
 #include "desktop/facts/reading_progress.h"
 
 #include "desktop/facts/watched_facts.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QHBoxLayout>
@@ -11,7 +12,7 @@ namespace kavela::desktop {
 
 ReadingProgress::ReadingProgress(WatchedFacts& facts, QWidget* parent)
     : QWidget(parent), m_bar(new QProgressBar) {
-    m_bar->setMaximumWidth(200);
+    m_bar->setMaximumWidth(grown(*m_bar, 200));
     auto* const stop = new QPushButton(tr("Stop reading"));
     stop->setObjectName("stop");
     auto* const line = new QHBoxLayout(this);

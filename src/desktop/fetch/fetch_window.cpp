@@ -4,6 +4,7 @@
 #include "desktop/fetch/fetch_actions.h"
 #include "desktop/fetch/site_list.h"
 #include "desktop/shell/fault_label.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/login_dialog.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/scroll_page.h"
@@ -113,7 +114,7 @@ void FetchWindow::makeParts() {
     rememberSizes(*splitter, workspace(), "fetch");
     setCentralWidget(splitter);
     m_progress = new QProgressBar;
-    m_progress->setMaximumWidth(200);
+    m_progress->setMaximumWidth(grown(*this, 200));
     m_progress->hide();
     m_status = new QLabel;
     m_status->setTextFormat(Qt::PlainText);
@@ -175,7 +176,7 @@ QWidget* FetchWindow::makeSide() {
     column->addWidget(m_sites);
     column->addStretch();
     auto* const side = new ScrollPage(page);
-    side->setMinimumWidth(280);
+    side->setMinimumWidth(grown(*this, 280));
     return side;
 }
 

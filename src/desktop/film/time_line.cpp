@@ -1,6 +1,7 @@
 #include "desktop/film/time_line.h"
 
 #include "desktop/film/film_deck.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QApplication>
@@ -53,7 +54,11 @@ TimeLine::~TimeLine() {
 }
 
 QSize TimeLine::sizeHint() const {
-    return {400, LineHeight};
+    return {400, grown(*this, LineHeight)};
+}
+
+int TimeLine::flagHeight() const {
+    return grown(*this, FlagHeight);
 }
 
 void TimeLine::setMarks(std::vector<LineMark> marks) {
@@ -97,7 +102,7 @@ double TimeLine::momentAt(int place) const {
 }
 
 std::optional<std::size_t> TimeLine::markAt(QPoint place) const {
-    if (place.y() > FlagHeight)
+    if (place.y() > flagHeight())
         return std::nullopt;
     for (std::size_t i = 0; i < m_marks.size(); ++i)
         if (std::abs(placeOf(m_marks[i].stamp.seconds()) - place.x()) <= MarkReach)
@@ -108,7 +113,8 @@ std::optional<std::size_t> TimeLine::markAt(QPoint place) const {
 void TimeLine::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const int top = FlagHeight + (LineHeight - FlagHeight - RailHeight) / 2;
+    const int flags = flagHeight();
+    const int top = flags + (height() - flags - RailHeight) / 2;
     const QRect rail(Side, top, width() - 2 * Side, RailHeight);
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme::hairline(palette()));
@@ -125,7 +131,7 @@ void TimeLine::paintEvent(QPaintEvent*) {
     paintExpected(painter);
     paintMarks(painter);
     painter.setPen(QPen(palette().color(QPalette::WindowText), 2));
-    painter.drawLine(place, FlagHeight, place, LineHeight - theme::SmallSpacing);
+    painter.drawLine(place, flags, place, height() - theme::SmallSpacing);
 }
 
 /// Fainter than any mark: nothing was taken there yet.
@@ -133,23 +139,25 @@ void TimeLine::paintExpected(QPainter& painter) const {
     if (!m_expected || *m_expected < m_deck.start() || *m_expected > m_deck.end())
         return;
     const int place = placeOf(*m_expected);
+    const int flags = flagHeight();
     painter.setPen(QPen(theme::quietText(palette()), 1, Qt::DashLine));
-    painter.drawLine(place, FlagHeight - 2, place, LineHeight - theme::Spacing);
+    painter.drawLine(place, flags - 2, place, height() - theme::Spacing);
     painter.setFont(theme::captionFont(*this));
-    painter.drawText(QRect(place - FlagHeight, 0, 2 * FlagHeight, FlagHeight - 2), Qt::AlignCenter,
+    painter.drawText(QRect(place - flags, 0, 2 * flags, flags - 2), Qt::AlignCenter,
                      m_expectedLabel);
 }
 
 void TimeLine::paintMarks(QPainter& painter) const {
     painter.setFont(theme::captionFont(*this));
+    const int flags = flagHeight();
     for (std::size_t i = 0; i < m_marks.size(); ++i) {
         const int place = placeOf(m_marks[i].stamp.seconds());
         const bool isSelected = m_selected == i;
         const QColor colour = isSelected ? theme::Accent : palette().color(QPalette::WindowText);
         const int width = painter.fontMetrics().horizontalAdvance(m_marks[i].label) + 8;
-        const QRect flag(place - width / 2, 0, width, FlagHeight - 2);
+        const QRect flag(place - width / 2, 0, width, flags - 2);
         painter.setPen(QPen(colour, isSelected ? 2 : 1));
-        painter.drawLine(place, FlagHeight - 2, place, LineHeight - theme::Spacing);
+        painter.drawLine(place, flags - 2, place, height() - theme::Spacing);
         painter.setBrush(isSelected ? colour : palette().color(QPalette::Base));
         painter.drawRoundedRect(flag, 3, 3);
         painter.setPen(isSelected ? QColor(Qt::white) : colour);

@@ -56,6 +56,7 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    [[nodiscard]] int flagHeight() const;
     [[nodiscard]] std::optional<std::size_t> markAt(QPoint place) const;
     struct Range {
         double start = 0;

@@ -12,6 +12,7 @@
 #include "desktop/find/search_places.h"
 #include "desktop/find/unknown_names.h"
 #include "desktop/shell/file_names.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/scroll_page.h"
 #include "desktop/shell/shown_number.h"
@@ -101,7 +102,7 @@ QWidget* FindWindow::makeSide() {
     column->setSpacing(theme::Spacing);
     column->addWidget(m_places);
     column->addWidget(m_side, 1);
-    side->setMinimumWidth(280);
+    side->setMinimumWidth(grown(*this, 280));
     return side;
 }
 

@@ -8,6 +8,7 @@
 #include "desktop/folder/films_actions.h"
 #include "desktop/folder/rename_films_dialog.h"
 #include "desktop/folder/tag_mode.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
@@ -90,7 +91,7 @@ QWidget* FilmsWindow::makeTagBar() {
     m_tagName->setObjectName("tagName");
     m_tagName->setEditable(true);
     m_tagName->setInsertPolicy(QComboBox::NoInsert);
-    m_tagName->setMinimumWidth(160);
+    m_tagName->setMinimumWidth(grown(*this, 160));
     auto* const words = new QLabel(tr("&Tag that M sets:"));
     words->setBuddy(m_tagName);
     row->addWidget(words);

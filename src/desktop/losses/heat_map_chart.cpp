@@ -7,6 +7,7 @@
 #include "desktop/losses/loss_texts.h"
 #include "desktop/losses/row_ticker.h"
 #include "desktop/race/cell_colours.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <algorithm>
@@ -77,7 +78,7 @@ void HeatMapChart::fill() {
     for (std::size_t section = 0; section < m_map.sections; ++section)
         titles << 'S' + QString::number(section + 1);
     m_sections->setTitles(titles);
-    m_rows->setNames(m_names, canvas().yAxis->tickLabelFont(), WidestName);
+    m_rows->setNames(m_names, canvas().yAxis->tickLabelFont(), grown(*this, WidestName));
     canvas().yAxis->grid()->setPen(Qt::NoPen);
     canvas().xAxis->grid()->setPen(Qt::NoPen);
     seriesLabels().setLabels({});

@@ -11,6 +11,7 @@
 #include "desktop/losses/season_page.h"
 #include "desktop/page/phone_pages.h"
 #include "desktop/shell/file_names.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
@@ -103,7 +104,7 @@ QWidget* LossesWindow::makeRunPage() {
 
 void LossesWindow::makeStatus() {
     m_progress = new QProgressBar;
-    m_progress->setMaximumWidth(180);
+    m_progress->setMaximumWidth(grown(*this, 180));
     m_stop = new QPushButton(tr("Stop reading"));
     m_status = new QLabel;
     m_status->setTextFormat(Qt::PlainText);

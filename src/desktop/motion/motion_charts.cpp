@@ -3,6 +3,7 @@
 #include "desktop/charts/plot_interaction.h"
 #include "desktop/charts/sensor_chart.h"
 #include "desktop/motion/motion_recordings.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 
@@ -45,7 +46,7 @@ MotionCharts::MotionCharts(MotionRecordings& recordings, QWidget* parent)
 SensorChart* MotionCharts::makeChart(CurveKind kind) {
     auto* chart = new SensorChart;
     chart->setTitle(QStringLiteral("%1 (%2)").arg(titleOf(kind), unitOf(kind)));
-    chart->setMinimumHeight(LeastHeight);
+    chart->setMinimumHeight(grown(*chart, LeastHeight));
     chart->hide();
     connectChart(*chart);
     return chart;

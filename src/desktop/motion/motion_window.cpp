@@ -7,6 +7,7 @@
 #include "desktop/motion/recording_list.h"
 #include "desktop/motion/recording_panel.h"
 #include "desktop/shell/dropped_files.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
@@ -59,7 +60,7 @@ void MotionWindow::makeParts() {
     rememberSizes(*splitter, workspace(), "motion");
     setCentralWidget(splitter);
     m_progress = new QProgressBar;
-    m_progress->setMaximumWidth(180);
+    m_progress->setMaximumWidth(grown(*this, 180));
     m_progress->hide();
     m_status = new QLabel;
     m_openConverted = new QPushButton(tr("Open it"));
@@ -97,7 +98,7 @@ QWidget* MotionWindow::makeSide() {
     column->addLayout(buttons);
     column->addWidget(heading(tr("At the cursor")));
     column->addWidget(m_values, 4);
-    side->setMinimumWidth(280);
+    side->setMinimumWidth(grown(*this, 280));
     return side;
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/penalties/penalty_filter.h"
 
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
 
@@ -32,7 +33,7 @@ PenaltyFilter::PenaltyFilter(QWidget* parent) : QWidget(parent) {
         box->setObjectName(Names[part]);
         box->addItem(tr("All"), QString());
         box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-        box->setMaximumWidth(WidestBox);
+        box->setMaximumWidth(grown(*this, WidestBox));
         auto* label = new QLabel(titles[part]);
         label->setBuddy(box);
         row->addWidget(label);

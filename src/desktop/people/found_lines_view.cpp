@@ -1,6 +1,7 @@
 #include "desktop/people/found_lines_view.h"
 
 #include "desktop/people/person_delegate.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QComboBox>
@@ -31,7 +32,7 @@ FoundLinesView::FoundLinesView(FoundLines& lines, QWidget* parent)
 void FoundLinesView::fitColumns() {
     resizeColumnsToContents();
     for (int column = 0; column < m_lines.remarkColumn(); ++column)
-        setColumnWidth(column, std::min(columnWidth(column), WidestColumn));
+        setColumnWidth(column, std::min(columnWidth(column), grown(*this, WidestColumn)));
     // A choice brings results where there was none to measure.
     const int result = fontMetrics().horizontalAdvance("99. 999.99 (50)") + theme::Spacing;
     for (const int column : {m_lines.wasColumn(), m_lines.nowColumn()})

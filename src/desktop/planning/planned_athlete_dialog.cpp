@@ -1,6 +1,7 @@
 #include "desktop/planning/planned_athlete_dialog.h"
 
 #include "desktop/shell/fault_label.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QDialogButtonBox>
@@ -71,7 +72,7 @@ PlannedAthleteDialog::PlannedAthleteDialog(const athletesplanning_v6& athlete, Q
     connect(buttons, &QDialogButtonBox::accepted, this, &PlannedAthleteDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     form->addRow(buttons);
-    setMinimumWidth(420);
+    setMinimumWidth(grown(*this, 420));
     showPicture();
 }
 

@@ -1,5 +1,7 @@
 #include "desktop/race/frozen_table.h"
 
+#include "desktop/shell/growth.h"
+
 #include <QFrame>
 #include <QHeaderView>
 #include <QScopedValueRollback>
@@ -178,7 +180,8 @@ void FrozenTable::fitColumns() {
         if (isColumnHidden(column) || m_sized.contains(column))
             continue;
         resizeColumnToContents(column);
-        setColumnWidth(column, std::min(columnWidth(column) + ColumnPadding, WidestColumn));
+        setColumnWidth(column,
+                       std::min(columnWidth(column) + ColumnPadding, grown(*this, WidestColumn)));
     }
     arrange();
 }

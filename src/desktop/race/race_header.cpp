@@ -1,6 +1,7 @@
 #include "desktop/race/race_header.h"
 
 #include "desktop/race/race_document.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
 
@@ -71,7 +72,7 @@ RaceHeader::RaceHeader(RaceDocument& document, QWidget* parent)
     m_name->setObjectName("name");
     m_name->setPlaceholderText(tr("Name"));
     m_name->setClearButtonEnabled(true);
-    m_name->setMaximumWidth(200);
+    m_name->setMaximumWidth(grown(*this, 200));
     for (QComboBox* box : {m_phase, m_category})
         connect(box, &QComboBox::currentIndexChanged, this, &RaceHeader::applyFilter);
     connect(m_name, &QLineEdit::textChanged, this, &RaceHeader::applyFilter);

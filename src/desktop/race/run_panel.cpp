@@ -3,6 +3,7 @@
 #include "analysis/analysis_reasons.h"
 #include "analysis/standing.h"
 #include "desktop/race/race_document.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
@@ -88,7 +89,7 @@ RunPanel::RunPanel(RaceDocument& document, QWidget* parent)
     m_empty->setForegroundRole(QPalette::PlaceholderText);
     makeLayout();
     makeAnswers();
-    setMinimumWidth(240);
+    setMinimumWidth(grown(*this, 240));
     showRun(std::nullopt, std::nullopt);
 }
 

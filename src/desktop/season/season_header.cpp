@@ -1,6 +1,7 @@
 #include "desktop/season/season_header.h"
 
 #include "desktop/season/shown_season.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
 #include "splitdata/athlete_keys.h"
@@ -33,7 +34,7 @@ SeasonHeader::SeasonHeader(QWidget* parent)
     m_first->setObjectName("firstYear");
     m_last->setObjectName("lastYear");
     m_athlete->setObjectName("athlete");
-    m_athlete->setMaximumWidth(WidestAthlete);
+    m_athlete->setMaximumWidth(grown(*this, WidestAthlete));
     m_races->setObjectName("races");
     m_add->setObjectName("addRaces");
     for (QComboBox* const box : {m_category, m_first, m_last, m_athlete})

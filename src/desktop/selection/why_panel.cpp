@@ -2,6 +2,7 @@
 
 #include "desktop/selection/ranking_model.h"
 #include "desktop/selection/selection_document.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
@@ -71,7 +72,7 @@ WhyPanel::WhyPanel(const SelectionDocument& document, const RankingModel& model,
     column->addWidget(m_parts, 1);
     column->addWidget(m_sum);
     column->addWidget(m_wayUp);
-    setMinimumWidth(300);
+    setMinimumWidth(grown(*this, 300));
     showRow(-1);
 }
 

@@ -2,6 +2,7 @@
 
 #include "desktop/charts/chart_colours.h"
 #include "desktop/sessions/session_texts.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QPainter>
@@ -96,11 +97,12 @@ void BalanceView::paintRow(QPainter& painter, const QRectF& area, const Row& row
     painter.drawText(QRectF(area.left(), area.top(), area.width(), line), Qt::AlignHCenter,
                      row.name + ": " + differenceText(row.left, row.right));
     painter.setFont(this->font());
-    const QRectF bars(area.left() + ValueWidth, area.top() + line, area.width() - 2 * ValueWidth,
+    const double values = ValueWidth * growthOf(*this);
+    const QRectF bars(area.left() + values, area.top() + line, area.width() - 2 * values,
                       BarHeight);
-    painter.drawText(QRectF(area.left(), bars.top(), ValueWidth, line), Qt::AlignLeft,
+    painter.drawText(QRectF(area.left(), bars.top(), values, line), Qt::AlignLeft,
                      valueText(row.left, row.decimals));
-    painter.drawText(QRectF(bars.right(), bars.top(), ValueWidth, line), Qt::AlignRight,
+    painter.drawText(QRectF(bars.right(), bars.top(), values, line), Qt::AlignRight,
                      valueText(row.right, row.decimals));
     const double most = std::max(row.left.value_or(0), row.right.value_or(0));
     if (most <= 0)

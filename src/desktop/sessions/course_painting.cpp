@@ -2,6 +2,7 @@
 #include "desktop/sessions/colour_scale.h"
 #include "desktop/sessions/course_map.h"
 #include "desktop/sessions/session_texts.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QPainter>
@@ -135,15 +136,18 @@ void CourseMap::paintNorth(QPainter& painter) const {
     painter.drawPolygon(
         QPolygonF{top, top + QPointF(5, 14), top + QPointF(0, 10), top + QPointF(-5, 14)});
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(QRectF(top.x() - 10, top.y() + 14, 20, 16), Qt::AlignCenter, tr("N"));
+    const double line = painter.fontMetrics().height();
+    painter.drawText(QRectF(top.x() - line, top.y() + 14, 2 * line, line), Qt::AlignCenter,
+                     tr("N"));
 }
 
 void CourseMap::paintLegend(QPainter& painter) const {
     const bool isSpeed = m_colouring == Colouring::Speed;
     const QString name = isSpeed ? tr("Speed (m/s)") : tr("Stroke rate (1/min)");
     const double lineHeight = painter.fontMetrics().height();
-    const QRectF bar(width() - theme::LargeSpacing - LegendWidth,
-                     height() - theme::Spacing - lineHeight - LegendHeight, LegendWidth,
+    const double legendWidth = LegendWidth * growthOf(*this);
+    const QRectF bar(width() - theme::LargeSpacing - legendWidth,
+                     height() - theme::Spacing - lineHeight - LegendHeight, legendWidth,
                      LegendHeight);
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(QRectF(bar.left(), bar.top() - lineHeight - 2, bar.width(), lineHeight),

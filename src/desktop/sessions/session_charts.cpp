@@ -2,6 +2,7 @@
 
 #include "desktop/charts/sensor_chart.h"
 #include "desktop/sessions/session_series.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QLabel>
@@ -105,7 +106,7 @@ void SessionCharts::addLane(SessionMeasure measure) {
     auto* chart = new SensorChart;
     chart->setTitle(nameOf(measure));
     chart->setDragZooms(false);
-    chart->setMinimumHeight(LaneHeight);
+    chart->setMinimumHeight(grown(*chart, LaneHeight));
     m_column->addWidget(chart, 1);
     const auto begin = [this] { return m_figures.moments.from; };
     connect(chart, &SensorChart::viewChanged, this, [this, chart](double from, double to) {
@@ -142,7 +143,7 @@ void SessionCharts::showLanes() {
         if (!isShown(lane.measure))
             continue;
         lane.chart->setTimeAxisVisible(isLast);
-        lane.chart->setMinimumHeight(LaneHeight + (isLast ? AxisHeight : 0));
+        lane.chart->setMinimumHeight(grown(*lane.chart, LaneHeight + (isLast ? AxisHeight : 0)));
         isLast = false;
     }
 }

@@ -1,5 +1,6 @@
 #include "desktop/sessions/track_offset_dialog.h"
 
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QDateTimeEdit>
@@ -77,7 +78,7 @@ void TrackOffsetDialog::layOut() {
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     form->addRow(buttons);
     m_join->setDefault(true); // once it is part of the dialog: a button asks that for it
-    setMinimumWidth(460);
+    setMinimumWidth(grown(*this, 460));
 }
 
 double TrackOffsetDialog::offset() const {

@@ -3,6 +3,7 @@
 #include "common/error.h"
 #include "desktop/share/share_actions.h"
 #include "desktop/shell/fault_label.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/login_dialog.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_table.h"
@@ -155,7 +156,7 @@ void ShareWindow::makeParts() {
     column->addWidget(m_table, 1);
     setCentralWidget(main);
     m_progress = new QProgressBar;
-    m_progress->setMaximumWidth(200);
+    m_progress->setMaximumWidth(grown(*this, 200));
     m_progress->hide();
     m_status = new QLabel;
     m_status->setTextFormat(Qt::PlainText);

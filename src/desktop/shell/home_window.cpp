@@ -1,6 +1,7 @@
 #include "desktop/shell/home_window.h"
 
 #include "desktop/shell/dropped_files.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/help_menu.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/tile.h"
@@ -150,7 +151,7 @@ QWidget* HomeWindow::recentFiles() {
     m_noRecent->setWordWrap(true);
     m_recent = new QListWidget;
     m_recent->setObjectName("recentFiles");
-    m_recent->setMinimumHeight(LeastRecentHeight);
+    m_recent->setMinimumHeight(grown(*this, LeastRecentHeight));
     connect(m_recent, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
         emit m_workspace.openRequested(item->data(Qt::UserRole).toString());
     });
@@ -168,7 +169,7 @@ QWidget* HomeWindow::keptWork() {
     column->addWidget(label(tr("Work kept"), theme::titleFont(*this)));
     m_kept = new QListWidget;
     m_kept->setObjectName("keptWork");
-    m_kept->setMaximumHeight(LeastRecentHeight);
+    m_kept->setMaximumHeight(grown(*this, LeastRecentHeight));
     connect(m_kept, &QListWidget::itemActivated, this, [this] {
         const auto row = static_cast<std::size_t>(m_kept->currentRow());
         if (row >= m_works.size())

@@ -1,5 +1,6 @@
 #include "desktop/shell/login_dialog.h"
 
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QCheckBox>
@@ -39,7 +40,7 @@ LoginDialog::LoginDialog(const QString& server, const std::optional<fetch::WebLo
     form->addRow(m_keep);
     form->addRow(note);
     form->addRow(buttons);
-    setMinimumWidth(420);
+    setMinimumWidth(grown(*this, 420));
     (m_user->text().isEmpty() ? m_user : m_password)->setFocus();
 }
 

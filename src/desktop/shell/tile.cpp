@@ -1,5 +1,6 @@
 #include "desktop/shell/tile.h"
 
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QPainter>
@@ -46,7 +47,7 @@ Tile::Tile(const Tool& tool, QWidget* parent) : QAbstractButton(parent), m_purpo
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    setMaximumWidth(TileWidth);
+    setMaximumWidth(grown(*this, TileWidth));
     connect(this, &QAbstractButton::clicked, this, tool.open);
 }
 
@@ -54,11 +55,11 @@ QSize Tile::sizeHint() const {
     const int title = QFontMetrics(theme::titleFont(*this)).height();
     const int line = QFontMetrics(theme::captionFont(*this)).height();
     const int words = title + theme::SmallSpacing + PurposeLines * line;
-    return {TileWidth, std::max(words, IconSize) + 2 * Margin};
+    return {grown(*this, TileWidth), std::max(words, IconSize) + 2 * Margin};
 }
 
 QSize Tile::minimumSizeHint() const {
-    return {LeastWidth, sizeHint().height()};
+    return {grown(*this, LeastWidth), sizeHint().height()};
 }
 
 void Tile::paintEvent(QPaintEvent*) {

@@ -1,5 +1,6 @@
 #include "desktop/taking/gate_strip.h"
 
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QHelpEvent>
@@ -30,15 +31,15 @@ GateStrip::GateStrip(QWidget* parent) : QWidget(parent), m_rows(WidestGate, Narr
 }
 
 QSize GateStrip::sizeHint() const {
-    return {400, m_rows.count() == 1 ? GateHeight : m_rows.count() * GateRowHeight};
+    return {400, grown(*this, m_rows.count() == 1 ? GateHeight : m_rows.count() * GateRowHeight)};
 }
 
 QSize GateStrip::minimumSizeHint() const {
-    return {NarrowestGate, sizeHint().height()};
+    return {grown(*this, NarrowestGate), sizeHint().height()};
 }
 
 void GateStrip::fitRows() {
-    if (m_rows.fit(m_gates, width()))
+    if (m_rows.fit(m_gates, width(), growthOf(*this)))
         updateGeometry();
 }
 

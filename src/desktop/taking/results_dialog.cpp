@@ -1,5 +1,6 @@
 #include "desktop/taking/results_dialog.h"
 
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
@@ -77,7 +78,7 @@ ResultsDialog::ResultsDialog(const std::vector<athletedata031>& runs, const Resu
         auto* box = new QPlainTextEdit(told);
         box->setObjectName("resultsRemarks");
         box->setReadOnly(true);
-        box->setMaximumHeight(90);
+        box->setMaximumHeight(grown(*this, 90));
         column->addWidget(box);
     }
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);

@@ -1,5 +1,6 @@
 #include "desktop/taking/split_bar.h"
 
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QMouseEvent>
@@ -22,15 +23,16 @@ SplitBar::SplitBar(QWidget* parent) : QWidget(parent), m_rows(WidestSection, Nar
 }
 
 QSize SplitBar::sizeHint() const {
-    return {400, m_rows.count() == 1 ? SectionHeight : m_rows.count() * SectionRowHeight};
+    return {400,
+            grown(*this, m_rows.count() == 1 ? SectionHeight : m_rows.count() * SectionRowHeight)};
 }
 
 QSize SplitBar::minimumSizeHint() const {
-    return {NarrowestSection, sizeHint().height()};
+    return {grown(*this, NarrowestSection), sizeHint().height()};
 }
 
 void SplitBar::fitRows() {
-    if (m_rows.fit(static_cast<int>(m_sections.size()), width()))
+    if (m_rows.fit(static_cast<int>(m_sections.size()), width(), growthOf(*this)))
         updateGeometry();
 }
 

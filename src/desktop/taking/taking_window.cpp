@@ -6,6 +6,7 @@
 #include "desktop/film/time_line.h"
 #include "desktop/race/frozen_table.h"
 #include "desktop/shell/dropped_files.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/refused_entry.h"
 #include "desktop/shell/tables/column_table.h"
@@ -113,7 +114,7 @@ QWidget* TakingWindow::makeRuns() {
     m_runTable->setEditTriggers(QAbstractItemView::DoubleClicked |
                                 QAbstractItemView::EditKeyPressed);
     m_list = new QWidget;
-    m_list->setMinimumWidth(220); // that names are read in the list
+    m_list->setMinimumWidth(grown(*this, 220)); // that names are read in the list
     auto* column = new QVBoxLayout(m_list);
     column->setContentsMargins(0, 0, theme::Spacing, 0);
     column->setSpacing(theme::Spacing);

@@ -1,6 +1,7 @@
 #include "desktop/team/athlete_panel.h"
 
 #include "common/folded_text.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/team_document.h"
@@ -104,7 +105,7 @@ void AthletePanel::makeTable() {
     m_table->sortBy(NameColumn, Qt::AscendingOrder);
     m_table->stretch({NameColumn});
     m_table->keepOneChosen();
-    setMinimumWidth(250); // that names are read in the list
+    setMinimumWidth(grown(*this, 250)); // that names are read in the list
     connect(m_table, &ColumnTable::chosen, this, &AthletePanel::athleteChosen);
 }
 

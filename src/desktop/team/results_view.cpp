@@ -1,5 +1,6 @@
 #include "desktop/team/results_view.h"
 
+#include "desktop/shell/growth.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/event_delegate.h"
@@ -91,7 +92,7 @@ void ResultsView::makeTree() {
     m_tree->header()->setStretchLastSection(true);
     const QList<int> widths{84, 100, 42, 44, 54};
     for (int column = 0; column < SeasonModel::Columns; ++column)
-        m_tree->header()->resizeSection(column, widths.value(column, PhaseWidth));
+        m_tree->header()->resizeSection(column, grown(*this, widths.value(column, PhaseWidth)));
     m_hint = quietLabel();
     m_hint->setObjectName("hint");
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {

@@ -1,5 +1,6 @@
 #include "desktop/team/summary_panel.h"
 
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/team_edits.h"
 #include "desktop/why/why_popup.h"
@@ -98,7 +99,7 @@ SummaryPanel::SummaryPanel(QWidget* parent)
     QFont bold = font();
     bold.setBold(true);
     m_label->setFont(bold);
-    setMinimumWidth(160);
+    setMinimumWidth(grown(*this, 160));
     answerWhy(m_label, [this](const QPoint&) { return m_why; });
     m_season->setFocusPolicy(Qt::TabFocus); // the keyboard asks it why
     answerWhy(m_season, [this](const QPoint& at) { return whySeasonAt(at); });

@@ -1,5 +1,6 @@
 #include "desktop/team/team_athlete_dialog.h"
 
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 #include "desktop/team/typed_values.h"
 #include "splitdata/athlete_keys.h"
@@ -22,7 +23,7 @@ TeamAthleteDialog::TeamAthleteDialog(Check check, const std::string& category, Q
       m_fault(new QLabel) {
     setWindowTitle(tr("New athlete"));
     m_surname->setObjectName("surname");
-    m_surname->setMinimumWidth(260);
+    m_surname->setMinimumWidth(grown(*this, 260));
     m_surname->setPlaceholderText(tr("Written in capitals in the team"));
     m_givenName->setObjectName("givenName");
     m_birthYear->setObjectName("birthYear");

@@ -1,6 +1,7 @@
 #include "desktop/watertests/chart_card.h"
 
 #include "desktop/charts/chart_colours.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QEvent>
@@ -39,7 +40,7 @@ QString figureTable(const std::vector<ChartSummary>& summaries, const QPalette& 
 
 ChartCard::ChartCard(QWidget* parent)
     : QWidget(parent), m_chart(new SeriesChart), m_help(new QLabel), m_figures(new QLabel) {
-    m_chart->setFixedHeight(ChartHeight);
+    m_chart->setFixedHeight(grown(*this, ChartHeight));
     m_help->setWordWrap(true);
     m_help->setFont(theme::captionFont(*this));
     m_help->setForegroundRole(QPalette::PlaceholderText);

@@ -1,6 +1,7 @@
 #include "desktop/watertests/eight_form.h"
 
 #include "common/number_text.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 #include "desktop/watertests/eight_texts.h"
 #include "planning/test_entry.h"
@@ -26,7 +27,7 @@ EightForm::EightForm(QWidget* parent)
       m_sources(new QLabel) {
     m_splits.setRowTitles([](int split) { return tr("Split %1").arg(split + 1); });
     m_table->verticalHeader()->show();
-    m_table->setMaximumWidth(Widest);
+    m_table->setMaximumWidth(grown(*this, Widest));
     m_score->setObjectName("score");
     m_score->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_sources->setForegroundRole(QPalette::PlaceholderText);

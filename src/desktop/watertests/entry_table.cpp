@@ -1,5 +1,6 @@
 #include "desktop/watertests/entry_table.h"
 
+#include "desktop/shell/growth.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/typed_number.h"
 
@@ -38,7 +39,7 @@ EntryTable::EntryTable(RowModel& rows, const char* name, QWidget* parent)
     setGoesDown(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
     stretchAll();
-    horizontalHeader()->setMinimumSectionSize(64);
+    horizontalHeader()->setMinimumSectionSize(grown(*this, 64));
 }
 
 /// High enough for the rows of most tests, so that they need no scrolling.

@@ -1,6 +1,7 @@
 #include "desktop/watertests/test_list_panel.h"
 
 #include "desktop/shell/choose_alone.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/watertests/tests_document.h"
@@ -74,7 +75,7 @@ void TestListPanel::makeTable() {
     m_table->sortBy(DateColumn, Qt::DescendingOrder);
     m_table->stretch({AthleteColumn});
     m_table->keepOneChosen();
-    setMinimumWidth(330); // that names are read in the list
+    setMinimumWidth(grown(*this, 330)); // that names are read in the list
     connect(m_table, &ColumnTable::chosen, this, [this] {
         m_kept = current();
         emit chosen();

@@ -2,6 +2,7 @@
 
 #include "common/text.h"
 #include "common/why_text.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
@@ -65,7 +66,7 @@ WhyWindow::WhyWindow(const Reason& reason, QWidget* parent)
     addHead(*column);
     addTree(*column);
     addButtons(*column);
-    setFixedWidth(Width);
+    setFixedWidth(grown(*this, Width));
     connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this, &WhyWindow::copy);
     m_tree->setFocus();
 }

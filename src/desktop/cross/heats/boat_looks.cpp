@@ -1,6 +1,7 @@
 #include "desktop/cross/heats/boat_looks.h"
 
 #include "desktop/charts/chart_colours.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QPainter>
@@ -76,15 +77,20 @@ void paintBoat(QPainter& painter, const QRectF& place, const BoatLook& look) {
     painter.restore();
 }
 
+QSize badgeSize(const QWidget& table) {
+    return {grown(table, 34), grown(table, 18)};
+}
+
 QIcon badgeOf(const BoatLook& look, const QWidget& table) {
     const qreal ratio = table.devicePixelRatioF();
-    QPixmap pixmap(BadgeSize * ratio);
+    const QSize size = badgeSize(table);
+    QPixmap pixmap(size * ratio);
     pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(theme::captionFont(table));
-    paintBoat(painter, QRectF({0, 0}, QSizeF(BadgeSize)), look);
+    paintBoat(painter, QRectF({0, 0}, QSizeF(size)), look);
     painter.end();
     QIcon icon(pixmap);
     icon.addPixmap(pixmap, QIcon::Selected); // a selected row leaves the colour as it is

@@ -40,8 +40,8 @@ struct BoatLook {
 /// The cue of a boat on its colour.
 void paintBoat(QPainter& painter, const QRectF& place, const BoatLook& look);
 
-/// A picture of the cue, of BadgeSize, for tables.
-inline constexpr QSize BadgeSize{34, 18};
+/// A picture of the cue, of badgeSize, for tables.
+[[nodiscard]] QSize badgeSize(const QWidget& table);
 [[nodiscard]] QIcon badgeOf(const BoatLook& look, const QWidget& table);
 
 /// "▲2" for places won, "▼1" for places lost, empty for none.

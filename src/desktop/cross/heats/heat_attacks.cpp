@@ -2,6 +2,7 @@
 
 #include "desktop/cross/heats/attack_form.h"
 #include "desktop/cross/heats/heat_buttons.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
@@ -124,8 +125,8 @@ HeatAttacks::HeatAttacks(HeatDesk& desk, QWidget* parent)
 void HeatAttacks::makeTable() {
     m_table->stretch({2, 3, 7}); // attacker, defenders and comment
     m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_table->setMinimumHeight(LeastAttacksHeight);
-    m_table->setIconSize(BadgeSize);
+    m_table->setMinimumHeight(grown(*this, LeastAttacksHeight));
+    m_table->setIconSize(badgeSize(*m_table));
     m_table->setToolTip(tr("A click shows the frame of an attack"));
     m_table->setAdd(tr("Attack at this frame"), [this] { emit additionWanted(); });
     connect(m_table, &ColumnTable::chosen, this, [this] {

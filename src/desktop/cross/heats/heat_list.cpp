@@ -1,6 +1,7 @@
 #include "desktop/cross/heats/heat_list.h"
 
 #include "desktop/cross/heats/heat_buttons.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
@@ -64,7 +65,7 @@ HeatList::HeatList(QWidget* parent)
       m_buttons(new QWidget) {
     m_table->stretch({1, 2});
     m_table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_table->setMinimumHeight(LeastListHeight);
+    m_table->setMinimumHeight(grown(*this, LeastListHeight));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(m_table);

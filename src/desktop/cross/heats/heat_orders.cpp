@@ -4,6 +4,7 @@
 #include "desktop/cross/heats/heat_buttons.h"
 #include "desktop/cross/heats/order_board.h"
 #include "desktop/cross/heats/place_grid.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
 #include "splittaking/annotations/cross_heats.h"
@@ -42,7 +43,7 @@ HeatOrders::HeatOrders(HeatDesk& desk, QWidget* parent)
 void HeatOrders::makeOrders(QVBoxLayout& column) {
     m_title->setObjectName("orderTitle");
     m_title->setTextFormat(Qt::PlainText);
-    m_title->setFixedHeight(PlaceGrid::HeaderHeight);
+    m_title->setFixedHeight(grown(*this, PlaceGrid::HeaderHeight));
     QFont font = m_title->font();
     font.setBold(true);
     m_title->setFont(font);
@@ -56,7 +57,7 @@ void HeatOrders::makeOrders(QVBoxLayout& column) {
     m_gridArea->setFrameShape(QFrame::NoFrame);
     m_gridArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_gridArea->setFocusPolicy(Qt::NoFocus);
-    m_gridArea->setMinimumWidth(PlaceGrid::UsualWidth); // whatever the course: windows keep theirs
+    m_gridArea->setMinimumWidth(m_grid->usualWidth()); // whatever the course: windows keep theirs
     auto* row = new QHBoxLayout;
     row->addLayout(left, 1);
     row->addWidget(m_gridArea, 1);
@@ -207,7 +208,7 @@ void HeatOrders::refresh() {
 /// Courses of the usual length stand whole beside the order in front, longer ones scroll.
 void HeatOrders::fitGrid() {
     const QSize size = m_grid->minimumSizeHint();
-    const bool isLong = size.width() > PlaceGrid::UsualWidth;
+    const bool isLong = size.width() > m_grid->usualWidth();
     m_gridArea->setFixedHeight(
         size.height() + (isLong ? m_gridArea->horizontalScrollBar()->sizeHint().height() : 0));
 }

@@ -72,8 +72,13 @@ HeatPage::HeatPage(const CrossDesk& desk)
     column->setSpacing(theme::SmallSpacing);
     makeParts(*column);
     connectParts();
-    setMinimumWidth(m_body->minimumSizeHint().width()); // also as long as there is no heat
     refresh();
+}
+
+QSize HeatPage::minimumSizeHint() const {
+    const QMargins sides = contentsMargins() + layout()->contentsMargins();
+    const int wide = m_body->minimumSizeHint().width() + sides.left() + sides.right();
+    return CrossPage::minimumSizeHint().expandedTo({wide, 0});
 }
 
 void HeatPage::makeParts(QVBoxLayout& column) {

@@ -27,6 +27,9 @@ public:
     void showFrame() override;
     void commit() override;
 
+    /// As wide as the parts of a heat, also as long as there is none.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
     [[nodiscard]] QString film() const override;
     [[nodiscard]] std::vector<LineMark> marks() const override;
     [[nodiscard]] std::optional<std::size_t> selectedMark() const override;

@@ -1,6 +1,7 @@
 #include "desktop/cross/heats/order_board.h"
 
 #include "desktop/cross/heats/place_grid.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QMouseEvent>
@@ -28,7 +29,6 @@ QToolButton* rowButton(QWidget* parent, const QString& name, const QString& sign
     button->setAccessibleName(tip);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
-    button->resize(ButtonSize, ButtonSize);
     return button;
 }
 
@@ -44,12 +44,16 @@ OrderBoard::~OrderBoard() = default;
 
 QSize OrderBoard::sizeHint() const {
     constexpr int Width = 300;
-    return {Width, RowHeight * std::max(4, static_cast<int>(rows()))};
+    return {grown(*this, Width), rowHeight() * std::max(4, static_cast<int>(rows()))};
 }
 
 QSize OrderBoard::minimumSizeHint() const {
     constexpr int Width = 240;
-    return {Width, sizeHint().height()};
+    return {grown(*this, Width), sizeHint().height()};
+}
+
+int OrderBoard::rowHeight() const {
+    return grown(*this, RowHeight);
 }
 
 OrderBoard::Buttons OrderBoard::makeButtons(std::size_t row) {
@@ -73,15 +77,17 @@ void OrderBoard::show(Order order) {
 }
 
 void OrderBoard::placeButtons() {
+    const int size = grown(*this, ButtonSize);
+    const int lineHeight = grown(*this, LineHeight);
     for (std::size_t row = 0; row < m_buttons.size(); ++row) {
         const Buttons& buttons = m_buttons[row];
         const bool isSeen = row < m_order.seen.size();
-        const int top = static_cast<int>(row) * RowHeight + (LineHeight - ButtonSize) / 2;
-        int left = width() - 3 * ButtonSize;
+        const int top = static_cast<int>(row) * rowHeight() + (lineHeight - size) / 2;
+        int left = width() - 3 * size;
         for (QToolButton* const button : {buttons.up, buttons.down, buttons.seen}) {
-            button->move(left, top);
+            button->setGeometry(left, top, size, size);
             button->setVisible(row < rows() && !m_order.isFixed);
-            left += ButtonSize;
+            left += size;
         }
         buttons.up->setEnabled(isSeen && row > 0);
         buttons.down->setEnabled(isSeen && row + 1 < m_order.seen.size());
@@ -105,7 +111,12 @@ void OrderBoard::paintEvent(QPaintEvent*) {
 void OrderBoard::paintRow(QPainter& painter, std::size_t row) const {
     const bool isSeen = row < m_order.seen.size();
     const Row& boat = isSeen ? m_order.seen[row] : m_order.unseen[row - m_order.seen.size()];
-    const QRectF place(0, RowHeight * static_cast<double>(row), width(), RowHeight);
+    const double growth = growthOf(*this);
+    const auto part = [&](double left, double top, double width, double height) {
+        return QRectF(left * growth, rowHeight() * static_cast<double>(row) + top * growth,
+                      width * growth, height * growth);
+    };
+    const QRectF place(0, rowHeight() * static_cast<double>(row), width(), rowHeight());
     if (row == m_dragged) {
         painter.setPen(QPen(theme::Accent, 1));
         painter.setBrush(theme::surface(palette()));
@@ -113,15 +124,15 @@ void OrderBoard::paintRow(QPainter& painter, std::size_t row) const {
     }
     painter.setFont(theme::titleFont(*this));
     painter.setPen(isSeen ? palette().color(QPalette::WindowText) : theme::quietText(palette()));
-    painter.drawText(QRectF(0, place.top(), 18, LineHeight), Qt::AlignCenter,
+    painter.drawText(part(0, 0, 18, LineHeight), Qt::AlignCenter,
                      isSeen ? QString::number(row + 1) : QStringLiteral("–"));
     painter.setFont(theme::captionFont(*this));
-    paintKey(painter, QRectF(20, place.top() + 7, 17, 18), boat.look.number);
+    paintKey(painter, part(20, 7, 17, 18), boat.look.number);
     painter.setOpacity(isSeen && !m_order.isOffered ? 1 : FadedOpacity);
-    paintBoat(painter, {41, place.top() + 5, 36, 22}, boat.look);
+    paintBoat(painter, part(41, 5, 36, 22), boat.look);
     painter.setOpacity(1);
-    const int right = m_order.isFixed ? 4 : 3 * ButtonSize + 4;
-    paintWords(painter, place.adjusted(NameLeft, 0, -right, 0), boat, isSeen);
+    const int right = m_order.isFixed ? 4 : 3 * grown(*this, ButtonSize) + 4;
+    paintWords(painter, place.adjusted(NameLeft * growth, 0, -right, 0), boat, isSeen);
 }
 
 /// The key that names a boat, as on a keyboard.
@@ -137,7 +148,8 @@ void OrderBoard::paintKey(QPainter& painter, const QRectF& place, int number) co
 void OrderBoard::paintWords(QPainter& painter, const QRectF& place, const Row& boat,
                             bool isSeen) const {
     const QColor quiet = theme::quietText(palette());
-    const QRectF upper(place.left(), place.top() + 6, place.width(), 20);
+    const double growth = growthOf(*this);
+    const QRectF upper(place.left(), place.top() + 6 * growth, place.width(), 20 * growth);
     painter.setFont(font());
     painter.setPen(isSeen ? palette().color(QPalette::WindowText) : quiet);
     const QString name = QString::fromStdString(boat.look.name);
@@ -146,7 +158,7 @@ void OrderBoard::paintWords(QPainter& painter, const QRectF& place, const Row& b
         fontMetrics().elidedText(name, Qt::ElideRight, static_cast<int>(upper.width())));
     painter.setFont(theme::captionFont(*this));
     painter.setPen(isSeen ? changeColour(boat.change, palette()) : quiet);
-    painter.drawText(upper.translated(0, 16), Qt::AlignLeft | Qt::AlignVCenter,
+    painter.drawText(upper.translated(0, 16 * growth), Qt::AlignLeft | Qt::AlignVCenter,
                      boat.look.number == 0 ? tr("not of this heat")
                      : !isSeen             ? tr("not seen")
                      : boat.change > 0     ? tr("%1 won").arg(changeText(boat.change))
@@ -155,9 +167,9 @@ void OrderBoard::paintWords(QPainter& painter, const QRectF& place, const Row& b
 }
 
 std::optional<std::size_t> OrderBoard::rowAt(double y) const {
-    if (y < 0 || y >= RowHeight * static_cast<double>(rows()))
+    if (y < 0 || y >= rowHeight() * static_cast<double>(rows()))
         return std::nullopt;
-    return static_cast<std::size_t>(y / RowHeight);
+    return static_cast<std::size_t>(y / rowHeight());
 }
 
 void OrderBoard::mousePressEvent(QMouseEvent* event) {

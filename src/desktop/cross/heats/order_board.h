@@ -50,6 +50,7 @@ private:
         QToolButton* seen;
     };
 
+    [[nodiscard]] int rowHeight() const;
     [[nodiscard]] std::size_t rows() const { return m_order.seen.size() + m_order.unseen.size(); }
     [[nodiscard]] std::optional<std::size_t> rowAt(double y) const;
     [[nodiscard]] Buttons makeButtons(std::size_t row);

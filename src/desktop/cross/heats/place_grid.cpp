@@ -1,5 +1,6 @@
 #include "desktop/cross/heats/place_grid.h"
 
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QHelpEvent>
@@ -55,19 +56,27 @@ std::size_t PlaceGrid::rows() const {
 }
 
 QSize PlaceGrid::sizeHint() const {
-    return {PlaceWidth + WidestColumn * static_cast<int>(m_columns.size()),
-            HeaderHeight + RowHeight * static_cast<int>(rows())};
+    return {grown(*this, PlaceWidth) +
+                grown(*this, WidestColumn) * static_cast<int>(m_columns.size()),
+            grown(*this, HeaderHeight) + grown(*this, RowHeight) * static_cast<int>(rows())};
 }
 
 QSize PlaceGrid::minimumSizeHint() const {
-    return {PlaceWidth + NarrowestColumn * static_cast<int>(m_columns.size()), sizeHint().height()};
+    return {narrowestWidth(static_cast<int>(m_columns.size())), sizeHint().height()};
+}
+
+int PlaceGrid::narrowestWidth(int columns) const {
+    return grown(*this, PlaceWidth) + grown(*this, NarrowestColumn) * columns;
 }
 
 QRectF PlaceGrid::placeOf(std::size_t column, std::size_t place) const {
     const double count = std::max<double>(1, static_cast<double>(m_columns.size()));
-    const double step = std::min<double>(WidestColumn, (width() - PlaceWidth) / count);
-    return {PlaceWidth + step * static_cast<double>(column),
-            HeaderHeight + RowHeight * static_cast<double>(place), step, RowHeight};
+    const int left = grown(*this, PlaceWidth);
+    const int high = grown(*this, RowHeight);
+    const double step = std::min<double>(grown(*this, WidestColumn), (width() - left) / count);
+    return {left + step * static_cast<double>(column),
+            grown(*this, HeaderHeight) + high * static_cast<double>(place), step,
+            static_cast<double>(high)};
 }
 
 std::optional<std::size_t> PlaceGrid::columnAt(QPointF place) const {
@@ -82,10 +91,12 @@ std::optional<std::size_t> PlaceGrid::columnAt(QPointF place) const {
 void PlaceGrid::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    const double growth = growthOf(*this);
     painter.setFont(theme::captionFont(*this));
     painter.setPen(theme::quietText(palette()));
     for (std::size_t row = 0; !m_columns.empty() && row < rows(); ++row)
-        painter.drawText(QRectF(0, placeOf(0, row).top(), PlaceWidth - 4, BoatHeight + 2 * BoatTop),
+        painter.drawText(QRectF(0, placeOf(0, row).top(), PlaceWidth * growth - 4,
+                                (BoatHeight + 2 * BoatTop) * growth),
                          Qt::AlignRight | Qt::AlignVCenter, QString::number(row + 1));
     for (std::size_t column = 0; column < m_columns.size(); ++column)
         paintHeader(painter, column);
@@ -97,7 +108,8 @@ void PlaceGrid::paintEvent(QPaintEvent*) {
 /// The gate number; one that is not on the course in brackets, one that does not count struck out.
 void PlaceGrid::paintHeader(QPainter& painter, std::size_t column) const {
     const ShownOrder& order = m_columns[column];
-    const QRectF top(placeOf(column, 0).left(), 0, placeOf(column, 0).width(), HeaderHeight);
+    const QRectF top(placeOf(column, 0).left(), 0, placeOf(column, 0).width(),
+                     grown(*this, HeaderHeight));
     if (column == m_front) {
         QColor ground = theme::Accent;
         ground.setAlphaF(0.14F);
@@ -129,9 +141,10 @@ void PlaceGrid::paintLines(QPainter& painter) const {
 
 void PlaceGrid::paintLine(QPainter& painter, std::size_t from, std::size_t to) const {
     constexpr double Width = 3;
+    const double toCentre = (BoatTop + BoatHeight / 2) * growthOf(*this);
     const auto centre = [&](std::size_t column, std::size_t row) {
         const QRectF cell = placeOf(column, row);
-        return QPointF(cell.center().x(), cell.top() + BoatTop + BoatHeight / 2);
+        return QPointF(cell.center().x(), cell.top() + toCentre);
     };
     for (const BoatLook& boat : m_boats) {
         const auto before = rowOf(m_columns[from], boat.name);
@@ -151,22 +164,24 @@ void PlaceGrid::paintLine(QPainter& painter, std::size_t from, std::size_t to) c
 
 void PlaceGrid::paintColumn(QPainter& painter, std::size_t column) const {
     const ShownOrder& order = m_columns[column];
+    const double growth = growthOf(*this);
     painter.setOpacity(order.isReplaced ? ReplacedOpacity : 1);
     painter.setFont(theme::captionFont(*this));
     if (order.boats.empty()) {
         painter.setPen(theme::quietText(palette()));
-        painter.drawText(placeOf(column, 0).adjusted(0, BoatTop + 2, 0, 0),
+        painter.drawText(placeOf(column, 0).adjusted(0, BoatTop * growth + 2, 0, 0),
                          Qt::AlignHCenter | Qt::AlignTop, QStringLiteral("–"));
     }
     for (std::size_t row = 0; row < order.boats.size(); ++row) {
         const ShownBoat& boat = order.boats[row];
         const QRectF cell = placeOf(column, row);
-        const double side = std::max(2.0, (cell.width() - 40) / 2);
+        const double side = std::max(2.0, (cell.width() - 40 * growth) / 2);
         paintBoat(painter,
-                  {cell.left() + side, cell.top() + BoatTop, cell.width() - 2 * side, BoatHeight},
+                  {cell.left() + side, cell.top() + BoatTop * growth, cell.width() - 2 * side,
+                   BoatHeight * growth},
                   lookOf(m_boats, boat.name, palette()));
         painter.setPen(changeColour(boat.change, palette()));
-        painter.drawText(cell.adjusted(0, BoatTop + BoatHeight - 1, 0, 0),
+        painter.drawText(cell.adjusted(0, (BoatTop + BoatHeight) * growth - 1, 0, 0),
                          Qt::AlignHCenter | Qt::AlignTop, changeText(boat.change));
     }
     painter.setOpacity(1);

@@ -15,11 +15,11 @@ class PlaceGrid : public QWidget {
 public:
     explicit PlaceGrid(QWidget* parent = nullptr);
 
-    /// Height of the gate numbers and of a place, in pixels.
+    /// Height of the gate numbers and of a place, in pixels of the usual font.
     static constexpr int HeaderHeight = 26;
     static constexpr int RowHeight = 40;
     /// Width that a course of seven gates needs, in pixels.
-    static constexpr int UsualWidth = 256;
+    [[nodiscard]] int usualWidth() const { return narrowestWidth(7); }
 
     /// The columns from left to right. `front` is the one of the gate in front, none without a
     /// value.
@@ -41,6 +41,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    [[nodiscard]] int narrowestWidth(int columns) const;
     [[nodiscard]] std::optional<std::size_t> columnAt(QPointF place) const;
     [[nodiscard]] std::size_t rows() const;
     [[nodiscard]] QString tipOf(const ShownOrder& order) const;

@@ -28,7 +28,7 @@ ColumnTable* resultTable(RowModel* rows, const QString& name) {
     table->setAlternatingRowColors(false); // who goes on stands on a ground of its own
     table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    table->setIconSize(BadgeSize);
+    table->setIconSize(badgeSize(*table));
     table->stretch({0});
     QObject::connect(table, &ColumnTable::shownChanged, table, [table] { fitHeight(*table); });
     fitHeight(*table);

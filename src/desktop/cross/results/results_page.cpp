@@ -3,6 +3,7 @@
 #include "desktop/charts/chart_colours.h"
 #include "desktop/cross/heats/boat_looks.h"
 #include "desktop/cross/results/result_table.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
@@ -223,8 +224,8 @@ void ResultsPage::makeAttacks(QVBoxLayout& column) {
     grid->setColumnStretch(1, WidestBlock);
     grid->setColumnStretch(MostBlocks, 1);
     column.addWidget(m_attacks);
-    m_attackers->setMaximumWidth(WidestBlock);
-    m_places->setMaximumWidth(WidestBlock);
+    m_attackers->setMaximumWidth(grown(*this, WidestBlock));
+    m_places->setMaximumWidth(grown(*this, WidestBlock));
 }
 
 void ResultsPage::changeEvent(QEvent* event) {
@@ -283,7 +284,7 @@ std::vector<PlaceRow> ResultsPage::rowsOf(const HeatResult& heat, const RoundRes
 
 QWidget* ResultsPage::heatBlock(const HeatResult& heat, const RoundResult& round, bool isDecided) {
     auto* block = new QWidget;
-    block->setMaximumWidth(WidestBlock);
+    block->setMaximumWidth(grown(*this, WidestBlock));
     auto* column = new QVBoxLayout(block);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(theme::SmallSpacing);

@@ -1,6 +1,7 @@
 #include "desktop/cross/trials/trial_list.h"
 
 #include "desktop/charts/chart_colours.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
@@ -88,7 +89,7 @@ void TrialList::makeTable() {
     m_table->setMinimumHeight(LeastTrials * m_table->verticalHeader()->defaultSectionSize());
     m_table->stretch({AthleteColumn});
     m_table->horizontalHeader()->setSectionResizeMode(FilmColumn, QHeaderView::Fixed);
-    m_table->horizontalHeader()->resizeSection(FilmColumn, FilmColumnWidth);
+    m_table->horizontalHeader()->resizeSection(FilmColumn, grown(*this, FilmColumnWidth));
     m_table->setAdd(tr("Add an athlete"), [this] { startAdding(); });
     m_ofTrial = {
         &m_table->addCommand(tr("Re&name the athlete"), {},

@@ -2,6 +2,7 @@
 
 #include "desktop/planning/goals/goal_delegate.h"
 #include "desktop/shell/edit_order.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
 
@@ -79,7 +80,7 @@ void GoalsPanel::makeTree() {
     header->setStretchLastSection(false);
     header->setSectionResizeMode(GoalTextColumn, QHeaderView::Stretch);
     header->setSectionResizeMode(GoalStatusColumn, QHeaderView::Interactive);
-    header->resizeSection(GoalStatusColumn, StatusWidth);
+    header->resizeSection(GoalStatusColumn, grown(*this, StatusWidth));
     connect(m_tree, &QTreeWidget::itemChanged, this,
             [this](const QTreeWidgetItem* item, int column) {
                 if (!m_isFilling)

@@ -1,6 +1,7 @@
 #include "desktop/planning/intervals/timer_dialog.h"
 
 #include "desktop/planning/intervals/timer_face.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QApplication>
@@ -71,7 +72,7 @@ QWidget* IntervalTimerDialog::makeButtons() {
     row->addStretch(1);
     button("back", tr("◀ Back"), tr("Left"), [this] { back(); });
     m_start = button("start", {}, tr("Space"), [this] { startOrPause(); });
-    m_start->setMinimumWidth(140);
+    m_start->setMinimumWidth(grown(*this, 140));
     button("skip", tr("Skip ▶"), tr("Right"), [this] { skip(); });
     row->addStretch(1);
     button("fullScreen", tr("Full screen"), tr("F11"), [this] { showFullScreenOrNot(); });

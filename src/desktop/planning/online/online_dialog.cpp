@@ -1,6 +1,7 @@
 #include "desktop/planning/online/online_dialog.h"
 
 #include "desktop/shell/fault_label.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 
@@ -65,7 +66,7 @@ OnlineDialog::OnlineDialog(Workspace& workspace, const QString& purpose, QWidget
     form->addRow(note);
     form->addRow(m_fault);
     form->addRow(buttons);
-    setMinimumWidth(460);
+    setMinimumWidth(grown(*this, 460));
     (m_folder->text().isEmpty() ? m_folder : m_password)->setFocus();
 }
 

@@ -2,6 +2,7 @@
 
 #include "desktop/planning/plan/week_texts.h"
 #include "desktop/shell/fault_label.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/number_box.h"
 #include "desktop/shell/theme.h"
 #include "planning/calendar_day.h"
@@ -113,7 +114,7 @@ void SessionDialog::makeFields() {
     whole->addLayout(form);
     makeValues();
     whole->addWidget(buttons);
-    setMinimumWidth(560);
+    setMinimumWidth(grown(*this, 560));
 }
 
 /// On the water to the left, in the gym to the right; what a file has beyond them below.

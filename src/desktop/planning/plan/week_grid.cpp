@@ -2,6 +2,7 @@
 
 #include "desktop/charts/chart_colours.h"
 #include "desktop/planning/plan/week_texts.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 #include "planning/calendar_day.h"
 
@@ -103,8 +104,12 @@ int WeekGrid::cardHeight() const {
     return fontMetrics().height() + 2 * QFontMetrics(theme::captionFont(*this)).height() + 2 * Gap;
 }
 
+int WeekGrid::titleWidth() const {
+    return grown(*this, TitleWidth);
+}
+
 int WeekGrid::columnLeft(std::size_t day) const {
-    return TitleWidth + static_cast<int>((width() - TitleWidth) * day / Days);
+    return titleWidth() + static_cast<int>((width() - titleWidth()) * day / Days);
 }
 
 std::vector<DayPart> WeekGrid::shownParts() const {
@@ -147,10 +152,10 @@ void WeekGrid::layOut() {
             top += countAt(RowParts.at(row)) * step + Gap + spare;
     }
     m_rowTops[RowParts.size()] = top;
-    const int wide = (width() - TitleWidth) / static_cast<int>(Days);
+    const int wide = (width() - titleWidth()) / static_cast<int>(Days);
     for (std::size_t i = 0; i < m_elsewhere.size(); ++i)
         m_cards[m_elsewhere[i]].place =
-            QRect(TitleWidth + static_cast<int>(i % Days) * wide + Gap,
+            QRect(titleWidth() + static_cast<int>(i % Days) * wide + Gap,
                   top + Gap + static_cast<int>(i / Days) * step, wide - 2 * Gap, cardHeight());
     updateGeometry();
     update();
@@ -161,11 +166,11 @@ void WeekGrid::resizeEvent(QResizeEvent*) {
 }
 
 QSize WeekGrid::sizeHint() const {
-    return {TitleWidth + 7 * 110, m_natural + 1};
+    return {titleWidth() + 7 * grown(*this, 110), m_natural + 1};
 }
 
 QSize WeekGrid::minimumSizeHint() const {
-    return {TitleWidth + 7 * 60, m_natural + 1};
+    return {titleWidth() + 7 * grown(*this, 60), m_natural + 1};
 }
 
 std::optional<QRect> WeekGrid::cardOf(std::size_t session) const {
@@ -382,14 +387,14 @@ void WeekGrid::paintFrame(QPainter& painter) const {
         painter.setPen(line);
         painter.drawLine(0, place.top(), width(), place.top());
         painter.setPen(theme::quietText(palette()));
-        painter.drawText(QRect(0, place.top() + Gap, TitleWidth, cardHeight()),
+        painter.drawText(QRect(0, place.top() + Gap, titleWidth(), cardHeight()),
                          Qt::AlignLeft | Qt::AlignTop, titleOf(part));
     }
     painter.setPen(line);
     painter.drawLine(0, bottom, width(), bottom);
     if (!m_elsewhere.empty()) {
         painter.setPen(missedColour(palette()));
-        painter.drawText(QRect(0, bottom + Gap, TitleWidth - Gap, cardHeight()),
+        painter.drawText(QRect(0, bottom + Gap, titleWidth() - Gap, cardHeight()),
                          Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
                          tr("On no day of this week"));
     }

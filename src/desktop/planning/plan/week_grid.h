@@ -73,6 +73,7 @@ private:
     void layOut();
     [[nodiscard]] int countAt(DayPart part) const; ///< of the fullest day, at least one
     [[nodiscard]] int cardHeight() const;
+    [[nodiscard]] int titleWidth() const;
     [[nodiscard]] int columnLeft(std::size_t day) const;
     [[nodiscard]] std::vector<DayPart> shownParts() const;
     [[nodiscard]] const Card* cardAt(const QPoint& position) const;

@@ -2,6 +2,7 @@
 
 #include "desktop/charts/chart_colours.h"
 #include "desktop/planning/plan/week_texts.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 #include "planning/calendar_day.h"
 
@@ -76,6 +77,10 @@ void YearStrip::setBlock(const WeekBlock& block) {
     update();
 }
 
+double YearStrip::titleWidth() const {
+    return growthOf(*this) * StripTitleWidth;
+}
+
 YearStrip::Row YearStrip::row(int index) const {
     const double line = QFontMetricsF(theme::captionFont(*this)).height();
     const auto heightOf = [&](int each) {
@@ -104,7 +109,7 @@ QSize YearStrip::sizeHint() const {
 }
 
 QSize YearStrip::minimumSizeHint() const {
-    return {static_cast<int>(StripTitleWidth + NarrowestWeek * static_cast<double>(m_weeks.size())),
+    return {static_cast<int>(titleWidth() + NarrowestWeek * static_cast<double>(m_weeks.size())),
             sizeHint().height()};
 }
 
@@ -114,16 +119,16 @@ QRectF YearStrip::columnOf(std::size_t week) const {
 
 QRectF YearStrip::cell(std::size_t first, std::size_t last, const Row& row) const {
     const double each =
-        (width() - StripTitleWidth) / static_cast<double>(std::max<std::size_t>(m_weeks.size(), 1));
-    const double left = StripTitleWidth + each * static_cast<double>(first);
+        (width() - titleWidth()) / static_cast<double>(std::max<std::size_t>(m_weeks.size(), 1));
+    const double left = titleWidth() + each * static_cast<double>(first);
     return {left, row.top, each * static_cast<double>(last - first + 1), row.height};
 }
 
 std::optional<std::size_t> YearStrip::weekAt(double x) const {
-    if (m_weeks.empty() || x < StripTitleWidth || x >= width())
+    if (m_weeks.empty() || x < titleWidth() || x >= width())
         return std::nullopt;
-    const double each = (width() - StripTitleWidth) / static_cast<double>(m_weeks.size());
-    return std::min(static_cast<std::size_t>((x - StripTitleWidth) / each), m_weeks.size() - 1);
+    const double each = (width() - titleWidth()) / static_cast<double>(m_weeks.size());
+    return std::min(static_cast<std::size_t>((x - titleWidth()) / each), m_weeks.size() - 1);
 }
 
 void YearStrip::choose(std::size_t week, bool extend) {
@@ -159,7 +164,7 @@ void YearStrip::paintTitles(QPainter& painter) const {
     painter.setPen(theme::quietText(palette()));
     for (std::size_t i = 0; i < titles.size(); ++i) {
         const Row at = row(static_cast<int>(i));
-        painter.drawText(QRectF(0, at.top, StripTitleWidth - theme::Spacing, at.height),
+        painter.drawText(QRectF(0, at.top, titleWidth() - theme::Spacing, at.height),
                          Qt::AlignLeft | Qt::AlignVCenter, titles[i]);
     }
 }
@@ -220,13 +225,14 @@ void YearStrip::paintLoads(QPainter& painter) const {
         most = std::max(most, week.load);
     const auto heightOf = [&](double load) { return load / most * (at.height - 4); };
     const double bottom = at.top + at.height;
-    for (const double line : {FullLoad / 2, FullLoad}) {
-        const double y = bottom - heightOf(line);
+    const double line = QFontMetricsF(painter.font()).height() + 2;
+    for (const double load : {FullLoad / 2, FullLoad}) {
+        const double y = bottom - heightOf(load);
         painter.setPen(theme::hairline(palette()));
-        painter.drawLine(QPointF(StripTitleWidth, y), QPointF(width(), y));
+        painter.drawLine(QPointF(titleWidth(), y), QPointF(width(), y));
         painter.setPen(theme::quietText(palette()));
-        painter.drawText(QRectF(0, y - 8, StripTitleWidth - 4, 16),
-                         Qt::AlignRight | Qt::AlignVCenter, QString::number(line) + " %");
+        painter.drawText(QRectF(0, y - line / 2, titleWidth() - 4, line),
+                         Qt::AlignRight | Qt::AlignVCenter, QString::number(load) + " %");
     }
     for (std::size_t i = 0; i < m_weeks.size(); ++i) {
         const QRectF place = cell(i, i, at);

@@ -71,6 +71,7 @@ private:
     using Text = std::function<QString(const Week&)>;
 
     [[nodiscard]] static Week shownOf(const microsplanning_v5& week);
+    [[nodiscard]] double titleWidth() const;
     [[nodiscard]] Row row(int index) const;
     [[nodiscard]] QRectF cell(std::size_t first, std::size_t last, const Row& row) const;
     void choose(std::size_t week, bool extend);

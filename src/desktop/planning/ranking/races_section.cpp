@@ -2,6 +2,7 @@
 
 #include "desktop/charts/series_chart.h"
 #include "desktop/planning/ranking/ranking_charts.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
@@ -89,7 +90,7 @@ RacesSection::RacesSection(QWidget* parent)
       m_take(new QPushButton(tr("Take from split files…"))),
       m_penalties(new SeriesChart),
       m_percents(new SeriesChart) {
-    m_table->setMinimumHeight(LeastTableHeight);
+    m_table->setMinimumHeight(grown(*this, LeastTableHeight));
     m_table->stretch({EventColumn, PlaceColumn});
     m_summary->setObjectName("penaltySummary");
     m_summary->setTextFormat(Qt::RichText);

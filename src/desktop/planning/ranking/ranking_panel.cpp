@@ -5,6 +5,7 @@
 #include "desktop/planning/ranking/split_statistics.h"
 #include "desktop/planning/ranking/statistics_dialog.h"
 #include "desktop/shell/dropped_files.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 
@@ -46,8 +47,8 @@ RankingPanel::RankingPanel(PlanningDocument& document, Workspace& workspace, QWi
       m_ranking(new RankingSection),
       m_races(new RacesSection) {
     setAcceptDrops(true);
-    m_ranking->setMinimumHeight(RankingHeight);
-    m_races->setMinimumHeight(RacesHeight);
+    m_ranking->setMinimumHeight(grown(*this, RankingHeight));
+    m_races->setMinimumHeight(grown(*this, RacesHeight));
     auto* const content = new QWidget;
     auto* const column = new QVBoxLayout(content);
     column->setContentsMargins(theme::Spacing, theme::Spacing, theme::Spacing, theme::Spacing);

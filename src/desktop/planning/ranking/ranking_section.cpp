@@ -2,6 +2,7 @@
 
 #include "desktop/charts/series_chart.h"
 #include "desktop/planning/ranking/ranking_charts.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
@@ -11,6 +12,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace kavela::desktop {
 
@@ -59,12 +62,12 @@ RankingSection::RankingSection(QWidget* parent)
     buttons->addWidget(buttonFor(m_add, tr("Add release"), "addRelease"));
     buttons->addWidget(buttonFor(remove, tr("Remove"), "removeRelease"));
     auto* const left = new QWidget;
-    left->setFixedWidth(TableWidth);
     auto* const column = new QVBoxLayout(left);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(theme::Spacing);
     column->addLayout(buttons);
     column->addWidget(m_table, 1);
+    left->setFixedWidth(std::max(grown(*this, TableWidth), left->minimumSizeHint().width()));
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(theme::LargeSpacing);

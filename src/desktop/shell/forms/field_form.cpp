@@ -1,5 +1,6 @@
 #include "desktop/shell/forms/field_form.h"
 
+#include "desktop/shell/growth.h"
 #include "desktop/shell/number_box.h"
 #include "desktop/shell/refused_entry.h"
 #include "desktop/shell/theme.h"
@@ -53,7 +54,7 @@ std::size_t FieldForm::add(const FieldFacts& facts, Field field) {
     widget.setObjectName(facts.name);
     widget.setToolTip(facts.tip);
     if (facts.widest > 0)
-        widget.setMaximumWidth(facts.widest);
+        widget.setMaximumWidth(grown(*this, facts.widest));
     if (widget.accessibleName().isEmpty())
         widget.setAccessibleName(withoutKey(facts.label));
     field.what = facts.what.isEmpty() ? withoutKey(facts.label).toLower() : facts.what;

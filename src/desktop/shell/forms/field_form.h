@@ -21,7 +21,7 @@ struct FieldFacts {
     QString what = {}; ///< names the step of undo; else the label does
     QString tip = {};
     QString placeholder = {}; ///< stands in an empty field
-    int widest = 0;           ///< pixels; 0 for as wide as there is room
+    int widest = 0;           ///< pixels of the usual font; 0 for as wide as there is room
     int stretch = 0;          ///< its share of the room, where fields stand beside each other
 };
 

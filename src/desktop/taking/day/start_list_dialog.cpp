@@ -2,6 +2,7 @@
 
 #include "common/error.h"
 #include "common/text_file.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
@@ -38,7 +39,7 @@ StartListDialog::StartListDialog(const FilmFiles& files, const Workspace& worksp
     m_refused->setObjectName("startRefused");
     m_refused->setReadOnly(true);
     constexpr int RefusedHeight = 90;
-    m_refused->setMaximumHeight(RefusedHeight);
+    m_refused->setMaximumHeight(grown(*this, RefusedHeight));
     makeLayout();
     connect(m_text, &QPlainTextEdit::textChanged, this, &StartListDialog::readText);
     readText();

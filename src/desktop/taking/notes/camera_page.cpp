@@ -1,6 +1,7 @@
 #include "desktop/taking/notes/camera_page.h"
 
 #include "desktop/film/film_deck.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
@@ -97,7 +98,7 @@ void CameraPage::makeParts() {
     m_step->setObjectName("cameraStep");
     m_step->setWordWrap(true);
     m_table = filmTable(m_marks, "cameraMarks");
-    m_table->setMinimumHeight(110);
+    m_table->setMinimumHeight(grown(*this, 110));
 }
 
 QString CameraPage::nameOf(std::size_t camera) const {

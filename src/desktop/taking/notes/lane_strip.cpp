@@ -1,6 +1,7 @@
 #include "desktop/taking/notes/lane_strip.h"
 
 #include "desktop/film/time_line.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 
 #include <QApplication>
@@ -60,11 +61,15 @@ void LaneStrip::setSelected(const std::optional<MarkHandle>& handle) {
 }
 
 QSize LaneStrip::sizeHint() const {
-    return {400, RowHeight * rows()};
+    return {400, rowHeight() * rows()};
+}
+
+int LaneStrip::rowHeight() const {
+    return grown(*this, RowHeight);
 }
 
 QPoint LaneStrip::placeOf(const LaneMark& mark) const {
-    return {m_line.placeOf(mark.seconds), mark.lane * RowHeight + RowHeight / 2};
+    return {m_line.placeOf(mark.seconds), mark.lane * rowHeight() + rowHeight() / 2};
 }
 
 QRect LaneStrip::titlePlace(int row) const {
@@ -82,7 +87,7 @@ QRect LaneStrip::titlePlace(int row) const {
     int left = 0;
     QRect widest;
     for (const int wall : walls) {
-        const QRect room(left, row * RowHeight, wall - Beside - left, RowHeight - 1);
+        const QRect room(left, row * rowHeight(), wall - Beside - left, rowHeight() - 1);
         if (room.width() > widest.width())
             widest = room;
         if (widest.width() >= wanted)
@@ -97,7 +102,7 @@ void LaneStrip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setFont(theme::captionFont(*this));
     for (int row = 0; row < rows(); ++row) {
-        const QRect place(0, row * RowHeight, width(), RowHeight);
+        const QRect place(0, row * rowHeight(), width(), rowHeight());
         painter.setPen(theme::hairline(palette()));
         painter.drawLine(place.bottomLeft(), place.bottomRight());
     }
@@ -114,7 +119,8 @@ void LaneStrip::paintEvent(QPaintEvent*) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(isSelected ? theme::Accent : theme::quietText(palette()));
         const int half = isSelected ? 3 : 1;
-        painter.drawRect(place.x() - half, place.y() - RowHeight / 2 + 2, 2 * half, RowHeight - 4);
+        painter.drawRect(place.x() - half, place.y() - rowHeight() / 2 + 2, 2 * half,
+                         rowHeight() - 4);
     }
 }
 
@@ -124,7 +130,7 @@ const LaneMark* LaneStrip::markAt(QPoint place) const {
     for (const LaneMark& mark : m_marks) {
         const QPoint drawn = placeOf(mark);
         const int distance = std::abs(drawn.x() - place.x());
-        if (std::abs(drawn.y() - place.y()) <= RowHeight / 2 && distance < least) {
+        if (std::abs(drawn.y() - place.y()) <= rowHeight() / 2 && distance < least) {
             least = distance;
             nearest = &mark;
         }

@@ -23,6 +23,7 @@ public:
     [[nodiscard]] int rows() const { return static_cast<int>(m_titles.size()); }
     [[nodiscard]] QSize sizeHint() const override;
     /// Where a mark is drawn.
+    [[nodiscard]] int rowHeight() const;
     [[nodiscard]] QPoint placeOf(const LaneMark& mark) const;
     /// Where the title of a row stands: beside the marks, in the first room that is wide enough for
     /// it, or else in the widest.

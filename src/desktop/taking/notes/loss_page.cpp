@@ -1,6 +1,7 @@
 #include "desktop/taking/notes/loss_page.h"
 
 #include "desktop/film/film_deck.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
@@ -102,14 +103,14 @@ void LossPage::makeParts() {
     m_versus->setMinimumContentsLength(8);
     m_split = new QComboBox;
     m_split->setObjectName("lossSplit");
-    m_table->setMinimumHeight(70);
-    m_table->setMaximumHeight(110);
+    m_table->setMinimumHeight(grown(*this, 70));
+    m_table->setMaximumHeight(grown(*this, 110));
     m_result = new QLabel;
     m_result->setObjectName("lossResult");
     m_result->setWordWrap(true);
     m_reasons = new QListWidget;
     m_reasons->setObjectName("lossReasons");
-    m_reasons->setMinimumHeight(60);
+    m_reasons->setMinimumHeight(grown(*this, 60));
     m_newReason = new QLineEdit;
     m_newReason->setObjectName("lossNewReason");
     m_newReason->setPlaceholderText(tr("Another reason"));

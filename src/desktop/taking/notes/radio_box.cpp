@@ -2,6 +2,7 @@
 
 #include "common/error.h"
 #include "common/safe_file.h"
+#include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 #include "splittaking/annotations/run_notes.h"
 #include "video/sound_source.h"
@@ -23,8 +24,8 @@ RadioBox::RadioBox(RecordedSoundPlayer::MakeOutput makeOutput, SpeechRecorder::M
       m_list(new QListWidget),
       m_state(new QLabel) {
     m_list->setObjectName("radio");
-    m_list->setMinimumHeight(60);
-    m_list->setMaximumHeight(110);
+    m_list->setMinimumHeight(grown(*this, 60));
+    m_list->setMaximumHeight(grown(*this, 110));
     m_state->setObjectName("radioState");
     m_state->setWordWrap(true);
     m_state->setForegroundRole(QPalette::PlaceholderText);

@@ -1,5 +1,6 @@
 #include "desktop/taking/notes/strategy_page.h"
 
+#include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
@@ -102,7 +103,7 @@ std::vector<Column<WayRow>> StrategyPage::columns() {
 
 void StrategyPage::makeTable() {
     m_table->stretch({WayName});
-    m_table->setFixedHeight(120);
+    m_table->setFixedHeight(grown(*this, 120));
     // A letter is a key of the film that was missed, and no name.
     m_table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     m_table->setToolTip(tr("The tick is at the way that the run took. Names and times are edited "
