@@ -6,10 +6,12 @@
 #include "desktop/compose/compare_films_panel.h"
 #include "desktop/compose/compare_form.h"
 #include "desktop/compose/compare_player.h"
+#include "desktop/compose/compare_sound.h"
 #include "desktop/compose/compare_view.h"
 #include "desktop/compose/jobs_window.h"
 #include "desktop/compose/range_line.h"
 #include "desktop/compose/render_queue.h"
+#include "desktop/compose/split_choice.h"
 #include "desktop/film/film_memory.h"
 #include "desktop/shell/scroll_page.h"
 #include "desktop/shell/shown_number.h"
@@ -58,6 +60,7 @@ CompareWindow::CompareWindow(Workspace& workspace, std::unique_ptr<CompareDocume
     : ToolWindow(workspace, document.get(), {"compare", tr("Compare films"), "json"}),
       m_document(std::move(document)),
       m_player(new ComparePlayer(FilmMemory::of(workspace), this)) {
+    new CompareSound(*m_player, m_player);
     m_soon.setSingleShot(true);
     m_soon.setInterval(SoonMilliseconds);
     makeParts();
@@ -331,10 +334,17 @@ void CompareWindow::showPreview() {
     m_player->show(job, m_view->size() * m_view->devicePixelRatioF());
 }
 
+/// Of what is prepared, whose films may lack marks at some splits.
+std::size_t CompareWindow::lastSplit() const {
+    const PreparedComparison& prepared = *m_player->prepared();
+    const std::size_t marked = prepared.splits.empty() ? 0 : prepared.splits.back().split;
+    return std::max(prepared.titles.size(), marked);
+}
+
 QStringList CompareWindow::splitTitles() const {
     QStringList titles{tr("Start")};
-    for (std::size_t split = 1; split <= m_player->prepared()->splits.size(); ++split)
-        titles.append(QString::number(split));
+    for (std::size_t split = 1; split <= lastSplit(); ++split)
+        titles.append(numberedSplit(split, m_player->prepared()->titles));
     return titles;
 }
 
@@ -345,6 +355,7 @@ void CompareWindow::showPrepared() {
         showPosition();
         return;
     }
+    m_form->showSplits(lastSplit(), prepared->titles);
     m_line->setTimes(prepared->choice, chosenPart(), prepared->splits, splitTitles());
     QStringList faults = prepared->faults;
     if (m_isCutToFour)
@@ -354,10 +365,12 @@ void CompareWindow::showPrepared() {
     showPosition();
 }
 
-/// Without the moments behind the last split, so that the end stands where the split is.
+/// Without the moments behind the last split, so that the end stands where the split is. Films
+/// without marks end where the longest does.
 CommonRange CompareWindow::chosenPart() const {
     CommonRange part = m_player->prepared()->shown;
-    if (m_document->value().range.kind != wordOf(RangeKind::Free))
+    const bool isMarked = m_player->prepared()->splits.size() > 1;
+    if (isMarked && m_document->value().range.kind != wordOf(RangeKind::Free))
         part.to -= TailSeconds;
     return part;
 }

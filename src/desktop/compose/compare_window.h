@@ -96,6 +96,7 @@ private:
     void setRange(double from, double to);
     [[nodiscard]] CommonRange chosenPart() const; ///< of what is prepared
     void tell(const QString& text);
+    [[nodiscard]] std::size_t lastSplit() const;
     [[nodiscard]] QStringList splitTitles() const;
     [[nodiscard]] QString ownFolder() const;
     [[nodiscard]] QString proposedTarget() const;
