@@ -11,6 +11,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
@@ -46,6 +47,11 @@ struct PreparedComparison {
     QSize size;                      ///< of the picture
     std::optional<HeardFilm> heard;  ///< nothing where it is silent, as in slow motion
     QStringList faults;              ///< of films that cannot be shown, a sentence each
+
+    /// The number of the last one, whose mark may be missing on every film; 0 for none.
+    [[nodiscard]] std::size_t lastSplit() const {
+        return std::max(titles.size(), splits.empty() ? std::size_t{0} : splits.back().split);
+    }
 };
 
 /// Shows a comparison as its film will be, made by what makes the film, on a thread of its own. For
