@@ -4,6 +4,7 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/desktop.h"
+#include "desktop/fetch/fetch_window.h"
 #include "desktop/film/film_stage.h"
 #include "desktop/film/film_view.h"
 #include "desktop/folder/film_browser.h"
@@ -384,12 +385,27 @@ TEST_F(FilmsWindowTest, ComesBackWithTheSession) {
         ASSERT_THAT(program.windowsOf<FilmsWindow>(), SizeIs(1));
         program.openFilms(QString::fromStdString(films().string()));
         EXPECT_THAT(program.windowsOf<FilmsWindow>(), SizeIs(1)) << "it comes to the front";
+        program.openFetch();
     }
     Desktop next(m_workspace, kept());
     ASSERT_TRUE(next.restoreSession());
     ASSERT_THAT(next.windowsOf<FilmsWindow>(), SizeIs(1));
     EXPECT_EQ(next.windowsOf<FilmsWindow>().front()->shelf().folder().toStdString(),
               films().string());
+    EXPECT_THAT(next.windowsOf<FetchWindow>(), SizeIs(1)) << "it shows no file, and was open";
+}
+
+TEST_F(FilmsWindowTest, AFolderAmongTheRecentFilesComesBackInTheirWindow) {
+    addFilm("a.mp4");
+    const QString folder = QString::fromStdString(films().string());
+    open();
+    m_window.reset();
+    ASSERT_TRUE(m_workspace.recentFiles().contains(folder));
+    Desktop program(m_workspace,
+                    Autosave(QString::fromStdString((m_folder.path() / "kept").string())));
+    emit m_workspace.openRequested(folder);
+    ASSERT_THAT(program.windowsOf<FilmsWindow>(), SizeIs(1)) << "not timed, which it could be";
+    EXPECT_EQ(program.windowsOf<FilmsWindow>().front()->shelf().folder(), folder);
 }
 
 } // namespace
