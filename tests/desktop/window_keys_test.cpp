@@ -134,7 +134,8 @@ protected:
         m_program.openFilms(film("a.mp4"));
         for (auto* const window : m_program.windowsOf<desktop::FilmsWindow>())
             EXPECT_TRUE(QTest::qWaitFor(
-                [&] { return !window->shelf().isReading() && window->stage().deck().shown(0); }));
+                [&] { return !window->shelf().isReading() && window->stage().deck().shown(0); },
+                30'000));
     }
 
     void openCompare() {

@@ -64,6 +64,7 @@ FetchWindow::~FetchWindow() {
     m_logins.disconnect(this);
     m_maker.forget();
     m_job.disconnect(this);
+    m_job.disconnect(&m_list);
     m_job.cancel();
     m_table->disconnect(this);
 }
