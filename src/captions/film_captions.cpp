@@ -19,7 +19,7 @@ int evenDown(int place) {
 }
 
 int textPixels(const CaptionScene& scene, const FilmPlace& place) {
-    return std::max(std::min(scene.size.height / LinesInPicture, place.cell.width / LettersInCell),
+    return std::max(std::min(scene.size.height / LinesInPicture, place.words.width / LettersInCell),
                     SmallestText);
 }
 
@@ -27,6 +27,19 @@ int chartHeight(const CaptionScene& scene) {
     const bool hasLine = std::ranges::any_of(
         scene.gaps, [](const GapLine& line) { return line.points().size() > 1; });
     return hasLine ? evenDown(scene.size.height / ChartsInPicture) : 0;
+}
+
+PictureRect chartStrip(const CaptionScene& scene) {
+    return lowerStrip(scene.places, scene.size, chartHeight(scene));
+}
+
+/// Where the captions of a film end below: with its picture, and above the chart where that lies
+/// over it.
+int floorOf(const CaptionScene& scene, const FilmPlace& place) {
+    const int floor =
+        std::min(place.picture.y + place.picture.height, place.words.y + place.words.height);
+    const PictureRect chart = chartStrip(scene);
+    return place.words.x < chart.x + chart.width ? std::min(floor, chart.y) : floor;
 }
 
 /// Captions stand in the dark above a picture where there is room for them, otherwise on it.
@@ -37,8 +50,8 @@ int topOf(const FilmPlace& place, int pixels) {
 }
 
 /// Lets the captions of the second film begin below those of the first where both fill one place.
-bool sharesCell(const FilmPlace& a, const FilmPlace& b) {
-    return a.cell == b.cell;
+bool sharesWords(const FilmPlace& a, const FilmPlace& b) {
+    return a.words == b.words;
 }
 
 } // namespace
@@ -67,9 +80,7 @@ std::vector<PlacedOverlay> FilmCaptions::paint(const CaptionScene& scene) {
     std::vector<Corners> corners;
     for (const FilmPlace& place : scene.places) {
         const int top = topOf(place, textPixels(scene, place));
-        const int floor = scene.size.height - chartHeight(scene);
-        const int bottom = std::min(place.picture.y + place.picture.height, floor);
-        corners.push_back({top, top, bottom});
+        corners.push_back({top, top, floorOf(scene, place)});
     }
     for (const Caption& caption : scene.captions) {
         if (caption.kind == CaptionKind::Section) {
@@ -78,7 +89,7 @@ std::vector<PlacedOverlay> FilmCaptions::paint(const CaptionScene& scene) {
         }
         // Films in one place share its corners.
         std::size_t owner = 0;
-        while (!sharesCell(scene.places[owner], scene.places[caption.film]))
+        while (!sharesWords(scene.places[owner], scene.places[caption.film]))
             ++owner;
         addFilm(scene, caption, corners[owner], placed);
     }
@@ -91,15 +102,16 @@ std::vector<PlacedOverlay> FilmCaptions::paint(const CaptionScene& scene) {
 void FilmCaptions::addFilm(const CaptionScene& scene, const Caption& caption, Corners& corners,
                            std::vector<PlacedOverlay>& placed) {
     const FilmPlace& place = scene.places[caption.film];
+    const PictureRect& words = place.words;
     const int pixels = textPixels(scene, place);
     const int margin = pixels / 3;
     const bool isName = caption.kind == CaptionKind::Names;
     // The clock stands beside the names.
-    const int widest = isName ? place.cell.width - pixels * 6 : place.cell.width - 2 * margin;
+    const int widest = isName ? words.width - pixels * 6 : words.width - 2 * margin;
     const auto overlay = boxOf({caption.kind, caption.text, pixels, widest, caption.film});
     const auto [width, height] = overlay->size();
-    const int left = place.cell.x + margin;
-    const int right = place.cell.x + place.cell.width - margin - width;
+    const int left = words.x + margin;
+    const int right = words.x + words.width - margin - width;
     const int row = height + margin / 2;
     const auto put = [&](int x, int y) { placed.push_back({overlay, evenDown(x), evenDown(y)}); };
     switch (caption.kind) {
@@ -114,8 +126,8 @@ void FilmCaptions::addFilm(const CaptionScene& scene, const Caption& caption, Co
         put(left, corners.bottom);
         break;
     case CaptionKind::Missing:
-        put(place.cell.x + (place.cell.width - width) / 2,
-            place.cell.y + (place.cell.height - height) / 2);
+        put(words.x + (words.width - width) / 2,
+            words.y + (words.height - height) / 2);
         break;
     default:
         put(left, corners.left);
@@ -127,25 +139,26 @@ void FilmCaptions::addFilm(const CaptionScene& scene, const Caption& caption, Co
 void FilmCaptions::addSection(const CaptionScene& scene, const Caption& caption,
                               std::vector<PlacedOverlay>& placed) {
     const int pixels = std::max(scene.size.height / LinesInPicture, SmallestText);
-    const auto overlay = boxOf({caption.kind, caption.text, pixels, scene.size.width / 2, 0});
+    const PictureRect chart = chartStrip(scene);
+    const auto overlay = boxOf({caption.kind, caption.text, pixels, chart.width / 2, 0});
     const auto [width, height] = overlay->size();
-    placed.push_back({overlay, evenDown((scene.size.width - width) / 2),
-                      evenDown(scene.size.height - chartHeight(scene) - height - pixels / 3)});
+    placed.push_back({overlay, evenDown(chart.x + (chart.width - width) / 2),
+                      evenDown(chart.y - height - pixels / 3)});
 }
 
 void FilmCaptions::addChart(const CaptionScene& scene, std::vector<PlacedOverlay>& placed) {
-    const int height = chartHeight(scene);
-    if (height == 0)
+    const PictureRect chart = chartStrip(scene);
+    if (chart.height == 0)
         return;
     const double share = (scene.common - scene.from) / (scene.to - scene.from);
-    const int column = static_cast<int>(share * scene.size.width / ChartStep) * ChartStep;
+    const int column = static_cast<int>(share * chart.width / ChartStep) * ChartStep;
     std::size_t known = 0; // a new split is not to wait for the next step
     for (const GapLine& line : scene.gaps)
         known += line.knownAt(scene.common);
     const auto overlay = kept("chart " + std::to_string(column) + ' ' + std::to_string(known), [&] {
-        return gapChartImage(scene, {{scene.size.width, height}, column});
+        return gapChartImage(scene, {{chart.width, chart.height}, column});
     });
-    placed.push_back({overlay, 0, scene.size.height - height});
+    placed.push_back({overlay, chart.x, chart.y});
 }
 
 } // namespace kavela

@@ -94,6 +94,24 @@ CommonRange rangeBetweenSplits(const Composition& composition, const TimeMap& ma
     return {from.from, to.to + TailSeconds};
 }
 
+/// From the first start to the last mark; whole films where none has a mark behind its start.
+CommonRange rangeOfRuns(const Composition& composition, const TimeMap& map,
+                        const std::vector<double>& lengths) {
+    const Reach start =
+        reachOf(composition, map, [](const FilmMarks&) { return std::optional<std::size_t>(0); });
+    if (!std::isfinite(start.from))
+        throw DecodeError({"range.kind", "no run is marked at its start, so the range has to be "
+                                         "given in seconds"});
+    const Reach end = reachOf(composition, map, lastMark);
+    if (end.to > start.from)
+        return {start.from, end.to + TailSeconds};
+    double last = start.from;
+    for (std::size_t film = 0; film < std::min(lengths.size(), composition.films.size()); ++film)
+        if (lengths[film] > 0)
+            last = std::max(last, map.commonAt(film, lengths[film]));
+    return {start.from, last > start.from ? last : start.from + TailSeconds};
+}
+
 } // namespace
 
 TimeMap timeMapOf(const Composition& composition) {
@@ -103,18 +121,13 @@ TimeMap timeMapOf(const Composition& composition) {
     return {marks, composition.synchronise, composition.split};
 }
 
-CommonRange rangeOf(const Composition& composition, const TimeMap& map) {
+CommonRange rangeOf(const Composition& composition, const TimeMap& map,
+                    const std::vector<double>& lengths) {
     CommonRange range{composition.range.from, composition.range.to};
     if (composition.range.kind == RangeKind::Splits) {
         range = rangeBetweenSplits(composition, map);
     } else if (composition.range.kind == RangeKind::Run) {
-        const Reach start = reachOf(composition, map,
-                                    [](const FilmMarks&) { return std::optional<std::size_t>(0); });
-        const Reach end = reachOf(composition, map, lastMark);
-        if (!std::isfinite(start.from) || end.to <= start.from)
-            throw DecodeError({"range.kind", "no run is marked from its start to its end, so the "
-                                             "range has to be given in seconds"});
-        range = {start.from, end.to + TailSeconds};
+        range = rangeOfRuns(composition, map, lengths);
     }
     if (!(range.from < range.to) || !std::isfinite(range.from) || !std::isfinite(range.to))
         throw DecodeError({"range", "its end does not lie behind its beginning"});

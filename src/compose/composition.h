@@ -26,7 +26,7 @@ struct ComposedFilm {
 };
 
 enum class RangeKind {
-    Run,    ///< from the first start to the last finish
+    Run,    ///< from the first start to the last finish; of films without marks to their end
     Splits, ///< from one split to another, 0 is the start
     Free    ///< from one second of common time to another
 };
@@ -65,10 +65,12 @@ inline constexpr double TailSeconds = SplitShownSeconds;
 /// How the films of a composition lie in time. Throws DecodeError as TimeMap does.
 [[nodiscard]] TimeMap timeMapOf(const Composition& composition);
 
-/// The stretch of common time that is shown; at least the run's length of nothing is refused:
-/// throws DecodeError naming `range` where no film is marked at an end, or the end is not behind
-/// the beginning.
-[[nodiscard]] CommonRange rangeOf(const Composition& composition, const TimeMap& map);
+/// The stretch of common time that is shown. A whole run where no film has a mark behind its start
+/// goes on to the end of the longest film: `lengths` are the seconds of their last frames, 0 for a
+/// film that is not there; without any it is a moment at the start. Throws DecodeError naming
+/// `range` where no film is marked at an end, or the end is not behind the beginning.
+[[nodiscard]] CommonRange rangeOf(const Composition& composition, const TimeMap& map,
+                                  const std::vector<double>& lengths = {});
 
 /// The captions of a composition.
 [[nodiscard]] CaptionPlan captionsOf(const Composition& composition, const TimeMap& map);

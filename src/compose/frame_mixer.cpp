@@ -48,6 +48,13 @@ std::vector<OpenedFilm> openFilms(const Composition& composition, const std::sto
     return films;
 }
 
+std::vector<double> lengthsOf(std::span<const OpenedFilm> films) {
+    std::vector<double> lengths;
+    for (const OpenedFilm& film : films)
+        lengths.push_back(film.index ? film.index->secondsOf(film.index->frameCount() - 1) : 0);
+    return lengths;
+}
+
 FrameMixer::FrameMixer(const Composition& composition, std::span<const OpenedFilm> films,
                        VideoSize size, CaptionPainter* painter)
     : m_films(films.begin(), films.end()),
@@ -57,7 +64,7 @@ FrameMixer::FrameMixer(const Composition& composition, std::span<const OpenedFil
       m_isWipe(composition.layout.kind == LayoutKind::Wipe),
       m_painter(painter),
       m_map(timeMapOf(composition)),
-      m_range(rangeOf(composition, m_map)),
+      m_range(rangeOf(composition, m_map, lengthsOf(films))),
       m_captions(captionsOf(composition, m_map)) {
     placeFilms(composition);
 }

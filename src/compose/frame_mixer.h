@@ -28,6 +28,9 @@ struct OpenedFilm {
 openFilms(const Composition& composition, const std::stop_token& stop = {},
           const std::function<void(double fraction)>& onProgress = {});
 
+/// Seconds of the last frame of each film, 0 for one that is not there.
+[[nodiscard]] std::vector<double> lengthsOf(std::span<const OpenedFilm> films);
+
 /// Makes the pictures of a composition, alike for the screen and for the file: which frame of each
 /// film is due when, where it stands, and what is written over it. Used from one thread at a time,
 /// apart from frameOf().

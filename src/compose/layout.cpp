@@ -13,6 +13,8 @@ namespace {
 constexpr double InsetShare = 0.3;   ///< of the width, for a picture in a picture
 constexpr double InsetMargin = 0.02; ///< of the width
 constexpr double GhostOpacity = 0.5;
+/// Of the width, left and right: so much room the captions of a side keep wherever the line stands.
+constexpr double LeastWipeWords = 1.0 / 3;
 constexpr double SmallestTurn = 1e-6; ///< of the picture: points nearer than this say nothing
 
 int evenPixel(double pixels) {
@@ -80,6 +82,49 @@ PointPair onPixels(const PointPair& points, const PictureRect& picture, bool isO
     return pixels;
 }
 
+/// Insets leave their columns free down to the lower edge.
+int endOfFreeColumns(std::span<const FilmPlace> places, VideoSize size) {
+    int end = size.width;
+    for (const FilmPlace& place : places) {
+        const PictureRect& whole = places.front().cell;
+        const bool isInset = place.cell != whole && place.cell.x < whole.x + whole.width &&
+                             place.cell.y < whole.y + whole.height;
+        if (isInset)
+            end = std::min(end, place.cell.x);
+    }
+    return end;
+}
+
+/// Of a picture with others within it: above a single one, so that the clock keeps its corner, and
+/// left of several, which reach up to it.
+PictureRect wordsBesideInsets(std::span<const FilmPlace> places, VideoSize size) {
+    PictureRect words = places.front().cell;
+    if (places.size() == 2)
+        words.height = places[1].cell.y - words.y;
+    else
+        words.width = endOfFreeColumns(places, size) - words.x;
+    return words;
+}
+
+/// Where the captions of each film stand.
+void placeWords(const LayoutChoice& choice, std::vector<FilmPlace>& places) {
+    for (FilmPlace& place : places)
+        place.words = place.cell;
+    if (places.size() < 2)
+        return;
+    PictureRect& first = places[0].words;
+    PictureRect& second = places[1].words;
+    if (choice.kind == LayoutKind::PictureInPicture) {
+        first = wordsBesideInsets(places, choice.size);
+    } else if (choice.kind == LayoutKind::Wipe) {
+        const int line = evenPixel(std::clamp(choice.wipe, LeastWipeWords, 1 - LeastWipeWords) *
+                                   choice.size.width);
+        first.width = line;
+        second.x = line;
+        second.width = choice.size.width - line;
+    }
+}
+
 /// Lays the second film over the first.
 void overlay(const LayoutChoice& choice, std::vector<FilmPlace>& places,
              const std::vector<std::optional<PointPair>>& points) {
@@ -112,7 +157,12 @@ std::vector<FilmPlace> layOutFilms(const LayoutChoice& choice, const std::vector
     }
     if (choice.kind == LayoutKind::Ghost || choice.kind == LayoutKind::Wipe)
         overlay(choice, places, points);
+    placeWords(choice, places);
     return places;
+}
+
+PictureRect lowerStrip(std::span<const FilmPlace> places, VideoSize size, int height) {
+    return {0, size.height - height, endOfFreeColumns(places, size), height};
 }
 
 std::optional<Similarity> similarityOf(const PointPair& from, const PointPair& to) {

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <vector>
 
 /// Where each film stands in a composed picture.
@@ -45,8 +46,11 @@ struct Similarity {
 
 /// Where one film stands. Later films lie over earlier ones.
 struct FilmPlace {
-    PictureRect cell;    ///< its part of the picture; captions keep to it
+    PictureRect cell;    ///< its part of the picture
     PictureRect picture; ///< what its picture fills of the cell: all of it is seen, nothing is cut
+    /// The part of the cell that its captions keep to: no film lies there over it, and of films
+    /// that share a picture left and right of a line each has its own side.
+    PictureRect words;
     double opacity = 1;
     int firstColumn = 0; ///< of the whole picture from which on it is seen, even
     /// From pixels of its own picture to pixels of the whole, where it is laid over another by
@@ -70,6 +74,11 @@ struct LayoutChoice {
 [[nodiscard]] std::vector<FilmPlace>
 layOutFilms(const LayoutChoice& choice, const std::vector<VideoSize>& films,
             const std::vector<std::optional<PointPair>>& points = {});
+
+/// The strip along the lower edge of the whole picture, of an even height in pixels, that stays free
+/// of films within another one: what belongs to all films stands there, such as the chart of the
+/// gap. `places` are those of layOutFilms().
+[[nodiscard]] PictureRect lowerStrip(std::span<const FilmPlace> places, VideoSize size, int height);
 
 /// What brings two points over two others; nothing where two of a pair are the same.
 [[nodiscard]] std::optional<Similarity> similarityOf(const PointPair& from, const PointPair& to);

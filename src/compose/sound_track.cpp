@@ -1,8 +1,20 @@
 #include "compose/sound_track.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace kavela {
+
+std::optional<double> heardSeconds(std::span<const TimePiece> pieces, double common) {
+    if (pieces.empty())
+        return std::nullopt;
+    const auto after = std::ranges::upper_bound(pieces, common, {}, &TimePiece::common);
+    const bool isBefore = after == pieces.begin(); // its film runs by itself until then
+    const TimePiece& piece = isBefore ? pieces.front() : *std::prev(after);
+    if (piece.rate != 1 && !isBefore)
+        return std::nullopt;
+    return piece.film + common - piece.common;
+}
 
 SoundTrack::SoundTrack(const std::filesystem::path& film, std::vector<TimePiece> pieces,
                        double from, const std::stop_token& stop)

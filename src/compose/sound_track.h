@@ -6,11 +6,16 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <span>
 #include <stop_token>
 #include <vector>
 
 namespace kavela {
+
+/// The moment of a film, in its seconds, whose sound is heard at a moment of common time; nothing
+/// while the film waits or is slowed. `pieces` are the film's of a TimeMap.
+[[nodiscard]] std::optional<double> heardSeconds(std::span<const TimePiece> pieces, double common);
 
 /// What is heard in a composition: the sound of one film where that runs at its own speed, silence
 /// where it waits or is slowed.

@@ -87,7 +87,7 @@ Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
         [program = QPointer(this)] { return program ? program->toolCommands() : Commands(); });
     qApp->installEventFilter(&m_wheelGuard);
     QApplication::setWindowIcon(icon("kavela"));
-    connect(&m_workspace, &Workspace::openRequested, this, &Desktop::open);
+    connect(&m_workspace, &Workspace::openRequested, this, &Desktop::openAgain);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &Desktop::noteFront);
 }
 
@@ -487,6 +487,15 @@ void Desktop::openFilms(const QString& path) {
         show(window);
     else
         delete window;
+}
+
+/// A folder among the recent files comes back in the tool that it was opened in: by what it holds
+/// it would be timed.
+void Desktop::openAgain(const QString& path) {
+    if (FilmsWindow::recentFolders(m_workspace).contains(path))
+        openFilms(path);
+    else
+        open(path);
 }
 
 void Desktop::openSlit(const QString& film, TakingWindow* race) {

@@ -90,6 +90,8 @@ public:
     /// Shows the films of a folder, or of a film's folder with that film in front; the window that
     /// has the folder comes to the front.
     void openFilms(const QString& path);
+    /// Opens what was open once: a folder of films in their window, all else as open() does.
+    void openAgain(const QString& path);
     /// Shows the penalties of split files, and of folders with all below them, in one window; the
     /// window that has just these comes to the front.
     void openPenalties(const QStringList& paths) { m_analysis.openPenalties(paths); }

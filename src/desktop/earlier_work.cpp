@@ -66,6 +66,8 @@ bool EarlierWork::restoreWindows() const {
             (void)m_program.openCross(file.path);
         else if (file.kind == "films")
             m_program.openFilms(file.path);
+        else if (file.kind == "fetch")
+            m_program.openFetch(); // its source is remembered by the window
         else if (file.kind == "slit")
             slits.append(file.path);
         else if (file.kind == "find")

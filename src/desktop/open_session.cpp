@@ -5,6 +5,7 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -20,6 +21,14 @@ constexpr std::array<std::pair<const char*, const char*>, 4> OlderKeys{{{"openFi
                                                                         {"openTakings", "taking"},
                                                                         {"openCrosses", "cross"},
                                                                         {"openEditors", ""}}};
+
+/// Windows that show no file: what they work on is remembered otherwise.
+constexpr std::array<const char*, 1> KindsWithoutFiles{"fetch"};
+
+bool isWithoutFiles(const QString& kind) {
+    return std::ranges::any_of(KindsWithoutFiles,
+                               [&](const char* each) { return kind == QLatin1String(each); });
+}
 
 QString headOf(const OpenFile& file) {
     return file.window == 0 ? file.kind
@@ -43,6 +52,8 @@ QList<OpenFile> filesOf(const ToolWindow& window, int number) {
     const QString view = window.shownView();
     for (const QString& path : window.paths())
         files.append({window.kind(), path, number, view});
+    if (files.isEmpty() && isWithoutFiles(window.kind()))
+        files.append({window.kind(), {}, number, view});
     return files;
 }
 
@@ -63,7 +74,10 @@ QList<OpenFile> rememberedSession(const Workspace& workspace) {
     for (const auto& [key, kind] : OlderKeys)
         for (const QString& path : workspace.remembered(key))
             files.append({kind, path});
-    files.removeIf([](const OpenFile& file) { return !QFileInfo::exists(file.path); });
+    files.removeIf([](const OpenFile& file) {
+        const bool isOfNone = file.path.isEmpty() && isWithoutFiles(file.kind);
+        return !isOfNone && !QFileInfo::exists(file.path);
+    });
     return files;
 }
 

@@ -11,7 +11,7 @@ class Workspace;
 /// A file that is open, and in which kind of tool; no kind for the one that fits what it holds.
 struct OpenFile {
     QString kind;
-    QString path;
+    QString path;      ///< empty for a window that shows no file, such as that of fetching
     int window = 0;    ///< those of one window have the same number; 0 for one that is not known
     QString view = {}; ///< what that window shows of its files, as it tells it itself
 };

@@ -1,15 +1,14 @@
 #include "fetch/bib_list.h"
 
 #include "common/delimited_text.h"
-#include "common/folded_text.h"
 #include "common/text_file.h"
 #include "common/typed_number.h"
 #include "splitdata/loader.h"
+#include "splittaking/race_day/list_columns.h"
 #include "splittaking/results_match.h"
 #include "splittaking/video_names.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <stdexcept>
 
@@ -17,64 +16,25 @@ namespace kavela::fetch {
 
 namespace {
 
-enum BibColumn : std::size_t {
-    BibOf,
-    NameOf,
-    FirstNameOf,
-    CategoryOf,
-    PhaseOf,
-    RunOf,
-    BibColumnCount
-};
-
-/// Folded titles of start lists, the likeliest first.
-constexpr std::array<std::array<std::string_view, 9>, BibColumnCount> StartListTitles{{
-    {"bib", "bib no", "start no", "start number", "startnumber", "startnummer", "nr", "no",
-     "number"},
-    {"name", "names", "athlete", "athletes", "crew", "last name", "lastname", "family name",
-     "surname"},
-    {"first name", "firstname", "given name", "vorname"},
-    {"category", "cat", "class", "event", "boat class"},
-    {"phase", "round", "heat"},
-    {"run", "run no"},
-}};
-
-using BibColumns = std::array<std::optional<std::size_t>, BibColumnCount>;
-
-BibColumns columnsByTitle(const std::vector<std::string_view>& titles) {
-    BibColumns columns;
-    for (std::size_t kind = 0; kind < BibColumnCount; ++kind)
-        for (const std::string_view wanted : StartListTitles[kind])
-            for (std::size_t i = 0; i < titles.size() && !wanted.empty(); ++i) {
-                std::string title = folded(titles[i]);
-                std::erase_if(title, [](char c) { return c == '.' || c == ':'; });
-                if (!columns[kind] && title == wanted)
-                    columns[kind] = i;
-            }
-    return columns;
-}
-
-std::string fieldOf(const DelimitedReader& reader, const std::optional<std::size_t>& column) {
-    return column ? withSingleQuotes(reader.field(*column)) : std::string();
-}
-
 /// "Run 2" is the second one.
 std::int64_t runInPhase(std::string_view phase) {
     const std::size_t digits = phase.find_last_not_of("0123456789") + 1; // 0 behind no such one
     return typedWhole(phase.substr(digits)).value_or(0);
 }
 
-FetchRun runOfLine(const DelimitedReader& reader, const BibColumns& columns) {
+FetchRun runOfLine(const DelimitedReader& line, const ListColumns& columns) {
     FetchRun run;
-    std::string name = fieldOf(reader, columns[NameOf]);
-    if (const std::string first = fieldOf(reader, columns[FirstNameOf]); !first.empty())
-        name = first + ' ' + name;
-    if (!name.empty())
+    if (const std::string name = columns.name(line); !name.empty())
         run.names = crewIn(name);
-    run.category = fieldOf(reader, columns[CategoryOf]);
-    run.phase = fieldOf(reader, columns[PhaseOf]);
-    run.run = typedWhole(fieldOf(reader, columns[RunOf])).value_or(runInPhase(run.phase));
+    run.category = columns.text(line, ListColumn::Category);
+    run.phase = columns.text(line, ListColumn::Phase);
+    run.run = typedWhole(columns.text(line, ListColumn::Run)).value_or(runInPhase(run.phase));
     return run;
+}
+
+/// Of a list without titles: that of official results.
+ListColumns placesOfResults() {
+    return ListColumns({{ListColumn::Bib, 1}, {ListColumn::Name, 2}});
 }
 
 void addOnce(BibList& list, FetchRun run) {
@@ -89,14 +49,11 @@ BibList bibsOfList(std::string_view text) {
     DelimitedReader reader(text);
     if (!reader.next())
         return list;
-    BibColumns columns = columnsByTitle(reader.fields());
-    if (!columns[BibOf]) {
-        columns = {};
-        columns[BibOf] = 1;
-        columns[NameOf] = 2;
-    }
+    ListColumns columns = ListColumns::byTitle(reader.fields());
+    if (!columns.has(ListColumn::Bib))
+        columns = placesOfResults();
     while (reader.next()) {
-        const std::string field = fieldOf(reader, columns[BibOf]);
+        const std::string field = columns.text(reader, ListColumn::Bib);
         const std::optional<std::int64_t> bib = typedWhole(field);
         if (!bib || *bib <= 0) {
             list.skipped.push_back({reader.number(), field.empty()

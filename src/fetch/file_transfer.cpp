@@ -4,15 +4,31 @@
 #include "common/json_decode.h"
 #include "common/json_encode.h"
 #include "common/safe_file.h"
+#include "fetch/beside.h"
 
 #include <QDateTime>
 #include <QTimer>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace kavela::fetch {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+/// Waits until the disk has all of a file.
+bool isOnDisk(const fs::path& path) {
+    const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (file < 0)
+        return false;
+    const bool isThere = ::fsync(file) == 0;
+    ::close(file);
+    return isThere;
+}
+
+} // namespace
 
 FileTransfer::FileTransfer(QNetworkAccessManager& network, const WebRules& rules, TakeBytes mayTake,
                            QObject* parent)
@@ -170,12 +186,19 @@ void FileTransfer::finishFile() {
         retry("The server sent nothing.");
         return;
     }
-    const bool isFlushed = m_file.flush() && ::fsync(m_file.handle()) == 0;
+    const bool isFlushed = m_file.flush();
     m_file.close();
-    if (isFlushed)
-        emit whole();
-    else
-        fail({"The disk does not take the file."});
+    // A disk may take its time, and a film in pieces has thousands of ends.
+    runBeside(
+        this, [part = m_part, isFlushed] { return isFlushed && isOnDisk(part); },
+        [this](bool isKept) {
+            if (m_isStopped)
+                return;
+            if (isKept)
+                emit whole();
+            else
+                fail({"The disk does not take the file."});
+        });
 }
 
 void FileTransfer::retry(const std::string& reason,

@@ -6,6 +6,9 @@
 #include "fetch/playlist.h"
 #include "fetch/running_film.h"
 
+#include <set>
+#include <utility>
+
 namespace kavela::fetch {
 
 namespace fs = std::filesystem;
@@ -17,12 +20,35 @@ constexpr int MostPlaylistLevels = 3;
 constexpr const char* LocalPlaylistName = "film.m3u8";
 constexpr const char* KnownPiecesName = "pieces";
 
+/// What a folder for pieces holds already, or why it takes none.
+struct ReadyFolder {
+    std::set<std::string> held; ///< names of whole pieces
+    std::string fault;
+};
+
 std::string textOfFile(const fs::path& path) {
     try {
         return readTextFile(path);
     } catch (const std::runtime_error&) {
         return {};
     }
+}
+
+ReadyFolder readyFolder(const fs::path& folder, const std::string& known,
+                        const std::string& playlist) {
+    ReadyFolder ready;
+    try {
+        if (textOfFile(folder / KnownPiecesName) != known)
+            fs::remove_all(folder);
+        fs::create_directories(folder);
+        writeFileSafely(folder / LocalPlaylistName, playlist);
+        writeFileSafely(folder / KnownPiecesName, known);
+        for (const auto& entry : fs::directory_iterator(folder))
+            ready.held.insert(entry.path().filename().string());
+    } catch (const std::runtime_error& error) {
+        ready.fault = error.what();
+    }
+    return ready;
 }
 
 } // namespace
@@ -83,22 +109,25 @@ void FilmInPieces::prepare() {
             return;
         }
     }
-    try {
-        if (textOfFile(folder() / KnownPiecesName) != known)
-            fs::remove_all(folder());
-        fs::create_directories(folder());
-        writeFileSafely(folder() / LocalPlaylistName, m_localText);
-        writeFileSafely(folder() / KnownPiecesName, known);
-    } catch (const std::runtime_error& error) {
-        fail({std::string("The folder takes no file: ") + error.what()});
-        return;
-    }
-    fetchNext();
+    runBeside(
+        this,
+        [folder = folder(), known = std::move(known), playlist = m_localText] {
+            return readyFolder(folder, known, playlist);
+        },
+        [this, stop = stopFlag()](const ReadyFolder& ready) {
+            if (*stop)
+                return;
+            if (!ready.fault.empty()) {
+                fail({"The folder takes no file: " + ready.fault});
+                return;
+            }
+            m_held = ready.held;
+            fetchNext();
+        });
 }
 
 void FilmInPieces::fetchNext() {
-    std::error_code ignored;
-    while (m_next < m_pieces.size() && fs::exists(folder() / localNameOfPiece(m_next), ignored))
+    while (m_next < m_pieces.size() && m_held.contains(localNameOfPiece(m_next)))
         ++m_next;
     emit progressed(static_cast<qint64>(m_next), static_cast<qint64>(m_pieces.size()));
     if (m_next == m_pieces.size()) {
@@ -113,36 +142,54 @@ void FilmInPieces::fetchNext() {
               .otherSite = fault.otherSite,
               .wantsLogin = fault.wantsLogin});
     });
-    connect(m_piece, &FileTransfer::whole, this, [this, piece] {
-        std::error_code fault;
-        fs::rename(m_piece->part(), piece, fault);
-        m_piece->deleteLater();
-        m_piece = nullptr;
-        if (fault)
-            fail({"The folder takes no file: " + fault.message()});
-        else
-            fetchNext();
-    });
+    connect(m_piece, &FileTransfer::whole, this, [this, piece] { takePiece(piece); });
     m_piece->start(m_pieces[m_next], piece.string() + ".part");
+}
+
+void FilmInPieces::takePiece(const fs::path& piece) {
+    const fs::path part = m_piece->part();
+    m_piece->deleteLater();
+    m_piece = nullptr;
+    runBeside(
+        this,
+        [part, piece] {
+            std::error_code fault;
+            fs::rename(part, piece, fault);
+            return fault ? fault.message() : std::string();
+        },
+        [this, stop = stopFlag()](const std::string& fault) {
+            if (*stop)
+                return;
+            if (!fault.empty()) {
+                fail({"The folder takes no file: " + fault});
+                return;
+            }
+            ++m_next;
+            fetchNext();
+        });
 }
 
 void FilmInPieces::join() {
     runBeside(
         this,
-        [playlist = folder() / LocalPlaylistName, part = partPath(), stop = stopFlag()] {
-            const std::optional<std::string> fault = joinPieces(playlist, part, stop);
-            return fault ? fault : faultOfFilm(part);
-        },
-        [this](const std::optional<std::string>& fault) {
+        [folder = folder(), part = partPath(), stop = stopFlag()] {
+            std::optional<std::string> fault = joinPieces(folder / LocalPlaylistName, part, stop);
+            if (!fault)
+                fault = faultOfFilm(part);
+            if (*stop)
+                return fault; // the pieces are for the next time
             // Whole pieces that make no film would make none the next time either.
             std::error_code ignored;
-            fs::remove_all(folder(), ignored);
-            if (fault) {
-                fs::remove(partPath(), ignored);
+            fs::remove_all(folder, ignored);
+            if (fault)
+                fs::remove(part, ignored);
+            return fault;
+        },
+        [this](const std::optional<std::string>& fault) {
+            if (fault)
                 fail({*fault});
-                return;
-            }
-            takeName();
+            else
+                takeName();
         });
 }
 

@@ -5,6 +5,7 @@
 #include "fetch/small_fetch.h"
 
 #include <filesystem>
+#include <set>
 #include <string>
 
 namespace kavela::fetch {
@@ -95,6 +96,7 @@ private:
     void readPlaylist(const SmallAnswer& answer);
     void prepare();
     void fetchNext();
+    void takePiece(const std::filesystem::path& piece);
     void join();
     [[nodiscard]] std::filesystem::path folder() const;
 
@@ -102,6 +104,7 @@ private:
     FileTransfer* m_piece = nullptr;
     std::vector<Address> m_pieces;
     std::string m_localText;
+    std::set<std::string> m_held; ///< names of the pieces that were there before
     std::size_t m_next = 0;
     int m_levels = 0; ///< of playlists that led here
 };

@@ -73,5 +73,18 @@ TEST(SplitMoments, LeaveWholeFilmsToChooseFromWithoutMarks) {
     EXPECT_DOUBLE_EQ(choice.to, 40);
 }
 
+TEST(ComposedRange, OfFilmsWithoutMarksGoesToTheEndOfTheLongest) {
+    Composition composition;
+    composition.films = {filmMarkedAt({5.0}), filmMarkedAt({2.0})};
+    const TimeMap map = timeMapOf(composition);
+    const CommonRange whole = rangeOf(composition, map, {90, 130});
+    EXPECT_DOUBLE_EQ(whole.from, 0);
+    EXPECT_DOUBLE_EQ(whole.to, 128) << "no minute, and none of the second before its start";
+    EXPECT_DOUBLE_EQ(rangeOf(composition, map, {90, 0}).to, 85) << "the second one is missing";
+    EXPECT_GT(rangeOf(composition, map).to, 0) << "a job is read before its films are";
+    composition.films[0].run.marks = {5.0, 25.0};
+    EXPECT_DOUBLE_EQ(rangeOf(composition, timeMapOf(composition), {90, 130}).to, 20 + TailSeconds);
+}
+
 } // namespace
 } // namespace kavela::test

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <string>
 
 namespace kavela {
 namespace {
@@ -47,6 +48,48 @@ TEST(Layout, InsetsDoNotTouchEachOther) {
                                     {Lying, Upright, Upright, Lying});
     for (std::size_t i = 2; i < places.size(); ++i)
         EXPECT_LE(places[i].cell.y + places[i].cell.height, places[i - 1].cell.y);
+}
+
+bool rectsOverlap(const PictureRect& a, const PictureRect& b) {
+    return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height &&
+           b.y < a.y + a.height;
+}
+
+TEST(Layout, NoWordAndNoChartStandsOverAnInset) {
+    for (const VideoSize whole : {VideoSize{1920, 1080}, {960, 540}, {1080, 1920}, {1080, 1080}})
+        for (const std::size_t count : {2U, 3U, 4U}) {
+            SCOPED_TRACE(std::to_string(whole.width) + " wide, " + std::to_string(count));
+            std::vector<VideoSize> films{Lying, Lying, Upright, Lying};
+            films.resize(count);
+            const auto places = layOutFilms({LayoutKind::PictureInPicture, whole, 0.5}, films);
+            const PictureRect chart = lowerStrip(places, whole, whole.height / 9 / 2 * 2);
+            EXPECT_EQ(chart.y + chart.height, whole.height);
+            EXPECT_GT(chart.width, whole.width / 2);
+            for (std::size_t inset = 1; inset < count; ++inset) {
+                EXPECT_FALSE(rectsOverlap(chart, places[inset].cell)) << inset;
+                EXPECT_FALSE(rectsOverlap(places[0].words, places[inset].cell)) << inset;
+                EXPECT_EQ(places[inset].words, places[inset].cell);
+            }
+            EXPECT_GT(places[0].words.height, whole.height / 2);
+            EXPECT_GT(places[0].words.width, whole.width / 2);
+        }
+    const auto beside = layOutFilms({LayoutKind::SideBySide, {1920, 1080}, 0.5}, {Lying, Lying});
+    EXPECT_EQ(lowerStrip(beside, {1920, 1080}, 120), (PictureRect{0, 960, 1920, 120}));
+}
+
+TEST(Layout, TheWordsOfAWipeStandOnTheirOwnSides) {
+    for (const double wipe : {0.0, 0.3, 0.5, 0.8, 1.0}) {
+        const auto places = layOutFilms({LayoutKind::Wipe, {1280, 720}, wipe}, {Lying, Upright});
+        EXPECT_EQ(places[0].words.x, 0);
+        EXPECT_EQ(places[0].words.width, places[1].words.x);
+        EXPECT_EQ(places[1].words.x + places[1].words.width, 1280);
+        EXPECT_GT(places[0].words.width, 400) << "they can be read wherever the line stands";
+        EXPECT_GT(places[1].words.width, 400);
+    }
+    const auto middle = layOutFilms({LayoutKind::Wipe, {1280, 720}, 0.5}, {Lying, Upright});
+    EXPECT_EQ(middle[1].words.x, middle[1].firstColumn) << "beside the line";
+    const auto ghost = layOutFilms({LayoutKind::Ghost, {1280, 720}, 0.5}, {Lying, Lying});
+    EXPECT_EQ(ghost[0].words, ghost[1].words) << "there is no side: they share the corners";
 }
 
 TEST(Layout, AGhostIsBroughtOverTheSameTwoPoints) {

@@ -1,3 +1,4 @@
+#include "compose/sound_track.h"
 #include "compose/time_map.h"
 
 #include "common/error.h"
@@ -66,6 +67,23 @@ TEST(TimeMap, TellsWhenAMomentIsFirstShown) {
     EXPECT_DOUBLE_EQ(map.commonAt(0, 12), 2);
     EXPECT_DOUBLE_EQ(map.commonAt(1, 26), 7);
     EXPECT_DOUBLE_EQ(map.commonAt(0, 8), -2);
+}
+
+TEST(HeardSeconds, AreSilentWhileTheFilmWaitsOrIsSlowed) {
+    const std::vector<FilmMarks> runs{{0.0, 1.0, 2.0}, {0.0, 1.5, 2.0}};
+    const TimeMap waiting(runs, Synchronise::Waiting);
+    const auto heard = [&](std::size_t film, double common) {
+        return heardSeconds(waiting.pieces(film), common);
+    };
+    EXPECT_DOUBLE_EQ(heard(0, -1).value(), -1) << "before the first mark it runs by itself";
+    EXPECT_DOUBLE_EQ(heard(0, 0.5).value(), 0.5);
+    EXPECT_FALSE(heard(0, 1.2)) << "it waits at the first split";
+    EXPECT_DOUBLE_EQ(heard(0, 2).value(), 1.5);
+    EXPECT_FALSE(heard(1, 2.2)) << "now the other one does";
+    EXPECT_DOUBLE_EQ(heard(1, 3).value(), 2.5);
+    const TimeMap stretched(runs, Synchronise::Stretched);
+    EXPECT_FALSE(heardSeconds(stretched.pieces(0), 0.5));
+    EXPECT_DOUBLE_EQ(heardSeconds(stretched.pieces(1), 0.5).value(), 0.5) << "the slowest one";
 }
 
 TEST(TimeMap, PassesOverASplitThatOneFilmLacks) {

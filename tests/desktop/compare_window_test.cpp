@@ -2,6 +2,7 @@
 
 #include "desktop/closing.h"
 #include "desktop/compose/compare_films_panel.h"
+#include "desktop/compose/compare_form.h"
 #include "desktop/compose/compare_player.h"
 #include "desktop/compose/compare_view.h"
 #include "desktop/compose/jobs_window.h"
@@ -11,6 +12,8 @@
 #include "desktop/race_fixture.h"
 #include "desktop/saving.h"
 #include "video/index.h"
+
+#include <QComboBox>
 
 #include <filesystem>
 
@@ -44,7 +47,7 @@ protected:
             job.captions = {false, false, false, false, false, false};
             job.output.width = 640;
             job.output.height = 180;
-            job.range.to = 4;
+            job.range = {"free", 0, 0, 0, 4};
         });
         return window;
     }
@@ -112,6 +115,36 @@ TEST_F(CompareWindowTest, TakesAPartThatIsDraggedAndOneThatIsMarkedHere) {
     window.player().seek(1);
     window.beginHere();
     EXPECT_NEAR(window.document().value().range.from, 1, 1e-6);
+}
+
+TEST_F(CompareWindowTest, ShowsFilmsWithoutMarksToTheirEnd) {
+    m_desktop.openCompare(
+        {.runs = {}, .films = {{film("one.mp4"), "One", 1}, {film("two.mp4"), "Two", 1.5}}});
+    CompareWindow& window = *m_desktop.windowsOf<CompareWindow>().back();
+    ASSERT_TRUE(isPrepared(window));
+    EXPECT_EQ(window.document().value().range.kind, "run");
+    const auto index = readVideoIndex(numberedFilm());
+    EXPECT_NEAR(window.player().prepared()->length, index->secondsOf(index->frameCount() - 1) - 1,
+                1e-6);
+}
+
+TEST_F(CompareWindowTest, OffersSplitsByNumberAndTitle) {
+    CompareWindow& window = compareTwo();
+    desktop::CompareForm& form = window.form();
+    form.showSplits(3, {"bridge", "", "upstream 6"});
+    auto* const choice = form.findChild<QComboBox*>("fromSplit");
+    ASSERT_NE(choice, nullptr);
+    QStringList offered;
+    for (int i = 0; i < choice->count(); ++i)
+        offered.append(choice->itemText(i));
+    EXPECT_EQ(offered, QStringList({"the start", "1 bridge", "2", "3 upstream 6"}));
+    choice->setCurrentIndex(3);
+    EXPECT_EQ(window.document().value().range.fromSplit, 3);
+    window.document().undoStack().undo();
+    EXPECT_EQ(choice->currentText(), "the start");
+    window.document().edit("split", [](composejob002& job) { job.range.fromSplit = 7; });
+    EXPECT_EQ(choice->currentText(), "7") << "a split that no run has is told, not hidden";
+    EXPECT_EQ(window.document().value().range.fromSplit, 7);
 }
 
 TEST_F(CompareWindowTest, WritesItsFileFromWhereItStands) {

@@ -4,6 +4,7 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/desktop.h"
+#include "desktop/fetch/fetch_window.h"
 #include "desktop/film/film_stage.h"
 #include "desktop/film/film_view.h"
 #include "desktop/folder/film_browser.h"
@@ -20,6 +21,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QIcon>
+#include <QImage>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -158,6 +161,47 @@ TEST_F(FilmsWindowTest, LooksAtEveryFilmAndKeepsThePictures) {
     EXPECT_FALSE(window.looks().lookOf(pathOf("a.mp4"))->picture.isNull());
     EXPECT_NEAR(window.looks().lookOf(pathOf("a.mp4"))->seconds.value_or(0), 2, 0.1);
     EXPECT_FALSE(window.looks().lookOf(pathOf("b.mp4"))->fault.isEmpty()) << "it says why";
+}
+
+TEST_F(FilmsWindowTest, OfTwoHundredFilmsThoseInSightAreLookedAtFirst) {
+    constexpr int Many = 200;
+    addFilm("1 Ann Lee K1W Final.mp4");
+    for (int bib = 2; bib <= Many; ++bib)
+        fs::create_hard_link(films() / "1 Ann Lee K1W Final.mp4",
+                             films() / (std::to_string(bib) + " Ann Lee K1W Final.mp4"));
+    m_workspace.remember("filmNames", {"{bib} {name} {category} {phase}"});
+    m_window = std::make_unique<FilmsWindow>(m_workspace, QString()); // no picture from before
+    m_window->setAttribute(Qt::WA_DeleteOnClose, false);
+    m_window->show();
+    ASSERT_TRUE(m_window->open(QString::fromStdString(films().string())));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_window->shelf().isReading(); }, FilmPatience));
+    ASSERT_THAT(shown(), SizeIs(Many));
+    FilmBrowser& browser = m_window->browser();
+    browser.filterLine().setText("117");
+    EXPECT_THAT(shown(), ElementsAre("117 Ann Lee K1W Final.mp4"));
+    browser.filterLine().clear();
+    ASSERT_THAT(shown(), SizeIs(Many));
+
+    QStringList looked;
+    QObject::connect(&m_window->looks(), &ThumbnailStore::looked,
+                     [&](const QString& film) { looked.append(film); });
+    m_window->looks().forget();
+    looked.clear();
+    ColumnTable& list = browser.list();
+    list.scrollToBottom();
+    const QStringList seen = browser.shownFilms().mid(list.rowAt(0));
+    ASSERT_GT(seen.size(), 3);
+    ASSERT_LT(seen.size(), Many / 2);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return looked.size() >= seen.size() - 1; }, FilmPatience));
+    for (const QString& film : looked.mid(0, seen.size() - 1)) // two are made at a time
+        EXPECT_TRUE(seen.contains(film)) << film.toStdString();
+    const QModelIndex cell = list.model()->index(list.rowAt(0), 1);
+    const QImage picture =
+        cell.data(Qt::DecorationRole).value<QIcon>().pixmap(QSize(64, 36)).toImage();
+    ASSERT_FALSE(picture.isNull());
+    EXPECT_EQ(picture.pixelColor(picture.rect().center()).alpha(), 255) << "its line shows it";
+    m_window.reset();
+    EXPECT_LT(looked.size(), Many) << "closing does not wait for the rest";
 }
 
 TEST_F(FilmsWindowTest, PlaysOneAfterTheOtherAndNotesThemAsWatched) {
@@ -341,12 +385,27 @@ TEST_F(FilmsWindowTest, ComesBackWithTheSession) {
         ASSERT_THAT(program.windowsOf<FilmsWindow>(), SizeIs(1));
         program.openFilms(QString::fromStdString(films().string()));
         EXPECT_THAT(program.windowsOf<FilmsWindow>(), SizeIs(1)) << "it comes to the front";
+        program.openFetch();
     }
     Desktop next(m_workspace, kept());
     ASSERT_TRUE(next.restoreSession());
     ASSERT_THAT(next.windowsOf<FilmsWindow>(), SizeIs(1));
     EXPECT_EQ(next.windowsOf<FilmsWindow>().front()->shelf().folder().toStdString(),
               films().string());
+    EXPECT_THAT(next.windowsOf<FetchWindow>(), SizeIs(1)) << "it shows no file, and was open";
+}
+
+TEST_F(FilmsWindowTest, AFolderAmongTheRecentFilesComesBackInTheirWindow) {
+    addFilm("a.mp4");
+    const QString folder = QString::fromStdString(films().string());
+    open();
+    m_window.reset();
+    ASSERT_TRUE(m_workspace.recentFiles().contains(folder));
+    Desktop program(m_workspace,
+                    Autosave(QString::fromStdString((m_folder.path() / "kept").string())));
+    emit m_workspace.openRequested(folder);
+    ASSERT_THAT(program.windowsOf<FilmsWindow>(), SizeIs(1)) << "not timed, which it could be";
+    EXPECT_EQ(program.windowsOf<FilmsWindow>().front()->shelf().folder(), folder);
 }
 
 } // namespace

@@ -1,11 +1,16 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
+#include "desktop/compose/compare_player.h"
+#include "desktop/compose/compare_window.h"
 #include "desktop/cross/cross_window.h"
 #include "desktop/desktop.h"
+#include "desktop/film/film_stage.h"
 #include "desktop/find/find_window.h"
 #include "desktop/find/found_table.h"
+#include "desktop/folder/films_window.h"
 #include "desktop/losses/losses_window.h"
 #include "desktop/motion/motion_window.h"
+#include "desktop/numbered_film.h"
 #include "desktop/penalties/penalties_window.h"
 #include "desktop/race/race_window.h"
 #include "desktop/season/season_window.h"
@@ -50,7 +55,13 @@ protected:
 
     QMainWindow* open() {
         const WindowOf& wanted = GetParam();
-        if (!wanted.example) {
+        if (std::string_view(wanted.name) == "films") {
+            openFilms();
+        } else if (std::string_view(wanted.name) == "compare") {
+            openCompare();
+        } else if (std::string_view(wanted.name) == "fetch") {
+            m_program.openFetch();
+        } else if (!wanted.example) {
             m_program.showHome();
         } else {
             const fs::path from = fs::path(KAVELA_EXAMPLES) / wanted.example;
@@ -109,6 +120,30 @@ protected:
         m_program.openSeason({path});
         for (const auto* const window : m_program.windowsOf<desktop::SeasonWindow>())
             EXPECT_TRUE(QTest::qWaitFor([&] { return !window->isBusy() && window->season(); }));
+    }
+
+    /// A film in a folder of its own.
+    QString film(const char* name) {
+        const fs::path folder = m_folder.path() / "films";
+        fs::create_directories(folder);
+        fs::create_symlink(numberedFilm(), folder / name);
+        return QString::fromStdString((folder / name).string());
+    }
+
+    void openFilms() {
+        m_program.openFilms(film("a.mp4"));
+        for (auto* const window : m_program.windowsOf<desktop::FilmsWindow>())
+            EXPECT_TRUE(QTest::qWaitFor(
+                [&] { return !window->shelf().isReading() && window->stage().deck().shown(0); },
+                30'000));
+    }
+
+    void openCompare() {
+        m_program.openCompare(
+            {.runs = {}, .films = {{film("a.mp4"), "One", 1}, {film("b.mp4"), "Two", 2}}});
+        for (auto* const window : m_program.windowsOf<desktop::CompareWindow>())
+            EXPECT_TRUE(
+                QTest::qWaitFor([&] { return window->player().prepared().has_value(); }, 30'000));
     }
 
     void openFind(const QString& path) {
@@ -200,24 +235,24 @@ TEST_P(WindowKeysTest, HearsEveryKeyOfTheOverviewWhereverTheFocusIs) {
     EXPECT_TRUE(!key || m_heard.contains(key)) << key;
 }
 
-INSTANTIATE_TEST_SUITE_P(Windows, WindowKeysTest,
-                         ::testing::Values(WindowOf{"home", nullptr},
-                                           WindowOf{"race", "races/riverside_cup.kvx", "Alt+1"},
-                                           WindowOf{"taking", "races/spring_opener.kvx"},
-                                           WindowOf{"cross", "races/harbour_cross.kvx"},
-                                           WindowOf{"team", "team/kavela_team.kvteam"},
-                                           WindowOf{"selection", "selection/spring_selection.kvsr"},
-                                           WindowOf{"planning", "planning/season.planning"},
-                                           WindowOf{"watertests", "tests/form_tests.kvtest"},
-                                           WindowOf{"penalties", "races/riverside_cup.kvx",
-                                                    "Alt+4"},
-                                           WindowOf{"losses", "races/riverside_cup.kvx", "Shift+W"},
-                                           WindowOf{"season", "team/kavela_team.kvteam", "Alt+9"},
-                                           WindowOf{"find", "races/riverside_cup.kvx", "Alt+2"},
-                                           WindowOf{"tables", "races/spring_opener_results.csv"},
-                                           WindowOf{"motion", "recordings/upstream_drill.kvb"},
-                                           WindowOf{"session", "recordings/upstream_drill.kvb"}),
-                         [](const auto& window) { return window.param.name; });
+INSTANTIATE_TEST_SUITE_P(
+    Windows, WindowKeysTest,
+    ::testing::Values(
+        WindowOf{"home", nullptr}, WindowOf{"race", "races/riverside_cup.kvx", "Alt+1"},
+        WindowOf{"taking", "races/spring_opener.kvx"}, WindowOf{"cross", "races/harbour_cross.kvx"},
+        WindowOf{"team", "team/kavela_team.kvteam"},
+        WindowOf{"selection", "selection/spring_selection.kvsr"},
+        WindowOf{"planning", "planning/season.planning"},
+        WindowOf{"watertests", "tests/form_tests.kvtest"},
+        WindowOf{"penalties", "races/riverside_cup.kvx", "Alt+4"},
+        WindowOf{"losses", "races/riverside_cup.kvx", "Shift+W"},
+        WindowOf{"season", "team/kavela_team.kvteam", "Alt+9"},
+        WindowOf{"find", "races/riverside_cup.kvx", "Alt+2"},
+        WindowOf{"tables", "races/spring_opener_results.csv"},
+        WindowOf{"motion", "recordings/upstream_drill.kvb"},
+        WindowOf{"session", "recordings/upstream_drill.kvb"}, WindowOf{"films", nullptr, "W"},
+        WindowOf{"compare", nullptr, "I"}, WindowOf{"fetch", nullptr, "F5"}),
+    [](const auto& window) { return window.param.name; });
 
 } // namespace
 } // namespace kavela::test

@@ -2,6 +2,7 @@
 #include "fetch/bib_list.h"
 #include "fetch/film_name.h"
 #include "fetch/url_pattern.h"
+#include "splittaking/race_day/start_list.h"
 
 #include <gmock/gmock.h>
 
@@ -126,6 +127,18 @@ TEST(BibLists, AreReadByTheirTitles) {
     ASSERT_THAT(list.skipped, SizeIs(2));
     EXPECT_EQ(list.skipped[0].line, 3);
     EXPECT_EQ(list.skipped[1].reason, "\"x7\" is no bib.");
+}
+
+TEST(BibLists, AndStartListsOfARaceDayKnowTheSameTitles) {
+    for (const char* const text : {"Startnummer:;Name;Vorname;Boat class\n12;Novak;Jan;K1M\n",
+                                   "No.;Time;Bib;Athletes;Cat.\n1;10:01;12;Jan Novak;K1M\n"}) {
+        EXPECT_THAT(bibsOfList(text).runs, ElementsAre(run(12, {"Jan Novak"}, "K1M"))) << text;
+        const StartList day = parseStartList(text);
+        ASSERT_THAT(day.starts, SizeIs(1)) << text;
+        EXPECT_EQ(day.starts[0].bib, 12);
+        EXPECT_EQ(day.starts[0].name, "Jan Novak");
+        EXPECT_EQ(day.starts[0].cat, "K1M");
+    }
 }
 
 TEST(BibLists, OfOfficialResultsNeedNoTitles) {

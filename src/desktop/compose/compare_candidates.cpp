@@ -66,9 +66,8 @@ void readFilm(const QString& path, const std::stop_token& stop, FoundCandidates&
     candidate.film = path;
     candidate.names = QFileInfo(path).completeBaseName();
     try {
-        if (const auto index = readVideoIndex(path.toStdString(), stop))
-            candidate.length = index->secondsOf(index->frameCount() - 1);
-        found.candidates.push_back(std::move(candidate));
+        if (readVideoIndex(path.toStdString(), stop)) // else it was stopped
+            found.candidates.push_back(std::move(candidate));
     } catch (const VideoError& error) {
         found.faults.push_back(QStringLiteral("%1: %2").arg(
             QFileInfo(path).fileName(), QString::fromStdString(error.reason())));
@@ -138,15 +137,7 @@ void settleRange(composejob002& job, const std::vector<CompareCandidate>& known)
         std::ranges::any_of(job.films,
                             [&](const composefilm002& film) { return isMarkedIn(film, known); }))
         return;
-    constexpr double UnknownLength = 60; // seconds
-    double longest = 0;
-    for (const composefilm002& film : job.films)
-        for (const CompareCandidate& candidate : known)
-            if (isCandidate(film, candidate))
-                longest = std::max(longest, candidate.length - film.startsAt);
-    job.range.kind = wordOf(RangeKind::Free);
-    job.range.from = 0;
-    job.range.to = longest > 0 ? longest : UnknownLength;
+    job.range.kind = wordOf(RangeKind::Run);
 }
 
 } // namespace kavela::desktop

@@ -26,7 +26,6 @@ struct CompareCandidate {
     QString phase;
     std::optional<double> time = {}; ///< total of the run with penalties, in seconds
     bool isMarked = false;           ///< from its start to a split behind it, on this film
-    double length = 0;               ///< seconds of a film by itself; 0 where that is not known
     double startsAt = 0;             ///< seconds of the film, where no start is marked
 
     /// By what it is told from others.
@@ -56,9 +55,9 @@ void placeCandidates(const Workspace& workspace, std::vector<CompareCandidate>& 
 /// Whether a film of a job is the candidate.
 [[nodiscard]] bool isCandidate(const composefilm002& film, const CompareCandidate& candidate);
 
-/// Brings a job's range to what its films can show: films without marks are shown from their start,
-/// for as long as the longest of them goes on or a minute where that is not known. Other ranges
-/// stay. `known` are those candidates that were read.
+/// Brings a job's range to what its films can show: those without marks, which have no splits, are
+/// shown whole, from their start to the end of the longest. A range in seconds stays. `known` are
+/// those candidates that were read.
 void settleRange(composejob002& job, const std::vector<CompareCandidate>& known);
 
 } // namespace kavela::desktop

@@ -1,9 +1,12 @@
 #include "desktop/compose/compare_form.h"
 
 #include "common/text.h"
+#include "desktop/compose/split_choice.h"
 
 #include <QCoreApplication>
 
+#include <algorithm>
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,7 +18,6 @@ namespace {
 using TextChoices = std::vector<std::pair<QString, std::string>>;
 using SizeChoice = std::pair<std::int64_t, std::int64_t>;
 
-constexpr double MostSplits = 50;
 constexpr double LongestMoment = 86400; // seconds
 
 QString formText(const char* text) {
@@ -25,10 +27,6 @@ QString formText(const char* text) {
 template <class Kind>
 std::pair<QString, std::string> wordChoice(const char* text, Kind kind) {
     return {formText(text), std::string(wordOf(kind))};
-}
-
-NumberFacts splitNumber() {
-    return {.least = 0, .most = MostSplits, .none = formText("the start")};
 }
 
 NumberFacts freeMoment() {
@@ -61,10 +59,31 @@ CompareForm::CompareForm(Edit edit, QWidget* parent)
                     wordChoice(KAVELA_TEXT("at every split, waiting"), Synchronise::Waiting),
                     wordChoice(KAVELA_TEXT("at every split, stretched"), Synchronise::Stretched)},
         &composejob002::synchronise);
-    whole({.name = "split", .label = formText("Split")}, splitNumber(), &composejob002::split);
+    splitChoice({.name = "split", .label = formText("Split")}, 0, &composejob002::split);
     addTimes();
     addCaptions();
     addOutput();
+}
+
+template <class Member>
+void CompareForm::splitChoice(const FieldFacts& facts, int least, Member member) {
+    auto* const choice = new SplitChoice(least, formText("the start"));
+    const std::size_t field = addPart(
+        facts, choice, [choice](const QVariant& value) { choice->setSplit(value.toInt()); },
+        [choice] { return QVariant(choice->split()); });
+    bind<std::int64_t>(
+        field, member,
+        [](std::int64_t split) {
+            return static_cast<int>(std::clamp<std::int64_t>(split, 0, SplitChoice::MostSplits));
+        },
+        [](const QVariant& chosen) { return std::int64_t{chosen.toInt()}; });
+    connect(choice, &QComboBox::currentIndexChanged, this, [this, field] { takeField(field); });
+    m_splits.push_back(choice);
+}
+
+void CompareForm::showSplits(std::size_t count, const std::vector<std::string>& titles) {
+    for (SplitChoice* const choice : m_splits)
+        choice->setSplits(count, titles);
 }
 
 void CompareForm::addTimes() {
@@ -82,11 +101,11 @@ void CompareForm::addTimes() {
                       if (kind == wordOf(RangeKind::Free) && !(job.range.to > job.range.from))
                           job.range.to = job.range.from + 10;
                   }});
-    whole(
-        {.name = "fromSplit", .label = formText("From split")}, splitNumber(),
+    splitChoice(
+        {.name = "fromSplit", .label = formText("From split")}, 0,
         [](auto& job) -> auto& { return job.range.fromSplit; });
-    whole(
-        {.name = "toSplit", .label = formText("To split")}, {.least = 1, .most = MostSplits},
+    splitChoice(
+        {.name = "toSplit", .label = formText("To split")}, 1,
         [](auto& job) -> auto& { return job.range.toSplit; });
     number(
         {.name = "from", .label = formText("From")}, freeMoment(),

@@ -46,6 +46,20 @@ void ComparePlayer::seek(double seconds) {
         return;
     m_position = std::clamp(seconds, 0.0, m_prepared->length);
     m_worker->seek(m_position);
+    setClock();
+    emit sought();
+}
+
+void ComparePlayer::setClock() {
+    m_clockFrom = m_position;
+    m_clockSince = std::chrono::steady_clock::now();
+}
+
+double ComparePlayer::clock() const {
+    if (!m_isPlaying || !m_prepared)
+        return m_position;
+    const std::chrono::duration<double> since = std::chrono::steady_clock::now() - m_clockSince;
+    return std::min(m_clockFrom + since.count(), m_prepared->length);
 }
 
 void ComparePlayer::step(int frames) {
@@ -63,6 +77,7 @@ void ComparePlayer::play() {
     m_isPlaying = true;
     m_worker->seek(m_position);
     m_worker->setPlaying(true, m_position);
+    setClock();
     emit playingChanged();
 }
 
@@ -91,6 +106,7 @@ void ComparePlayer::takeNews() {
     if (news.prepared) {
         m_prepared = std::move(news.prepared);
         m_position = news.position;
+        setClock();
         emit preparedChanged();
     }
     if (news.picture) {

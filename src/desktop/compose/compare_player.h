@@ -3,6 +3,7 @@
 #include "compose/compose_job.h"
 #include "compose/layout.h"
 #include "compose/split_moments.h"
+#include "compose/time_map.h"
 
 #include <QImage>
 #include <QObject>
@@ -10,10 +11,13 @@
 #include <QString>
 #include <QStringList>
 
+#include <algorithm>
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace kavela {
@@ -24,6 +28,12 @@ namespace kavela::desktop {
 
 class PreviewWorker;
 
+/// The film of a comparison that is heard.
+struct HeardFilm {
+    std::filesystem::path film;
+    std::vector<TimePiece> pieces; ///< by common time
+};
+
 /// What a comparison is, once its split files and films were read.
 struct PreparedComparison {
     double length = 0;          ///< seconds of the composed film
@@ -32,9 +42,16 @@ struct PreparedComparison {
     CommonRange shown;          ///< in common time
     CommonRange choice;         ///< that a part can be chosen from
     std::vector<SplitMoment> splits;
-    std::vector<FilmPlace> places; ///< in the picture
-    QSize size;                    ///< of the picture
-    QStringList faults;            ///< of films that cannot be shown, a sentence each
+    std::vector<std::string> titles; ///< of the splits, entry 0 that of split 1
+    std::vector<FilmPlace> places;   ///< in the picture
+    QSize size;                      ///< of the picture
+    std::optional<HeardFilm> heard;  ///< nothing where it is silent, as in slow motion
+    QStringList faults;              ///< of films that cannot be shown, a sentence each
+
+    /// The number of the last one, whose mark may be missing on every film; 0 for none.
+    [[nodiscard]] std::size_t lastSplit() const {
+        return std::max(titles.size(), splits.empty() ? std::size_t{0} : splits.back().split);
+    }
 };
 
 /// Shows a comparison as its film will be, made by what makes the film, on a thread of its own. For
@@ -63,6 +80,9 @@ public:
     [[nodiscard]] bool isPlaying() const { return m_isPlaying; }
     /// Seconds of the composed film that the picture stands at.
     [[nodiscard]] double position() const { return m_position; }
+    /// Seconds of the composed film that are due by now: while it plays, ahead of the picture by
+    /// what making that takes.
+    [[nodiscard]] double clock() const;
 
     /// Nothing until a job was read, and where that failed.
     [[nodiscard]] const std::optional<PreparedComparison>& prepared() const { return m_prepared; }
@@ -76,13 +96,18 @@ signals:
     void failed(const QString& where, const QString& what);
     void pictureShown();
     void playingChanged();
+    /// It goes on from another moment.
+    void sought();
 
 private:
     friend class PreviewWorker;
     void takeNews();
+    void setClock();
 
     bool m_isPlaying = false;
     double m_position = 0;
+    double m_clockFrom = 0; ///< where it stood at m_clockSince
+    std::chrono::steady_clock::time_point m_clockSince;
     std::uint64_t m_asked = 0; ///< number of the job that was asked for last
     std::optional<PreparedComparison> m_prepared;
     QImage m_image;

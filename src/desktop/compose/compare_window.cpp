@@ -3,13 +3,17 @@
 #include "common/error.h"
 #include "compose/composition.h"
 #include "compose/split_moments.h"
+#include "desktop/compose/compare_actions.h"
 #include "desktop/compose/compare_films_panel.h"
 #include "desktop/compose/compare_form.h"
 #include "desktop/compose/compare_player.h"
+#include "desktop/compose/compare_sound.h"
 #include "desktop/compose/compare_view.h"
 #include "desktop/compose/jobs_window.h"
 #include "desktop/compose/range_line.h"
 #include "desktop/compose/render_queue.h"
+#include "desktop/compose/requested_job.h"
+#include "desktop/compose/split_choice.h"
 #include "desktop/film/film_memory.h"
 #include "desktop/shell/scroll_page.h"
 #include "desktop/shell/shown_number.h"
@@ -23,8 +27,6 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
 #include <QPushButton>
 #include <QSplitter>
 #include <QStandardPaths>
@@ -39,15 +41,6 @@ namespace kavela::desktop {
 namespace {
 
 constexpr int SoonMilliseconds = 60;
-constexpr std::size_t PointsOfFilm = 2;
-
-/// A place in a job in the words of the window: "Film 2".
-QString placeInJob(const QString& where) {
-    if (!where.startsWith("films["))
-        return {};
-    const int end = static_cast<int>(where.indexOf(']'));
-    return CompareWindow::tr("Film %1").arg(where.mid(6, end - 6).toInt() + 1);
-}
 
 } // namespace
 
@@ -58,12 +51,13 @@ CompareWindow::CompareWindow(Workspace& workspace, std::unique_ptr<CompareDocume
     : ToolWindow(workspace, document.get(), {"compare", tr("Compare films"), "json"}),
       m_document(std::move(document)),
       m_player(new ComparePlayer(FilmMemory::of(workspace), this)) {
+    new CompareSound(*m_player, m_player);
     m_soon.setSingleShot(true);
     m_soon.setInterval(SoonMilliseconds);
     makeParts();
     connectParts();
     connectPlayer();
-    makeMenus();
+    makeCompareMenus(*this);
     showRenders();
 }
 
@@ -121,46 +115,6 @@ QWidget* CompareWindow::makeStage() {
     column->addLayout(bar);
     column->addWidget(m_told);
     return stage;
-}
-
-void CompareWindow::makeMenus() {
-    QMenu* const file = makeFileMenu();
-    file->addAction(tr("Add s&plit files…"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O), this,
-                    &CompareWindow::chooseSplitFiles);
-    file->addAction(tr("Add &films…"), QKeySequence(Qt::CTRL | Qt::Key_I), this,
-                    &CompareWindow::chooseFilms);
-    file->addAction(tr("&Compose the film…"), QKeySequence(Qt::CTRL | Qt::Key_E), this,
-                    &CompareWindow::askAndCompose);
-    file->addAction(tr("Films being composed: &jobs"), QKeySequence(Qt::CTRL | Qt::Key_J), this,
-                    &CompareWindow::showJobs);
-    makeEditMenu()->addAction(tr("&Find a run or a film"), QKeySequence::Find, this,
-                              [this] { m_films->find(); });
-    QMenu* const play = menuBar()->addMenu(tr("&Play"));
-    play->addAction(tr("&Play or pause"), QKeySequence(Qt::Key_Space), this,
-                    &CompareWindow::togglePlaying);
-    play->addAction(tr("From the &beginning"), QKeySequence(Qt::SHIFT | Qt::Key_Space), this,
-                    [this] {
-                        m_player->pause();
-                        m_player->seek(0);
-                        m_player->play();
-                    });
-    play->addAction(tr("One frame ba&ck"), QKeySequence(Qt::Key_Comma), this,
-                    [this] { m_player->step(-1); });
-    play->addAction(tr("One frame &on"), QKeySequence(Qt::Key_Period), this,
-                    [this] { m_player->step(1); });
-    QMenu* const part = menuBar()->addMenu(tr("P&art"));
-    part->addAction(tr("&Begin here"), QKeySequence(Qt::Key_I), this, &CompareWindow::beginHere);
-    part->addAction(tr("&End here"), QKeySequence(Qt::Key_O), this, &CompareWindow::endHere);
-    part->addAction(tr("The &whole run"), QKeySequence(Qt::Key_W), this, [this] {
-        edit(tr("part that is shown"),
-             [](composejob002& job) { job.range.kind = wordOf(RangeKind::Run); });
-    });
-    part->addSeparator();
-    part->addAction(tr("&Align the second film by two points"), QKeySequence(Qt::Key_A), this,
-                    &CompareWindow::alignByPoints);
-    part->addAction(tr("&Forget the points"), QKeySequence(Qt::SHIFT | Qt::Key_A), this,
-                    &CompareWindow::forgetPoints);
-    finishMenus([] { return Commands(); });
 }
 
 void CompareWindow::connectParts() {
@@ -228,43 +182,11 @@ void CompareWindow::startNew(const QString& path) {
 
 /// The runs are known once their files are read; until then they are taken to be marked.
 void CompareWindow::startWith(const CompareRequest& request) {
-    composejob002 job;
-    QStringList files;
-    std::vector<CompareCandidate> films;
-    for (const CompareRequest::Run& run : request.runs) {
-        const QString file = QFileInfo(run.splitFile).absoluteFilePath();
-        composefilm002 film;
-        film.splitFile = file.toStdString();
-        film.run = static_cast<std::int64_t>(run.run) + 1;
-        job.films.push_back(film);
-        files.append(file);
-    }
-    for (const CompareRequest::Film& film : request.films) {
-        CompareCandidate candidate;
-        candidate.film = QFileInfo(film.path).absoluteFilePath();
-        candidate.names = film.names;
-        candidate.startsAt = film.startsAt;
-        films.push_back(candidate);
-        job.films.push_back(filmOfCandidate(candidate));
-    }
-    constexpr std::size_t Most = 4;
-    const bool isTooMany = job.films.size() > Most;
-    job.films.resize(std::min(job.films.size(), Most));
-    if (request.splits) {
-        job.synchronise = wordOf(Synchronise::Split);
-        job.split = static_cast<std::int64_t>(request.splits->first);
-        job.range.kind = wordOf(RangeKind::Splits);
-        job.range.fromSplit = static_cast<std::int64_t>(request.splits->first);
-        job.range.toSplit = static_cast<std::int64_t>(request.splits->second);
-    }
-    settleRange(job, films);
-    m_films->addCandidates(films);
-    const QString first = files.isEmpty() ? (films.empty() ? QDir::homePath() : films.front().film)
-                                          : files.constFirst();
-    m_document->createNew(QFileInfo(first).absolutePath(), std::move(job), this);
-    files.removeDuplicates();
-    addFiles(files);
-    m_isCutToFour = isTooMany;
+    RequestedJob wanted = jobOfRequest(request);
+    m_films->addCandidates(wanted.films);
+    m_document->createNew(wanted.folder, std::move(wanted.job), this);
+    addFiles(wanted.files);
+    m_isCutToFour = wanted.isCutToFour;
     m_view->setFocus();
 }
 
@@ -324,7 +246,7 @@ void CompareWindow::showPreview() {
                                              : tr("Tick one more film to compare it with."));
         return;
     }
-    if (m_isAligning) {
+    if (m_aligning.isOn()) {
         job.layout = wordOf(LayoutKind::SideBySide);
         job.captions = {false, false, false, false, false, false};
     }
@@ -333,8 +255,8 @@ void CompareWindow::showPreview() {
 
 QStringList CompareWindow::splitTitles() const {
     QStringList titles{tr("Start")};
-    for (std::size_t split = 1; split <= m_player->prepared()->splits.size(); ++split)
-        titles.append(QString::number(split));
+    for (std::size_t split = 1; split <= m_player->prepared()->lastSplit(); ++split)
+        titles.append(numberedSplit(split, m_player->prepared()->titles));
     return titles;
 }
 
@@ -345,19 +267,22 @@ void CompareWindow::showPrepared() {
         showPosition();
         return;
     }
+    m_form->showSplits(m_player->prepared()->lastSplit(), prepared->titles);
     m_line->setTimes(prepared->choice, chosenPart(), prepared->splits, splitTitles());
     QStringList faults = prepared->faults;
     if (m_isCutToFour)
         faults.prepend(tr("Four films are the most: these are the first four"));
-    if (!m_isAligning)
+    if (!m_aligning.isOn())
         tell(faults.join(QStringLiteral(". ")));
     showPosition();
 }
 
-/// Without the moments behind the last split, so that the end stands where the split is.
+/// Without the moments behind the last split, so that the end stands where the split is. Films
+/// without marks end where the longest does.
 CommonRange CompareWindow::chosenPart() const {
     CommonRange part = m_player->prepared()->shown;
-    if (m_document->value().range.kind != wordOf(RangeKind::Free))
+    const bool isMarked = m_player->prepared()->splits.size() > 1;
+    if (isMarked && m_document->value().range.kind != wordOf(RangeKind::Free))
         part.to -= TailSeconds;
     return part;
 }
@@ -410,6 +335,11 @@ void CompareWindow::setRange(double from, double to) {
     });
 }
 
+void CompareWindow::showWholeRun() {
+    edit(tr("part that is shown"),
+         [](composejob002& job) { job.range.kind = wordOf(RangeKind::Run); });
+}
+
 void CompareWindow::beginHere() {
     if (const auto& prepared = m_player->prepared();
         prepared && m_player->position() < prepared->length)
@@ -423,18 +353,17 @@ void CompareWindow::endHere() {
 }
 
 void CompareWindow::alignByPoints() {
-    if (!m_isAligning && m_document->value().films.size() != 2) {
+    if (!m_aligning.isOn() && m_document->value().films.size() != 2) {
         tell(tr("Two films are aligned: choose two."));
         return;
     }
-    m_isAligning = !m_isAligning;
-    m_points = {};
-    m_crosses.clear();
+    m_aligning.toggle();
     m_view->setCrosses({});
     m_player->pause();
-    tell(m_isAligning ? tr("Click the same two things in both films, such as the poles of a gate. "
-                           "A gives it up.")
-                      : QString());
+    tell(m_aligning.isOn()
+             ? tr("Click the same two things in both films, such as the poles of a gate. "
+                  "A gives it up.")
+             : QString());
     showPreview();
 }
 
@@ -446,27 +375,16 @@ void CompareWindow::forgetPoints() {
 }
 
 void CompareWindow::takePoint(const QPointF& point) {
-    if (!m_isAligning || !m_player->prepared())
+    const auto& prepared = m_player->prepared();
+    if (!prepared || !m_aligning.take(point, *prepared))
         return;
-    const auto clicked =
-        clickedPoint(point, m_player->prepared()->places, m_player->prepared()->size);
-    if (!clicked || clicked->film >= m_points.size() ||
-        m_points[clicked->film].size() >= PointsOfFilm)
+    m_view->setCrosses(m_aligning.crosses());
+    if (!m_aligning.isWhole())
         return;
-    m_points[clicked->film].push_back({clicked->point.x, clicked->point.y});
-    m_crosses.push_back(point);
-    m_view->setCrosses(m_crosses);
-    if (std::ranges::any_of(m_points,
-                            [](const auto& points) { return points.size() < PointsOfFilm; }))
-        return;
-    const auto points = m_points;
+    const PointAligning::Points points = m_aligning.points();
     alignByPoints(); // it is done
-    edit(tr("alignment by two points"), [&](composejob002& job) {
-        for (std::size_t film = 0; film < points.size() && film < job.films.size(); ++film)
-            job.films[film].points = points[film];
-        if (job.layout != wordOf(LayoutKind::Wipe))
-            job.layout = wordOf(LayoutKind::Ghost);
-    });
+    edit(tr("alignment by two points"),
+         [&](composejob002& job) { PointAligning::align(job, points); });
 }
 
 QString CompareWindow::ownFolder() const {

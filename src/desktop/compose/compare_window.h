@@ -4,12 +4,12 @@
 #include "desktop/compose/compare_candidates.h"
 #include "desktop/compose/compare_document.h"
 #include "desktop/compose/compare_request.h"
+#include "desktop/compose/point_aligning.h"
 #include "desktop/shell/background_work.h"
 #include "desktop/shell/tool_window.h"
 
 #include <QTimer>
 
-#include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -58,6 +58,8 @@ public:
     void chooseFilms();
 
     void togglePlaying();
+    /// The whole run is composed.
+    void showWholeRun();
     /// The part that is composed begins, or ends, at the moment that is shown.
     void beginHere();
     void endHere();
@@ -65,7 +67,7 @@ public:
     /// that up.
     void alignByPoints();
     void forgetPoints();
-    [[nodiscard]] bool isAligning() const { return m_isAligning; }
+    [[nodiscard]] bool isAligning() const { return m_aligning.isOn(); }
 
     /// Asks where the film is to go, and composes it in the background.
     void askAndCompose();
@@ -82,7 +84,6 @@ private:
     CompareWindow(Workspace& workspace, std::unique_ptr<CompareDocument> document);
     void makeParts();
     [[nodiscard]] QWidget* makeStage();
-    void makeMenus();
     void connectParts();
     void connectPlayer();
     void edit(const QString& what, const std::function<void(composejob002&)>& change);
@@ -113,10 +114,8 @@ private:
     ComparePlayer* m_player = nullptr;
     QTimer m_soon;                     ///< several edits and sizes in a row make one preview
     std::vector<std::uint64_t> m_jobs; ///< of this window
-    bool m_isAligning = false;
-    bool m_isCutToFour = false;                           ///< more films were asked for
-    std::array<std::vector<composepoint001>, 2> m_points; ///< clicked so far, of both films
-    std::vector<QPointF> m_crosses;
+    PointAligning m_aligning;
+    bool m_isCutToFour = false; ///< more films were asked for
     BackgroundWork m_work;
 };
 

@@ -161,8 +161,11 @@ PreparedComparison PreviewWorker::describe(const Composition& composition,
     prepared.splits = splitMomentsOf(composition, mixer.map());
     prepared.places = mixer.places();
     prepared.size = {mixer.size().width, mixer.size().height};
+    prepared.titles = composition.splitTitles;
+    if (composition.sound && composition.speed == 1 && films[*composition.sound].index)
+        prepared.heard = HeardFilm{composition.films[*composition.sound].path,
+                                   mixer.map().pieces(*composition.sound)};
     std::vector<double> rates;
-    std::vector<double> lengths;
     for (std::size_t film = 0; film < films.size(); ++film) {
         const auto& index = films[film].index;
         if (index)
@@ -170,10 +173,9 @@ PreparedComparison PreviewWorker::describe(const Composition& composition,
         else
             prepared.faults.append(QString::fromStdString(
                 composition.films[film].path.filename().string() + ": " + films[film].fault));
-        lengths.push_back(index ? index->secondsOf(index->frameCount() - 1) : 0);
     }
     prepared.frameSeconds = 1 / composedRate(rates).perSecond();
-    prepared.choice = choiceRangeOf(composition, mixer.map(), lengths, mixer.range());
+    prepared.choice = choiceRangeOf(composition, mixer.map(), lengthsOf(films), mixer.range());
     return prepared;
 }
 

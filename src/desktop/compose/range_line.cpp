@@ -91,6 +91,17 @@ double RangeLine::snapped(int place) const {
                : commonAt(place);
 }
 
+/// Pixels to the nearest other split: what a title may take, which stands in the middle over its
+/// own.
+int RangeLine::roomOf(const SplitMoment& moment) const {
+    const int place = placeOf(moment.common);
+    int room = width();
+    for (const SplitMoment& other : m_splits)
+        if (other.split != moment.split)
+            room = std::min(room, std::abs(placeOf(other.common) - place));
+    return room - theme::SmallSpacing;
+}
+
 void RangeLine::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return;
@@ -140,7 +151,9 @@ void RangeLine::paintEvent(QPaintEvent* /*event*/) {
     for (const SplitMoment& moment : m_splits) {
         const int place = placeOf(moment.common);
         painter.drawLine(place, top - 3, place, top + BarHeight + 3);
-        const QString title = m_titles.value(static_cast<int>(moment.split));
+        QString title = m_titles.value(static_cast<int>(moment.split));
+        if (moment.split > 0 && painter.fontMetrics().horizontalAdvance(title) > roomOf(moment))
+            title = title.section(' ', 0, 0); // its number, which is what there is room for
         const int length = painter.fontMetrics().horizontalAdvance(title);
         const int left = std::clamp(place - length / 2, 0, std::max(width() - length, 0));
         if (left >= free) {

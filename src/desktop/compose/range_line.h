@@ -46,6 +46,7 @@ private:
     [[nodiscard]] Grip gripAt(int place) const;
     [[nodiscard]] double snapped(int place) const;
     void drag(int place);
+    [[nodiscard]] int roomOf(const SplitMoment& moment) const;
 
     CommonRange m_choice;
     CommonRange m_shown;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "desktop/fetch/fetch_rows.h"
+#include "desktop/fetch/fetch_list.h"
+#include "desktop/fetch/fetch_logins.h"
 #include "desktop/shell/background_work.h"
 #include "desktop/shell/forms/record_form.h"
 #include "desktop/shell/tool_window.h"
@@ -11,9 +12,7 @@
 
 #include <QTimer>
 
-#include <map>
 #include <memory>
-#include <optional>
 #include <set>
 
 class QLabel;
@@ -25,7 +24,6 @@ namespace kavela::desktop {
 class ColumnTable;
 class FaultLabel;
 class FetchActions;
-class LoginDialog;
 class SiteList;
 
 /// Fetches the films of a race by their bibs: where from, whose, what would be fetched, and what
@@ -65,8 +63,8 @@ public:
     [[nodiscard]] bool isBusy() const { return isPlanning() || isFetching(); }
     [[nodiscard]] bool isPlanning() const;
     [[nodiscard]] bool isFetching() const { return m_job.isRunning(); }
-    [[nodiscard]] bool hasTicked() const;
-    [[nodiscard]] const std::vector<FetchRow>& rows() const { return m_rows; }
+    [[nodiscard]] bool hasTicked() const { return m_list.hasTicked(); }
+    [[nodiscard]] const std::vector<FetchRow>& rows() const { return m_list.rows(); }
     [[nodiscard]] ColumnTable& table() const { return *m_table; }
     [[nodiscard]] SiteList& sites() const { return *m_sites; }
     /// What the line above the table says is wrong; empty for nothing.
@@ -84,20 +82,19 @@ private:
     void makeParts();
     [[nodiscard]] QWidget* makeSide();
     [[nodiscard]] QWidget* makeMain();
-    void makeForm();
     void connectJob();
+    void connectLogins();
     void edit(const std::function<void(fetch::filmsource001&)>& change);
     void noteSource();
-    void findLogin(const std::vector<fetch::FetchRun>& runs);
+    void openChosen(const QString& path);
     void makePlan(const std::vector<fetch::FetchRun>& runs);
     void takePlan(const fetch::MadePlan& plan);
-    void tick(std::size_t place, bool isTicked);
     void tickSite(const std::string& site, bool isTicked);
-    void noteSite(const std::string& site);
-    void endFilm(std::size_t row, const fetch::FilmResult& result);
+    void noteSite(const std::string& site) {
+        if (!site.empty())
+            m_seenSites.insert(site);
+    }
     void endJob();
-    void takeLogin(const LoginDialog& dialog);
-    void showRows(bool isOther = false);
     void showSites();
     void showState();
     void tell(const QString& fault);
@@ -106,25 +103,19 @@ private:
     [[nodiscard]] fetch::Address origin() const;
 
     fetch::filmsource001 m_source;
-    std::vector<FetchRow> m_rows;
-    std::map<std::string, bool> m_choices;  ///< of the coach, by address and file name
-    std::set<std::string> m_seenSites;      ///< that films lie on, or were led to
-    std::vector<std::size_t> m_fetched;     ///< rows of the job, by their places in it
-    std::optional<fetch::WebLogin> m_login; ///< for m_loginOrigin
-    std::optional<fetch::Address> m_loginOrigin;
+    std::set<std::string> m_seenSites; ///< that films lie on, or were led to
     fetch::WebPace m_pace;
-    std::unique_ptr<fetch::SecretStore> m_store;
+    FetchLogins m_logins;
+    FetchList m_list;
     fetch::PlanMaker m_maker;
     fetch::FetchJob m_job;
     BackgroundWork m_reading;
-    bool m_isFindingLogin = false;
     int m_plan = 0; ///< counts what was asked for: what comes later than another is not shown
     QTimer m_refresh;
     FetchActions* m_actions = nullptr;
     RecordForm<fetch::filmsource001>* m_form = nullptr;
     QWidget* m_side = nullptr;
     SiteList* m_sites = nullptr;
-    ColumnModel<FetchRow> m_films;
     ColumnTable* m_table = nullptr;
     FaultLabel* m_fault = nullptr;
     QPushButton* m_showButton = nullptr;

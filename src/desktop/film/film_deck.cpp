@@ -26,8 +26,8 @@ constexpr auto LongestWaitForStep = std::chrono::milliseconds(500);
 /// The last size of a view that is being made larger or smaller is the one that counts.
 constexpr int SharpenAfterMilliseconds = 50;
 
-/// Asks for a frame as it was asked for before.
-struct Again {
+/// Asks a player for a frame, whichever way that is told.
+struct AskedFor {
     VideoPlayer& player;
 
     void operator()(FrameNumber number) const { player.showFrame(number); }
@@ -48,14 +48,6 @@ bool isWithin(const VideoIndex& film, const CMTime& stamp) {
     return film.frameCount() > 0 && orderOf(stamp, film.stampOf(0)) >= 0 &&
            orderOf(stamp, film.stampOf(film.frameCount() - 1)) <= 0;
 }
-
-/// Asks a player for the frame that is wanted first.
-struct ShowFirst {
-    VideoPlayer& player;
-    void operator()(FrameNumber number) const { player.showFrame(number); }
-    void operator()(const CMTime& stamp) const { player.requestStamp(stamp); }
-    void operator()(double seconds) const { player.requestPosition(seconds); }
-};
 
 } // namespace
 
@@ -123,7 +115,7 @@ void FilmDeck::addCamera(const QString& film) {
     if (camera < m_boxes.size())
         m_slots.back()->setBox(m_boxes[camera]);
     m_shown.emplace_back();
-    m_jumps.emplace_back();
+    m_jumps.addView();
     m_faults.emplace_back();
     m_opened.back()->showAs(camera);
 }
@@ -145,7 +137,7 @@ void FilmDeck::openAhead(const QString& film, const FrameRequest& first) {
     m_ahead = opened(film);
     if (!m_boxes.empty())
         m_ahead->slot()->setBox(m_boxes.front());
-    std::visit(ShowFirst{*m_ahead->player()}, first);
+    std::visit(AskedFor{*m_ahead->player()}, first);
 }
 
 void FilmDeck::takeIndex(std::size_t camera) {
@@ -177,20 +169,12 @@ QString FilmDeck::fault(std::size_t camera) const {
 
 void FilmDeck::takePicture(std::size_t camera) {
     auto picture = m_slots[camera]->take();
-    auto& jump = m_jumps[camera];
-    if (!picture || (jump && isLate(*jump, *picture)))
+    if (!picture || m_jumps.isLate(camera, *picture))
         return;
     m_shown[camera] = std::move(picture);
     m_faults[camera].clear();
-    if (jump && (jump->isStop || m_shown[camera]->settledRequest >= jump->request))
-        jump.reset();
+    m_jumps.settle(camera, *m_shown[camera]);
     emit frameShown(camera);
-}
-
-/// Who stops sees the frame already: those that were still on their way do not come any more.
-bool FilmDeck::isLate(const Jump& jump, const FilmPicture& picture) const {
-    return jump.isStop && (picture.request < jump.request ||
-                           (picture.request == jump.request && picture.isPreview));
 }
 
 const FilmPicture* FilmDeck::shown(std::size_t camera) const {
@@ -218,8 +202,8 @@ std::shared_ptr<const VideoIndex> FilmDeck::index(std::size_t camera) const {
 }
 
 FrameRequest FilmDeck::meantBy(std::size_t camera) const {
-    if (m_jumps[camera])
-        return m_jumps[camera]->to;
+    if (const auto target = m_jumps.target(camera))
+        return *target;
     if (m_shown[camera])
         return m_shown[camera]->frame.stamp;
     return m_players[camera]->asked().value_or(FrameNumber{0});
@@ -335,7 +319,7 @@ void FilmDeck::sharpen() {
             continue;
         const QSize now = shown->image.size();
         if (now.scaled(m_boxes[camera], Qt::KeepAspectRatio).width() > now.width() + 1)
-            std::visit(Again{*m_players[camera]}, *asked);
+            std::visit(AskedFor{*m_players[camera]}, *asked);
     }
 }
 
@@ -356,14 +340,9 @@ template <class Act>
 void FilmDeck::jumpWithGroup(Act act, bool isStop) {
     if (!m_group)
         return;
-    std::vector<std::uint64_t> before;
-    for (const auto& player : m_players)
-        before.push_back(player->requests());
+    const std::vector<std::uint64_t> before = FilmJumps::requestsOf(m_players);
     act(*m_group);
-    for (std::size_t camera = 0; camera < views(); ++camera)
-        if (const auto asked = m_players[camera]->asked();
-            asked && m_players[camera]->requests() != before[camera])
-            m_jumps[camera] = Jump{*asked, m_players[camera]->requests(), isStop};
+    m_jumps.note(m_players, before, isStop);
     withGroup([](CameraGroup&) {});
 }
 
@@ -388,7 +367,7 @@ void FilmDeck::play(double rate) {
 void FilmDeck::pause() {
     if (!isPlaying())
         return;
-    const bool isSeen = !m_jumps[0] && m_shown[0];
+    const bool isSeen = !m_jumps.target(0) && m_shown[0];
     jumpWithGroup([at = seen()](CameraGroup& group) { group.pause(now(), at); }, isSeen);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/film/camera_slot.h"
+#include "desktop/film/film_jumps.h"
 #include "desktop/film/press_queue.h"
 #include "video/camera_group.h"
 #include "video/frame_cache.h"
@@ -118,13 +119,6 @@ signals:
     void refused(const QString& why); ///< a key did nothing
 
 private:
-    /// Where a view was last sent, until that frame stands on the screen.
-    struct Jump {
-        FrameRequest to;
-        std::uint64_t request = 0; ///< frames that come for earlier ones are those of before
-        bool isStop = false;       ///< at the frame on the screen
-    };
-
     [[nodiscard]] static CameraGroup::Moment now();
     [[nodiscard]] std::unique_ptr<OpenedFilm> opened(const QString& film);
     void addCamera(const QString& film);
@@ -140,7 +134,6 @@ private:
     template <class Act>
     void jumpWithGroup(Act act, bool isStop = false);
     void sharpen();
-    [[nodiscard]] bool isLate(const Jump& jump, const FilmPicture& picture) const;
 
     std::shared_ptr<FrameCache> m_cache;
     QStringList m_films;
@@ -151,7 +144,7 @@ private:
     std::vector<std::shared_ptr<CameraSlot>> m_slots;
     std::vector<std::shared_ptr<VideoPlayer>> m_players;
     std::vector<std::optional<FilmPicture>> m_shown;
-    std::vector<std::optional<Jump>> m_jumps;
+    FilmJumps m_jumps;
     std::vector<QString> m_faults;
     PressQueue m_presses;
     std::unique_ptr<CameraGroup> m_group;

@@ -8,9 +8,14 @@
 #include "desktop/shell/theme.h"
 #include "splittaking/folder/film_filter.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
+#include <QHeaderView>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPixmap>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -52,6 +57,8 @@ FilmBrowser::~FilmBrowser() {
     m_pages->disconnect(this);
     m_list->disconnect(this);
     m_list->selectionModel()->disconnect(this);
+    m_list->verticalScrollBar()->disconnect(this);
+    m_list->viewport()->removeEventFilter(this);
     m_tiles->disconnect(this);
     m_tagList->disconnect(this);
 }
@@ -59,6 +66,8 @@ FilmBrowser::~FilmBrowser() {
 void FilmBrowser::makePages(ThumbnailStore& looks) {
     m_list = new ColumnTable(m_films, "filmList");
     m_list->keepOneChosen();
+    m_list->setIconSize(RowLook);
+    m_list->verticalHeader()->setDefaultSectionSize(RowLook.height() + theme::SmallSpacing);
     m_list->setEmptyText(tr("No film here. Open a folder of films with Ctrl+O, or drop one."));
     m_tiles = new FilmTiles(looks);
     m_tagList = new ColumnTable(m_tagRows, "filmTags");
@@ -77,6 +86,9 @@ void FilmBrowser::connectPages() {
     connect(&m_looks, &ThumbnailStore::looked, this, &FilmBrowser::takeLook);
     connect(m_tiles, &FilmTiles::sightChanged, this, &FilmBrowser::askForLooks);
     connect(m_list, &ColumnTable::shownChanged, this, &FilmBrowser::showTiles);
+    connect(m_list->verticalScrollBar(), &QScrollBar::valueChanged, this,
+            &FilmBrowser::askForLooks);
+    m_list->viewport()->installEventFilter(this);
     connect(m_pages, &QTabWidget::currentChanged, this, &FilmBrowser::showPage);
     connect(m_list, &ColumnTable::chosen, this, [this] {
         if (page() == List)
@@ -127,6 +139,8 @@ FilmRow FilmBrowser::rowOf(const ListedFilm& film) const {
     row.isWatched = m_shelf.isWatched(row.path);
     if (const FilmLook* const look = m_looks.lookOf(row.path)) {
         row.seconds = look->seconds;
+        if (!look->small.isNull())
+            row.look = QIcon(QPixmap::fromImage(look->small));
         row.fault = look->fault;
     }
     return row;
@@ -178,9 +192,30 @@ void FilmBrowser::showTiles() {
     askForLooks();
 }
 
-/// Lengths stand in the list too: all films are looked at in the end.
+/// Pictures and lengths stand in the list too: all films are looked at in the end, those in sight
+/// on the page in front first.
 void FilmBrowser::askForLooks() {
-    m_looks.ask(m_tiles->filmsBySight());
+    m_looks.ask(page() == Tiles ? m_tiles->filmsBySight() : rowsBySight());
+}
+
+QStringList FilmBrowser::rowsBySight() const {
+    QStringList seen;
+    QStringList others;
+    for (const int place : m_list->shownPlaces()) {
+        const int row = m_list->cellAt(place, 0).row();
+        const int top = m_list->rowViewportPosition(row);
+        const bool isSeen = top + m_list->rowHeight(row) > 0 && top < m_list->viewport()->height();
+        (isSeen && m_list->isVisible() ? seen : others).append(m_films.row(place).path);
+    }
+    return seen + others;
+}
+
+/// Other rows come into sight where the list grows or is first seen.
+bool FilmBrowser::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_list->viewport() &&
+        (event->type() == QEvent::Resize || event->type() == QEvent::Show))
+        askForLooks();
+    return QWidget::eventFilter(watched, event);
 }
 
 ColumnTable* FilmBrowser::front() const {

@@ -54,6 +54,9 @@ signals:
     void clicked();   ///< on a film or tag
     void activated(); ///< by Enter or a double click
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void makePages(ThumbnailStore& looks);
     void connectPages();
@@ -61,6 +64,7 @@ private:
     void filter();
     void showTiles();
     void askForLooks();
+    [[nodiscard]] QStringList rowsBySight() const;
     void showPage(int page);
     void takeLook(const QString& film);
     [[nodiscard]] FilmRow rowOf(const ListedFilm& film) const;

@@ -4,6 +4,7 @@
 #include "desktop/shell/shown_number.h"
 
 #include <QCoreApplication>
+#include <QPixmap>
 #include <QStringList>
 
 #include <algorithm>
@@ -43,8 +44,19 @@ Column<FilmTagRow, QString> tagColumn(const QString& title,
     return column;
 }
 
+/// Keeps the place of a picture that is still to come: names do not move when it does.
+QIcon unseenLook() {
+    static const QIcon empty = [] {
+        QPixmap pixmap(RowLook);
+        pixmap.fill(Qt::transparent);
+        return QIcon(pixmap);
+    }();
+    return empty;
+}
+
 Cell filmNameCell(const FilmRow& row) {
     Cell cell{fileNameOf(row.film)};
+    cell.badge = row.look.isNull() ? unseenLook() : row.look;
     if (!row.fault.isEmpty()) {
         cell.look = Cell::Look::Warning;
         cell.tip = row.fault;

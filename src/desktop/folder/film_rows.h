@@ -3,6 +3,8 @@
 #include "desktop/shell/tables/column_model.h"
 #include "splittaking/folder/film_list.h"
 
+#include <QIcon>
+#include <QSize>
 #include <QString>
 
 #include <optional>
@@ -17,6 +19,7 @@ struct FilmRow {
     bool isWatched = false;
     std::optional<double> seconds = {}; ///< how long it is, once it was looked at
     QString fault = {};                 ///< why it cannot be shown
+    QIcon look = {};                    ///< its small picture, once it was looked at
 };
 
 /// A tag of one of the films.
@@ -27,6 +30,9 @@ struct FilmTagRow {
     FilmTag tag;
     std::size_t number = 0; ///< among the tags of the film
 };
+
+/// The size of the small pictures in front of the names of films.
+inline constexpr QSize RowLook{64, 36};
 
 /// Rows are known by the path of their film.
 [[nodiscard]] ColumnModel<FilmRow, QString>::Columns filmColumns();

@@ -20,7 +20,7 @@ namespace kavela::desktop {
 
 FilmsActions::FilmsActions(FilmsWindow& window, Workspace& workspace)
     : QObject(&window), m_window(window) {
-    makeFileMenu();
+    makeFileMenu(workspace);
     makeEditMenu();
     makeFilmsMenu(workspace);
     makeTagsMenu(workspace);
@@ -48,12 +48,13 @@ QAction* FilmsActions::add(QMenu& menu, const QString& text, const QKeySequence&
     return action;
 }
 
-void FilmsActions::makeFileMenu() {
+void FilmsActions::makeFileMenu(Workspace& workspace) {
     FilmsWindow* const window = &m_window;
     QMenu* const menu =
         window->makeFileMenu({tr("&Open a folder…"), [window] { window->chooseFolder(); }});
     QMenu* const recent = menu->addMenu(tr("Folders opened &before"));
-    connect(recent, &QMenu::aboutToShow, this, [this, recent] { fillRecent(*recent); });
+    connect(recent, &QMenu::aboutToShow, this,
+            [this, recent, &workspace] { fillRecent(*recent, workspace); });
     add(*menu, tr("&Read again"), Qt::Key_F5, [window] {
         window->looks().forget();
         window->shelf().readAgain();
@@ -61,9 +62,9 @@ void FilmsActions::makeFileMenu() {
     menu->addSeparator();
 }
 
-void FilmsActions::fillRecent(QMenu& menu) {
+void FilmsActions::fillRecent(QMenu& menu, const Workspace& workspace) {
     menu.clear();
-    for (const QString& folder : m_window.recentFolders())
+    for (const QString& folder : FilmsWindow::recentFolders(workspace))
         menu.addAction(QDir::toNativeSeparators(folder), &m_window,
                        [window = &m_window, folder] { (void)window->open(folder); });
     menu.setEnabled(true);

@@ -24,7 +24,7 @@ public:
     FilmsActions(FilmsWindow& window, Workspace& workspace);
 
 private:
-    void makeFileMenu();
+    void makeFileMenu(Workspace& workspace);
     void makeEditMenu();
     void makeFilmsMenu(Workspace& workspace);
     void makeTagsMenu(Workspace& workspace);
@@ -32,7 +32,7 @@ private:
     void addPreference(QMenu& menu, Workspace& workspace, const QString& text, const char* key);
     QAction* add(QMenu& menu, const QString& text, const QKeySequence& keys,
                  std::function<void()> act, std::function<bool()> isPossible = {});
-    void fillRecent(QMenu& menu);
+    void fillRecent(QMenu& menu, const Workspace& workspace);
     void refresh();
     [[nodiscard]] Commands films() const;
 

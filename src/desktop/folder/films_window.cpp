@@ -140,16 +140,18 @@ QStringList FilmsWindow::paths() const {
 bool FilmsWindow::open(const QString& path) {
     const QFileInfo info(path);
     if (!info.exists()) {
+        workspace().forgetRecentFile(path);
         workspace().showAlert(
             {"", tr("“%1” is not there.").arg(QDir::toNativeSeparators(path)).toStdString()}, this);
         return false;
     }
     m_wanted = info.isDir() ? QString() : info.absoluteFilePath();
     const QString folder = info.isDir() ? info.absoluteFilePath() : info.absolutePath();
-    QStringList recent = recentFolders();
+    QStringList recent = recentFolders(workspace());
     recent.removeAll(folder);
     recent.prepend(folder);
     workspace().remember(RecentFoldersKey, recent.mid(0, MostRecentFolders));
+    workspace().addRecentFile(folder);
     m_shelf.openFolder(folder);
     showTitle();
     chooseWanted();
@@ -157,8 +159,8 @@ bool FilmsWindow::open(const QString& path) {
     return true;
 }
 
-QStringList FilmsWindow::recentFolders() const {
-    return const_cast<FilmsWindow*>(this)->workspace().remembered(RecentFoldersKey);
+QStringList FilmsWindow::recentFolders(const Workspace& workspace) {
+    return workspace.remembered(RecentFoldersKey);
 }
 
 void FilmsWindow::chooseFolder() {

@@ -33,7 +33,7 @@ public:
     [[nodiscard]] bool open(const QString& path) override;
     void chooseFolder();
     /// Folders opened before, the latest first.
-    [[nodiscard]] QStringList recentFolders() const;
+    [[nodiscard]] static QStringList recentFolders(const Workspace& workspace);
 
     /// Shows what becomes of the chosen films, or of all that are shown where one or none is
     /// chosen, and renames them.

@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QPainter>
 #include <QSaveFile>
 #include <QStandardPaths>
 
@@ -78,6 +79,20 @@ void thinOutLooks(const QString& folder) {
         QFile::remove(file.filePath());
 }
 
+/// Every one is as large, so that the names beside them stand in line.
+QImage smallLook(const QImage& picture) {
+    QImage small(ThumbnailStore::SmallBox, QImage::Format_ARGB32_Premultiplied);
+    small.fill(Qt::transparent);
+    if (picture.isNull())
+        return small;
+    const QImage scaled =
+        picture.scaled(small.size(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    QRect place(QPoint(), scaled.size());
+    place.moveCenter(small.rect().center());
+    QPainter(&small).drawImage(place.topLeft(), scaled);
+    return small;
+}
+
 FilmLook lookAt(const QString& film, const QString& folder, const std::stop_token& stop) {
     const QString kept = folder.isEmpty() ? QString() : keptLookOf(folder, film);
     if (!kept.isEmpty())
@@ -128,7 +143,9 @@ void ThumbnailStore::startNext() {
         m_running.insert(film);
         m_work.run(
             [film, kept = m_folder](const WorkSteps& steps) {
-                return lookAt(film, kept, steps.stopToken());
+                FilmLook look = lookAt(film, kept, steps.stopToken());
+                look.small = smallLook(look.picture);
+                return look;
             },
             [this, film, generation = m_generation](FilmLook look) {
                 if (generation != m_generation)
@@ -142,7 +159,7 @@ void ThumbnailStore::startNext() {
                 if (generation != m_generation)
                     return;
                 m_running.remove(film);
-                m_looks.insert(film, {{}, {}, qtText(messageOf(fault))});
+                m_looks.insert(film, {.fault = qtText(messageOf(fault))});
                 startNext();
                 emit looked(film);
             }});

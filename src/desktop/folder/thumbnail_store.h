@@ -14,9 +14,10 @@ namespace kavela::desktop {
 
 /// What a film looks like in small, and how long it is.
 struct FilmLook {
-    QImage picture;                ///< null where none can be made
-    std::optional<double> seconds; ///< nothing where the film does not tell
-    QString fault;                 ///< why there is no picture
+    QImage picture = {}; ///< null where none can be made
+    QImage small = {};   ///< the same for a line of a list, in the middle of SmallBox
+    std::optional<double> seconds = {}; ///< nothing where the film does not tell
+    QString fault = {};                 ///< why there is no picture
 };
 
 /// Makes the small pictures of films beside the window, two at a time, those that were asked for
@@ -27,6 +28,8 @@ class ThumbnailStore : public QObject {
 public:
     /// The size that pictures fit into.
     static constexpr QSize Box{240, 135};
+    /// The size of those for a line of a list: twice that of the line, for fine screens.
+    static constexpr QSize SmallBox{128, 72};
 
     /// Pictures are kept in the folder, which is made when the first one is; in none without.
     explicit ThumbnailStore(QString folder, QObject* parent = nullptr);

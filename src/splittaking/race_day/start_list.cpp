@@ -2,6 +2,7 @@
 
 #include "common/delimited_text.h"
 #include "common/folded_text.h"
+#include "splittaking/race_day/list_columns.h"
 
 #include <algorithm>
 #include <array>
@@ -9,70 +10,15 @@
 #include <cstdio>
 #include <map>
 #include <span>
+#include <utility>
 
 namespace kavela {
 
 namespace {
 
-using namespace std::string_view_literals;
-
-enum class ListColumn { Bib, Name, FirstName, LastName, Category, Start, Order };
-
-struct TitleWord {
-    std::string_view title;
-    ListColumn column;
-};
-
-constexpr std::array TitleWords = std::to_array<TitleWord>({{"bib", ListColumn::Bib},
-                                                            {"bib no", ListColumn::Bib},
-                                                            {"bib no.", ListColumn::Bib},
-                                                            {"bib number", ListColumn::Bib},
-                                                            {"start number", ListColumn::Bib},
-                                                            {"no", ListColumn::Bib},
-                                                            {"no.", ListColumn::Bib},
-                                                            {"nr", ListColumn::Bib},
-                                                            {"nr.", ListColumn::Bib},
-                                                            {"name", ListColumn::Name},
-                                                            {"athlete", ListColumn::Name},
-                                                            {"crew", ListColumn::Name},
-                                                            {"competitor", ListColumn::Name},
-                                                            {"first name", ListColumn::FirstName},
-                                                            {"given name", ListColumn::FirstName},
-                                                            {"last name", ListColumn::LastName},
-                                                            {"family name", ListColumn::LastName},
-                                                            {"surname", ListColumn::LastName},
-                                                            {"category", ListColumn::Category},
-                                                            {"cat", ListColumn::Category},
-                                                            {"cat.", ListColumn::Category},
-                                                            {"class", ListColumn::Category},
-                                                            {"event", ListColumn::Category},
-                                                            {"start", ListColumn::Start},
-                                                            {"time", ListColumn::Start},
-                                                            {"start time", ListColumn::Start},
-                                                            {"starttime", ListColumn::Start},
-                                                            {"order", ListColumn::Order},
-                                                            {"start order", ListColumn::Order},
-                                                            {"startorder", ListColumn::Order}});
-
-using ListLayout = std::map<ListColumn, std::size_t>;
-
-const ListLayout PlainLayout = {
+/// Of a list without titles.
+const std::map<ListColumn, std::size_t> PlainPlaces = {
     {ListColumn::Bib, 0}, {ListColumn::Name, 1}, {ListColumn::Category, 2}, {ListColumn::Start, 3}};
-
-/// Where the columns stand by their titles; nothing for a line that is no line of titles.
-std::optional<ListLayout> layoutOf(const std::vector<std::string_view>& fields) {
-    ListLayout layout;
-    for (std::size_t place = 0; place < fields.size(); ++place) {
-        const std::string title = folded(fields[place]);
-        const auto known = std::ranges::find(TitleWords, title, &TitleWord::title);
-        if (known != TitleWords.end())
-            layout.try_emplace(known->column, place);
-    }
-    const bool hasName = layout.contains(ListColumn::Name) ||
-                         layout.contains(ListColumn::FirstName) ||
-                         layout.contains(ListColumn::LastName);
-    return hasName ? std::optional(layout) : std::nullopt;
-}
 
 /// A start before it has its place in the list.
 struct ListedStart {
@@ -88,8 +34,8 @@ public:
         DelimitedReader reader(text);
         for (bool isFirst = true; reader.next(); isFirst = false) {
             if (isFirst)
-                if (const auto titled = layoutOf(reader.fields())) {
-                    m_layout = *titled;
+                if (ListColumns titled = ListColumns::byTitle(reader.fields()); titled.hasName()) {
+                    m_columns = std::move(titled);
                     continue;
                 }
             m_line = &reader;
@@ -104,30 +50,19 @@ public:
 
 private:
     [[nodiscard]] std::string text(ListColumn column) const {
-        const auto place = m_layout.find(column);
-        return place == m_layout.end() ? std::string()
-                                       : withSingleQuotes(m_line->field(place->second));
+        return m_columns.text(*m_line, column);
     }
 
     void take() {
         ListedStart listed;
         listed.line = m_line->number();
-        listed.start.name = name();
+        listed.start.name = m_columns.name(*m_line);
         listed.start.cat = text(ListColumn::Category);
         if (listed.start.name.empty())
             m_reason = m_line->fields().size() < 2 ? "1 field where a bib and a name are needed"
                                                    : "there is no name";
         else if (takeBib(listed.start) && takeStart(listed))
             m_starts.push_back(std::move(listed));
-    }
-
-    [[nodiscard]] std::string name() const {
-        const std::string whole = text(ListColumn::Name);
-        if (!whole.empty())
-            return whole;
-        const std::string first = text(ListColumn::FirstName);
-        const std::string last = text(ListColumn::LastName);
-        return first.empty() || last.empty() ? first + last : first + ' ' + last;
     }
 
     bool takeBib(DayStart& start) {
@@ -179,7 +114,7 @@ private:
 
     enum class Kind { Time, Order, Line };
 
-    ListLayout m_layout = PlainLayout;
+    ListColumns m_columns{PlainPlaces};
     const DelimitedReader* m_line = nullptr;
     std::string m_reason;
     std::optional<Kind> m_kind;
