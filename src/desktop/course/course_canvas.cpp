@@ -75,6 +75,8 @@ void CourseCanvas::show(const CourseDraft& draft) {
                  : report::CoursePainting(m_draft.design, m_draft.heightOfWidth, m_draft.words());
     if (m_selected && !hasPart(m_draft.design, *m_selected))
         m_selected.reset();
+    if (!isAsHigh)
+        m_lens.showAll();
     update();
     emit selectionChanged();
 }
@@ -306,9 +308,8 @@ void CourseCanvas::putInMiddle() {
     if (m_tool == CourseTool::Text)
         emit textWanted(middle);
     else if (m_tool == CourseTool::Bank || m_tool == CourseTool::Line)
-        finish(withCourseLine(
-            m_draft, m_tool,
-            {{middle.x - half, middle.y}, middle, {middle.x + half, middle.y}}));
+        finish(withCourseLine(m_draft, m_tool,
+                              {{middle.x - half, middle.y}, middle, {middle.x + half, middle.y}}));
     else if (m_tool != CourseTool::Hold)
         finish(afterTool({middle, middle, {middle}, m_draft}));
 }
