@@ -75,19 +75,31 @@ std::optional<PictureMotion> CameraMotion::follow(const TrackPicture& picture,
 std::optional<PictureMotion> CameraMotion::motionTo(const SmallPlane& now, const SmallPlane& coarse,
                                                     const std::optional<TrackBox>& box) {
     const PictureMotion shift = coarseShift(coarse);
-    for (std::size_t i = 0; i < m_views.size(); ++i)
-        if (const auto motion = motionFrom(m_views[i], now, shift, box))
+    for (View& view : m_views)
+        view.hasFailed = false;
+    for (View& view : m_views)
+        if (const auto motion = motionFrom(view, now, shift, box)) {
+            forgetFailing();
             return motion;
-    std::erase_if(m_views, [](const View& view) { return view.failures > MostFailures; });
+        }
     View last{StillBlocks(m_before, box), m_toNow};
     const auto motion = motionFrom(last, now, shift, box);
     if (motion) {
+        forgetFailing();
         // The first one stays for whom the camera comes back to where it began.
         if (m_views.size() >= MostViews)
             m_views.erase(m_views.begin() + 1);
         m_views.push_back(std::move(last));
     }
     return motion;
+}
+
+/// A picture that another view explains, and one that is as near does not, speaks against that one:
+/// it would be tried in vain for ever.
+void CameraMotion::forgetFailing() {
+    for (View& view : m_views)
+        view.failures += view.hasFailed ? 1 : 0;
+    std::erase_if(m_views, [](const View& view) { return view.failures > MostFailures; });
 }
 
 std::optional<PictureMotion> CameraMotion::motionFrom(View& view, const SmallPlane& now,
@@ -103,9 +115,10 @@ std::optional<PictureMotion> CameraMotion::motionFrom(View& view, const SmallPla
     }
     const auto matches = view.blocks.matchesIn(now, expected, boxNow);
     const auto motion = agreedMotion(matches);
-    view.failures = motion ? 0 : view.failures + 1;
+    view.hasFailed = !motion;
     if (!motion)
         return std::nullopt;
+    view.failures = 0;
     const PictureMotion before = std::exchange(m_toNow, view.fromFirst.then(*motion));
     return before.inverse().then(m_toNow);
 }

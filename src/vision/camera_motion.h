@@ -29,7 +29,8 @@ private:
     struct View {
         StillBlocks blocks;
         PictureMotion fromFirst; ///< from the first picture to this one
-        int failures = 0;        ///< pictures in a row in which it was expected and not found
+        int failures = 0;        ///< pictures in a row that should show it, and do not
+        bool hasFailed = false;  ///< the last picture is one of them
     };
     static constexpr std::size_t MostViews = 24;
     static constexpr int MostFailures = 5;
@@ -39,6 +40,7 @@ private:
     [[nodiscard]] std::optional<PictureMotion> motionFrom(View& view, const SmallPlane& now,
                                                           const PictureMotion& shift,
                                                           const std::optional<TrackBox>& box);
+    void forgetFailing();
     [[nodiscard]] PictureMotion coarseShift(const SmallPlane& coarse) const;
 
     SmallPlane m_before; ///< the last picture whose motion was known; empty before the first
