@@ -7,7 +7,11 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <filesystem>
+#include <iterator>
 #include <sstream>
+#include <string>
+#include <vector>
 
 /// The call that follows something through a film.
 namespace kavela::test {
@@ -42,10 +46,13 @@ TrackRow cellsOf(const std::string& line) {
 
 class TrackCalls : public testing::Test {
 protected:
-    TrackCalls() { writeScene(m_scene, ShotFrames, fileOf("shot.mp4")); }
+    TrackCalls() { write(m_scene, "shot.mp4"); }
 
     [[nodiscard]] std::filesystem::path fileOf(const std::string& name) const {
         return m_kavela.folder().path() / name;
+    }
+    void write(TrackScene& scene, const std::string& name) const {
+        EXPECT_EQ(writeScene(scene, ShotFrames, fileOf(name)), fileOf(name));
     }
     /// Makes a film with FFmpeg, from others in the folder.
     void makeFilm(const std::string& how, const std::string& name) const {
@@ -132,7 +139,7 @@ TEST_F(TrackCalls, EndWhereItIsGoneAndSayWhen) {
     TrackShot shot = quietShot();
     shot.vanishesAt = 20;
     TrackScene scene(shot);
-    writeScene(scene, ShotFrames, fileOf("gone.mp4"));
+    write(scene, "gone.mp4");
     const Ending ending = follow("gone.mp4", boatBox(), {"--at", "0"});
     ASSERT_EQ(ending.status, 0) << ending.errors;
     EXPECT_THAT(ending.errors, HasSubstr("Lost at 0."));
