@@ -6,13 +6,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <iterator>
 
 namespace {
 
 using namespace kavela;
 
-/// Tables are as long as their frames are many: the small ones show all that there is to see.
+/// The small tables show all that there is to see, and do not take seconds for it.
 constexpr FrameNumber MostTableFrames = 2000;
+constexpr std::size_t MostTablePoints = 100;
 
 /// What a path is taken for can be kept again and is the same then.
 void checkKept(const track001& record, const FilmTrack& track,
@@ -26,7 +29,7 @@ void checkKept(const track001& record, const FilmTrack& track,
 
 /// A line for each frame, and nothing in those that have no point.
 void checkTable(const FilmTrack& track, const std::optional<KnownPlane>& plane) {
-    if (track.points.empty() ||
+    if (track.points.empty() || track.points.size() > MostTablePoints ||
         track.points.back().frame - track.points.front().frame > MostTableFrames)
         return;
     std::vector<PathFigure> figures;

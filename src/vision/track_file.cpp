@@ -19,7 +19,7 @@ namespace {
 /// Two days of film at 60 frames a second. What is counted further is no film, and a table of its
 /// frames would fill the memory.
 constexpr std::int64_t MostTrackFrames = 10'368'000;
-constexpr double FarthestPlace = 1e7; ///< pixels, or metres
+constexpr double FarthestPlace = 1e7; ///< pixels, metres or seconds
 constexpr double LargestScale = 1e4;
 
 /// Frames count from 0 and each is told once, in their order.
@@ -78,7 +78,8 @@ FilmTrack trackOf(const track001& record) {
         const trackpoint001& point = record.points[i];
         if (!(point.size > 0))
             refuseTrack("points[" + std::to_string(i) + "].size", "a size above 0 was expected");
-        checkPlaces({point.x, point.y, point.size}, "points[" + std::to_string(i) + ']');
+        checkPlaces({point.seconds, point.x, point.y, point.size},
+                    "points[" + std::to_string(i) + ']');
         track.points.push_back(
             {point.frame, point.seconds, {point.x, point.y}, point.size, point.score});
     }
