@@ -2,6 +2,7 @@
 #include "common/json_encode.h"
 #include "splitdata/history/documents.h"
 #include "splitdata/history/versions.h"
+#include "vision/track_file.h"
 
 #include <filesystem>
 #include <fstream>
@@ -112,6 +113,7 @@ int main(int count, char** words) {
     seeds.add<smartAlldata_v4>("smart_session", "smartAlldata_v4");
     seeds.add<smartAlldata_v5>("smart_session", "smartAlldata_v5");
     seeds.add<varoTestAlldata>("test_session", "varoTestAlldata");
+    seeds.add<track001>("track_file", "track001");
     seeds.writeDictionary();
     return 0;
 }

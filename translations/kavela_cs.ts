@@ -8620,6 +8620,10 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
         <translation>Tab další část · šipky ji posunou, Shift+šipky daleko · Alt+←/→ otočí · PgDn její body · Delete · Insert vloží bod doprostřed · Ctrl+Z zpět, Ctrl+Shift+Z znovu</translation>
     </message>
     <message>
+        <source>Wheel, + and − zoom · 0 shows all · drag with Space or the middle button moves the view</source>
+        <translation>Kolečko, + a − přibližují · 0 ukáže vše · tažení s mezerníkem nebo prostředním tlačítkem posouvá výřez</translation>
+    </message>
+    <message>
         <source>&amp;Hold and move</source>
         <translation>&amp;Chytit a posunout</translation>
     </message>
@@ -12487,6 +12491,41 @@ Bez penalizací.</translation>
     </message>
 </context>
 <context>
+    <name>kavela::desktop::KnownPointsPage</name>
+    <message>
+        <source>No known point yet. Tick Path &gt; Click known points, then click the foot of a gate&apos;s poles in the picture.</source>
+        <translation>Zatím žádný známý bod. Zaškrtněte Dráha &gt; Klikat známé body a pak v obraze klikněte na patu tyčí branky.</translation>
+    </message>
+    <message>
+        <source>&amp;Take it away</source>
+        <translation>&amp;Odebrat</translation>
+    </message>
+    <message>
+        <source>removal of a known point</source>
+        <translation>odstranění známého bodu</translation>
+    </message>
+    <message>
+        <source>A place on the water is a number of metres, -10000 to 10000</source>
+        <translation>Místo na vodě je počet metrů, -10000 až 10000</translation>
+    </message>
+    <message>
+        <source>metres of a known point</source>
+        <translation>metry známého bodu</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Bod</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>Napříč</translation>
+    </message>
+    <message>
+        <source>Along</source>
+        <translation>Podél</translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::LaneStrip</name>
     <message>
         <source>Notes of the run</source>
@@ -13929,6 +13968,33 @@ Bez penalizací.</translation>
     <message>
         <source>There is nothing to show.</source>
         <translation>Není co ukázat.</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PathPages</name>
+    <message>
+        <source>Draw a box round what is to be followed.</source>
+        <translation>Nakreslete rámeček kolem toho, co se má sledovat.</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Rychlost</translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation>Čísla</translation>
+    </message>
+    <message>
+        <source>Known points</source>
+        <translation>Známé body</translation>
+    </message>
+    <message>
+        <source>Two points give a scale only: lengths and speeds hold near them and along the line between them. Four give the perspective too.</source>
+        <translation>Dva body dají jen měřítko: délky a rychlosti platí poblíž nich a podél čáry mezi nimi. Čtyři dají i perspektivu.</translation>
+    </message>
+    <message>
+        <source>What is followed is not on the water, such as a head: its metres are off.</source>
+        <translation>Sledované není na vodě, třeba hlava: jeho metry nejsou přesné.</translation>
     </message>
 </context>
 <context>
@@ -21320,54 +21386,6 @@ hodnot záběrů %2, sprintu %3</translation>
         <translation>Sleduje se: %p %</translation>
     </message>
     <message>
-        <source>Draw a box round what is to be followed.</source>
-        <translation>Nakreslete rámeček kolem toho, co se má sledovat.</translation>
-    </message>
-    <message>
-        <source>No known point yet. Tick Path &gt; Click known points, then click the foot of a gate&apos;s poles in the picture.</source>
-        <translation>Zatím žádný známý bod. Zaškrtněte Dráha &gt; Klikat známé body a pak v obraze klikněte na patu tyčí branky.</translation>
-    </message>
-    <message>
-        <source>&amp;Take it away</source>
-        <translation>&amp;Odebrat</translation>
-    </message>
-    <message>
-        <source>removal of a known point</source>
-        <translation>odstranění známého bodu</translation>
-    </message>
-    <message>
-        <source>Speed</source>
-        <translation>Rychlost</translation>
-    </message>
-    <message>
-        <source>Figures</source>
-        <translation>Čísla</translation>
-    </message>
-    <message>
-        <source>Known points</source>
-        <translation>Známé body</translation>
-    </message>
-    <message>
-        <source>A place on the water is a number of metres, -10000 to 10000</source>
-        <translation>Místo na vodě je počet metrů, -10000 až 10000</translation>
-    </message>
-    <message>
-        <source>metres of a known point</source>
-        <translation>metry známého bodu</translation>
-    </message>
-    <message>
-        <source>Point</source>
-        <translation>Bod</translation>
-    </message>
-    <message>
-        <source>Across</source>
-        <translation>Napříč</translation>
-    </message>
-    <message>
-        <source>Along</source>
-        <translation>Podél</translation>
-    </message>
-    <message>
         <source>&amp;Open a film or a path…</source>
         <translation>Otevřít &amp;film nebo dráhu…</translation>
     </message>
@@ -21514,14 +21532,6 @@ hodnot záběrů %2, sprintu %3</translation>
     <message>
         <source>removal of the known points</source>
         <translation>odstranění známých bodů</translation>
-    </message>
-    <message>
-        <source>Two points give a scale only: lengths and speeds hold near them and along the line between them. Four give the perspective too.</source>
-        <translation>Dva body dají jen měřítko: délky a rychlosti platí poblíž nich a podél čáry mezi nimi. Čtyři dají i perspektivu.</translation>
-    </message>
-    <message>
-        <source>What is followed is not on the water, such as a head: its metres are off.</source>
-        <translation>Sledované není na vodě, třeba hlava: jeho metry nejsou přesné.</translation>
     </message>
     <message>
         <source>Export the path</source>

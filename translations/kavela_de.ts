@@ -8588,6 +8588,10 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
         <translation>Tab nächster Teil · Pfeile verschieben ihn, Umschalt+Pfeile weit · Alt+←/→ dreht · Bild ab seine Punkte · Entf · Einfg setzt einen in die Mitte · Strg+Z zurück, Strg+Umschalt+Z wieder vor</translation>
     </message>
     <message>
+        <source>Wheel, + and − zoom · 0 shows all · drag with Space or the middle button moves the view</source>
+        <translation>Rad, + und − zoomen · 0 zeigt alles · Ziehen mit Leertaste oder mittlerer Taste verschiebt den Ausschnitt</translation>
+    </message>
+    <message>
         <source>&amp;Hold and move</source>
         <translation>&amp;Greifen und verschieben</translation>
     </message>
@@ -12445,6 +12449,41 @@ Strafen sind nicht enthalten.</translation>
     </message>
 </context>
 <context>
+    <name>kavela::desktop::KnownPointsPage</name>
+    <message>
+        <source>No known point yet. Tick Path &gt; Click known points, then click the foot of a gate&apos;s poles in the picture.</source>
+        <translation>Noch kein bekannter Punkt. Bahn &gt; Bekannte Punkte anklicken abhaken, dann im Bild den Fuß der Torstäbe anklicken.</translation>
+    </message>
+    <message>
+        <source>&amp;Take it away</source>
+        <translation>&amp;Wegnehmen</translation>
+    </message>
+    <message>
+        <source>removal of a known point</source>
+        <translation>Entfernen eines bekannten Punkts</translation>
+    </message>
+    <message>
+        <source>A place on the water is a number of metres, -10000 to 10000</source>
+        <translation>Ein Ort auf dem Wasser ist eine Zahl von Metern, -10000 bis 10000</translation>
+    </message>
+    <message>
+        <source>metres of a known point</source>
+        <translation>Meter eines bekannten Punkts</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>Quer</translation>
+    </message>
+    <message>
+        <source>Along</source>
+        <translation>Längs</translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::LaneStrip</name>
     <message>
         <source>Notes of the run</source>
@@ -13886,6 +13925,33 @@ Strafen sind nicht enthalten.</translation>
     <message>
         <source>There is nothing to show.</source>
         <translation>Es gibt nichts zu zeigen.</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PathPages</name>
+    <message>
+        <source>Draw a box round what is to be followed.</source>
+        <translation>Einen Kasten um das zeichnen, was verfolgt werden soll.</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation>Zahlen</translation>
+    </message>
+    <message>
+        <source>Known points</source>
+        <translation>Bekannte Punkte</translation>
+    </message>
+    <message>
+        <source>Two points give a scale only: lengths and speeds hold near them and along the line between them. Four give the perspective too.</source>
+        <translation>Zwei Punkte geben nur einen Maßstab: Längen und Tempo gelten in ihrer Nähe und auf der Linie zwischen ihnen. Vier geben auch die Perspektive.</translation>
+    </message>
+    <message>
+        <source>What is followed is not on the water, such as a head: its metres are off.</source>
+        <translation>Das Verfolgte ist nicht auf dem Wasser, etwa ein Kopf: seine Meter stimmen nicht.</translation>
     </message>
 </context>
 <context>
@@ -21256,54 +21322,6 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
         <translation>Verfolgen: %p %</translation>
     </message>
     <message>
-        <source>Draw a box round what is to be followed.</source>
-        <translation>Einen Kasten um das zeichnen, was verfolgt werden soll.</translation>
-    </message>
-    <message>
-        <source>No known point yet. Tick Path &gt; Click known points, then click the foot of a gate&apos;s poles in the picture.</source>
-        <translation>Noch kein bekannter Punkt. Bahn &gt; Bekannte Punkte anklicken abhaken, dann im Bild den Fuß der Torstäbe anklicken.</translation>
-    </message>
-    <message>
-        <source>&amp;Take it away</source>
-        <translation>&amp;Wegnehmen</translation>
-    </message>
-    <message>
-        <source>removal of a known point</source>
-        <translation>Entfernen eines bekannten Punkts</translation>
-    </message>
-    <message>
-        <source>Speed</source>
-        <translation>Tempo</translation>
-    </message>
-    <message>
-        <source>Figures</source>
-        <translation>Zahlen</translation>
-    </message>
-    <message>
-        <source>Known points</source>
-        <translation>Bekannte Punkte</translation>
-    </message>
-    <message>
-        <source>A place on the water is a number of metres, -10000 to 10000</source>
-        <translation>Ein Ort auf dem Wasser ist eine Zahl von Metern, -10000 bis 10000</translation>
-    </message>
-    <message>
-        <source>metres of a known point</source>
-        <translation>Meter eines bekannten Punkts</translation>
-    </message>
-    <message>
-        <source>Point</source>
-        <translation>Punkt</translation>
-    </message>
-    <message>
-        <source>Across</source>
-        <translation>Quer</translation>
-    </message>
-    <message>
-        <source>Along</source>
-        <translation>Längs</translation>
-    </message>
-    <message>
         <source>&amp;Open a film or a path…</source>
         <translation>Film oder Bahn &amp;öffnen…</translation>
     </message>
@@ -21450,14 +21468,6 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <message>
         <source>removal of the known points</source>
         <translation>Entfernen der bekannten Punkte</translation>
-    </message>
-    <message>
-        <source>Two points give a scale only: lengths and speeds hold near them and along the line between them. Four give the perspective too.</source>
-        <translation>Zwei Punkte geben nur einen Maßstab: Längen und Tempo gelten in ihrer Nähe und auf der Linie zwischen ihnen. Vier geben auch die Perspektive.</translation>
-    </message>
-    <message>
-        <source>What is followed is not on the water, such as a head: its metres are off.</source>
-        <translation>Das Verfolgte ist nicht auf dem Wasser, etwa ein Kopf: seine Meter stimmen nicht.</translation>
     </message>
     <message>
         <source>Export the path</source>

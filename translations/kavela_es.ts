@@ -8588,6 +8588,10 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
         <translation>Tab: parte siguiente · las flechas la mueven, Mayús+flechas lejos · Alt+←/→ gira · AvPág sus puntos · Supr · Insert pone una en el medio · Ctrl+Z deshace, Ctrl+Mayús+Z rehace</translation>
     </message>
     <message>
+        <source>Wheel, + and − zoom · 0 shows all · drag with Space or the middle button moves the view</source>
+        <translation>Rueda, + y − amplían o reducen · 0 lo muestra todo · arrastrar con Espacio o el botón central mueve la vista</translation>
+    </message>
+    <message>
         <source>&amp;Hold and move</source>
         <translation>&amp;Coger y mover</translation>
     </message>
@@ -12445,6 +12449,41 @@ Las penalizaciones no se cuentan.</translation>
     </message>
 </context>
 <context>
+    <name>kavela::desktop::KnownPointsPage</name>
+    <message>
+        <source>No known point yet. Tick Path &gt; Click known points, then click the foot of a gate&apos;s poles in the picture.</source>
+        <translation>Aún no hay ningún punto conocido. Activa Trayectoria &gt; Marcar puntos conocidos y haz clic en la imagen al pie de los palos de una puerta.</translation>
+    </message>
+    <message>
+        <source>&amp;Take it away</source>
+        <translation>&amp;Quitarlo</translation>
+    </message>
+    <message>
+        <source>removal of a known point</source>
+        <translation>eliminación de un punto conocido</translation>
+    </message>
+    <message>
+        <source>A place on the water is a number of metres, -10000 to 10000</source>
+        <translation>Un lugar en el agua es un número de metros, de -10000 a 10000</translation>
+    </message>
+    <message>
+        <source>metres of a known point</source>
+        <translation>metros de un punto conocido</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punto</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>A lo ancho</translation>
+    </message>
+    <message>
+        <source>Along</source>
+        <translation>A lo largo</translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::LaneStrip</name>
     <message>
         <source>Notes of the run</source>
@@ -13886,6 +13925,33 @@ Las penalizaciones no se cuentan.</translation>
     <message>
         <source>There is nothing to show.</source>
         <translation>No hay nada que mostrar.</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PathPages</name>
+    <message>
+        <source>Draw a box round what is to be followed.</source>
+        <translation>Dibuja un recuadro alrededor de lo que se va a seguir.</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation>Cifras</translation>
+    </message>
+    <message>
+        <source>Known points</source>
+        <translation>Puntos conocidos</translation>
+    </message>
+    <message>
+        <source>Two points give a scale only: lengths and speeds hold near them and along the line between them. Four give the perspective too.</source>
+        <translation>Dos puntos solo dan una escala: longitudes y velocidades valen cerca de ellos y a lo largo de la línea que los une. Cuatro dan también la perspectiva.</translation>
+    </message>
+    <message>
+        <source>What is followed is not on the water, such as a head: its metres are off.</source>
+        <translation>Lo que se sigue no está en el agua, como una cabeza: sus metros no son exactos.</translation>
     </message>
 </context>
 <context>
@@ -21256,54 +21322,6 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
         <translation>Siguiendo: %p&#xa0;%</translation>
     </message>
     <message>
-        <source>Draw a box round what is to be followed.</source>
-        <translation>Dibuja un recuadro alrededor de lo que se va a seguir.</translation>
-    </message>
-    <message>
-        <source>No known point yet. Tick Path &gt; Click known points, then click the foot of a gate&apos;s poles in the picture.</source>
-        <translation>Aún no hay ningún punto conocido. Activa Trayectoria &gt; Marcar puntos conocidos y haz clic en la imagen al pie de los palos de una puerta.</translation>
-    </message>
-    <message>
-        <source>&amp;Take it away</source>
-        <translation>&amp;Quitarlo</translation>
-    </message>
-    <message>
-        <source>removal of a known point</source>
-        <translation>eliminación de un punto conocido</translation>
-    </message>
-    <message>
-        <source>Speed</source>
-        <translation>Velocidad</translation>
-    </message>
-    <message>
-        <source>Figures</source>
-        <translation>Cifras</translation>
-    </message>
-    <message>
-        <source>Known points</source>
-        <translation>Puntos conocidos</translation>
-    </message>
-    <message>
-        <source>A place on the water is a number of metres, -10000 to 10000</source>
-        <translation>Un lugar en el agua es un número de metros, de -10000 a 10000</translation>
-    </message>
-    <message>
-        <source>metres of a known point</source>
-        <translation>metros de un punto conocido</translation>
-    </message>
-    <message>
-        <source>Point</source>
-        <translation>Punto</translation>
-    </message>
-    <message>
-        <source>Across</source>
-        <translation>A lo ancho</translation>
-    </message>
-    <message>
-        <source>Along</source>
-        <translation>A lo largo</translation>
-    </message>
-    <message>
         <source>&amp;Open a film or a path…</source>
         <translation>&amp;Abrir un vídeo o una trayectoria…</translation>
     </message>
@@ -21450,14 +21468,6 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <message>
         <source>removal of the known points</source>
         <translation>eliminación de los puntos conocidos</translation>
-    </message>
-    <message>
-        <source>Two points give a scale only: lengths and speeds hold near them and along the line between them. Four give the perspective too.</source>
-        <translation>Dos puntos solo dan una escala: longitudes y velocidades valen cerca de ellos y a lo largo de la línea que los une. Cuatro dan también la perspectiva.</translation>
-    </message>
-    <message>
-        <source>What is followed is not on the water, such as a head: its metres are off.</source>
-        <translation>Lo que se sigue no está en el agua, como una cabeza: sus metros no son exactos.</translation>
     </message>
     <message>
         <source>Export the path</source>

@@ -8588,6 +8588,10 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
         <translation>Tab partie suivante · les flèches la déplacent, Maj+flèches loin · Alt+←/→ tourner · PgSuiv ses points · Suppr · Inser en met un au milieu · Ctrl+Z annuler, Ctrl+Maj+Z rétablir</translation>
     </message>
     <message>
+        <source>Wheel, + and − zoom · 0 shows all · drag with Space or the middle button moves the view</source>
+        <translation>Molette, + et − zooment · 0 montre tout · glisser avec Espace ou le bouton du milieu déplace la vue</translation>
+    </message>
+    <message>
         <source>&amp;Hold and move</source>
         <translation>&amp;Saisir et déplacer</translation>
     </message>
@@ -12445,6 +12449,41 @@ Les pénalités sont laissées de côté.</translation>
     </message>
 </context>
 <context>
+    <name>kavela::desktop::KnownPointsPage</name>
+    <message>
+        <source>No known point yet. Tick Path &gt; Click known points, then click the foot of a gate&apos;s poles in the picture.</source>
+        <translation>Encore aucun point connu. Cochez Trajectoire &gt; Cliquer des points connus, puis cliquez le pied des fiches d’une porte dans l’image.</translation>
+    </message>
+    <message>
+        <source>&amp;Take it away</source>
+        <translation>&amp;L’enlever</translation>
+    </message>
+    <message>
+        <source>removal of a known point</source>
+        <translation>retrait d’un point connu</translation>
+    </message>
+    <message>
+        <source>A place on the water is a number of metres, -10000 to 10000</source>
+        <translation>Une place sur l’eau est un nombre de mètres, de -10000 à 10000</translation>
+    </message>
+    <message>
+        <source>metres of a known point</source>
+        <translation>mètres d’un point connu</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Point</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>En travers</translation>
+    </message>
+    <message>
+        <source>Along</source>
+        <translation>En long</translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::LaneStrip</name>
     <message>
         <source>Notes of the run</source>
@@ -13886,6 +13925,33 @@ Les pénalités sont laissées de côté.</translation>
     <message>
         <source>There is nothing to show.</source>
         <translation>Il n’y a rien à montrer.</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::PathPages</name>
+    <message>
+        <source>Draw a box round what is to be followed.</source>
+        <translation>Dessinez un cadre autour de ce qui doit être suivi.</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Figures</source>
+        <translation>Chiffres</translation>
+    </message>
+    <message>
+        <source>Known points</source>
+        <translation>Points connus</translation>
+    </message>
+    <message>
+        <source>Two points give a scale only: lengths and speeds hold near them and along the line between them. Four give the perspective too.</source>
+        <translation>Deux points ne donnent qu’une échelle&#x202f;: longueurs et vitesses valent près d’eux et le long de la ligne entre eux. Quatre donnent aussi la perspective.</translation>
+    </message>
+    <message>
+        <source>What is followed is not on the water, such as a head: its metres are off.</source>
+        <translation>Ce qui est suivi n’est pas sur l’eau, comme une tête&#x202f;: ses mètres sont faussés.</translation>
     </message>
 </context>
 <context>
@@ -21256,54 +21322,6 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
         <translation>Suivi&#x202f;: %p&#x202f;%</translation>
     </message>
     <message>
-        <source>Draw a box round what is to be followed.</source>
-        <translation>Dessinez un cadre autour de ce qui doit être suivi.</translation>
-    </message>
-    <message>
-        <source>No known point yet. Tick Path &gt; Click known points, then click the foot of a gate&apos;s poles in the picture.</source>
-        <translation>Encore aucun point connu. Cochez Trajectoire &gt; Cliquer des points connus, puis cliquez le pied des fiches d’une porte dans l’image.</translation>
-    </message>
-    <message>
-        <source>&amp;Take it away</source>
-        <translation>&amp;L’enlever</translation>
-    </message>
-    <message>
-        <source>removal of a known point</source>
-        <translation>retrait d’un point connu</translation>
-    </message>
-    <message>
-        <source>Speed</source>
-        <translation>Vitesse</translation>
-    </message>
-    <message>
-        <source>Figures</source>
-        <translation>Chiffres</translation>
-    </message>
-    <message>
-        <source>Known points</source>
-        <translation>Points connus</translation>
-    </message>
-    <message>
-        <source>A place on the water is a number of metres, -10000 to 10000</source>
-        <translation>Une place sur l’eau est un nombre de mètres, de -10000 à 10000</translation>
-    </message>
-    <message>
-        <source>metres of a known point</source>
-        <translation>mètres d’un point connu</translation>
-    </message>
-    <message>
-        <source>Point</source>
-        <translation>Point</translation>
-    </message>
-    <message>
-        <source>Across</source>
-        <translation>En travers</translation>
-    </message>
-    <message>
-        <source>Along</source>
-        <translation>En long</translation>
-    </message>
-    <message>
         <source>&amp;Open a film or a path…</source>
         <translation>Ouvrir un film ou une &amp;trajectoire…</translation>
     </message>
@@ -21450,14 +21468,6 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     <message>
         <source>removal of the known points</source>
         <translation>retrait des points connus</translation>
-    </message>
-    <message>
-        <source>Two points give a scale only: lengths and speeds hold near them and along the line between them. Four give the perspective too.</source>
-        <translation>Deux points ne donnent qu’une échelle&#x202f;: longueurs et vitesses valent près d’eux et le long de la ligne entre eux. Quatre donnent aussi la perspective.</translation>
-    </message>
-    <message>
-        <source>What is followed is not on the water, such as a head: its metres are off.</source>
-        <translation>Ce qui est suivi n’est pas sur l’eau, comme une tête&#x202f;: ses mètres sont faussés.</translation>
     </message>
     <message>
         <source>Export the path</source>

@@ -42,6 +42,9 @@ FollowedStretch followedOn(FilmPlanes& film, const StretchOrder& order) {
 
 void tellPath(const FilmTrack& track, const FollowedStretch& stretch, const VideoIndex& index,
               const cli::TrackCall& call) {
+    if (index.facts().isCutOff)
+        cli::logLine(cli::pathText(call.film) +
+                     ": the file is cut off. It is followed as far as its pictures go.");
     for (const FilmTrack::Gap& gap : track.gaps())
         cli::logLine("Not seen from " + hundredthsText(index.secondsOf(gap.first)) + " s to " +
                      hundredthsText(index.secondsOf(gap.last)) + " s: a gap.");

@@ -1,45 +1,53 @@
 #pragma once
 
-#include "vision/track_picture.h"
+#include "vision/still_blocks.h"
 
+#include <cstddef>
 #include <optional>
 #include <vector>
 
 namespace kavela {
 
-/// How a camera moves, frame by frame, seen in what stands still: blocks in a grid are looked for
-/// in the next picture, and the similarity on which most of them agree is taken (least median of
+/// How a camera moves, seen in what stands still: blocks in a grid of an earlier picture are looked
+/// for in the next one, and the similarity on which most of them agree is taken (least median of
 /// the squared errors). What more than half of the picture does counts as the camera's motion.
+///
+/// The errors of each step would add up to hundreds of pixels over a long shot. So pictures are
+/// matched against a view that is kept as long as they share half of it, then against another one,
+/// and a camera that comes back finds the views of before: errors add up by views and not by
+/// pictures, and go away where it has been already.
 class CameraMotion {
 public:
     /// How the picture moved since the last one whose motion was known, leaving out what is in the
-    /// box; nothing where it cannot be told. The first picture has not moved. After 13 pictures
-    /// that told nothing it begins anew with the last of them: what lies before is lost.
+    /// box, which is where it was then; nothing where it cannot be told. The first picture has not
+    /// moved. After 13 pictures that told nothing it begins anew with the last of them: what lies
+    /// before is lost.
     [[nodiscard]] std::optional<PictureMotion> follow(const TrackPicture& picture,
                                                       const std::optional<TrackBox>& without);
 
 private:
-    struct Seen {
-        PicturePlace from;
-        PicturePlace to;
+    struct View {
+        StillBlocks blocks;
+        PictureMotion fromFirst; ///< from the first picture to this one
+        int failures = 0;        ///< pictures in a row that should show it, and do not
+        bool hasFailed = false;  ///< the last picture is one of them
     };
-    struct Shift {
-        int x = 0;
-        int y = 0;
-    };
+    static constexpr std::size_t MostViews = 24;
+    static constexpr int MostFailures = 5;
 
-    [[nodiscard]] static bool covers(const std::optional<TrackBox>& box, int x, int y, int factor);
-    [[nodiscard]] Shift coarseShift(const SmallPlane& coarse) const;
-    [[nodiscard]] std::vector<Seen> matchBlocks(const SmallPlane& now, const Shift& shift,
-                                                const std::optional<TrackBox>& without) const;
-    [[nodiscard]] std::optional<Seen> matchBlock(const SmallPlane& now, int left, int top,
-                                                 const Shift& shift) const;
+    [[nodiscard]] std::optional<PictureMotion>
+    motionTo(const SmallPlane& now, const SmallPlane& coarse, const std::optional<TrackBox>& box);
+    [[nodiscard]] std::optional<PictureMotion> motionFrom(View& view, const SmallPlane& now,
+                                                          const PictureMotion& shift,
+                                                          const std::optional<TrackBox>& box);
+    void forgetFailing();
+    [[nodiscard]] PictureMotion coarseShift(const SmallPlane& coarse) const;
 
-    SmallPlane m_before;
+    SmallPlane m_before; ///< the last picture whose motion was known; empty before the first
     SmallPlane m_coarseBefore;
-    int m_factor = 1;
-    int m_unknown = 0; ///< pictures since the last one that told its motion
-    bool m_hasBefore = false;
+    std::vector<View> m_views; ///< in the order in which they were kept
+    PictureMotion m_toNow;     ///< from the first picture to `m_before`
+    int m_unknown = 0;         ///< pictures since the last one that told its motion
 };
 
 } // namespace kavela

@@ -1,5 +1,6 @@
 #include "vision/film_planes.h"
 
+#include "video/frame_colours.h"
 #include "video/writing/turned_planes.h"
 
 #include <cstddef>
@@ -30,10 +31,15 @@ std::shared_ptr<const AVFrame> FilmPlanes::at(FrameNumber frame,
     if (result.outcome != FrameSource::Outcome::Found)
         return nullptr;
     const int rotation = index().facts().rotation;
+    // Most films have such planes, and a copy of each would cost as much as following does.
+    const AVFrame& decoded = *result.frame.samples;
+    if (rotation == 0 && decoded.format == AV_PIX_FMT_YUV420P && !hasFullRange(decoded) &&
+        decoded.width == m_size.width && decoded.height == m_size.height)
+        return result.frame.samples;
     const bool isSideways = rotation % HalfTurn != 0;
     AvOwner<AVFrame> planes =
         newPlanes(isSideways ? VideoSize{m_size.height, m_size.width} : m_size);
-    if (!m_scaler.scale(*result.frame.samples, *planes))
+    if (!m_scaler.scale(decoded, *planes))
         return nullptr;
     if (rotation != 0)
         planes = turnedPlanes(*planes, rotation);

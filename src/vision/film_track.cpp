@@ -82,12 +82,15 @@ private:
     void look(const TrackPicture& picture, FrameNumber frame, PatchTracker& tracker,
               CameraMotion& camera, FollowedStretch& stretch) const {
         const auto motion = camera.follow(picture, tracker.expectedBox());
-        const TrackCamera& known = stretch.cameras.back();
+        const TrackCamera known = stretch.cameras.back();
+        // What was found since the camera was known last has gone with it already.
+        const bool hasGoneAlong = stretch.points.back().frame > known.frame;
         if (motion && frame - known.frame <= MostUnknownCameras)
             stretch.cameras.push_back({frame, motion->inverse().then(known.toFirst)});
         if (!isWorthLooking(stretch, frame))
             return;
-        if (const auto found = tracker.follow(picture, motion.value_or(PictureMotion())))
+        const PictureMotion moved = motion && !hasGoneAlong ? *motion : PictureMotion();
+        if (const auto found = tracker.follow(picture, moved))
             stretch.points.push_back(
                 {frame, m_film.index().secondsOf(frame), found->place, found->size, found->score});
     }

@@ -6,6 +6,7 @@
 #include "common/safe_file.h"
 
 #include <cmath>
+#include <initializer_list>
 
 namespace kavela {
 
@@ -14,6 +15,12 @@ namespace {
 [[noreturn]] void refuseTrack(const std::string& place, const std::string& text) {
     throw DecodeError({place, text});
 }
+
+/// Two days of film at 60 frames a second. What is counted further is no film, and a table of its
+/// frames would fill the memory.
+constexpr std::int64_t MostTrackFrames = 10'368'000;
+constexpr double FarthestPlace = 1e7; ///< pixels, metres or seconds
+constexpr double LargestScale = 1e4;
 
 /// Frames count from 0 and each is told once, in their order.
 template <class Entries>
@@ -26,6 +33,15 @@ void checkFrames(const Entries& entries, const std::string& name) {
                                : "it does not lie behind the frame before");
         before = entries[i].frame;
     }
+    if (before >= MostTrackFrames)
+        refuseTrack(name + '[' + std::to_string(entries.size() - 1) + "].frame",
+                    "no film has so many frames");
+}
+
+void checkPlaces(std::initializer_list<double> values, const std::string& place) {
+    for (const double value : values)
+        if (!(std::abs(value) <= FarthestPlace))
+            refuseTrack(place, "it lies beyond all pictures");
 }
 
 KnownPlane knownPlaneOf(const trackplane001& record, const std::string& place) {
@@ -35,8 +51,12 @@ KnownPlane knownPlaneOf(const trackplane001& record, const std::string& place) {
     if (record.frame < 0)
         refuseTrack(place + "frame", "a frame from 0 on was expected");
     KnownPlane plane{record.frame, {}};
-    for (const trackplanepoint001& point : record.points)
+    for (std::size_t i = 0; i < record.points.size(); ++i) {
+        const trackplanepoint001& point = record.points[i];
+        checkPlaces({point.x, point.y, point.metresX, point.metresY},
+                    place + "points[" + std::to_string(i) + ']');
         plane.points.push_back({{point.x, point.y}, point.metresX, point.metresY});
+    }
     return plane;
 }
 
@@ -51,20 +71,24 @@ FilmTrack trackOf(const track001& record) {
         const trackbox001& box = record.boxes[i];
         if (!(box.width > 0 && box.height > 0))
             refuseTrack("boxes[" + std::to_string(i) + ']', "the box has no size");
+        checkPlaces({box.x, box.y, box.width, box.height}, "boxes[" + std::to_string(i) + ']');
         track.keys.push_back({box.frame, {box.x, box.y, box.width, box.height}});
     }
     for (std::size_t i = 0; i < record.points.size(); ++i) {
         const trackpoint001& point = record.points[i];
         if (!(point.size > 0))
             refuseTrack("points[" + std::to_string(i) + "].size", "a size above 0 was expected");
+        checkPlaces({point.seconds, point.x, point.y, point.size},
+                    "points[" + std::to_string(i) + ']');
         track.points.push_back(
             {point.frame, point.seconds, {point.x, point.y}, point.size, point.score});
     }
     for (std::size_t i = 0; i < record.cameras.size(); ++i) {
         const trackcamera001& camera = record.cameras[i];
         const PictureMotion motion{camera.a, camera.b, camera.dx, camera.dy};
-        if (!(motion.scale() > 0))
+        if (!(motion.scale() >= 1 / LargestScale && motion.scale() <= LargestScale))
             refuseTrack("cameras[" + std::to_string(i) + ']', "it makes the picture vanish");
+        checkPlaces({motion.dx, motion.dy}, "cameras[" + std::to_string(i) + ']');
         track.cameras.push_back({camera.frame, motion});
     }
     return track;

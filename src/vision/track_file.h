@@ -69,8 +69,8 @@ struct track001 {
 BOOST_DESCRIBE_STRUCT(track001, (), (film, width, height, isOnWater, boxes, points, cameras, plane))
 
 /// What the record of a path holds. Throws DecodeError with the place of what is wrong: frames out
-/// of order, a box without a size, more than four known points. Fewer than are needed are kept:
-/// they are still being clicked.
+/// of order or beyond any film, a box without a size, places beyond all pictures, more than four
+/// known points. Fewer than are needed are kept: they are still being clicked.
 [[nodiscard]] FilmTrack trackOf(const track001& record);
 [[nodiscard]] std::optional<KnownPlane> planeOf(const track001& record);
 

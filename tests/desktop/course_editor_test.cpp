@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 
 namespace kavela::test {
 namespace {
@@ -229,6 +230,54 @@ TEST_F(CourseEditorTest, AsksBeforeADrawingIsLost) {
     EXPECT_FALSE(editor.isVisible());
     EXPECT_THAT(m_questions, SizeIs(1)) << "nothing is lost any more";
     EXPECT_TRUE(editor.info().coursedesign.bytes.empty());
+}
+
+TEST_F(CourseEditorTest, ZoomsAtThePointerAndMovesWhatIsSeen) {
+    edit(fourGates());
+    click(0.8, 0.4);
+    m_editor->setTool(CourseTool::Hold);
+    const QPoint gate = at(0.8, 0.4);
+    const auto turnWheel = [this](const QPoint& place, int notches) {
+        QWheelEvent wheel(place, canvas().mapToGlobal(place), {}, {0, 120 * notches}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&canvas(), &wheel);
+    };
+    turnWheel(gate, 6);
+    EXPECT_GT(canvas().zoom().factor(), 3);
+    EXPECT_LE((at(0.8, 0.4) - gate).manhattanLength(), 2) << "it stays below the pointer";
+    canvas().select(CoursePart{CoursePart::Kind::Gate, 0});
+    const double before = design().gates[0].left.x;
+    press(Qt::Key_Right);
+    const double one = design().gates[0].left.x - before;
+    QTest::keyClick(&canvas(), Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_NEAR(design().gates[0].left.x - before, 11 * one, 1e-9);
+    EXPECT_NEAR(at(0.8 + one, 0.4).x(), gate.x() + 1, 1) << "one pixel as it is shown";
+
+    const int steps = m_editor->steps().count();
+    const auto pan = [this](Qt::MouseButton button) {
+        const QPoint from = canvas().rect().center();
+        const QPoint shown = at(0.8, 0.4);
+        QTest::mousePress(&canvas(), button, {}, from);
+        QTest::mouseMove(&canvas(), from + QPoint(-30, 20));
+        QTest::mouseRelease(&canvas(), button, {}, from + QPoint(-30, 20));
+        return at(0.8, 0.4) - shown;
+    };
+    EXPECT_LE((pan(Qt::MiddleButton) - QPoint(-30, 20)).manhattanLength(), 2);
+    QTest::keyPress(&canvas(), Qt::Key_Space);
+    EXPECT_LE((pan(Qt::LeftButton) - QPoint(-30, 20)).manhattanLength(), 2);
+    QTest::keyRelease(&canvas(), Qt::Key_Space);
+    EXPECT_EQ(m_editor->steps().count(), steps) << "who looks round changes nothing";
+
+    turnWheel(canvas().rect().topLeft(), 3);
+    canvas().select({});
+    press(Qt::Key_0);
+    EXPECT_TRUE(canvas().zoom().showsAll());
+    EXPECT_LE((at(0.8, 0.4) - gate).manhattanLength(), 1) << "as at first";
+    press(Qt::Key_Minus);
+    EXPECT_TRUE(canvas().zoom().showsAll()) << "smaller than it fits is of no use";
+    turnWheel(at(0.05, 0.05), 10);
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(canvas().rect().contains(at(0.8, 0.4))) << "what the keys select comes into sight";
 }
 
 /// Through the analyzer, as most races are open there.

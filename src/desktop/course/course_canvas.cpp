@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -19,8 +20,8 @@ using PartKind = CoursePart::Kind;
 constexpr double HandReach = 9;    ///< pixels
 constexpr double LeastDrag = 6;    ///< pixels: less is a click
 constexpr double BendOfHand = 1.5; ///< pixels by which a hand trembles
-constexpr double SmallMove = 2;    ///< pixels of an arrow key
-constexpr double LargeMove = 20;
+constexpr double SmallMove = 1;    ///< pixels of an arrow key, as it is shown
+constexpr double LargeMove = 10;
 constexpr double KeyTurn = 5; ///< degrees
 constexpr coursepoint001 HalfSplitLine{0, 0.12};
 constexpr double HalfLine = 0.2;
@@ -56,7 +57,9 @@ std::optional<CourseDraft> withCourseLine(CourseDraft draft, CourseTool tool,
 } // namespace
 
 CourseCanvas::CourseCanvas(QWidget* parent)
-    : QWidget(parent), m_painting({}, CourseDraft().heightOfWidth, {}) {
+    : QWidget(parent), m_painting({}, CourseDraft().heightOfWidth, {}), m_lens(*this, [this] {
+          return m_painting.pictureIn(QRectF(rect()).adjusted(1, 1, -1, -1));
+      }) {
     setObjectName("courseCanvas");
     setAccessibleName(tr("Drawing of the course"));
     setFocusPolicy(Qt::StrongFocus);
@@ -72,6 +75,8 @@ void CourseCanvas::show(const CourseDraft& draft) {
                  : report::CoursePainting(m_draft.design, m_draft.heightOfWidth, m_draft.words());
     if (m_selected && !hasPart(m_draft.design, *m_selected))
         m_selected.reset();
+    if (!isAsHigh)
+        m_lens.showAll();
     update();
     emit selectionChanged();
 }
@@ -79,7 +84,12 @@ void CourseCanvas::show(const CourseDraft& draft) {
 void CourseCanvas::setTool(CourseTool tool) {
     cancelDrag();
     m_tool = tool;
-    setCursor(tool == CourseTool::Hold ? Qt::ArrowCursor : Qt::CrossCursor);
+    showCursor();
+}
+
+void CourseCanvas::showCursor() {
+    setCursor(
+        m_lens.cursor().value_or(m_tool == CourseTool::Hold ? Qt::ArrowCursor : Qt::CrossCursor));
 }
 
 void CourseCanvas::select(std::optional<CoursePart> part) {
@@ -98,6 +108,7 @@ bool CourseCanvas::selectNext(int step) {
     place += step;
     const bool isThere = place >= 0 && place < std::ssize(parts);
     select(isThere ? std::optional(parts[static_cast<std::size_t>(place)]) : std::nullopt);
+    reveal();
     return isThere;
 }
 
@@ -112,10 +123,23 @@ void CourseCanvas::selectNextPoint(int step) {
     select(
         CoursePart{whole.kind, whole.index,
                    next == count ? std::nullopt : std::optional(static_cast<std::size_t>(next))});
+    reveal();
 }
 
-QRectF CourseCanvas::picture() const {
-    return m_painting.pictureIn(QRectF(rect()).adjusted(1, 1, -1, -1));
+/// Keys reach parts that lie out of sight: what they select or move comes into the middle then.
+void CourseCanvas::reveal() {
+    if (!m_selected || zoom().showsAll())
+        return;
+    const std::vector<coursepoint001> points =
+        pointsOf(m_draft.design, {m_selected->kind, m_selected->index});
+    const auto isSeen = [this](const coursepoint001& point) {
+        return QRectF(rect()).contains(placeOf(point));
+    };
+    if (points.empty() || (m_selected->point ? isSeen(points[*m_selected->point])
+                                             : std::ranges::any_of(points, isSeen)))
+        return;
+    const QPointF at = placeOf(m_selected->point ? points[*m_selected->point] : points.front());
+    m_lens.center(at);
 }
 
 QPointF CourseCanvas::placeOf(const coursepoint001& point) const {
@@ -130,7 +154,16 @@ double CourseCanvas::widthsOf(double pixels) const {
     return pixels / std::max(picture().width(), 1.0);
 }
 
+void CourseCanvas::wheelEvent(QWheelEvent* event) {
+    event->setAccepted(m_lens.turnWheel(*event));
+}
+
 void CourseCanvas::mousePressEvent(QMouseEvent* event) {
+    // What is being drawn is drawn to its end first.
+    if (!m_drag && m_lens.press(*event)) {
+        showCursor();
+        return;
+    }
     if (event->button() != Qt::LeftButton)
         return;
     const coursepoint001 at = pointAt(event->position());
@@ -154,6 +187,8 @@ void CourseCanvas::beginDrag(const coursepoint001& at) {
 }
 
 void CourseCanvas::mouseMoveEvent(QMouseEvent* event) {
+    if (m_lens.move(*event))
+        return;
     if (!m_drag)
         return;
     m_drag->to = pointAt(event->position());
@@ -210,6 +245,10 @@ std::optional<CourseDraft> CourseCanvas::afterTool(const Drag& drag) const {
 }
 
 void CourseCanvas::mouseReleaseEvent(QMouseEvent* event) {
+    if (m_lens.release()) {
+        showCursor();
+        return;
+    }
     if (event->button() != Qt::LeftButton || !m_drag)
         return;
     const Drag drag = *m_drag;
@@ -264,13 +303,13 @@ void CourseCanvas::selectNewest(const CourseDraft& after) {
 }
 
 void CourseCanvas::putInMiddle() {
-    const coursepoint001 middle{0.5, m_draft.heightOfWidth / 2};
+    const coursepoint001 middle = pointAt(m_lens.seen().center()); // of what is seen
+    const double half = HalfLine / zoom().factor();
     if (m_tool == CourseTool::Text)
         emit textWanted(middle);
     else if (m_tool == CourseTool::Bank || m_tool == CourseTool::Line)
-        finish(withCourseLine(
-            m_draft, m_tool,
-            {{middle.x - HalfLine, middle.y}, middle, {middle.x + HalfLine, middle.y}}));
+        finish(withCourseLine(m_draft, m_tool,
+                              {{middle.x - half, middle.y}, middle, {middle.x + half, middle.y}}));
     else if (m_tool != CourseTool::Hold)
         finish(afterTool({middle, middle, {middle}, m_draft}));
 }
@@ -288,6 +327,7 @@ void CourseCanvas::moveSelected(const QPointF& pixels) {
         edit(stepName(),
              movedPart(m_draft.design, *m_selected, widthsOf(pixels.x()), widthsOf(pixels.y())),
              true);
+    reveal();
 }
 
 void CourseCanvas::turnSelected(double degrees) {
@@ -310,8 +350,21 @@ void CourseCanvas::cancelDrag() {
 }
 
 void CourseCanvas::keyPressEvent(QKeyEvent* event) {
-    if (!takeKey(*event))
+    if (!takeKey(*event) && !m_lens.pressKey(*event))
         QWidget::keyPressEvent(event);
+    showCursor();
+}
+
+void CourseCanvas::keyReleaseEvent(QKeyEvent* event) {
+    if (!m_lens.releaseKey(*event))
+        QWidget::keyReleaseEvent(event);
+    showCursor();
+}
+
+void CourseCanvas::focusOutEvent(QFocusEvent* event) {
+    m_lens.loseFocus();
+    showCursor();
+    QWidget::focusOutEvent(event);
 }
 
 bool CourseCanvas::takeKey(const QKeyEvent& event) {
@@ -366,7 +419,8 @@ void CourseCanvas::paintEvent(QPaintEvent* /*event*/) {
     paintSelected(painter);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(hasFocus() ? QPen(theme::Accent, 2) : QPen(theme::hairline(palette())));
-    painter.drawRect(picture());
+    // Zoomed, its edges lie out of sight, and the frame tells who has the keys all the same.
+    painter.drawRect(m_lens.seen());
 }
 
 /// Rings round its points, with the one point filled that keys would move.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/course/course_draft.h"
+#include "desktop/course/course_lens.h"
 
 #include <QWidget>
 
@@ -12,8 +13,10 @@ namespace kavela::desktop {
 /// What the mouse does on the drawing of a course.
 enum class CourseTool { Hold, Gate, SplitLine, Bank, Line, Text };
 
-/// The course while it is drawn, as large as it fits. It changes nothing itself: what a hand does
-/// is told as another draft, and shown as such only while a button of the mouse is down.
+/// The course while it is drawn, as large as it fits or larger: the wheel and the keys + and −
+/// zoom, 0 shows all, the middle button or the left one with Space drags what is seen. It changes
+/// nothing itself: what a hand does is told as another draft, and shown as such only while a button
+/// of the mouse is down.
 class CourseCanvas : public QWidget {
     Q_OBJECT
 
@@ -43,6 +46,9 @@ public:
     void moveSelected(const QPointF& pixels);
     void turnSelected(double degrees);
 
+    /// How near it is looked at.
+    [[nodiscard]] const CourseZoom& zoom() const { return m_lens.zoom(); }
+
     /// Where a point of the picture is shown.
     [[nodiscard]] QPointF placeOf(const coursepoint001& point) const;
 
@@ -63,7 +69,10 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     bool focusNextPrevChild(bool isNext) override;
 
 private:
@@ -76,7 +85,9 @@ private:
         std::optional<CourseDraft> after = {}; ///< none as long as nothing moved
     };
 
-    [[nodiscard]] QRectF picture() const;
+    [[nodiscard]] QRectF picture() const { return m_lens.picture(); }
+    void showCursor();
+    void reveal();
     [[nodiscard]] coursepoint001 pointAt(const QPointF& place) const;
     [[nodiscard]] double widthsOf(double pixels) const;
     void beginDrag(const coursepoint001& at);
@@ -98,6 +109,7 @@ private:
     CourseTool m_tool = CourseTool::Hold;
     std::optional<CoursePart> m_selected;
     std::optional<Drag> m_drag;
+    CourseLens m_lens;
 };
 
 } // namespace kavela::desktop

@@ -91,7 +91,10 @@ void CourseEditor::makeParts() {
     m_hint->setWordWrap(true);
     auto* keys = new QLabel(
         tr("Tab next part · arrows move it, Shift+arrows far · Alt+←/→ turn · PgDn its points · "
-           "Delete · Insert puts one in the middle · Ctrl+Z undo, Ctrl+Shift+Z redo"));
+           "Delete · Insert puts one in the middle · Ctrl+Z undo, Ctrl+Shift+Z redo") +
+        "\n" +
+        tr("Wheel, + and − zoom · 0 shows all · drag with Space or the middle button moves the "
+           "view"));
     keys->setWordWrap(true);
     keys->setFont(theme::captionFont(*this));
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);

@@ -2,22 +2,19 @@
 
 #include "common/error.h"
 #include "common/safe_file.h"
-#include "desktop/charts/series_chart.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_memory.h"
 #include "desktop/film/film_view.h"
 #include "desktop/shell/shown_number.h"
-#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
-#include "desktop/shell/typed_number.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/tracking/path_pages.h"
 #include "desktop/tracking/track_line.h"
 #include "desktop/tracking/track_overlay.h"
 #include "desktop/tracking/track_run.h"
 #include "splittaking/video_names.h"
 #include "vision/path_csv.h"
-#include "vision/track_error.h"
 
 #include <QAction>
 #include <QFileDialog>
@@ -28,7 +25,6 @@
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QSplitter>
-#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -50,14 +46,12 @@ TrackingWindow::TrackingWindow(Workspace& workspace, std::unique_ptr<TrackDocume
                  {"tracking", tr("Tracking"), "json", tr("Paths on films (*.track.json)")}),
       m_document(std::move(document)),
       m_deck(new FilmDeck(FilmMemory::of(workspace), this)),
-      m_run(new TrackRun(this)),
-      m_figures(pathColumns(),
-                [](const PathFigure& figure) { return static_cast<std::size_t>(figure.frame); }),
-      m_points(pointColumns(), RowsKnownBy::Number) {
+      m_pages(new PathPages(*m_document)),
+      m_run(new TrackRun(this)) {
     auto* const whole = new QSplitter;
     whole->setContentsMargins(theme::Spacing, theme::Spacing, theme::Spacing, theme::Spacing);
     whole->addWidget(makeStage());
-    whole->addWidget(makePages());
+    whole->addWidget(m_pages);
     whole->setStretchFactor(0, 1);
     whole->setChildrenCollapsible(false);
     shareSizes(*whole, {780, 460});
@@ -103,65 +97,6 @@ QWidget* TrackingWindow::makeStage() {
     column->addLayout(bar);
     column->addWidget(m_told);
     return stage;
-}
-
-QWidget* TrackingWindow::makePages() {
-    m_chart = new SeriesChart;
-    m_figureTable = new ColumnTable(m_figures, "pathFigures");
-    m_figureTable->setEmptyText(tr("Draw a box round what is to be followed."));
-    m_figureTable->keepOrder();
-    m_pointTable = new ColumnTable(m_points, "knownPoints");
-    m_pointTable->keepOrder();
-    m_pointTable->setEmptyText(
-        tr("No known point yet. Tick Path > Click known points, then click the "
-           "foot of a gate's poles in the picture."));
-    m_pointTable->setRemove(tr("&Take it away"), [this](const std::vector<int>& places) {
-        m_document->edit(tr("removal of a known point"), [&](track001& record) {
-            for (auto place = places.rbegin(); place != places.rend(); ++place)
-                if (*place < std::ssize(record.plane.points))
-                    record.plane.points.erase(record.plane.points.begin() + *place);
-        });
-    });
-    m_pointsTold = new QLabel;
-    m_pointsTold->setWordWrap(true);
-    m_pointsTold->setTextFormat(Qt::PlainText);
-    auto* const points = new QWidget;
-    auto* const column = new QVBoxLayout(points);
-    column->setContentsMargins(0, theme::Spacing, 0, 0);
-    column->addWidget(m_pointTable, 1);
-    column->addWidget(m_pointsTold);
-    m_tabs = new QTabWidget;
-    m_tabs->addTab(m_chart, tr("Speed"));
-    m_tabs->addTab(m_figureTable, tr("Figures"));
-    m_tabs->addTab(points, tr("Known points"));
-    return m_tabs;
-}
-
-std::vector<Column<TrackingWindow::PointRow>> TrackingWindow::pointColumns() {
-    const auto metres = [this](const QString& title, double trackplanepoint001::*member) {
-        Column<PointRow> column;
-        column.title = title;
-        column.unit = "m";
-        column.kind = ColumnKind::Number;
-        column.show = [member](const PointRow& row) {
-            return Cell{.text = shownNumber(row.point.*member), .number = row.point.*member};
-        };
-        column.take = [this, member](const std::size_t& place, const PointRow&,
-                                     const QString& typed) {
-            const double value = typedReal(
-                typed, {-10'000, 10'000,
-                        tr("A place on the water is a number of metres, -10000 to 10000")});
-            m_document->edit(tr("metres of a known point"), [&](track001& record) {
-                if (place < record.plane.points.size())
-                    record.plane.points[place].*member = value;
-            });
-        };
-        return column;
-    };
-    return {textColumn<PointRow>(
-                tr("Point"), [](const PointRow& row) { return QString::number(row.number + 1); }),
-            metres(tr("Across"), &trackplanepoint001::metresX),
-            metres(tr("Along"), &trackplanepoint001::metresY)};
 }
 
 void TrackingWindow::makeMenus() {
@@ -210,11 +145,12 @@ void TrackingWindow::connectParts() {
     connect(m_overlay, &TrackOverlay::boxDrawn, this, &TrackingWindow::drawBox);
     connect(m_overlay, &TrackOverlay::pointClicked, this, &TrackingWindow::takePoint);
     connect(m_line, &TrackLine::frameWanted, this, &TrackingWindow::goTo);
-    connect(m_figureTable, &ColumnTable::chosen, this, [this] {
-        const int place = m_figureTable->currentPlace();
-        if (place >= 0 && m_figureTable->hasFocus() && !m_run->isRunning())
-            goTo(m_figures.row(place).frame);
+    connect(m_pages, &PathPages::frameChosen, this, [this](qint64 frame) {
+        if (!m_run->isRunning())
+            goTo(frame);
     });
+    connect(m_pages, &PathPages::figuresShown, this, &TrackingWindow::figuresShown);
+    connect(m_pages, &PathPages::failed, this, &TrackingWindow::tell);
     connect(m_run, &TrackRun::advanced, this, [this](qint64 frame, double done) {
         m_progress->setValue(static_cast<int>(done * m_progress->maximum()));
         m_overlay->setTrack(m_document->track(), m_run->found());
@@ -290,11 +226,7 @@ void TrackingWindow::showDocument() {
     m_overlay->setKnownPoints(planeOf(record));
     m_line->setTrack(m_document->track());
     m_isOnWater->setChecked(record.isOnWater);
-    std::vector<PointRow> points;
-    for (std::size_t i = 0; i < record.plane.points.size(); ++i)
-        points.push_back({i, record.plane.points[i]});
-    m_points.show(std::move(points));
-    computeFigures();
+    m_pages->showDocument();
 }
 
 void TrackingWindow::showFilm() {
@@ -324,6 +256,18 @@ QString TrackingWindow::secondsText(FrameNumber frame) const {
     const auto index = m_deck->index(0);
     return index && frame < index->frameCount() ? shownHundredths(index->secondsOf(frame))
                                                 : QStringLiteral("–");
+}
+
+ColumnTable& TrackingWindow::pointTable() const {
+    return m_pages->pointTable();
+}
+
+SeriesChart& TrackingWindow::chart() const {
+    return m_pages->chart();
+}
+
+const std::vector<PathFigure>& TrackingWindow::figures() const {
+    return m_pages->figures();
 }
 
 QString TrackingWindow::told() const {
@@ -443,7 +387,7 @@ void TrackingWindow::setTakesPoints(bool takesPoints) {
     m_overlay->setTakesPoints(takesPoints);
     if (!takesPoints)
         return;
-    m_tabs->setCurrentIndex(KnownPoints);
+    m_pages->setCurrentIndex(PathPages::KnownPoints);
     tell(tr(
         "Click the foot of a gate's poles where they meet the water, four for metres or two for a "
         "scale only, then type where they stand. P ends it."));
@@ -477,48 +421,6 @@ void TrackingWindow::forgetPoints() {
                      [](track001& record) { record.plane = {}; });
 }
 
-/// Two hundred draws of clicks take their time on a long path.
-void TrackingWindow::computeFigures() {
-    const int asked = ++m_asked;
-    const auto compute = [track = m_document->track(), plane = planeOf(m_document->value())] {
-        Computed computed;
-        try {
-            computed.figures = pathFigures(track, plane);
-            computed.isScaleOnly = plane && WaterPlane(plane->points).isScaleOnly();
-        } catch (const TrackError& error) {
-            computed.fault = QString::fromUtf8(error.what());
-            computed.figures = pathFigures(track, std::nullopt);
-        }
-        return computed;
-    };
-    m_work.run(compute,
-               [this, asked](const Computed& computed) {
-                   if (asked == m_asked)
-                       showFigures(computed);
-               },
-               {.failed = [this](const std::exception_ptr& fault) {
-                   tell(QString::fromStdString(messageOf(fault)));
-               }});
-}
-
-void TrackingWindow::showFigures(const Computed& computed) {
-    m_shown = computed.figures;
-    const bool hasPlane = !m_document->value().plane.points.empty();
-    m_figures.show(m_shown);
-    m_chart->show(
-        speedContent(m_shown, hasPlane && computed.fault.isEmpty(), computed.isScaleOnly));
-    QString told = computed.fault;
-    if (told.isEmpty() && computed.isScaleOnly)
-        told =
-            tr("Two points give a scale only: lengths and speeds hold near them and along the line "
-               "between them. Four give the perspective too.");
-    if (hasPlane && !m_document->value().isOnWater)
-        told += (told.isEmpty() ? QString() : QStringLiteral("\n")) +
-                tr("What is followed is not on the water, such as a head: its metres are off.");
-    m_pointsTold->setText(told);
-    emit figuresShown();
-}
-
 void TrackingWindow::exportCsv() {
     const QFileInfo film(m_film);
     const QString path = QFileDialog::getSaveFileName(
@@ -536,7 +438,7 @@ void TrackingWindow::exportCsv() {
 }
 
 void TrackingWindow::writeCsv(const QString& path) const {
-    writeFileSafely(path.toStdString(), pathCsv(m_shown));
+    writeFileSafely(path.toStdString(), pathCsv(figures()));
 }
 
 } // namespace kavela::desktop

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "desktop/shell/background_work.h"
-#include "desktop/shell/tables/column_model.h"
 #include "desktop/shell/tool_window.h"
 #include "desktop/tracking/track_document.h"
-#include "desktop/tracking/track_figures.h"
+#include "vision/path_figures.h"
 
 #include <memory>
 #include <optional>
@@ -13,13 +11,13 @@
 class QAction;
 class QLabel;
 class QProgressBar;
-class QTabWidget;
 
 namespace kavela::desktop {
 
 class ColumnTable;
 class FilmDeck;
 class FilmView;
+class PathPages;
 class SeriesChart;
 class TrackLine;
 class TrackOverlay;
@@ -32,8 +30,6 @@ class TrackingWindow : public ToolWindow {
     Q_OBJECT
 
 public:
-    enum Page { Speed, Figures, KnownPoints };
-
     TrackingWindow(Workspace& workspace, Autosave autosave);
     ~TrackingWindow() override;
 
@@ -47,12 +43,12 @@ public:
     [[nodiscard]] FilmDeck& deck() const { return *m_deck; }
     [[nodiscard]] TrackOverlay& overlay() const { return *m_overlay; }
     [[nodiscard]] TrackRun& run() const { return *m_run; }
-    [[nodiscard]] ColumnTable& pointTable() const { return *m_pointTable; }
-    [[nodiscard]] SeriesChart& chart() const { return *m_chart; }
+    [[nodiscard]] ColumnTable& pointTable() const;
+    [[nodiscard]] SeriesChart& chart() const;
     /// What is told below the film.
     [[nodiscard]] QString told() const;
     /// Those that are shown.
-    [[nodiscard]] const std::vector<PathFigure>& figures() const { return m_shown; }
+    [[nodiscard]] const std::vector<PathFigure>& figures() const;
 
     /// Goes to a frame.
     void goTo(qint64 frame);
@@ -76,28 +72,14 @@ protected:
     void takeFiles(const QStringList& paths) override;
 
 private:
-    struct PointRow {
-        std::size_t number = 0;
-        trackplanepoint001 point;
-    };
-    struct Computed {
-        std::vector<PathFigure> figures;
-        QString fault; ///< why there are no metres; empty where there are, or none are wanted
-        bool isScaleOnly = false;
-    };
-
     TrackingWindow(Workspace& workspace, std::unique_ptr<TrackDocument> document);
-    [[nodiscard]] std::vector<Column<PointRow>> pointColumns();
     [[nodiscard]] QWidget* makeStage();
-    [[nodiscard]] QWidget* makePages();
     void makeMenus();
     void connectParts();
     void chooseFile();
     void showDocument();
     void showFilm();
     void showFrame();
-    void computeFigures();
-    void showFigures(const Computed& computed);
     [[nodiscard]] std::optional<FrameNumber> shownFrame() const;
     void editTrack(const QString& what, const FilmTrack& track);
     void startRun(std::size_t key);
@@ -112,26 +94,17 @@ private:
     FilmView* m_view = nullptr;
     TrackOverlay* m_overlay = nullptr;
     TrackLine* m_line = nullptr;
+    PathPages* m_pages = nullptr;
     TrackRun* m_run = nullptr;
     QLabel* m_told = nullptr;
     QLabel* m_time = nullptr;
     QProgressBar* m_progress = nullptr;
-    QTabWidget* m_tabs = nullptr;
-    SeriesChart* m_chart = nullptr;
-    ColumnModel<PathFigure> m_figures;
-    ColumnModel<PointRow> m_points;
-    ColumnTable* m_figureTable = nullptr;
-    ColumnTable* m_pointTable = nullptr;
-    QLabel* m_pointsTold = nullptr;
     QAction* m_takesPoints = nullptr;
     QAction* m_stopAction = nullptr;
     QAction* m_isOnWater = nullptr;
-    std::vector<PathFigure> m_shown;
     std::vector<TrackKey> m_runKeys; ///< boxes of the run that goes on
     bool m_isBoxNew = false;         ///< the run began with a box that was just drawn
-    int m_asked = 0;                 ///< number of the latest computation
     QString m_film;                  ///< that is open
-    BackgroundWork m_work;
 };
 
 } // namespace kavela::desktop

@@ -112,6 +112,33 @@ TEST(PatchTracker, TakesTheMotionOfTheCameraOut) {
     EXPECT_GT(followShot(shot, false).cameraError, 40);
 }
 
+TEST(CameraMotion, ComesBackToWhereALongPanBegan) {
+    constexpr int Frames = 300;
+    TrackShot shot;
+    shot.seed = 501;
+    shot.speed = 4;
+    shot.shake = 3;
+    shot.light = 0.3;
+    shot.turnsAt = Frames / 2;
+    TrackScene scene(shot);
+    CameraMotion camera;
+    PictureMotion moved;
+    double worst = 0;
+    double last = 0;
+    for (int frame = 0; frame < Frames; ++frame) {
+        const auto motion = camera.follow(scene.picture(frame), scene.athleteBox(frame));
+        ASSERT_TRUE(motion) << frame;
+        moved = moved.then(*motion);
+        // A place on the bank that is in view, and how far off it is told to have been at first.
+        const double way = shot.speed * std::min(frame, Frames - frame);
+        const PicturePlace bank{200 + way, 120};
+        last = distanceOf(moved(scene.seen(bank, 0)), scene.seen(bank, frame));
+        worst = std::max(worst, last);
+    }
+    EXPECT_LT(worst, 6) << "six hundred pixels away";
+    EXPECT_LT(last, 2);
+}
+
 TEST(PatchTracker, RefusesBoxesThatCannotBeFollowed) {
     std::vector<std::uint8_t> grey(320 * 240, 90);
     TrackPicture picture;

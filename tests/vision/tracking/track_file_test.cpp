@@ -45,6 +45,11 @@ TEST(TrackFile, SaysWhatIsWrongAndWhere) {
         {"points[0].frame", [](track001& record) { record.points[0].frame = -1; }},
         {"points[1].size", [](track001& record) { record.points[1].size = 0; }},
         {"cameras[1]", [](track001& record) { record.cameras[1].a = record.cameras[1].b = 0; }},
+        {"cameras[1]",
+         [](track001& record) { record.cameras[1].a = record.cameras[1].b = 1e-200; }},
+        {"points[2].frame",
+         [](track001& record) { record.points[2].frame = 1'000'000'000'000'000; }},
+        {"points[2]", [](track001& record) { record.points[2].x = -1e300; }},
         {"plane.points", [](track001& record) { record.plane.points.resize(5); }}};
     const test::TempFolder folder;
     for (const Wrong& wrong : wrongs) {

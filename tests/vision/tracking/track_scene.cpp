@@ -102,9 +102,10 @@ PictureMotion TrackScene::camera(int frame) const {
 
 PicturePlace TrackScene::boat(int frame) const {
     const double phase = 0.06 * frame + m_shot.seed;
-    return {200 + m_shot.speed * frame + 10 * std::sin(phase),
-            235 + 22 * std::sin(0.021 * m_shot.speed * frame + m_shot.seed) +
-                3 * std::sin(3 * phase)};
+    const bool isOnItsWayBack = m_shot.turnsAt >= 0 && frame > m_shot.turnsAt;
+    const double way = m_shot.speed * (isOnItsWayBack ? 2 * m_shot.turnsAt - frame : frame);
+    return {200 + way + 10 * std::sin(phase),
+            235 + 22 * std::sin(0.021 * way + m_shot.seed) + 3 * std::sin(3 * phase)};
 }
 
 PicturePlace TrackScene::athlete(int frame) const {

@@ -19,6 +19,7 @@ struct TrackShot {
     double light = 0;      ///< share by which the sun comes and goes
     double speed = 2.5;    ///< of the boat, pixels in a frame
     bool hasPoles = false; ///< gates before the boat
+    int turnsAt = -1;      ///< frame from which on the boat goes back by the way it came; never
     int vanishesAt = -1;   ///< frame from which on the boat is gone; never
 };
 
