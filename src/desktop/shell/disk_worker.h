@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <exception>
 #include <functional>
 
@@ -16,6 +17,17 @@ void run(std::function<void()> task);
 /// threw, or null.
 void run(QObject& context, std::function<void()> task,
          std::function<void(const std::exception_ptr& fault)> done);
+
+/// The same for what a coach waits for, such as a small file: `done` is called before this returns
+/// where the task has ended within the patience, after all that was given before it; otherwise it is
+/// told as above. So a disk that is well seems to answer at once, and a slow one holds up nobody.
+void runAwaited(QObject& context, std::function<void()> task,
+                std::function<void(const std::exception_ptr& fault)> done);
+
+/// How long runAwaited() waits on the interface thread; so short at the start of the program that
+/// nobody notices. Another one is for tests. For the interface thread.
+[[nodiscard]] std::chrono::milliseconds patience();
+void setPatience(std::chrono::milliseconds patience);
 
 /// Returns once every task given so far has run. What they have to tell may still be on its way.
 void waitForAll();
