@@ -1,5 +1,6 @@
 #include "desktop/shell/disk_worker.h"
 
+#include "common/safe_file.h"
 #include "desktop/shell/background_work.h"
 
 #include <QCoreApplication>
@@ -70,6 +71,13 @@ void runAwaited(QObject& context, std::function<void()> task,
         end->isTold = true;
         done(end->fault);
     }
+}
+
+void writeAwaited(QObject& context, const std::filesystem::path& file, std::string content,
+                  std::function<void(const std::exception_ptr& fault)> done) {
+    runAwaited(
+        context, [file, content = std::move(content)] { writeFileSafely(file, content); },
+        std::move(done));
 }
 
 std::chrono::milliseconds patience() {

@@ -248,7 +248,7 @@ QString EditedFile::ownPathToWrite(QWidget* over) {
 }
 
 /// A file that another window edits would be taken from under it.
-QString EditedFile::otherPathToWrite(const QString& path, QWidget* over) {
+QString EditedFile::otherPathToWrite(const QString& path, QWidget* over) const {
     const EditedFile* const holder = m_workspace.openFiles().holderOf(path);
     if (!holder || holder == this)
         return path;

@@ -123,6 +123,8 @@ protected:
     /// is kept beside the new one under a name with this extension. Without one it is current.
     void setOlderLayout(std::string extension) { m_olderLayout = std::move(extension); }
 
+    /// The path where it may be written; empty, after an alert, where another window edits it.
+    [[nodiscard]] QString otherPathToWrite(const QString& path, QWidget* over) const;
     /// Tells that a file could not be opened, and why.
     void tellUnreadable(const QString& path, const std::string& reason, QWidget* over) const;
     void tellNotWritten(const std::string& reason, QWidget* over) const;
@@ -147,7 +149,6 @@ private:
     void write(const QString& path, QWidget* over, Saved saved);
     [[nodiscard]] QString pathToWrite(const QString& path, QWidget* over);
     [[nodiscard]] QString ownPathToWrite(QWidget* over);
-    [[nodiscard]] QString otherPathToWrite(const QString& path, QWidget* over);
     [[nodiscard]] QString askForPath(QWidget* over);
     [[nodiscard]] QString askAfterFailure(const Writing& writing, bool isKept);
     void finish(const std::shared_ptr<Writing>& writing);

@@ -66,14 +66,14 @@ FailureAnswer askAboutFailure(const FileWriting& writing, bool isKept, const Wor
         QStringLiteral("%1: %2.\n\n%3")
             .arg(QFileInfo(writing.path).fileName(), QString::fromStdString(reason), comfort);
     enum Way { TryAgain, SaveAs, Later };
-    const int way = workspace.chooseWay({writing.failure, text.toStdString()},
-                                        {.texts = {EditedFile::tr("Try again"),
-                                                   EditedFile::tr("Save as…"),
-                                                   EditedFile::tr("Later")},
-                                         .onEnter = TryAgain,
-                                         .onEscape = Later,
-                                         .isNews = true},
-                                        writing.over);
+    const int way =
+        workspace.chooseWay({writing.failure, text.toStdString()},
+                            {.texts = {EditedFile::tr("Try again"), EditedFile::tr("Save as…"),
+                                       EditedFile::tr("Later")},
+                             .onEnter = TryAgain,
+                             .onEscape = Later,
+                             .isNews = true},
+                            writing.over);
     return way == TryAgain ? FailureAnswer::TryAgain
            : way == SaveAs ? FailureAnswer::SaveAs
                            : FailureAnswer::Later;
