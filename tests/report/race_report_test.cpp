@@ -82,9 +82,9 @@ TEST_F(ReportText, OfARaceNamesItAndTheNumberOnEachPageAndEveryCrew) {
 /// Who has no run is in no list: the race day knows of them.
 TEST_F(ReportText, OfARaceNamesWhoDidNotStartOrNotFinish) {
     RaceDay day;
-    day.starts = {{.id = 1, .bib = 12, .name = "Nova Reed", .cat = "K1W", .out = DidNotStart},
-                  {.id = 2, .bib = 13, .name = "Bea Hill", .cat = "K1W"},
-                  {.id = 3, .name = "Zora Pike", .out = DidNotFinish}};
+    day.starts = {{1, 12, "Nova Reed", "K1W", "", NoStartTime, DidNotStart},
+                  {2, 13, "Bea Hill", "K1W", "", NoStartTime, ""},
+                  {3, 0, "Zora Pike", "", "", NoStartTime, DidNotFinish}};
     const auto file = m_folder.path() / "race.kvx";
     writeRaceDay(day, raceDayPath(file));
     const splittakerdata031 race = raceOver(2);
