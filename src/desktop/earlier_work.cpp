@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMap>
+#include <QPointer>
 
 #include <utility>
 #include <vector>
@@ -96,19 +97,27 @@ bool EarlierWork::restoreWindows() const {
     return m_program.hasWindows();
 }
 
+/// What is asked for while windows come back is not there any more afterwards.
 void EarlierWork::offerUnsaved() const {
-    if (m_autosave.all().empty())
-        return;
-    if (!m_program.hasWindows())
-        (void)restoreWindows();
-    for (const Autosave::Found& found : m_autosave.all())
-        recover(found.label);
+    m_autosave.listAll(m_program, [this](const std::vector<Autosave::Found>& works) {
+        if (works.empty())
+            return;
+        if (!m_program.hasWindows())
+            (void)restoreWindows();
+        m_autosave.listAll(m_program, [this](const std::vector<Autosave::Found>& left) {
+            for (const Autosave::Found& found : left)
+                recover(found.label);
+        });
+    });
 }
 
 void EarlierWork::chooseToBringBack(QWidget* over) const {
-    EarlierWorkDialog dialog(m_autosave.earlier(), over);
-    if (dialog.exec() == QDialog::Accepted && dialog.chosen())
-        bringBack(*dialog.chosen());
+    m_autosave.listEarlier(
+        m_program, [this, window = QPointer(over)](const std::vector<Autosave::Found>& works) {
+            EarlierWorkDialog dialog(works, window);
+            if (dialog.exec() == QDialog::Accepted && dialog.chosen())
+                bringBack(*dialog.chosen());
+        });
 }
 
 void EarlierWork::listPutOff(QObject& context, Autosave::Listed listed) const {

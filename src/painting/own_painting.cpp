@@ -30,7 +30,7 @@ PreferenceValue OwnPainting::preference(std::string_view key) const {
 void OwnPainting::writeRaceReport(splittakerdata031 document, const fs::path& splitFile,
                                   const TableSettings& settings, const fs::path& target) const {
     const OffscreenApplication application;
-    const report::ReportHeading heading = report::reportHeading(document.info);
+    const report::ReportHeading heading = report::reportHeading(document.info, splitFile);
     const report::SharedCourse drawn = report::sharedCourse(document.info);
     const RaceSet set = makeRaceSet(std::move(document), splitFile);
     report::writePdf(

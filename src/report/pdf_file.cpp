@@ -69,10 +69,14 @@ bool isOwnPdf(const std::filesystem::path& path, const QString& title) {
     return content.starts_with("%PDF-") && says("/Title ", title) && says("/Creator ", Creator);
 }
 
-void writePdf(const PagedReport& report, const std::filesystem::path& path) {
+std::string pdfFor(const PagedReport& report, const std::filesystem::path& path) {
     if (!isAnyFontInstalled())
         throw FileError(path, "no font is installed");
-    writeFileSafely(path, pdfOf(report));
+    return pdfOf(report);
+}
+
+void writePdf(const PagedReport& report, const std::filesystem::path& path) {
+    writeFileSafely(path, pdfFor(report, path));
 }
 
 } // namespace kavela::report

@@ -12,11 +12,15 @@ namespace kavela::report {
 /// A report as the bytes of a PDF document: vectors, embedded fonts, text that can be searched.
 [[nodiscard]] std::string pdfOf(const PagedReport& report);
 
+/// The same for a file that is to be written. Throws FileError on a computer without any font,
+/// where all letters would be boxes.
+[[nodiscard]] std::string pdfFor(const PagedReport& report, const std::filesystem::path& path);
+
 /// Whether a file is a document of this program with a title, as writePdf() makes it.
 [[nodiscard]] bool isOwnPdf(const std::filesystem::path& path, const QString& title);
 
 /// Writes a report as a PDF document, safely: the file is there whole or not at all. Throws
-/// FileError, also on a computer without any font, where all letters would be boxes.
+/// FileError, also where pdfFor() does.
 void writePdf(const PagedReport& report, const std::filesystem::path& path);
 
 } // namespace kavela::report

@@ -7,6 +7,7 @@
 #include "report/said.h"
 #include "report/small_lists.h"
 #include "report/table_pages.h"
+#include "report/wrapped_text.h"
 
 #include <QPainter>
 
@@ -46,6 +47,16 @@ void putNoRuns(PageBuilder& pages, const Typeface& typeface) {
     });
 }
 
+/// Those who are in no list, as they have no run or no time.
+void putThoseOut(PageBuilder& pages, const ReportHeading& heading, const Typeface& typeface) {
+    constexpr TextStyle Style{9, false, Quiet};
+    for (const std::string& line : heading.out)
+        putLines(pages, wrappedLines(line, typeface, Style, pages.space().width()), Style,
+                 typeface);
+    if (!heading.out.empty())
+        pages.skip(SectionGap);
+}
+
 PageBuilder racePages(const ReportHeading& heading, const RaceSet& set,
                       const TableSettings& settings, ReportContent content, const TableView& view,
                       const SharedCourse& drawn) {
@@ -56,6 +67,7 @@ PageBuilder racePages(const ReportHeading& heading, const RaceSet& set,
     PageBuilder pages(layout.orientation);
     if (content == ReportContent::Race) {
         putTitleBlock(pages, heading, typeface);
+        putThoseOut(pages, heading, typeface);
         if (table.rowCount() > 0) {
             putRaceSections(pages, set, columnTitles(splits), drawn, typeface);
             putTableHeading(pages, layout, typeface);

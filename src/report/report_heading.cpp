@@ -3,8 +3,11 @@
 #include "common/reference_date.h"
 #include "report/said.h"
 #include "report/typeface.h"
+#include "splittaking/race_day/race_day.h"
 
 #include <QStringList>
+
+#include <stdexcept>
 
 namespace kavela::report {
 
@@ -55,6 +58,16 @@ ReportHeading reportHeading(const infodata031& info) {
     add(KAVELA_TEXT("Upstream gates"), gateList(info.upGates));
     add(KAVELA_TEXT("Water"), water);
     heading.line = joined({heading.subtitle, place, day, gatesInWords(info), water});
+    return heading;
+}
+
+ReportHeading reportHeading(const infodata031& info, const std::filesystem::path& splitFile) {
+    ReportHeading heading = reportHeading(info);
+    try {
+        if (const auto day = readRaceDay(raceDayPath(splitFile)))
+            heading.out = linesOfThoseOut(*day);
+    } catch (const std::runtime_error&) { // split taking tells of it, where it can be mended
+    }
     return heading;
 }
 

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <filesystem>
+#include <string>
 #include <vector>
 
 namespace kavela::report {
@@ -20,8 +22,13 @@ struct ReportHeading {
     QString subtitle;               ///< event, session, category
     std::vector<HeadingFact> facts; ///< place, date, gates, upstream gates, water
     QString line;                   ///< all but the title in one line
+    std::vector<std::string> out;   ///< who did not start or not finish, a line each
 };
 
 [[nodiscard]] ReportHeading reportHeading(const infodata031& info);
+/// The same with what the race day beside a split file tells; one that cannot be read tells
+/// nothing.
+[[nodiscard]] ReportHeading reportHeading(const infodata031& info,
+                                          const std::filesystem::path& splitFile);
 
 } // namespace kavela::report

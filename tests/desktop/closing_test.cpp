@@ -8,6 +8,7 @@
 #include "desktop/open_session.h"
 #include "desktop/saving.h"
 #include "desktop/shell/disk_worker.h"
+#include "desktop/slow_disk.h"
 #include "desktop/team/team_window.h"
 #include "results/team_file.h"
 
@@ -15,7 +16,6 @@
 
 #include <QApplication>
 #include <QPointer>
-#include <QSemaphore>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
@@ -33,20 +33,6 @@ namespace fs = std::filesystem;
 using desktop::TeamWindow;
 using ::testing::ElementsAre;
 using ::testing::SizeIs;
-
-/// Holds up whatever is to be written, as a slow disk does.
-class SlowDisk {
-public:
-    SlowDisk() {
-        desktop::disk::run([gate = m_gate] { gate->acquire(); });
-    }
-    SlowDisk(const SlowDisk&) = delete;
-    SlowDisk& operator=(const SlowDisk&) = delete;
-    ~SlowDisk() { m_gate->release(); }
-
-private:
-    std::shared_ptr<QSemaphore> m_gate = std::make_shared<QSemaphore>();
-};
 
 /// Takes the end of the program, which the test survives. Filters of later come before it.
 class NoQuit : public QObject {

@@ -8,6 +8,7 @@
 #include "desktop/shell/autosave_place.h"
 #include "desktop/shell/disk_worker.h"
 #include "desktop/shell/home_window.h"
+#include "desktop/slow_disk.h"
 #include "desktop/team/team_window.h"
 #include "desktop/tools.h"
 
@@ -15,7 +16,6 @@
 
 #include <QApplication>
 #include <QListWidget>
-#include <QSemaphore>
 #include <QTest>
 
 #include <filesystem>
@@ -113,20 +113,6 @@ protected:
     [[nodiscard]] QString summary() const override {
         return QString("%1 numbers").arg(numbers().size());
     }
-};
-
-/// Holds up whatever is to be written, as a slow disk does.
-class SlowDisk {
-public:
-    SlowDisk() {
-        desktop::disk::run([gate = m_gate] { gate->acquire(); });
-    }
-    SlowDisk(const SlowDisk&) = delete;
-    SlowDisk& operator=(const SlowDisk&) = delete;
-    ~SlowDisk() { m_gate->release(); }
-
-private:
-    std::shared_ptr<QSemaphore> m_gate = std::make_shared<QSemaphore>();
 };
 
 class DocumentTest : public ::testing::Test {

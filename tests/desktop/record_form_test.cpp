@@ -37,6 +37,7 @@ struct Boat {
     Hull hull = Hull::Kayak;
     std::string maker = "Alder";
     bool isRented = false;
+    std::string remark;
 };
 
 /// A form over a record with steps of undo, and a field beside it.
@@ -61,6 +62,7 @@ protected:
                         &Boat::hull);
         m_form.editableChoice({.name = "maker", .label = "Maker"}, &Boat::maker);
         m_form.check({.name = "rented", .label = "Rented"}, &Boat::isRented);
+        m_form.remark({.name = "remark", .label = "Remark"}, &Boat::remark);
         auto* const column = new QVBoxLayout(&m_window);
         column->addWidget(&m_form);
         column->addWidget(m_beside);
@@ -171,6 +173,16 @@ TEST_F(RecordFormTest, NothingChangesWhereNothingChanged) {
     EXPECT_EQ(m_steps.count(), 0);
     EXPECT_EQ(m_boat.weight, 9.26) << "with all decimals that the box does not show";
     EXPECT_EQ(field<QLineEdit>("name").text(), "Otter");
+}
+
+/// Blanks line up what a coach jots down; in a name they are a slip.
+TEST_F(RecordFormTest, ARemarkKeepsTheBlanksBetweenItsWords) {
+    type("remark", " gate 4   +0.6   late ");
+    QTest::keyClick(&field<QLineEdit>("remark"), Qt::Key_Return);
+    EXPECT_EQ(m_boat.remark, "gate 4   +0.6   late");
+    type("name", " Big   Otter ");
+    QTest::keyClick(&field<QLineEdit>("name"), Qt::Key_Return);
+    EXPECT_EQ(m_boat.name, "Big Otter");
 }
 
 TEST_F(RecordFormTest, WhatCannotBeTakenStaysAndStopsLeaving) {

@@ -4,6 +4,7 @@
 #include "report/pdf_file.h"
 #include "report/pdf_text.h"
 #include "sample/races.h"
+#include "splittaking/race_day/race_day.h"
 
 #include <gmock/gmock.h>
 
@@ -76,6 +77,23 @@ TEST_F(ReportText, OfARaceNamesItAndTheNumberOnEachPageAndEveryCrew) {
           "Heats · K1M", "Final · C2X", "Ideal run without penalties · C1W", "Penalties by gate",
           "Split times", "National Cup", "5, 9, 12, 14, 17"})
         EXPECT_THAT(all, HasSubstr(part));
+}
+
+/// Who has no run is in no list: the race day knows of them.
+TEST_F(ReportText, OfARaceNamesWhoDidNotStartOrNotFinish) {
+    RaceDay day;
+    day.starts = {{1, 12, "Nova Reed", "K1W", "", NoStartTime, DidNotStart},
+                  {2, 13, "Bea Hill", "K1W", "", NoStartTime, ""},
+                  {3, 0, "Zora Pike", "", "", NoStartTime, DidNotFinish}};
+    const auto file = m_folder.path() / "race.kvx";
+    writeRaceDay(day, raceDayPath(file));
+    const splittakerdata031 race = raceOver(2);
+    const RaceReport report(report::reportHeading(race.info, file), makeRaceSet(race, file), {},
+                            ReportContent::Race);
+    const std::string first = pagesOf(report).front();
+    EXPECT_THAT(first, HasSubstr("DNS: 12 Nova Reed (K1W)"));
+    EXPECT_THAT(first, HasSubstr("DNF: Zora Pike"));
+    EXPECT_THAT(first, testing::Not(HasSubstr("Bea Hill")));
 }
 
 TEST_F(ReportText, OfATableHasEveryRunOnceAndTheHeadAndLegendOnEachPage) {

@@ -63,7 +63,7 @@ QString asFileName(QString title) {
 
 } // namespace
 
-void saveChart(SavedChart& chart, const std::filesystem::path& path) {
+std::string chartFile(SavedChart& chart, const std::filesystem::path& path) {
     const QString extension = QString::fromStdString(path.extension().string()).toLower();
     QByteArray bytes;
     if (extension == ".png")
@@ -74,7 +74,11 @@ void saveChart(SavedChart& chart, const std::filesystem::path& path) {
         bytes = chart.csv().toUtf8();
     else
         throw FileError(path, "A chart is saved as .png, .svg or .csv");
-    writeFileSafely(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    return bytes.toStdString();
+}
+
+void saveChart(SavedChart& chart, const std::filesystem::path& path) {
+    writeFileSafely(path, chartFile(chart, path));
 }
 
 void copyPicture(SavedChart& chart) {

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <filesystem>
+#include <string>
 
 class QWidget;
 
@@ -10,6 +11,9 @@ class QWidget;
 namespace kavela::desktop {
 
 class SavedChart;
+
+/// What a file of a chart holds, as its name asks: see saveChart().
+[[nodiscard]] std::string chartFile(SavedChart& chart, const std::filesystem::path& path);
 
 /// Saves a chart as its file name asks: a picture as ".png" or ".svg", the visible range of its
 /// data as ".csv". Throws FileError, also for any other extension.

@@ -1,8 +1,9 @@
 #include "desktop/charts/plot_interaction.h"
 
-#include "common/error.h"
 #include "desktop/charts/chart_export.h"
 #include "desktop/charts/selection_band.h"
+#include "desktop/shell/background_work.h"
+#include "desktop/shell/disk_worker.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -11,6 +12,8 @@
 #include <QMetaMethod>
 
 #include <cmath>
+#include <filesystem>
+#include <string>
 #include <utility>
 
 namespace kavela::desktop {
@@ -297,16 +300,27 @@ void PlotInteraction::askAndSave(const QString& kind) {
     const QString path = askChartPath(m_chart.fileName(), kind, m_folder, &m_widget);
     if (path.isEmpty())
         return;
-    try {
-        saveChart(m_chart, path.toStdU16String());
-        emit saved(path);
-    } catch (const FileError& error) {
-        if (isSignalConnected(QMetaMethod::fromSignal(&PlotInteraction::savingFailed)))
-            emit savingFailed(path, QString::fromStdString(error.reason()));
-        else
-            QMessageBox::warning(&m_widget, tr("The chart was not saved"),
-                                 QString::fromStdString(error.what()));
-    }
+    std::string content;
+    const auto fault = faultOf(
+        [&] { content = chartFile(m_chart, std::filesystem::path(path.toStdU16String())); });
+    if (fault)
+        tellNotSaved(path, fault);
+    else
+        disk::writeAwaited(*this, path.toStdU16String(), std::move(content),
+                           [this, path](const std::exception_ptr& written) {
+                               if (written)
+                                   tellNotSaved(path, written);
+                               else
+                                   emit saved(path);
+                           });
+}
+
+void PlotInteraction::tellNotSaved(const QString& path, const std::exception_ptr& fault) {
+    if (isSignalConnected(QMetaMethod::fromSignal(&PlotInteraction::savingFailed)))
+        emit savingFailed(path, QString::fromStdString(causeOf(fault)));
+    else
+        QMessageBox::warning(&m_widget, tr("The chart was not saved"),
+                             QString::fromStdString(messageOf(fault)));
 }
 
 } // namespace kavela::desktop

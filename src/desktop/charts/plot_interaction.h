@@ -61,6 +61,7 @@ private:
     [[nodiscard]] bool escape();
     void zoomByKey(double factor);
     void showMenu(const QContextMenuEvent& event);
+    void tellNotSaved(const QString& path, const std::exception_ptr& fault);
 
     QWidget& m_widget;
     InteractiveChart& m_chart;

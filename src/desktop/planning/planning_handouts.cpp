@@ -1,11 +1,11 @@
 #include "desktop/planning/planning_handouts.h"
 
-#include "common/error.h"
-#include "common/safe_file.h"
 #include "desktop/planning/athlete_list.h"
 #include "desktop/planning/plan/plan_view.h"
 #include "desktop/planning/planning_document.h"
 #include "desktop/preview/report_preview.h"
+#include "desktop/shell/background_work.h"
+#include "desktop/shell/disk_worker.h"
 #include "desktop/shell/tool_window.h"
 #include "desktop/shell/workspace.h"
 #include "planning/calendar_text.h"
@@ -70,10 +70,15 @@ void PlanningHandouts::previewReports() {
 void PlanningHandouts::writeCalendar(const QString& path) const {
     const auto athlete = m_athletes.athlete();
     const microsplanning_v5* const week = m_plan.week();
-    if (athlete && week)
-        writeFileSafely(path.toStdString(),
-                        weekCalendar(m_document.athletes()[*athlete], *week,
-                                     m_document.value().favintses, m_workspace.clock()()));
+    if (!athlete || !week)
+        return;
+    disk::writeAwaited(
+        m_window, path.toStdString(),
+        weekCalendar(m_document.athletes()[*athlete], *week, m_document.value().favintses,
+                     m_workspace.clock()()),
+        [window = &m_window, workspace = &m_workspace, path](const std::exception_ptr& fault) {
+            noteCalendar(*workspace, *window, path, fault);
+        });
 }
 
 void PlanningHandouts::askForCalendar() {
@@ -92,14 +97,19 @@ void PlanningHandouts::askForCalendar() {
         tr("Calendar files (*.ics)"));
     if (path.isEmpty())
         return;
-    try {
-        writeCalendar(path);
-        m_window.statusBar()->showMessage(tr("%1 is written.").arg(QFileInfo(path).fileName()),
-                                          WrittenMilliseconds);
-    } catch (const FileError& error) {
-        m_workspace.log()(planning_messages::NotSaved);
-        m_workspace.showAlert({planning_messages::NotSaved, error.what()}, &m_window);
+    writeCalendar(path);
+}
+
+/// For the window, which hears of it as long as it is there.
+void PlanningHandouts::noteCalendar(const Workspace& workspace, ToolWindow& window,
+                                    const QString& path, const std::exception_ptr& fault) {
+    if (!fault) {
+        window.statusBar()->showMessage(tr("%1 is written.").arg(QFileInfo(path).fileName()),
+                                        WrittenMilliseconds);
+        return;
     }
+    workspace.log()(planning_messages::NotSaved);
+    workspace.showAlert({planning_messages::NotSaved, messageOf(fault)}, &window);
 }
 
 void PlanningHandouts::tell(const QString& text) const {

@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include <exception>
+
 namespace kavela::desktop {
 
 class AthleteList;
@@ -20,11 +22,13 @@ public:
 
     /// The week in front and the whole season.
     void previewReports();
-    /// The week in front as an iCalendar file; throws FileError.
+    /// The week in front as an iCalendar file; told whether it was written.
     void writeCalendar(const QString& path) const;
     void askForCalendar();
 
 private:
+    static void noteCalendar(const Workspace& workspace, ToolWindow& window, const QString& path,
+                             const std::exception_ptr& fault);
     void tell(const QString& text) const;
 
     const PlanningDocument& m_document;

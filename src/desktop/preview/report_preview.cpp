@@ -3,6 +3,8 @@
 #include "common/error.h"
 #include "desktop/preview/page_view.h"
 #include "desktop/preview/report_printing.h"
+#include "desktop/shell/background_work.h"
+#include "desktop/shell/disk_worker.h"
 #include "desktop/shell/theme.h"
 #include "report/paged_report.h"
 #include "report/pdf_file.h"
@@ -201,13 +203,22 @@ void ReportPreview::savePdf() {
         return;
     m_saved->clear();
     try {
-        report::writePdf(*m_report, path.toStdString());
-        m_folder = QFileInfo(path).path();
-        m_saved->setText(tr("Saved as %1").arg(QFileInfo(path).fileName()));
-        m_saved->setToolTip(path);
+        disk::writeAwaited(
+            *this, path.toStdString(), report::pdfFor(*m_report, path.toStdString()),
+            [this, path](const std::exception_ptr& fault) { noteSaved(path, fault); });
     } catch (const FileError& error) {
-        tellFileError(error);
+        tellFileError(error.reason());
     }
+}
+
+void ReportPreview::noteSaved(const QString& path, const std::exception_ptr& fault) {
+    if (fault) {
+        tellFileError(causeOf(fault));
+        return;
+    }
+    m_folder = QFileInfo(path).path();
+    m_saved->setText(tr("Saved as %1").arg(QFileInfo(path).fileName()));
+    m_saved->setToolTip(path);
 }
 
 void ReportPreview::print() {
@@ -221,13 +232,13 @@ void ReportPreview::print() {
         else if (!printReport(*m_report, printer))
             m_failures.showAlert({"Failed to print", "The printer does not take the pages."}, this);
     } catch (const FileError& error) {
-        tellFileError(error);
+        tellFileError(error.reason());
     }
 }
 
-void ReportPreview::tellFileError(const FileError& error) {
+void ReportPreview::tellFileError(const std::string& reason) {
     m_failures.log("Failed to create file");
-    m_failures.showAlert({"Failed to create file", error.reason()}, this);
+    m_failures.showAlert({"Failed to create file", reason}, this);
 }
 
 } // namespace kavela::desktop

@@ -5,17 +5,15 @@
 
 #include <QDialog>
 
+#include <exception>
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 class QComboBox;
 class QLabel;
 class QPrinter;
-
-namespace kavela {
-class FileError;
-}
 
 namespace kavela::report {
 class PagedReport;
@@ -75,7 +73,8 @@ private:
     void updateBar();
     void savePdf();
     void print();
-    void tellFileError(const FileError& error);
+    void noteSaved(const QString& path, const std::exception_ptr& fault);
+    void tellFileError(const std::string& reason);
 
     std::vector<NamedReport> m_reports;
     PreviewFailures m_failures;

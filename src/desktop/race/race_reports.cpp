@@ -43,7 +43,8 @@ std::vector<NamedReport> raceReports(const RaceDocument& document, const SplitTa
                                      const QList<int>& columns,
                                      std::optional<std::size_t> selectedRun) {
     const auto set = std::make_shared<const RaceSet>(document.shownSet());
-    const report::ReportHeading heading = report::reportHeading(document.info());
+    const report::ReportHeading heading =
+        report::reportHeading(document.info(), document.path().toStdString());
     const report::SharedCourse drawn = report::sharedCourse(document.info());
     const TableSettings settings = document.settings();
     const auto make = [=](ReportContent content, const report::TableView& view) {

@@ -1,7 +1,5 @@
 #include "desktop/race/race_view.h"
 
-#include "common/error.h"
-#include "common/safe_file.h"
 #include "desktop/charts/chart_panel.h"
 #include "desktop/race/best_panels.h"
 #include "desktop/race/frozen_table.h"
@@ -12,6 +10,8 @@
 #include "desktop/race/run_chooser.h"
 #include "desktop/race/run_panel.h"
 #include "desktop/race/table_export.h"
+#include "desktop/shell/background_work.h"
+#include "desktop/shell/disk_worker.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_layout.h"
 #include "desktop/shell/theme.h"
@@ -347,14 +347,15 @@ void RaceView::saveCsv() {
         tr("Semicolon-separated text (*.csv)"));
     if (path.isEmpty())
         return;
-    try {
-        writeFileSafely(path.toStdString(),
-                        splitTableAsText(m_model, allRows(), shownColumns(*m_table), fileTable())
-                            .toStdString());
-    } catch (const FileError& error) {
-        m_workspace.log()("Failed to create file");
-        m_workspace.showAlert({"Failed to create file", error.reason()}, this);
-    }
+    disk::writeAwaited(
+        *this, path.toStdString(),
+        splitTableAsText(m_model, allRows(), shownColumns(*m_table), fileTable()).toStdString(),
+        [this](const std::exception_ptr& fault) {
+            if (!fault)
+                return;
+            m_workspace.log()("Failed to create file");
+            m_workspace.showAlert({"Failed to create file", causeOf(fault)}, this);
+        });
 }
 
 void RaceView::previewReports() {

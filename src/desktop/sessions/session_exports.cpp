@@ -2,8 +2,6 @@
 
 #include "boatmotion/conversion.h"
 #include "boatmotion/session_files.h"
-#include "common/error.h"
-#include "common/safe_file.h"
 #include "desktop/sessions/session_document.h"
 #include "desktop/shell/background_work.h"
 #include "desktop/shell/disk_worker.h"
@@ -73,8 +71,21 @@ void SessionExports::noteRecording(const QString& path, const std::exception_ptr
 }
 
 void SessionExports::exportTable(SessionTables::Page page, const QString& path) const {
-    if (const SessionGrid* const grid = m_tables.gridOf(page))
-        writeFileSafely(path.toStdString(), csvOf(*grid));
+    const SessionGrid* const grid = m_tables.gridOf(page);
+    if (!grid)
+        return;
+    disk::writeAwaited(*m_listener, path.toStdString(), csvOf(*grid),
+                       [this, path](const std::exception_ptr& fault) {
+                           if (fault)
+                               tellNotExported(fault);
+                           else
+                               m_saved(path);
+                       });
+}
+
+void SessionExports::tellNotExported(const std::exception_ptr& fault) const {
+    m_workspace.log()(messageOf(fault));
+    m_workspace.showAlert({conversion_messages::NotSaved, causeOf(fault)}, &m_over);
 }
 
 void SessionExports::askAndExport(SessionTables::Page page) {
@@ -85,15 +96,8 @@ void SessionExports::askAndExport(SessionTables::Page page) {
                                                                 : "_distance.csv";
     const QString path = askWhereTo(tr("Export the table"), tr("Semicolon-separated text (*.csv)"),
                                     "csv", file.dir().filePath(file.completeBaseName() + ending));
-    if (path.isEmpty())
-        return;
-    try {
+    if (!path.isEmpty())
         exportTable(page, path);
-        m_saved(path);
-    } catch (const FileError& error) {
-        m_workspace.log()(error.what());
-        m_workspace.showAlert({conversion_messages::NotSaved, error.reason()}, &m_over);
-    }
 }
 
 } // namespace kavela::desktop

@@ -36,10 +36,11 @@ public:
     void saveRecording(const QString& path, Written written = {});
 
     void askAndExport(SessionTables::Page page);
-    /// Throws FileError.
+    /// As semicolon-separated text; told whether it was written.
     void exportTable(SessionTables::Page page, const QString& path) const;
 
 private:
+    void tellNotExported(const std::exception_ptr& fault) const;
     void noteRecording(const QString& path, const std::exception_ptr& fault) const;
     [[nodiscard]] QString askWhereTo(const QString& title, const QString& filter,
                                      const QString& suffix, const QString& proposal) const;

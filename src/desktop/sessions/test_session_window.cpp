@@ -2,10 +2,12 @@
 
 #include "boatmotion/session_files.h"
 #include "boatmotion/test_attempts.h"
+#include "common/error.h"
 #include "common/json_encode.h"
-#include "common/safe_file.h"
 #include "desktop/charts/series_chart.h"
 #include "desktop/sessions/grid_model.h"
+#include "desktop/shell/background_work.h"
+#include "desktop/shell/disk_worker.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
@@ -231,12 +233,13 @@ void TestSessionWindow::askAndExport() {
     dialog.selectFile(file.completeBaseName() + ".csv");
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return;
-    try {
-        writeFileSafely(dialog.selectedFiles().constFirst().toStdString(), csvOf(m_model->grid()));
-    } catch (const FileError& error) {
-        workspace().log()(error.what());
-        workspace().showAlert({"Failed to create file", error.reason()}, this);
-    }
+    disk::writeAwaited(*this, dialog.selectedFiles().constFirst().toStdString(),
+                       csvOf(m_model->grid()), [this](const std::exception_ptr& fault) {
+                           if (!fault)
+                               return;
+                           workspace().log()(messageOf(fault));
+                           workspace().showAlert({"Failed to create file", causeOf(fault)}, this);
+                       });
 }
 
 } // namespace kavela::desktop

@@ -100,6 +100,15 @@ std::vector<Autosave::Found> earlierIn(const QString& folder) {
     return found;
 }
 
+/// What was postponed is the work of its document again where that has none.
+std::optional<Autosave::Found> lookedUp(const QString& folder, const QString& place,
+                                        bool alsoPostponed) {
+    const QString later = folder + Postponed + '/' + QFileInfo(place).fileName();
+    if (alsoPostponed && !QFile::exists(place + ".work") && QFile::exists(later + ".work"))
+        move(later, place);
+    return foundAt(place, false);
+}
+
 } // namespace
 
 /// The content stands in SLOT.work, its label beside it in files of their own. Work that was done
@@ -143,17 +152,32 @@ void Autosave::putAside(const QString& path) const {
 
 void Autosave::postpone(const QString& path) const {
     disk::run([folder = m_folder, slot = slot(path)] {
-        move(slot, folder + Postponed + '/' + QFileInfo(slot).fileName());
+        if (QFile::exists(slot + ".work")) // or what was postponed before would make room for it
+            move(slot, folder + Postponed + '/' + QFileInfo(slot).fileName());
     });
+}
+
+void Autosave::look(const QString& path, bool alsoPostponed, QObject& context,
+                    Looked looked) const {
+    const auto found = std::make_shared<std::optional<Found>>();
+    disk::runAwaited(
+        context,
+        [folder = m_folder, place = slot(path), alsoPostponed, found] {
+            *found = lookedUp(folder, place, alsoPostponed);
+        },
+        [found, looked = std::move(looked)](const std::exception_ptr&) { looked(*found); });
+}
+
+void Autosave::listAll(QObject& context, Listed listed) const {
+    const auto found = std::make_shared<std::vector<Found>>();
+    disk::runAwaited(
+        context, [folder = m_folder, found] { *found = foundIn(folder, false); },
+        [found, listed = std::move(listed)](const std::exception_ptr&) { listed(*found); });
 }
 
 std::optional<Autosave::Found> Autosave::find(const QString& path, bool alsoPostponed) const {
     disk::waitForAll();
-    const QString place = slot(path);
-    const QString later = m_folder + Postponed + '/' + QFileInfo(place).fileName();
-    if (alsoPostponed && !QFile::exists(place + ".work") && QFile::exists(later + ".work"))
-        move(later, place);
-    return foundAt(place, false);
+    return lookedUp(m_folder, slot(path), alsoPostponed);
 }
 
 std::vector<Autosave::Found> Autosave::all() const {

@@ -13,8 +13,8 @@ class QObject;
 namespace kavela::desktop {
 
 /// Unsaved work kept apart from the files it belongs to, until it is saved or given up. Each
-/// document has a slot, known by its path. What is written is written beside the interface, in the
-/// order of the calls; who reads waits for it.
+/// document has a slot, known by its path. What is written and read is so beside the interface, in
+/// the order of the calls.
 class Autosave {
 public:
     /// Makes the content of a document on another thread. May throw.
@@ -53,15 +53,21 @@ public:
     /// The coach does not want it now: it is offered again when the document is opened again.
     void postpone(const QString& path) const;
 
-    /// Also what was postponed, unless that is not asked for.
-    [[nodiscard]] std::optional<Found> find(const QString& path, bool alsoPostponed = true) const;
-    /// Neither what was postponed nor what was put aside.
-    [[nodiscard]] std::vector<Found> all() const;
-    /// What was postponed or put aside, the latest first.
-    [[nodiscard]] std::vector<Found> earlier() const;
-    /// Tells the same beside the interface, without waiting, as long as `context` is there.
+    /// Tells what is kept for a document, also what was postponed, unless that is not asked for:
+    /// before this returns where the disk is well, else later, as long as `context` is there.
+    using Looked = std::function<void(const std::optional<Found>& work)>;
+    void look(const QString& path, bool alsoPostponed, QObject& context, Looked looked) const;
     using Listed = std::function<void(const std::vector<Found>& works)>;
+    /// Tells in the same way what is neither postponed nor put aside.
+    void listAll(QObject& context, Listed listed) const;
+    /// What was postponed or put aside, the latest first; never before this returns.
     void listEarlier(QObject& context, Listed listed) const;
+
+    // The same for who waits for the disk, however long it takes: no window does.
+    [[nodiscard]] std::optional<Found> find(const QString& path, bool alsoPostponed = true) const;
+    [[nodiscard]] std::vector<Found> all() const;
+    [[nodiscard]] std::vector<Found> earlier() const;
+
     /// Takes over what is kept in another folder, at once; whose document has work here already, is
     /// put aside.
     void takeOver(const QString& folder) const;

@@ -1,10 +1,13 @@
 #include "desktop/shell/disk_worker.h"
 
+#include "common/safe_file.h"
 #include "desktop/shell/background_work.h"
 
 #include <QCoreApplication>
+#include <QSemaphore>
 #include <QThreadPool>
 
+#include <memory>
 #include <utility>
 
 namespace kavela::desktop::disk {
@@ -24,6 +27,19 @@ QThreadPool& worker() {
     return pool;
 }
 
+/// Below what a hand feels as a wait.
+std::chrono::milliseconds& waitedAtMost() {
+    static std::chrono::milliseconds waited(150);
+    return waited;
+}
+
+/// Of a task that is waited for; the two threads share it.
+struct AwaitedEnd {
+    QSemaphore ended;
+    std::exception_ptr fault; ///< written before it has ended, read after it
+    bool isTold = false;      ///< of the interface thread alone
+};
+
 } // namespace
 
 void run(std::function<void()> task) {
@@ -35,6 +51,41 @@ void run(QObject& context, std::function<void()> task,
     runInPool(
         worker(), context, [task = std::move(task)](const WorkSteps&) { task(); },
         [done = std::move(done)](const WorkEnd& end) { done(end.fault); });
+}
+
+void runAwaited(QObject& context, std::function<void()> task,
+                std::function<void(const std::exception_ptr& fault)> done) {
+    const auto end = std::make_shared<AwaitedEnd>();
+    run(
+        context,
+        [end, task = std::move(task)]() mutable {
+            end->fault = faultOf(task);
+            task = nullptr; // what it holds goes before its end is told
+            end->ended.release();
+        },
+        [end, done](const std::exception_ptr&) {
+            if (!end->isTold)
+                done(end->fault);
+        });
+    if (end->ended.tryAcquire(1, static_cast<int>(patience().count()))) {
+        end->isTold = true;
+        done(end->fault);
+    }
+}
+
+void writeAwaited(QObject& context, const std::filesystem::path& file, std::string content,
+                  std::function<void(const std::exception_ptr& fault)> done) {
+    runAwaited(
+        context, [file, content = std::move(content)] { writeFileSafely(file, content); },
+        std::move(done));
+}
+
+std::chrono::milliseconds patience() {
+    return waitedAtMost();
+}
+
+void setPatience(std::chrono::milliseconds patience) {
+    waitedAtMost() = patience;
 }
 
 void waitForAll() {

@@ -1,19 +1,16 @@
 #include "desktop/shell/edited_file.h"
 
-#include "common/error.h"
-#include "common/kept_file.h"
-#include "common/safe_file.h"
 #include "desktop/shell/background_work.h"
 #include "desktop/shell/disk_worker.h"
 #include "desktop/shell/file_names.h"
+#include "desktop/shell/file_writing.h"
+#include "desktop/shell/kept_question.h"
+#include "desktop/shell/saving_questions.h"
+#include "desktop/shell/window_lock.h"
 #include "desktop/shell/workspace.h"
-#include "splittaking/messages.h"
 
-#include <QDateTime>
-#include <QFile>
 #include <QFileInfo>
 #include <QPointer>
-#include <QTemporaryDir>
 #include <QWidget>
 
 #include <algorithm>
@@ -27,28 +24,16 @@ namespace {
 
 constexpr int KeepAfterMilliseconds = 1000;
 
-QString shownMoment(const QDateTime& moment) {
-    const QDate today = QDate::currentDate();
-    const QString time = moment.toString("HH:mm");
-    if (moment.date() == today)
-        return EditedFile::tr("today %1").arg(time);
-    if (moment.date() == today.addDays(-1))
-        return EditedFile::tr("yesterday %1").arg(time);
-    return moment.toString("yyyy-MM-dd HH:mm");
-}
-
 } // namespace
 
-struct EditedFile::Writing {
-    QString path;
-    unsigned edits = 0; ///< of the document as it is written
+/// The window takes no edit before it is answered for.
+struct EditedFile::Offer {
+    Offer(QWidget* window, unsigned editsThen) : over(window), edits(editsThen), lock(window) {}
+
     QPointer<QWidget> over;
-    Saved saved;
-    FileStamp written;
-    std::exception_ptr fault;
-    std::exception_ptr besideFault;
-    bool isLeft = false;     ///< the document is another one by now
-    std::vector<Saved> next; ///< asked for meanwhile
+    unsigned edits; ///< of the document that it is looked for
+    WindowLock lock;
+    bool isLate = false; ///< the document is shown already
 };
 
 EditedFile::EditedFile(Workspace& workspace, Autosave autosave, QObject* parent)
@@ -76,6 +61,7 @@ void EditedFile::begin(const QString& path, QWidget* over) {
     if (m_writing) // is still written, though it is no news of this document
         std::exchange(m_writing, nullptr)->isLeft = true;
     m_keep.stop();
+    m_offer.reset(); // what it finds stays
     m_path = QFileInfo(path).absoluteFilePath();
     m_isNamed = false;
     m_workspace.openFiles().hold(*this, m_path);
@@ -107,27 +93,62 @@ void EditedFile::noticeDisk() {
         emit changedElsewhere();
 }
 
-/// What was put off is asked for once in each start of the program.
+/// What was put off is asked for once in each start of the program. On a slow disk the window is
+/// there before it is known whether there is any: nothing is to be typed that it would replace.
 void EditedFile::offerRecovery(QWidget* over) {
-    const auto work = m_autosave.find(m_path, !m_workspace.isPutOff(m_path));
-    if (!work)
+    const auto offer = std::make_shared<Offer>(over, m_edits);
+    m_offer = offer;
+    m_autosave.look(m_path, !m_workspace.isPutOff(m_path), *this,
+                    [this, offer](const std::optional<Autosave::Found>& work) {
+                        if (m_offer == offer) // and no other document is here
+                            answerOffer(work);
+                    });
+    if (m_offer != offer)
         return;
-    m_workspace.log()(messages::AutosaveFound);
-    QStringList facts{QFileInfo(m_path).fileName(), work->label.note, shownMoment(work->when)};
-    facts.removeAll(QString());
-    enum Way { Load, Later, Discard };
-    const int way = m_workspace.chooseWay(
-        {facts.join(", ").toStdString(), messages::AskToLoadAutosave},
-        {.texts = {tr("Load"), tr("Later"), tr("Discard")}, .onEnter = Load, .onEscape = Later},
-        over);
-    if (way == Later) {
+    offer->isLate = true;
+    offer->lock.lock();
+}
+
+void EditedFile::answerOffer(const std::optional<Autosave::Found>& work) {
+    const std::shared_ptr<Offer> offer = m_offer;
+    if (m_edits != offer->edits)
+        postponeOffer(); // edited without a hand on the window
+    m_offer.reset();
+    offer->lock.unlock();
+    if (!work || m_edits != offer->edits)
+        return;
+    switch (askForKept(*work, m_path, m_workspace, offer->over)) {
+    case KeptAnswer::Load:
+        loadKept(work->content);
+        break;
+    case KeptAnswer::Later:
         m_workspace.setPutOff(m_path, true);
         m_autosave.postpone(m_path);
-    } else if (way == Load && recover(work->content)) {
+        break;
+    case KeptAnswer::Discard:
+        m_autosave.putAside(m_path);
+        break;
+    }
+    if (offer->isLate)
+        emit changed();
+}
+
+void EditedFile::loadKept(const std::string& content) {
+    if (recover(content)) {
+        m_undo.clear();
         m_undo.resetClean(); // dirty, and no undo makes it clean: its copy stays until it is saved
     } else {
         m_autosave.putAside(m_path);
     }
+}
+
+/// What nobody has answered for yet makes room for the work of now, and is offered at the next
+/// opening.
+void EditedFile::postponeOffer() {
+    if (!m_offer)
+        return;
+    m_offer.reset();
+    m_autosave.postpone(m_path);
 }
 
 bool EditedFile::takeBack(const std::string& content) {
@@ -170,6 +191,7 @@ void EditedFile::keepWork() {
     m_keep.stop();
     if (m_path.isEmpty())
         return;
+    postponeOffer();
     if (!isDirty()) {
         m_autosave.forget(m_path);
         return;
@@ -210,30 +232,23 @@ QString EditedFile::ownPathToWrite(QWidget* over) {
     if (!now.isThere())
         return m_path;
     if (now != m_known) {
-        enum Way { Replace, Look, SaveAs };
-        const int way = m_workspace.chooseWay(
-            {fileName().toStdString(),
-             tr("The file was changed by another program since it was opened. Saving replaces "
-                "what that program wrote.")
-                 .toStdString()},
-            {.texts = {tr("Replace it"), tr("Look at the other"), tr("Save as…")},
-             .onEnter = Look,
-             .onEscape = Look},
-            over);
-        if (way == SaveAs)
+        switch (askAboutOther(fileName(), m_workspace, over)) {
+        case OtherAnswer::Replace:
+            break;
+        case OtherAnswer::SaveAs:
             return askForPath(over);
-        if (way == Look)
-            showOther();
-        if (way != Replace)
+        case OtherAnswer::Look:
+            showOther(m_path, m_workspace, *this);
             return {};
+        }
     } else if (!mayReplace(over)) {
         return {};
     }
-    return keepOlderLayout(m_path, over) ? m_path : QString();
+    return m_path;
 }
 
 /// A file that another window edits would be taken from under it.
-QString EditedFile::otherPathToWrite(const QString& path, QWidget* over) {
+QString EditedFile::otherPathToWrite(const QString& path, QWidget* over) const {
     const EditedFile* const holder = m_workspace.openFiles().holderOf(path);
     if (!holder || holder == this)
         return path;
@@ -249,53 +264,18 @@ QString EditedFile::askForPath(QWidget* over) {
     return path.isEmpty() ? QString() : pathToWrite(path, over);
 }
 
-/// As a copy, which no window edits.
-void EditedFile::showOther() {
-    QTemporaryDir folder;
-    const QFileInfo file(m_path);
-    const QString copy =
-        folder.filePath(tr("%1 (the other).%2").arg(file.completeBaseName(), file.suffix()));
-    if (!folder.isValid() || !QFile::copy(m_path, copy))
-        return;
-    folder.setAutoRemove(false); // its window reads it when it likes
-    emit m_workspace.openRequested(copy);
-}
-
 /// Where to write instead, after the reason was told; empty for nowhere. The work stays in the
 /// window, and is kept apart where that can be.
 QString EditedFile::askAfterFailure(const Writing& writing, bool isKept) {
-    const std::string reason = causeOf(writing.fault);
-    m_workspace.log()(failure());
-    m_workspace.log()(reason);
-    const QString comfort =
-        isKept ? tr("Your work is kept apart, and offered when the file is opened again.")
-               : tr("Your work is in this window alone: it could not be kept apart either.");
-    const QString text =
-        QStringLiteral("%1: %2.\n\n%3")
-            .arg(QFileInfo(writing.path).fileName(), QString::fromStdString(reason), comfort);
-    enum Way { TryAgain, SaveAs, Later };
-    const int way = m_workspace.chooseWay({failure(), text.toStdString()},
-                                          {.texts = {tr("Try again"), tr("Save as…"), tr("Later")},
-                                           .onEnter = TryAgain,
-                                           .onEscape = Later,
-                                           .isNews = true},
-                                          writing.over);
-    if (way == SaveAs)
+    switch (askAboutFailure(writing, isKept, m_workspace)) {
+    case FailureAnswer::TryAgain:
+        return writing.path;
+    case FailureAnswer::SaveAs:
         return askForPath(writing.over);
-    return way == TryAgain ? writing.path : QString();
-}
-
-/// Where it cannot be kept, nothing is written.
-bool EditedFile::keepOlderLayout(const QString& path, QWidget* over) {
-    if (m_olderLayout.empty() || !QFileInfo::exists(path))
-        return true;
-    if (!keepPreviousFile(path.toStdString(), m_olderLayout, failure(), m_workspace.log()).empty())
-        return true;
-    m_workspace.showAlert({failure(), tr("The file of the older version could not be kept beside "
-                                         "the new one, so that nothing was written.")
-                                          .toStdString()},
-                          over);
-    return false;
+    case FailureAnswer::Later:
+        break;
+    }
+    return {};
 }
 
 void EditedFile::write(const QString& path, QWidget* over, Saved saved) {
@@ -304,13 +284,12 @@ void EditedFile::write(const QString& path, QWidget* over, Saved saved) {
     writing->edits = m_edits;
     writing->over = over;
     writing->saved = std::move(saved);
+    writing->failure = failure();
+    if (canonicalPath(path) == canonicalPath(m_path))
+        writing->olderLayout = m_olderLayout;
     m_writing = writing;
     const auto task = [writing, content = contentFor(path), beside = besideNow()] {
-        const std::filesystem::path file = writing->path.toStdString();
-        writing->fault = faultOf([&] { writeFileSafely(file, content()); });
-        writing->written = FileStamp(writing->path);
-        if (!writing->fault && beside)
-            writing->besideFault = faultOf([&] { beside(file); });
+        writing->write(content, beside);
     };
     disk::run(*this, task, [this, writing](const std::exception_ptr&) { finish(writing); });
     emit savingChanged();
@@ -318,12 +297,14 @@ void EditedFile::write(const QString& path, QWidget* over, Saved saved) {
 
 /// What could not be written is kept apart before the coach is asked, who is told whether it is.
 void EditedFile::finish(const std::shared_ptr<Writing>& writing) {
-    if (writing->isLeft)
-        finishLeft(*writing);
+    for (const std::string& remark : writing->remarks)
+        m_workspace.log()(remark);
+    if (writing->isOlderLost || writing->isLeft)
+        finishAlone(*writing);
     else if (writing->fault)
         m_autosave.keep(label(), keptContentNow(), this, [this, writing](const std::string& fault) {
             if (writing->isLeft)
-                finishLeft(*writing);
+                finishAlone(*writing);
             else
                 goOnAfterFailure(*writing, fault.empty());
         });
@@ -331,13 +312,19 @@ void EditedFile::finish(const std::shared_ptr<Writing>& writing) {
         goOnAfterWriting(*writing);
 }
 
-/// Nobody waits for it but who asked for it.
-void EditedFile::finishLeft(Writing& writing) const {
-    if (writing.fault)
+/// Nobody is asked how to go on: it is another document by now, or one that has nowhere to go.
+void EditedFile::finishAlone(Writing& writing) {
+    if (m_writing.get() == &writing) {
+        m_writing.reset();
+        emit savingChanged();
+    }
+    if (writing.isOlderLost)
+        tellOlderLost(writing, m_workspace);
+    else if (writing.fault)
         tellNotWritten(writing.fault, writing.over);
     if (writing.saved)
-        writing.saved(!writing.fault);
-    for (const Saved& next : writing.next)
+        writing.saved(!writing.fault && !writing.isOlderLost);
+    for (const Saved& next : std::exchange(writing.next, {}))
         next(false);
 }
 
@@ -371,6 +358,7 @@ void EditedFile::goOnAfterFailure(Writing& writing, bool isKept) {
 }
 
 void EditedFile::noteWritten(const Writing& writing) {
+    postponeOffer();
     m_autosave.settle(m_path);
     m_path = QFileInfo(writing.path).absoluteFilePath();
     m_isNamed = true;

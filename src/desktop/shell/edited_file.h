@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 class QWidget;
@@ -19,6 +20,7 @@ class QWidget;
 namespace kavela::desktop {
 
 class Workspace;
+struct FileWriting;
 
 /// A file that is being edited. Every edit can be undone, is kept apart from the file within a
 /// second, and reaches the file only when it is saved. Both are written beside the interface, which
@@ -121,12 +123,15 @@ protected:
     /// is kept beside the new one under a name with this extension. Without one it is current.
     void setOlderLayout(std::string extension) { m_olderLayout = std::move(extension); }
 
+    /// The path where it may be written; empty, after an alert, where another window edits it.
+    [[nodiscard]] QString otherPathToWrite(const QString& path, QWidget* over) const;
     /// Tells that a file could not be opened, and why.
     void tellUnreadable(const QString& path, const std::string& reason, QWidget* over) const;
     void tellNotWritten(const std::string& reason, QWidget* over) const;
     void tellNotWritten(const std::exception_ptr& fault, QWidget* over) const;
 
-    /// A document is open under a path that may not exist yet. Unsaved work is offered.
+    /// A document is open under a path that may not exist yet. Unsaved work is offered: the window
+    /// takes neither keys nor clicks before it is known whether there is any.
     void begin(const QString& path, QWidget* over);
     /// What another program wrote may be replaced: the coach was asked.
     void acceptDisk() { m_known = FileStamp(m_path); }
@@ -137,23 +142,24 @@ protected:
     [[nodiscard]] Workspace& workspace() const { return m_workspace; }
 
 private:
-    /// A file that is being written.
-    struct Writing;
+    using Writing = FileWriting;
+    /// Unsaved work that is being looked for.
+    struct Offer;
 
     void write(const QString& path, QWidget* over, Saved saved);
     [[nodiscard]] QString pathToWrite(const QString& path, QWidget* over);
     [[nodiscard]] QString ownPathToWrite(QWidget* over);
-    [[nodiscard]] QString otherPathToWrite(const QString& path, QWidget* over);
     [[nodiscard]] QString askForPath(QWidget* over);
     [[nodiscard]] QString askAfterFailure(const Writing& writing, bool isKept);
-    void showOther();
-    [[nodiscard]] bool keepOlderLayout(const QString& path, QWidget* over);
     void finish(const std::shared_ptr<Writing>& writing);
-    void finishLeft(Writing& writing) const;
+    void finishAlone(Writing& writing);
     void goOnAfterWriting(Writing& writing);
     void goOnAfterFailure(Writing& writing, bool isKept);
     void noteWritten(const Writing& writing);
     void offerRecovery(QWidget* over);
+    void answerOffer(const std::optional<Autosave::Found>& work);
+    void loadKept(const std::string& content);
+    void postponeOffer();
     [[nodiscard]] Autosave::Label label() const;
     void keepSoon();
     void watch();
@@ -173,6 +179,7 @@ private:
     std::string m_olderLayout;
     FileStamp m_known; ///< the file as it was read or saved here
     std::shared_ptr<Writing> m_writing;
+    std::shared_ptr<Offer> m_offer; ///< as long as it is not known whether there is any
 };
 
 } // namespace kavela::desktop

@@ -4,18 +4,65 @@
 #include "common/kept_file.h"
 #include "desktop/shell/background_work.h"
 #include "desktop/shell/disk_worker.h"
+#include "desktop/shell/file_names.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
 
+#include <exception>
+#include <filesystem>
+#include <map>
+#include <mutex>
 #include <stdexcept>
 #include <utility>
 
 namespace kavela::desktop {
 
+namespace {
+
+/// The days that have yet to reach their files, of every document.
+class DaysUnderWay {
+public:
+    void add(const QString& file, const DayKeeping::Day& day) {
+        const std::lock_guard lock(m_mutex);
+        m_days[file] = day;
+    }
+    /// It is in its file, or could not be written; a later one stays.
+    void end(const QString& file, const DayKeeping::Day& day) {
+        const std::lock_guard lock(m_mutex);
+        if (const auto found = m_days.find(file); found != m_days.end() && found->second == day)
+            m_days.erase(found);
+    }
+    /// Null for none.
+    [[nodiscard]] DayKeeping::Day find(const QString& file) {
+        const std::lock_guard lock(m_mutex);
+        const auto found = m_days.find(file);
+        return found == m_days.end() ? nullptr : found->second;
+    }
+
+private:
+    std::mutex m_mutex;
+    std::map<QString, DayKeeping::Day> m_days;
+};
+
+DaysUnderWay& daysUnderWay() {
+    static DaysUnderWay days;
+    return days;
+}
+
+void writeDay(const RaceDay& day, const std::filesystem::path& path, bool isPutAside) {
+    if (isPutAside && keepPreviousFile(path, ".kvday", "It stays", [](std::string_view) {}).empty())
+        throw FileError(path, "what stands there could not be put aside");
+    writeRaceDay(day, path);
+}
+
+} // namespace
+
+/// What another document of this file still has to write is not waited for.
 DayKeeping::Day DayKeeping::read(const QString& splitFile, QWidget* over) {
-    disk::waitForAll(); // what another document of this file still has to write
     const auto path = raceDayPath(splitFile.toStdString());
     m_isUnreadable = false;
+    if (Day day = daysUnderWay().find(canonicalPath(splitFile)))
+        return m_kept = std::move(day);
     m_kept = std::make_shared<RaceDay>();
     try {
         if (auto day = readRaceDay(path))
@@ -38,13 +85,15 @@ void DayKeeping::keep(const Day& day, const QString& splitFile) {
     m_kept = day;
     const auto path = raceDayPath(splitFile.toStdString());
     const bool isPutAside = std::exchange(m_isUnreadable, false);
+    const QString file = canonicalPath(splitFile);
+    daysUnderWay().add(file, day);
     disk::run(
         *this,
-        [day, path, isPutAside] {
-            if (isPutAside &&
-                keepPreviousFile(path, ".kvday", "It stays", [](std::string_view) {}).empty())
-                throw FileError(path, "what stands there could not be put aside");
-            writeRaceDay(*day, path);
+        [day, path, isPutAside, file] {
+            const std::exception_ptr fault = faultOf([&] { writeDay(*day, path, isPutAside); });
+            daysUnderWay().end(file, day);
+            if (fault)
+                std::rethrow_exception(fault);
         },
         [this, isPutAside](const std::exception_ptr& fault) {
             if (!fault)

@@ -3,7 +3,6 @@
 #include "common/json_encode.h"
 #include "common/record_equality.h"
 #include "common/safe_file.h"
-#include "desktop/shell/background_work.h"
 #include "desktop/shell/disk_worker.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/qt_text.h"
@@ -78,6 +77,7 @@ bool TakingDocument::openFile(const QString& file, QWidget* over) {
         return openCopy(read, file, over);
     TakingState state = stateOf(std::move(read.document));
     state.day = m_days.read(file, over);
+    setOlderLayout({});
     start(std::move(state), file, over);
     return true;
 }
@@ -99,19 +99,24 @@ bool TakingDocument::openCopy(const RecognisedSplitFile& older, const QString& f
     const QString copy =
         m_chooseCopy(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + '/' +
                      QFileInfo(file).completeBaseName() + ".kvx");
-    if (copy.isEmpty() || !writeOlder(older, copy, over) || !openFile(copy, over))
+    if (copy.isEmpty() || otherPathToWrite(copy, over).isEmpty())
         return false;
+    setOlderLayout(isSameFile(copy, file) ? ".kvb" : std::string()); // chosen over itself
+    startCopy(older.document, copy, over);
     (void)findFilms(QFileInfo(file).absolutePath()); // where they stay
     return true;
 }
 
-bool TakingDocument::writeOlder(const RecognisedSplitFile& older, const QString& copy,
-                                QWidget* over) const {
-    const std::exception_ptr fault =
-        faultOf([&] { writeFileSafely(copy.toStdString(), encode(older.document)); });
-    if (fault)
-        tellNotWritten(fault, over);
-    return !fault;
+/// It is unsaved work until it is written, which the window does not wait for.
+void TakingDocument::startCopy(splittakerdata031 document, const QString& copy, QWidget* over) {
+    TakingState state = stateOf(std::move(document));
+    state.day = m_days.read(copy, over);
+    start(std::move(state), copy, over);
+    setNamed();
+    undoStack().resetClean();
+    noteEdit();
+    if (!holdsNothing())
+        saveBeside(over);
 }
 
 bool TakingDocument::recover(const std::string& content) {

@@ -134,8 +134,7 @@ protected:
 private:
     [[nodiscard]] bool openCopy(const RecognisedSplitFile& older, const QString& file,
                                 QWidget* over);
-    [[nodiscard]] bool writeOlder(const RecognisedSplitFile& older, const QString& copy,
-                                  QWidget* over) const;
+    void startCopy(splittakerdata031 document, const QString& copy, QWidget* over);
     [[nodiscard]] splittakerdata031 newDocument(const QString& folder) const;
     [[nodiscard]] std::vector<athletedata031> runsOf(const QStringList& films,
                                                      std::int64_t gates) const;

@@ -19,7 +19,7 @@ void writeBeside(splittakerdata031 document, const std::filesystem::path& file,
         writeFileSafely(beside.replace_extension(".csv"), splitTableCsv(document));
     if (!lists.pdf)
         return;
-    const report::ReportHeading heading = report::reportHeading(document.info);
+    const report::ReportHeading heading = report::reportHeading(document.info, file);
     const report::SharedCourse drawn = report::sharedCourse(document.info);
     const RaceSet set = makeRaceSet(std::move(document), file);
     report::writePdf(report::RaceReport(heading, set, {}, report::ReportContent::Race, {}, drawn),

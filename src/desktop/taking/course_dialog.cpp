@@ -67,7 +67,7 @@ QWidget* CourseDialog::makeRace() {
     m_race->text({"category", tr("Category")}, &infodata031::category);
     m_race->text({"water", tr("Water")}, &infodata031::watertype);
     m_race->text({"technique", tr("Technique")}, &infodata031::techniquetype);
-    m_race->text({"comments", tr("Comments")}, &infodata031::comments);
+    m_race->remark({"comments", tr("Comments")}, &infodata031::comments);
     m_race->show(&m_info);
     return m_race;
 }

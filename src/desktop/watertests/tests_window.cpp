@@ -1,7 +1,7 @@
 #include "desktop/watertests/tests_window.h"
 
-#include "common/error.h"
-#include "common/safe_file.h"
+#include "desktop/shell/background_work.h"
+#include "desktop/shell/disk_worker.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/tables/table_text.h"
 #include "desktop/shell/theme.h"
@@ -238,8 +238,14 @@ void TestsWindow::copyTable() {
     QApplication::clipboard()->setText(tableAsText(shown, rows, columns, clipboardTable()));
 }
 
-void TestsWindow::exportTable(const QString& path) const {
-    writeFileSafely(path.toStdString(), resultCsv(m_results->rows()));
+void TestsWindow::exportTable(const QString& path) {
+    disk::writeAwaited(*this, path.toStdString(), resultCsv(m_results->rows()),
+                       [this](const std::exception_ptr& fault) {
+                           if (!fault)
+                               return;
+                           workspace().log()(messageOf(fault));
+                           workspace().showAlert({"Failed to create file", causeOf(fault)}, this);
+                       });
 }
 
 void TestsWindow::askAndExport() {
@@ -252,12 +258,7 @@ void TestsWindow::askAndExport() {
     dialog.selectFile(QFileInfo(m_document->path()).completeBaseName() + ".csv");
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return;
-    try {
-        exportTable(dialog.selectedFiles().constFirst());
-    } catch (const FileError& error) {
-        workspace().log()(error.what());
-        workspace().showAlert({"Failed to create file", error.reason()}, this);
-    }
+    exportTable(dialog.selectedFiles().constFirst());
 }
 
 } // namespace kavela::desktop

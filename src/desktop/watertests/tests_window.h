@@ -51,8 +51,8 @@ public:
 
     void copyTable();
     void askAndExport();
-    /// Writes the table of the listed tests. Throws FileError.
-    void exportTable(const QString& path) const;
+    /// Writes the table of the listed tests; told where it cannot be written.
+    void exportTable(const QString& path);
 
 protected:
     void takeFiles(const QStringList& paths) override;

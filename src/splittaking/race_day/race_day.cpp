@@ -49,6 +49,20 @@ auto* entryOfDay(const List& list, std::int64_t id) {
     return found == list.end() ? nullptr : &*found;
 }
 
+/// "12 Ann Lee (K1W Heats)", as far as it is known.
+std::string startInWords(const DayStart& start) {
+    std::string words = start.bib > 0 ? std::to_string(start.bib) : std::string();
+    const auto add = [&](const std::string& more) {
+        words += (words.empty() || more.empty() ? "" : " ") + more;
+    };
+    add(start.name);
+    const std::string group =
+        start.cat + (start.cat.empty() || start.phase.empty() ? "" : " ") + start.phase;
+    if (!group.empty())
+        add('(' + group + ')');
+    return words;
+}
+
 } // namespace
 
 const DayStart* findStart(const RaceDay& day, std::int64_t id) {
@@ -74,6 +88,19 @@ const DayFilm* findFilmOf(const RaceDay& day, std::int64_t start) {
 std::string presentName(const RaceDay& day, const std::string& from) {
     const DayFilm* const film = findFilmFrom(day, from);
     return film && !film->film.empty() ? film->film : from;
+}
+
+std::vector<std::string> linesOfThoseOut(const RaceDay& day) {
+    std::vector<std::string> lines;
+    for (const std::string out : {DidNotStart, DidNotFinish}) {
+        std::string names;
+        for (const DayStart& start : day.starts)
+            if (start.out == out)
+                names += (names.empty() ? "" : ", ") + startInWords(start);
+        if (!names.empty())
+            lines.push_back(out + ": " + names);
+    }
+    return lines;
 }
 
 std::filesystem::path raceDayPath(const std::filesystem::path& splitFile) {

@@ -64,6 +64,10 @@ BOOST_DESCRIBE_STRUCT(RaceDay, (),
 /// The name of a film in the folder of the race, by the name that it came with.
 [[nodiscard]] std::string presentName(const RaceDay& day, const std::string& from);
 
+/// Who is not to be timed, in the order of starting: "DNS: 12 Ann Lee (K1W Heats), 14 Bea Hill",
+/// and the same of DNF; nothing of what nobody is.
+[[nodiscard]] std::vector<std::string> linesOfThoseOut(const RaceDay& day);
+
 /// The file of the day that belongs to a split file: "NAME.kvday" beside it.
 [[nodiscard]] std::filesystem::path raceDayPath(const std::filesystem::path& splitFile);
 

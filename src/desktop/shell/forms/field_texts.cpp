@@ -24,6 +24,10 @@ std::string typedText(const QVariant& typed) {
     return typed.toString().simplified().toStdString();
 }
 
+std::string typedRemark(const QVariant& typed) {
+    return typed.toString().trimmed().toStdString();
+}
+
 QVariant shownDay(ReferenceDate date) {
     const QDate day = QDate::fromString(QString::fromStdString(dayText(date)), "yyyy-MM-dd");
     return date == ReferenceDate() || !day.isValid() ? QVariant() : QVariant(day);

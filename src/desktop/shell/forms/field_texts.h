@@ -14,6 +14,9 @@ namespace kavela::desktop {
 /// Without blanks at the ends and repeated ones.
 [[nodiscard]] std::string typedText(const QVariant& typed);
 
+/// Without blanks at the ends alone.
+[[nodiscard]] std::string typedRemark(const QVariant& typed);
+
 /// The day of a moment; none for the moment 0 and for one in no calendar.
 [[nodiscard]] QVariant shownDay(ReferenceDate date);
 /// Another day at the time of day of `before`.

@@ -48,6 +48,13 @@ public:
         bind<std::string>(addLine(facts, proposals), member, shownText, typedText);
     }
 
+    /// A remark in one line, without blanks at its ends; those between its words are as they were
+    /// typed, by which some line things up.
+    template <class Member>
+    void remark(const FieldFacts& facts, Member member, const QStringList& proposals = {}) {
+        bind<std::string>(addLine(facts, proposals), member, shownText, typedRemark);
+    }
+
     /// A text of several lines, as it is typed.
     template <class Member>
     void longText(const FieldFacts& facts, Member member, int lines) {

@@ -1,9 +1,9 @@
 #include "desktop/shell/tables/column_table.h"
 
-#include "common/error.h"
-#include "common/safe_file.h"
 #include "desktop/shell/alert_boxes.h"
+#include "desktop/shell/background_work.h"
 #include "desktop/shell/choose_alone.h"
+#include "desktop/shell/disk_worker.h"
 #include "desktop/shell/tables/column_delegate.h"
 #include "desktop/shell/tables/column_layout.h"
 #include "desktop/shell/tables/kept_columns.h"
@@ -27,6 +27,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <string>
 #include <utility>
 
 namespace kavela::desktop {
@@ -61,6 +62,14 @@ protected:
         return {size.width() - withArrow.width() + withoutArrow.width(), size.height()};
     }
 };
+
+void tellListNotSaved(const std::string& reason, const Workspace* workspace, QWidget* over) {
+    const Alert alert{"Failed to create file", reason};
+    if (workspace)
+        workspace->showAlert(alert, over);
+    else
+        AlertBoxes(over).show(alert);
+}
 
 } // namespace
 
@@ -411,15 +420,11 @@ void ColumnTable::saveCsv() {
                                                       tr("Semicolon-separated text (*.csv)"));
     if (path.isEmpty())
         return;
-    try {
-        writeFileSafely(path.toStdU16String(), csv().toStdString());
-    } catch (const FileError& error) {
-        const Alert alert{"Failed to create file", error.reason()};
-        if (Workspace* const workspace = m_columns->workspace())
-            workspace->showAlert(alert, this);
-        else
-            AlertBoxes(this).show(alert);
-    }
+    disk::writeAwaited(*this, path.toStdU16String(), csv().toStdString(),
+                       [this](const std::exception_ptr& fault) {
+                           if (fault)
+                               tellListNotSaved(causeOf(fault), m_columns->workspace(), this);
+                       });
 }
 
 QPushButton* buttonFor(QAction& action, const QString& text, const char* name) {

@@ -162,11 +162,11 @@ void LossPage::makeWords() {
                  LabelList::LossWaterFeature, &timeloss031::waterFeature);
     m_words.addRow({}, m_reasons);
     m_words.addRow({}, m_newReason);
-    m_words.text({.name = "lossComment",
-                  .label = {},
-                  .what = tr("comment on a time loss"),
-                  .placeholder = tr("Comment")},
-                 &timeloss031::comments);
+    m_words.remark({.name = "lossComment",
+                    .label = {},
+                    .what = tr("comment on a time loss"),
+                    .placeholder = tr("Comment")},
+                   &timeloss031::comments);
     m_words.layout()->setSpacing(theme::SmallSpacing);
 }
 

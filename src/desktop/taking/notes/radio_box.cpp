@@ -1,7 +1,7 @@
 #include "desktop/taking/notes/radio_box.h"
 
-#include "common/error.h"
-#include "common/safe_file.h"
+#include "desktop/shell/background_work.h"
+#include "desktop/shell/disk_worker.h"
 #include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 #include "splittaking/annotations/run_notes.h"
@@ -195,11 +195,12 @@ void RadioBox::save() {
     const QString file = QFileDialog::getSaveFileName(this, tr("Save the recording"), name);
     if (file.isEmpty())
         return;
-    try {
-        writeFileSafely(file.toStdString(), std::string(sound.bytes.begin(), sound.bytes.end()));
-    } catch (const FileError& error) {
-        emit told(QString::fromStdString(error.what()));
-    }
+    disk::writeAwaited(*this, file.toStdString(),
+                       std::string(sound.bytes.begin(), sound.bytes.end()),
+                       [this](const std::exception_ptr& fault) {
+                           if (fault)
+                               emit told(QString::fromStdString(messageOf(fault)));
+                       });
 }
 
 } // namespace kavela::desktop

@@ -134,11 +134,11 @@ void StrategyPage::makeParts() {
     m_cost = new QLabel;
     m_cost->setObjectName("strategyCost");
     m_cost->setWordWrap(true);
-    m_words.text({.name = "strategyComment",
-                  .label = {},
-                  .what = tr("comment on ways"),
-                  .placeholder = tr("Comment")},
-                 &strategy001::comments);
+    m_words.remark({.name = "strategyComment",
+                    .label = {},
+                    .what = tr("comment on ways"),
+                    .placeholder = tr("Comment")},
+                   &strategy001::comments);
     connect(m_comparisons, &QComboBox::activated, this, [this](int place) {
         (void)m_words.commit(); // what is typed belongs to the comparison before
         m_strategy = static_cast<std::size_t>(place);
