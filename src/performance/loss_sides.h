@@ -75,6 +75,10 @@ struct LossPair {
 /// the frames of its film.
 [[nodiscard]] double markUncertainty(const FactStore& facts, std::size_t run);
 
+/// Tells how far off what a pair's times make may be, where the films of both tell their frames:
+/// four marks, each half a frame beside the moment at most. `scale` is what a second makes of it.
+void tellFourMarks(const LossPair& pair, double value, Why& why, double scale = 1);
+
 /// Where the mark stands that ends a section, counted from 1; without one, the run itself.
 [[nodiscard]] Place lossPlace(const FactStore& facts, std::size_t run,
                               std::optional<std::size_t> section = {});
