@@ -299,6 +299,7 @@ TEST_F(TablesWindowTest, TakesOfficialResultsOverLineByLine) {
     TakingWindow& window = *m_program.windowsOf<TakingWindow>().front();
     OfficialDialog& dialog = showOfficialDifferences(window, m_workspace);
     EXPECT_THAT(window.findChildren<OfficialDialog*>(), SizeIs(1)) << "one for a window";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog.isReading(); })) << "the race's own lists";
     ASSERT_THAT(dialog.differences(), SizeIs(1)) << "a touch that was not noted";
     EXPECT_EQ(dialog.differences().front().kind, OfficialDifferenceKind::MissingPenalty);
     dialog.openList(add("other.csv", "Name;Time;Pen\nBell Anna;90;0\nKos Eva;95;2\n"));
