@@ -22,7 +22,7 @@ constexpr std::size_t LeastRunsOfPart = 4096;
 constexpr std::size_t MostParts = 8;
 
 /// Files of about as many runs each, one after the other: each part for a core of its own.
-std::vector<std::span<const FileRow>> partsOf(const FactStore& facts) {
+std::vector<std::span<const FileRow>> searchedParts(const FactStore& facts) {
     const std::span<const FileRow> files = facts.files();
     const std::size_t runs = facts.runs().size();
     const std::size_t cores =
@@ -111,7 +111,7 @@ private:
                                m_needed,
                                m_by,
                                m_only};
-        const auto files = partsOf(facts());
+        const auto files = searchedParts(facts());
         std::vector<QueryPart> parts;
         parts.reserve(files.size());
         for (std::size_t i = 0; i < files.size(); ++i)

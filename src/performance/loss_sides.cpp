@@ -168,16 +168,16 @@ double markUncertainty(const FactStore& facts, std::size_t run) {
     return std::isfinite(frame) ? frame : 0;
 }
 
-void tellFourMarks(const LossPair& pair, double value, Why& why, double scale) {
+void tellFourMarks(const LossPair& pair, double loss, Why& why) {
     if (!pair.own.run || !pair.reference.run)
         return;
     const double own = markUncertainty(pair.facts, *pair.own.run);
     const double reference = markUncertainty(pair.facts, *pair.reference.run);
     if (own == 0 || reference == 0)
         return;
-    const double most = (own + reference) * scale;
-    const auto rounded = [](double number) { return std::round(number * 1e6) / 1e6; };
-    why.uncertain({rounded(value - most), rounded(value + most)}, "half a frame, four marks");
+    const auto rounded = [](double seconds) { return std::round(seconds * 1e6) / 1e6; };
+    why.uncertain({rounded(loss - own - reference), rounded(loss + own + reference)},
+                  "half a frame, four marks");
 }
 
 Place lossPlace(const FactStore& facts, std::size_t run, std::optional<std::size_t> section) {

@@ -75,9 +75,9 @@ struct LossPair {
 /// the frames of its film.
 [[nodiscard]] double markUncertainty(const FactStore& facts, std::size_t run);
 
-/// Tells how far off what a pair's times make may be, where the films of both tell their frames:
-/// four marks, each half a frame beside the moment at most. `scale` is what a second makes of it.
-void tellFourMarks(const LossPair& pair, double value, Why& why, double scale = 1);
+/// Tells how far off a loss in seconds may be, where the films of both tell their frames: four
+/// marks, each half a frame beside the moment at most.
+void tellFourMarks(const LossPair& pair, double loss, Why& why);
 
 /// Where the mark stands that ends a section, counted from 1; without one, the run itself.
 [[nodiscard]] Place lossPlace(const FactStore& facts, std::size_t run,
