@@ -138,8 +138,10 @@ void addLosses(Command program, int& status, const Painting* painting) {
     command.option("--csv", call->csv, "File to write: semicolon-separated text");
     command.option("--pdf", call->pdf,
                    "Folder to write the athlete's page into, named after the athlete");
-    command.option("--why", call->why,
-                   "Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, …");
+    command.option(
+        "--why", call->why,
+        "Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, total/RUN, place/RUN, "
+        "strokes/RUN/5, …");
     command.footer("Runs count from 0, sections and gates from 1. A loss lies between two marks "
                    "that both runs have; an ideal run and a median have no penalties. Files are "
                    "only read.");

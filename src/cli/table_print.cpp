@@ -2,6 +2,7 @@
 
 #include "common/display_text.h"
 #include "common/json_encode.h"
+#include "tables/shown_decimals.h"
 #include "tables/table_text.h"
 
 #include <algorithm>
@@ -46,8 +47,9 @@ std::vector<PrintedTableColumn> printedTable(const TablePrint& print) {
     std::vector<PrintedTableColumn> columns;
     for (const GridColumn& column : print.table.columns) {
         PrintedTableColumn printed{tableLineOf(column.name), isReckoned(column.kind), 0, {}};
+        const ShownDecimals decimals(column);
         for (const GridCell& cell : column.cells)
-            printed.texts.push_back(tableLineOf(cell.text));
+            printed.texts.push_back(tableLineOf(decimals.textOf(cell)));
         addPrinted(columns, std::move(printed));
     }
     if (!print.joined.empty()) {

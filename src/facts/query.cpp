@@ -1,17 +1,46 @@
 #include "facts/query.h"
 
+#include "common/parallel.h"
 #include "facts/groups.h"
-#include "facts/query_groups.h"
-#include "facts/query_matching.h"
 #include "facts/query_order.h"
+#include "facts/query_part.h"
 #include "facts/query_rows.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <span>
+#include <thread>
 #include <utility>
 
 namespace kavela {
+
+namespace {
+
+/// Fewer runs are searched faster than a thread is started.
+constexpr std::size_t LeastRunsOfPart = 4096;
+constexpr std::size_t MostParts = 8;
+
+/// Files of about as many runs each, one after the other: each part for a core of its own.
+std::vector<std::span<const FileRow>> searchedParts(const FactStore& facts) {
+    const std::span<const FileRow> files = facts.files();
+    const std::size_t runs = facts.runs().size();
+    const std::size_t cores =
+        std::clamp<std::size_t>(std::thread::hardware_concurrency(), 2, MostParts);
+    const std::size_t count = std::clamp<std::size_t>(runs / LeastRunsOfPart, 1, cores);
+    std::vector<std::span<const FileRow>> parts;
+    std::size_t first = 0;
+    for (std::size_t part = 1; part <= count; ++part) {
+        std::size_t end = part == count ? files.size() : first;
+        while (end < files.size() && files[end].runs.first < part * runs / count)
+            ++end;
+        parts.push_back(files.subspan(first, end - first));
+        first = end;
+    }
+    return parts;
+}
+
+} // namespace
 
 /// The work of answering one query.
 class QueryRun {
@@ -44,15 +73,10 @@ public:
     QueryAnswer run() {
         if (asksForRanks())
             m_answer.m_ranks = ranksOf(facts(), groupsOf(facts()));
-        if (!query().by.empty())
-            m_groups.emplace(query().by, measured());
-        else if (query().sort)
-            m_sorted = query().sort->column;
         collect();
-        if (m_groups)
-            finishGroups();
         nameColumns();
-        sortRows();
+        if (!query().by.empty())
+            sortGroups();
         if (query().first && m_answer.m_rows.size() > *query().first)
             m_answer.m_rows.resize(*query().first);
         return std::move(m_answer);
@@ -78,67 +102,48 @@ private:
     }
 
     void collect() {
-        QueryMatcher matcher(facts(), query());
-        for (const FileRow& file : facts().files()) {
-            for (std::uint32_t i = 0; i < file.runs.count; ++i) {
-                RowCursor cursor = cursorOf(facts(), file.runs.first + i);
-                if (i == 0 && !matcher.matches(cursor, ColumnLevel::File))
-                    break;
-                if (!m_answer.m_ranks.empty())
-                    cursor.rank = m_answer.m_ranks[cursor.runIndex];
-                if (matcher.matches(cursor, ColumnLevel::Run))
-                    collectRun(cursor, matcher);
-            }
-        }
+        const bool isSorted = query().by.empty() && query().sort;
+        const RowSearch search{facts(),
+                               query(),
+                               m_answer.m_ranks,
+                               measured(),
+                               isSorted ? query().sort->column : nullptr,
+                               m_needed,
+                               m_by,
+                               m_only};
+        const auto files = searchedParts(facts());
+        std::vector<QueryPart> parts;
+        parts.reserve(files.size());
+        for (std::size_t i = 0; i < files.size(); ++i)
+            parts.emplace_back(search);
+        parallelFor(files.size(), [&](std::size_t part) { parts[part].collect(files[part]); });
+        if (query().by.empty())
+            takeRows(parts);
+        else
+            takeGroups(parts);
     }
 
-    void collectRun(RowCursor& cursor, QueryMatcher& matcher) {
-        if (m_groups)
-            m_groups->startRun();
-        forEachRow(query().what, cursor, [&](const RowCursor& row, std::uint32_t entry) {
-            if (!matcher.matches(row, ColumnLevel::Row))
-                return;
-            const QueryColumn* const needed = query().best ? query().best : m_needed;
-            const double value = needed ? needed->number(row) : 0;
-            if (std::isnan(value))
-                return;
-            if (m_only && groupKeyOf(m_by, row) != *m_only)
-                return;
-            const FoundRow found{static_cast<std::uint32_t>(row.runIndex), entry, 0};
-            if (m_groups)
-                m_groups->add(row, found);
-            else if (!query().best || isAmongBest(value))
-                keep(row, found);
-        });
+    /// Where the best is wanted, of those parts alone that have it.
+    void takeRows(std::vector<QueryPart>& parts) {
+        double least = NotKnown;
+        for (const QueryPart& part : parts)
+            least = std::fmin(least, part.least());
+        std::vector<RowsToSort> rows;
+        for (QueryPart& part : parts)
+            if (std::isnan(least) || part.least() == least)
+                rows.push_back(std::move(part.rows()));
+        m_answer.m_rows =
+            RowsToSort::inOrder(facts(), rows, query().sort && query().sort->isDown,
+                                query().first.value_or(std::numeric_limits<std::size_t>::max()));
     }
 
-    /// Whether no row before had a lower value; those with a higher one are forgotten.
-    bool isAmongBest(double value) {
-        if (!m_answer.m_rows.empty() && value > m_least)
-            return false;
-        if (value < m_least || m_answer.m_rows.empty()) {
-            m_least = value;
-            m_answer.m_rows.clear();
-            m_numbers.clear();
-            m_texts.clear();
-        }
-        return true;
-    }
-
-    /// What it is sorted by is noted while its row is at hand: finding that again would cost as
-    /// much as all the search.
-    void keep(const RowCursor& row, const FoundRow& found) {
-        m_answer.m_rows.push_back(found);
-        if (m_sorted && m_sorted->isText())
-            m_texts.push_back(m_sorted->text(row));
-        else if (m_sorted)
-            m_numbers.push_back(m_sorted->number(row));
-    }
-
-    void finishGroups() {
-        m_groups->finish();
-        m_answer.m_groups = std::move(m_groups->groups());
-        m_answer.m_rows = std::move(m_groups->rows());
+    void takeGroups(std::vector<QueryPart>& parts) {
+        RowGroups groups = std::move(*parts.front().groups());
+        for (std::size_t i = 1; i < parts.size(); ++i)
+            groups.add(std::move(*parts[i].groups()));
+        groups.finish();
+        m_answer.m_groups = std::move(groups.groups());
+        m_answer.m_rows = std::move(groups.rows());
     }
 
     void nameColumns() {
@@ -175,14 +180,6 @@ private:
             m_answer.m_columns.push_back({std::string(column->name), column->unit, column});
     }
 
-    void sortRows() {
-        if (m_groups)
-            return sortGroups();
-        if (m_sorted)
-            sortBy(m_sorted->isText() ? naturalPlaces(facts(), m_texts) : m_numbers,
-                   query().sort->isDown, query().first.value_or(m_answer.m_rows.size()));
-    }
-
     void sortGroups() {
         if (!query().sort) {
             if (query().best)
@@ -200,11 +197,10 @@ private:
     }
 
     /// Rows with equal values keep their order; those without one go to the end.
-    void sortBy(const std::vector<double>& values, bool isDown,
-                std::size_t most = std::numeric_limits<std::size_t>::max()) {
+    void sortBy(const std::vector<double>& values, bool isDown) {
         std::vector<FoundRow> rows;
         rows.reserve(values.size());
-        for (const std::uint32_t at : orderOf(values, isDown, most))
+        for (const std::uint32_t at : orderOf(values, isDown))
             rows.push_back(m_answer.m_rows[at]);
         m_answer.m_rows = std::move(rows);
     }
@@ -233,11 +229,6 @@ private:
     }
 
     QueryAnswer m_answer;
-    std::optional<RowGroups> m_groups;
-    const QueryColumn* m_sorted = nullptr; ///< what the rows are sorted by, where they are
-    std::vector<double> m_numbers;         ///< its values by row, or
-    std::vector<TextId> m_texts;           ///< its texts
-    double m_least = NotKnown;             ///< of the column of which the best is wanted
     std::optional<GroupKey> m_only;        ///< where the rows of one group are wanted
     std::vector<const QueryColumn*> m_by;  ///< what makes that group
     const QueryColumn* m_needed = nullptr; ///< its rows have a value there

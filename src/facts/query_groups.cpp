@@ -1,5 +1,7 @@
 #include "facts/query_groups.h"
 
+#include "common/parallel.h"
+
 #include <algorithm>
 #include <bit>
 #include <cmath>
@@ -15,13 +17,6 @@ std::uint64_t keyPart(const QueryColumn& column, const RowCursor& row) {
         return column.key ? column.key(row) : column.text(row);
     const double number = column.number(row);
     return std::bit_cast<std::uint64_t>(std::isnan(number) ? NotKnown : number + 0.0);
-}
-
-std::size_t hashOfGroup(const GroupKey& key) {
-    std::uint64_t hash = 0;
-    for (const std::uint64_t part : key)
-        hash = (hash ^ part) * 0x9E3779B97F4A7C15U;
-    return static_cast<std::size_t>(hash ^ (hash >> 32U));
 }
 
 double medianOf(std::vector<double>& values) {
@@ -41,44 +36,25 @@ GroupKey groupKeyOf(const std::vector<const QueryColumn*>& by, const RowCursor& 
     return key;
 }
 
-std::size_t GroupPlaces::slotOf(const GroupKey& key) const {
-    const std::size_t last = m_slots.size() - 1;
-    std::size_t slot = hashOfGroup(key) & last;
-    while (m_slots[slot] != 0 && m_keys[m_slots[slot] - 1] != key)
-        slot = (slot + 1) & last;
-    return slot;
-}
-
-/// Half of the slots stay free, so that none is looked for long.
-void GroupPlaces::grow() {
-    constexpr std::size_t FewestSlots = 64;
-    m_slots.assign(std::max(FewestSlots, 2 * m_slots.size()), 0);
-    for (std::size_t place = 0; place < m_keys.size(); ++place)
-        m_slots[slotOf(m_keys[place])] = static_cast<std::uint32_t>(place + 1);
-}
-
-std::size_t GroupPlaces::placeOf(const GroupKey& key) {
-    if (2 * (m_keys.size() + 1) > m_slots.size())
-        grow();
-    std::uint32_t& slot = m_slots[slotOf(key)];
-    if (slot == 0) {
-        m_keys.push_back(key);
-        slot = static_cast<std::uint32_t>(m_keys.size());
-    }
-    return slot - 1;
-}
-
 RowGroups::RowGroups(std::vector<const QueryColumn*> by, const QueryColumn* measured)
-    : m_by(std::move(by)),
-      m_measured(measured),
-      m_isByRun(std::ranges::none_of(
-          m_by, [](const QueryColumn* column) { return column->level == ColumnLevel::Row; })) {}
+    : m_by(std::move(by)), m_measured(measured) {
+    for (std::size_t i = 0; i < m_by.size(); ++i)
+        if (m_by[i]->level == ColumnLevel::Row)
+            m_rowParts.push_back(i);
+}
 
 std::size_t RowGroups::groupOf(const RowCursor& row) {
     if (m_groupOfRun)
         return *m_groupOfRun;
-    const std::size_t place = m_places.placeOf(groupKeyOf(m_by, row));
-    if (m_isByRun)
+    if (!m_hasRunKey) {
+        m_runKey = groupKeyOf(m_by, row);
+        m_hasRunKey = true;
+    } else {
+        for (const std::size_t part : m_rowParts)
+            m_runKey[part] = keyPart(*m_by[part], row);
+    }
+    const std::size_t place = m_places.placeOf(m_runKey);
+    if (m_rowParts.empty())
         m_groupOfRun = place;
     return place;
 }
@@ -106,15 +82,47 @@ void RowGroups::add(const RowCursor& row, FoundRow found) {
     }
 }
 
-void RowGroups::finish() {
-    for (std::size_t i = 0; i < m_values.size(); ++i) {
-        std::vector<double>& values = m_values[i];
-        if (values.empty())
+void RowGroups::add(RowGroups&& later) {
+    for (std::size_t i = 0; i < later.m_groups.size(); ++i) {
+        const std::size_t at = m_places.placeOf(later.m_places.keys()[i]);
+        FoundGroup& added = later.m_groups[i];
+        if (at == m_groups.size()) {
+            m_rows.push_back(later.m_rows[i]);
+            m_rows.back().group = static_cast<std::uint32_t>(at);
+            m_values.push_back(std::move(later.m_values[i]));
+            m_groups.push_back(std::move(added));
             continue;
-        m_groups[i].mean =
-            std::accumulate(values.begin(), values.end(), 0.0) / static_cast<double>(values.size());
-        m_groups[i].median = medianOf(values);
+        }
+        FoundGroup& group = m_groups[at];
+        group.count += added.count;
+        if (!std::isnan(added.best) && !(added.best >= group.best)) {
+            group.best = added.best;
+            m_rows[at].run = later.m_rows[i].run;
+            m_rows[at].entry = later.m_rows[i].entry;
+        }
+        m_later.resize(m_groups.size());
+        m_later[at].push_back(std::move(later.m_values[i]));
     }
+}
+
+void RowGroups::finishGroup(std::size_t at) {
+    std::vector<double>& values = m_values[at];
+    if (at < m_later.size())
+        for (const std::vector<double>& later : m_later[at])
+            values.insert(values.end(), later.begin(), later.end());
+    if (values.empty())
+        return;
+    m_groups[at].mean =
+        std::accumulate(values.begin(), values.end(), 0.0) / static_cast<double>(values.size());
+    m_groups[at].median = medianOf(values);
+}
+
+void RowGroups::finish() {
+    if (m_later.empty())
+        for (std::size_t at = 0; at < m_groups.size(); ++at)
+            finishGroup(at);
+    else // of many rows
+        parallelFor(m_groups.size(), [this](std::size_t at) { finishGroup(at); });
 }
 
 } // namespace kavela

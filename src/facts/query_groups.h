@@ -1,5 +1,6 @@
 #pragma once
 
+#include "facts/key_places.h"
 #include "facts/query.h"
 
 #include <array>
@@ -15,21 +16,6 @@ using GroupKey = std::array<std::uint64_t, MostGroupColumns>;
 
 [[nodiscard]] GroupKey groupKeyOf(const std::vector<const QueryColumn*>& by, const RowCursor& row);
 
-/// The places of groups by what makes them, in the order in which they come. A table without lists
-/// behind its slots: millions of rows ask it, one after the other.
-class GroupPlaces {
-public:
-    /// The place of a group; behind the last one for a new one, which has it from then on.
-    [[nodiscard]] std::size_t placeOf(const GroupKey& key);
-
-private:
-    [[nodiscard]] std::size_t slotOf(const GroupKey& key) const;
-    void grow();
-
-    std::vector<std::uint32_t> m_slots; ///< a place and 1, or 0; their number is a power of two
-    std::vector<GroupKey> m_keys;       ///< by place
-};
-
 /// Takes rows as they are found and makes the groups of them, each with its least row.
 class RowGroups {
 public:
@@ -37,8 +23,13 @@ public:
     RowGroups(std::vector<const QueryColumn*> by, const QueryColumn* measured);
 
     /// The rows that follow are of another run.
-    void startRun() { m_groupOfRun.reset(); }
+    void startRun() {
+        m_groupOfRun.reset();
+        m_hasRunKey = false;
+    }
     void add(const RowCursor& row, FoundRow found);
+    /// Takes the groups of other rows, which stand behind all of these. Of the same columns.
+    void add(RowGroups&& later);
     /// The figures of all groups, once all rows are there.
     void finish();
 
@@ -48,15 +39,19 @@ public:
 
 private:
     [[nodiscard]] std::size_t groupOf(const RowCursor& row);
+    void finishGroup(std::size_t at);
 
     std::vector<const QueryColumn*> m_by;
     const QueryColumn* m_measured;
-    bool m_isByRun; ///< all rows of a run are of one group
-    GroupPlaces m_places;
-    std::optional<std::size_t> m_groupOfRun;
+    std::vector<std::size_t> m_rowParts; ///< of the key: the columns that differ within a run
+    KeyPlaces<GroupKey> m_places;
+    GroupKey m_runKey{}; ///< of the run's first row
+    bool m_hasRunKey = false;
+    std::optional<std::size_t> m_groupOfRun; ///< where all rows of a run are of one group
     std::vector<FoundGroup> m_groups;
     std::vector<FoundRow> m_rows;
-    std::vector<std::vector<double>> m_values; ///< by group
+    std::vector<std::vector<double>> m_values;             ///< by group
+    std::vector<std::vector<std::vector<double>>> m_later; ///< the same of rows behind these
 };
 
 } // namespace kavela

@@ -2,6 +2,7 @@
 
 #include "analysis/cell_text.h"
 #include "performance/loss_rules.h"
+#include "splitdata/frame_step.h"
 #include "splitdata/run_totals.h"
 
 #include <algorithm>
@@ -38,7 +39,8 @@ void tellGateTime(const LossPair& pair, const LossSide& side, const LossGate& ga
     }
     Place place = lossPlace(pair.facts, *side.run, lossSectionOf(pair.facts, pair.file, gate.gate));
     place.gate = static_cast<std::size_t>(gate.gate);
-    why.input(side.name, gate.*part.time, std::move(place));
+    why.input(side.name, gate.*part.time, std::move(place), markUncertainty(pair.facts, *side.run),
+              HalfFrameTwice);
 }
 
 double lossInGate(const LossPair& pair, std::int32_t number, const GatePart& part, Why* why) {
@@ -49,6 +51,7 @@ double lossInGate(const LossPair& pair, std::int32_t number, const GatePart& par
         tellGateTime(pair, pair.own, own, part, *why);
         tellGateTime(pair, pair.reference, reference, part, *why);
         why->result(ruleOf(part.rule), loss, signedHundredths(loss));
+        tellFourMarks(pair, loss, *why);
     }
     return loss;
 }

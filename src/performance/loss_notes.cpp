@@ -106,20 +106,32 @@ private:
         LossNoteRow& row = m_notes.rows[found->second];
         ++row.count;
         (lost > 0 ? row.lost : row.gained) += lost;
-        if (m_why && isAsked(row) && (lost < 0) == m_question.isGained)
-            m_why->input(row.text.empty() ? "note" : row.text, lost, place);
+        if (m_why && isAsked(row))
+            tellNote(row.text.empty() ? "note" : row.text, lost, place);
     }
 
     [[nodiscard]] bool isAsked(const LossNoteRow& row) const {
         return row.field == m_question.field && row.key == m_question.key;
     }
 
+    void tellNote(const std::string& name, double lost, const Place& place) {
+        if (m_question.number == LossNoteNumber::Count)
+            m_why->input(name, 1, place);
+        else if ((lost < 0) == (m_question.number == LossNoteNumber::Gained))
+            m_why->input(name, lost, place);
+    }
+
     void tellRow(const LossNoteRow& row) {
         if (!m_why || !isAsked(row))
             return;
-        const double sum = m_question.isGained ? row.gained : row.lost;
-        m_why->result(ruleOf(m_question.isGained ? LossRule::NotesGained : LossRule::NotesLost),
-                      sum, signedHundredths(sum));
+        const bool isGained = m_question.number == LossNoteNumber::Gained;
+        const double sum = isGained ? row.gained : row.lost;
+        if (m_question.number == LossNoteNumber::Count)
+            m_why->result(ruleOf(LossRule::NotesCounted), static_cast<double>(row.count),
+                          std::to_string(row.count));
+        else
+            m_why->result(ruleOf(isGained ? LossRule::NotesGained : LossRule::NotesLost), sum,
+                          signedHundredths(sum));
     }
 
     const FactStore& m_facts;

@@ -30,11 +30,14 @@ struct LossNotes {
     std::vector<LossNoteRow> rows; ///< by field; within one what lost most first
 };
 
-/// A row of the notes, and which of its two sums.
+/// The numbers of a row of notes.
+enum class LossNoteNumber { Lost, Gained, Count };
+
+/// A row of the notes, and which of its numbers.
 struct LossNoteQuestion {
     std::string_view field;
     std::string_view key;
-    bool isGained = false;
+    LossNoteNumber number = LossNoteNumber::Lost;
 };
 
 /// The notes of some runs.

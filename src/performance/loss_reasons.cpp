@@ -1,6 +1,7 @@
 #include "performance/loss_reasons.h"
 
 #include "common/delimited_text.h"
+#include "performance/loss_counts.h"
 #include "performance/loss_ways.h"
 
 #include <algorithm>
@@ -53,8 +54,15 @@ constexpr std::array SeasonIdWords{
     SeasonIdWord{"seasonpenalties", SeasonLossNumber::Penalties, false},
 };
 
-constexpr std::string_view NotedWord = "noted";
-constexpr std::string_view GainedWord = "gained";
+struct NoteIdWord {
+    std::string_view word;
+    LossNoteNumber number;
+};
+
+constexpr std::array NoteIdWords{NoteIdWord{"noted", LossNoteNumber::Lost},
+                                 NoteIdWord{"gained", LossNoteNumber::Gained},
+                                 NoteIdWord{"notecount", LossNoteNumber::Count}};
+constexpr std::array<std::string_view, 4> CountIdWords{"total", "place", "strokes", "penalty"};
 constexpr std::string_view WayWord = "way";
 
 /// Takes the text before the next slash off an id.
@@ -117,15 +125,36 @@ std::optional<Reason> explainWay(const FactStore& facts, std::string_view rest) 
     return toldReason(why);
 }
 
-/// A sum of notes of some runs; nothing when the id is of another kind.
+/// What stands beside the losses of a run.
+std::optional<Reason> explainCount(const FactStore& facts, std::string_view word,
+                                   std::string_view rest) {
+    const auto run = takeNumber(rest);
+    const bool isOfSection = word == "strokes" || word == "penalty";
+    const auto section = isOfSection ? takeNumber(rest) : std::optional<std::size_t>(0);
+    if (!run || !section || !rest.empty() || *run >= facts.runs().size() ||
+        (isOfSection && (*section < 1 || *section > facts.sectionsOf(facts.runs()[*run]).size())))
+        return std::nullopt;
+    Why why;
+    if (word == "total")
+        (void)lossTotal(facts, *run, &why);
+    else if (word == "place")
+        (void)placeInGroup(facts, LossRivals(facts).groupOf(*run), *run, &why);
+    else if (word == "strokes" && !stretchStrokes(facts, *run, *section, *section, &why))
+        return std::nullopt;
+    else if (word == "penalty")
+        (void)stretchPenalties(facts, *run, *section, *section, &why);
+    return toldReason(why);
+}
+
+/// A number of some runs' notes; nothing when the id is of another kind.
 std::optional<Reason> explainNotes(const FactStore& facts, std::span<const std::size_t> runs,
                                    std::string_view id) {
-    const std::string_view word = takeWord(id);
-    if (word != NotedWord && word != GainedWord)
+    const auto word = std::ranges::find(NoteIdWords, takeWord(id), &NoteIdWord::word);
+    if (word == NoteIdWords.end())
         return std::nullopt;
     const std::string_view field = takeWord(id);
     Why why;
-    (void)lossNotesOf(facts, runs, {field, id, word == GainedWord}, &why);
+    (void)lossNotesOf(facts, runs, {field, id, word->number}, &why);
     return toldReason(why);
 }
 
@@ -145,8 +174,9 @@ std::string lossId(LossNumber number, std::size_t run, const LossReference& refe
 }
 
 std::string lossNoteId(const LossNoteQuestion& question) {
-    return std::string(question.isGained ? GainedWord : NotedWord) + '/' +
-           std::string(question.field) + '/' + std::string(question.key);
+    const auto word = std::ranges::find(NoteIdWords, question.number, &NoteIdWord::number);
+    return std::string(word->word) + '/' + std::string(question.field) + '/' +
+           std::string(question.key);
 }
 
 std::string wayCostId(std::size_t run, std::size_t entry) {
@@ -168,6 +198,8 @@ std::optional<Reason> explainLoss(const FactStore& facts, const LossReference& r
     const std::string_view word = takeWord(rest);
     if (word == WayWord)
         return explainWay(facts, rest);
+    if (std::ranges::find(CountIdWords, word) != CountIdWords.end())
+        return explainCount(facts, word, rest);
     const auto found = std::ranges::find(LossIdWords, word, &LossIdWord::word);
     if (found != LossIdWords.end())
         return explainRun(facts, *found, reference, rest);

@@ -12,7 +12,9 @@
 ///     gateloss/RUN/REFERENCE/GATE      entranceloss/…, exitloss/… the same
 ///     gap/RUN/REFERENCE                paddling/…, penaltygap/…, timing/…, explained/… the same
 ///     xtimediff/RUN                    interest/RUN/NUMBER
-///     noted/FIELD/KEY                  gained/FIELD/KEY
+///     total/RUN                        place/RUN
+///     strokes/RUN/SECTION              penalty/RUN/SECTION
+///     noted/FIELD/KEY                  gained/…, notecount/… the same
 ///     way/RUN/NUMBER
 ///     seasonpercent/FIELD/KEY          seasonrun/…, seasonshare/…, seasonloss/…, seasonruns/…
 ///     seasongap, seasonpenalties
@@ -24,7 +26,7 @@ namespace kavela {
 /// The id of a number of a run. `at` is its section, gate or number where it has one.
 [[nodiscard]] std::string lossId(LossNumber number, std::size_t run, const LossReference& reference,
                                  std::size_t at = 0);
-/// Of a sum of notes.
+/// Of a number of notes.
 [[nodiscard]] std::string lossNoteId(const LossNoteQuestion& question);
 /// Of what a choice cost.
 [[nodiscard]] std::string wayCostId(std::size_t run, std::size_t entry);

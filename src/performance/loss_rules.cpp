@@ -63,8 +63,9 @@ constexpr std::array LossRuleTable{
          "Σ penalties", ""},
     Rule{"loss.season.runs", "The whole runs that have something of it.", "number of runs", ""},
     Rule{"loss.season.loss", "What was lost here in all runs together.", "Σ losses", ""},
+    Rule{"loss.notes", "The finished notes that name it.", "number of notes", ""},
 };
-static_assert(LossRuleTable.size() == static_cast<std::size_t>(LossRule::SeasonLoss) + 1);
+static_assert(LossRuleTable.size() == static_cast<std::size_t>(LossRule::NotesCounted) + 1);
 
 } // namespace
 

@@ -40,6 +40,7 @@ enum class LossRule {
     SectionPenalty,  ///< of a stretch
     SeasonRuns,      ///< of a row of the season
     SeasonLoss,      ///< of a row of the season
+    NotesCounted,    ///< number of notes
 };
 
 [[nodiscard]] const Rule& ruleOf(LossRule rule);

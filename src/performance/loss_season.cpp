@@ -192,6 +192,7 @@ void addPerRun(const FactStore& facts, const SeasonColumn& column, SeasonLossRow
     if (!why)
         return;
     tellRuns(facts, column, *why);
+    tellUncertain(*why, meanOf(column.losses).interval, row.runs);
     why->result(ruleOf(LossRule::SeasonPerRun), row.perRun, signedHundredths(row.perRun));
 }
 

@@ -150,7 +150,8 @@ double madeGateTime(const FactStore& facts, std::span<const std::size_t> pool, b
         if (why) {
             Place place = lossPlace(facts, run);
             place.gate = static_cast<std::size_t>(gate);
-            why->input(std::string(facts.text(row.crew)), entry->*time, std::move(place));
+            why->input(std::string(facts.text(row.crew)), entry->*time, std::move(place),
+                       markUncertainty(facts, run), HalfFrameTwice);
         }
     }
     return madeOf(std::move(times), isMedian, why);
@@ -165,6 +166,18 @@ const GateRow* firstEntry(const FactStore& facts, const RunRow& run, std::int32_
 double markUncertainty(const FactStore& facts, std::size_t run) {
     const double frame = facts.runs()[run].frame;
     return std::isfinite(frame) ? frame : 0;
+}
+
+void tellFourMarks(const LossPair& pair, double loss, Why& why) {
+    if (!pair.own.run || !pair.reference.run)
+        return;
+    const double own = markUncertainty(pair.facts, *pair.own.run);
+    const double reference = markUncertainty(pair.facts, *pair.reference.run);
+    if (own == 0 || reference == 0)
+        return;
+    const auto rounded = [](double seconds) { return std::round(seconds * 1e6) / 1e6; };
+    why.uncertain({rounded(loss - own - reference), rounded(loss + own + reference)},
+                  "half a frame, four marks");
 }
 
 Place lossPlace(const FactStore& facts, std::size_t run, std::optional<std::size_t> section) {

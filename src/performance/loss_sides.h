@@ -75,6 +75,10 @@ struct LossPair {
 /// the frames of its film.
 [[nodiscard]] double markUncertainty(const FactStore& facts, std::size_t run);
 
+/// Tells how far off a loss in seconds may be, where the films of both tell their frames: four
+/// marks, each half a frame beside the moment at most.
+void tellFourMarks(const LossPair& pair, double loss, Why& why);
+
 /// Where the mark stands that ends a section, counted from 1; without one, the run itself.
 [[nodiscard]] Place lossPlace(const FactStore& facts, std::size_t run,
                               std::optional<std::size_t> section = {});

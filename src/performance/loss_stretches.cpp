@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <string>
 
 namespace kavela {
@@ -69,20 +68,6 @@ void tellSection(const LossPair& pair, const LossSide& side, std::size_t section
     (void)madeSection(pair.facts, side.pool, side.isMedian, section, why.part());
 }
 
-/// Where the films of both tell their frames: four marks, each half a frame beside the moment at
-/// most.
-void tellUncertainty(const LossPair& pair, double loss, Why& why) {
-    if (!pair.own.run || !pair.reference.run)
-        return;
-    const double own = markUncertainty(pair.facts, *pair.own.run);
-    const double reference = markUncertainty(pair.facts, *pair.reference.run);
-    if (own == 0 || reference == 0)
-        return;
-    const auto rounded = [](double seconds) { return std::round(seconds * 1e6) / 1e6; };
-    why.uncertain({rounded(loss - own - reference), rounded(loss + own + reference)},
-                  "half a frame, four marks");
-}
-
 /// Tells the two times and not yet what is made of them.
 double lossOfTimes(const LossPair& pair, std::size_t first, std::size_t last, Why* why) {
     const double own = stretchTime(pair, pair.own, first, last, why);
@@ -134,7 +119,7 @@ double stretchLoss(const LossPair& pair, std::size_t first, std::size_t last, Wh
     const double loss = lossOfTimes(pair, first, last, why);
     if (why) {
         why->result(ruleOf(LossRule::Loss), loss, signedHundredths(loss));
-        tellUncertainty(pair, loss, *why);
+        tellFourMarks(pair, loss, *why);
     }
     return loss;
 }

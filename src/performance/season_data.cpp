@@ -2,9 +2,11 @@
 
 #include "common/text.h"
 #include "facts/groups.h"
+#include "performance/loss_sides.h"
 #include "performance/penalty_passages.h"
 #include "performance/season_rules.h"
 #include "splitdata/athlete_keys.h"
+#include "splitdata/frame_step.h"
 #include "splitdata/run_totals.h"
 
 #include <fmt/format.h>
@@ -324,7 +326,9 @@ std::optional<double> percentBehindWinner(const FactStore& facts, const PhaseRes
     const double percent = 100 * (*result.total / *result.winner - 1);
     if (why) {
         why->input("total", *result.total);
-        why->input(result.winnerName, *result.winner, seasonPlace(facts, result.winnerRun));
+        const bool isOnFilm = result.winnerRun && !facts.runs()[*result.winnerRun].isOfficial;
+        why->input(result.winnerName, *result.winner, seasonPlace(facts, result.winnerRun),
+                   isOnFilm ? markUncertainty(facts, *result.winnerRun) : 0, HalfFrameTwice);
         why->result(ruleOf(SeasonRule::Percent), percent, fmt::format("{:.1f} %", percent));
     }
     return percent;

@@ -81,7 +81,7 @@ TEST_F(TableCalls, PrintAlignedColumns) {
     EXPECT_EQ(ending.output, "Pos  Name       Cat   Time  Pen\n"
                              "  1  BELL Anna  K1W  92,45    2\n"
                              "  2  Šárka Lis  K1W      x    0\n"
-                             "  3  Bell A.    K1W   95,5    0\n"
+                             "  3  Bell A.    K1W  95,50    0\n"
                              "  4  Ida Kos    K1W    DNF\n"
                              "4 rows, 1 refused:\n"
                              "Line 3, column 4, \"x\": no number: the column is decimal\n");

@@ -15,6 +15,7 @@
 #include "results/team_file.h"
 #include "splitdata/document.h"
 #include "splitdata/loader.h"
+#include "tables/packed.h"
 #include "tables/table_text.h"
 
 #include <gmock/gmock.h>
@@ -299,6 +300,7 @@ TEST_F(TablesWindowTest, TakesOfficialResultsOverLineByLine) {
     TakingWindow& window = *m_program.windowsOf<TakingWindow>().front();
     OfficialDialog& dialog = showOfficialDifferences(window, m_workspace);
     EXPECT_THAT(window.findChildren<OfficialDialog*>(), SizeIs(1)) << "one for a window";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog.isReading(); })) << "the race's own lists";
     ASSERT_THAT(dialog.differences(), SizeIs(1)) << "a touch that was not noted";
     EXPECT_EQ(dialog.differences().front().kind, OfficialDifferenceKind::MissingPenalty);
     dialog.openList(add("other.csv", "Name;Time;Pen\nBell Anna;90;0\nKos Eva;95;2\n"));
@@ -313,6 +315,50 @@ TEST_F(TablesWindowTest, TakesOfficialResultsOverLineByLine) {
     window.undo();
     EXPECT_EQ(window.document().run(1).sectioninfo.realtime, 0);
     EXPECT_THAT(dialog.differences(), SizeIs(1)) << "it follows what is taken back";
+}
+
+/// As an office program writes them: 84.90 is 84.9 in the file.
+TEST_F(TablesWindowTest, OpensSpreadsheetsOfBothKinds) {
+    const std::string xlsx = packed(
+        {{"xl/workbook.xml",
+          R"(<workbook><sheets><sheet name="Final" r:id="rId1"/></sheets></workbook>)"},
+         {"xl/_rels/workbook.xml.rels",
+          R"(<Relationships><Relationship Id="rId1" Target="worksheets/sheet1.xml"/>)"
+          R"(</Relationships>)"},
+         {"xl/worksheets/sheet1.xml",
+          R"(<worksheet><sheetData><row r="1"><c r="A1" t="inlineStr"><is><t>Name</t></is></c>)"
+          R"(<c r="B1" t="inlineStr"><is><t>Time</t></is></c></row>)"
+          R"(<row r="2"><c r="A2" t="inlineStr"><is><t>Bell Anna</t></is></c>)"
+          R"(<c r="B2"><v>84.9</v></c></row>)"
+          R"(<row r="3"><c r="A3" t="inlineStr"><is><t>Kos Eva</t></is></c>)"
+          R"(<c r="B3"><v>92.45</v></c></row></sheetData></worksheet>)"}});
+    const auto text = [](const std::string& content) {
+        return R"(<table:table-cell office:value-type="string"><text:p>)" + content +
+               "</text:p></table:table-cell>";
+    };
+    const auto number = [](const std::string& value) {
+        return R"(<table:table-cell office:value-type="float" office:value=")" + value + R"("/>)";
+    };
+    const auto row = [](const std::string& cells) {
+        return "<table:table-row>" + cells + "</table:table-row>";
+    };
+    const std::string ods = packed(
+        {{"content.xml",
+          R"(<office:document-content><office:body><office:spreadsheet>)"
+          R"(<table:table table:name="Final">)" +
+              row(text("Name") + text("Time")) + row(text("Bell Anna") + number("84.9")) +
+              row(text("Kos Eva") + number("92.45")) +
+              "</table:table></office:spreadsheet></office:body></office:document-content>"}});
+    for (const auto& [name, bytes] : {std::pair("final.xlsx", xlsx), std::pair("final.ods", ods)}) {
+        TablesWindow& window = openTable(add(name, bytes));
+        EXPECT_THAT(m_recorder.alerts, IsEmpty()) << name;
+        EXPECT_EQ(column(window, 0), QStringList({"Bell Anna", "Kos Eva"})) << name;
+        EXPECT_EQ(column(window, 1), QStringList({"84.90", "92.45"})) << name;
+        window.table().choose(0, 1);
+        window.sort(true);
+        EXPECT_EQ(column(window, 0), QStringList({"Kos Eva", "Bell Anna"})) << name;
+        EXPECT_EQ(readListBytes(m_folder.path() / name), bytes) << "it is never written";
+    }
 }
 
 /// The lines below the first one were cut off.

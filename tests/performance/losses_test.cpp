@@ -1,6 +1,7 @@
 #include "performance/losses.h"
 
 #include "performance/loss_charts.h"
+#include "performance/loss_counts.h"
 #include "performance/loss_notes.h"
 #include "performance/loss_races.h"
 #include "performance/loss_reasons.h"
@@ -241,6 +242,57 @@ TEST(Losses, GatesStandInTheirSectionAndTheRestIsBetween) {
     EXPECT_FALSE(losses.gatesElsewhere[0].entrance);
 }
 
+TEST(Losses, TotalsPlacesAndStrokesHaveIds) {
+    const FactStore facts = factsOf(sample::holdRace(sample::riversideCup()));
+    const LossRivals rivals(facts);
+    const auto value = [&](const std::string& id) -> std::optional<double> {
+        const auto reason = explainLoss(facts, {}, id);
+        return reason ? std::optional(reason->value) : std::nullopt;
+    };
+    std::size_t strokesTold = 0;
+    for (std::size_t run = 0; run < facts.runs().size(); ++run) {
+        const std::string number = std::to_string(run);
+        EXPECT_EQ(value("total/" + number), lossTotal(facts, run));
+        EXPECT_EQ(value("place/" + number), placeInGroup(facts, rivals.groupOf(run), run));
+        EXPECT_EQ(value("strokes/" + number + "/2"), stretchStrokes(facts, run, 2, 2));
+        EXPECT_EQ(value("penalty/" + number + "/2"),
+                  facts.sectionsOf(facts.runs()[run]).size() < 2
+                      ? std::nullopt
+                      : std::optional<double>(stretchPenalties(facts, run, 2, 2)));
+        strokesTold += stretchStrokes(facts, run, 2, 2) ? 1U : 0U;
+    }
+    EXPECT_GT(strokesTold, 0U);
+    for (const char* id : {"total", "total/9999", "place/0/1", "strokes/0", "strokes/0/0",
+                           "strokes/0/99", "penalty/0/1/1"})
+        EXPECT_FALSE(explainLoss(facts, {}, id)) << id;
+}
+
+/// Stamps of a film of 50 frames a second.
+TEST(Losses, ATimeInAGateIsAsSureAsItsMarks) {
+    const auto filmed = [](double time) {
+        athletedata031 run = lossRun({"A"}, {20, 20});
+        upstreamdata025 gate;
+        gate.num = 2;
+        gate.time = time;
+        run.upstreams = {gate};
+        for (const std::int64_t frame : {100, 601, 1107, 1615, 1902, 2105, 2306, 2401, 2507})
+            run.upstreams.front().cmtimes.push_back({frame, 50, 1, 0});
+        return run;
+    };
+    auto race = lossRace(2, {filmed(3), filmed(4.5)});
+    race.athletes[1].names = {"B"};
+    race.info.gates = 2;
+    race.info.upGates = {2};
+    race.info.definedsections = {{1, 2}, {}};
+    const FactStore facts = factsOf(race);
+    ASSERT_NEAR(markUncertainty(facts, 0), 0.02, 1e-12);
+    const auto reason = explainLoss(facts, reference("run:0"), "gateloss/1//2");
+    ASSERT_TRUE(reason && reason->uncertainty);
+    EXPECT_NEAR(reason->uncertainty->low, 1.46, 1e-9);
+    EXPECT_NEAR(reason->uncertainty->high, 1.54, 1e-9);
+    EXPECT_NEAR(reason->inputs.front().plusMinus, 0.02, 1e-12);
+}
+
 TEST(Losses, ATrainingIsOneGroupWhateverThePhases) {
     auto race = lossRace(1, {lossRun({"A"}, {40}), lossRun({"B"}, {41})});
     race.athletes[0].phase = "1";
@@ -279,6 +331,11 @@ TEST(Losses, NotesAreSharedByTheirReasons) {
     EXPECT_THAT(wide->lost, DoubleNear(0.25, 1e-12));
     EXPECT_THAT(wide->gained, DoubleNear(-0.2, 1e-12));
     EXPECT_EQ(explainLoss(facts, {}, "gained/reason/wide")->value, wide->gained);
+    EXPECT_EQ(explainLoss(facts, {}, "noted/reason/wide")->inputs.size(), 1U);
+    const auto count =
+        explainLoss(facts, {}, lossNoteId({"reason", "wide", LossNoteNumber::Count}));
+    EXPECT_EQ(count.value().value, 2);
+    EXPECT_EQ(count->inputs.size(), 2U) << "what was lost and what was gained";
 }
 
 TEST(Losses, AChosenWayCostsWhatTheFastestTimedOneSaves) {

@@ -1,5 +1,6 @@
 #include "tables/column_kinds.h"
 #include "tables/lists.h"
+#include "tables/shown_decimals.h"
 
 #include <gmock/gmock.h>
 
@@ -107,6 +108,27 @@ TEST(TableReading, PartsTimesFromTheirPenalties) {
     EXPECT_THAT(numbersOf(table, "Run 1"), ElementsAre(92.45, 93.1, std::nullopt));
     EXPECT_THAT(numbersOf(table, "Run 1 penalty"), ElementsAre(2, std::nullopt, std::nullopt));
     EXPECT_THAT(table.refused, SizeIs(1)); // the x; DNF is a word of its own
+}
+
+/// A spreadsheet that shows 84.90 hands 84.9 on.
+TEST(ShownDecimals, AreAsManyInAllCellsOfAColumn) {
+    const ListTable table = tableIn("Name;Time;Points;Rank\n"
+                                    "a;84.9;7,5;1\n"
+                                    "b;1:32.45;12;2\n"
+                                    "c;DNF;10,25;3\n"
+                                    "d;92;x;4\n");
+    const auto shown = [&](std::size_t column) {
+        std::vector<std::string> texts;
+        const ShownDecimals decimals(table.columns.at(column));
+        for (const GridCell& cell : table.columns[column].cells)
+            texts.push_back(decimals.textOf(cell));
+        return texts;
+    };
+    ASSERT_THAT(table.columns, SizeIs(4));
+    EXPECT_THAT(shown(1), ElementsAre("84.90", "1:32.45", "DNF", "92.00"));
+    EXPECT_THAT(shown(2), ElementsAre("7,50", "12,00", "10,25", "x"));
+    EXPECT_THAT(shown(3), ElementsAre("1", "2", "3", "4"));
+    EXPECT_EQ(table.columns[1].cells[0].text, "84.9") << "what was read stays";
 }
 
 } // namespace kavela::test

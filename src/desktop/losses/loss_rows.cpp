@@ -394,11 +394,12 @@ NoteModel::Columns noteColumns() {
 std::optional<Reason> whyOf(const LossState& state, const NoteLine& line, int column) {
     if (column < CountAt)
         return std::nullopt;
-    // A count is told by the notes that it counts.
-    const bool isGained = column == NoteGainedAt || (column == CountAt && line.note.lost == 0);
+    const LossNoteNumber number = column == CountAt        ? LossNoteNumber::Count
+                                  : column == NoteGainedAt ? LossNoteNumber::Gained
+                                                           : LossNoteNumber::Lost;
     const std::array run{state.run()};
     Why why;
-    (void)lossNotesOf(state.facts(), run, {line.note.field, line.note.key, isGained}, &why);
+    (void)lossNotesOf(state.facts(), run, {line.note.field, line.note.key, number}, &why);
     return told(why);
 }
 

@@ -5,6 +5,7 @@
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "performance/table_colours.h"
+#include "tables/shown_decimals.h"
 
 #include <QCoreApplication>
 
@@ -40,6 +41,7 @@ public:
                  ColourScale scale)
         : m_table(std::move(table)), m_refused(std::move(refused)), m_place(place), m_scale(scale) {
         const GridColumn& column = m_table->columns[place];
+        m_decimals = ShownDecimals(column);
         if (std::ranges::find(m_table->coloured, column.name) != m_table->coloured.end())
             m_bands = tableBands(column);
     }
@@ -51,8 +53,8 @@ public:
         if (listed.row >= column.cells.size())
             return {};
         const GridCell& value = column.cells[listed.row];
-        Cell cell{.text = qtText(value.text)};
-        // What the list has stands as it was written there.
+        // What the list has stands as it was written there, but for noughts behind it.
+        Cell cell{.text = qtText(m_decimals.textOf(value))};
         if (column.isDerived && value.number)
             cell.text = shownNumbers(cell.text);
         if (isReckoned(column.kind))
@@ -91,6 +93,7 @@ private:
     std::shared_ptr<const RefusedTexts> m_refused;
     std::size_t m_place;
     ColourScale m_scale;
+    ShownDecimals m_decimals;
     std::vector<Band> m_bands;
 };
 

@@ -168,8 +168,7 @@ OfficialDialog::Source OfficialDialog::sourceOf(const OfferedList& list, const Q
     return source;
 }
 
-std::vector<OfficialDialog::Source> OfficialDialog::ownSources() const {
-    const infodata031& info = m_document.info();
+std::vector<OfficialDialog::Source> OfficialDialog::ownSources(const infodata031& info) {
     std::vector<Source> sources;
     if (!info.resultsCSVdata.empty())
         sources.push_back({tr("Results list"), officialLines(info.resultsCSVdata), {}});
@@ -190,12 +189,31 @@ std::vector<OfficialDialog::Source> OfficialDialog::ownSources() const {
     return sources;
 }
 
-/// The race's lists are read again only where they may be others.
+/// The race's lists are read again only where they may be others, and beside the window: a
+/// spreadsheet may be among them.
 void OfficialDialog::followDocument() {
     if (m_document.value().info != m_read) {
         m_read = m_document.value().info;
-        m_own = ownSources();
+        m_isOwnRead = false;
+        m_ownWork.run(
+            [info = m_read] { return ownSources(*info); },
+            [this, info = m_read](const std::vector<Source>& sources) { takeOwn(info, sources); },
+            {.failed = [this, info = m_read](const std::exception_ptr& fault) {
+                const auto reason = QString::fromStdString(causeOf(fault));
+                takeOwn(info, {{tr("Results list"), {}, reason}});
+            }});
     }
+    fillChoices();
+    compare();
+}
+
+/// Where the race carries other lists meanwhile, those are being read already.
+void OfficialDialog::takeOwn(const std::shared_ptr<const infodata031>& info,
+                             std::vector<Source> sources) {
+    if (info != m_read)
+        return;
+    m_isOwnRead = true;
+    m_own = std::move(sources);
     fillChoices();
     compare();
 }
@@ -233,11 +251,15 @@ void OfficialDialog::chooseFile() {
 void OfficialDialog::openList(const QString& path) {
     m_work.runOver(
         {this, tr("Reading %1…").arg(QFileInfo(path).fileName())},
-        [path] { return offeredLists(path); },
-        [this, path](const OfferedLists& offered) {
+        [path] {
+            std::vector<Source> sources;
+            for (const OfferedList& list : offeredLists(path).lists)
+                sources.push_back(sourceOf(list, QFileInfo(path).fileName()));
+            return sources;
+        },
+        [this](const std::vector<Source>& sources) {
             const auto first = static_cast<int>(m_own.size() + m_opened.size());
-            for (const OfferedList& list : offered.lists)
-                m_opened.push_back(sourceOf(list, QFileInfo(path).fileName()));
+            m_opened.insert(m_opened.end(), sources.begin(), sources.end());
             fillChoices();
             m_list->setCurrentIndex(first);
             compare();
@@ -254,7 +276,9 @@ void OfficialDialog::compare() {
     const int chosen = m_list->currentIndex();
     if (chosen < 0) {
         m_rows.show({}, true);
-        m_told->setText(tr("The race carries no results list. Open one with “A file…”."));
+        m_told->setText(!m_isOwnRead
+                            ? QString()
+                            : tr("The race carries no results list. Open one with “A file…”."));
         enable();
         return;
     }

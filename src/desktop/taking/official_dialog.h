@@ -39,7 +39,7 @@ public:
         return m_rows.rows();
     }
     [[nodiscard]] ColumnTable& table() const { return *m_table; }
-    [[nodiscard]] bool isReading() const { return m_work.isRunning(); }
+    [[nodiscard]] bool isReading() const { return m_work.isRunning() || !m_isOwnRead; }
 
 signals:
     /// A run of the document, counted from 0, is to be looked at.
@@ -54,9 +54,11 @@ private:
     };
 
     void makeParts();
+    /// Both are for any thread.
     [[nodiscard]] static Source sourceOf(const OfferedList& list, const QString& file);
-    [[nodiscard]] std::vector<Source> ownSources() const;
+    [[nodiscard]] static std::vector<Source> ownSources(const infodata031& info);
     void followDocument();
+    void takeOwn(const std::shared_ptr<const infodata031>& info, std::vector<Source> sources);
     void fillChoices();
     void fillScope(QComboBox& box, const QStringList& texts, const QString& all);
     void chooseFile();
@@ -77,6 +79,8 @@ private:
     QAction* m_takeOver = nullptr;
     QAction* m_goToRun = nullptr;
     BackgroundWork m_work;
+    BackgroundWork m_ownWork; ///< reads the race's lists
+    bool m_isOwnRead = false;
 };
 
 /// Shows the dialog of a window of split taking, which has one.
