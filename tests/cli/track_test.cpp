@@ -170,7 +170,8 @@ TEST_F(TrackCalls, TakeTheSecondsOfAFilmWhoseRateVaries) {
 }
 
 TEST_F(TrackCalls, FollowAsFarAsACutFilmGoesAndSaySo) {
-    makeFilm("-i shot.mp4 -c copy", "cut.mkv");
+    // Four times as long: what lacks less than a second is not told from sound that goes on.
+    makeFilm("-i shot.mp4 -vf setpts=4*PTS -vsync passthrough -c:v libx264 -crf 18", "cut.mkv");
     const auto film = fileOf("cut.mkv");
     std::filesystem::resize_file(film, std::filesystem::file_size(film) * 6 / 10);
     const Ending ending = follow("cut.mkv", boatBox(), {"--at", "0"});

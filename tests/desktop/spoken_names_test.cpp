@@ -109,8 +109,8 @@ TEST_F(SpokenNamesTest, AreThoseOfEveryPartOfEveryWindowWithAFile) {
     m_program.openPenalties({example("races/riverside_cup.kvx")});
     QTRY_COMPARE(m_program.windows().size(), 11);
     for (desktop::ToolWindow* const window : m_program.windows())
-        EXPECT_EQ(silentPartsOf(*window).join('\n'), "") << window->kind().toStdString();
-    EXPECT_EQ(silentPartsOf(*m_program.front()).join('\n'), "");
+        EXPECT_EQ(silentPartsOf(*window).join('\n').toStdString(), "") << window->kind().toStdString();
+    EXPECT_EQ(silentPartsOf(*m_program.front()).join('\n').toStdString(), "");
 }
 
 TEST_F(SpokenNamesTest, AreThoseOfEveryToolThatOpensWithoutAFile) {
@@ -125,7 +125,7 @@ TEST_F(SpokenNamesTest, AreThoseOfEveryToolThatOpensWithoutAFile) {
             window->startNew(QString::fromStdString((m_folder.path() / "new").string()) + '.' +
                              tool.documents.suffix);
         window->show();
-        EXPECT_EQ(silentPartsOf(*window).join('\n'), "") << tool.kind.toStdString();
+        EXPECT_EQ(silentPartsOf(*window).join('\n').toStdString(), "") << tool.kind.toStdString();
         window->hide();
     }
 }
@@ -137,7 +137,7 @@ TEST_F(SpokenNamesTest, AreThoseOfEveryToolBeforeItsFileIsOpened) {
         const std::unique_ptr<desktop::ToolWindow> window(tool.make(m_workspace, kept));
         window->setAttribute(Qt::WA_DeleteOnClose, false);
         window->show();
-        EXPECT_EQ(silentPartsOf(*window).join('\n'), "") << tool.title.toStdString();
+        EXPECT_EQ(silentPartsOf(*window).join('\n').toStdString(), "") << tool.title.toStdString();
         window->hide();
     }
 }
@@ -154,7 +154,7 @@ TEST_F(SpokenNamesTest, AreThoseOfEveryPartOfTheDialogs) {
          std::initializer_list<QWidget*>{&course, &settings, &guide, &login}) {
         window->setAttribute(Qt::WA_DeleteOnClose, false);
         window->show();
-        EXPECT_EQ(silentPartsOf(*window).join('\n'), "") << window->metaObject()->className();
+        EXPECT_EQ(silentPartsOf(*window).join('\n').toStdString(), "") << window->metaObject()->className();
         window->hide();
     }
 }

@@ -45,6 +45,7 @@ FilmPlaying::FilmPlaying(const Desk& desk) : QObject(&desk.stage), m_desk(desk) 
     });
     connect(&deck, &FilmDeck::stateChanged, this, &FilmPlaying::followState);
     connect(&deck, &FilmDeck::failed, this, [this] { m_isStarting = false; });
+    connect(&m_desk.shelf, &FilmShelf::changed, this, &FilmPlaying::takeMarks);
 }
 
 bool FilmPlaying::startsAtMark() const {
@@ -91,6 +92,21 @@ void FilmPlaying::showFilms(const QStringList& films) {
         return stage.setMessage(tr("The film is no longer there:\n%1").arg(film));
     m_start = beginning(film);
     stage.goToPlace(startsAtMark() ? firstMark(film) : std::nullopt);
+}
+
+/// The marks of a film are read after its name: one that still stands at its beginning goes on to
+/// the first.
+void FilmPlaying::takeMarks() {
+    FilmDeck& deck = m_desk.stage.deck();
+    const auto mark = startsAtMark() ? firstMark(deck.films().value(0)) : std::nullopt;
+    if (!mark || m_isPart || deck.isPlaying() || m_start != FrameRequest(FrameNumber{0}))
+        return;
+    if (const FilmPicture* const picture = deck.shown(0); picture && picture->frame.number != 0)
+        return; // the coach went on
+    m_start = *mark;
+    m_desk.stage.goToPlace(mark);
+    m_isLaid = deck.films().size() < 2;
+    layBeside();
 }
 
 void FilmPlaying::showTag(const FilmTagRow& tag) {

@@ -54,6 +54,7 @@ private:
     void showFilms(const QStringList& films);
     void showTag(const FilmTagRow& tag);
     void layBeside();
+    void takeMarks();
     void takeFrame(std::size_t camera);
     void noteWatched(std::size_t camera);
     void startWhenReady();
