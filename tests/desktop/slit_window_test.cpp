@@ -39,6 +39,7 @@ using namespace kavela::desktop;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using ::testing::SizeIs;
 
 constexpr int SlitPatience = 40000; // milliseconds
@@ -303,6 +304,61 @@ TEST_F(SlitWindowTest, RefusedProposalsStayRefused) {
     EXPECT_THAT(again.proposals(), SizeIs(2));
     again.forgetRefusals();
     EXPECT_THAT(again.proposals(), SizeIs(3));
+}
+
+TEST_F(SlitWindowTest, AProposalBringsTheRunThatItIsHeldFor) {
+    SlitWindow& window = openWithRace();
+    window.search().keep(lineOf(*window.line()), boatOf(*window.line()),
+                         crossingsAt({0.4, 0.8, 1.2, 1.6}));
+    window.stage().setHair(0.5);
+    press(Qt::Key_PageDown);
+    press(Qt::Key_PageDown);
+    EXPECT_EQ(hairFrame(), 40);
+    EXPECT_EQ(window.runTable().currentPlace(), 1);
+    press(Qt::Key_Return);
+    EXPECT_EQ(markedFrame(0, 1), -1);
+    EXPECT_EQ(markedFrame(1, 1), 40);
+    press(Qt::Key_PageUp);
+    press(Qt::Key_PageUp);
+    EXPECT_EQ(hairFrame(), 20);
+    EXPECT_EQ(window.runTable().currentPlace(), 0);
+
+    ColumnTable& proposals = window.proposalTable();
+    const auto click = [&](int row) {
+        const QRect cell = proposals.visualRect(proposals.model()->index(row, 0));
+        QTest::mouseClick(proposals.viewport(), Qt::LeftButton, {}, cell.center());
+    };
+    click(2);
+    EXPECT_EQ(hairFrame(), 60);
+    EXPECT_EQ(window.runTable().currentPlace(), 2);
+    click(3); // falls to no run
+    EXPECT_EQ(hairFrame(), 80);
+    EXPECT_EQ(window.runTable().currentPlace(), 2);
+}
+
+TEST_F(SlitWindowTest, EnterOnceTooOftenIsTold) {
+    SlitWindow& window = openWithRace();
+    window.stage().setHair(20.5);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(window.told().isEmpty());
+    press(Qt::Key_Return); // the next run, for which nothing was looked
+    EXPECT_EQ(markedFrame(1, 1), 20) << "two boats can be side by side";
+    EXPECT_THAT(window.told().toStdString(), HasSubstr("Ann Lee"));
+    press(Qt::CTRL | Qt::Key_Z);
+    EXPECT_EQ(markedFrame(1, 1), -1);
+    EXPECT_EQ(markedFrame(0, 1), 20);
+
+    for (int run = 1; run < 3; ++run) {
+        window.runTable().choose(run);
+        window.stage().setHair(20.5 + 30 * run);
+        press(Qt::Key_Return);
+    }
+    ASSERT_EQ(markedFrame(2, 1), 80);
+    const int steps = m_taking->document().undoStack().index();
+    press(Qt::Key_Return); // all are marked
+    EXPECT_EQ(m_taking->document().undoStack().index(), steps);
+    EXPECT_THAT(window.told().toStdString(), HasSubstr("Cy Dal"));
+    EXPECT_THAT(window.told().toStdString(), Not(HasSubstr("Bo Fox")));
 }
 
 /// Which of the two it is the figures of the search say.

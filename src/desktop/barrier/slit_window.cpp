@@ -81,10 +81,7 @@ void SlitWindow::connectParts() {
     connect(&m_saving, &SlitSaving::told, this, &SlitWindow::tell);
     connect(m_panel, &SlitPanel::runChosen, this, &SlitWindow::followRun);
     connect(m_panel, &SlitPanel::runClicked, this, &SlitWindow::goToRun);
-    connect(m_panel, &SlitPanel::proposalChosen, this, [this](double seconds) {
-        if (m_loader.index())
-            m_stage->setHair(slitColumnAt(*m_loader.index(), 0, seconds));
-    });
+    connect(m_panel, &SlitPanel::proposalChosen, this, &SlitWindow::goToProposal);
     connect(m_panel, &SlitPanel::raceWanted, this, [this] { emit raceRequested(raceOfFilm()); });
     connect(m_panel, &SlitPanel::finerChosen, this, &SlitWindow::setFiner);
 }
@@ -354,10 +351,30 @@ void SlitWindow::setSplit(std::size_t split) {
 
 void SlitWindow::stepProposal(int step) {
     if (const auto to = m_marking.proposalBeside(view().hair(), step))
-        m_stage->setHair(*to);
+        goToProposal(to->proposal.seconds, to->run);
     else
         refuse(step < 0 ? tr("There is no proposal before this.")
                         : tr("There is no proposal behind this."));
+}
+
+/// The run that it is held for comes to the front, so that Enter marks that one.
+void SlitWindow::goToProposal(double seconds, int run) {
+    const auto index = m_loader.index();
+    if (!index)
+        return;
+    if (const auto place = placeOfRun(run)) {
+        m_run = run; // before the table tells: the hair line goes to the proposal alone
+        m_panel->runTable().choose(*place);
+        showMarks();
+    }
+    m_stage->setHair(slitColumnAt(*index, 0, seconds));
+}
+
+std::optional<int> SlitWindow::placeOfRun(int run) const {
+    const auto& rows = m_panel->runs();
+    const auto row =
+        std::ranges::find(rows, run, [](const SlitRunRow& each) { return each.run.run; });
+    return row != rows.end() ? std::optional(static_cast<int>(row - rows.begin())) : std::nullopt;
 }
 
 void SlitWindow::stepRun(int step) {
@@ -412,19 +429,29 @@ void SlitWindow::mark() {
         refuse(m_panel->runTable().emptyText());
         return;
     }
-    const auto isInFront = [this](const SlitRunRow& row) { return row.run.run == m_run; };
-    const auto isOpen = [](const SlitRunRow& row) { return !row.run.seconds; };
-    if (const QString why = m_marking.mark(m_run, view().hair(), m_isFiner); !why.isEmpty()) {
-        refuse(why);
+    const double place = view().hair();
+    const bool isThere = m_marking.isMarkedAt(m_run, place);
+    const bool isMade = !isThere || m_isFiner; // finer times may differ within the frame
+    if (isMade)
+        if (const QString why = m_marking.mark(m_run, place, m_isFiner); !why.isEmpty()) {
+            refuse(why);
+            return;
+        }
+    tell(m_marking.tellMarkedAt(place, isThere ? -1 : m_run));
+    goOn(isMade);
+}
+
+/// From the run in front to the next one behind it without a mark; it stays where none is.
+void SlitWindow::goOn(bool isMarked) {
+    const auto place = placeOfRun(m_run);
+    if (!place)
         return;
-    }
-    tell({});
     const auto& rows = m_panel->runs();
-    const auto marked = std::ranges::find_if(rows, isInFront);
-    if (marked == rows.end())
-        return;
-    m_stage->film().flash(marked->run.crew);
-    if (const auto next = std::find_if(marked, rows.end(), isOpen); next != rows.end())
+    const auto before = rows.begin() + *place;
+    if (isMarked)
+        m_stage->film().flash(before->run.crew);
+    const auto isOpen = [](const SlitRunRow& row) { return !row.run.seconds; };
+    if (const auto next = std::find_if(before, rows.end(), isOpen); next != rows.end())
         m_panel->runTable().choose(static_cast<int>(next - rows.begin()));
 }
 
@@ -433,8 +460,10 @@ void SlitWindow::moveMark(int run, double column) {
         return;
     if (const QString why = m_marking.mark(run, column, m_isFiner); !why.isEmpty())
         refuse(why);
-    else
+    else {
         m_stage->setHair(column);
+        tell(m_marking.tellMarkedAt(column, run));
+    }
     showRuns(); // where it was, if it was refused
 }
 

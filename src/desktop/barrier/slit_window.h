@@ -69,7 +69,8 @@ public:
     void stepRun(int step);
 
     // Marks.
-    /// Marks the run in front at the hair line, and goes on to the next one without a mark.
+    /// Marks the run in front at the hair line, and goes on to the next one without a mark. Whose
+    /// marks stand on that frame already is told; one of the run itself stays as it is.
     void mark();
     void unmark();
     void setFiner(bool isFiner);
@@ -112,8 +113,12 @@ private:
     void showState();
     void drawn(std::size_t line, const QPointF& first, const QPointF& second);
     void followRun();
+    void goToProposal(double seconds, int run);
+    /// Its place in the list; nothing for one that is not there.
+    [[nodiscard]] std::optional<int> placeOfRun(int run) const;
     void goToRun();
     void showMarks();
+    void goOn(bool isMarked);
     void moveMark(int run, double column);
 
     QString m_film;
