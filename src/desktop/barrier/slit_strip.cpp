@@ -1,5 +1,6 @@
 #include "desktop/barrier/slit_strip.h"
 
+#include "desktop/barrier/shaded_line.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/time_line.h"
 #include "desktop/shell/theme.h"
@@ -90,8 +91,7 @@ void SlitStrip::paintEvent(QPaintEvent*) {
                                  QImage::Format_RGB32));
     }
     const int now = m_line.placeOf(m_deck.position());
-    painter.setPen(StripHair);
-    painter.drawLine(now, 0, now, height());
+    drawShadedUpright(painter, now, rect(), StripHair, 1);
 }
 
 void SlitStrip::mousePressEvent(QMouseEvent* event) {
