@@ -364,6 +364,61 @@ TEST_F(SlitWindowTest, EnterOnceTooOftenIsTold) {
     EXPECT_THAT(window.told().toStdString(), Not(HasSubstr("Bo Fox")));
 }
 
+TEST_F(SlitWindowTest, UndoTakesBackLinesRefusalsAndMarksInTheirOrder) {
+    SlitWindow& window = openWithRace();
+    const QKeyCombination undo = Qt::CTRL | Qt::Key_Z;
+    const QKeyCombination redo = Qt::CTRL | Qt::SHIFT | Qt::Key_Z;
+    const auto refused = [&] { return window.line() ? window.line()->refused.size() : 0; };
+    window.search().keep(lineOf(*window.line()), boatOf(*window.line()), crossingsAt({0.4, 1.6}));
+    window.stage().setHair(20.5);
+    press(Qt::Key_Return);
+    ASSERT_EQ(markedFrame(0, 1), 20);
+    window.stage().setHair(80.5);
+    press(Qt::Key_Delete);
+    ASSERT_EQ(refused(), 1U);
+    press(Qt::Key_Return);
+    ASSERT_EQ(markedFrame(1, 1), 80);
+
+    press(undo);
+    EXPECT_EQ(markedFrame(1, 1), -1);
+    EXPECT_EQ(refused(), 1U);
+    press(undo);
+    EXPECT_EQ(refused(), 0U);
+    EXPECT_EQ(markedFrame(0, 1), 20);
+    press(undo);
+    EXPECT_EQ(markedFrame(0, 1), -1);
+    press(undo);
+    EXPECT_THAT(window.keeping().file().lines, IsEmpty());
+    for (int i = 0; i < 4; ++i)
+        press(redo);
+    EXPECT_EQ(refused(), 1U);
+    EXPECT_EQ(markedFrame(1, 1), 80);
+
+    // A line that is removed comes back, also in the file.
+    window.removeLine();
+    press(undo);
+    EXPECT_EQ(refused(), 1U);
+    disk::waitForAll();
+    const auto kept = readSlitFile(slitFileOf(film()));
+    ASSERT_TRUE(kept);
+    EXPECT_THAT(kept->lines, SizeIs(1));
+
+    // What is marked after split taking took its steps back is later than the lines.
+    window.turnArrow();
+    const bool isTurned = window.line()->fromLeft;
+    m_taking->undo();
+    m_taking->undo();
+    window.runTable().choose(2);
+    window.stage().setHair(90.5);
+    window.mark();
+    ASSERT_EQ(markedFrame(2, 1), 90);
+    press(undo);
+    EXPECT_EQ(markedFrame(2, 1), -1);
+    EXPECT_EQ(window.line()->fromLeft, isTurned);
+    press(undo);
+    EXPECT_EQ(window.line()->fromLeft, !isTurned);
+}
+
 /// Which of the two it is the figures of the search say.
 TEST_F(SlitWindowTest, AcceptAllMarksEveryRunInOneStepOrTellsWhyNot) {
     SlitWindow& window = openWithRace();

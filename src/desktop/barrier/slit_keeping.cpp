@@ -25,11 +25,20 @@ void SlitKeeping::open(const QString& film) {
                        "take its name.")
                         .arg(qtText(path.filename().string()), qtText(error.what())));
     }
+    emit opened();
     emit changed();
 }
 
 void SlitKeeping::edit(const std::function<void(slitfile001&)>& change) {
+    const slitfile001 before = m_file;
     change(m_file);
+    emit edited(before);
+    write();
+    emit changed();
+}
+
+void SlitKeeping::putBack(slitfile001 file) {
+    m_file = std::move(file);
     write();
     emit changed();
 }

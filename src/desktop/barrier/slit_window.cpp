@@ -325,16 +325,8 @@ void SlitWindow::stepLine(int step) {
             count);
 }
 
-/// What was refused on it goes with it, which cannot be taken back.
 void SlitWindow::removeLine() {
     if (!line())
-        return;
-    if (!line()->refused.empty() &&
-        !workspace().askBeforeLoss(
-            {"", tr("%1 proposals were refused on this line. They are forgotten with it.")
-                     .arg(line()->refused.size())
-                     .toStdString()},
-            tr("Remove the line"), this))
         return;
     m_run = -1;
     m_marking.remove();
@@ -484,6 +476,26 @@ void SlitWindow::refuseProposal() {
 
 void SlitWindow::forgetRefusals() {
     m_marking.edit([](slitline001& line) { line.refused.clear(); });
+}
+
+void SlitWindow::undoStep() {
+    const std::size_t lines = m_keeping.file().lines.size();
+    m_steps.undo();
+    followSteps(lines);
+}
+
+void SlitWindow::redoStep() {
+    const std::size_t lines = m_keeping.file().lines.size();
+    m_steps.redo();
+    followSteps(lines);
+}
+
+/// With a line that comes or goes, as with one that is drawn, the list of runs begins anew.
+void SlitWindow::followSteps(std::size_t lines) {
+    if (m_keeping.file().lines.size() == lines)
+        return;
+    m_run = -1;
+    showRuns();
 }
 
 void SlitWindow::searchBoats() {

@@ -6,6 +6,7 @@
 #include "desktop/barrier/slit_marking.h"
 #include "desktop/barrier/slit_race.h"
 #include "desktop/barrier/slit_saving.h"
+#include "desktop/barrier/slit_steps.h"
 #include "desktop/shell/tool_window.h"
 
 #include <optional>
@@ -41,6 +42,7 @@ public:
     [[nodiscard]] SlitKeeping& keeping() { return m_keeping; }
     [[nodiscard]] SlitLoader& loader() { return m_loader; }
     [[nodiscard]] SlitRace& race() { return m_race; }
+    [[nodiscard]] const SlitSteps& steps() const { return m_steps; }
     [[nodiscard]] CrossingSearch& search() { return m_search; }
     [[nodiscard]] FilmDeck& deck() const;
     [[nodiscard]] SlitView& view() const;
@@ -77,6 +79,9 @@ public:
     /// Refuses the proposal at the hair line for good.
     void refuseProposal();
     void forgetRefusals();
+    /// Takes back, or does again, the last that was done to lines, refusals and marks.
+    void undoStep();
+    void redoStep();
     void searchBoats();
     /// Why proposals cannot be accepted all at once; empty where they can.
     [[nodiscard]] QString lockOfAcceptAll() const { return SlitMarking::lock(); }
@@ -118,6 +123,7 @@ private:
     [[nodiscard]] std::optional<int> placeOfRun(int run) const;
     void goToRun();
     void showMarks();
+    void followSteps(std::size_t lines);
     void goOn(bool isMarked);
     void moveMark(int run, double column);
 
@@ -125,6 +131,7 @@ private:
     SlitKeeping m_keeping;
     SlitLoader m_loader;
     SlitRace m_race;
+    SlitSteps m_steps{m_keeping, m_race};
     CrossingSearch m_search;
     SlitSaving m_saving;
     SlitMarking m_marking;
