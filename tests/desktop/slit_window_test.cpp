@@ -501,6 +501,23 @@ TEST_F(SlitWindowTest, SplitTakingShowsTheStripAndAClickSeeks) {
     QTest::mouseClick(strip, Qt::LeftButton, {}, QPoint(place, strip->height() / 2));
     EXPECT_TRUE(QTest::qWaitFor([&] { return std::abs(taking.deck().position() - 1.2) < 0.1; },
                                 SlitPatience));
+
+    // With a line for each split it is that of the next one, though it was not drawn in that order.
+    slitfile001 file = readSlitFile(slitFileOf(film())).value();
+    file.lines.insert(file.lines.begin(), file.lines.front());
+    file.lines.front().split = 2;
+    writeSlitFile(file, slitFileOf(film()));
+    strip->follow();
+    EXPECT_EQ(strip->shownLine(), 1U) << "no split is marked";
+    const auto index = taking.deck().index(0);
+    ASSERT_TRUE(index);
+    RunMarks marks;
+    marks.marks.push_back({index->stampOf(20)});
+    taking.document().setMarks(0, "marked", marks);
+    EXPECT_EQ(strip->shownLine(), 0U);
+    taking.selectRun(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return strip->shownLine() == 1; }, SlitPatience))
+        << "of another run";
     taking.selectRun(3); // its film is not there
     EXPECT_TRUE(QTest::qWaitFor([&] { return !strip->isVisible(); }, SlitPatience));
 }
