@@ -72,6 +72,10 @@ double SlitMarking::secondsAt(double column) const {
     return m_index ? slitSecondsAt(*m_index, 0, column) : 0;
 }
 
+std::optional<double> SlitMarking::columnAt(double seconds) const {
+    return m_index ? std::optional(slitColumnAt(*m_index, 0, seconds)) : std::nullopt;
+}
+
 std::vector<Proposal> SlitMarking::proposals() const {
     return line() ? m_search.proposals(*line()) : std::vector<Proposal>();
 }

@@ -39,6 +39,9 @@ public:
     [[nodiscard]] QString draw(std::size_t number, const SlitLine& ends, const VideoFacts& film);
     void remove(); ///< the line in front
 
+    /// Where a moment of the film stands; nothing as long as not all of it is known.
+    [[nodiscard]] std::optional<double> columnAt(double seconds) const;
+
     /// What is proposed, without what was refused, in the order of time.
     [[nodiscard]] std::vector<Proposal> proposals() const;
     /// The one at a place, within half a second.

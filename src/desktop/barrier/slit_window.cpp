@@ -20,8 +20,6 @@
 #include <QSplitter>
 
 #include <algorithm>
-#include <cmath>
-#include <utility>
 
 namespace kavela::desktop {
 
@@ -58,6 +56,7 @@ SlitWindow::~SlitWindow() {
 
 void SlitWindow::makeParts() {
     m_panel = new SlitPanel;
+    m_front.emplace(m_marking, *m_stage, *m_panel);
     auto* const whole = new QSplitter;
     whole->setChildrenCollapsible(false);
     whole->setContentsMargins(theme::Spacing, theme::Spacing, theme::Spacing, theme::Spacing);
@@ -79,9 +78,10 @@ void SlitWindow::connectParts() {
     connect(&m_search, &CrossingSearch::changed, this, &SlitWindow::showRuns);
     connect(&m_search, &CrossingSearch::failed, this, &SlitWindow::tell);
     connect(&m_saving, &SlitSaving::told, this, &SlitWindow::tell);
-    connect(m_panel, &SlitPanel::runChosen, this, &SlitWindow::followRun);
-    connect(m_panel, &SlitPanel::runClicked, this, &SlitWindow::goToRun);
-    connect(m_panel, &SlitPanel::proposalChosen, this, &SlitWindow::goToProposal);
+    connect(m_panel, &SlitPanel::runChosen, this, [this] { m_front->follow(); });
+    connect(m_panel, &SlitPanel::runClicked, this, [this] { m_front->goToRun(); });
+    connect(m_panel, &SlitPanel::proposalChosen, this,
+            [this](double seconds, int run) { m_front->goToProposal(seconds, run); });
     connect(m_panel, &SlitPanel::raceWanted, this, [this] { emit raceRequested(raceOfFilm()); });
     connect(m_panel, &SlitPanel::finerChosen, this, &SlitWindow::setFiner);
 }
@@ -144,7 +144,7 @@ bool SlitWindow::open(const QString& path) {
     m_film = info.absoluteFilePath();
     m_marking.setNumber(0);
     m_marking.setIndex(nullptr);
-    m_run = -1;
+    m_front->leave();
     m_told.clear();
     m_loader.setFilm(nullptr);
     m_search.setFilm(nullptr);
@@ -176,7 +176,7 @@ void SlitWindow::takeFiles(const QStringList& paths) {
 }
 
 void SlitWindow::setRace(TakingDocument& document, ToolWindow& owner) {
-    m_run = -1;
+    m_front->leave();
     m_race.setDocument(document, owner);
     m_told.clear();
     showState();
@@ -229,16 +229,7 @@ void SlitWindow::showPicture() {
 }
 
 void SlitWindow::showRuns() {
-    std::vector<SlitGuess> guesses;
-    for (const Proposal& proposal : m_marking.proposals())
-        guesses.push_back({proposal.seconds, proposal.confidence});
-    view().setGuesses(std::move(guesses));
-    m_panel->showRows(m_marking.rows());
-    if (m_run < 0 && !m_panel->runs().empty()) {
-        m_panel->runTable().choose(0);
-        m_run = m_panel->runs().front().run.run; // also where it was chosen already
-    }
-    showMarks();
+    m_front->show();
     showState();
 }
 
@@ -297,7 +288,7 @@ void SlitWindow::drawn(std::size_t number, const QPointF& first, const QPointF& 
         return;
     const bool isNew = number >= m_keeping.file().lines.size();
     if (isNew || number != lineNumber())
-        m_run = -1;
+        m_front->leave();
     if (isNew) // what is dragged keeps the arrow keys
         view().setFocus();
     m_told.clear();
@@ -313,7 +304,7 @@ void SlitWindow::chooseLine(std::size_t number) {
     if (number >= m_keeping.file().lines.size() || number == lineNumber())
         return;
     m_marking.setNumber(number);
-    m_run = -1;
+    m_front->leave();
     showLines();
 }
 
@@ -328,7 +319,7 @@ void SlitWindow::stepLine(int step) {
 void SlitWindow::removeLine() {
     if (!line())
         return;
-    m_run = -1;
+    m_front->leave();
     m_marking.remove();
 }
 
@@ -337,73 +328,14 @@ void SlitWindow::turnArrow() {
 }
 
 void SlitWindow::setSplit(std::size_t split) {
-    m_run = -1;
+    m_front->leave();
     m_marking.edit([&](slitline001& line) { line.split = static_cast<std::int64_t>(split); });
 }
 
 void SlitWindow::stepProposal(int step) {
-    if (const auto to = m_marking.proposalBeside(view().hair(), step))
-        goToProposal(to->proposal.seconds, to->run);
-    else
+    if (!m_front->stepProposal(step))
         refuse(step < 0 ? tr("There is no proposal before this.")
                         : tr("There is no proposal behind this."));
-}
-
-/// The run that it is held for comes to the front, so that Enter marks that one.
-void SlitWindow::goToProposal(double seconds, int run) {
-    const auto index = m_loader.index();
-    if (!index)
-        return;
-    if (const auto place = placeOfRun(run)) {
-        m_run = run; // before the table tells: the hair line goes to the proposal alone
-        m_panel->runTable().choose(*place);
-        showMarks();
-    }
-    m_stage->setHair(slitColumnAt(*index, 0, seconds));
-}
-
-std::optional<int> SlitWindow::placeOfRun(int run) const {
-    const auto& rows = m_panel->runs();
-    const auto row =
-        std::ranges::find(rows, run, [](const SlitRunRow& each) { return each.run.run; });
-    return row != rows.end() ? std::optional(static_cast<int>(row - rows.begin())) : std::nullopt;
-}
-
-void SlitWindow::stepRun(int step) {
-    const int place = m_panel->runTable().currentPlace() + step;
-    if (place >= 0 && place < static_cast<int>(m_panel->runs().size()))
-        m_panel->runTable().choose(place);
-}
-
-/// The first run of a line comes to the front without anything else, another one with its place.
-void SlitWindow::followRun() {
-    const SlitRunRow* const row = m_panel->chosen();
-    if (!row || row->run.run == m_run)
-        return;
-    const bool wasNone = std::exchange(m_run, row->run.run) < 0;
-    showMarks();
-    if (!wasNone)
-        goToRun();
-}
-
-/// The hair line goes to where the run is marked, or may have crossed; else it stays.
-void SlitWindow::goToRun() {
-    const SlitRunRow* const row = m_panel->chosen();
-    const auto index = m_loader.index();
-    if (!row || !index)
-        return;
-    if (row->run.seconds)
-        m_stage->setHair(slitColumnAt(*index, 0, *row->run.seconds));
-    else if (row->proposal)
-        m_stage->setHair(slitColumnAt(*index, 0, row->proposal->seconds));
-}
-
-void SlitWindow::showMarks() {
-    std::vector<SlitMark> marks;
-    for (const SlitRunRow& row : m_panel->runs())
-        if (row.run.seconds)
-            marks.push_back({*row.run.seconds, row.run.crew, row.run.run, row.run.run == m_run});
-    view().setMarks(std::move(marks));
 }
 
 void SlitWindow::mark() {
@@ -417,34 +349,20 @@ void SlitWindow::mark() {
             refuse(tr("Marks need the race of this film: open it in split taking."));
         return;
     }
-    if (m_panel->runs().empty() || m_run < 0) {
+    if (m_panel->runs().empty() || m_front->run() < 0) {
         refuse(m_panel->runTable().emptyText());
         return;
     }
     const double place = view().hair();
-    const bool isThere = m_marking.isMarkedAt(m_run, place);
+    const bool isThere = m_marking.isMarkedAt(m_front->run(), place);
     const bool isMade = !isThere || m_isFiner; // finer times may differ within the frame
     if (isMade)
-        if (const QString why = m_marking.mark(m_run, place, m_isFiner); !why.isEmpty()) {
+        if (const QString why = m_marking.mark(m_front->run(), place, m_isFiner); !why.isEmpty()) {
             refuse(why);
             return;
         }
-    tell(m_marking.tellMarkedAt(place, isThere ? -1 : m_run));
-    goOn(isMade);
-}
-
-/// From the run in front to the next one behind it without a mark; it stays where none is.
-void SlitWindow::goOn(bool isMarked) {
-    const auto place = placeOfRun(m_run);
-    if (!place)
-        return;
-    const auto& rows = m_panel->runs();
-    const auto before = rows.begin() + *place;
-    if (isMarked)
-        m_stage->film().flash(before->run.crew);
-    const auto isOpen = [](const SlitRunRow& row) { return !row.run.seconds; };
-    if (const auto next = std::find_if(before, rows.end(), isOpen); next != rows.end())
-        m_panel->runTable().choose(static_cast<int>(next - rows.begin()));
+    tell(m_marking.tellMarkedAt(place, isThere ? -1 : m_front->run()));
+    m_front->goOn(isMade);
 }
 
 void SlitWindow::moveMark(int run, double column) {
@@ -460,7 +378,7 @@ void SlitWindow::moveMark(int run, double column) {
 }
 
 void SlitWindow::unmark() {
-    if (const QString why = m_marking.unmark(m_run); line() && !why.isEmpty())
+    if (const QString why = m_marking.unmark(m_front->run()); line() && !why.isEmpty())
         refuse(why);
 }
 
@@ -494,7 +412,7 @@ void SlitWindow::redoStep() {
 void SlitWindow::followSteps(std::size_t lines) {
     if (m_keeping.file().lines.size() == lines)
         return;
-    m_run = -1;
+    m_front->leave();
     showRuns();
 }
 

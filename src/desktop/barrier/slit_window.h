@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/barrier/crossing_search.h"
+#include "desktop/barrier/slit_front.h"
 #include "desktop/barrier/slit_keeping.h"
 #include "desktop/barrier/slit_loader.h"
 #include "desktop/barrier/slit_marking.h"
@@ -68,7 +69,7 @@ public:
     void setSplit(std::size_t split);
 
     void stepProposal(int step);
-    void stepRun(int step);
+    void stepRun(int step) { m_front->stepRun(step); }
 
     // Marks.
     /// Marks the run in front at the hair line, and goes on to the next one without a mark. Whose
@@ -117,14 +118,7 @@ private:
     void showRuns();
     void showState();
     void drawn(std::size_t line, const QPointF& first, const QPointF& second);
-    void followRun();
-    void goToProposal(double seconds, int run);
-    /// Its place in the list; nothing for one that is not there.
-    [[nodiscard]] std::optional<int> placeOfRun(int run) const;
-    void goToRun();
-    void showMarks();
     void followSteps(std::size_t lines);
-    void goOn(bool isMarked);
     void moveMark(int run, double column);
 
     QString m_film;
@@ -135,7 +129,7 @@ private:
     CrossingSearch m_search;
     SlitSaving m_saving;
     SlitMarking m_marking;
-    int m_run = -1; ///< of the race
+    std::optional<SlitFront> m_front; ///< once its parts are there
     bool m_isFiner = false;
     QString m_told;
     SlitStage* m_stage;
