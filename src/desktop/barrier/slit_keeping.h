@@ -28,8 +28,9 @@ public:
     void putBack(slitfile001 file);
 
 signals:
-    void opened();                          ///< the lines of another film
-    void edited(const slitfile001& before); ///< ahead of changed()
+    void opened(); ///< the lines of another film
+    /// Something is not as it was; ahead of changed().
+    void edited(const slitfile001& before);
     void changed();
     /// It could not be read or written, and why; the next change tries to write again.
     void failed(const QString& why);
