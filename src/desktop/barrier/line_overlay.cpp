@@ -1,5 +1,6 @@
 #include "desktop/barrier/line_overlay.h"
 
+#include "desktop/barrier/shaded_line.h"
 #include "desktop/shell/theme.h"
 
 #include <QKeyEvent>
@@ -29,14 +30,6 @@ double distanceTo(const QLineF& line, const QPointF& place) {
     const double along =
         square > 0 ? std::clamp(QPointF::dotProduct(place - line.p1(), way) / square, 0.0, 1.0) : 0;
     return QLineF(line.p1() + along * way, place).length();
-}
-
-/// Over light water and dark alike.
-void drawShaded(QPainter& painter, const QLineF& line, const QColor& colour, int width) {
-    painter.setPen(QPen(OverlayShade, width + 2));
-    painter.drawLine(line);
-    painter.setPen(QPen(colour, width));
-    painter.drawLine(line);
 }
 
 } // namespace

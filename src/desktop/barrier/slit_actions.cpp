@@ -89,13 +89,12 @@ void SlitActions::saveBands() {
 void SlitActions::makeEditMenu() {
     SlitWindow* const window = &m_window;
     QMenu* const menu = window->menuBar()->addMenu(tr("&Edit"));
-    const auto hasRace = [window] { return window->race().isThere(); };
     add(
-        *menu, tr("&Undo the mark"), {QKeySequence::Undo}, [window] { window->race().undo(); },
-        hasRace);
+        *menu, ToolWindow::tr("&Undo"), {QKeySequence::Undo}, [window] { window->undoStep(); },
+        [window] { return window->steps().canUndo(); });
     add(
-        *menu, tr("&Redo the mark"), {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)},
-        [window] { window->race().redo(); }, hasRace);
+        *menu, ToolWindow::tr("&Redo"), {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)},
+        [window] { window->redoStep(); }, [window] { return window->steps().canRedo(); });
 }
 
 void SlitActions::makeLineMenu() {

@@ -1,6 +1,7 @@
 #include "desktop/barrier/slit_keeping.h"
 
 #include "common/error.h"
+#include "common/json_encode.h"
 #include "common/kept_file.h"
 #include "desktop/shell/background_work.h"
 #include "desktop/shell/disk_worker.h"
@@ -25,11 +26,21 @@ void SlitKeeping::open(const QString& film) {
                        "take its name.")
                         .arg(qtText(path.filename().string()), qtText(error.what())));
     }
+    emit opened();
     emit changed();
 }
 
 void SlitKeeping::edit(const std::function<void(slitfile001&)>& change) {
+    const slitfile001 before = m_file;
     change(m_file);
+    if (encode(m_file) != encode(before)) // a click on a line moves it nowhere
+        emit edited(before);
+    write();
+    emit changed();
+}
+
+void SlitKeeping::putBack(slitfile001 file) {
+    m_file = std::move(file);
     write();
     emit changed();
 }

@@ -23,8 +23,14 @@ public:
     [[nodiscard]] const slitfile001& file() const { return m_file; }
     /// Changes and writes it.
     void edit(const std::function<void(slitfile001&)>& change);
+    /// The same for lines as they were before an edit, or after one that was taken back: not told
+    /// as another edit.
+    void putBack(slitfile001 file);
 
 signals:
+    void opened(); ///< the lines of another film
+    /// Something is not as it was; ahead of changed().
+    void edited(const slitfile001& before);
     void changed();
     /// It could not be read or written, and why; the next change tries to write again.
     void failed(const QString& why);

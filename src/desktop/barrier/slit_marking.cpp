@@ -72,6 +72,10 @@ double SlitMarking::secondsAt(double column) const {
     return m_index ? slitSecondsAt(*m_index, 0, column) : 0;
 }
 
+std::optional<double> SlitMarking::columnAt(double seconds) const {
+    return m_index ? std::optional(slitColumnAt(*m_index, 0, seconds)) : std::nullopt;
+}
+
 std::vector<Proposal> SlitMarking::proposals() const {
     return line() ? m_search.proposals(*line()) : std::vector<Proposal>();
 }
@@ -86,19 +90,19 @@ std::optional<Proposal> SlitMarking::proposalAt(double column) const {
     return nearest;
 }
 
-std::optional<double> SlitMarking::proposalBeside(double column, int step) const {
+std::optional<ProposalRow> SlitMarking::proposalBeside(double column, int step) const {
     if (!m_index)
         return std::nullopt;
     constexpr double Same = 1e-4;
     const double now = secondsAt(column);
-    std::optional<double> to;
-    for (const Proposal& proposal : proposals()) {
-        if (step < 0 && proposal.seconds < now - Same)
-            to = proposal.seconds;
-        if (step > 0 && proposal.seconds > now + Same && !to)
-            to = proposal.seconds;
+    std::optional<ProposalRow> to;
+    for (const ProposalRow& row : rows().proposals) {
+        if (step < 0 && row.proposal.seconds < now - Same)
+            to = row;
+        if (step > 0 && row.proposal.seconds > now + Same && !to)
+            to = row;
     }
-    return to ? std::optional(slitColumnAt(*m_index, 0, *to)) : std::nullopt;
+    return to;
 }
 
 SlitMarking::Rows SlitMarking::rows() const {
@@ -118,8 +122,11 @@ SlitMarking::Rows SlitMarking::rows() const {
     const auto owners = runsOfCrossings(crossings, marked);
     for (std::size_t i = 0; i < found.size(); ++i) {
         const auto owner = owners[i];
-        rows.proposals.push_back({found[i], owner ? rows.runs[*owner].run.crew : QString(),
-                                  owner && marked[*owner].has_value()});
+        if (owner)
+            rows.proposals.push_back({found[i], rows.runs[*owner].run.run,
+                                      rows.runs[*owner].run.crew, marked[*owner].has_value()});
+        else
+            rows.proposals.push_back({.proposal = found[i], .crew = {}});
         if (owner && !rows.runs[*owner].proposal)
             rows.runs[*owner].proposal = found[i];
     }
@@ -134,6 +141,33 @@ QString SlitMarking::mark(int run, double column, bool isFiner) {
     const double beside = secondsAt(column) - m_index->secondsOf(frame);
     return m_race.mark(run, split(), m_index->stampOf(frame),
                        isFiner ? std::optional(beside) : std::nullopt);
+}
+
+std::vector<SlitRun> SlitMarking::markedAt(double column) const {
+    std::vector<SlitRun> marked;
+    if (!m_index || m_index->frameCount() == 0 || !line())
+        return marked;
+    const FrameNumber frame = slitFrameAt(*m_index, 0, column);
+    for (SlitRun& run : m_race.runs(split()))
+        if (run.seconds &&
+            slitFrameAt(*m_index, 0, slitColumnAt(*m_index, 0, *run.seconds)) == frame)
+            marked.push_back(std::move(run));
+    return marked;
+}
+
+bool SlitMarking::isMarkedAt(int run, double column) const {
+    const auto marked = markedAt(column);
+    return std::ranges::find(marked, run, &SlitRun::run) != marked.end();
+}
+
+QString SlitMarking::tellMarkedAt(double column, int butFor) const {
+    QStringList crews;
+    for (const SlitRun& run : markedAt(column))
+        if (run.run != butFor)
+            crews.append(run.crew);
+    return crews.isEmpty()
+               ? QString()
+               : tr("On this frame stands the mark of %1.").arg(crews.join(QStringLiteral(", ")));
 }
 
 QString SlitMarking::unmark(int run) {

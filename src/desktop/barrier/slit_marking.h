@@ -39,12 +39,15 @@ public:
     [[nodiscard]] QString draw(std::size_t number, const SlitLine& ends, const VideoFacts& film);
     void remove(); ///< the line in front
 
+    /// Where a moment of the film stands; nothing as long as not all of it is known.
+    [[nodiscard]] std::optional<double> columnAt(double seconds) const;
+
     /// What is proposed, without what was refused, in the order of time.
     [[nodiscard]] std::vector<Proposal> proposals() const;
     /// The one at a place, within half a second.
     [[nodiscard]] std::optional<Proposal> proposalAt(double column) const;
-    /// The place of the next one, or of the one before.
-    [[nodiscard]] std::optional<double> proposalBeside(double column, int step) const;
+    /// The next one, or the one before, with the run that it falls to.
+    [[nodiscard]] std::optional<ProposalRow> proposalBeside(double column, int step) const;
 
     struct Rows {
         std::vector<SlitRunRow> runs;
@@ -52,6 +55,12 @@ public:
     };
     /// The runs at this line, and what falls to each.
     [[nodiscard]] Rows rows() const;
+
+    /// The runs whose marks at this line stand on the frame of a place.
+    [[nodiscard]] std::vector<SlitRun> markedAt(double column) const;
+    [[nodiscard]] bool isMarkedAt(int run, double column) const;
+    /// Names them but for one, below 0 for none; empty where there are none.
+    [[nodiscard]] QString tellMarkedAt(double column, int butFor) const;
 
     // Each returns why it was not done; empty where it was.
     [[nodiscard]] QString mark(int run, double column, bool isFiner);

@@ -51,8 +51,11 @@ SlitPanel::SlitPanel()
     connect(m_runTable, &ColumnTable::chosen, this, &SlitPanel::runChosen);
     connect(m_runTable, &ColumnTable::clicked, this, &SlitPanel::runClicked);
     connect(m_proposalTable, &ColumnTable::clicked, this, [this] {
-        if (const int place = m_proposalTable->currentPlace(); place >= 0)
-            emit proposalChosen(m_proposals.row(place).proposal.seconds);
+        const int place = m_proposalTable->currentPlace();
+        if (place < 0)
+            return;
+        const ProposalRow row = m_proposals.row(place); // who listens may show other rows
+        emit proposalChosen(row.proposal.seconds, row.run);
     });
 }
 

@@ -45,7 +45,8 @@ signals:
     void finerChosen(bool isFiner);
     void runChosen();  ///< another one is the current row
     void runClicked(); ///< or the same again
-    void proposalChosen(double seconds);
+    /// With the run of the race that it falls to, below 0 for none.
+    void proposalChosen(double seconds, int run);
 
 private:
     void makeLayout();

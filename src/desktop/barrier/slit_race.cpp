@@ -5,6 +5,7 @@
 #include "splittaking/film_crossings.h"
 
 #include <QFileInfo>
+#include <QUndoStack>
 
 #include <utility>
 
@@ -16,18 +17,23 @@ void SlitRace::setFilm(const QString& film) {
 }
 
 void SlitRace::setDocument(TakingDocument& document, ToolWindow& owner) {
-    if (m_document)
+    if (m_document) {
         m_document->disconnect(this);
+        m_document->undoStack().disconnect(this);
+    }
     m_document = &document;
     m_owner = &owner;
     connect(&document, &TakingDocument::changed, this, &SlitRace::changed);
+    connect(&document.undoStack(), &QUndoStack::indexChanged, this, &SlitRace::stepped);
     connect(&document, &QObject::destroyed, this, &SlitRace::leave);
+    emit replaced();
     emit changed();
 }
 
 /// Split taking was closed; what it held is saved or given up there.
 void SlitRace::leave() {
     m_document = nullptr;
+    emit replaced();
     emit changed();
 }
 

@@ -55,6 +55,8 @@ public:
 
 signals:
     void changed();
+    void stepped(int steps); ///< how many steps of the document are taken now
+    void replaced();         ///< by another document, or by none
 
 private:
     void leave();

@@ -1,5 +1,6 @@
 #include "desktop/barrier/slit_strip.h"
 
+#include "desktop/barrier/shaded_line.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/time_line.h"
 #include "desktop/shell/theme.h"
@@ -8,8 +9,8 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <optional>
 #include <stdexcept>
+#include <utility>
 
 namespace kavela::desktop {
 
@@ -18,14 +19,13 @@ namespace {
 constexpr int StripPixels = 44;
 constexpr QColor StripHair{0xFF, 0xE0, 0x40};
 
-/// The first line of a film; a file that cannot be read is told where lines are drawn.
-std::optional<SlitLine> firstLineOf(const QString& film) {
+/// The lines of a film; a file that cannot be read is told where lines are drawn.
+std::vector<slitline001> stripLinesOf(const QString& film) {
     try {
-        const auto file = readSlitFile(slitFileOf(film.toStdString()));
-        return file && !file->lines.empty() ? std::optional(lineOf(file->lines.front()))
-                                            : std::nullopt;
+        auto file = readSlitFile(slitFileOf(film.toStdString()));
+        return file ? std::move(file->lines) : std::vector<slitline001>();
     } catch (const std::runtime_error&) {
-        return std::nullopt;
+        return {};
     }
 }
 
@@ -53,10 +53,32 @@ QSize SlitStrip::sizeHint() const {
 
 void SlitStrip::follow() {
     const auto index = m_deck.films().isEmpty() ? nullptr : m_deck.index(0);
-    const auto line = index ? firstLineOf(m_deck.films().constFirst()) : std::nullopt;
-    m_loader.setLines(line ? std::vector{*line} : std::vector<SlitLine>());
-    m_loader.setFilm(line && index->isComplete() ? index : nullptr);
-    setVisible(line.has_value());
+    const auto lines =
+        index ? stripLinesOf(m_deck.films().constFirst()) : std::vector<slitline001>();
+    std::vector<SlitLine> drawn;
+    m_splits.clear();
+    for (const slitline001& line : lines) {
+        drawn.push_back(lineOf(line));
+        m_splits.push_back(line.split);
+    }
+    m_loader.setLines(drawn);
+    m_loader.setFilm(!lines.empty() && index->isComplete() ? index : nullptr);
+    setVisible(!lines.empty());
+    update();
+}
+
+void SlitStrip::setNextSplit(std::size_t split) {
+    m_next = static_cast<std::int64_t>(split);
+    update();
+}
+
+std::size_t SlitStrip::shownLine() const {
+    std::size_t shown = 0;
+    for (std::size_t line = 0; line < m_splits.size(); ++line)
+        if (m_splits[line] >= m_next &&
+            (m_splits[shown] < m_next || m_splits[line] < m_splits[shown]))
+            shown = line;
+    return shown;
 }
 
 /// Lines are drawn in another window: who comes back from there finds them.
@@ -78,7 +100,7 @@ void SlitStrip::paintEvent(QPaintEvent*) {
     const auto& index = m_loader.index();
     if (!index)
         return;
-    for (const auto& tile : m_loader.picture(0).tiles) {
+    for (const auto& tile : m_loader.picture(shownLine()).tiles) {
         const double first = static_cast<double>(tile->first);
         const int left = m_line.placeOf(slitSecondsAt(*index, 0, first));
         const int right = m_line.placeOf(slitSecondsAt(*index, 0, first + tile->columns));
@@ -90,8 +112,7 @@ void SlitStrip::paintEvent(QPaintEvent*) {
                                  QImage::Format_RGB32));
     }
     const int now = m_line.placeOf(m_deck.position());
-    painter.setPen(StripHair);
-    painter.drawLine(now, 0, now, height());
+    drawShadedUpright(painter, now, rect(), StripHair, 1);
 }
 
 void SlitStrip::mousePressEvent(QMouseEvent* event) {

@@ -18,7 +18,8 @@ struct SlitRunRow {
 /// A place where a boat may have crossed.
 struct ProposalRow {
     Proposal proposal;
-    QString crew; ///< of the run that it falls to; empty for none
+    int run = -1; ///< of the race, that it falls to; below 0 for none
+    QString crew; ///< of that run; empty for none
     bool isMarked = false;
 };
 

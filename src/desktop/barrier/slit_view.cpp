@@ -1,5 +1,6 @@
 #include "desktop/barrier/slit_view.h"
 
+#include "desktop/barrier/shaded_line.h"
 #include "desktop/shell/growth.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
@@ -318,8 +319,7 @@ void SlitView::paintGuesses(QPainter& painter) const {
         const double x = placeOf(columnOf(guess.seconds));
         if (x < -50 || x > width() + 50)
             continue;
-        painter.setPen(QPen(GuessColour, 1, Qt::DashLine));
-        painter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
+        drawShadedUpright(painter, x, area, GuessColour, 1, Qt::DashLine);
         paintLabel(painter, x, area.bottom() - grown(*this, SlitLabelHeight),
                    tr("%1 %").arg(std::lround(guess.confidence * 100)), GuessColour);
     }
@@ -332,8 +332,7 @@ void SlitView::paintMarks(QPainter& painter) const {
         const double x = placeOf(isDragged ? m_draggedTo : columnOf(mark.seconds));
         if (x < -150 || x > width() + 150)
             continue;
-        painter.setPen(QPen(MarkColour, mark.isCurrent ? 3 : 1));
-        painter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
+        drawShadedUpright(painter, x, area, MarkColour, mark.isCurrent ? 3 : 1);
         paintLabel(painter, x, area.top() + grown(*this, SlitLabelHeight) + 2, mark.label,
                    MarkColour);
     }
@@ -342,8 +341,7 @@ void SlitView::paintMarks(QPainter& painter) const {
 void SlitView::paintHair(QPainter& painter) const {
     const QRect area = this->area();
     const double x = placeOf(m_hair);
-    painter.setPen(HairColour);
-    painter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
+    drawShadedUpright(painter, x, area, HairColour, 1);
     const FrameNumber frame = slitFrameAt(*m_index, 0, m_hair);
     const double beside = m_hair - static_cast<double>(frame) - 0.5;
     QString text =

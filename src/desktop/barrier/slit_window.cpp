@@ -20,8 +20,6 @@
 #include <QSplitter>
 
 #include <algorithm>
-#include <cmath>
-#include <utility>
 
 namespace kavela::desktop {
 
@@ -58,6 +56,7 @@ SlitWindow::~SlitWindow() {
 
 void SlitWindow::makeParts() {
     m_panel = new SlitPanel;
+    m_front.emplace(m_marking, *m_stage, *m_panel);
     auto* const whole = new QSplitter;
     whole->setChildrenCollapsible(false);
     whole->setContentsMargins(theme::Spacing, theme::Spacing, theme::Spacing, theme::Spacing);
@@ -79,12 +78,10 @@ void SlitWindow::connectParts() {
     connect(&m_search, &CrossingSearch::changed, this, &SlitWindow::showRuns);
     connect(&m_search, &CrossingSearch::failed, this, &SlitWindow::tell);
     connect(&m_saving, &SlitSaving::told, this, &SlitWindow::tell);
-    connect(m_panel, &SlitPanel::runChosen, this, &SlitWindow::followRun);
-    connect(m_panel, &SlitPanel::runClicked, this, &SlitWindow::goToRun);
-    connect(m_panel, &SlitPanel::proposalChosen, this, [this](double seconds) {
-        if (m_loader.index())
-            m_stage->setHair(slitColumnAt(*m_loader.index(), 0, seconds));
-    });
+    connect(m_panel, &SlitPanel::runChosen, this, [this] { m_front->follow(); });
+    connect(m_panel, &SlitPanel::runClicked, this, [this] { m_front->goToRun(); });
+    connect(m_panel, &SlitPanel::proposalChosen, this,
+            [this](double seconds, int run) { m_front->goToProposal(seconds, run); });
     connect(m_panel, &SlitPanel::raceWanted, this, [this] { emit raceRequested(raceOfFilm()); });
     connect(m_panel, &SlitPanel::finerChosen, this, &SlitWindow::setFiner);
 }
@@ -147,7 +144,7 @@ bool SlitWindow::open(const QString& path) {
     m_film = info.absoluteFilePath();
     m_marking.setNumber(0);
     m_marking.setIndex(nullptr);
-    m_run = -1;
+    m_front->leave();
     m_told.clear();
     m_loader.setFilm(nullptr);
     m_search.setFilm(nullptr);
@@ -179,7 +176,7 @@ void SlitWindow::takeFiles(const QStringList& paths) {
 }
 
 void SlitWindow::setRace(TakingDocument& document, ToolWindow& owner) {
-    m_run = -1;
+    m_front->leave();
     m_race.setDocument(document, owner);
     m_told.clear();
     showState();
@@ -232,16 +229,7 @@ void SlitWindow::showPicture() {
 }
 
 void SlitWindow::showRuns() {
-    std::vector<SlitGuess> guesses;
-    for (const Proposal& proposal : m_marking.proposals())
-        guesses.push_back({proposal.seconds, proposal.confidence});
-    view().setGuesses(std::move(guesses));
-    m_panel->showRows(m_marking.rows());
-    if (m_run < 0 && !m_panel->runs().empty()) {
-        m_panel->runTable().choose(0);
-        m_run = m_panel->runs().front().run.run; // also where it was chosen already
-    }
-    showMarks();
+    m_front->show();
     showState();
 }
 
@@ -300,7 +288,7 @@ void SlitWindow::drawn(std::size_t number, const QPointF& first, const QPointF& 
         return;
     const bool isNew = number >= m_keeping.file().lines.size();
     if (isNew || number != lineNumber())
-        m_run = -1;
+        m_front->leave();
     if (isNew) // what is dragged keeps the arrow keys
         view().setFocus();
     m_told.clear();
@@ -316,7 +304,7 @@ void SlitWindow::chooseLine(std::size_t number) {
     if (number >= m_keeping.file().lines.size() || number == lineNumber())
         return;
     m_marking.setNumber(number);
-    m_run = -1;
+    m_front->leave();
     showLines();
 }
 
@@ -328,18 +316,10 @@ void SlitWindow::stepLine(int step) {
             count);
 }
 
-/// What was refused on it goes with it, which cannot be taken back.
 void SlitWindow::removeLine() {
     if (!line())
         return;
-    if (!line()->refused.empty() &&
-        !workspace().askBeforeLoss(
-            {"", tr("%1 proposals were refused on this line. They are forgotten with it.")
-                     .arg(line()->refused.size())
-                     .toStdString()},
-            tr("Remove the line"), this))
-        return;
-    m_run = -1;
+    m_front->leave();
     m_marking.remove();
 }
 
@@ -348,53 +328,14 @@ void SlitWindow::turnArrow() {
 }
 
 void SlitWindow::setSplit(std::size_t split) {
-    m_run = -1;
+    m_front->leave();
     m_marking.edit([&](slitline001& line) { line.split = static_cast<std::int64_t>(split); });
 }
 
 void SlitWindow::stepProposal(int step) {
-    if (const auto to = m_marking.proposalBeside(view().hair(), step))
-        m_stage->setHair(*to);
-    else
+    if (!m_front->stepProposal(step))
         refuse(step < 0 ? tr("There is no proposal before this.")
                         : tr("There is no proposal behind this."));
-}
-
-void SlitWindow::stepRun(int step) {
-    const int place = m_panel->runTable().currentPlace() + step;
-    if (place >= 0 && place < static_cast<int>(m_panel->runs().size()))
-        m_panel->runTable().choose(place);
-}
-
-/// The first run of a line comes to the front without anything else, another one with its place.
-void SlitWindow::followRun() {
-    const SlitRunRow* const row = m_panel->chosen();
-    if (!row || row->run.run == m_run)
-        return;
-    const bool wasNone = std::exchange(m_run, row->run.run) < 0;
-    showMarks();
-    if (!wasNone)
-        goToRun();
-}
-
-/// The hair line goes to where the run is marked, or may have crossed; else it stays.
-void SlitWindow::goToRun() {
-    const SlitRunRow* const row = m_panel->chosen();
-    const auto index = m_loader.index();
-    if (!row || !index)
-        return;
-    if (row->run.seconds)
-        m_stage->setHair(slitColumnAt(*index, 0, *row->run.seconds));
-    else if (row->proposal)
-        m_stage->setHair(slitColumnAt(*index, 0, row->proposal->seconds));
-}
-
-void SlitWindow::showMarks() {
-    std::vector<SlitMark> marks;
-    for (const SlitRunRow& row : m_panel->runs())
-        if (row.run.seconds)
-            marks.push_back({*row.run.seconds, row.run.crew, row.run.run, row.run.run == m_run});
-    view().setMarks(std::move(marks));
 }
 
 void SlitWindow::mark() {
@@ -408,24 +349,20 @@ void SlitWindow::mark() {
             refuse(tr("Marks need the race of this film: open it in split taking."));
         return;
     }
-    if (m_panel->runs().empty() || m_run < 0) {
+    if (m_panel->runs().empty() || m_front->run() < 0) {
         refuse(m_panel->runTable().emptyText());
         return;
     }
-    const auto isInFront = [this](const SlitRunRow& row) { return row.run.run == m_run; };
-    const auto isOpen = [](const SlitRunRow& row) { return !row.run.seconds; };
-    if (const QString why = m_marking.mark(m_run, view().hair(), m_isFiner); !why.isEmpty()) {
-        refuse(why);
-        return;
-    }
-    tell({});
-    const auto& rows = m_panel->runs();
-    const auto marked = std::ranges::find_if(rows, isInFront);
-    if (marked == rows.end())
-        return;
-    m_stage->film().flash(marked->run.crew);
-    if (const auto next = std::find_if(marked, rows.end(), isOpen); next != rows.end())
-        m_panel->runTable().choose(static_cast<int>(next - rows.begin()));
+    const double place = view().hair();
+    const bool isThere = m_marking.isMarkedAt(m_front->run(), place);
+    const bool isMade = !isThere || m_isFiner; // finer times may differ within the frame
+    if (isMade)
+        if (const QString why = m_marking.mark(m_front->run(), place, m_isFiner); !why.isEmpty()) {
+            refuse(why);
+            return;
+        }
+    tell(m_marking.tellMarkedAt(place, isThere ? -1 : m_front->run()));
+    m_front->goOn(isMade);
 }
 
 void SlitWindow::moveMark(int run, double column) {
@@ -433,13 +370,15 @@ void SlitWindow::moveMark(int run, double column) {
         return;
     if (const QString why = m_marking.mark(run, column, m_isFiner); !why.isEmpty())
         refuse(why);
-    else
+    else {
         m_stage->setHair(column);
+        tell(m_marking.tellMarkedAt(column, run));
+    }
     showRuns(); // where it was, if it was refused
 }
 
 void SlitWindow::unmark() {
-    if (const QString why = m_marking.unmark(m_run); line() && !why.isEmpty())
+    if (const QString why = m_marking.unmark(m_front->run()); line() && !why.isEmpty())
         refuse(why);
 }
 
@@ -455,6 +394,26 @@ void SlitWindow::refuseProposal() {
 
 void SlitWindow::forgetRefusals() {
     m_marking.edit([](slitline001& line) { line.refused.clear(); });
+}
+
+void SlitWindow::undoStep() {
+    const std::size_t lines = m_keeping.file().lines.size();
+    m_steps.undo();
+    followSteps(lines);
+}
+
+void SlitWindow::redoStep() {
+    const std::size_t lines = m_keeping.file().lines.size();
+    m_steps.redo();
+    followSteps(lines);
+}
+
+/// With a line that comes or goes, as with one that is drawn, the list of runs begins anew.
+void SlitWindow::followSteps(std::size_t lines) {
+    if (m_keeping.file().lines.size() == lines)
+        return;
+    m_front->leave();
+    showRuns();
 }
 
 void SlitWindow::searchBoats() {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "desktop/barrier/crossing_search.h"
+#include "desktop/barrier/slit_front.h"
 #include "desktop/barrier/slit_keeping.h"
 #include "desktop/barrier/slit_loader.h"
 #include "desktop/barrier/slit_marking.h"
 #include "desktop/barrier/slit_race.h"
 #include "desktop/barrier/slit_saving.h"
+#include "desktop/barrier/slit_steps.h"
 #include "desktop/shell/tool_window.h"
 
 #include <optional>
@@ -41,6 +43,7 @@ public:
     [[nodiscard]] SlitKeeping& keeping() { return m_keeping; }
     [[nodiscard]] SlitLoader& loader() { return m_loader; }
     [[nodiscard]] SlitRace& race() { return m_race; }
+    [[nodiscard]] const SlitSteps& steps() const { return m_steps; }
     [[nodiscard]] CrossingSearch& search() { return m_search; }
     [[nodiscard]] FilmDeck& deck() const;
     [[nodiscard]] SlitView& view() const;
@@ -66,16 +69,20 @@ public:
     void setSplit(std::size_t split);
 
     void stepProposal(int step);
-    void stepRun(int step);
+    void stepRun(int step) { m_front->stepRun(step); }
 
     // Marks.
-    /// Marks the run in front at the hair line, and goes on to the next one without a mark.
+    /// Marks the run in front at the hair line, and goes on to the next one without a mark. Whose
+    /// marks stand on that frame already is told; one of the run itself stays as it is.
     void mark();
     void unmark();
     void setFiner(bool isFiner);
     /// Refuses the proposal at the hair line for good.
     void refuseProposal();
     void forgetRefusals();
+    /// Takes back, or does again, the last that was done to lines, refusals and marks.
+    void undoStep();
+    void redoStep();
     void searchBoats();
     /// Why proposals cannot be accepted all at once; empty where they can.
     [[nodiscard]] QString lockOfAcceptAll() const { return SlitMarking::lock(); }
@@ -111,19 +118,18 @@ private:
     void showRuns();
     void showState();
     void drawn(std::size_t line, const QPointF& first, const QPointF& second);
-    void followRun();
-    void goToRun();
-    void showMarks();
+    void followSteps(std::size_t lines);
     void moveMark(int run, double column);
 
     QString m_film;
     SlitKeeping m_keeping;
     SlitLoader m_loader;
     SlitRace m_race;
+    SlitSteps m_steps{m_keeping, m_race};
     CrossingSearch m_search;
     SlitSaving m_saving;
     SlitMarking m_marking;
-    int m_run = -1; ///< of the race
+    std::optional<SlitFront> m_front; ///< once its parts are there
     bool m_isFiner = false;
     QString m_told;
     SlitStage* m_stage;

@@ -131,7 +131,8 @@ void TakingWindow::makeStage() {
     m_notes = new NotesPanel({m_document, deck(), workspace(), *m_gates, *m_clips, m_run, {}},
                              m_stage->line(), *m_form);
     m_stage->addAbove(m_notes->bar());
-    m_stage->addOverLine(*new SlitStrip(deck(), m_stage->line())); // the stage owns it
+    m_slit = new SlitStrip(deck(), m_stage->line());
+    m_stage->addOverLine(*m_slit); // which owns it
     m_stage->addBelow(m_notes->lanes());
     m_stage->addBelow(*m_times);
     m_stage->addBelow(*m_gates);
@@ -270,6 +271,7 @@ void TakingWindow::showDocument() {
     m_splits->follow();
     m_gates->setCourse(static_cast<int>(m_document.info().gates), m_document.info().upGates);
     showGates();
+    showNextSplit();
     m_shown->show();
     m_race.show(timesOf(m_document.value()), m_document.path());
     m_actions->refresh();
@@ -278,6 +280,13 @@ void TakingWindow::showDocument() {
 void TakingWindow::showGates() {
     m_gates->setPenalties(m_run < 0 ? std::vector<std::int64_t>()
                                     : m_document.run(m_run).sectioninfo.pens);
+}
+
+/// The first press marks the start.
+void TakingWindow::showNextSplit() {
+    const RunMarks marks = m_splits->runMarks();
+    const bool isStarted = marks.start || !marks.marks.empty();
+    m_slit->setNextSplit(isStarted ? marks.marks.size() + 1 : 0);
 }
 
 /// Presses that wait for their frame belong to what is in front now.
@@ -332,6 +341,7 @@ void TakingWindow::showRun(int run) {
     m_gates->setCurrent(1);
     if (run >= 0)
         showGates();
+    showNextSplit();
     m_shown->show();
     m_day->followRun();
     if (m_recording)

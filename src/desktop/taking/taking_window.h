@@ -28,6 +28,7 @@ class NotesPanel;
 class RecordingDialog;
 class RunFilms;
 class RunForm;
+class SlitStrip;
 class SplitBar;
 class SplitMode;
 class SplitsShown;
@@ -112,6 +113,7 @@ private:
     void showRuns();
     void showDocument();
     void showGates();
+    void showNextSplit();
     void goOn();
     void playTableCell(const QModelIndex& index);
 
@@ -122,6 +124,7 @@ private:
     RaceDocument m_race; ///< of the table below
     SplitTableModel m_tableModel;
     FilmStage* m_stage;
+    SlitStrip* m_slit = nullptr; ///< over the time line
     TakingActions* m_actions = nullptr;
     int m_run = -1;
     RunIdentity m_identity; ///< of the run in front
