@@ -15385,7 +15385,7 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
         <translation>&amp;Zrušit porovnání</translation>
     </message>
     <message>
-        <source>C&amp;harts</source>
+        <source>Ch&amp;arts</source>
         <translation>&amp;Grafy</translation>
     </message>
     <message>

@@ -15338,7 +15338,7 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
         <translation>Vergleich &amp;aufheben</translation>
     </message>
     <message>
-        <source>C&amp;harts</source>
+        <source>Ch&amp;arts</source>
         <translation>D&amp;iagramme</translation>
     </message>
     <message>

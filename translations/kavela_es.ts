@@ -15338,7 +15338,7 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
         <translation>&amp;Quitar la comparación</translation>
     </message>
     <message>
-        <source>C&amp;harts</source>
+        <source>Ch&amp;arts</source>
         <translation>&amp;Gráficos</translation>
     </message>
     <message>

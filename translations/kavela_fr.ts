@@ -15338,7 +15338,7 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
         <translation>&amp;Effacer la comparaison</translation>
     </message>
     <message>
-        <source>C&amp;harts</source>
+        <source>Ch&amp;arts</source>
         <translation>&amp;Graphiques</translation>
     </message>
     <message>

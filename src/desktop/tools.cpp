@@ -16,6 +16,7 @@
 #include "desktop/sessions/session_window.h"
 #include "desktop/sessions/test_session_window.h"
 #include "desktop/share/share_window.h"
+#include "desktop/shell/menu_keys.h"
 #include "desktop/tables/tables_window.h"
 #include "desktop/taking/taking_window.h"
 #include "desktop/team/team_window.h"
@@ -26,6 +27,7 @@
 
 #include <QCoreApplication>
 #include <QDate>
+#include <QMenuBar>
 
 #include <algorithm>
 #include <utility>
@@ -40,14 +42,20 @@ QString tr(const char* text) {
     return QCoreApplication::translate("Desktop", text);
 }
 
+/// Its menus are of many classes, which do not know each other's letters.
+ToolWindow* withPartedKeys(ToolWindow* window) {
+    partMenuKeys(window->menuBar()->actions());
+    return window;
+}
+
 template <class Window>
 ToolWindow* makeEditor(Workspace& workspace, const Autosave& autosave) {
-    return new Window(workspace, autosave);
+    return withPartedKeys(new Window(workspace, autosave));
 }
 
 template <class Window>
 ToolWindow* makeReader(Workspace& workspace, const Autosave& /*autosave*/) {
-    return new Window(workspace);
+    return withPartedKeys(new Window(workspace));
 }
 
 /// What cameras write beside mp4.

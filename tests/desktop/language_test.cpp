@@ -3,6 +3,7 @@
 #include "common/temp_folder.h"
 #include "common/text.h"
 #include "desktop/shell/autosave.h"
+#include "desktop/shell/menu_keys.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/settings_window.h"
 #include "desktop/shell/tool_window.h"
@@ -179,6 +180,24 @@ TEST_F(LanguageTest, ThatIsOfferedHasNoKeyTwiceAndFitsTheScreen) {
             EXPECT_LE(window->minimumSizeHint().height(), 800) << where.toStdString();
         }
     }
+}
+
+TEST(MenuKeys, ArePartedInEveryMenu) {
+    QMenu menu;
+    menu.addAction("&Salida");
+    menu.addAction("&Series de hoy");
+    menu.addAction("&Sss && &sa"); // its second letter stands for nothing
+    menu.addAction("&Ó");
+    QMenu* const below = menu.addMenu("&Hoja");
+    below->addAction("&Salida");
+    below->addAction("Todas\tCtrl+S");
+    desktop::partMenuKeys(menu.actions());
+    QStringList texts;
+    for (const QAction* const action : menu.actions())
+        texts << action->text();
+    EXPECT_EQ(texts.join('|').toStdString(), "&Salida|Series &de hoy|Sss && s&a|&Ó|&Hoja");
+    EXPECT_EQ(below->actions().first()->text().toStdString(), "&Salida") << "a menu of its own";
+    EXPECT_EQ(below->actions().last()->text().toStdString(), "Todas\tCtrl+S");
 }
 
 TEST(DoubledKeys, AreFoundInMenusBelow) {

@@ -221,7 +221,7 @@ void RaceActions::compareFilms(const RaceView& view) {
 /// Of the window and not of the charts: their keys are meant from the table too, and where races
 /// stand side by side for the one in front.
 void RaceActions::makeChartMenu() {
-    QMenu* menu = m_window.menuBar()->addMenu(tr("C&harts"));
+    QMenu* menu = m_window.menuBar()->addMenu(tr("Ch&arts"));
     const QStringList titles{tr("&Gaps along the course"), tr("T&imes of the sections"),
                              tr("P&enalties at the gates"), tr("&Totals")};
     for (int index = 0; index < titles.size(); ++index)
