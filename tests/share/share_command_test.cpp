@@ -114,6 +114,48 @@ TEST_F(ShareCommand, TellsAFullServerAndTakesWhatIsThere) {
                 AllOf(HasSubstr("here.kvx"), HasSubstr("server is full")));
 }
 
+/// Every operation on the coach's folder meets a full disk in turn.
+TEST_F(ShareCommand, LeavesNoHalfFileOnAFullDisk) {
+    serve(answer("201 Created"));
+    const TempFolder reports;
+    const fs::path struck = reports.path() / "struck";
+    constexpr int MostOperations = 60;
+    bool wasFull = false;
+    int at = 1;
+    for (; at <= MostOperations; ++at) {
+        SCOPED_TRACE(at);
+        fs::remove(struck);
+        const Program env("/usr/bin/env");
+        const fs::path mine = env.folder().path() / "mine";
+        fs::create_directory(mine);
+        Ending ending;
+        waitBeside([&] {
+            ending = env.call({std::string("LD_PRELOAD=") + KAVELA_FAULT_SHIM,
+                               "ASAN_OPTIONS=verify_asan_link_order=0:detect_leaks=0",
+                               "KAVELA_FAULT_FOLDER=" + mine.string(),
+                               "KAVELA_FAULT_AT=" + std::to_string(at), "KAVELA_FAULT_KIND=short",
+                               "KAVELA_FAULT_LARGE=1", "KAVELA_FAULT_REPORT=" + struck.string(),
+                               KAVELA_PROGRAM, "share", "mine", "--to", server.address("/dav/")});
+        });
+        const bool isWhole = ending.status == 0;
+        EXPECT_EQ(fs::exists(mine / "there.kvx"), isWhole) << ending.errors;
+        if (isWhole) {
+            EXPECT_EQ(contentOf(mine / "there.kvx"), "there");
+        } else {
+            EXPECT_THAT(ending.errors, ::testing::AnyOf(HasSubstr("No space left"),
+                                                        HasSubstr("disk does not take")));
+        }
+        EXPECT_EQ(std::distance(fs::directory_iterator(mine), fs::directory_iterator()),
+                  isWhole ? 1 : 0)
+            << "a part is left";
+        wasFull = wasFull || ending.errors.find("The disk does not take") != std::string::npos;
+        if (!fs::exists(struck))
+            break;
+    }
+    EXPECT_TRUE(wasFull) << "no film's own bytes met the full disk";
+    EXPECT_LE(at, MostOperations) << "the last call is one without a fault";
+}
+
 TEST_F(ShareCommand, SaysWhatCannotBeShared) {
     server.add("/page/", {always(answer("200 OK", {}, "<html>Welcome</html>"))});
     server.add("/a.kvx/", {always(listed({{"/a.kvx", 12}}))});
