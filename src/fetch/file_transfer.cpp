@@ -12,6 +12,9 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <system_error>
+
 namespace kavela::fetch {
 
 namespace fs = std::filesystem;
@@ -139,12 +142,13 @@ bool FileTransfer::isOpenFor(const AnswerPlan& plan) {
     try {
         writeFileSafely(notePath(), encode(m_held.note));
     } catch (const FileError& error) {
-        fail({"The folder takes no file: " + error.reason()});
+        fail({.reason = "The folder takes no file: " + error.reason(), .isOfDisk = true});
         return false;
     }
     if (m_file.open(QIODevice::Append) && m_file.size() == m_held.bytes)
         return true;
-    fail({"The folder takes no file: " + m_file.errorString().toStdString()});
+    fail({.reason = "The folder takes no file: " + m_file.errorString().toStdString(),
+          .isOfDisk = true});
     return false;
 }
 
@@ -159,9 +163,13 @@ void FileTransfer::takeBytes(const QByteArray& bytes) {
         return;
     }
     // Unbuffered by itself: what a full disk did not take is not counted as held.
+    errno = 0;
     if (m_file.write(bytes) != bytes.size() || !m_file.flush()) {
-        const std::string reason = m_file.errorString().toStdString();
-        fail({"The disk does not take the file: " + reason});
+        // Of bytes that were taken in part, the file itself tells no reason.
+        const int fault = errno;
+        const std::string reason = fault != 0 ? std::generic_category().message(fault)
+                                              : m_file.errorString().toStdString();
+        fail({.reason = "The disk does not take the file: " + reason, .isOfDisk = true});
         return;
     }
     m_held.bytes += bytes.size();
@@ -197,7 +205,7 @@ void FileTransfer::finishFile() {
             if (isKept)
                 emit whole();
             else
-                fail({"The disk does not take the file."});
+                fail({.reason = "The disk does not take the file.", .isOfDisk = true});
         });
 }
 

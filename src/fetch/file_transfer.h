@@ -20,6 +20,7 @@ struct TransferFault {
     std::string otherSite = {};
     bool isNotThere = false; ///< not yet
     bool wantsLogin = false;
+    bool isOfDisk = false; ///< the disk here does not take it: another try would not help
 };
 
 /// Brings one file into PART, with a note "PART.note" beside it, by as many tries as it takes, and

@@ -39,6 +39,10 @@ std::chrono::year_month_day today() {
            std::chrono::day(static_cast<unsigned>(date.day()));
 }
 
+fs::path partOf(const fs::path& target) {
+    return target.parent_path() / ('.' + target.filename().string() + ".kavela.part");
+}
+
 fs::path notePathOf(const fs::path& part) {
     return part.string() + ".note";
 }
@@ -107,6 +111,9 @@ ShareResult FolderExchange::carryOut(const ShareRow& row) {
             m_end = result;
         return result;
     } catch (const FileError& error) {
+        // On a full disk what came so far would only keep the room from the others.
+        if (const auto target = placeIn(m_place.folder, row.path))
+            dropPart(partOf(*target));
         return failedWith(validUtf8(error.reason()));
     } catch (const std::exception& error) {
         return failedWith(validUtf8(error.what()));
@@ -315,10 +322,7 @@ FolderExchange::Arrived FolderExchange::arrive(const std::string& path) {
     fs::create_directories(target.parent_path(), fault);
     if (fault)
         throw FileError(target.parent_path(), fault.message());
-    Arrived arrived{.part =
-                        target.parent_path() / ('.' + target.filename().string() + ".kavela.part"),
-                    .file = {},
-                    .mark = {}};
+    Arrived arrived{.part = partOf(target), .file = {}, .mark = {}};
     bringPart(path, arrived);
     const auto held = fileNow(arrived.part);
     if (!held)

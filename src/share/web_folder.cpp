@@ -1,5 +1,6 @@
 #include "share/web_folder.h"
 
+#include "common/error.h"
 #include "fetch/listing.h"
 
 #include <QDateTime>
@@ -138,6 +139,8 @@ WebFolder::Brought WebFolder::bring(const fetch::Address& file, const std::files
         if (!fault->otherSite.empty())
             throw ShareError("The server leads to another one, " + fault->otherSite +
                              ", which is not followed.");
+        if (fault->isOfDisk)
+            throw FileError(part, fault->reason);
         if (fault->isNotThere || fault->wantsLogin || sizeOnDisk(part) <= before)
             throw ShareError(fault->reason, fault->wantsLogin);
     }

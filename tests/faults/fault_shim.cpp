@@ -4,6 +4,7 @@
 //   KAVELA_FAULT_AT      number of the operation, counted from 1
 //   KAVELA_FAULT_KIND    an error number; "short", which writes half and then reports a full disk;
 //                        or "power", which kills the process and loses what was not flushed
+//   KAVELA_FAULT_LARGE   set where files opened as large ones count too, as Qt opens them
 //   KAVELA_FAULT_REPORT  file made when the fault struck
 
 #include <dlfcn.h>
@@ -89,6 +90,20 @@ int open(const char* path, int flags, ...) {
     if (counts && strikes())
         return -1;
     const int file = next<int(const char*, int, ...)>("open")(path, flags, mode);
+    if (counts && file >= 0)
+        shim().files.insert(file);
+    return file;
+}
+
+int open64(const char* path, int flags, ...) {
+    std::va_list arguments;
+    va_start(arguments, flags);
+    const unsigned mode = flags & O_CREAT ? va_arg(arguments, unsigned) : 0;
+    va_end(arguments);
+    const bool counts = !setting("KAVELA_FAULT_LARGE").empty() && shim().counts(path);
+    if (counts && strikes())
+        return -1;
+    const int file = next<int(const char*, int, ...)>("open64")(path, flags, mode);
     if (counts && file >= 0)
         shim().files.insert(file);
     return file;

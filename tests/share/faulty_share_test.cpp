@@ -1,5 +1,6 @@
 #include "fetch/faulty_server.h"
 #include "share/sharing_pair.h"
+#include "share/told_files.h"
 
 #include <gmock/gmock.h>
 
@@ -16,25 +17,6 @@ using ::testing::Each;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
-
-/// What the server tells of one address.
-struct Told {
-    QByteArray link;
-    qint64 size = -1; ///< below 0 for a folder
-    QByteArray tag = "\"1\"";
-};
-
-QByteArray listed(const std::vector<Told>& entries) {
-    QByteArray body = "<?xml version=\"1.0\"?><D:multistatus xmlns:D=\"DAV:\">";
-    for (const Told& one : entries)
-        body +=
-            "<D:response><D:href>" + one.link + "</D:href><D:propstat><D:prop>" +
-            (one.size < 0 ? QByteArray("<D:resourcetype><D:collection/></D:resourcetype>")
-                          : "<D:resourcetype/><D:getcontentlength>" + QByteArray::number(one.size) +
-                                "</D:getcontentlength><D:getetag>" + one.tag + "</D:getetag>") +
-            "</D:prop><D:status>HTTP/1.1 200 OK</D:status></D:propstat></D:response>";
-    return answer("207 Multi-Status", "DAV: 1\r\n", body + "</D:multistatus>");
-}
 
 class FaultyShare : public ::testing::Test {
 protected:
