@@ -71,13 +71,6 @@
     </message>
 </context>
 <context>
-    <name>CompareWindow</name>
-    <message>
-        <source>Film %1</source>
-        <translation>Film %1</translation>
-    </message>
-</context>
-<context>
     <name>Desktop</name>
     <message>
         <source>A race</source>
@@ -930,6 +923,10 @@
     <message>
         <source>proposals accepted</source>
         <translation>návrhy přijaty</translation>
+    </message>
+    <message>
+        <source>On this frame stands the mark of %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2029,10 +2026,6 @@
     <message>
         <source>Folder to write the athlete&apos;s page into, named after the athlete</source>
         <translation>Složka, do níž se zapíše stránka závodníka, pojmenovaná po něm</translation>
-    </message>
-    <message>
-        <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, …</source>
-        <translation>Vysvětlit místo toho jedno číslo: loss/RUN/winner/5, gap/RUN/ideal, …</translation>
     </message>
     <message>
         <source>run {}</source>
@@ -5224,6 +5217,18 @@
             <numerusform>{} sloupců</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, total/RUN, place/RUN, strokes/RUN/5, …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished notes that name it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number of notes</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -5238,10 +5243,6 @@
     <message>
         <source>Place</source>
         <translation>Místo</translation>
-    </message>
-    <message>
-        <source>the start</source>
-        <translation>start</translation>
     </message>
     <message>
         <source>Film</source>
@@ -6604,8 +6605,8 @@
         <translation>Časové ztráty</translation>
     </message>
     <message>
-        <source>Where each run lost its time, section by section, and a season&apos;s pattern.</source>
-        <translation>Kde která jízda ztratila čas, úsek po úseku, a jak je to za celou sezónu.</translation>
+        <source>Where each run lost its time, and what comes back.</source>
+        <translation>Kde která jízda ztratila čas a co se opakuje.</translation>
     </message>
     <message>
         <source>Open split files</source>
@@ -6628,8 +6629,8 @@
         <translation>Filmy</translation>
     </message>
     <message>
-        <source>A folder of films played, compared in step, tagged, renamed and cut.</source>
-        <translation>Složka filmů: přehrávat, porovnávat v kroku, opatřit štítky, přejmenovat, stříhat.</translation>
+        <source>A folder of films played, compared, tagged and cut.</source>
+        <translation>Složka filmů: přehrát, porovnat, označit, stříhat.</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
@@ -6652,8 +6653,8 @@
         <translation>Porovnání filmů</translation>
     </message>
     <message>
-        <source>Two to four runs in one picture, together at a split, as a film to take home.</source>
-        <translation>Dvě až čtyři jízdy v jednom obraze, srovnané v mezičase, jako film domů.</translation>
+        <source>Two to four runs in one picture, as a film.</source>
+        <translation>Dvě až čtyři jízdy v jednom obraze, jako film.</translation>
     </message>
     <message>
         <source>Comparisons of films</source>
@@ -6728,8 +6729,8 @@
         <translation>Záznamy</translation>
     </message>
     <message>
-        <source>Strokes, turns and segments of a recording, on a map and replayed.</source>
-        <translation>Záběry, obraty a segmenty záznamu, na mapě i přehrané.</translation>
+        <source>Strokes, turns and segments of a recording, on a map.</source>
+        <translation>Záběry, obraty a segmenty záznamu na mapě.</translation>
     </message>
     <message>
         <source>Find</source>
@@ -6768,8 +6769,8 @@
         <translation>Sezóna</translation>
     </message>
     <message>
-        <source>How a team&apos;s athletes stand: trend, rivals, medals, what it takes.</source>
-        <translation>Jak jsou na tom závodníci týmu: trend, soupeři, medaile a co je k nim třeba.</translation>
+        <source>How a team&apos;s athletes stand: trend, rivals, medals.</source>
+        <translation>Jak jsou na tom závodníci: trend, soupeři, medaile.</translation>
     </message>
     <message>
         <source>Open a team</source>
@@ -6896,8 +6897,8 @@
         <translation>Sledování</translation>
     </message>
     <message>
-        <source>Boat, gate or head followed through a film: its path and speed.</source>
-        <translation>Loď, branka nebo hlava sledovaná filmem: její dráha a rychlost.</translation>
+        <source>A boat followed through a film: its path and speed.</source>
+        <translation>Loď sledovaná filmem: její dráha a rychlost.</translation>
     </message>
     <message>
         <source>Open films</source>
@@ -6908,8 +6909,8 @@
         <translation>Štěrbinový obraz</translation>
     </message>
     <message>
-        <source>A finish camera made of the film of a tripod: every crossing of a line at a glance.</source>
-        <translation>Cílová kamera z filmu na stativu: každé protnutí čáry na první pohled.</translation>
+        <source>Every crossing of a line, as a finish camera shows it.</source>
+        <translation>Každé protnutí čáry jako z cílové kamery.</translation>
     </message>
     <message>
         <source>Open films of a fixed camera</source>
@@ -6920,8 +6921,8 @@
         <translation>Sdílené složky</translation>
     </message>
     <message>
-        <source>A folder the same here and on the team&apos;s own server, nothing overwritten.</source>
-        <translation>Složka stejná zde i na vlastním serveru týmu, nic se nepřepisuje.</translation>
+        <source>A folder the same here and on the team&apos;s own server.</source>
+        <translation>Složka stejná zde i na serveru týmu.</translation>
     </message>
     <message>
         <source>Share a folder</source>
@@ -8324,6 +8325,10 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
         <source>Composing: %1</source>
         <translation>Skládá se: %1</translation>
     </message>
+    <message>
+        <source>Film %1</source>
+        <translation type="unfinished">Film %1</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::ComparisonPanel</name>
@@ -9717,10 +9722,6 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     <message>
         <source>%1 is not in split taking any more: it was removed there, or has another crew and film.</source>
         <translation>%1 už v měření mezičasů není: jízda tam byla odstraněna, nebo má jinou posádku a film.</translation>
-    </message>
-    <message>
-        <source>%1 (*.%2);;All files (*)</source>
-        <translation>%1 (*.%2);;Všechny soubory (*)</translation>
     </message>
     <message>
         <source>Of single split files, or of all in a folder and below it?</source>
@@ -13231,6 +13232,13 @@ Bez penalizací.</translation>
     <message>
         <source> · outside the film</source>
         <translation> · mimo film</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::Member</name>
+    <message>
+        <source>the start</source>
+        <translation type="unfinished">start</translation>
     </message>
 </context>
 <context>
@@ -18844,14 +18852,6 @@ a dalších %1</translation>
         <translation>Úprav&amp;y</translation>
     </message>
     <message>
-        <source>&amp;Undo the mark</source>
-        <translation>&amp;Zpět značku</translation>
-    </message>
-    <message>
-        <source>&amp;Redo the mark</source>
-        <translation>Znov&amp;u značku</translation>
-    </message>
-    <message>
         <source>&amp;Lines</source>
         <translation>Čá&amp;ry</translation>
     </message>
@@ -19174,14 +19174,6 @@ a dalších %1</translation>
     <message>
         <source>Draw a line first: N.</source>
         <translation>Nejdřív nakreslete čáru: N.</translation>
-    </message>
-    <message>
-        <source>%1 proposals were refused on this line. They are forgotten with it.</source>
-        <translation>Návrhů odmítnutých na této čáře: %1. Zapomenou se spolu s ní.</translation>
-    </message>
-    <message>
-        <source>Remove the line</source>
-        <translation>Odstranit čáru</translation>
     </message>
     <message>
         <source>There is no proposal before this.</source>

@@ -71,13 +71,6 @@
     </message>
 </context>
 <context>
-    <name>CompareWindow</name>
-    <message>
-        <source>Film %1</source>
-        <translation>Film %1</translation>
-    </message>
-</context>
-<context>
     <name>Desktop</name>
     <message>
         <source>A race</source>
@@ -929,6 +922,10 @@
     <message>
         <source>proposals accepted</source>
         <translation>Vorschläge angenommen</translation>
+    </message>
+    <message>
+        <source>On this frame stands the mark of %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2018,10 +2015,6 @@
     <message>
         <source>Folder to write the athlete&apos;s page into, named after the athlete</source>
         <translation>Ordner für die Seite des Athleten, die nach ihm heißt</translation>
-    </message>
-    <message>
-        <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, …</source>
-        <translation>Stattdessen eine Zahl erklären: loss/RUN/winner/5, gap/RUN/ideal, …</translation>
     </message>
     <message>
         <source>run {}</source>
@@ -5194,6 +5187,18 @@
             <numerusform>{} Spalten</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, total/RUN, place/RUN, strokes/RUN/5, …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished notes that name it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number of notes</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -5208,10 +5213,6 @@
     <message>
         <source>Place</source>
         <translation>Platz</translation>
-    </message>
-    <message>
-        <source>the start</source>
-        <translation>der Start</translation>
     </message>
     <message>
         <source>Film</source>
@@ -6574,8 +6575,8 @@
         <translation>Zeitverluste</translation>
     </message>
     <message>
-        <source>Where each run lost its time, section by section, and a season&apos;s pattern.</source>
-        <translation>Wo jeder Lauf seine Zeit verlor, Abschnitt für Abschnitt, und das Muster einer Saison.</translation>
+        <source>Where each run lost its time, and what comes back.</source>
+        <translation>Wo jeder Lauf seine Zeit verlor, und was wiederkehrt.</translation>
     </message>
     <message>
         <source>Open split files</source>
@@ -6598,8 +6599,8 @@
         <translation>Filme</translation>
     </message>
     <message>
-        <source>A folder of films played, compared in step, tagged, renamed and cut.</source>
-        <translation>Einen Ordner mit Filmen abspielen, im Gleichlauf vergleichen, markieren, umbenennen und schneiden.</translation>
+        <source>A folder of films played, compared, tagged and cut.</source>
+        <translation>Einen Ordner mit Filmen abspielen, vergleichen, schneiden.</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
@@ -6622,8 +6623,8 @@
         <translation>Filme vergleichen</translation>
     </message>
     <message>
-        <source>Two to four runs in one picture, together at a split, as a film to take home.</source>
-        <translation>Zwei bis vier Läufe in einem Bild, an einer Zwischenzeit gleichauf, als Film zum Mitnehmen.</translation>
+        <source>Two to four runs in one picture, as a film.</source>
+        <translation>Zwei bis vier Läufe in einem Bild, als Film.</translation>
     </message>
     <message>
         <source>Comparisons of films</source>
@@ -6698,8 +6699,8 @@
         <translation>Aufzeichnungen</translation>
     </message>
     <message>
-        <source>Strokes, turns and segments of a recording, on a map and replayed.</source>
-        <translation>Schläge, Drehungen und Segmente einer Aufzeichnung, auf der Karte und als Wiedergabe.</translation>
+        <source>Strokes, turns and segments of a recording, on a map.</source>
+        <translation>Schläge, Drehungen und Segmente einer Aufzeichnung.</translation>
     </message>
     <message>
         <source>Find</source>
@@ -6738,8 +6739,8 @@
         <translation>Saison</translation>
     </message>
     <message>
-        <source>How a team&apos;s athletes stand: trend, rivals, medals, what it takes.</source>
-        <translation>Wie die Athleten eines Teams stehen: Trend, Rivalen, Medaillen, was es braucht.</translation>
+        <source>How a team&apos;s athletes stand: trend, rivals, medals.</source>
+        <translation>Wie die Athleten stehen: Trend, Rivalen, Medaillen.</translation>
     </message>
     <message>
         <source>Open a team</source>
@@ -6866,8 +6867,8 @@
         <translation>Verfolgung</translation>
     </message>
     <message>
-        <source>Boat, gate or head followed through a film: its path and speed.</source>
-        <translation>Boot, Tor oder Kopf durch einen Film verfolgt: Bahn und Tempo.</translation>
+        <source>A boat followed through a film: its path and speed.</source>
+        <translation>Ein Boot durch den Film verfolgt: Bahn und Tempo.</translation>
     </message>
     <message>
         <source>Open films</source>
@@ -6878,8 +6879,8 @@
         <translation>Schlitzbild</translation>
     </message>
     <message>
-        <source>A finish camera made of the film of a tripod: every crossing of a line at a glance.</source>
-        <translation>Eine Zielkamera aus dem Film eines Stativs: jede Überquerung einer Linie auf einen Blick.</translation>
+        <source>Every crossing of a line, as a finish camera shows it.</source>
+        <translation>Jede Überquerung einer Linie, wie eine Zielkamera sie zeigt.</translation>
     </message>
     <message>
         <source>Open films of a fixed camera</source>
@@ -6890,8 +6891,8 @@
         <translation>Ordner teilen</translation>
     </message>
     <message>
-        <source>A folder the same here and on the team&apos;s own server, nothing overwritten.</source>
-        <translation>Ein Ordner, gleich hier und auf dem teameigenen Server, nichts wird überschrieben.</translation>
+        <source>A folder the same here and on the team&apos;s own server.</source>
+        <translation>Ein Ordner, gleich hier und auf dem eigenen Server.</translation>
     </message>
     <message>
         <source>Share a folder</source>
@@ -8292,6 +8293,10 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
         <source>Composing: %1</source>
         <translation>Wird zusammengesetzt: %1</translation>
     </message>
+    <message>
+        <source>Film %1</source>
+        <translation type="unfinished">Film %1</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::ComparisonPanel</name>
@@ -9683,10 +9688,6 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     <message>
         <source>%1 is not in split taking any more: it was removed there, or has another crew and film.</source>
         <translation>%1 ist nicht mehr in der Zwischenzeitnahme: dort entfernt, oder mit anderer Besatzung und anderem Film.</translation>
-    </message>
-    <message>
-        <source>%1 (*.%2);;All files (*)</source>
-        <translation>%1 (*.%2);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Of single split files, or of all in a folder and below it?</source>
@@ -13188,6 +13189,13 @@ Strafen sind nicht enthalten.</translation>
     <message>
         <source> · outside the film</source>
         <translation> · außerhalb des Films</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::Member</name>
+    <message>
+        <source>the start</source>
+        <translation type="unfinished">der Start</translation>
     </message>
 </context>
 <context>
@@ -18787,14 +18795,6 @@ und %1 weitere</translation>
         <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
-        <source>&amp;Undo the mark</source>
-        <translation>Marke &amp;zurücknehmen</translation>
-    </message>
-    <message>
-        <source>&amp;Redo the mark</source>
-        <translation>Marke &amp;wiederherstellen</translation>
-    </message>
-    <message>
         <source>&amp;Lines</source>
         <translation>&amp;Linien</translation>
     </message>
@@ -19117,14 +19117,6 @@ und %1 weitere</translation>
     <message>
         <source>Draw a line first: N.</source>
         <translation>Erst eine Linie zeichnen: N.</translation>
-    </message>
-    <message>
-        <source>%1 proposals were refused on this line. They are forgotten with it.</source>
-        <translation>%1 Vorschläge wurden auf dieser Linie abgelehnt. Sie werden mit ihr vergessen.</translation>
-    </message>
-    <message>
-        <source>Remove the line</source>
-        <translation>Linie entfernen</translation>
     </message>
     <message>
         <source>There is no proposal before this.</source>

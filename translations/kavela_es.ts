@@ -71,13 +71,6 @@
     </message>
 </context>
 <context>
-    <name>CompareWindow</name>
-    <message>
-        <source>Film %1</source>
-        <translation>Vídeo %1</translation>
-    </message>
-</context>
-<context>
     <name>Desktop</name>
     <message>
         <source>A race</source>
@@ -929,6 +922,10 @@
     <message>
         <source>proposals accepted</source>
         <translation>propuestas aceptadas</translation>
+    </message>
+    <message>
+        <source>On this frame stands the mark of %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2018,10 +2015,6 @@
     <message>
         <source>Folder to write the athlete&apos;s page into, named after the athlete</source>
         <translation>Carpeta en la que escribir la página del deportista, con su nombre</translation>
-    </message>
-    <message>
-        <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, …</source>
-        <translation>Explicar en cambio un número: loss/RUN/winner/5, gap/RUN/ideal, …</translation>
     </message>
     <message>
         <source>run {}</source>
@@ -5194,6 +5187,18 @@
             <numerusform>{} columnas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, total/RUN, place/RUN, strokes/RUN/5, …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished notes that name it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number of notes</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -5208,10 +5213,6 @@
     <message>
         <source>Place</source>
         <translation>Puesto</translation>
-    </message>
-    <message>
-        <source>the start</source>
-        <translation>la salida</translation>
     </message>
     <message>
         <source>Film</source>
@@ -6574,8 +6575,8 @@
         <translation>Pérdidas de tiempo</translation>
     </message>
     <message>
-        <source>Where each run lost its time, section by section, and a season&apos;s pattern.</source>
-        <translation>Dónde perdió tiempo cada manga, tramo a tramo, y el patrón de una temporada.</translation>
+        <source>Where each run lost its time, and what comes back.</source>
+        <translation>Dónde perdió tiempo cada manga, y qué se repite.</translation>
     </message>
     <message>
         <source>Open split files</source>
@@ -6598,8 +6599,8 @@
         <translation>Vídeos</translation>
     </message>
     <message>
-        <source>A folder of films played, compared in step, tagged, renamed and cut.</source>
-        <translation>Una carpeta de vídeos reproducidos, comparados a la par, etiquetados, renombrados y cortados.</translation>
+        <source>A folder of films played, compared, tagged and cut.</source>
+        <translation>Una carpeta de vídeos: ver, comparar, etiquetar, cortar.</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
@@ -6622,8 +6623,8 @@
         <translation>Comparar vídeos</translation>
     </message>
     <message>
-        <source>Two to four runs in one picture, together at a split, as a film to take home.</source>
-        <translation>De dos a cuatro mangas en una imagen, a la par en un parcial, como vídeo para llevarse.</translation>
+        <source>Two to four runs in one picture, as a film.</source>
+        <translation>De dos a cuatro mangas en una imagen, como vídeo.</translation>
     </message>
     <message>
         <source>Comparisons of films</source>
@@ -6698,8 +6699,8 @@
         <translation>Grabaciones</translation>
     </message>
     <message>
-        <source>Strokes, turns and segments of a recording, on a map and replayed.</source>
-        <translation>Paladas, giros y segmentos de una grabación, en un mapa y reproducidos.</translation>
+        <source>Strokes, turns and segments of a recording, on a map.</source>
+        <translation>Paladas, giros y segmentos de una grabación, en un mapa.</translation>
     </message>
     <message>
         <source>Find</source>
@@ -6738,8 +6739,8 @@
         <translation>Temporada</translation>
     </message>
     <message>
-        <source>How a team&apos;s athletes stand: trend, rivals, medals, what it takes.</source>
-        <translation>Cómo están los deportistas de un equipo: tendencia, rivales, medallas, qué hace falta.</translation>
+        <source>How a team&apos;s athletes stand: trend, rivals, medals.</source>
+        <translation>Cómo están los deportistas: tendencia, rivales, medallas.</translation>
     </message>
     <message>
         <source>Open a team</source>
@@ -6866,8 +6867,8 @@
         <translation>Seguimiento</translation>
     </message>
     <message>
-        <source>Boat, gate or head followed through a film: its path and speed.</source>
-        <translation>Barco, puerta o cabeza seguidos por un vídeo: su trayectoria y su velocidad.</translation>
+        <source>A boat followed through a film: its path and speed.</source>
+        <translation>Un barco seguido por un vídeo: trayectoria y velocidad.</translation>
     </message>
     <message>
         <source>Open films</source>
@@ -6878,8 +6879,8 @@
         <translation>Imagen de línea</translation>
     </message>
     <message>
-        <source>A finish camera made of the film of a tripod: every crossing of a line at a glance.</source>
-        <translation>Una cámara de meta hecha con el vídeo de un trípode: cada paso por una línea de un vistazo.</translation>
+        <source>Every crossing of a line, as a finish camera shows it.</source>
+        <translation>Cada paso por una línea, como en la foto de meta.</translation>
     </message>
     <message>
         <source>Open films of a fixed camera</source>
@@ -6890,8 +6891,8 @@
         <translation>Compartir carpetas</translation>
     </message>
     <message>
-        <source>A folder the same here and on the team&apos;s own server, nothing overwritten.</source>
-        <translation>Una carpeta igual aquí y en el servidor propio del equipo, sin sobrescribir nada.</translation>
+        <source>A folder the same here and on the team&apos;s own server.</source>
+        <translation>Una carpeta igual aquí y en el servidor del equipo.</translation>
     </message>
     <message>
         <source>Share a folder</source>
@@ -8292,6 +8293,10 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
         <source>Composing: %1</source>
         <translation>Componiendo: %1</translation>
     </message>
+    <message>
+        <source>Film %1</source>
+        <translation type="unfinished">Vídeo %1</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::ComparisonPanel</name>
@@ -9683,10 +9688,6 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     <message>
         <source>%1 is not in split taking any more: it was removed there, or has another crew and film.</source>
         <translation>%1 ya no está en la toma de parciales: se quitó allí, o tiene otra tripulación y otro vídeo.</translation>
-    </message>
-    <message>
-        <source>%1 (*.%2);;All files (*)</source>
-        <translation>%1 (*.%2);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Of single split files, or of all in a folder and below it?</source>
@@ -13188,6 +13189,13 @@ Las penalizaciones no se cuentan.</translation>
     <message>
         <source> · outside the film</source>
         <translation> · fuera del vídeo</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::Member</name>
+    <message>
+        <source>the start</source>
+        <translation type="unfinished">la salida</translation>
     </message>
 </context>
 <context>
@@ -18787,14 +18795,6 @@ y %1 más</translation>
         <translation>&amp;Editar</translation>
     </message>
     <message>
-        <source>&amp;Undo the mark</source>
-        <translation>&amp;Deshacer la marca</translation>
-    </message>
-    <message>
-        <source>&amp;Redo the mark</source>
-        <translation>&amp;Rehacer la marca</translation>
-    </message>
-    <message>
         <source>&amp;Lines</source>
         <translation>&amp;Líneas</translation>
     </message>
@@ -19117,14 +19117,6 @@ y %1 más</translation>
     <message>
         <source>Draw a line first: N.</source>
         <translation>Dibuja antes una línea: N.</translation>
-    </message>
-    <message>
-        <source>%1 proposals were refused on this line. They are forgotten with it.</source>
-        <translation>En esta línea se rechazaron %1 propuestas. Se olvidan con ella.</translation>
-    </message>
-    <message>
-        <source>Remove the line</source>
-        <translation>Quitar la línea</translation>
     </message>
     <message>
         <source>There is no proposal before this.</source>

@@ -71,13 +71,6 @@
     </message>
 </context>
 <context>
-    <name>CompareWindow</name>
-    <message>
-        <source>Film %1</source>
-        <translation>Film %1</translation>
-    </message>
-</context>
-<context>
     <name>Desktop</name>
     <message>
         <source>A race</source>
@@ -929,6 +922,10 @@
     <message>
         <source>proposals accepted</source>
         <translation>propositions acceptées</translation>
+    </message>
+    <message>
+        <source>On this frame stands the mark of %1.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2018,10 +2015,6 @@
     <message>
         <source>Folder to write the athlete&apos;s page into, named after the athlete</source>
         <translation>Dossier où écrire la page de l’athlète, nommée d’après l’athlète</translation>
-    </message>
-    <message>
-        <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, …</source>
-        <translation>Expliquer plutôt un seul nombre&#x202f;: loss/RUN/winner/5, gap/RUN/ideal, …</translation>
     </message>
     <message>
         <source>run {}</source>
@@ -5194,6 +5187,18 @@
             <numerusform>{} colonnes</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, total/RUN, place/RUN, strokes/RUN/5, …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished notes that name it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number of notes</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -5208,10 +5213,6 @@
     <message>
         <source>Place</source>
         <translation>Place</translation>
-    </message>
-    <message>
-        <source>the start</source>
-        <translation>le départ</translation>
     </message>
     <message>
         <source>Film</source>
@@ -6574,8 +6575,8 @@
         <translation>Pertes de temps</translation>
     </message>
     <message>
-        <source>Where each run lost its time, section by section, and a season&apos;s pattern.</source>
-        <translation>Où chaque manche a perdu son temps, secteur par secteur, et ce qui se répète sur une saison.</translation>
+        <source>Where each run lost its time, and what comes back.</source>
+        <translation>Où chaque manche a perdu son temps, et ce qui revient.</translation>
     </message>
     <message>
         <source>Open split files</source>
@@ -6598,8 +6599,8 @@
         <translation>Films</translation>
     </message>
     <message>
-        <source>A folder of films played, compared in step, tagged, renamed and cut.</source>
-        <translation>Un dossier de films lus, comparés au pas, étiquetés, renommés et coupés.</translation>
+        <source>A folder of films played, compared, tagged and cut.</source>
+        <translation>Un dossier de films lus, comparés, étiquetés, coupés.</translation>
     </message>
     <message>
         <source>Open a folder of films</source>
@@ -6622,8 +6623,8 @@
         <translation>Comparer des films</translation>
     </message>
     <message>
-        <source>Two to four runs in one picture, together at a split, as a film to take home.</source>
-        <translation>Deux à quatre manches dans une image, ensemble à un intermédiaire, en un film à emporter.</translation>
+        <source>Two to four runs in one picture, as a film.</source>
+        <translation>Deux à quatre manches dans une image, en un film.</translation>
     </message>
     <message>
         <source>Comparisons of films</source>
@@ -6698,8 +6699,8 @@
         <translation>Enregistrements</translation>
     </message>
     <message>
-        <source>Strokes, turns and segments of a recording, on a map and replayed.</source>
-        <translation>Coups de pagaie, virages et segments d’un enregistrement, sur une carte et rejoués.</translation>
+        <source>Strokes, turns and segments of a recording, on a map.</source>
+        <translation>Coups de pagaie, virages et segments d’un enregistrement.</translation>
     </message>
     <message>
         <source>Find</source>
@@ -6738,8 +6739,8 @@
         <translation>Saison</translation>
     </message>
     <message>
-        <source>How a team&apos;s athletes stand: trend, rivals, medals, what it takes.</source>
-        <translation>Où en sont les athlètes d’une équipe&#x202f;: tendance, rivaux, médailles, ce qu’il faut.</translation>
+        <source>How a team&apos;s athletes stand: trend, rivals, medals.</source>
+        <translation>Où en sont les athlètes&#x202f;: tendance, rivaux, médailles.</translation>
     </message>
     <message>
         <source>Open a team</source>
@@ -6866,8 +6867,8 @@
         <translation>Suivi</translation>
     </message>
     <message>
-        <source>Boat, gate or head followed through a film: its path and speed.</source>
-        <translation>Bateau, porte ou tête suivis dans un film&#x202f;: leur trajectoire et leur vitesse.</translation>
+        <source>A boat followed through a film: its path and speed.</source>
+        <translation>Un bateau suivi dans un film&#x202f;: trajectoire, vitesse.</translation>
     </message>
     <message>
         <source>Open films</source>
@@ -6878,8 +6879,8 @@
         <translation>Image à fente</translation>
     </message>
     <message>
-        <source>A finish camera made of the film of a tripod: every crossing of a line at a glance.</source>
-        <translation>Une photo-finish faite du film d’un trépied&#x202f;: chaque passage d’une ligne d’un coup d’œil.</translation>
+        <source>Every crossing of a line, as a finish camera shows it.</source>
+        <translation>Chaque passage d’une ligne, comme une photo-finish.</translation>
     </message>
     <message>
         <source>Open films of a fixed camera</source>
@@ -6890,8 +6891,8 @@
         <translation>Partager des dossiers</translation>
     </message>
     <message>
-        <source>A folder the same here and on the team&apos;s own server, nothing overwritten.</source>
-        <translation>Un dossier identique ici et sur le serveur de l’équipe, sans rien écraser.</translation>
+        <source>A folder the same here and on the team&apos;s own server.</source>
+        <translation>Un dossier identique ici et sur le serveur de l’équipe.</translation>
     </message>
     <message>
         <source>Share a folder</source>
@@ -8292,6 +8293,10 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
         <source>Composing: %1</source>
         <translation>Composition&#x202f;: %1</translation>
     </message>
+    <message>
+        <source>Film %1</source>
+        <translation type="unfinished">Film %1</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::ComparisonPanel</name>
@@ -9683,10 +9688,6 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     <message>
         <source>%1 is not in split taking any more: it was removed there, or has another crew and film.</source>
         <translation>%1 n’est plus dans la prise de temps intermédiaires&#x202f;: la manche y a été retirée, ou a un autre équipage et un autre film.</translation>
-    </message>
-    <message>
-        <source>%1 (*.%2);;All files (*)</source>
-        <translation>%1 (*.%2);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Of single split files, or of all in a folder and below it?</source>
@@ -13188,6 +13189,13 @@ Les pénalités sont laissées de côté.</translation>
     <message>
         <source> · outside the film</source>
         <translation> · hors du film</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::Member</name>
+    <message>
+        <source>the start</source>
+        <translation type="unfinished">le départ</translation>
     </message>
 </context>
 <context>
@@ -18787,14 +18795,6 @@ et %1 autres</translation>
         <translation>É&amp;dition</translation>
     </message>
     <message>
-        <source>&amp;Undo the mark</source>
-        <translation>Annuler &amp;la marque</translation>
-    </message>
-    <message>
-        <source>&amp;Redo the mark</source>
-        <translation>Rétablir la &amp;marque</translation>
-    </message>
-    <message>
         <source>&amp;Lines</source>
         <translation>Li&amp;gnes</translation>
     </message>
@@ -19117,14 +19117,6 @@ et %1 autres</translation>
     <message>
         <source>Draw a line first: N.</source>
         <translation>Dessinez d’abord une ligne&#x202f;: N.</translation>
-    </message>
-    <message>
-        <source>%1 proposals were refused on this line. They are forgotten with it.</source>
-        <translation>%1 propositions ont été refusées sur cette ligne. Elles sont oubliées avec elle.</translation>
-    </message>
-    <message>
-        <source>Remove the line</source>
-        <translation>Retirer la ligne</translation>
     </message>
     <message>
         <source>There is no proposal before this.</source>
