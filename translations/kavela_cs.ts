@@ -926,7 +926,7 @@
     </message>
     <message>
         <source>On this frame stands the mark of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na tomto snímku stojí značka: %1.</translation>
     </message>
 </context>
 <context>
@@ -5219,15 +5219,15 @@
     </message>
     <message>
         <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, total/RUN, place/RUN, strokes/RUN/5, …</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo toho vysvětlit jedno číslo: loss/RUN/winner/5, gap/RUN/ideal, total/RUN, place/RUN, strokes/RUN/5, …</translation>
     </message>
     <message>
         <source>The finished notes that name it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokončené poznámky, které to uvádějí.</translation>
     </message>
     <message>
         <source>number of notes</source>
-        <translation type="unfinished"></translation>
+        <translation>počet poznámek</translation>
     </message>
 </context>
 <context>
@@ -8036,6 +8036,10 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
 <context>
     <name>kavela::desktop::CompareForm</name>
     <message>
+        <source>the start</source>
+        <translation>start</translation>
+    </message>
+    <message>
         <source>&amp;Layout</source>
         <translation>&amp;Rozvržení</translation>
     </message>
@@ -8327,7 +8331,7 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     </message>
     <message>
         <source>Film %1</source>
-        <translation type="unfinished">Film %1</translation>
+        <translation>Film %1</translation>
     </message>
 </context>
 <context>
@@ -13232,13 +13236,6 @@ Bez penalizací.</translation>
     <message>
         <source> · outside the film</source>
         <translation> · mimo film</translation>
-    </message>
-</context>
-<context>
-    <name>kavela::desktop::Member</name>
-    <message>
-        <source>the start</source>
-        <translation type="unfinished">start</translation>
     </message>
 </context>
 <context>

@@ -925,7 +925,7 @@
     </message>
     <message>
         <source>On this frame stands the mark of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf diesem Bild steht die Marke von %1.</translation>
     </message>
 </context>
 <context>
@@ -5189,15 +5189,15 @@
     </message>
     <message>
         <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, total/RUN, place/RUN, strokes/RUN/5, …</source>
-        <translation type="unfinished"></translation>
+        <translation>Stattdessen eine Zahl erklären: loss/RUN/winner/5, gap/RUN/ideal, total/RUN, place/RUN, strokes/RUN/5, …</translation>
     </message>
     <message>
         <source>The finished notes that name it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die abgeschlossenen Notizen, die es nennen.</translation>
     </message>
     <message>
         <source>number of notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Notizen</translation>
     </message>
 </context>
 <context>
@@ -8004,6 +8004,10 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
 <context>
     <name>kavela::desktop::CompareForm</name>
     <message>
+        <source>the start</source>
+        <translation>der Start</translation>
+    </message>
+    <message>
         <source>&amp;Layout</source>
         <translation>&amp;Anordnung</translation>
     </message>
@@ -8295,7 +8299,7 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     </message>
     <message>
         <source>Film %1</source>
-        <translation type="unfinished">Film %1</translation>
+        <translation>Film %1</translation>
     </message>
 </context>
 <context>
@@ -13189,13 +13193,6 @@ Strafen sind nicht enthalten.</translation>
     <message>
         <source> · outside the film</source>
         <translation> · außerhalb des Films</translation>
-    </message>
-</context>
-<context>
-    <name>kavela::desktop::Member</name>
-    <message>
-        <source>the start</source>
-        <translation type="unfinished">der Start</translation>
     </message>
 </context>
 <context>

@@ -925,7 +925,7 @@
     </message>
     <message>
         <source>On this frame stands the mark of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>En este fotograma está la marca de %1.</translation>
     </message>
 </context>
 <context>
@@ -5189,15 +5189,15 @@
     </message>
     <message>
         <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, total/RUN, place/RUN, strokes/RUN/5, …</source>
-        <translation type="unfinished"></translation>
+        <translation>Explicar en su lugar un número: loss/RUN/winner/5, gap/RUN/ideal, total/RUN, place/RUN, strokes/RUN/5, …</translation>
     </message>
     <message>
         <source>The finished notes that name it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las notas terminadas que lo nombran.</translation>
     </message>
     <message>
         <source>number of notes</source>
-        <translation type="unfinished"></translation>
+        <translation>número de notas</translation>
     </message>
 </context>
 <context>
@@ -8004,6 +8004,10 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
 <context>
     <name>kavela::desktop::CompareForm</name>
     <message>
+        <source>the start</source>
+        <translation>la salida</translation>
+    </message>
+    <message>
         <source>&amp;Layout</source>
         <translation>&amp;Disposición</translation>
     </message>
@@ -8295,7 +8299,7 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     </message>
     <message>
         <source>Film %1</source>
-        <translation type="unfinished">Vídeo %1</translation>
+        <translation>Vídeo %1</translation>
     </message>
 </context>
 <context>
@@ -13189,13 +13193,6 @@ Las penalizaciones no se cuentan.</translation>
     <message>
         <source> · outside the film</source>
         <translation> · fuera del vídeo</translation>
-    </message>
-</context>
-<context>
-    <name>kavela::desktop::Member</name>
-    <message>
-        <source>the start</source>
-        <translation type="unfinished">la salida</translation>
     </message>
 </context>
 <context>

@@ -925,7 +925,7 @@
     </message>
     <message>
         <source>On this frame stands the mark of %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur cette image se trouve la marque de %1.</translation>
     </message>
 </context>
 <context>
@@ -5189,15 +5189,15 @@
     </message>
     <message>
         <source>Explain one number instead: loss/RUN/winner/5, gap/RUN/ideal, total/RUN, place/RUN, strokes/RUN/5, …</source>
-        <translation type="unfinished"></translation>
+        <translation>Expliquer plutôt un nombre&#x202f;: loss/RUN/winner/5, gap/RUN/ideal, total/RUN, place/RUN, strokes/RUN/5, …</translation>
     </message>
     <message>
         <source>The finished notes that name it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les notes terminées qui le nomment.</translation>
     </message>
     <message>
         <source>number of notes</source>
-        <translation type="unfinished"></translation>
+        <translation>nombre de notes</translation>
     </message>
 </context>
 <context>
@@ -8004,6 +8004,10 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
 <context>
     <name>kavela::desktop::CompareForm</name>
     <message>
+        <source>the start</source>
+        <translation>le départ</translation>
+    </message>
+    <message>
         <source>&amp;Layout</source>
         <translation>&amp;Disposition</translation>
     </message>
@@ -8295,7 +8299,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>Film %1</source>
-        <translation type="unfinished">Film %1</translation>
+        <translation>Film %1</translation>
     </message>
 </context>
 <context>
@@ -13189,13 +13193,6 @@ Les pénalités sont laissées de côté.</translation>
     <message>
         <source> · outside the film</source>
         <translation> · hors du film</translation>
-    </message>
-</context>
-<context>
-    <name>kavela::desktop::Member</name>
-    <message>
-        <source>the start</source>
-        <translation type="unfinished">le départ</translation>
     </message>
 </context>
 <context>
