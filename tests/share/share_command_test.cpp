@@ -53,12 +53,15 @@ protected:
                        return listed(told);
                    }});
         server.add("/dav/there.kvx", {[](const Asked& asked) {
-                       return asked.verb == "GET" ? answer("200 OK", "ETag: \"1\"\r\n", "there")
-                                                  : listed({{"/dav/there.kvx", 5}});
+                       if (asked.verb == "GET")
+                           return answer("200 OK", "ETag: \"1\"\r\n", "there");
+                       return listed({{"/dav/there.kvx", 5}});
                    }});
         server.add("/dav/here.kvx", {[this, put](const Asked& asked) {
+                       if (asked.verb != "PUT" && hasTaken)
+                           return listed({{"/dav/here.kvx", 4}});
                        if (asked.verb != "PUT")
-                           return hasTaken ? listed({{"/dav/here.kvx", 4}}) : answer("404 No");
+                           return answer("404 No");
                        hasTaken = put.startsWith("HTTP/1.1 201");
                        return put;
                    }});
