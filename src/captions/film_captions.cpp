@@ -126,8 +126,7 @@ void FilmCaptions::addFilm(const CaptionScene& scene, const Caption& caption, Co
         put(left, corners.bottom);
         break;
     case CaptionKind::Missing:
-        put(words.x + (words.width - width) / 2,
-            words.y + (words.height - height) / 2);
+        put(words.x + (words.width - width) / 2, words.y + (words.height - height) / 2);
         break;
     default:
         put(left, corners.left);

@@ -75,9 +75,9 @@ struct LayoutChoice {
 layOutFilms(const LayoutChoice& choice, const std::vector<VideoSize>& films,
             const std::vector<std::optional<PointPair>>& points = {});
 
-/// The strip along the lower edge of the whole picture, of an even height in pixels, that stays free
-/// of films within another one: what belongs to all films stands there, such as the chart of the
-/// gap. `places` are those of layOutFilms().
+/// The strip along the lower edge of the whole picture, of an even height in pixels, that stays
+/// free of films within another one: what belongs to all films stands there, such as the chart of
+/// the gap. `places` are those of layOutFilms().
 [[nodiscard]] PictureRect lowerStrip(std::span<const FilmPlace> places, VideoSize size, int height);
 
 /// What brings two points over two others; nothing where two of a pair are the same.

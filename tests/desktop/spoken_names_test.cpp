@@ -109,7 +109,8 @@ TEST_F(SpokenNamesTest, AreThoseOfEveryPartOfEveryWindowWithAFile) {
     m_program.openPenalties({example("races/riverside_cup.kvx")});
     QTRY_COMPARE(m_program.windows().size(), 11);
     for (desktop::ToolWindow* const window : m_program.windows())
-        EXPECT_EQ(silentPartsOf(*window).join('\n').toStdString(), "") << window->kind().toStdString();
+        EXPECT_EQ(silentPartsOf(*window).join('\n').toStdString(), "")
+            << window->kind().toStdString();
     EXPECT_EQ(silentPartsOf(*m_program.front()).join('\n').toStdString(), "");
 }
 
@@ -154,7 +155,8 @@ TEST_F(SpokenNamesTest, AreThoseOfEveryPartOfTheDialogs) {
          std::initializer_list<QWidget*>{&course, &settings, &guide, &login}) {
         window->setAttribute(Qt::WA_DeleteOnClose, false);
         window->show();
-        EXPECT_EQ(silentPartsOf(*window).join('\n').toStdString(), "") << window->metaObject()->className();
+        EXPECT_EQ(silentPartsOf(*window).join('\n').toStdString(), "")
+            << window->metaObject()->className();
         window->hide();
     }
 }

@@ -67,8 +67,7 @@ CompareForm::CompareForm(Edit edit, QWidget* parent)
 
 template <class Member>
 void CompareForm::splitChoice(const FieldFacts& facts, int least, Member member) {
-    auto* const choice =
-        new SplitChoice(least, CompareForm::tr("the start"));
+    auto* const choice = new SplitChoice(least, CompareForm::tr("the start"));
     const std::size_t field = addPart(
         facts, choice, [choice](const QVariant& value) { choice->setSplit(value.toInt()); },
         [choice] { return QVariant(choice->split()); });

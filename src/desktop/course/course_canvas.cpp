@@ -61,8 +61,8 @@ CourseCanvas::CourseCanvas(QWidget* parent)
           return m_painting.pictureIn(QRectF(rect()).adjusted(1, 1, -1, -1));
       }) {
     setObjectName("courseCanvas");
+    setFocusPolicy(Qt::StrongFocus); // first: what is told of a part without it stays
     setAccessibleName(tr("Drawing of the course"));
-    setFocusPolicy(Qt::StrongFocus);
     setMinimumSize(320, 220);
 }
 

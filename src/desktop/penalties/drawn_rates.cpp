@@ -23,8 +23,8 @@ constexpr double GateRing = 16;
 
 DrawnRates::DrawnRates(QWidget* parent) : QWidget(parent) {
     setObjectName("drawnRates");
+    setFocusPolicy(Qt::StrongFocus); // first: what is told of a part without it stays
     setAccessibleName(tr("Touches on the course"));
-    setFocusPolicy(Qt::StrongFocus);
     setMinimumSize(240, 140);
 }
 

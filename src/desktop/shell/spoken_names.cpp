@@ -149,7 +149,10 @@ QString nameFromAround(const QWidget& widget) {
         if (const QString title = titleOver(*at); !title.isEmpty())
             return title;
     const QString tip = asName(widget.toolTip());
-    return tip.isEmpty() ? widget.window()->windowTitle().remove("[*]") : tip;
+    const QString window = widget.window()->windowTitle().remove("[*]");
+    if (tip.isEmpty() && window.isEmpty()) // which waits for its file
+        return QStringLiteral("Kavela");
+    return tip.isEmpty() ? window : tip;
 }
 
 SpokenNames::SpokenNames(QObject* parent) : QObject(parent) {
