@@ -120,7 +120,9 @@ void ChartPlot::fit() {
 void ChartPlot::setCaptions(const QString& title, const QString& subtitle) {
     m_title->setText(title);
     m_subtitle->setText(subtitle);
-    setAccessibleName(title);
+    // A chart that is still empty keeps the name that it has from around it.
+    if (const QString name = title.isEmpty() ? subtitle : title; !name.isEmpty())
+        setAccessibleName(name);
     setAccessibleDescription(subtitle);
 }
 
