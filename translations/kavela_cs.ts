@@ -6932,6 +6932,218 @@
         <source>Folders</source>
         <translation>Složky</translation>
     </message>
+    <message>
+        <source>Marked</source>
+        <translation>Označeno</translation>
+    </message>
+    <message>
+        <source>Proposal</source>
+        <translation>Návrh</translation>
+    </message>
+    <message>
+        <source>Confidence</source>
+        <translation>Jistota</translation>
+    </message>
+    <message>
+        <source>%1 s, %2</source>
+        <translation>%1 s, %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>žádný</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Jízda</translation>
+    </message>
+    <message>
+        <source>No boat was found that could be this run: look for it in the slit picture.</source>
+        <translation>Nenašla se žádná loď, která by mohla být touto jízdou: vyhledejte ji ve štěrbinovém obrazu.</translation>
+    </message>
+    <message>
+        <source>This run is marked here.</source>
+        <translation>Tato jízda je zde označena.</translation>
+    </message>
+    <message>
+        <source>Where the run is marked at this line, in seconds of the film</source>
+        <translation>Kde je jízda na této čáře označena, v sekundách filmu</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>vynecháno</translation>
+    </message>
+    <message>
+        <source>→ new here</source>
+        <translation>→ nový zde</translation>
+    </message>
+    <message>
+        <source>← new there</source>
+        <translation>← nový tam</translation>
+    </message>
+    <message>
+        <source>→ changed here</source>
+        <translation>→ změněn zde</translation>
+    </message>
+    <message>
+        <source>← changed there</source>
+        <translation>← změněn tam</translation>
+    </message>
+    <message>
+        <source>↔ on both sides</source>
+        <translation>↔ na obou stranách</translation>
+    </message>
+    <message>
+        <source>✕ deleted here</source>
+        <translation>✕ smazán zde</translation>
+    </message>
+    <message>
+        <source>✕ deleted there</source>
+        <translation>✕ smazán tam</translation>
+    </message>
+    <message>
+        <source>Goes to the server</source>
+        <translation>Odešle se na server</translation>
+    </message>
+    <message>
+        <source>Comes from the server</source>
+        <translation>Stáhne se ze serveru</translation>
+    </message>
+    <message>
+        <source>Goes to the server, in place of what it has</source>
+        <translation>Odešle se na server místo toho, co tam je</translation>
+    </message>
+    <message>
+        <source>Comes from the server, in place of what is here</source>
+        <translation>Stáhne se ze serveru místo toho, co je zde</translation>
+    </message>
+    <message>
+        <source>Is compared; where both differ, both are kept</source>
+        <translation>Porovná se; kde se liší, zůstanou oba</translation>
+    </message>
+    <message>
+        <source>Is deleted on the server where you tick it</source>
+        <translation>Smaže se na serveru, pokud ho zaškrtnete</translation>
+    </message>
+    <message>
+        <source>Is deleted here where you tick it</source>
+        <translation>Smaže se zde, pokud ho zaškrtnete</translation>
+    </message>
+    <message>
+        <source>%1 new here</source>
+        <translation>%1 nových zde</translation>
+    </message>
+    <message>
+        <source>%1 new there</source>
+        <translation>%1 nových tam</translation>
+    </message>
+    <message>
+        <source>%1 changed here</source>
+        <translation>%1 změněných zde</translation>
+    </message>
+    <message>
+        <source>%1 changed there</source>
+        <translation>%1 změněných tam</translation>
+    </message>
+    <message>
+        <source>%1 on both sides</source>
+        <translation>%1 na obou stranách</translation>
+    </message>
+    <message>
+        <source>%1 deleted here</source>
+        <translation>%1 smazaných zde</translation>
+    </message>
+    <message>
+        <source>%1 deleted there</source>
+        <translation>%1 smazaných tam</translation>
+    </message>
+    <message>
+        <source>Both sides are the same</source>
+        <translation>Obě strany jsou stejné</translation>
+    </message>
+    <message>
+        <source>%1 shared</source>
+        <translation>%1 sdílených</translation>
+    </message>
+    <message>
+        <source>%1 kept twice</source>
+        <translation>%1 ponechaných dvakrát</translation>
+    </message>
+    <message>
+        <source>Fastest at %1 s of the film: %2 m/s.</source>
+        <translation>Nejrychleji v čase %1 s filmu: %2 m/s.</translation>
+    </message>
+    <message>
+        <source>Fastest at %1 s of the film: %2 m/s (a scale only: it holds near the two points and along their line).</source>
+        <translation>Nejrychleji v čase %1 s filmu: %2 m/s (jen měřítko: platí poblíž obou bodů a podél jejich spojnice).</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Snímek</translation>
+    </message>
+    <message>
+        <source>Steadied x</source>
+        <translation>Ustálené x</translation>
+    </message>
+    <message>
+        <source>Steadied y</source>
+        <translation>Ustálené y</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>Napříč</translation>
+    </message>
+    <message>
+        <source>Along</source>
+        <translation>Podél</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Rychlost</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Shoda</translation>
+    </message>
+    <message>
+        <source>Film [s]</source>
+        <translation>Film [s]</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>Draw a box round what is to be followed.</source>
+        <translation>Nakreslete rámeček kolem toho, co se má sledovat.</translation>
+    </message>
+    <message>
+        <source>Click known points on the water for metres and speeds: the poles of two gates, or of one for a scale only.</source>
+        <translation>Pro metry a rychlosti klepněte na známé body na vodě: tyče dvou branek, nebo jedné jen pro měřítko.</translation>
+    </message>
+    <message>
+        <source>There is no speed: the path is too short, or the camera&apos;s motion is not known.</source>
+        <translation>Rychlost není: dráha je příliš krátká, nebo není znám pohyb kamery.</translation>
+    </message>
+    <message>
+        <source>Uncertainty of the clicks</source>
+        <translation>Nejistota klepnutí</translation>
+    </message>
+    <message>
+        <source>✓ Done</source>
+        <translation>✓ Hotovo</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>Probíhá…</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::AthleteDialog</name>
@@ -8683,6 +8895,34 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     <message>
         <source>Leave it</source>
         <translation>Nechat</translation>
+    </message>
+    <message>
+        <source>Drag a part, or one of its points. The poles of a gate turn about each other.</source>
+        <translation>Táhněte část nebo jeden z jejích bodů. Tyče branky se otáčejí kolem sebe.</translation>
+    </message>
+    <message>
+        <source>Click where a gate hangs; hold the button and drag its right pole round.</source>
+        <translation>Klepněte, kde visí branka; podržte tlačítko a otočte její pravou tyč.</translation>
+    </message>
+    <message>
+        <source>Drag from bank to bank where the split is taken.</source>
+        <translation>Táhněte od břehu ke břehu tam, kde se měří mezičas.</translation>
+    </message>
+    <message>
+        <source>Draw along the bank with the button held down.</source>
+        <translation>Kreslete podél břehu s podrženým tlačítkem.</translation>
+    </message>
+    <message>
+        <source>Draw the way of a boat with the button held down, and name it at the right.</source>
+        <translation>S podrženým tlačítkem nakreslete stopu lodi a vpravo ji pojmenujte.</translation>
+    </message>
+    <message>
+        <source>Click where words are to stand.</source>
+        <translation>Klepněte, kde má stát text.</translation>
+    </message>
+    <message>
+        <source>It has %1 MB. Up to 40 MB can be read; save it smaller first.</source>
+        <translation>Má %1 MB. Přečíst lze nejvýše 40 MB; uložte jej nejdřív menší.</translation>
     </message>
 </context>
 <context>

@@ -6902,6 +6902,218 @@
         <source>Folders</source>
         <translation>Ordner</translation>
     </message>
+    <message>
+        <source>Marked</source>
+        <translation>Markiert</translation>
+    </message>
+    <message>
+        <source>Proposal</source>
+        <translation>Vorschlag</translation>
+    </message>
+    <message>
+        <source>Confidence</source>
+        <translation>Sicherheit</translation>
+    </message>
+    <message>
+        <source>%1 s, %2</source>
+        <translation>%1 s, %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keiner</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Lauf</translation>
+    </message>
+    <message>
+        <source>No boat was found that could be this run: look for it in the slit picture.</source>
+        <translation>Es wurde kein Boot gefunden, das dieser Lauf sein könnte: Suchen Sie es im Schlitzbild.</translation>
+    </message>
+    <message>
+        <source>This run is marked here.</source>
+        <translation>Dieser Lauf ist hier markiert.</translation>
+    </message>
+    <message>
+        <source>Where the run is marked at this line, in seconds of the film</source>
+        <translation>Wo der Lauf an dieser Linie markiert ist, in Sekunden des Films</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>ausgelassen</translation>
+    </message>
+    <message>
+        <source>→ new here</source>
+        <translation>→ neu hier</translation>
+    </message>
+    <message>
+        <source>← new there</source>
+        <translation>← neu dort</translation>
+    </message>
+    <message>
+        <source>→ changed here</source>
+        <translation>→ hier geändert</translation>
+    </message>
+    <message>
+        <source>← changed there</source>
+        <translation>← dort geändert</translation>
+    </message>
+    <message>
+        <source>↔ on both sides</source>
+        <translation>↔ auf beiden Seiten</translation>
+    </message>
+    <message>
+        <source>✕ deleted here</source>
+        <translation>✕ hier gelöscht</translation>
+    </message>
+    <message>
+        <source>✕ deleted there</source>
+        <translation>✕ dort gelöscht</translation>
+    </message>
+    <message>
+        <source>Goes to the server</source>
+        <translation>Geht zum Server</translation>
+    </message>
+    <message>
+        <source>Comes from the server</source>
+        <translation>Kommt vom Server</translation>
+    </message>
+    <message>
+        <source>Goes to the server, in place of what it has</source>
+        <translation>Geht zum Server, anstelle dessen, was er hat</translation>
+    </message>
+    <message>
+        <source>Comes from the server, in place of what is here</source>
+        <translation>Kommt vom Server, anstelle dessen, was hier ist</translation>
+    </message>
+    <message>
+        <source>Is compared; where both differ, both are kept</source>
+        <translation>Wird verglichen; wo sich beide unterscheiden, bleiben beide erhalten</translation>
+    </message>
+    <message>
+        <source>Is deleted on the server where you tick it</source>
+        <translation>Wird auf dem Server gelöscht, wo Sie es abhaken</translation>
+    </message>
+    <message>
+        <source>Is deleted here where you tick it</source>
+        <translation>Wird hier gelöscht, wo Sie es abhaken</translation>
+    </message>
+    <message>
+        <source>%1 new here</source>
+        <translation>%1 neu hier</translation>
+    </message>
+    <message>
+        <source>%1 new there</source>
+        <translation>%1 neu dort</translation>
+    </message>
+    <message>
+        <source>%1 changed here</source>
+        <translation>%1 hier geändert</translation>
+    </message>
+    <message>
+        <source>%1 changed there</source>
+        <translation>%1 dort geändert</translation>
+    </message>
+    <message>
+        <source>%1 on both sides</source>
+        <translation>%1 auf beiden Seiten</translation>
+    </message>
+    <message>
+        <source>%1 deleted here</source>
+        <translation>%1 hier gelöscht</translation>
+    </message>
+    <message>
+        <source>%1 deleted there</source>
+        <translation>%1 dort gelöscht</translation>
+    </message>
+    <message>
+        <source>Both sides are the same</source>
+        <translation>Beide Seiten sind gleich</translation>
+    </message>
+    <message>
+        <source>%1 shared</source>
+        <translation>%1 geteilt</translation>
+    </message>
+    <message>
+        <source>%1 kept twice</source>
+        <translation>%1 doppelt behalten</translation>
+    </message>
+    <message>
+        <source>Fastest at %1 s of the film: %2 m/s.</source>
+        <translation>Am schnellsten bei %1 s des Films: %2 m/s.</translation>
+    </message>
+    <message>
+        <source>Fastest at %1 s of the film: %2 m/s (a scale only: it holds near the two points and along their line).</source>
+        <translation>Am schnellsten bei %1 s des Films: %2 m/s (nur ein Maßstab: Er gilt nahe den zwei Punkten und entlang ihrer Linie).</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Steadied x</source>
+        <translation>x beruhigt</translation>
+    </message>
+    <message>
+        <source>Steadied y</source>
+        <translation>y beruhigt</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>Quer</translation>
+    </message>
+    <message>
+        <source>Along</source>
+        <translation>Längs</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Güte</translation>
+    </message>
+    <message>
+        <source>Film [s]</source>
+        <translation>Film [s]</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>Draw a box round what is to be followed.</source>
+        <translation>Zeichnen Sie einen Rahmen um das, was verfolgt werden soll.</translation>
+    </message>
+    <message>
+        <source>Click known points on the water for metres and speeds: the poles of two gates, or of one for a scale only.</source>
+        <translation>Klicken Sie für Meter und Geschwindigkeiten bekannte Punkte auf dem Wasser an: die Torstäbe von zwei Toren, oder von einem nur für einen Maßstab.</translation>
+    </message>
+    <message>
+        <source>There is no speed: the path is too short, or the camera&apos;s motion is not known.</source>
+        <translation>Es gibt keine Geschwindigkeit: Die Bahn ist zu kurz, oder die Bewegung der Kamera ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Uncertainty of the clicks</source>
+        <translation>Unsicherheit der Klicks</translation>
+    </message>
+    <message>
+        <source>✓ Done</source>
+        <translation>✓ Fertig</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>Läuft…</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::AthleteDialog</name>
@@ -8651,6 +8863,34 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     <message>
         <source>Leave it</source>
         <translation>So lassen</translation>
+    </message>
+    <message>
+        <source>Drag a part, or one of its points. The poles of a gate turn about each other.</source>
+        <translation>Ziehen Sie ein Teil oder einen seiner Punkte. Die Stäbe eines Tors drehen sich umeinander.</translation>
+    </message>
+    <message>
+        <source>Click where a gate hangs; hold the button and drag its right pole round.</source>
+        <translation>Klicken Sie, wo ein Tor hängt; halten Sie die Taste und drehen Sie den rechten Stab herum.</translation>
+    </message>
+    <message>
+        <source>Drag from bank to bank where the split is taken.</source>
+        <translation>Ziehen Sie von Ufer zu Ufer, wo die Zwischenzeit genommen wird.</translation>
+    </message>
+    <message>
+        <source>Draw along the bank with the button held down.</source>
+        <translation>Zeichnen Sie mit gehaltener Taste am Ufer entlang.</translation>
+    </message>
+    <message>
+        <source>Draw the way of a boat with the button held down, and name it at the right.</source>
+        <translation>Zeichnen Sie mit gehaltener Taste den Weg eines Boots und benennen Sie ihn rechts.</translation>
+    </message>
+    <message>
+        <source>Click where words are to stand.</source>
+        <translation>Klicken Sie, wo Wörter stehen sollen.</translation>
+    </message>
+    <message>
+        <source>It has %1 MB. Up to 40 MB can be read; save it smaller first.</source>
+        <translation>Es hat %1 MB. Bis zu 40 MB können gelesen werden; speichern Sie es zuerst kleiner.</translation>
     </message>
 </context>
 <context>

@@ -6902,6 +6902,218 @@
         <source>Folders</source>
         <translation>Carpetas</translation>
     </message>
+    <message>
+        <source>Marked</source>
+        <translation>Marcado</translation>
+    </message>
+    <message>
+        <source>Proposal</source>
+        <translation>Propuesta</translation>
+    </message>
+    <message>
+        <source>Confidence</source>
+        <translation>Confianza</translation>
+    </message>
+    <message>
+        <source>%1 s, %2</source>
+        <translation>%1 s, %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Manga</translation>
+    </message>
+    <message>
+        <source>No boat was found that could be this run: look for it in the slit picture.</source>
+        <translation>No se encontró ningún barco que pueda ser esta manga: búscalo en la imagen de línea.</translation>
+    </message>
+    <message>
+        <source>This run is marked here.</source>
+        <translation>Esta manga está marcada aquí.</translation>
+    </message>
+    <message>
+        <source>Where the run is marked at this line, in seconds of the film</source>
+        <translation>Dónde está marcada la manga en esta línea, en segundos del vídeo</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>omitido</translation>
+    </message>
+    <message>
+        <source>→ new here</source>
+        <translation>→ nuevo aquí</translation>
+    </message>
+    <message>
+        <source>← new there</source>
+        <translation>← nuevo allí</translation>
+    </message>
+    <message>
+        <source>→ changed here</source>
+        <translation>→ modificado aquí</translation>
+    </message>
+    <message>
+        <source>← changed there</source>
+        <translation>← modificado allí</translation>
+    </message>
+    <message>
+        <source>↔ on both sides</source>
+        <translation>↔ en ambos lados</translation>
+    </message>
+    <message>
+        <source>✕ deleted here</source>
+        <translation>✕ borrado aquí</translation>
+    </message>
+    <message>
+        <source>✕ deleted there</source>
+        <translation>✕ borrado allí</translation>
+    </message>
+    <message>
+        <source>Goes to the server</source>
+        <translation>Va al servidor</translation>
+    </message>
+    <message>
+        <source>Comes from the server</source>
+        <translation>Viene del servidor</translation>
+    </message>
+    <message>
+        <source>Goes to the server, in place of what it has</source>
+        <translation>Va al servidor, en lugar de lo que hay allí</translation>
+    </message>
+    <message>
+        <source>Comes from the server, in place of what is here</source>
+        <translation>Viene del servidor, en lugar de lo que hay aquí</translation>
+    </message>
+    <message>
+        <source>Is compared; where both differ, both are kept</source>
+        <translation>Se compara; si difieren, se conservan ambos</translation>
+    </message>
+    <message>
+        <source>Is deleted on the server where you tick it</source>
+        <translation>Se borra en el servidor si lo marcas</translation>
+    </message>
+    <message>
+        <source>Is deleted here where you tick it</source>
+        <translation>Se borra aquí si lo marcas</translation>
+    </message>
+    <message>
+        <source>%1 new here</source>
+        <translation>%1 nuevos aquí</translation>
+    </message>
+    <message>
+        <source>%1 new there</source>
+        <translation>%1 nuevos allí</translation>
+    </message>
+    <message>
+        <source>%1 changed here</source>
+        <translation>%1 modificados aquí</translation>
+    </message>
+    <message>
+        <source>%1 changed there</source>
+        <translation>%1 modificados allí</translation>
+    </message>
+    <message>
+        <source>%1 on both sides</source>
+        <translation>%1 en ambos lados</translation>
+    </message>
+    <message>
+        <source>%1 deleted here</source>
+        <translation>%1 borrados aquí</translation>
+    </message>
+    <message>
+        <source>%1 deleted there</source>
+        <translation>%1 borrados allí</translation>
+    </message>
+    <message>
+        <source>Both sides are the same</source>
+        <translation>Ambos lados son iguales</translation>
+    </message>
+    <message>
+        <source>%1 shared</source>
+        <translation>%1 compartidos</translation>
+    </message>
+    <message>
+        <source>%1 kept twice</source>
+        <translation>%1 conservados dos veces</translation>
+    </message>
+    <message>
+        <source>Fastest at %1 s of the film: %2 m/s.</source>
+        <translation>Máxima en el segundo %1 del vídeo: %2 m/s.</translation>
+    </message>
+    <message>
+        <source>Fastest at %1 s of the film: %2 m/s (a scale only: it holds near the two points and along their line).</source>
+        <translation>Máxima en el segundo %1 del vídeo: %2 m/s (solo una escala: vale cerca de los dos puntos y a lo largo de su línea).</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Fotograma</translation>
+    </message>
+    <message>
+        <source>Steadied x</source>
+        <translation>x estabilizada</translation>
+    </message>
+    <message>
+        <source>Steadied y</source>
+        <translation>y estabilizada</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>A lo ancho</translation>
+    </message>
+    <message>
+        <source>Along</source>
+        <translation>A lo largo</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Acierto</translation>
+    </message>
+    <message>
+        <source>Film [s]</source>
+        <translation>Vídeo [s]</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>Draw a box round what is to be followed.</source>
+        <translation>Dibuja un recuadro alrededor de lo que hay que seguir.</translation>
+    </message>
+    <message>
+        <source>Click known points on the water for metres and speeds: the poles of two gates, or of one for a scale only.</source>
+        <translation>Haz clic en puntos conocidos del agua para tener metros y velocidades: los palos de dos puertas, o de una para tener solo una escala.</translation>
+    </message>
+    <message>
+        <source>There is no speed: the path is too short, or the camera&apos;s motion is not known.</source>
+        <translation>No hay velocidad: la trayectoria es demasiado corta o no se conoce el movimiento de la cámara.</translation>
+    </message>
+    <message>
+        <source>Uncertainty of the clicks</source>
+        <translation>Incertidumbre de los clics</translation>
+    </message>
+    <message>
+        <source>✓ Done</source>
+        <translation>✓ Hecho</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>En curso…</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::AthleteDialog</name>
@@ -8651,6 +8863,34 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     <message>
         <source>Leave it</source>
         <translation>Dejarlo</translation>
+    </message>
+    <message>
+        <source>Drag a part, or one of its points. The poles of a gate turn about each other.</source>
+        <translation>Arrastra una parte o uno de sus puntos. Los palos de una puerta giran uno alrededor del otro.</translation>
+    </message>
+    <message>
+        <source>Click where a gate hangs; hold the button and drag its right pole round.</source>
+        <translation>Haz clic donde cuelga una puerta; mantén el botón y arrastra su palo derecho para girarla.</translation>
+    </message>
+    <message>
+        <source>Drag from bank to bank where the split is taken.</source>
+        <translation>Arrastra de orilla a orilla donde se toma el parcial.</translation>
+    </message>
+    <message>
+        <source>Draw along the bank with the button held down.</source>
+        <translation>Dibuja a lo largo de la orilla con el botón pulsado.</translation>
+    </message>
+    <message>
+        <source>Draw the way of a boat with the button held down, and name it at the right.</source>
+        <translation>Dibuja la trazada de un barco con el botón pulsado y ponle nombre a la derecha.</translation>
+    </message>
+    <message>
+        <source>Click where words are to stand.</source>
+        <translation>Haz clic donde deba ir el texto.</translation>
+    </message>
+    <message>
+        <source>It has %1 MB. Up to 40 MB can be read; save it smaller first.</source>
+        <translation>Tiene %1 MB. Se pueden leer hasta 40 MB; guárdala antes más pequeña.</translation>
     </message>
 </context>
 <context>

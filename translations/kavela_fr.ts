@@ -6902,6 +6902,218 @@
         <source>Folders</source>
         <translation>Dossiers</translation>
     </message>
+    <message>
+        <source>Marked</source>
+        <translation>Marqué</translation>
+    </message>
+    <message>
+        <source>Proposal</source>
+        <translation>Proposition</translation>
+    </message>
+    <message>
+        <source>Confidence</source>
+        <translation>Fiabilité</translation>
+    </message>
+    <message>
+        <source>%1 s, %2</source>
+        <translation>%1 s, %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucune</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Manche</translation>
+    </message>
+    <message>
+        <source>No boat was found that could be this run: look for it in the slit picture.</source>
+        <translation>Aucun bateau trouvé qui puisse être cette manche : cherchez-le dans l’image à fente.</translation>
+    </message>
+    <message>
+        <source>This run is marked here.</source>
+        <translation>Cette manche est marquée ici.</translation>
+    </message>
+    <message>
+        <source>Where the run is marked at this line, in seconds of the film</source>
+        <translation>Où la manche est marquée sur cette ligne, en secondes du film</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>laissé de côté</translation>
+    </message>
+    <message>
+        <source>→ new here</source>
+        <translation>→ nouveau ici</translation>
+    </message>
+    <message>
+        <source>← new there</source>
+        <translation>← nouveau là-bas</translation>
+    </message>
+    <message>
+        <source>→ changed here</source>
+        <translation>→ modifié ici</translation>
+    </message>
+    <message>
+        <source>← changed there</source>
+        <translation>← modifié là-bas</translation>
+    </message>
+    <message>
+        <source>↔ on both sides</source>
+        <translation>↔ des deux côtés</translation>
+    </message>
+    <message>
+        <source>✕ deleted here</source>
+        <translation>✕ supprimé ici</translation>
+    </message>
+    <message>
+        <source>✕ deleted there</source>
+        <translation>✕ supprimé là-bas</translation>
+    </message>
+    <message>
+        <source>Goes to the server</source>
+        <translation>Va sur le serveur</translation>
+    </message>
+    <message>
+        <source>Comes from the server</source>
+        <translation>Vient du serveur</translation>
+    </message>
+    <message>
+        <source>Goes to the server, in place of what it has</source>
+        <translation>Va sur le serveur, à la place de ce qu’il a</translation>
+    </message>
+    <message>
+        <source>Comes from the server, in place of what is here</source>
+        <translation>Vient du serveur, à la place de ce qui est ici</translation>
+    </message>
+    <message>
+        <source>Is compared; where both differ, both are kept</source>
+        <translation>Est comparé ; s’ils diffèrent, les deux sont conservés</translation>
+    </message>
+    <message>
+        <source>Is deleted on the server where you tick it</source>
+        <translation>Est supprimé sur le serveur si vous le cochez</translation>
+    </message>
+    <message>
+        <source>Is deleted here where you tick it</source>
+        <translation>Est supprimé ici si vous le cochez</translation>
+    </message>
+    <message>
+        <source>%1 new here</source>
+        <translation>%1 nouveaux ici</translation>
+    </message>
+    <message>
+        <source>%1 new there</source>
+        <translation>%1 nouveaux là-bas</translation>
+    </message>
+    <message>
+        <source>%1 changed here</source>
+        <translation>%1 modifiés ici</translation>
+    </message>
+    <message>
+        <source>%1 changed there</source>
+        <translation>%1 modifiés là-bas</translation>
+    </message>
+    <message>
+        <source>%1 on both sides</source>
+        <translation>%1 des deux côtés</translation>
+    </message>
+    <message>
+        <source>%1 deleted here</source>
+        <translation>%1 supprimés ici</translation>
+    </message>
+    <message>
+        <source>%1 deleted there</source>
+        <translation>%1 supprimés là-bas</translation>
+    </message>
+    <message>
+        <source>Both sides are the same</source>
+        <translation>Les deux côtés sont identiques</translation>
+    </message>
+    <message>
+        <source>%1 shared</source>
+        <translation>%1 partagés</translation>
+    </message>
+    <message>
+        <source>%1 kept twice</source>
+        <translation>%1 conservés en double</translation>
+    </message>
+    <message>
+        <source>Fastest at %1 s of the film: %2 m/s.</source>
+        <translation>Maximum à %1 s du film : %2 m/s.</translation>
+    </message>
+    <message>
+        <source>Fastest at %1 s of the film: %2 m/s (a scale only: it holds near the two points and along their line).</source>
+        <translation>Maximum à %1 s du film : %2 m/s (une échelle seulement : elle vaut près des deux points et le long de leur ligne).</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Steadied x</source>
+        <translation>x stabilisé</translation>
+    </message>
+    <message>
+        <source>Steadied y</source>
+        <translation>y stabilisé</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>En travers</translation>
+    </message>
+    <message>
+        <source>Along</source>
+        <translation>En long</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Score</translation>
+    </message>
+    <message>
+        <source>Film [s]</source>
+        <translation>Film [s]</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>Draw a box round what is to be followed.</source>
+        <translation>Tracez un cadre autour de ce qu’il faut suivre.</translation>
+    </message>
+    <message>
+        <source>Click known points on the water for metres and speeds: the poles of two gates, or of one for a scale only.</source>
+        <translation>Cliquez sur des points connus de l’eau pour les mètres et les vitesses : les fiches de deux portes, ou d’une seule pour une simple échelle.</translation>
+    </message>
+    <message>
+        <source>There is no speed: the path is too short, or the camera&apos;s motion is not known.</source>
+        <translation>Il n’y a pas de vitesse : la trajectoire est trop courte, ou le mouvement de la caméra est inconnu.</translation>
+    </message>
+    <message>
+        <source>Uncertainty of the clicks</source>
+        <translation>Incertitude des clics</translation>
+    </message>
+    <message>
+        <source>✓ Done</source>
+        <translation>✓ Fait</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>En cours…</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::AthleteDialog</name>
@@ -8651,6 +8863,34 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     <message>
         <source>Leave it</source>
         <translation>Le laisser</translation>
+    </message>
+    <message>
+        <source>Drag a part, or one of its points. The poles of a gate turn about each other.</source>
+        <translation>Faites glisser un élément, ou un de ses points. Les fiches d’une porte tournent l’une autour de l’autre.</translation>
+    </message>
+    <message>
+        <source>Click where a gate hangs; hold the button and drag its right pole round.</source>
+        <translation>Cliquez là où pend une porte ; maintenez le bouton et tournez sa fiche droite.</translation>
+    </message>
+    <message>
+        <source>Drag from bank to bank where the split is taken.</source>
+        <translation>Tracez d’une rive à l’autre là où le temps intermédiaire est pris.</translation>
+    </message>
+    <message>
+        <source>Draw along the bank with the button held down.</source>
+        <translation>Dessinez le long de la rive en maintenant le bouton.</translation>
+    </message>
+    <message>
+        <source>Draw the way of a boat with the button held down, and name it at the right.</source>
+        <translation>Dessinez le trajet d’un bateau en maintenant le bouton, puis nommez-le à droite.</translation>
+    </message>
+    <message>
+        <source>Click where words are to stand.</source>
+        <translation>Cliquez là où le texte doit se trouver.</translation>
+    </message>
+    <message>
+        <source>It has %1 MB. Up to 40 MB can be read; save it smaller first.</source>
+        <translation>Elle fait %1 Mo. On peut en lire jusqu’à 40 Mo ; enregistrez-la d’abord plus petite.</translation>
     </message>
 </context>
 <context>
