@@ -3013,14 +3013,6 @@
         <source>{} left out: {} penalties are not known by gate.</source>
         <translation>Vynecháno {}: {} penalizace nejsou známy po brankách.</translation>
     </message>
-    <message>
-        <source> and {} more</source>
-        <translation> a dalších {}</translation>
-    </message>
-    <message>
-        <source>{} {} out: touched more than the {} that all have in common.</source>
-        <translation>{} {} – ťuky častější než {}, které mají všechny společné.</translation>
-    </message>
     <message numerus="yes">
         <source>{} touches</source>
         <translation>
@@ -3050,48 +3042,16 @@
         <translation>Nic nevyčnívá ({}): nejvyšší, {} ({}), může být náhoda.</translation>
     </message>
     <message>
-        <source>Without this {}: {}.</source>
-        <translation>Bez toho ({}): {}.</translation>
-    </message>
-    <message>
         <source>None of {} cost a place.</source>
         <translation>{}: žádná nestála místo.</translation>
-    </message>
-    <message>
-        <source>{} of them</source>
-        <translation>z nich {}</translation>
-    </message>
-    <message>
-        <source>Of {} {} cost places, {} a medal.</source>
-        <translation>{}: {} stálo místa, {} medaili.</translation>
     </message>
     <message>
         <source>None of {} was noted in detail.</source>
         <translation>{}: žádná nebyla podrobně poznamenána.</translation>
     </message>
-    <message numerus="yes">
-        <source>{} were</source>
-        <translation>
-            <numerusform>z nich {}</numerusform>
-            <numerusform>z nich {}</numerusform>
-            <numerusform>z nich {}</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Of {} {} noted in detail.</source>
-        <translation>{}: {} podrobně poznamenáno.</translation>
-    </message>
     <message>
         <source>Too few to tell: no group has {} whole runs.</source>
         <translation>Na závěr příliš málo: žádná skupina nemá {} úplných jízd.</translation>
-    </message>
-    <message>
-        <source>{} touches a run in {}, all in one third of the field.</source>
-        <translation>Ťuků na jízdu {} ({}), vše v jedné třetině pole.</translation>
-    </message>
-    <message>
-        <source>{:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
-        <translation>{:.2f} ťuku na jízdu v rychlejší třetině, {:.2f} v pomalejší.</translation>
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run.</source>
@@ -3128,18 +3088,6 @@
     <message>
         <source>trend {:+.1f} % a year: {}</source>
         <translation>trend {:+.1f}&#xa0;% za rok: {}</translation>
-    </message>
-    <message>
-        <source>{}: too few runs to tell a trend behind {}.</source>
-        <translation>{}: příliš málo jízd na trend za {}.</translation>
-    </message>
-    <message>
-        <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
-        <translation>{}: {:+.1f}&#xa0;% za rok za {}{}, {}.</translation>
-    </message>
-    <message>
-        <source>{} of {}&apos;s races is known.</source>
-        <translation>{1}: {0} těchto závodů není znám.</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
@@ -3204,14 +3152,6 @@
     <message>
         <source>{:.1f} % would have been a medal in {} of {}</source>
         <translation>{2}: {0:.1f}&#xa0;% by stačilo na medaili v {1}</translation>
-    </message>
-    <message>
-        <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
-        <translation>Obojí má dost často {}: {} {} nepochybně rychlejší, {}; {} pomalejší.</translation>
-    </message>
-    <message>
-        <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>{}: {}, {} z {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
@@ -5228,6 +5168,270 @@
     <message>
         <source>number of notes</source>
         <translation>počet poznámek</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>celé číslo</translation>
+    </message>
+    <message>
+        <source>decimal</source>
+        <translation>desetinné číslo</translation>
+    </message>
+    <message>
+        <source>status</source>
+        <translation>stav</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>datum</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>text</translation>
+    </message>
+    <message>
+        <source>Add {}</source>
+        <translation>přidání: {}</translation>
+    </message>
+    <message>
+        <source>Colour {}</source>
+        <translation>barvy: {}</translation>
+    </message>
+    <message>
+        <source>First line is a row</source>
+        <translation>první řádek jsou data</translation>
+    </message>
+    <message>
+        <source>First line is titles</source>
+        <translation>první řádek jsou nadpisy</translation>
+    </message>
+    <message>
+        <source>Group by {}</source>
+        <translation>seskupení podle: {}</translation>
+    </message>
+    <message>
+        <source>Keep {} in {}</source>
+        <translation>ponechání: {} ({})</translation>
+    </message>
+    <message>
+        <source>Leave out {}</source>
+        <translation>vynechání: {}</translation>
+    </message>
+    <message>
+        <source>No colours in {}</source>
+        <translation>bez barev: {}</translation>
+    </message>
+    <message>
+        <source>No groups</source>
+        <translation>bez skupin</translation>
+    </message>
+    <message>
+        <source>Pivot of {} by {}</source>
+        <translation>kontingenční tabulka: {} podle {}</translation>
+    </message>
+    <message>
+        <source>Read {} as {}</source>
+        <translation>čtení: {} jako {}</translation>
+    </message>
+    <message>
+        <source>Sort by {}</source>
+        <translation>řazení podle: {}</translation>
+    </message>
+    <message>
+        <source>Sort by {}, downwards</source>
+        <translation>řazení podle: {}, sestupně</translation>
+    </message>
+    <message>
+        <source>Medals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Nejčastěji medaile: {}, {} z {} ({:.0f}–{:.0f} %).</translation>
+    </message>
+    <message>
+        <source>In finals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Nejčastěji ve finále: {}, {} z {} ({:.0f}–{:.0f} %).</translation>
+    </message>
+    <message>
+        <source>In semifinals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Nejčastěji v semifinále: {}, {} z {} ({:.0f}–{:.0f} %).</translation>
+    </message>
+    <message>
+        <source>No fastest split of {}&apos;s races is known.</source>
+        <translation>{}: z těchto závodů není znám žádný nejlepší mezičas.</translation>
+    </message>
+    <message>
+        <source>No winner of {}&apos;s races is known.</source>
+        <translation>{}: z těchto závodů není znám žádný vítěz.</translation>
+    </message>
+    <message>
+        <source>No penalty of a whole run is known by gate.</source>
+        <translation>U žádné úplné jízdy není penalizace známa podle branek.</translation>
+    </message>
+    <message>
+        <source>No race of the team has a result that says so.</source>
+        <translation>Žádný závod týmu nemá výsledek, který by to řekl.</translation>
+    </message>
+    <message>
+        <source>No whole run is known by gate.</source>
+        <translation>Žádná úplná jízda není známa podle branek.</translation>
+    </message>
+    <message>
+        <source>Nobody&apos;s penalties are known by gate.</source>
+        <translation>U nikoho nejsou penalizace známy podle branek.</translation>
+    </message>
+    <message>
+        <source>Noted in detail: {} of {}. Shares of what was noted, no rates: nobody notes how gates are passed clean.</source>
+        <translation>Podrobně poznamenáno: {} z {}. Jsou to podíly z poznamenaného, ne četnosti: čisté průjezdy nikdo nezapisuje.</translation>
+    </message>
+    <message>
+        <source>Noted in detail: {} of {}. Too few to tell.</source>
+        <translation>Podrobně poznamenáno: {} z {}. Na závěr příliš málo.</translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, beyond doubt faster in the final: {}, slower: {}.</source>
+        <translation>Obojí má dost často {}; nepochybně rychlejší ve finále: {}, pomalejší: {}.</translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, beyond doubt faster in the second run: {}, slower: {}.</source>
+        <translation>Obojí má dost často {}; nepochybně rychlejší ve druhé jízdě: {}, pomalejší: {}.</translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, none of them a medal.</source>
+        <translation>{}: {} z nich stálo místa, žádná medaili.</translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, {} of them a medal.</source>
+        <translation>{}: {} z nich stálo místa, {} z nich medaili.</translation>
+    </message>
+    <message>
+        <source>The fast touch less: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Rychlí ťukají méně: {:.2f} ťuku na jízdu v rychlejší třetině, {:.2f} v pomalejší.</translation>
+    </message>
+    <message>
+        <source>The fast touch more: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Rychlí ťukají více: {:.2f} ťuku na jízdu v rychlejší třetině, {:.2f} v pomalejší.</translation>
+    </message>
+    <message>
+        <source>Too few to tell fast from slow: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Příliš málo na rozlišení rychlých a pomalých: {:.2f} ťuku na jízdu v rychlejší třetině, {:.2f} v pomalejší.</translation>
+    </message>
+    <message>
+        <source>There is no penalty.</source>
+        <translation>Není žádná penalizace.</translation>
+    </message>
+    <message>
+        <source>Too few races with both to tell a change.</source>
+        <translation>Příliš málo závodů s obojím na určení změny.</translation>
+    </message>
+    <message>
+        <source>Without this missed gate: {}.</source>
+        <translation>Bez této neprojeté branky: {} místo.</translation>
+    </message>
+    <message>
+        <source>Without this touch: {}.</source>
+        <translation>Bez tohoto ťuku: {} místo.</translation>
+    </message>
+    <message>
+        <source>category</source>
+        <translation>kategorie</translation>
+    </message>
+    <message>
+        <source>crew</source>
+        <translation>posádka</translation>
+    </message>
+    <message>
+        <source>gate</source>
+        <translation>branka</translation>
+    </message>
+    <message>
+        <source>hand</source>
+        <translation>ruka</translation>
+    </message>
+    <message>
+        <source>month</source>
+        <translation>měsíc</translation>
+    </message>
+    <message>
+        <source>phase</source>
+        <translation>fáze</translation>
+    </message>
+    <message>
+        <source>race</source>
+        <translation>závod</translation>
+    </message>
+    <message>
+        <source>section</source>
+        <translation>úsek</translation>
+    </message>
+    <message>
+        <source>tenth of the course</source>
+        <translation>desetina trati</translation>
+    </message>
+    <message>
+        <source>type of gate</source>
+        <translation>druh branky</translation>
+    </message>
+    <message>
+        <source>nobody came</source>
+        <translation>nikdo nepřijel</translation>
+    </message>
+    <message>
+        <source>those without one</source>
+        <translation>ti bez udání</translation>
+    </message>
+    <message>
+        <source>{:.2f} touches a run in {}, all in one third of the field.</source>
+        <translation>Ťuků na jízdu {:.2f} ({}), vše v jedné třetině pole.</translation>
+    </message>
+    <message>
+        <source>{} and {} more</source>
+        <translation>{} a dalších {}</translation>
+    </message>
+    <message>
+        <source>{} stand out: touched more than the {} that all have in common.</source>
+        <translation>{} vyčnívají: ťuky častější než {}, které mají všechny společné.</translation>
+    </message>
+    <message>
+        <source>{} stands out: touched more than the {} that all have in common.</source>
+        <translation>{} vyčnívá: ťuky častější než {}, které mají všechny společné.</translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind the fastest splits.</source>
+        <translation>{}: příliš málo jízd na trend za nejlepšími mezičasy.</translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind the winners.</source>
+        <translation>{}: příliš málo jízd na trend za vítězi.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the fastest splits ({:+.1f} to {:+.1f}), {}.</source>
+        <translation>{}: {:+.1f} % za rok za nejlepšími mezičasy ({:+.1f} až {:+.1f}), {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the fastest splits, {}.</source>
+        <translation>{}: {:+.1f} % za rok za nejlepšími mezičasy, {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the winners ({:+.1f} to {:+.1f}), {}.</source>
+        <translation>{}: {:+.1f} % za rok za vítězi ({:+.1f} až {:+.1f}), {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the winners, {}.</source>
+        <translation>{}: {:+.1f} % za rok za vítězi, {}.</translation>
+    </message>
+    <message>
+        <source>{}st</source>
+        <translation>{}.</translation>
+    </message>
+    <message>
+        <source>{}nd</source>
+        <translation>{}.</translation>
+    </message>
+    <message>
+        <source>{}rd</source>
+        <translation>{}.</translation>
+    </message>
+    <message>
+        <source>{}th</source>
+        <translation>{}.</translation>
     </message>
 </context>
 <context>

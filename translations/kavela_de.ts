@@ -2990,14 +2990,6 @@
         <source>{} left out: {} penalties are not known by gate.</source>
         <translation>Ausgelassen: {}; Strafen ({}) nicht nach Toren bekannt.</translation>
     </message>
-    <message>
-        <source> and {} more</source>
-        <translation> und {} weitere</translation>
-    </message>
-    <message>
-        <source>{} {} out: touched more than the {} that all have in common.</source>
-        <translation>{} {} out: mehr Berührungen als die {}, die allen gemeinsam sind.</translation>
-    </message>
     <message numerus="yes">
         <source>{} touches</source>
         <translation>
@@ -3025,47 +3017,16 @@
         <translation>Nichts fällt auf ({}): der höchste Wert, {} ({}), kann Zufall sein.</translation>
     </message>
     <message>
-        <source>Without this {}: {}.</source>
-        <translation>Ohne dies ({}): {}.</translation>
-    </message>
-    <message>
         <source>None of {} cost a place.</source>
         <translation>Keinen Platz kostete: {}.</translation>
-    </message>
-    <message>
-        <source>{} of them</source>
-        <translation>{} davon</translation>
-    </message>
-    <message>
-        <source>Of {} {} cost places, {} a medal.</source>
-        <translation>Von {} kosteten {} Plätze, {} eine Medaille.</translation>
     </message>
     <message>
         <source>None of {} was noted in detail.</source>
         <translation>Nichts im Einzelnen notiert: {}.</translation>
     </message>
-    <message numerus="yes">
-        <source>{} were</source>
-        <translation>
-            <numerusform>{} wurde</numerusform>
-            <numerusform>{} wurden</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Of {} {} noted in detail.</source>
-        <translation>Von {} {} im Einzelnen notiert.</translation>
-    </message>
     <message>
         <source>Too few to tell: no group has {} whole runs.</source>
         <translation>Zu wenige für eine Aussage: keine Gruppe hat {} ganze Läufe.</translation>
-    </message>
-    <message>
-        <source>{} touches a run in {}, all in one third of the field.</source>
-        <translation>{} Berührungen je Lauf bei {}, alle in einem Drittel des Felds.</translation>
-    </message>
-    <message>
-        <source>{:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
-        <translation>{:.2f} Berührungen je Lauf im schnelleren Drittel, {:.2f} im langsameren.</translation>
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run.</source>
@@ -3102,18 +3063,6 @@
     <message>
         <source>trend {:+.1f} % a year: {}</source>
         <translation>Trend {:+.1f}&#xa0;% im Jahr: {}</translation>
-    </message>
-    <message>
-        <source>{}: too few runs to tell a trend behind {}.</source>
-        <translation>{}: zu wenige Läufe für einen Trend gegenüber: {}.</translation>
-    </message>
-    <message>
-        <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
-        <translation>{}: {:+.1f}&#xa0;% im Jahr, Abstand zu: {}{}, {}.</translation>
-    </message>
-    <message>
-        <source>{} of {}&apos;s races is known.</source>
-        <translation>{} in den Rennen von {} bekannt.</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
@@ -3176,14 +3125,6 @@
     <message>
         <source>{:.1f} % would have been a medal in {} of {}</source>
         <translation>{:.1f}&#xa0;% wären eine Medaille gewesen: {} von {}</translation>
-    </message>
-    <message>
-        <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
-        <translation>Von {}, die beide oft genug haben, {} {} zweifelsfrei schneller ({}), {} langsamer.</translation>
-    </message>
-    <message>
-        <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>{}: {}, {} von {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
@@ -5198,6 +5139,270 @@
     <message>
         <source>number of notes</source>
         <translation>Anzahl der Notizen</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>ganze Zahl</translation>
+    </message>
+    <message>
+        <source>decimal</source>
+        <translation>Dezimalzahl</translation>
+    </message>
+    <message>
+        <source>status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Add {}</source>
+        <translation>{} hinzufügen</translation>
+    </message>
+    <message>
+        <source>Colour {}</source>
+        <translation>{} färben</translation>
+    </message>
+    <message>
+        <source>First line is a row</source>
+        <translation>Erste Zeile ist eine Datenzeile</translation>
+    </message>
+    <message>
+        <source>First line is titles</source>
+        <translation>Erste Zeile sind Titel</translation>
+    </message>
+    <message>
+        <source>Group by {}</source>
+        <translation>Nach {} gruppieren</translation>
+    </message>
+    <message>
+        <source>Keep {} in {}</source>
+        <translation>{} in {} behalten</translation>
+    </message>
+    <message>
+        <source>Leave out {}</source>
+        <translation>{} weglassen</translation>
+    </message>
+    <message>
+        <source>No colours in {}</source>
+        <translation>Keine Farben in {}</translation>
+    </message>
+    <message>
+        <source>No groups</source>
+        <translation>Keine Gruppen</translation>
+    </message>
+    <message>
+        <source>Pivot of {} by {}</source>
+        <translation>Pivot von {} nach {}</translation>
+    </message>
+    <message>
+        <source>Read {} as {}</source>
+        <translation>{} lesen als {}</translation>
+    </message>
+    <message>
+        <source>Sort by {}</source>
+        <translation>Nach {} sortieren</translation>
+    </message>
+    <message>
+        <source>Sort by {}, downwards</source>
+        <translation>Nach {} sortieren, absteigend</translation>
+    </message>
+    <message>
+        <source>Medals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Am häufigsten Medaillen: {}, {} von {} ({:.0f}–{:.0f} %).</translation>
+    </message>
+    <message>
+        <source>In finals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Am häufigsten in Finals: {}, {} von {} ({:.0f}–{:.0f} %).</translation>
+    </message>
+    <message>
+        <source>In semifinals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Am häufigsten in Halbfinals: {}, {} von {} ({:.0f}–{:.0f} %).</translation>
+    </message>
+    <message>
+        <source>No fastest split of {}&apos;s races is known.</source>
+        <translation>In den Rennen von {} ist keine schnellste Zwischenzeit bekannt.</translation>
+    </message>
+    <message>
+        <source>No winner of {}&apos;s races is known.</source>
+        <translation>In den Rennen von {} ist kein Sieger bekannt.</translation>
+    </message>
+    <message>
+        <source>No penalty of a whole run is known by gate.</source>
+        <translation>Von keinem ganzen Lauf ist eine Strafe nach Toren bekannt.</translation>
+    </message>
+    <message>
+        <source>No race of the team has a result that says so.</source>
+        <translation>Kein Rennen der Mannschaft hat ein Ergebnis, das dies sagt.</translation>
+    </message>
+    <message>
+        <source>No whole run is known by gate.</source>
+        <translation>Kein ganzer Lauf ist nach Toren bekannt.</translation>
+    </message>
+    <message>
+        <source>Nobody&apos;s penalties are known by gate.</source>
+        <translation>Von niemandem sind die Strafen nach Toren bekannt.</translation>
+    </message>
+    <message>
+        <source>Noted in detail: {} of {}. Shares of what was noted, no rates: nobody notes how gates are passed clean.</source>
+        <translation>Im Einzelnen notiert: {} von {}. Anteile am Notierten, keine Quoten: Niemand notiert, wie Tore fehlerfrei durchfahren werden.</translation>
+    </message>
+    <message>
+        <source>Noted in detail: {} of {}. Too few to tell.</source>
+        <translation>Im Einzelnen notiert: {} von {}. Zu wenige für eine Aussage.</translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, beyond doubt faster in the final: {}, slower: {}.</source>
+        <translation>Von {}, die beide oft genug haben, zweifelsfrei schneller im Finale: {}, langsamer: {}.</translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, beyond doubt faster in the second run: {}, slower: {}.</source>
+        <translation>Von {}, die beide oft genug haben, zweifelsfrei schneller im zweiten Lauf: {}, langsamer: {}.</translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, none of them a medal.</source>
+        <translation>Von {} kosteten {} Plätze, keine davon eine Medaille.</translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, {} of them a medal.</source>
+        <translation>Von {} kosteten {} Plätze, {} davon eine Medaille.</translation>
+    </message>
+    <message>
+        <source>The fast touch less: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Die Schnellen berühren weniger: {:.2f} Berührungen je Lauf im schnelleren Drittel, {:.2f} im langsameren.</translation>
+    </message>
+    <message>
+        <source>The fast touch more: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Die Schnellen berühren mehr: {:.2f} Berührungen je Lauf im schnelleren Drittel, {:.2f} im langsameren.</translation>
+    </message>
+    <message>
+        <source>Too few to tell fast from slow: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Zu wenige, um Schnelle von Langsamen zu unterscheiden: {:.2f} Berührungen je Lauf im schnelleren Drittel, {:.2f} im langsameren.</translation>
+    </message>
+    <message>
+        <source>There is no penalty.</source>
+        <translation>Es gibt keine Strafe.</translation>
+    </message>
+    <message>
+        <source>Too few races with both to tell a change.</source>
+        <translation>Zu wenige Rennen mit beiden für eine Veränderung.</translation>
+    </message>
+    <message>
+        <source>Without this missed gate: {}.</source>
+        <translation>Ohne diesen Torfehler: {} Platz.</translation>
+    </message>
+    <message>
+        <source>Without this touch: {}.</source>
+        <translation>Ohne diese Berührung: {} Platz.</translation>
+    </message>
+    <message>
+        <source>category</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>crew</source>
+        <translation>Besatzung</translation>
+    </message>
+    <message>
+        <source>gate</source>
+        <translation>Tor</translation>
+    </message>
+    <message>
+        <source>hand</source>
+        <translation>Hand</translation>
+    </message>
+    <message>
+        <source>month</source>
+        <translation>Monat</translation>
+    </message>
+    <message>
+        <source>phase</source>
+        <translation>Phase</translation>
+    </message>
+    <message>
+        <source>race</source>
+        <translation>Rennen</translation>
+    </message>
+    <message>
+        <source>section</source>
+        <translation>Abschnitt</translation>
+    </message>
+    <message>
+        <source>tenth of the course</source>
+        <translation>Zehntel der Strecke</translation>
+    </message>
+    <message>
+        <source>type of gate</source>
+        <translation>Art des Tors</translation>
+    </message>
+    <message>
+        <source>nobody came</source>
+        <translation>niemand kam</translation>
+    </message>
+    <message>
+        <source>those without one</source>
+        <translation>die ohne</translation>
+    </message>
+    <message>
+        <source>{:.2f} touches a run in {}, all in one third of the field.</source>
+        <translation>{:.2f} Berührungen je Lauf bei {}, alle in einem Drittel des Felds.</translation>
+    </message>
+    <message>
+        <source>{} and {} more</source>
+        <translation>{} und {} weitere</translation>
+    </message>
+    <message>
+        <source>{} stand out: touched more than the {} that all have in common.</source>
+        <translation>{} fallen auf: mehr Berührungen als die {}, die allen gemeinsam sind.</translation>
+    </message>
+    <message>
+        <source>{} stands out: touched more than the {} that all have in common.</source>
+        <translation>{} fällt auf: mehr Berührungen als die {}, die allen gemeinsam sind.</translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind the fastest splits.</source>
+        <translation>{}: zu wenige Läufe für einen Trend gegenüber den schnellsten Zwischenzeiten.</translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind the winners.</source>
+        <translation>{}: zu wenige Läufe für einen Trend gegenüber den Siegern.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the fastest splits ({:+.1f} to {:+.1f}), {}.</source>
+        <translation>{}: {:+.1f} % im Jahr, Abstand zu den schnellsten Zwischenzeiten ({:+.1f} bis {:+.1f}), {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the fastest splits, {}.</source>
+        <translation>{}: {:+.1f} % im Jahr, Abstand zu den schnellsten Zwischenzeiten, {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the winners ({:+.1f} to {:+.1f}), {}.</source>
+        <translation>{}: {:+.1f} % im Jahr, Abstand zu den Siegern ({:+.1f} bis {:+.1f}), {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the winners, {}.</source>
+        <translation>{}: {:+.1f} % im Jahr, Abstand zu den Siegern, {}.</translation>
+    </message>
+    <message>
+        <source>{}st</source>
+        <translation>{}.</translation>
+    </message>
+    <message>
+        <source>{}nd</source>
+        <translation>{}.</translation>
+    </message>
+    <message>
+        <source>{}rd</source>
+        <translation>{}.</translation>
+    </message>
+    <message>
+        <source>{}th</source>
+        <translation>{}.</translation>
     </message>
 </context>
 <context>

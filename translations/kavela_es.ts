@@ -2990,14 +2990,6 @@
         <source>{} left out: {} penalties are not known by gate.</source>
         <translation>Omitido: {}: {} penalizaciones no se conocen por puerta.</translation>
     </message>
-    <message>
-        <source> and {} more</source>
-        <translation> y {} más</translation>
-    </message>
-    <message>
-        <source>{} {} out: touched more than the {} that all have in common.</source>
-        <translation>{} {} por encima: más toques que el {} común a todas.</translation>
-    </message>
     <message numerus="yes">
         <source>{} touches</source>
         <translation>
@@ -3025,47 +3017,16 @@
         <translation>Ninguno destaca ({}): el más alto, {} ({}), puede ser azar.</translation>
     </message>
     <message>
-        <source>Without this {}: {}.</source>
-        <translation>Sin esto ({}): {}.</translation>
-    </message>
-    <message>
         <source>None of {} cost a place.</source>
         <translation>Coste en puestos de {}: ninguno.</translation>
-    </message>
-    <message>
-        <source>{} of them</source>
-        <translation>{} de ellas</translation>
-    </message>
-    <message>
-        <source>Of {} {} cost places, {} a medal.</source>
-        <translation>De {}, {} costaron puestos; una medalla, {}.</translation>
     </message>
     <message>
         <source>None of {} was noted in detail.</source>
         <translation>Anotado con detalle de {}: nada.</translation>
     </message>
-    <message numerus="yes">
-        <source>{} were</source>
-        <translation>
-            <numerusform>se anotó {}</numerusform>
-            <numerusform>se anotaron {}</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Of {} {} noted in detail.</source>
-        <translation>De {} {} con detalle.</translation>
-    </message>
     <message>
         <source>Too few to tell: no group has {} whole runs.</source>
         <translation>Muy pocas para decirlo: ningún grupo tiene {} mangas enteras.</translation>
-    </message>
-    <message>
-        <source>{} touches a run in {}, all in one third of the field.</source>
-        <translation>{} toques por manga en {}, todas en un mismo tercio de los participantes.</translation>
-    </message>
-    <message>
-        <source>{:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
-        <translation>{:.2f} toques por manga en el tercio más rápido, {:.2f} en el más lento.</translation>
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run.</source>
@@ -3102,18 +3063,6 @@
     <message>
         <source>trend {:+.1f} % a year: {}</source>
         <translation>tendencia {:+.1f}&#xa0;% al año: {}</translation>
-    </message>
-    <message>
-        <source>{}: too few runs to tell a trend behind {}.</source>
-        <translation>{}: muy pocas mangas para indicar una tendencia respecto a {}.</translation>
-    </message>
-    <message>
-        <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
-        <translation>{}: {:+.1f}&#xa0;% al año respecto a {}{}, {}.</translation>
-    </message>
-    <message>
-        <source>{} of {}&apos;s races is known.</source>
-        <translation>{} de las carreras de {}: no se conoce.</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
@@ -3176,14 +3125,6 @@
     <message>
         <source>{:.1f} % would have been a medal in {} of {}</source>
         <translation>Un {:.1f}&#xa0;% habría sido medalla en {} de {}</translation>
-    </message>
-    <message>
-        <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
-        <translation>De {} que tienen ambas las veces suficientes, {} {} sin duda más rápidos en {}, {} más lentos.</translation>
-    </message>
-    <message>
-        <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>{}: {}, {} de {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
@@ -5198,6 +5139,270 @@
     <message>
         <source>number of notes</source>
         <translation>número de notas</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>número entero</translation>
+    </message>
+    <message>
+        <source>decimal</source>
+        <translation>número decimal</translation>
+    </message>
+    <message>
+        <source>status</source>
+        <translation>estado</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>fecha</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>texto</translation>
+    </message>
+    <message>
+        <source>Add {}</source>
+        <translation>Añadir {}</translation>
+    </message>
+    <message>
+        <source>Colour {}</source>
+        <translation>Colorear {}</translation>
+    </message>
+    <message>
+        <source>First line is a row</source>
+        <translation>La primera línea es una fila</translation>
+    </message>
+    <message>
+        <source>First line is titles</source>
+        <translation>La primera línea son títulos</translation>
+    </message>
+    <message>
+        <source>Group by {}</source>
+        <translation>Agrupar por {}</translation>
+    </message>
+    <message>
+        <source>Keep {} in {}</source>
+        <translation>Conservar {} en {}</translation>
+    </message>
+    <message>
+        <source>Leave out {}</source>
+        <translation>Omitir {}</translation>
+    </message>
+    <message>
+        <source>No colours in {}</source>
+        <translation>Sin colores en {}</translation>
+    </message>
+    <message>
+        <source>No groups</source>
+        <translation>Sin grupos</translation>
+    </message>
+    <message>
+        <source>Pivot of {} by {}</source>
+        <translation>Tabla dinámica de {} por {}</translation>
+    </message>
+    <message>
+        <source>Read {} as {}</source>
+        <translation>Leer {} como {}</translation>
+    </message>
+    <message>
+        <source>Sort by {}</source>
+        <translation>Ordenar por {}</translation>
+    </message>
+    <message>
+        <source>Sort by {}, downwards</source>
+        <translation>Ordenar por {}, descendente</translation>
+    </message>
+    <message>
+        <source>Medals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Más medallas: {}, {} de {} ({:.0f}–{:.0f} %).</translation>
+    </message>
+    <message>
+        <source>In finals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Más veces en finales: {}, {} de {} ({:.0f}–{:.0f} %).</translation>
+    </message>
+    <message>
+        <source>In semifinals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Más veces en semifinales: {}, {} de {} ({:.0f}–{:.0f} %).</translation>
+    </message>
+    <message>
+        <source>No fastest split of {}&apos;s races is known.</source>
+        <translation>De las carreras de {} no se conoce ningún parcial más rápido.</translation>
+    </message>
+    <message>
+        <source>No winner of {}&apos;s races is known.</source>
+        <translation>De las carreras de {} no se conoce ningún ganador.</translation>
+    </message>
+    <message>
+        <source>No penalty of a whole run is known by gate.</source>
+        <translation>De ninguna manga completa se conocen las penalizaciones por puerta.</translation>
+    </message>
+    <message>
+        <source>No race of the team has a result that says so.</source>
+        <translation>Ninguna carrera del equipo tiene un resultado que lo diga.</translation>
+    </message>
+    <message>
+        <source>No whole run is known by gate.</source>
+        <translation>No se conoce ninguna manga completa por puertas.</translation>
+    </message>
+    <message>
+        <source>Nobody&apos;s penalties are known by gate.</source>
+        <translation>No se conocen las penalizaciones de nadie por puerta.</translation>
+    </message>
+    <message>
+        <source>Noted in detail: {} of {}. Shares of what was noted, no rates: nobody notes how gates are passed clean.</source>
+        <translation>Anotadas con detalle: {} de {}. Son partes de lo anotado, no frecuencias: nadie anota cómo se pasan las puertas sin penalizar.</translation>
+    </message>
+    <message>
+        <source>Noted in detail: {} of {}. Too few to tell.</source>
+        <translation>Anotadas con detalle: {} de {}. Muy pocas para decir algo.</translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, beyond doubt faster in the final: {}, slower: {}.</source>
+        <translation>De {} que tienen ambas las veces suficientes, sin duda más rápidos en la final: {}, más lentos: {}.</translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, beyond doubt faster in the second run: {}, slower: {}.</source>
+        <translation>De {} que tienen ambas las veces suficientes, sin duda más rápidos en la segunda manga: {}, más lentos: {}.</translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, none of them a medal.</source>
+        <translation>De {}, {} costaron puestos, ninguna de ellas una medalla.</translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, {} of them a medal.</source>
+        <translation>De {}, {} costaron puestos, {} de ellas una medalla.</translation>
+    </message>
+    <message>
+        <source>The fast touch less: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Los rápidos tocan menos: {:.2f} toques por manga en el tercio más rápido, {:.2f} en el más lento.</translation>
+    </message>
+    <message>
+        <source>The fast touch more: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Los rápidos tocan más: {:.2f} toques por manga en el tercio más rápido, {:.2f} en el más lento.</translation>
+    </message>
+    <message>
+        <source>Too few to tell fast from slow: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Muy pocas para distinguir rápidos de lentos: {:.2f} toques por manga en el tercio más rápido, {:.2f} en el más lento.</translation>
+    </message>
+    <message>
+        <source>There is no penalty.</source>
+        <translation>No hay ninguna penalización.</translation>
+    </message>
+    <message>
+        <source>Too few races with both to tell a change.</source>
+        <translation>Muy pocas carreras con ambas para indicar un cambio.</translation>
+    </message>
+    <message>
+        <source>Without this missed gate: {}.</source>
+        <translation>Sin este salto: {}.</translation>
+    </message>
+    <message>
+        <source>Without this touch: {}.</source>
+        <translation>Sin este toque: {}.</translation>
+    </message>
+    <message>
+        <source>category</source>
+        <translation>categoría</translation>
+    </message>
+    <message>
+        <source>crew</source>
+        <translation>tripulación</translation>
+    </message>
+    <message>
+        <source>gate</source>
+        <translation>puerta</translation>
+    </message>
+    <message>
+        <source>hand</source>
+        <translation>mano</translation>
+    </message>
+    <message>
+        <source>month</source>
+        <translation>mes</translation>
+    </message>
+    <message>
+        <source>phase</source>
+        <translation>fase</translation>
+    </message>
+    <message>
+        <source>race</source>
+        <translation>carrera</translation>
+    </message>
+    <message>
+        <source>section</source>
+        <translation>tramo</translation>
+    </message>
+    <message>
+        <source>tenth of the course</source>
+        <translation>décimo del recorrido</translation>
+    </message>
+    <message>
+        <source>type of gate</source>
+        <translation>tipo de puerta</translation>
+    </message>
+    <message>
+        <source>nobody came</source>
+        <translation>nadie llegó</translation>
+    </message>
+    <message>
+        <source>those without one</source>
+        <translation>los que no tienen</translation>
+    </message>
+    <message>
+        <source>{:.2f} touches a run in {}, all in one third of the field.</source>
+        <translation>{:.2f} toques por manga en {}, todas en un mismo tercio de los participantes.</translation>
+    </message>
+    <message>
+        <source>{} and {} more</source>
+        <translation>{} y {} más</translation>
+    </message>
+    <message>
+        <source>{} stand out: touched more than the {} that all have in common.</source>
+        <translation>{} destacan: más toques que el {} común a todas.</translation>
+    </message>
+    <message>
+        <source>{} stands out: touched more than the {} that all have in common.</source>
+        <translation>{} destaca: más toques que el {} común a todas.</translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind the fastest splits.</source>
+        <translation>{}: muy pocas mangas para indicar una tendencia respecto a los parciales más rápidos.</translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind the winners.</source>
+        <translation>{}: muy pocas mangas para indicar una tendencia respecto a los ganadores.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the fastest splits ({:+.1f} to {:+.1f}), {}.</source>
+        <translation>{}: {:+.1f} % al año respecto a los parciales más rápidos (de {:+.1f} a {:+.1f}), {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the fastest splits, {}.</source>
+        <translation>{}: {:+.1f} % al año respecto a los parciales más rápidos, {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the winners ({:+.1f} to {:+.1f}), {}.</source>
+        <translation>{}: {:+.1f} % al año respecto a los ganadores (de {:+.1f} a {:+.1f}), {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the winners, {}.</source>
+        <translation>{}: {:+.1f} % al año respecto a los ganadores, {}.</translation>
+    </message>
+    <message>
+        <source>{}st</source>
+        <translation>{}.º</translation>
+    </message>
+    <message>
+        <source>{}nd</source>
+        <translation>{}.º</translation>
+    </message>
+    <message>
+        <source>{}rd</source>
+        <translation>{}.º</translation>
+    </message>
+    <message>
+        <source>{}th</source>
+        <translation>{}.º</translation>
     </message>
 </context>
 <context>

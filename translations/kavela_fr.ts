@@ -2990,14 +2990,6 @@
         <source>{} left out: {} penalties are not known by gate.</source>
         <translation>{} laissées de côté&#x202f;: {} pénalités ne sont pas connues par porte.</translation>
     </message>
-    <message>
-        <source> and {} more</source>
-        <translation> et {} autres</translation>
-    </message>
-    <message>
-        <source>{} {} out: touched more than the {} that all have in common.</source>
-        <translation>{} {} à part&#x202f;: davantage de touches que les {} communs à tous.</translation>
-    </message>
     <message numerus="yes">
         <source>{} touches</source>
         <translation>
@@ -3025,47 +3017,16 @@
         <translation>Rien ne ressort ({})&#x202f;: le plus haut, {} ({}), peut être dû au hasard.</translation>
     </message>
     <message>
-        <source>Without this {}: {}.</source>
-        <translation>Sans ce groupe ({})&#x202f;: {}.</translation>
-    </message>
-    <message>
         <source>None of {} cost a place.</source>
         <translation>Sur {}, aucune n’a coûté de place.</translation>
-    </message>
-    <message>
-        <source>{} of them</source>
-        <translation>{} d’entre elles</translation>
-    </message>
-    <message>
-        <source>Of {} {} cost places, {} a medal.</source>
-        <translation>Sur {}, {} ont coûté des places, {} une médaille.</translation>
     </message>
     <message>
         <source>None of {} was noted in detail.</source>
         <translation>Sur {}, aucune n’a été notée en détail.</translation>
     </message>
-    <message numerus="yes">
-        <source>{} were</source>
-        <translation>
-            <numerusform>{} a été</numerusform>
-            <numerusform>{} ont été</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Of {} {} noted in detail.</source>
-        <translation>Sur {}, {} notées en détail.</translation>
-    </message>
     <message>
         <source>Too few to tell: no group has {} whole runs.</source>
         <translation>Trop peu pour conclure&#x202f;: aucun groupe n’a {} manches complètes.</translation>
-    </message>
-    <message>
-        <source>{} touches a run in {}, all in one third of the field.</source>
-        <translation>{} touches par manche sur {}, toutes dans un seul tiers du plateau.</translation>
-    </message>
-    <message>
-        <source>{:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
-        <translation>{:.2f} touche par manche dans le tiers rapide, {:.2f} dans le lent.</translation>
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run.</source>
@@ -3102,18 +3063,6 @@
     <message>
         <source>trend {:+.1f} % a year: {}</source>
         <translation>tendance {:+.1f}&#x202f;% par an&#x202f;: {}</translation>
-    </message>
-    <message>
-        <source>{}: too few runs to tell a trend behind {}.</source>
-        <translation>{}&#x202f;: trop peu de manches pour dire une tendance derrière {}.</translation>
-    </message>
-    <message>
-        <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
-        <translation>{}&#x202f;: {:+.1f}&#x202f;% par an derrière {}{}, {}.</translation>
-    </message>
-    <message>
-        <source>{} of {}&apos;s races is known.</source>
-        <translation>{} des courses de {} est connu.</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
@@ -3176,14 +3125,6 @@
     <message>
         <source>{:.1f} % would have been a medal in {} of {}</source>
         <translation>{:.1f}&#x202f;% aurait été une médaille dans {} sur {}</translation>
-    </message>
-    <message>
-        <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
-        <translation>Sur {} qui ont les deux assez souvent, {} {} sans aucun doute plus rapides en {}, {} plus lents.</translation>
-    </message>
-    <message>
-        <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>{}&#x202f;: {}, {} sur {} ({:.0f}–{:.0f}&#x202f;%).</translation>
     </message>
     <message>
         <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
@@ -5198,6 +5139,270 @@
     <message>
         <source>number of notes</source>
         <translation>nombre de notes</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>nombre entier</translation>
+    </message>
+    <message>
+        <source>decimal</source>
+        <translation>nombre décimal</translation>
+    </message>
+    <message>
+        <source>status</source>
+        <translation>statut</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>date</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>texte</translation>
+    </message>
+    <message>
+        <source>Add {}</source>
+        <translation>Ajouter {}</translation>
+    </message>
+    <message>
+        <source>Colour {}</source>
+        <translation>Colorer {}</translation>
+    </message>
+    <message>
+        <source>First line is a row</source>
+        <translation>La première ligne est une rangée</translation>
+    </message>
+    <message>
+        <source>First line is titles</source>
+        <translation>La première ligne porte les titres</translation>
+    </message>
+    <message>
+        <source>Group by {}</source>
+        <translation>Grouper par {}</translation>
+    </message>
+    <message>
+        <source>Keep {} in {}</source>
+        <translation>Garder {} dans {}</translation>
+    </message>
+    <message>
+        <source>Leave out {}</source>
+        <translation>Laisser {} de côté</translation>
+    </message>
+    <message>
+        <source>No colours in {}</source>
+        <translation>Pas de couleurs dans {}</translation>
+    </message>
+    <message>
+        <source>No groups</source>
+        <translation>Sans groupes</translation>
+    </message>
+    <message>
+        <source>Pivot of {} by {}</source>
+        <translation>Tableau croisé de {} par {}</translation>
+    </message>
+    <message>
+        <source>Read {} as {}</source>
+        <translation>Lire {} comme {}</translation>
+    </message>
+    <message>
+        <source>Sort by {}</source>
+        <translation>Trier par {}</translation>
+    </message>
+    <message>
+        <source>Sort by {}, downwards</source>
+        <translation>Trier par {}, décroissant</translation>
+    </message>
+    <message>
+        <source>Medals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Le plus souvent médaillé : {}, {} sur {} ({:.0f}–{:.0f} %).</translation>
+    </message>
+    <message>
+        <source>In finals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Le plus souvent en finale : {}, {} sur {} ({:.0f}–{:.0f} %).</translation>
+    </message>
+    <message>
+        <source>In semifinals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Le plus souvent en demi-finale : {}, {} sur {} ({:.0f}–{:.0f} %).</translation>
+    </message>
+    <message>
+        <source>No fastest split of {}&apos;s races is known.</source>
+        <translation>Aucun meilleur temps intermédiaire des courses de {} n’est connu.</translation>
+    </message>
+    <message>
+        <source>No winner of {}&apos;s races is known.</source>
+        <translation>Aucun vainqueur des courses de {} n’est connu.</translation>
+    </message>
+    <message>
+        <source>No penalty of a whole run is known by gate.</source>
+        <translation>Aucune pénalité d’une manche complète n’est connue par porte.</translation>
+    </message>
+    <message>
+        <source>No race of the team has a result that says so.</source>
+        <translation>Aucune course de l’équipe n’a un résultat qui le dise.</translation>
+    </message>
+    <message>
+        <source>No whole run is known by gate.</source>
+        <translation>Aucune manche complète n’est connue par porte.</translation>
+    </message>
+    <message>
+        <source>Nobody&apos;s penalties are known by gate.</source>
+        <translation>Les pénalités ne sont connues par porte pour personne.</translation>
+    </message>
+    <message>
+        <source>Noted in detail: {} of {}. Shares of what was noted, no rates: nobody notes how gates are passed clean.</source>
+        <translation>Notées en détail : {} sur {}. Ce sont des parts de ce qui a été noté, pas des taux : personne ne note comment les portes sont passées sans faute.</translation>
+    </message>
+    <message>
+        <source>Noted in detail: {} of {}. Too few to tell.</source>
+        <translation>Notées en détail : {} sur {}. Trop peu pour conclure.</translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, beyond doubt faster in the final: {}, slower: {}.</source>
+        <translation>Sur {} qui ont les deux assez souvent, sans aucun doute plus rapides en finale : {}, plus lents : {}.</translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, beyond doubt faster in the second run: {}, slower: {}.</source>
+        <translation>Sur {} qui ont les deux assez souvent, sans aucun doute plus rapides dans la seconde manche : {}, plus lents : {}.</translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, none of them a medal.</source>
+        <translation>Sur {}, {} ont coûté des places, aucune d’elles une médaille.</translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, {} of them a medal.</source>
+        <translation>Sur {}, {} ont coûté des places, dont {} une médaille.</translation>
+    </message>
+    <message>
+        <source>The fast touch less: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Les rapides touchent moins : {:.2f} touche par manche dans le tiers rapide, {:.2f} dans le lent.</translation>
+    </message>
+    <message>
+        <source>The fast touch more: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Les rapides touchent plus : {:.2f} touche par manche dans le tiers rapide, {:.2f} dans le lent.</translation>
+    </message>
+    <message>
+        <source>Too few to tell fast from slow: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Trop peu pour distinguer rapides et lents : {:.2f} touche par manche dans le tiers rapide, {:.2f} dans le lent.</translation>
+    </message>
+    <message>
+        <source>There is no penalty.</source>
+        <translation>Il n’y a aucune pénalité.</translation>
+    </message>
+    <message>
+        <source>Too few races with both to tell a change.</source>
+        <translation>Trop peu de courses avec les deux pour dire un changement.</translation>
+    </message>
+    <message>
+        <source>Without this missed gate: {}.</source>
+        <translation>Sans cette porte manquée : {}.</translation>
+    </message>
+    <message>
+        <source>Without this touch: {}.</source>
+        <translation>Sans cette touche : {}.</translation>
+    </message>
+    <message>
+        <source>category</source>
+        <translation>catégorie</translation>
+    </message>
+    <message>
+        <source>crew</source>
+        <translation>équipage</translation>
+    </message>
+    <message>
+        <source>gate</source>
+        <translation>porte</translation>
+    </message>
+    <message>
+        <source>hand</source>
+        <translation>main</translation>
+    </message>
+    <message>
+        <source>month</source>
+        <translation>mois</translation>
+    </message>
+    <message>
+        <source>phase</source>
+        <translation>phase</translation>
+    </message>
+    <message>
+        <source>race</source>
+        <translation>course</translation>
+    </message>
+    <message>
+        <source>section</source>
+        <translation>secteur</translation>
+    </message>
+    <message>
+        <source>tenth of the course</source>
+        <translation>dixième du parcours</translation>
+    </message>
+    <message>
+        <source>type of gate</source>
+        <translation>type de porte</translation>
+    </message>
+    <message>
+        <source>nobody came</source>
+        <translation>personne n’est venu</translation>
+    </message>
+    <message>
+        <source>those without one</source>
+        <translation>ceux sans</translation>
+    </message>
+    <message>
+        <source>{:.2f} touches a run in {}, all in one third of the field.</source>
+        <translation>{:.2f} touche par manche sur {}, toutes dans un seul tiers du plateau.</translation>
+    </message>
+    <message>
+        <source>{} and {} more</source>
+        <translation>{} et {} autres</translation>
+    </message>
+    <message>
+        <source>{} stand out: touched more than the {} that all have in common.</source>
+        <translation>{} ressortent : davantage de touches que les {} communs à tous.</translation>
+    </message>
+    <message>
+        <source>{} stands out: touched more than the {} that all have in common.</source>
+        <translation>{} ressort : davantage de touches que les {} communs à tous.</translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind the fastest splits.</source>
+        <translation>{} : trop peu de manches pour dire une tendance derrière les meilleurs inters.</translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind the winners.</source>
+        <translation>{} : trop peu de manches pour dire une tendance derrière les vainqueurs.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the fastest splits ({:+.1f} to {:+.1f}), {}.</source>
+        <translation>{} : {:+.1f} % par an derrière les meilleurs inters (de {:+.1f} à {:+.1f}), {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the fastest splits, {}.</source>
+        <translation>{} : {:+.1f} % par an derrière les meilleurs inters, {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the winners ({:+.1f} to {:+.1f}), {}.</source>
+        <translation>{} : {:+.1f} % par an derrière les vainqueurs (de {:+.1f} à {:+.1f}), {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the winners, {}.</source>
+        <translation>{} : {:+.1f} % par an derrière les vainqueurs, {}.</translation>
+    </message>
+    <message>
+        <source>{}st</source>
+        <translation>{}e</translation>
+    </message>
+    <message>
+        <source>{}nd</source>
+        <translation>{}e</translation>
+    </message>
+    <message>
+        <source>{}rd</source>
+        <translation>{}e</translation>
+    </message>
+    <message>
+        <source>{}th</source>
+        <translation>{}e</translation>
     </message>
 </context>
 <context>

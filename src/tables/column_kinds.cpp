@@ -2,6 +2,7 @@
 
 #include "common/folded_text.h"
 #include "common/reference_date.h"
+#include "common/text.h"
 #include "common/typed_number.h"
 
 #include <algorithm>
@@ -14,8 +15,9 @@ namespace kavela {
 
 namespace {
 
-constexpr std::array<std::string_view, 6> KindNames{"whole",  "decimal", "time",
-                                                    "status", "date",    "text"};
+constexpr std::array<std::string_view, 6> KindNames{KAVELA_TEXT("whole"), KAVELA_TEXT("decimal"),
+                                                    KAVELA_TEXT("time"),  KAVELA_TEXT("status"),
+                                                    KAVELA_TEXT("date"),  KAVELA_TEXT("text")};
 
 /// A count of whole numbers beyond this has lost its digits.
 constexpr double LargestExact = 9e15;
