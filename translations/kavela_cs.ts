@@ -5433,6 +5433,234 @@
         <source>{}th</source>
         <translation>{}.</translation>
     </message>
+    <message>
+        <source>* the best of its column.</source>
+        <translation>* nejlepší ve sloupci.</translation>
+    </message>
+    <message>
+        <source>Against the winners</source>
+        <translation>Proti vítězům</translation>
+    </message>
+    <message>
+        <source>Against the winners, over {}. Losing: the whole interval is above 0.</source>
+        <translation>Proti vítězům, {}. Ztráta: celý interval leží nad 0.</translation>
+    </message>
+    <message>
+        <source>All runs</source>
+        <translation>Všechny jízdy</translation>
+    </message>
+    <message>
+        <source>Among the others</source>
+        <translation>Mezi ostatními</translation>
+    </message>
+    <message>
+        <source>Behind the winner</source>
+        <translation>Za vítězem</translation>
+    </message>
+    <message>
+        <source>Beside the winner</source>
+        <translation>Vedle vítěze</translation>
+    </message>
+    <message>
+        <source>Crew</source>
+        <translation>Posádka</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Den</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Videa</translation>
+    </message>
+    <message>
+        <source>Gap to the ideal run from section to section: {}</source>
+        <translation>Odstup od ideální jízdy úsek po úseku: {}</translation>
+    </message>
+    <message>
+        <source>Gap to {} from section to section: {}</source>
+        <translation>Odstup za {} úsek po úseku: {}</translation>
+    </message>
+    <message>
+        <source>Gap to {}, in seconds: above the line is behind.</source>
+        <translation>Odstup za {} v sekundách: nad čárou je ztráta.</translation>
+    </message>
+    <message>
+        <source>This run won. Gap to the ideal run, the best of every section, in seconds.</source>
+        <translation>Tato jízda vyhrála. Odstup od ideální jízdy, nejlepšího z každého úseku, v sekundách.</translation>
+    </message>
+    <message>
+        <source>Gate not noted</source>
+        <translation>Branka nepoznamenána</translation>
+    </message>
+    <message>
+        <source>Gate {}</source>
+        <translation>Branka {}</translation>
+    </message>
+    <message>
+        <source>Most lost: {}.</source>
+        <translation>Největší ztráty: {}.</translation>
+    </message>
+    <message>
+        <source>Not ranked, time</source>
+        <translation>Neklasifikováno, čas</translation>
+    </message>
+    <message>
+        <source>Nothing stands out from these runs: no interval lies above 0 as a whole.</source>
+        <translation>Z těchto jízd nic nevyčnívá: žádný interval neleží celý nad 0.</translation>
+    </message>
+    <message>
+        <source>Of what</source>
+        <translation>Čeho</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Ostatní</translation>
+    </message>
+    <message>
+        <source>Penalties on the course</source>
+        <translation>Penalizace na trati</translation>
+    </message>
+    <message>
+        <source>Penalty seconds are in the times.</source>
+        <translation>Trestné sekundy jsou v časech započteny.</translation>
+    </message>
+    <message>
+        <source>Percent behind the winner by day, penalties included; the filled dot is the last run of each race.</source>
+        <translation>Procenta za vítězem podle dnů, včetně penalizací; plný bod je poslední jízda každého závodu.</translation>
+    </message>
+    <message>
+        <source>Percent behind the winner, run by run, {} to {}</source>
+        <translation>Procenta za vítězem, jízda po jízdě, {} až {}</translation>
+    </message>
+    <message>
+        <source>Run {}</source>
+        <translation>Jízda {}</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation>Sezóna</translation>
+    </message>
+    <message>
+        <source>Split table: {}</source>
+        <translation>Tabulka mezičasů: {}</translation>
+    </message>
+    <message>
+        <source>The name of a page ends in .html, and its films lie in the folder named the same without that.</source>
+        <translation>Jméno stránky končí na .html a její videa leží ve složce stejného jména bez této přípony.</translation>
+    </message>
+    <message>
+        <source>Time lost, as noted</source>
+        <translation>Ztracený čas podle poznámek</translation>
+    </message>
+    <message>
+        <source>Times from the start to each split.</source>
+        <translation>Časy od startu ke každému mezičasu.</translation>
+    </message>
+    <message>
+        <source>Times in seconds. Made with Kavela.</source>
+        <translation>Časy v sekundách. Vytvořeno programem Kavela.</translation>
+    </message>
+    <message>
+        <source>To winner</source>
+        <translation>Na vítěze</translation>
+    </message>
+    <message>
+        <source>at {} s of the run</source>
+        <translation>v čase {} s jízdy</translation>
+    </message>
+    <message>
+        <source>eyes: {}</source>
+        <translation>pohled: {}</translation>
+    </message>
+    <message>
+        <source>fastest</source>
+        <translation>nejrychlejší</translation>
+    </message>
+    <message>
+        <source>middle</source>
+        <translation>střední</translation>
+    </message>
+    <message>
+        <source>slowest</source>
+        <translation>nejpomalejší</translation>
+    </message>
+    <message>
+        <source>upstream</source>
+        <translation>protivodná</translation>
+    </message>
+    <message>
+        <source>{} &lt;small&gt;of {}&lt;/small&gt;</source>
+        <translation>{} &lt;small&gt;z {}&lt;/small&gt;</translation>
+    </message>
+    <message>
+        <source>{} = paddling {}, penalties {}, official against video time {}.</source>
+        <translation>{} = jízda {}, penalizace {}, oficiální čas proti času z videa {}.</translation>
+    </message>
+    <message>
+        <source>{} = paddling {}, penalties {}.</source>
+        <translation>{} = jízda {}, penalizace {}.</translation>
+    </message>
+    <message>
+        <source>{} against {}</source>
+        <translation>{} proti: {}</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} gates</source>
+        <translation>
+            <numerusform>{} branka</numerusform>
+            <numerusform>{} branky</numerusform>
+            <numerusform>{} branek</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} more runs are left out.</source>
+        <translation>
+            <numerusform>Vynechána je {} další jízda.</numerusform>
+            <numerusform>Vynechány jsou {} další jízdy.</numerusform>
+            <numerusform>Vynecháno je {} dalších jízd.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} of the runs compared, column by column.</source>
+        <translation>{} ze srovnávaných jízd, sloupec po sloupci.</translation>
+    </message>
+    <message>
+        <source>{} to {}</source>
+        <translation>{} až {}</translation>
+    </message>
+    <message>
+        <source>{}, run {}</source>
+        <translation>{}, jízda {}</translation>
+    </message>
+    <message>
+        <source>{}, {} upstream</source>
+        <translation>{}, z toho protivodných: {}</translation>
+    </message>
+    <message>
+        <source>{}. The film lies beside this page: {}</source>
+        <translation>{}. Video leží vedle této stránky: {}</translation>
+    </message>
+    <message>
+        <source>{}: {} s a run</source>
+        <translation>{}: {} s na jízdu</translation>
+    </message>
+    <message>
+        <source>The film is not there.</source>
+        <translation>Video zde není.</translation>
+    </message>
+    <message>
+        <source>The marks of the run lie behind the end of the film.</source>
+        <translation>Značky jízdy leží za koncem videa.</translation>
+    </message>
+    <message>
+        <source>No run of &quot;{}&quot; is of the phase &quot;{}&quot;.</source>
+        <translation>Žádná jízda, jejíž posádka je „{}“, nepatří do fáze „{}“.</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Nájezd</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -14841,6 +15069,14 @@ Bez penalizací.</translation>
     <message>
         <source>Show in &amp;folder</source>
         <translation>Ukázat ve &amp;složce</translation>
+    </message>
+    <message>
+        <source>The saved files have no run of this athlete.</source>
+        <translation>Uložené soubory nemají žádnou jízdu tohoto závodníka.</translation>
+    </message>
+    <message>
+        <source>There is no run of a named athlete in the split files that are open.</source>
+        <translation>V otevřených souborech mezičasů není žádná jízda pojmenovaného závodníka.</translation>
     </message>
 </context>
 <context>

@@ -5404,6 +5404,232 @@
         <source>{}th</source>
         <translation>{}.</translation>
     </message>
+    <message>
+        <source>* the best of its column.</source>
+        <translation>* das Beste seiner Spalte.</translation>
+    </message>
+    <message>
+        <source>Against the winners</source>
+        <translation>Verglichen mit den Siegern</translation>
+    </message>
+    <message>
+        <source>Against the winners, over {}. Losing: the whole interval is above 0.</source>
+        <translation>Verglichen mit den Siegern, über {}. Verlust: das ganze Intervall liegt über 0.</translation>
+    </message>
+    <message>
+        <source>All runs</source>
+        <translation>Alle Läufe</translation>
+    </message>
+    <message>
+        <source>Among the others</source>
+        <translation>Unter den anderen</translation>
+    </message>
+    <message>
+        <source>Behind the winner</source>
+        <translation>Hinter dem Sieger</translation>
+    </message>
+    <message>
+        <source>Beside the winner</source>
+        <translation>Neben dem Sieger</translation>
+    </message>
+    <message>
+        <source>Crew</source>
+        <translation>Besatzung</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Filme</translation>
+    </message>
+    <message>
+        <source>Gap to the ideal run from section to section: {}</source>
+        <translation>Rückstand auf den Ideallauf von Abschnitt zu Abschnitt: {}</translation>
+    </message>
+    <message>
+        <source>Gap to {} from section to section: {}</source>
+        <translation>Rückstand auf {} von Abschnitt zu Abschnitt: {}</translation>
+    </message>
+    <message>
+        <source>Gap to {}, in seconds: above the line is behind.</source>
+        <translation>Rückstand auf {} in Sekunden: Über der Linie ist hinten.</translation>
+    </message>
+    <message>
+        <source>This run won. Gap to the ideal run, the best of every section, in seconds.</source>
+        <translation>Dieser Lauf hat gewonnen. Rückstand auf den Ideallauf, das Beste jedes Abschnitts, in Sekunden.</translation>
+    </message>
+    <message>
+        <source>Gate not noted</source>
+        <translation>Tor nicht notiert</translation>
+    </message>
+    <message>
+        <source>Gate {}</source>
+        <translation>Tor {}</translation>
+    </message>
+    <message>
+        <source>Most lost: {}.</source>
+        <translation>Am meisten verloren: {}.</translation>
+    </message>
+    <message>
+        <source>Not ranked, time</source>
+        <translation>Nicht gewertet, Zeit</translation>
+    </message>
+    <message>
+        <source>Nothing stands out from these runs: no interval lies above 0 as a whole.</source>
+        <translation>Aus diesen Läufen fällt nichts auf: kein Intervall liegt ganz über 0.</translation>
+    </message>
+    <message>
+        <source>Of what</source>
+        <translation>Wovon</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Übrige</translation>
+    </message>
+    <message>
+        <source>Penalties on the course</source>
+        <translation>Strafen auf der Strecke</translation>
+    </message>
+    <message>
+        <source>Penalty seconds are in the times.</source>
+        <translation>Die Strafsekunden sind in den Zeiten enthalten.</translation>
+    </message>
+    <message>
+        <source>Percent behind the winner by day, penalties included; the filled dot is the last run of each race.</source>
+        <translation>Prozent hinter dem Sieger nach Tagen, mit Strafen; der gefüllte Punkt ist der letzte Lauf jedes Rennens.</translation>
+    </message>
+    <message>
+        <source>Percent behind the winner, run by run, {} to {}</source>
+        <translation>Prozent hinter dem Sieger, Lauf für Lauf, {} bis {}</translation>
+    </message>
+    <message>
+        <source>Run {}</source>
+        <translation>Lauf {}</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation>Saison</translation>
+    </message>
+    <message>
+        <source>Split table: {}</source>
+        <translation>Tabelle der Zwischenzeiten: {}</translation>
+    </message>
+    <message>
+        <source>The name of a page ends in .html, and its films lie in the folder named the same without that.</source>
+        <translation>Der Name einer Seite endet auf .html, und ihre Filme liegen im Ordner gleichen Namens ohne diese Endung.</translation>
+    </message>
+    <message>
+        <source>Time lost, as noted</source>
+        <translation>Verlorene Zeit, wie notiert</translation>
+    </message>
+    <message>
+        <source>Times from the start to each split.</source>
+        <translation>Zeiten vom Start bis zu jeder Zwischenzeit.</translation>
+    </message>
+    <message>
+        <source>Times in seconds. Made with Kavela.</source>
+        <translation>Zeiten in Sekunden. Erstellt mit Kavela.</translation>
+    </message>
+    <message>
+        <source>To winner</source>
+        <translation>Zum Sieger</translation>
+    </message>
+    <message>
+        <source>at {} s of the run</source>
+        <translation>bei {} s des Laufs</translation>
+    </message>
+    <message>
+        <source>eyes: {}</source>
+        <translation>Blick: {}</translation>
+    </message>
+    <message>
+        <source>fastest</source>
+        <translation>schnellste</translation>
+    </message>
+    <message>
+        <source>middle</source>
+        <translation>mittlere</translation>
+    </message>
+    <message>
+        <source>slowest</source>
+        <translation>langsamste</translation>
+    </message>
+    <message>
+        <source>upstream</source>
+        <translation>aufwärts</translation>
+    </message>
+    <message>
+        <source>{} &lt;small&gt;of {}&lt;/small&gt;</source>
+        <translation>{} &lt;small&gt;von {}&lt;/small&gt;</translation>
+    </message>
+    <message>
+        <source>{} = paddling {}, penalties {}, official against video time {}.</source>
+        <translation>{} = Fahrzeit {}, Strafen {}, offizielle gegen Videozeit {}.</translation>
+    </message>
+    <message>
+        <source>{} = paddling {}, penalties {}.</source>
+        <translation>{} = Fahrzeit {}, Strafen {}.</translation>
+    </message>
+    <message>
+        <source>{} against {}</source>
+        <translation>{} gegen {}</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} gates</source>
+        <translation>
+            <numerusform>{} Tor</numerusform>
+            <numerusform>{} Tore</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} more runs are left out.</source>
+        <translation>
+            <numerusform>{} weiterer Lauf ist ausgelassen.</numerusform>
+            <numerusform>{} weitere Läufe sind ausgelassen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} of the runs compared, column by column.</source>
+        <translation>{} der verglichenen Läufe, Spalte für Spalte.</translation>
+    </message>
+    <message>
+        <source>{} to {}</source>
+        <translation>{} bis {}</translation>
+    </message>
+    <message>
+        <source>{}, run {}</source>
+        <translation>{}, Lauf {}</translation>
+    </message>
+    <message>
+        <source>{}, {} upstream</source>
+        <translation>{}, {} aufwärts</translation>
+    </message>
+    <message>
+        <source>{}. The film lies beside this page: {}</source>
+        <translation>{}. Der Film liegt neben dieser Seite: {}</translation>
+    </message>
+    <message>
+        <source>{}: {} s a run</source>
+        <translation>{}: {} s je Lauf</translation>
+    </message>
+    <message>
+        <source>The film is not there.</source>
+        <translation>Der Film ist nicht da.</translation>
+    </message>
+    <message>
+        <source>The marks of the run lie behind the end of the film.</source>
+        <translation>Die Marken des Laufs liegen hinter dem Ende des Films.</translation>
+    </message>
+    <message>
+        <source>No run of &quot;{}&quot; is of the phase &quot;{}&quot;.</source>
+        <translation>Kein Lauf von „{}“ gehört zur Phase „{}“.</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Ein</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -14797,6 +15023,14 @@ Strafen sind nicht enthalten.</translation>
     <message>
         <source>Show in &amp;folder</source>
         <translation>Im &amp;Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>The saved files have no run of this athlete.</source>
+        <translation>Die gespeicherten Dateien haben keinen Lauf dieses Athleten.</translation>
+    </message>
+    <message>
+        <source>There is no run of a named athlete in the split files that are open.</source>
+        <translation>In den offenen Zwischenzeitdateien ist kein Lauf eines genannten Athleten.</translation>
     </message>
 </context>
 <context>

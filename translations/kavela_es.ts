@@ -5404,6 +5404,232 @@
         <source>{}th</source>
         <translation>{}.º</translation>
     </message>
+    <message>
+        <source>* the best of its column.</source>
+        <translation>* lo mejor de su columna.</translation>
+    </message>
+    <message>
+        <source>Against the winners</source>
+        <translation>Comparado con los ganadores</translation>
+    </message>
+    <message>
+        <source>Against the winners, over {}. Losing: the whole interval is above 0.</source>
+        <translation>Comparado con los ganadores, en {}. Se pierde: todo el intervalo está por encima de 0.</translation>
+    </message>
+    <message>
+        <source>All runs</source>
+        <translation>Todas las mangas</translation>
+    </message>
+    <message>
+        <source>Among the others</source>
+        <translation>Entre los demás</translation>
+    </message>
+    <message>
+        <source>Behind the winner</source>
+        <translation>Respecto al ganador</translation>
+    </message>
+    <message>
+        <source>Beside the winner</source>
+        <translation>Junto al ganador</translation>
+    </message>
+    <message>
+        <source>Crew</source>
+        <translation>Tripulación</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Día</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Vídeos</translation>
+    </message>
+    <message>
+        <source>Gap to the ideal run from section to section: {}</source>
+        <translation>Diferencia con la manga ideal de tramo en tramo: {}</translation>
+    </message>
+    <message>
+        <source>Gap to {} from section to section: {}</source>
+        <translation>Diferencia con {} de tramo en tramo: {}</translation>
+    </message>
+    <message>
+        <source>Gap to {}, in seconds: above the line is behind.</source>
+        <translation>Diferencia con {}, en segundos: por encima de la línea es por detrás.</translation>
+    </message>
+    <message>
+        <source>This run won. Gap to the ideal run, the best of every section, in seconds.</source>
+        <translation>Esta manga ganó. Diferencia con la manga ideal, lo mejor de cada tramo, en segundos.</translation>
+    </message>
+    <message>
+        <source>Gate not noted</source>
+        <translation>Puerta sin anotar</translation>
+    </message>
+    <message>
+        <source>Gate {}</source>
+        <translation>Puerta {}</translation>
+    </message>
+    <message>
+        <source>Most lost: {}.</source>
+        <translation>Donde más se pierde: {}.</translation>
+    </message>
+    <message>
+        <source>Not ranked, time</source>
+        <translation>Sin clasificar, tiempo</translation>
+    </message>
+    <message>
+        <source>Nothing stands out from these runs: no interval lies above 0 as a whole.</source>
+        <translation>Nada destaca en estas mangas: ningún intervalo queda entero por encima de 0.</translation>
+    </message>
+    <message>
+        <source>Of what</source>
+        <translation>De qué</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Otras</translation>
+    </message>
+    <message>
+        <source>Penalties on the course</source>
+        <translation>Penalizaciones en el recorrido</translation>
+    </message>
+    <message>
+        <source>Penalty seconds are in the times.</source>
+        <translation>Los segundos de penalización están en los tiempos.</translation>
+    </message>
+    <message>
+        <source>Percent behind the winner by day, penalties included; the filled dot is the last run of each race.</source>
+        <translation>Porcentaje respecto al ganador por día, con penalizaciones; el punto relleno es la última manga de cada carrera.</translation>
+    </message>
+    <message>
+        <source>Percent behind the winner, run by run, {} to {}</source>
+        <translation>Porcentaje respecto al ganador, manga a manga, de {} a {}</translation>
+    </message>
+    <message>
+        <source>Run {}</source>
+        <translation>Manga {}</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation>Temporada</translation>
+    </message>
+    <message>
+        <source>Split table: {}</source>
+        <translation>Tabla de parciales: {}</translation>
+    </message>
+    <message>
+        <source>The name of a page ends in .html, and its films lie in the folder named the same without that.</source>
+        <translation>El nombre de una página termina en .html y sus vídeos están en la carpeta del mismo nombre sin eso.</translation>
+    </message>
+    <message>
+        <source>Time lost, as noted</source>
+        <translation>Tiempo perdido, según lo anotado</translation>
+    </message>
+    <message>
+        <source>Times from the start to each split.</source>
+        <translation>Tiempos desde la salida hasta cada parcial.</translation>
+    </message>
+    <message>
+        <source>Times in seconds. Made with Kavela.</source>
+        <translation>Tiempos en segundos. Hecho con Kavela.</translation>
+    </message>
+    <message>
+        <source>To winner</source>
+        <translation>Al ganador</translation>
+    </message>
+    <message>
+        <source>at {} s of the run</source>
+        <translation>a los {} s de la manga</translation>
+    </message>
+    <message>
+        <source>eyes: {}</source>
+        <translation>mirada: {}</translation>
+    </message>
+    <message>
+        <source>fastest</source>
+        <translation>más rápido</translation>
+    </message>
+    <message>
+        <source>middle</source>
+        <translation>medio</translation>
+    </message>
+    <message>
+        <source>slowest</source>
+        <translation>más lento</translation>
+    </message>
+    <message>
+        <source>upstream</source>
+        <translation>remonte</translation>
+    </message>
+    <message>
+        <source>{} &lt;small&gt;of {}&lt;/small&gt;</source>
+        <translation>{} &lt;small&gt;de {}&lt;/small&gt;</translation>
+    </message>
+    <message>
+        <source>{} = paddling {}, penalties {}, official against video time {}.</source>
+        <translation>{} = paleo {}, penalizaciones {}, tiempo oficial frente al del vídeo {}.</translation>
+    </message>
+    <message>
+        <source>{} = paddling {}, penalties {}.</source>
+        <translation>{} = paleo {}, penalizaciones {}.</translation>
+    </message>
+    <message>
+        <source>{} against {}</source>
+        <translation>{} respecto a {}</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} gates</source>
+        <translation>
+            <numerusform>{} puerta</numerusform>
+            <numerusform>{} puertas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} more runs are left out.</source>
+        <translation>
+            <numerusform>Se omite {} manga más.</numerusform>
+            <numerusform>Se omiten {} mangas más.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} of the runs compared, column by column.</source>
+        <translation>{} de las mangas comparadas, columna por columna.</translation>
+    </message>
+    <message>
+        <source>{} to {}</source>
+        <translation>{} a {}</translation>
+    </message>
+    <message>
+        <source>{}, run {}</source>
+        <translation>{}, manga {}</translation>
+    </message>
+    <message>
+        <source>{}, {} upstream</source>
+        <translation>{}, {} remontes</translation>
+    </message>
+    <message>
+        <source>{}. The film lies beside this page: {}</source>
+        <translation>{}. El vídeo está junto a esta página: {}</translation>
+    </message>
+    <message>
+        <source>{}: {} s a run</source>
+        <translation>{}: {} s por manga</translation>
+    </message>
+    <message>
+        <source>The film is not there.</source>
+        <translation>El vídeo no está.</translation>
+    </message>
+    <message>
+        <source>The marks of the run lie behind the end of the film.</source>
+        <translation>Las marcas de la manga están después del final del vídeo.</translation>
+    </message>
+    <message>
+        <source>No run of &quot;{}&quot; is of the phase &quot;{}&quot;.</source>
+        <translation>Ninguna manga de «{}» es de la fase «{}».</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Entrada</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -14797,6 +15023,14 @@ Las penalizaciones no se cuentan.</translation>
     <message>
         <source>Show in &amp;folder</source>
         <translation>Mostrar en la &amp;carpeta</translation>
+    </message>
+    <message>
+        <source>The saved files have no run of this athlete.</source>
+        <translation>Los archivos guardados no tienen ninguna manga de este deportista.</translation>
+    </message>
+    <message>
+        <source>There is no run of a named athlete in the split files that are open.</source>
+        <translation>En los archivos de parciales abiertos no hay ninguna manga de un deportista con nombre.</translation>
     </message>
 </context>
 <context>

@@ -5404,6 +5404,232 @@
         <source>{}th</source>
         <translation>{}e</translation>
     </message>
+    <message>
+        <source>* the best of its column.</source>
+        <translation>* le meilleur de sa colonne.</translation>
+    </message>
+    <message>
+        <source>Against the winners</source>
+        <translation>Face aux vainqueurs</translation>
+    </message>
+    <message>
+        <source>Against the winners, over {}. Losing: the whole interval is above 0.</source>
+        <translation>Face aux vainqueurs, sur {}. Perte : tout l’intervalle est au-dessus de 0.</translation>
+    </message>
+    <message>
+        <source>All runs</source>
+        <translation>Toutes les manches</translation>
+    </message>
+    <message>
+        <source>Among the others</source>
+        <translation>Parmi les autres</translation>
+    </message>
+    <message>
+        <source>Behind the winner</source>
+        <translation>Derrière le vainqueur</translation>
+    </message>
+    <message>
+        <source>Beside the winner</source>
+        <translation>À côté du vainqueur</translation>
+    </message>
+    <message>
+        <source>Crew</source>
+        <translation>Équipage</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Jour</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Films</translation>
+    </message>
+    <message>
+        <source>Gap to the ideal run from section to section: {}</source>
+        <translation>Écart à la manche idéale de secteur en secteur : {}</translation>
+    </message>
+    <message>
+        <source>Gap to {} from section to section: {}</source>
+        <translation>Écart à {} de secteur en secteur : {}</translation>
+    </message>
+    <message>
+        <source>Gap to {}, in seconds: above the line is behind.</source>
+        <translation>Écart à {}, en secondes : au-dessus de la ligne, c’est du retard.</translation>
+    </message>
+    <message>
+        <source>This run won. Gap to the ideal run, the best of every section, in seconds.</source>
+        <translation>Cette manche a gagné. Écart à la manche idéale, le meilleur de chaque secteur, en secondes.</translation>
+    </message>
+    <message>
+        <source>Gate not noted</source>
+        <translation>Porte non notée</translation>
+    </message>
+    <message>
+        <source>Gate {}</source>
+        <translation>Porte {}</translation>
+    </message>
+    <message>
+        <source>Most lost: {}.</source>
+        <translation>Plus grosses pertes : {}.</translation>
+    </message>
+    <message>
+        <source>Not ranked, time</source>
+        <translation>Non classé, temps</translation>
+    </message>
+    <message>
+        <source>Nothing stands out from these runs: no interval lies above 0 as a whole.</source>
+        <translation>Rien ne ressort de ces manches : aucun intervalle n’est entièrement au-dessus de 0.</translation>
+    </message>
+    <message>
+        <source>Of what</source>
+        <translation>De quoi</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Autres</translation>
+    </message>
+    <message>
+        <source>Penalties on the course</source>
+        <translation>Pénalités sur le parcours</translation>
+    </message>
+    <message>
+        <source>Penalty seconds are in the times.</source>
+        <translation>Les secondes de pénalité sont dans les temps.</translation>
+    </message>
+    <message>
+        <source>Percent behind the winner by day, penalties included; the filled dot is the last run of each race.</source>
+        <translation>Pourcentage derrière le vainqueur par jour, pénalités comprises ; le point plein est la dernière manche de chaque course.</translation>
+    </message>
+    <message>
+        <source>Percent behind the winner, run by run, {} to {}</source>
+        <translation>Pourcentage derrière le vainqueur, manche par manche, de {} à {}</translation>
+    </message>
+    <message>
+        <source>Run {}</source>
+        <translation>Manche {}</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation>Saison</translation>
+    </message>
+    <message>
+        <source>Split table: {}</source>
+        <translation>Tableau des inters : {}</translation>
+    </message>
+    <message>
+        <source>The name of a page ends in .html, and its films lie in the folder named the same without that.</source>
+        <translation>Le nom d’une page se termine par .html, et ses films se trouvent dans le dossier du même nom sans cela.</translation>
+    </message>
+    <message>
+        <source>Time lost, as noted</source>
+        <translation>Temps perdu, tel que noté</translation>
+    </message>
+    <message>
+        <source>Times from the start to each split.</source>
+        <translation>Temps du départ à chaque point intermédiaire.</translation>
+    </message>
+    <message>
+        <source>Times in seconds. Made with Kavela.</source>
+        <translation>Temps en secondes. Fait avec Kavela.</translation>
+    </message>
+    <message>
+        <source>To winner</source>
+        <translation>Au vainqueur</translation>
+    </message>
+    <message>
+        <source>at {} s of the run</source>
+        <translation>à {} s de la manche</translation>
+    </message>
+    <message>
+        <source>eyes: {}</source>
+        <translation>regard : {}</translation>
+    </message>
+    <message>
+        <source>fastest</source>
+        <translation>le plus rapide</translation>
+    </message>
+    <message>
+        <source>middle</source>
+        <translation>moyen</translation>
+    </message>
+    <message>
+        <source>slowest</source>
+        <translation>le plus lent</translation>
+    </message>
+    <message>
+        <source>upstream</source>
+        <translation>remontée</translation>
+    </message>
+    <message>
+        <source>{} &lt;small&gt;of {}&lt;/small&gt;</source>
+        <translation>{} &lt;small&gt;sur {}&lt;/small&gt;</translation>
+    </message>
+    <message>
+        <source>{} = paddling {}, penalties {}, official against video time {}.</source>
+        <translation>{} = navigation {}, pénalités {}, temps officiel face au temps vidéo {}.</translation>
+    </message>
+    <message>
+        <source>{} = paddling {}, penalties {}.</source>
+        <translation>{} = navigation {}, pénalités {}.</translation>
+    </message>
+    <message>
+        <source>{} against {}</source>
+        <translation>{} face à {}</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} gates</source>
+        <translation>
+            <numerusform>{} porte</numerusform>
+            <numerusform>{} portes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} more runs are left out.</source>
+        <translation>
+            <numerusform>{} autre manche est laissée de côté.</numerusform>
+            <numerusform>{} autres manches sont laissées de côté.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} of the runs compared, column by column.</source>
+        <translation>{} des manches comparées, colonne par colonne.</translation>
+    </message>
+    <message>
+        <source>{} to {}</source>
+        <translation>{} à {}</translation>
+    </message>
+    <message>
+        <source>{}, run {}</source>
+        <translation>{}, manche {}</translation>
+    </message>
+    <message>
+        <source>{}, {} upstream</source>
+        <translation>{}, dont {} en remontée</translation>
+    </message>
+    <message>
+        <source>{}. The film lies beside this page: {}</source>
+        <translation>{}. Le film se trouve à côté de cette page : {}</translation>
+    </message>
+    <message>
+        <source>{}: {} s a run</source>
+        <translation>{} : {} s par manche</translation>
+    </message>
+    <message>
+        <source>The film is not there.</source>
+        <translation>Le film n’est pas là.</translation>
+    </message>
+    <message>
+        <source>The marks of the run lie behind the end of the film.</source>
+        <translation>Les marques de la manche sont après la fin du film.</translation>
+    </message>
+    <message>
+        <source>No run of &quot;{}&quot; is of the phase &quot;{}&quot;.</source>
+        <translation>Aucune manche de « {} » n’est de la phase « {} ».</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Entrée</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -14797,6 +15023,14 @@ Les pénalités sont laissées de côté.</translation>
     <message>
         <source>Show in &amp;folder</source>
         <translation>&amp;Montrer dans le dossier</translation>
+    </message>
+    <message>
+        <source>The saved files have no run of this athlete.</source>
+        <translation>Les fichiers enregistrés n’ont aucune manche de cet athlète.</translation>
+    </message>
+    <message>
+        <source>There is no run of a named athlete in the split files that are open.</source>
+        <translation>Les fichiers d’intermédiaires ouverts n’ont aucune manche d’un athlète nommé.</translation>
     </message>
 </context>
 <context>
