@@ -5661,6 +5661,382 @@
         <source>Entry</source>
         <translation>Nájezd</translation>
     </message>
+    <message>
+        <source>Downstream gate</source>
+        <translation>Povodná branka</translation>
+    </message>
+    <message>
+        <source>Upstream gate</source>
+        <translation>Protivodná branka</translation>
+    </message>
+    <message>
+        <source>Offset gate</source>
+        <translation>Odskočená branka</translation>
+    </message>
+    <message>
+        <source>Spin gate</source>
+        <translation>Branka s otočkou</translation>
+    </message>
+    <message>
+        <source>Single pole</source>
+        <translation>Jedna tyč</translation>
+    </message>
+    <message>
+        <source>Touch</source>
+        <translation>Ťuk</translation>
+    </message>
+    <message>
+        <source>Missed gate</source>
+        <translation>Neprojetá branka</translation>
+    </message>
+    <message>
+        <source>Head outside the gate</source>
+        <translation>Hlava mimo branku</translation>
+    </message>
+    <message>
+        <source>Wrong direction</source>
+        <translation>Špatný směr</translation>
+    </message>
+    <message>
+        <source>Wrong order</source>
+        <translation>Špatné pořadí</translation>
+    </message>
+    <message>
+        <source>Pole pushed on purpose</source>
+        <translation>Úmyslně odstrčená tyč</translation>
+    </message>
+    <message>
+        <source>Upside down in the gate</source>
+        <translation>Převrácený v brance</translation>
+    </message>
+    <message>
+        <source>Inner pole</source>
+        <translation>Vnitřní tyč</translation>
+    </message>
+    <message>
+        <source>Outer pole</source>
+        <translation>Vnější tyč</translation>
+    </message>
+    <message>
+        <source>Both poles</source>
+        <translation>Obě tyče</translation>
+    </message>
+    <message>
+        <source>Left pole</source>
+        <translation>Levá tyč</translation>
+    </message>
+    <message>
+        <source>Right pole</source>
+        <translation>Pravá tyč</translation>
+    </message>
+    <message>
+        <source>Boat</source>
+        <translation>Loď</translation>
+    </message>
+    <message>
+        <source>Blade</source>
+        <translation>List pádla</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>Tělo</translation>
+    </message>
+    <message>
+        <source>Head</source>
+        <translation>Hlava</translation>
+    </message>
+    <message>
+        <source>Bow</source>
+        <translation>Špička</translation>
+    </message>
+    <message>
+        <source>Stern</source>
+        <translation>Záď</translation>
+    </message>
+    <message>
+        <source>Shaft</source>
+        <translation>Žerď pádla</translation>
+    </message>
+    <message>
+        <source>Arm</source>
+        <translation>Paže</translation>
+    </message>
+    <message>
+        <source>Washed past the gate</source>
+        <translation>Odnesen kolem branky</translation>
+    </message>
+    <message>
+        <source>Left out on purpose</source>
+        <translation>Úmyslně vynecháno</translation>
+    </message>
+    <message>
+        <source>Entering</source>
+        <translation>Při nájezdu</translation>
+    </message>
+    <message>
+        <source>In the gate</source>
+        <translation>V brance</translation>
+    </message>
+    <message>
+        <source>Leaving</source>
+        <translation>Při výjezdu</translation>
+    </message>
+    <message>
+        <source>Before the gate</source>
+        <translation>Před brankou</translation>
+    </message>
+    <message>
+        <source>After the gate</source>
+        <translation>Za brankou</translation>
+    </message>
+    <message>
+        <source>Forwards</source>
+        <translation>Dopředu</translation>
+    </message>
+    <message>
+        <source>Backwards</source>
+        <translation>Dozadu</translation>
+    </message>
+    <message>
+        <source>Sideways</source>
+        <translation>Bokem</translation>
+    </message>
+    <message>
+        <source>Turning left</source>
+        <translation>Zatáčí vlevo</translation>
+    </message>
+    <message>
+        <source>Turning right</source>
+        <translation>Zatáčí vpravo</translation>
+    </message>
+    <message>
+        <source>Drifting left</source>
+        <translation>Sjíždí vlevo</translation>
+    </message>
+    <message>
+        <source>Drifting right</source>
+        <translation>Sjíždí vpravo</translation>
+    </message>
+    <message>
+        <source>Direct line</source>
+        <translation>Přímá stopa</translation>
+    </message>
+    <message>
+        <source>Spin</source>
+        <translation>Otočka</translation>
+    </message>
+    <message>
+        <source>Duffek (bow draw)</source>
+        <translation>Duffek (závěs)</translation>
+    </message>
+    <message>
+        <source>Sweep</source>
+        <translation>Oblouk</translation>
+    </message>
+    <message>
+        <source>Stern pivot</source>
+        <translation>Otočka po zádi</translation>
+    </message>
+    <message>
+        <source>Punt</source>
+        <translation>Odpich</translation>
+    </message>
+    <message>
+        <source>Flat turn</source>
+        <translation>Plochý obrat</translation>
+    </message>
+    <message>
+        <source>Ferry</source>
+        <translation>Traverz</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Zpětný záběr</translation>
+    </message>
+    <message>
+        <source>Surf</source>
+        <translation>Surf</translation>
+    </message>
+    <message>
+        <source>At the gate</source>
+        <translation>Na branku</translation>
+    </message>
+    <message>
+        <source>At the next gate</source>
+        <translation>Na další branku</translation>
+    </message>
+    <message>
+        <source>At the pole</source>
+        <translation>Na tyč</translation>
+    </message>
+    <message>
+        <source>At the water</source>
+        <translation>Na vodu</translation>
+    </message>
+    <message>
+        <source>At the blade</source>
+        <translation>Na list pádla</translation>
+    </message>
+    <message>
+        <source>At the bow</source>
+        <translation>Na špičku</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>Jinam</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Vlevo</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Vpravo</translation>
+    </message>
+    <message>
+        <source>Cross-bow draw</source>
+        <translation>Přehmat</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Přitažení</translation>
+    </message>
+    <message>
+        <source>Stern rudder</source>
+        <translation>Kormidlo vzadu</translation>
+    </message>
+    <message>
+        <source>Brace</source>
+        <translation>Opora</translation>
+    </message>
+    <message>
+        <source>Cross-bow</source>
+        <translation>Přehmat</translation>
+    </message>
+    <message>
+        <source>Single gate</source>
+        <translation>Jednotlivá branka</translation>
+    </message>
+    <message>
+        <source>Offset (stagger)</source>
+        <translation>Odskočené branky</translation>
+    </message>
+    <message>
+        <source>S-turn</source>
+        <translation>Esíčko</translation>
+    </message>
+    <message>
+        <source>Cross (ferry)</source>
+        <translation>Přejezd (traverz)</translation>
+    </message>
+    <message>
+        <source>Upstream</source>
+        <translation>Protivodná</translation>
+    </message>
+    <message>
+        <source>Upstream sprint</source>
+        <translation>Sprint proti vodě</translation>
+    </message>
+    <message>
+        <source>Merano</source>
+        <translation>Merano</translation>
+    </message>
+    <message>
+        <source>Downstream to upstream</source>
+        <translation>Z povodné do protivodné</translation>
+    </message>
+    <message>
+        <source>Upstream to downstream</source>
+        <translation>Z protivodné do povodné</translation>
+    </message>
+    <message>
+        <source>Upstream to upstream</source>
+        <translation>Z protivodné do protivodné</translation>
+    </message>
+    <message>
+        <source>Straight gates</source>
+        <translation>Přímé branky</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Finish sprint</source>
+        <translation>Sprint do cíle</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>Příjezd</translation>
+    </message>
+    <message>
+        <source>Between the gates</source>
+        <translation>Mezi brankami</translation>
+    </message>
+    <message>
+        <source>Whole</source>
+        <translation>Celé</translation>
+    </message>
+    <message>
+        <source>Flat water</source>
+        <translation>Klidná voda</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Vlna</translation>
+    </message>
+    <message>
+        <source>Stopper (hole)</source>
+        <translation>Válec</translation>
+    </message>
+    <message>
+        <source>Eddy</source>
+        <translation>Vracák</translation>
+    </message>
+    <message>
+        <source>Eddy line</source>
+        <translation>Rozhraní vracáku</translation>
+    </message>
+    <message>
+        <source>Pourover</source>
+        <translation>Přelitý kámen</translation>
+    </message>
+    <message>
+        <source>Curtain</source>
+        <translation>Clona</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>Stupeň</translation>
+    </message>
+    <message>
+        <source>Boil</source>
+        <translation>Výron</translation>
+    </message>
+    <message>
+        <source>Cushion</source>
+        <translation>Polštář</translation>
+    </message>
+    <message>
+        <source>Wave train</source>
+        <translation>Vlnobití</translation>
+    </message>
+    <message>
+        <source>Fast water</source>
+        <translation>Rychlá voda</translation>
+    </message>
+    <message>
+        <source>Sweep roll</source>
+        <translation>Eskymák obloukem</translation>
+    </message>
+    <message>
+        <source>C-to-C roll</source>
+        <translation>Eskymák C-C</translation>
+    </message>
+    <message>
+        <source>Hand roll</source>
+        <translation>Ruční eskymák</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>

@@ -5628,7 +5628,383 @@
     </message>
     <message>
         <source>Entry</source>
-        <translation>Ein</translation>
+        <translation>Einfahrt</translation>
+    </message>
+    <message>
+        <source>Downstream gate</source>
+        <translation>Abwärtstor</translation>
+    </message>
+    <message>
+        <source>Upstream gate</source>
+        <translation>Aufwärtstor</translation>
+    </message>
+    <message>
+        <source>Offset gate</source>
+        <translation>Versetztes Tor</translation>
+    </message>
+    <message>
+        <source>Spin gate</source>
+        <translation>Drehtor</translation>
+    </message>
+    <message>
+        <source>Single pole</source>
+        <translation>Einzelner Torstab</translation>
+    </message>
+    <message>
+        <source>Touch</source>
+        <translation>Berührung</translation>
+    </message>
+    <message>
+        <source>Missed gate</source>
+        <translation>Torfehler</translation>
+    </message>
+    <message>
+        <source>Head outside the gate</source>
+        <translation>Kopf außerhalb des Tors</translation>
+    </message>
+    <message>
+        <source>Wrong direction</source>
+        <translation>Falsche Richtung</translation>
+    </message>
+    <message>
+        <source>Wrong order</source>
+        <translation>Falsche Reihenfolge</translation>
+    </message>
+    <message>
+        <source>Pole pushed on purpose</source>
+        <translation>Stab absichtlich gestoßen</translation>
+    </message>
+    <message>
+        <source>Upside down in the gate</source>
+        <translation>Kopfüber im Tor</translation>
+    </message>
+    <message>
+        <source>Inner pole</source>
+        <translation>Innerer Stab</translation>
+    </message>
+    <message>
+        <source>Outer pole</source>
+        <translation>Äußerer Stab</translation>
+    </message>
+    <message>
+        <source>Both poles</source>
+        <translation>Beide Stäbe</translation>
+    </message>
+    <message>
+        <source>Left pole</source>
+        <translation>Linker Stab</translation>
+    </message>
+    <message>
+        <source>Right pole</source>
+        <translation>Rechter Stab</translation>
+    </message>
+    <message>
+        <source>Boat</source>
+        <translation>Boot</translation>
+    </message>
+    <message>
+        <source>Blade</source>
+        <translation>Blatt</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>Körper</translation>
+    </message>
+    <message>
+        <source>Head</source>
+        <translation>Kopf</translation>
+    </message>
+    <message>
+        <source>Bow</source>
+        <translation>Bug</translation>
+    </message>
+    <message>
+        <source>Stern</source>
+        <translation>Heck</translation>
+    </message>
+    <message>
+        <source>Shaft</source>
+        <translation>Schaft</translation>
+    </message>
+    <message>
+        <source>Arm</source>
+        <translation>Arm</translation>
+    </message>
+    <message>
+        <source>Washed past the gate</source>
+        <translation>Am Tor vorbeigespült</translation>
+    </message>
+    <message>
+        <source>Left out on purpose</source>
+        <translation>Absichtlich ausgelassen</translation>
+    </message>
+    <message>
+        <source>Entering</source>
+        <translation>Beim Einfahren</translation>
+    </message>
+    <message>
+        <source>In the gate</source>
+        <translation>Im Tor</translation>
+    </message>
+    <message>
+        <source>Leaving</source>
+        <translation>Beim Ausfahren</translation>
+    </message>
+    <message>
+        <source>Before the gate</source>
+        <translation>Vor dem Tor</translation>
+    </message>
+    <message>
+        <source>After the gate</source>
+        <translation>Nach dem Tor</translation>
+    </message>
+    <message>
+        <source>Forwards</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Backwards</source>
+        <translation>Rückwärts</translation>
+    </message>
+    <message>
+        <source>Sideways</source>
+        <translation>Seitwärts</translation>
+    </message>
+    <message>
+        <source>Turning left</source>
+        <translation>Nach links drehend</translation>
+    </message>
+    <message>
+        <source>Turning right</source>
+        <translation>Nach rechts drehend</translation>
+    </message>
+    <message>
+        <source>Drifting left</source>
+        <translation>Nach links treibend</translation>
+    </message>
+    <message>
+        <source>Drifting right</source>
+        <translation>Nach rechts treibend</translation>
+    </message>
+    <message>
+        <source>Direct line</source>
+        <translation>Direkte Linie</translation>
+    </message>
+    <message>
+        <source>Spin</source>
+        <translation>Volle Drehung</translation>
+    </message>
+    <message>
+        <source>Duffek (bow draw)</source>
+        <translation>Duffek (Bogenzug vorn)</translation>
+    </message>
+    <message>
+        <source>Sweep</source>
+        <translation>Bogenschlag</translation>
+    </message>
+    <message>
+        <source>Stern pivot</source>
+        <translation>Heckdrehung</translation>
+    </message>
+    <message>
+        <source>Punt</source>
+        <translation>Abstoßen am Grund</translation>
+    </message>
+    <message>
+        <source>Flat turn</source>
+        <translation>Flache Drehung</translation>
+    </message>
+    <message>
+        <source>Ferry</source>
+        <translation>Seilfähre</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Rückwärtsschlag</translation>
+    </message>
+    <message>
+        <source>Surf</source>
+        <translation>Surfen</translation>
+    </message>
+    <message>
+        <source>At the gate</source>
+        <translation>Zum Tor</translation>
+    </message>
+    <message>
+        <source>At the next gate</source>
+        <translation>Zum nächsten Tor</translation>
+    </message>
+    <message>
+        <source>At the pole</source>
+        <translation>Zum Torstab</translation>
+    </message>
+    <message>
+        <source>At the water</source>
+        <translation>Zum Wasser</translation>
+    </message>
+    <message>
+        <source>At the blade</source>
+        <translation>Zum Blatt</translation>
+    </message>
+    <message>
+        <source>At the bow</source>
+        <translation>Zum Bug</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>Anderswohin</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Cross-bow draw</source>
+        <translation>Übergriff am Bug</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Ziehschlag</translation>
+    </message>
+    <message>
+        <source>Stern rudder</source>
+        <translation>Hecksteuer</translation>
+    </message>
+    <message>
+        <source>Brace</source>
+        <translation>Stütze</translation>
+    </message>
+    <message>
+        <source>Cross-bow</source>
+        <translation>Übergriff</translation>
+    </message>
+    <message>
+        <source>Single gate</source>
+        <translation>Einzelnes Tor</translation>
+    </message>
+    <message>
+        <source>Offset (stagger)</source>
+        <translation>Versetzte Tore</translation>
+    </message>
+    <message>
+        <source>S-turn</source>
+        <translation>S-Kurve</translation>
+    </message>
+    <message>
+        <source>Cross (ferry)</source>
+        <translation>Querung (Seilfähre)</translation>
+    </message>
+    <message>
+        <source>Upstream</source>
+        <translation>Aufwärts</translation>
+    </message>
+    <message>
+        <source>Upstream sprint</source>
+        <translation>Aufwärtssprint</translation>
+    </message>
+    <message>
+        <source>Merano</source>
+        <translation>Merano</translation>
+    </message>
+    <message>
+        <source>Downstream to upstream</source>
+        <translation>Abwärts auf aufwärts</translation>
+    </message>
+    <message>
+        <source>Upstream to downstream</source>
+        <translation>Aufwärts auf abwärts</translation>
+    </message>
+    <message>
+        <source>Upstream to upstream</source>
+        <translation>Aufwärts auf aufwärts</translation>
+    </message>
+    <message>
+        <source>Straight gates</source>
+        <translation>Gerade Tore</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Finish sprint</source>
+        <translation>Zielsprint</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>Anfahrt</translation>
+    </message>
+    <message>
+        <source>Between the gates</source>
+        <translation>Zwischen den Toren</translation>
+    </message>
+    <message>
+        <source>Whole</source>
+        <translation>Ganz</translation>
+    </message>
+    <message>
+        <source>Flat water</source>
+        <translation>Flachwasser</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Welle</translation>
+    </message>
+    <message>
+        <source>Stopper (hole)</source>
+        <translation>Walze</translation>
+    </message>
+    <message>
+        <source>Eddy</source>
+        <translation>Kehrwasser</translation>
+    </message>
+    <message>
+        <source>Eddy line</source>
+        <translation>Kehrwasserlinie</translation>
+    </message>
+    <message>
+        <source>Pourover</source>
+        <translation>Überströmter Stein</translation>
+    </message>
+    <message>
+        <source>Curtain</source>
+        <translation>Vorhang</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>Abfall</translation>
+    </message>
+    <message>
+        <source>Boil</source>
+        <translation>Pilz</translation>
+    </message>
+    <message>
+        <source>Cushion</source>
+        <translation>Polster</translation>
+    </message>
+    <message>
+        <source>Wave train</source>
+        <translation>Wellenzug</translation>
+    </message>
+    <message>
+        <source>Fast water</source>
+        <translation>Schnelles Wasser</translation>
+    </message>
+    <message>
+        <source>Sweep roll</source>
+        <translation>Bogenschlagrolle</translation>
+    </message>
+    <message>
+        <source>C-to-C roll</source>
+        <translation>C-zu-C-Rolle</translation>
+    </message>
+    <message>
+        <source>Hand roll</source>
+        <translation>Handrolle</translation>
     </message>
 </context>
 <context>

@@ -5630,6 +5630,382 @@
         <source>Entry</source>
         <translation>Entrada</translation>
     </message>
+    <message>
+        <source>Downstream gate</source>
+        <translation>Puerta a favor</translation>
+    </message>
+    <message>
+        <source>Upstream gate</source>
+        <translation>Remonte</translation>
+    </message>
+    <message>
+        <source>Offset gate</source>
+        <translation>Puerta desplazada</translation>
+    </message>
+    <message>
+        <source>Spin gate</source>
+        <translation>Puerta de giro completo</translation>
+    </message>
+    <message>
+        <source>Single pole</source>
+        <translation>Un solo palo</translation>
+    </message>
+    <message>
+        <source>Touch</source>
+        <translation>Toque</translation>
+    </message>
+    <message>
+        <source>Missed gate</source>
+        <translation>Salto</translation>
+    </message>
+    <message>
+        <source>Head outside the gate</source>
+        <translation>Cabeza fuera de la puerta</translation>
+    </message>
+    <message>
+        <source>Wrong direction</source>
+        <translation>Sentido incorrecto</translation>
+    </message>
+    <message>
+        <source>Wrong order</source>
+        <translation>Orden incorrecto</translation>
+    </message>
+    <message>
+        <source>Pole pushed on purpose</source>
+        <translation>Palo empujado a propósito</translation>
+    </message>
+    <message>
+        <source>Upside down in the gate</source>
+        <translation>Volcado en la puerta</translation>
+    </message>
+    <message>
+        <source>Inner pole</source>
+        <translation>Palo interior</translation>
+    </message>
+    <message>
+        <source>Outer pole</source>
+        <translation>Palo exterior</translation>
+    </message>
+    <message>
+        <source>Both poles</source>
+        <translation>Ambos palos</translation>
+    </message>
+    <message>
+        <source>Left pole</source>
+        <translation>Palo izquierdo</translation>
+    </message>
+    <message>
+        <source>Right pole</source>
+        <translation>Palo derecho</translation>
+    </message>
+    <message>
+        <source>Boat</source>
+        <translation>Barco</translation>
+    </message>
+    <message>
+        <source>Blade</source>
+        <translation>Pala</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>Cuerpo</translation>
+    </message>
+    <message>
+        <source>Head</source>
+        <translation>Cabeza</translation>
+    </message>
+    <message>
+        <source>Bow</source>
+        <translation>Proa</translation>
+    </message>
+    <message>
+        <source>Stern</source>
+        <translation>Popa</translation>
+    </message>
+    <message>
+        <source>Shaft</source>
+        <translation>Pértiga</translation>
+    </message>
+    <message>
+        <source>Arm</source>
+        <translation>Brazo</translation>
+    </message>
+    <message>
+        <source>Washed past the gate</source>
+        <translation>Arrastrado más allá de la puerta</translation>
+    </message>
+    <message>
+        <source>Left out on purpose</source>
+        <translation>Omitida a propósito</translation>
+    </message>
+    <message>
+        <source>Entering</source>
+        <translation>Al entrar</translation>
+    </message>
+    <message>
+        <source>In the gate</source>
+        <translation>En la puerta</translation>
+    </message>
+    <message>
+        <source>Leaving</source>
+        <translation>Al salir</translation>
+    </message>
+    <message>
+        <source>Before the gate</source>
+        <translation>Antes de la puerta</translation>
+    </message>
+    <message>
+        <source>After the gate</source>
+        <translation>Después de la puerta</translation>
+    </message>
+    <message>
+        <source>Forwards</source>
+        <translation>Hacia delante</translation>
+    </message>
+    <message>
+        <source>Backwards</source>
+        <translation>Hacia atrás</translation>
+    </message>
+    <message>
+        <source>Sideways</source>
+        <translation>De lado</translation>
+    </message>
+    <message>
+        <source>Turning left</source>
+        <translation>Girando a la izquierda</translation>
+    </message>
+    <message>
+        <source>Turning right</source>
+        <translation>Girando a la derecha</translation>
+    </message>
+    <message>
+        <source>Drifting left</source>
+        <translation>Derivando a la izquierda</translation>
+    </message>
+    <message>
+        <source>Drifting right</source>
+        <translation>Derivando a la derecha</translation>
+    </message>
+    <message>
+        <source>Direct line</source>
+        <translation>Línea directa</translation>
+    </message>
+    <message>
+        <source>Spin</source>
+        <translation>Giro completo</translation>
+    </message>
+    <message>
+        <source>Duffek (bow draw)</source>
+        <translation>Duffek (apoyo de proa)</translation>
+    </message>
+    <message>
+        <source>Sweep</source>
+        <translation>Palada circular</translation>
+    </message>
+    <message>
+        <source>Stern pivot</source>
+        <translation>Pivote de popa</translation>
+    </message>
+    <message>
+        <source>Punt</source>
+        <translation>Apoyo en el fondo</translation>
+    </message>
+    <message>
+        <source>Flat turn</source>
+        <translation>Giro plano</translation>
+    </message>
+    <message>
+        <source>Ferry</source>
+        <translation>Bac</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Marcha atrás</translation>
+    </message>
+    <message>
+        <source>Surf</source>
+        <translation>Surf</translation>
+    </message>
+    <message>
+        <source>At the gate</source>
+        <translation>A la puerta</translation>
+    </message>
+    <message>
+        <source>At the next gate</source>
+        <translation>A la puerta siguiente</translation>
+    </message>
+    <message>
+        <source>At the pole</source>
+        <translation>Al palo</translation>
+    </message>
+    <message>
+        <source>At the water</source>
+        <translation>Al agua</translation>
+    </message>
+    <message>
+        <source>At the blade</source>
+        <translation>A la pala</translation>
+    </message>
+    <message>
+        <source>At the bow</source>
+        <translation>A la proa</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>A otro lado</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>Cross-bow draw</source>
+        <translation>Apoyo cruzado de proa</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Tracción</translation>
+    </message>
+    <message>
+        <source>Stern rudder</source>
+        <translation>Timón de popa</translation>
+    </message>
+    <message>
+        <source>Brace</source>
+        <translation>Apoyo</translation>
+    </message>
+    <message>
+        <source>Cross-bow</source>
+        <translation>Cruzada de proa</translation>
+    </message>
+    <message>
+        <source>Single gate</source>
+        <translation>Puerta única</translation>
+    </message>
+    <message>
+        <source>Offset (stagger)</source>
+        <translation>Puertas desplazadas</translation>
+    </message>
+    <message>
+        <source>S-turn</source>
+        <translation>Giro en S</translation>
+    </message>
+    <message>
+        <source>Cross (ferry)</source>
+        <translation>Cruce (bac)</translation>
+    </message>
+    <message>
+        <source>Upstream</source>
+        <translation>Remonte</translation>
+    </message>
+    <message>
+        <source>Upstream sprint</source>
+        <translation>Esprint en remonte</translation>
+    </message>
+    <message>
+        <source>Merano</source>
+        <translation>Merano</translation>
+    </message>
+    <message>
+        <source>Downstream to upstream</source>
+        <translation>De puerta a favor a remonte</translation>
+    </message>
+    <message>
+        <source>Upstream to downstream</source>
+        <translation>De remonte a puerta a favor</translation>
+    </message>
+    <message>
+        <source>Upstream to upstream</source>
+        <translation>De remonte a remonte</translation>
+    </message>
+    <message>
+        <source>Straight gates</source>
+        <translation>Puertas rectas</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Salida</translation>
+    </message>
+    <message>
+        <source>Finish sprint</source>
+        <translation>Esprint a meta</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>Aproximación</translation>
+    </message>
+    <message>
+        <source>Between the gates</source>
+        <translation>Entre las puertas</translation>
+    </message>
+    <message>
+        <source>Whole</source>
+        <translation>Entera</translation>
+    </message>
+    <message>
+        <source>Flat water</source>
+        <translation>Aguas tranquilas</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Ola</translation>
+    </message>
+    <message>
+        <source>Stopper (hole)</source>
+        <translation>Rebufo</translation>
+    </message>
+    <message>
+        <source>Eddy</source>
+        <translation>Contra</translation>
+    </message>
+    <message>
+        <source>Eddy line</source>
+        <translation>Línea de contra</translation>
+    </message>
+    <message>
+        <source>Pourover</source>
+        <translation>Roca cubierta</translation>
+    </message>
+    <message>
+        <source>Curtain</source>
+        <translation>Cortina</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>Salto de agua</translation>
+    </message>
+    <message>
+        <source>Boil</source>
+        <translation>Borbotón</translation>
+    </message>
+    <message>
+        <source>Cushion</source>
+        <translation>Cojín</translation>
+    </message>
+    <message>
+        <source>Wave train</source>
+        <translation>Tren de olas</translation>
+    </message>
+    <message>
+        <source>Fast water</source>
+        <translation>Agua rápida</translation>
+    </message>
+    <message>
+        <source>Sweep roll</source>
+        <translation>Esquimotaje con palada circular</translation>
+    </message>
+    <message>
+        <source>C-to-C roll</source>
+        <translation>Esquimotaje C a C</translation>
+    </message>
+    <message>
+        <source>Hand roll</source>
+        <translation>Esquimotaje de mano</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>

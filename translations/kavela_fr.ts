@@ -5630,6 +5630,382 @@
         <source>Entry</source>
         <translation>Entrée</translation>
     </message>
+    <message>
+        <source>Downstream gate</source>
+        <translation>Porte en descente</translation>
+    </message>
+    <message>
+        <source>Upstream gate</source>
+        <translation>Remontée</translation>
+    </message>
+    <message>
+        <source>Offset gate</source>
+        <translation>Porte décalée</translation>
+    </message>
+    <message>
+        <source>Spin gate</source>
+        <translation>Porte à tour complet</translation>
+    </message>
+    <message>
+        <source>Single pole</source>
+        <translation>Fiche unique</translation>
+    </message>
+    <message>
+        <source>Touch</source>
+        <translation>Touche</translation>
+    </message>
+    <message>
+        <source>Missed gate</source>
+        <translation>Porte manquée</translation>
+    </message>
+    <message>
+        <source>Head outside the gate</source>
+        <translation>Tête hors de la porte</translation>
+    </message>
+    <message>
+        <source>Wrong direction</source>
+        <translation>Mauvais sens</translation>
+    </message>
+    <message>
+        <source>Wrong order</source>
+        <translation>Mauvais ordre</translation>
+    </message>
+    <message>
+        <source>Pole pushed on purpose</source>
+        <translation>Fiche poussée volontairement</translation>
+    </message>
+    <message>
+        <source>Upside down in the gate</source>
+        <translation>À l’envers dans la porte</translation>
+    </message>
+    <message>
+        <source>Inner pole</source>
+        <translation>Fiche intérieure</translation>
+    </message>
+    <message>
+        <source>Outer pole</source>
+        <translation>Fiche extérieure</translation>
+    </message>
+    <message>
+        <source>Both poles</source>
+        <translation>Les deux fiches</translation>
+    </message>
+    <message>
+        <source>Left pole</source>
+        <translation>Fiche gauche</translation>
+    </message>
+    <message>
+        <source>Right pole</source>
+        <translation>Fiche droite</translation>
+    </message>
+    <message>
+        <source>Boat</source>
+        <translation>Bateau</translation>
+    </message>
+    <message>
+        <source>Blade</source>
+        <translation>Pale</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>Corps</translation>
+    </message>
+    <message>
+        <source>Head</source>
+        <translation>Tête</translation>
+    </message>
+    <message>
+        <source>Bow</source>
+        <translation>Pointe avant</translation>
+    </message>
+    <message>
+        <source>Stern</source>
+        <translation>Pointe arrière</translation>
+    </message>
+    <message>
+        <source>Shaft</source>
+        <translation>Manche de la pagaie</translation>
+    </message>
+    <message>
+        <source>Arm</source>
+        <translation>Bras</translation>
+    </message>
+    <message>
+        <source>Washed past the gate</source>
+        <translation>Emporté au-delà de la porte</translation>
+    </message>
+    <message>
+        <source>Left out on purpose</source>
+        <translation>Laissée volontairement</translation>
+    </message>
+    <message>
+        <source>Entering</source>
+        <translation>À l’entrée</translation>
+    </message>
+    <message>
+        <source>In the gate</source>
+        <translation>Dans la porte</translation>
+    </message>
+    <message>
+        <source>Leaving</source>
+        <translation>À la sortie</translation>
+    </message>
+    <message>
+        <source>Before the gate</source>
+        <translation>Avant la porte</translation>
+    </message>
+    <message>
+        <source>After the gate</source>
+        <translation>Après la porte</translation>
+    </message>
+    <message>
+        <source>Forwards</source>
+        <translation>En avant</translation>
+    </message>
+    <message>
+        <source>Backwards</source>
+        <translation>En arrière</translation>
+    </message>
+    <message>
+        <source>Sideways</source>
+        <translation>De travers</translation>
+    </message>
+    <message>
+        <source>Turning left</source>
+        <translation>En tournant à gauche</translation>
+    </message>
+    <message>
+        <source>Turning right</source>
+        <translation>En tournant à droite</translation>
+    </message>
+    <message>
+        <source>Drifting left</source>
+        <translation>Dérive à gauche</translation>
+    </message>
+    <message>
+        <source>Drifting right</source>
+        <translation>Dérive à droite</translation>
+    </message>
+    <message>
+        <source>Direct line</source>
+        <translation>Ligne directe</translation>
+    </message>
+    <message>
+        <source>Spin</source>
+        <translation>Tour complet</translation>
+    </message>
+    <message>
+        <source>Duffek (bow draw)</source>
+        <translation>Duffek (appel avant)</translation>
+    </message>
+    <message>
+        <source>Sweep</source>
+        <translation>Propulsion circulaire</translation>
+    </message>
+    <message>
+        <source>Stern pivot</source>
+        <translation>Pivot arrière</translation>
+    </message>
+    <message>
+        <source>Punt</source>
+        <translation>Poussée au fond</translation>
+    </message>
+    <message>
+        <source>Flat turn</source>
+        <translation>Virage à plat</translation>
+    </message>
+    <message>
+        <source>Ferry</source>
+        <translation>Bac</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Marche arrière</translation>
+    </message>
+    <message>
+        <source>Surf</source>
+        <translation>Surf</translation>
+    </message>
+    <message>
+        <source>At the gate</source>
+        <translation>Vers la porte</translation>
+    </message>
+    <message>
+        <source>At the next gate</source>
+        <translation>Vers la porte suivante</translation>
+    </message>
+    <message>
+        <source>At the pole</source>
+        <translation>Vers la fiche</translation>
+    </message>
+    <message>
+        <source>At the water</source>
+        <translation>Vers l’eau</translation>
+    </message>
+    <message>
+        <source>At the blade</source>
+        <translation>Vers la pale</translation>
+    </message>
+    <message>
+        <source>At the bow</source>
+        <translation>Vers la pointe avant</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>Ailleurs</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Droite</translation>
+    </message>
+    <message>
+        <source>Cross-bow draw</source>
+        <translation>Appel croisé</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Appel</translation>
+    </message>
+    <message>
+        <source>Stern rudder</source>
+        <translation>Gouvernail arrière</translation>
+    </message>
+    <message>
+        <source>Brace</source>
+        <translation>Appui</translation>
+    </message>
+    <message>
+        <source>Cross-bow</source>
+        <translation>Croisé avant</translation>
+    </message>
+    <message>
+        <source>Single gate</source>
+        <translation>Porte isolée</translation>
+    </message>
+    <message>
+        <source>Offset (stagger)</source>
+        <translation>Décalage</translation>
+    </message>
+    <message>
+        <source>S-turn</source>
+        <translation>Virage en S</translation>
+    </message>
+    <message>
+        <source>Cross (ferry)</source>
+        <translation>Traversée (bac)</translation>
+    </message>
+    <message>
+        <source>Upstream</source>
+        <translation>Remontée</translation>
+    </message>
+    <message>
+        <source>Upstream sprint</source>
+        <translation>Sprint vers l’amont</translation>
+    </message>
+    <message>
+        <source>Merano</source>
+        <translation>Merano</translation>
+    </message>
+    <message>
+        <source>Downstream to upstream</source>
+        <translation>De descendue à remontée</translation>
+    </message>
+    <message>
+        <source>Upstream to downstream</source>
+        <translation>De remontée à descendue</translation>
+    </message>
+    <message>
+        <source>Upstream to upstream</source>
+        <translation>De remontée à remontée</translation>
+    </message>
+    <message>
+        <source>Straight gates</source>
+        <translation>Portes en ligne</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Départ</translation>
+    </message>
+    <message>
+        <source>Finish sprint</source>
+        <translation>Sprint final</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>Approche</translation>
+    </message>
+    <message>
+        <source>Between the gates</source>
+        <translation>Entre les portes</translation>
+    </message>
+    <message>
+        <source>Whole</source>
+        <translation>Entier</translation>
+    </message>
+    <message>
+        <source>Flat water</source>
+        <translation>Eau plate</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Vague</translation>
+    </message>
+    <message>
+        <source>Stopper (hole)</source>
+        <translation>Rappel</translation>
+    </message>
+    <message>
+        <source>Eddy</source>
+        <translation>Contre-courant</translation>
+    </message>
+    <message>
+        <source>Eddy line</source>
+        <translation>Ligne de contre-courant</translation>
+    </message>
+    <message>
+        <source>Pourover</source>
+        <translation>Pleureur</translation>
+    </message>
+    <message>
+        <source>Curtain</source>
+        <translation>Rideau</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>Chute</translation>
+    </message>
+    <message>
+        <source>Boil</source>
+        <translation>Champignon</translation>
+    </message>
+    <message>
+        <source>Cushion</source>
+        <translation>Coussin</translation>
+    </message>
+    <message>
+        <source>Wave train</source>
+        <translation>Train de vagues</translation>
+    </message>
+    <message>
+        <source>Fast water</source>
+        <translation>Eau rapide</translation>
+    </message>
+    <message>
+        <source>Sweep roll</source>
+        <translation>Esquimautage circulaire</translation>
+    </message>
+    <message>
+        <source>C-to-C roll</source>
+        <translation>Esquimautage C à C</translation>
+    </message>
+    <message>
+        <source>Hand roll</source>
+        <translation>Esquimautage à la main</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
