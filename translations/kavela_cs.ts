@@ -1078,6 +1078,18 @@
         <source>Work kept</source>
         <translation>Uchovaná práce</translation>
     </message>
+    <message>
+        <source>Pattern of the names</source>
+        <translation>Vzor jmen</translation>
+    </message>
+    <message>
+        <source>Names now and then</source>
+        <translation>Jména nyní a potom</translation>
+    </message>
+    <message>
+        <source>Films being composed</source>
+        <translation>Skládané filmy</translation>
+    </message>
 </context>
 <context>
     <name>TestCharts</name>
@@ -20514,6 +20526,14 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <message>
         <source>First steps, three minutes</source>
         <translation>První kroky, tři minuty</translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation>Hotovo: %1</translation>
+    </message>
+    <message>
+        <source>To do: %1</source>
+        <translation>Zbývá: %1</translation>
     </message>
 </context>
 <context>

@@ -1077,6 +1077,18 @@
         <source>Work kept</source>
         <translation>Bewahrte Arbeit</translation>
     </message>
+    <message>
+        <source>Pattern of the names</source>
+        <translation>Muster der Namen</translation>
+    </message>
+    <message>
+        <source>Names now and then</source>
+        <translation>Namen jetzt und danach</translation>
+    </message>
+    <message>
+        <source>Films being composed</source>
+        <translation>Filme in Arbeit</translation>
+    </message>
 </context>
 <context>
     <name>TestCharts</name>
@@ -20456,6 +20468,14 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <message>
         <source>First steps, three minutes</source>
         <translation>Erste Schritte, drei Minuten</translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation>Erledigt: %1</translation>
+    </message>
+    <message>
+        <source>To do: %1</source>
+        <translation>Zu tun: %1</translation>
     </message>
 </context>
 <context>

@@ -1077,6 +1077,18 @@
         <source>Work kept</source>
         <translation>Trabajo guardado</translation>
     </message>
+    <message>
+        <source>Pattern of the names</source>
+        <translation>Patrón de los nombres</translation>
+    </message>
+    <message>
+        <source>Names now and then</source>
+        <translation>Nombres actuales y nuevos</translation>
+    </message>
+    <message>
+        <source>Films being composed</source>
+        <translation>Vídeos en composición</translation>
+    </message>
 </context>
 <context>
     <name>TestCharts</name>
@@ -20456,6 +20468,14 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <message>
         <source>First steps, three minutes</source>
         <translation>Primeros pasos, tres minutos</translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation>Hecho: %1</translation>
+    </message>
+    <message>
+        <source>To do: %1</source>
+        <translation>Por hacer: %1</translation>
     </message>
 </context>
 <context>

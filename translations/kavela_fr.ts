@@ -1077,6 +1077,18 @@
         <source>Work kept</source>
         <translation>Travail conservé</translation>
     </message>
+    <message>
+        <source>Pattern of the names</source>
+        <translation>Modèle des noms</translation>
+    </message>
+    <message>
+        <source>Names now and then</source>
+        <translation>Noms actuels et nouveaux</translation>
+    </message>
+    <message>
+        <source>Films being composed</source>
+        <translation>Films en composition</translation>
+    </message>
 </context>
 <context>
     <name>TestCharts</name>
@@ -20456,6 +20468,14 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     <message>
         <source>First steps, three minutes</source>
         <translation>Premiers pas, trois minutes</translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation>Fait : %1</translation>
+    </message>
+    <message>
+        <source>To do: %1</source>
+        <translation>À faire : %1</translation>
     </message>
 </context>
 <context>
