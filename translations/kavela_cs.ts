@@ -3017,14 +3017,6 @@
         <source>Wilson&apos;s interval, 90 %</source>
         <translation>Wilsonův interval, 90&#xa0;%</translation>
     </message>
-    <message>
-        <source>{} runs are</source>
-        <translation>jízdy: {}</translation>
-    </message>
-    <message>
-        <source>{} left out: {} penalties are not known by gate.</source>
-        <translation>Vynecháno {}: {} penalizace nejsou známy po brankách.</translation>
-    </message>
     <message numerus="yes">
         <source>{} touches</source>
         <translation>
@@ -6048,6 +6040,138 @@
     <message>
         <source>Hand roll</source>
         <translation>Ruční eskymák</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs left out: penalties not known by gate</source>
+        <translation>
+            <numerusform>{} jízda vynechána: penalizace neznámé podle branek</numerusform>
+            <numerusform>{} jízdy vynechány: penalizace neznámé podle branek</numerusform>
+            <numerusform>{} jízd vynecháno: penalizace neznámé podle branek</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs are left out: their penalties are not known by gate.</source>
+        <translation>
+            <numerusform>Vynechána je {} jízda: její penalizace nejsou známy podle branek.</numerusform>
+            <numerusform>Vynechány jsou {} jízdy: jejich penalizace nejsou známy podle branek.</numerusform>
+            <numerusform>Vynecháno je {} jízd: jejich penalizace nejsou známy podle branek.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(not given)</source>
+        <translation>(neuvedeno)</translation>
+    </message>
+    <message>
+        <source>* touched more than that with 95 % certainty and more</source>
+        <translation>* častější ťuky s jistotou 95 % a více</translation>
+    </message>
+    <message>
+        <source>A missed gate also saved paddling, which is not taken back here.</source>
+        <translation>Neprojetá branka také ušetřila čas jízdy, který se zde nevrací.</translation>
+    </message>
+    <message>
+        <source>Gained</source>
+        <translation>Získáno</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>Ztraceno</translation>
+    </message>
+    <message>
+        <source>Missed/run</source>
+        <translation>Neproj./j.</translation>
+    </message>
+    <message>
+        <source>Ranked</source>
+        <translation>Řazeno</translation>
+    </message>
+    <message>
+        <source>Rate %</source>
+        <translation>Podíl %</translation>
+    </message>
+    <message>
+        <source>Risk and speed</source>
+        <translation>Riziko/rychlost</translation>
+    </message>
+    <message>
+        <source>Touches/run</source>
+        <translation>Ťuky/jízda</translation>
+    </message>
+    <message>
+        <source>Ways: chosen against the fastest timed</source>
+        <translation>Varianty: zvolená proti nejrychlejší změřené</translation>
+    </message>
+    <message>
+        <source>between {}</source>
+        <translation>mezi tím {}</translation>
+    </message>
+    <message>
+        <source>fastest third</source>
+        <translation>rychlá třetina</translation>
+    </message>
+    <message>
+        <source>middle third</source>
+        <translation>střední třetina</translation>
+    </message>
+    <message>
+        <source>slowest third</source>
+        <translation>pomalá třetina</translation>
+    </message>
+    <message>
+        <source>in no stretch</source>
+        <translation>v žádném úseku</translation>
+    </message>
+    <message>
+        <source>not finished: {}</source>
+        <translation>nedokončeno: {}</translation>
+    </message>
+    <message>
+        <source>on run {}</source>
+        <translation>proti jízdě {}</translation>
+    </message>
+    <message>
+        <source>on the fastest</source>
+        <translation>proti nejrychlejšímu</translation>
+    </message>
+    <message>
+        <source>on the finalists&apos; median</source>
+        <translation>proti mediánu finalistů</translation>
+    </message>
+    <message>
+        <source>on the ideal run</source>
+        <translation>proti ideální jízdě</translation>
+    </message>
+    <message>
+        <source>on the own fastest other run</source>
+        <translation>proti nejrychlejší jiné vlastní jízdě</translation>
+    </message>
+    <message>
+        <source>on the winner</source>
+        <translation>proti vítězi</translation>
+    </message>
+    <message>
+        <source>penalties {}</source>
+        <translation>penalizace {}</translation>
+    </message>
+    <message>
+        <source>timing {}</source>
+        <translation>měření {}</translation>
+    </message>
+    <message>
+        <source>touch</source>
+        <translation>ťuk</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} penalties cost no place</source>
+        <translation>
+            <numerusform>{} penalizace nestála místo</numerusform>
+            <numerusform>{} penalizace nestály místo</numerusform>
+            <numerusform>{} penalizací nestálo místo</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{}: there is none</source>
+        <translation>{}: není</translation>
     </message>
 </context>
 <context>

@@ -2994,14 +2994,6 @@
         <source>Wilson&apos;s interval, 90 %</source>
         <translation>Wilson-Intervall, 90&#xa0;%</translation>
     </message>
-    <message>
-        <source>{} runs are</source>
-        <translation>{} Läufe</translation>
-    </message>
-    <message>
-        <source>{} left out: {} penalties are not known by gate.</source>
-        <translation>Ausgelassen: {}; Strafen ({}) nicht nach Toren bekannt.</translation>
-    </message>
     <message numerus="yes">
         <source>{} touches</source>
         <translation>
@@ -6017,6 +6009,135 @@
     <message>
         <source>Hand roll</source>
         <translation>Handrolle</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs left out: penalties not known by gate</source>
+        <translation>
+            <numerusform>{} Lauf ausgelassen: Strafen nicht nach Toren bekannt</numerusform>
+            <numerusform>{} Läufe ausgelassen: Strafen nicht nach Toren bekannt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs are left out: their penalties are not known by gate.</source>
+        <translation>
+            <numerusform>{} Lauf ist ausgelassen: Seine Strafen sind nicht nach Toren bekannt.</numerusform>
+            <numerusform>{} Läufe sind ausgelassen: Ihre Strafen sind nicht nach Toren bekannt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(not given)</source>
+        <translation>(nicht angegeben)</translation>
+    </message>
+    <message>
+        <source>* touched more than that with 95 % certainty and more</source>
+        <translation>* mit 95 % Sicherheit und mehr öfter berührt als das</translation>
+    </message>
+    <message>
+        <source>A missed gate also saved paddling, which is not taken back here.</source>
+        <translation>Ein Torfehler hat auch Fahrzeit gespart, die hier nicht zurückgenommen wird.</translation>
+    </message>
+    <message>
+        <source>Gained</source>
+        <translation>Gewonnen</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>Verloren</translation>
+    </message>
+    <message>
+        <source>Missed/run</source>
+        <translation>Fehler/Lauf</translation>
+    </message>
+    <message>
+        <source>Ranked</source>
+        <translation>Gereiht</translation>
+    </message>
+    <message>
+        <source>Rate %</source>
+        <translation>Rate %</translation>
+    </message>
+    <message>
+        <source>Risk and speed</source>
+        <translation>Risiko &amp; Tempo</translation>
+    </message>
+    <message>
+        <source>Touches/run</source>
+        <translation>Berühr./Lauf</translation>
+    </message>
+    <message>
+        <source>Ways: chosen against the fastest timed</source>
+        <translation>Wege: der gewählte gegen den schnellsten gestoppten</translation>
+    </message>
+    <message>
+        <source>between {}</source>
+        <translation>dazwischen {}</translation>
+    </message>
+    <message>
+        <source>fastest third</source>
+        <translation>schnelles Dr.</translation>
+    </message>
+    <message>
+        <source>middle third</source>
+        <translation>mittleres Dr.</translation>
+    </message>
+    <message>
+        <source>slowest third</source>
+        <translation>langsames Dr.</translation>
+    </message>
+    <message>
+        <source>in no stretch</source>
+        <translation>in keinem Stück</translation>
+    </message>
+    <message>
+        <source>not finished: {}</source>
+        <translation>nicht beendet: {}</translation>
+    </message>
+    <message>
+        <source>on run {}</source>
+        <translation>gegen Lauf {}</translation>
+    </message>
+    <message>
+        <source>on the fastest</source>
+        <translation>gegen den Schnellsten</translation>
+    </message>
+    <message>
+        <source>on the finalists&apos; median</source>
+        <translation>gegen den Median der Finalisten</translation>
+    </message>
+    <message>
+        <source>on the ideal run</source>
+        <translation>gegen den Ideallauf</translation>
+    </message>
+    <message>
+        <source>on the own fastest other run</source>
+        <translation>gegen den schnellsten anderen eigenen Lauf</translation>
+    </message>
+    <message>
+        <source>on the winner</source>
+        <translation>gegen den Sieger</translation>
+    </message>
+    <message>
+        <source>penalties {}</source>
+        <translation>Strafen {}</translation>
+    </message>
+    <message>
+        <source>timing {}</source>
+        <translation>Zeitnahme {}</translation>
+    </message>
+    <message>
+        <source>touch</source>
+        <translation>Ber.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} penalties cost no place</source>
+        <translation>
+            <numerusform>{} Strafe kostete keinen Platz</numerusform>
+            <numerusform>{} Strafen kosteten keinen Platz</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{}: there is none</source>
+        <translation>{}: gibt es nicht</translation>
     </message>
 </context>
 <context>

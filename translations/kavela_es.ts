@@ -2994,14 +2994,6 @@
         <source>Wilson&apos;s interval, 90 %</source>
         <translation>Intervalo de Wilson, 90&#xa0;%</translation>
     </message>
-    <message>
-        <source>{} runs are</source>
-        <translation>{} mangas se omiten</translation>
-    </message>
-    <message>
-        <source>{} left out: {} penalties are not known by gate.</source>
-        <translation>Omitido: {}: {} penalizaciones no se conocen por puerta.</translation>
-    </message>
     <message numerus="yes">
         <source>{} touches</source>
         <translation>
@@ -6017,6 +6009,135 @@
     <message>
         <source>Hand roll</source>
         <translation>Esquimotaje de mano</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs left out: penalties not known by gate</source>
+        <translation>
+            <numerusform>{} manga omitida: penalizaciones no conocidas por puerta</numerusform>
+            <numerusform>{} mangas omitidas: penalizaciones no conocidas por puerta</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs are left out: their penalties are not known by gate.</source>
+        <translation>
+            <numerusform>Se omite {} manga: sus penalizaciones no se conocen por puerta.</numerusform>
+            <numerusform>Se omiten {} mangas: sus penalizaciones no se conocen por puerta.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(not given)</source>
+        <translation>(sin indicar)</translation>
+    </message>
+    <message>
+        <source>* touched more than that with 95 % certainty and more</source>
+        <translation>* más toques que eso con una certeza del 95 % o más</translation>
+    </message>
+    <message>
+        <source>A missed gate also saved paddling, which is not taken back here.</source>
+        <translation>Un salto también ahorró paleo, que aquí no se devuelve.</translation>
+    </message>
+    <message>
+        <source>Gained</source>
+        <translation>Ganado</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>Perdido</translation>
+    </message>
+    <message>
+        <source>Missed/run</source>
+        <translation>Saltos/m.</translation>
+    </message>
+    <message>
+        <source>Ranked</source>
+        <translation>Ordenada</translation>
+    </message>
+    <message>
+        <source>Rate %</source>
+        <translation>Frec. %</translation>
+    </message>
+    <message>
+        <source>Risk and speed</source>
+        <translation>Riesgo y ritmo</translation>
+    </message>
+    <message>
+        <source>Touches/run</source>
+        <translation>Toques/manga</translation>
+    </message>
+    <message>
+        <source>Ways: chosen against the fastest timed</source>
+        <translation>Trazadas: la elegida frente a la más rápida cronometrada</translation>
+    </message>
+    <message>
+        <source>between {}</source>
+        <translation>entre medias {}</translation>
+    </message>
+    <message>
+        <source>fastest third</source>
+        <translation>tercio rápido</translation>
+    </message>
+    <message>
+        <source>middle third</source>
+        <translation>tercio medio</translation>
+    </message>
+    <message>
+        <source>slowest third</source>
+        <translation>tercio lento</translation>
+    </message>
+    <message>
+        <source>in no stretch</source>
+        <translation>en ningún trecho</translation>
+    </message>
+    <message>
+        <source>not finished: {}</source>
+        <translation>sin terminar: {}</translation>
+    </message>
+    <message>
+        <source>on run {}</source>
+        <translation>respecto a la manga {}</translation>
+    </message>
+    <message>
+        <source>on the fastest</source>
+        <translation>respecto al más rápido</translation>
+    </message>
+    <message>
+        <source>on the finalists&apos; median</source>
+        <translation>respecto a la mediana de los finalistas</translation>
+    </message>
+    <message>
+        <source>on the ideal run</source>
+        <translation>respecto a la manga ideal</translation>
+    </message>
+    <message>
+        <source>on the own fastest other run</source>
+        <translation>respecto a la propia manga más rápida de las demás</translation>
+    </message>
+    <message>
+        <source>on the winner</source>
+        <translation>respecto al ganador</translation>
+    </message>
+    <message>
+        <source>penalties {}</source>
+        <translation>penalizaciones {}</translation>
+    </message>
+    <message>
+        <source>timing {}</source>
+        <translation>cronometraje {}</translation>
+    </message>
+    <message>
+        <source>touch</source>
+        <translation>toque</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} penalties cost no place</source>
+        <translation>
+            <numerusform>{} penalización no costó ningún puesto</numerusform>
+            <numerusform>{} penalizaciones no costaron ningún puesto</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{}: there is none</source>
+        <translation>{}: no hay</translation>
     </message>
 </context>
 <context>

@@ -2994,14 +2994,6 @@
         <source>Wilson&apos;s interval, 90 %</source>
         <translation>intervalle de Wilson, 90&#x202f;%</translation>
     </message>
-    <message>
-        <source>{} runs are</source>
-        <translation>{} manches sont</translation>
-    </message>
-    <message>
-        <source>{} left out: {} penalties are not known by gate.</source>
-        <translation>{} laissées de côté&#x202f;: {} pénalités ne sont pas connues par porte.</translation>
-    </message>
     <message numerus="yes">
         <source>{} touches</source>
         <translation>
@@ -6017,6 +6009,135 @@
     <message>
         <source>Hand roll</source>
         <translation>Esquimautage à la main</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs left out: penalties not known by gate</source>
+        <translation>
+            <numerusform>{} manche laissée de côté : pénalités non connues par porte</numerusform>
+            <numerusform>{} manches laissées de côté : pénalités non connues par porte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs are left out: their penalties are not known by gate.</source>
+        <translation>
+            <numerusform>{} manche est laissée de côté : ses pénalités ne sont pas connues par porte.</numerusform>
+            <numerusform>{} manches sont laissées de côté : leurs pénalités ne sont pas connues par porte.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(not given)</source>
+        <translation>(non indiqué)</translation>
+    </message>
+    <message>
+        <source>* touched more than that with 95 % certainty and more</source>
+        <translation>* touché davantage avec une certitude de 95 % et plus</translation>
+    </message>
+    <message>
+        <source>A missed gate also saved paddling, which is not taken back here.</source>
+        <translation>Une porte manquée a aussi épargné de la navigation, ce qui n’est pas repris ici.</translation>
+    </message>
+    <message>
+        <source>Gained</source>
+        <translation>Gagné</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>Perdu</translation>
+    </message>
+    <message>
+        <source>Missed/run</source>
+        <translation>Manq./m.</translation>
+    </message>
+    <message>
+        <source>Ranked</source>
+        <translation>Classé</translation>
+    </message>
+    <message>
+        <source>Rate %</source>
+        <translation>Taux %</translation>
+    </message>
+    <message>
+        <source>Risk and speed</source>
+        <translation>Risque, vitesse</translation>
+    </message>
+    <message>
+        <source>Touches/run</source>
+        <translation>Touches/m.</translation>
+    </message>
+    <message>
+        <source>Ways: chosen against the fastest timed</source>
+        <translation>Options : choisie face à la plus rapide chronométrée</translation>
+    </message>
+    <message>
+        <source>between {}</source>
+        <translation>entre-deux {}</translation>
+    </message>
+    <message>
+        <source>fastest third</source>
+        <translation>tiers rapide</translation>
+    </message>
+    <message>
+        <source>middle third</source>
+        <translation>tiers moyen</translation>
+    </message>
+    <message>
+        <source>slowest third</source>
+        <translation>tiers lent</translation>
+    </message>
+    <message>
+        <source>in no stretch</source>
+        <translation>dans aucun tronçon</translation>
+    </message>
+    <message>
+        <source>not finished: {}</source>
+        <translation>non terminées : {}</translation>
+    </message>
+    <message>
+        <source>on run {}</source>
+        <translation>face à la manche {}</translation>
+    </message>
+    <message>
+        <source>on the fastest</source>
+        <translation>face au plus rapide</translation>
+    </message>
+    <message>
+        <source>on the finalists&apos; median</source>
+        <translation>face à la médiane des finalistes</translation>
+    </message>
+    <message>
+        <source>on the ideal run</source>
+        <translation>face à la manche idéale</translation>
+    </message>
+    <message>
+        <source>on the own fastest other run</source>
+        <translation>face à la plus rapide de ses autres manches</translation>
+    </message>
+    <message>
+        <source>on the winner</source>
+        <translation>face au vainqueur</translation>
+    </message>
+    <message>
+        <source>penalties {}</source>
+        <translation>pénalités {}</translation>
+    </message>
+    <message>
+        <source>timing {}</source>
+        <translation>chronométrage {}</translation>
+    </message>
+    <message>
+        <source>touch</source>
+        <translation>touche</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} penalties cost no place</source>
+        <translation>
+            <numerusform>{} pénalité n’a coûté aucune place</numerusform>
+            <numerusform>{} pénalités n’ont coûté aucune place</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{}: there is none</source>
+        <translation>{} : il n’y en a pas</translation>
     </message>
 </context>
 <context>
