@@ -6173,6 +6173,542 @@
         <source>{}: there is none</source>
         <translation>{}: není</translation>
     </message>
+    <message>
+        <source>&quot;{}&quot; is no gate number.</source>
+        <translation>„{}“ není číslo branky.</translation>
+    </message>
+    <message>
+        <source>A section up to here was not timed, so this is not the time from the start.</source>
+        <translation>Některý úsek až sem nebyl změřen, proto to není čas od startu.</translation>
+    </message>
+    <message>
+        <source>A time must be above 0. Check the marks of this run.</source>
+        <translation>Čas musí být větší než 0. Zkontrolujte značky této jízdy.</translation>
+    </message>
+    <message>
+        <source>A time of the session is negative or no number.</source>
+        <translation>Některý čas jednotky je záporný nebo není číslo.</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Hotovo</translation>
+    </message>
+    <message>
+        <source>From {:.1f} s to {:.1f} s of the run nothing is recorded.</source>
+        <translation>Od {:.1f} s do {:.1f} s jízdy není nic zaznamenáno.</translation>
+    </message>
+    <message>
+        <source>Gate {} has this penalty already.</source>
+        <translation>Branka {} už tuto penalizaci má.</translation>
+    </message>
+    <message>
+        <source>Gate {} is missing before gate {} in section {}.</source>
+        <translation>Branka {} chybí před brankou {} v úseku {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} is not on a course of {}.</source>
+        <translation>Branka {} není na trati ({}).</translation>
+    </message>
+    <message>
+        <source>Gate {} stands a second time or out of order in section {}.</source>
+        <translation>Branka {} je podruhé nebo mimo pořadí v úseku {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands in no section.</source>
+        <translation>Branka {} není v žádném úseku.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands there twice.</source>
+        <translation>Branka {} je tam dvakrát.</translation>
+    </message>
+    <message>
+        <source>Get ready</source>
+        <translation>Připravte se</translation>
+    </message>
+    <message>
+        <source>It was deleted here and changed there: it is brought again.</source>
+        <translation>Zde smazáno a tam změněno: stáhne se znovu.</translation>
+    </message>
+    <message>
+        <source>It was deleted there and changed here: it is put there again.</source>
+        <translation>Tam smazáno a zde změněno: odešle se tam znovu.</translation>
+    </message>
+    <message>
+        <source>Line {}, {}: there is no run of this crew.</source>
+        <translation>Řádek {}, {}: tato posádka nemá žádnou jízdu.</translation>
+    </message>
+    <message>
+        <source>No motion of the boat is attached to this run.</source>
+        <translation>K této jízdě není připojen žádný pohyb lodi.</translation>
+    </message>
+    <message>
+        <source>No run waiting</source>
+        <translation>Žádná jízda nečeká</translation>
+    </message>
+    <message>
+        <source>No time was taken here.</source>
+        <translation>Zde nebyl změřen žádný čas.</translation>
+    </message>
+    <message>
+        <source>Of the first {:.1f} s of the run nothing is recorded.</source>
+        <translation>Z prvních {:.1f} s jízdy není nic zaznamenáno.</translation>
+    </message>
+    <message>
+        <source>Of the last {:.1f} s of the run nothing is recorded.</source>
+        <translation>Z posledních {:.1f} s jízdy není nic zaznamenáno.</translation>
+    </message>
+    <message>
+        <source>Rest</source>
+        <translation>Odpočinek</translation>
+    </message>
+    <message>
+        <source>Rest between sets</source>
+        <translation>Odpočinek mezi sériemi</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Práce</translation>
+    </message>
+    <message>
+        <source>Somebody changed it on the server meanwhile.</source>
+        <translation>Mezitím to na serveru někdo změnil.</translation>
+    </message>
+    <message>
+        <source>Somebody has locked it on the server.</source>
+        <translation>Někdo to na serveru zamkl.</translation>
+    </message>
+    <message>
+        <source>Start and end of the stretch are not both marked in the run of {}.</source>
+        <translation>Začátek a konec části nejsou oba označeny v jízdě ({}).</translation>
+    </message>
+    <message>
+        <source>Start and end of the stretch are not both marked in this run.</source>
+        <translation>Začátek a konec části nejsou v této jízdě oba označeny.</translation>
+    </message>
+    <message>
+        <source>The end of the stretch is not marked after its start in the run of {}.</source>
+        <translation>Konec části není označen za jejím začátkem v jízdě ({}).</translation>
+    </message>
+    <message>
+        <source>The end of the stretch is not marked after its start in this run.</source>
+        <translation>Konec části není v této jízdě označen za jejím začátkem.</translation>
+    </message>
+    <message>
+        <source>The answer of the server is longer than it can be.</source>
+        <translation>Odpověď serveru je delší, než může být.</translation>
+    </message>
+    <message>
+        <source>The attached motion is not as long as the run, so that its moments cannot be told.</source>
+        <translation>Připojený pohyb není stejně dlouhý jako jízda, takže jeho okamžiky nelze určit.</translation>
+    </message>
+    <message>
+        <source>The certificate of the server is not trusted, so that nothing was sent. It was issued by “{}”: {}.</source>
+        <translation>Certifikátu serveru se nedá věřit, proto nebylo nic odesláno. Vydal ho „{}“: {}.</translation>
+    </message>
+    <message>
+        <source>The connection broke off.</source>
+        <translation>Spojení se přerušilo.</translation>
+    </message>
+    <message>
+        <source>The exit is marked before the entrance.</source>
+        <translation>Výjezd je označen před nájezdem.</translation>
+    </message>
+    <message>
+        <source>The exit is marked before the middle.</source>
+        <translation>Výjezd je označen před středem.</translation>
+    </message>
+    <message>
+        <source>The middle is marked before the entrance.</source>
+        <translation>Střed je označen před nájezdem.</translation>
+    </message>
+    <message>
+        <source>The film lies on {}, which is not ticked.</source>
+        <translation>Video leží na {}, což není zaškrtnuto.</translation>
+    </message>
+    <message>
+        <source>The folder above is not there on the server.</source>
+        <translation>Nadřazená složka na serveru není.</translation>
+    </message>
+    <message>
+        <source>The number of sections is {}, but that of splits is {}.</source>
+        <translation>Počet úseků je {}, ale mezičasů je {}.</translation>
+    </message>
+    <message>
+        <source>The recording does not reach into this run.</source>
+        <translation>Záznam do této jízdy nezasahuje.</translation>
+    </message>
+    <message>
+        <source>The recording has {} further holes in this run.</source>
+        <translation>Záznam má v této jízdě další mezery: {}.</translation>
+    </message>
+    <message>
+        <source>The run has no times that the recording could be laid on.</source>
+        <translation>Jízda nemá časy, ke kterým by se záznam dal přiložit.</translation>
+    </message>
+    <message>
+        <source>The section before was not timed, so this time covers both.</source>
+        <translation>Předchozí úsek nebyl změřen, proto tento čas zahrnuje oba.</translation>
+    </message>
+    <message>
+        <source>The server answered with status {}.</source>
+        <translation>Server odpověděl stavem {}.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached safely.</source>
+        <translation>Server není bezpečně dostupný.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached.</source>
+        <translation>Server není dostupný.</translation>
+    </message>
+    <message>
+        <source>The server does not accept the user name or the password.</source>
+        <translation>Server nepřijímá uživatelské jméno nebo heslo.</translation>
+    </message>
+    <message>
+        <source>The server does not allow this, or not to this user.</source>
+        <translation>Server to nedovoluje, nebo ne tomuto uživateli.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Server neodpovídá.</translation>
+    </message>
+    <message>
+        <source>The server fell silent.</source>
+        <translation>Server se odmlčel.</translation>
+    </message>
+    <message>
+        <source>The server has no such file or folder.</source>
+        <translation>Server takový soubor ani složku nemá.</translation>
+    </message>
+    <message>
+        <source>The server is full, or your share of it.</source>
+        <translation>Server je plný, nebo je plný váš podíl.</translation>
+    </message>
+    <message>
+        <source>The server leads to another one, {}, which is not followed.</source>
+        <translation>Server odkazuje na jiný, {}, na který se nepřechází.</translation>
+    </message>
+    <message>
+        <source>The server takes no file of this size.</source>
+        <translation>Server soubor této velikosti nepřijme.</translation>
+    </message>
+    <message>
+        <source>The server was not found. Is the computer online?</source>
+        <translation>Server nebyl nalezen. Je počítač připojen?</translation>
+    </message>
+    <message>
+        <source>The session has more sets or repetitions than can be timed.</source>
+        <translation>Jednotka má víc sérií nebo opakování, než lze měřit.</translation>
+    </message>
+    <message>
+        <source>The session needs a work time.</source>
+        <translation>Jednotka potřebuje čas práce.</translation>
+    </message>
+    <message>
+        <source>The session needs at least one set and one repetition.</source>
+        <translation>Jednotka potřebuje aspoň jednu sérii a jedno opakování.</translation>
+    </message>
+    <message>
+        <source>The session takes longer than a day.</source>
+        <translation>Jednotka trvá déle než den.</translation>
+    </message>
+    <message>
+        <source>This frame lies after {} at {}.</source>
+        <translation>Tento snímek leží za: {} v čase {}.</translation>
+    </message>
+    <message>
+        <source>This frame lies before {} at {}.</source>
+        <translation>Tento snímek leží před: {} v čase {}.</translation>
+    </message>
+    <message>
+        <source>This run was not timed to the end, so this is not the time of the whole course.</source>
+        <translation>Tato jízda nebyla změřena do konce, proto to není čas celé trati.</translation>
+    </message>
+    <message>
+        <source>Where they differ, both stay.</source>
+        <translation>Kde se liší, zůstanou oba.</translation>
+    </message>
+    <message>
+        <source>a byte is no UTF-8 text</source>
+        <translation>bajt není text UTF-8</translation>
+    </message>
+    <message>
+        <source>a colon is due</source>
+        <translation>chybí dvojtečka</translation>
+    </message>
+    <message>
+        <source>a comma or ] is due</source>
+        <translation>chybí čárka nebo ]</translation>
+    </message>
+    <message>
+        <source>a comma or } is due</source>
+        <translation>chybí čárka nebo }</translation>
+    </message>
+    <message>
+        <source>a digit is due</source>
+        <translation>chybí číslice</translation>
+    </message>
+    <message>
+        <source>a key is due</source>
+        <translation>chybí klíč</translation>
+    </message>
+    <message>
+        <source>a micro split</source>
+        <translation>mikromezičas</translation>
+    </message>
+    <message>
+        <source>a number is out of range</source>
+        <translation>číslo je mimo rozsah</translation>
+    </message>
+    <message>
+        <source>a stroke of this hand</source>
+        <translation>záběr této ruky</translation>
+    </message>
+    <message>
+        <source>a text holds a control character</source>
+        <translation>text obsahuje řídicí znak</translation>
+    </message>
+    <message>
+        <source>a text holds a malformed escape</source>
+        <translation>text obsahuje chybnou escape sekvenci</translation>
+    </message>
+    <message>
+        <source>a value is due</source>
+        <translation>chybí hodnota</translation>
+    </message>
+    <message>
+        <source>an unknown issuer</source>
+        <translation>neznámý vydavatel</translation>
+    </message>
+    <message>
+        <source>bib</source>
+        <translation>startovní číslo</translation>
+    </message>
+    <message>
+        <source>five</source>
+        <translation>pět</translation>
+    </message>
+    <message>
+        <source>six</source>
+        <translation>šest</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>chybí oprávnění</translation>
+    </message>
+    <message>
+        <source>not JSON, byte {}: {}</source>
+        <translation>není JSON, bajt {}: {}</translation>
+    </message>
+    <message>
+        <source>not JSON, or cut off</source>
+        <translation>není JSON, nebo je useknutý</translation>
+    </message>
+    <message>
+        <source>not JSON: a number is malformed or out of range</source>
+        <translation>není JSON: číslo je chybné nebo mimo rozsah</translation>
+    </message>
+    <message>
+        <source>not JSON: a text holds a control character</source>
+        <translation>není JSON: text obsahuje řídicí znak</translation>
+    </message>
+    <message>
+        <source>not JSON: a text holds a malformed escape</source>
+        <translation>není JSON: text obsahuje chybnou escape sekvenci</translation>
+    </message>
+    <message>
+        <source>not JSON: a text is not closed (the file may be cut off)</source>
+        <translation>není JSON: text není uzavřen (soubor je možná useknutý)</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>pozice</translation>
+    </message>
+    <message>
+        <source>something stands behind the document</source>
+        <translation>za dokumentem ještě něco je</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>disk je jen pro čtení</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>disk je plný</translation>
+    </message>
+    <message>
+        <source>the document is nested too deeply</source>
+        <translation>dokument je příliš vnořený</translation>
+    </message>
+    <message>
+        <source>the document is too large for the memory</source>
+        <translation>dokument je pro paměť příliš velký</translation>
+    </message>
+    <message>
+        <source>the end of the stretch</source>
+        <translation>konec části</translation>
+    </message>
+    <message>
+        <source>the file became shorter while it was read</source>
+        <translation>soubor se během čtení zkrátil</translation>
+    </message>
+    <message>
+        <source>the file holds nothing but blanks</source>
+        <translation>soubor obsahuje jen mezery</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>soubor je prázdný</translation>
+    </message>
+    <message>
+        <source>the file is no text; save the list as text (CSV) first</source>
+        <translation>soubor není text; uložte seznam nejdřív jako text (CSV)</translation>
+    </message>
+    <message>
+        <source>the file is not UTF-8 text</source>
+        <translation>soubor není text UTF-8</translation>
+    </message>
+    <message>
+        <source>the file is too large for a document (over 4 GB)</source>
+        <translation>soubor je pro dokument příliš velký (přes 4 GB)</translation>
+    </message>
+    <message>
+        <source>the file is too large for a list (over 64 MB)</source>
+        <translation>soubor je pro seznam příliš velký (přes 64 MB)</translation>
+    </message>
+    <message>
+        <source>the penalty {} is below 0</source>
+        <translation>penalizace {} je menší než 0</translation>
+    </message>
+    <message>
+        <source>the penalty {} is over {}</source>
+        <translation>penalizace {} je větší než {}</translation>
+    </message>
+    <message>
+        <source>the position {} is below 0</source>
+        <translation>pozice {} je menší než 0</translation>
+    </message>
+    <message>
+        <source>the start</source>
+        <translation>start</translation>
+    </message>
+    <message>
+        <source>the start of the stretch</source>
+        <translation>začátek části</translation>
+    </message>
+    <message>
+        <source>the tag {}</source>
+        <translation>štítek {}</translation>
+    </message>
+    <message>
+        <source>the text ends too early (the file may be cut off)</source>
+        <translation>text končí příliš brzy (soubor je možná useknutý)</translation>
+    </message>
+    <message>
+        <source>the text is not valid UTF-8</source>
+        <translation>text není platné UTF-8</translation>
+    </message>
+    <message>
+        <source>the time {} is an hour or more</source>
+        <translation>čas {} je hodina nebo víc</translation>
+    </message>
+    <message>
+        <source>the time {} is below 0</source>
+        <translation>čas {} je menší než 0</translation>
+    </message>
+    <message>
+        <source>the {} &quot;{}&quot; is no number of seconds</source>
+        <translation>{} „{}“: není počet sekund</translation>
+    </message>
+    <message>
+        <source>the {} &quot;{}&quot; is no whole number</source>
+        <translation>{} „{}“: není celé číslo</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>takový soubor není</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a file</source>
+        <translation>to je složka, ne soubor</translation>
+    </message>
+    <message>
+        <source>this is no JSON object: it does not begin with {</source>
+        <translation>to není objekt JSON: nezačíná znakem {</translation>
+    </message>
+    <message>
+        <source>this is not an ordinary file</source>
+        <translation>to není obyčejný soubor</translation>
+    </message>
+    <message>
+        <source>this moment</source>
+        <translation>tento okamžik</translation>
+    </message>
+    <message>
+        <source>too many symbolic links</source>
+        <translation>příliš mnoho symbolických odkazů</translation>
+    </message>
+    <message>
+        <source>{0}: has the time of {1} (bibs {2} and {3}), and {1} has this one&apos;s. Exchange the two crews?</source>
+        <translation>{0}: má čas, který patří: {1} (startovní čísla {2} a {3}), a naopak ({1}). Vyměnit obě posádky?</translation>
+    </message>
+    <message>
+        <source>{0}: has the time of {1}, and {1} has this one&apos;s. Exchange the two crews?</source>
+        <translation>{0}: má čas, který patří: {1}, a naopak ({1}). Vyměnit obě posádky?</translation>
+    </message>
+    <message>
+        <source>{0}: the list says {1}, ours is {2}. Take {1} over?</source>
+        <translation>{0}: seznam říká {1}, náš čas je {2}. Převzít {1}?</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} fields</source>
+        <translation>
+            <numerusform>{} pole</numerusform>
+            <numerusform>{} pole</numerusform>
+            <numerusform>{} polí</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} is marked on this frame already.</source>
+        <translation>{}: na tomto snímku už je označeno.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs waiting</source>
+        <translation>
+            <numerusform>{} jízda čeká</numerusform>
+            <numerusform>{} jízdy čekají</numerusform>
+            <numerusform>{} jízd čeká</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} where {} are needed</source>
+        <translation>{}, kde je potřeba {}</translation>
+    </message>
+    <message>
+        <source>{}, the next starts in {}</source>
+        <translation>{}, další startuje za {}</translation>
+    </message>
+    <message>
+        <source>{}: is not in the list.</source>
+        <translation>{}: není v seznamu.</translation>
+    </message>
+    <message>
+        <source>{}: the list has {} s of penalties, ours has {} s. Take the official result over?</source>
+        <translation>{}: seznam má {} s penalizace, náš {} s. Převzít oficiální výsledek?</translation>
+    </message>
+    <message>
+        <source>{}: the list has {}, the film no time to the end. Take the official time over?</source>
+        <translation>{}: seznam má {}, video žádný čas do konce. Převzít oficiální čas?</translation>
+    </message>
+    <message>
+        <source>{}: the list has {}, the film {}, {} s apart. Take the official time over?</source>
+        <translation>{}: seznam má {}, video {}, rozdíl {} s. Převzít oficiální čas?</translation>
+    </message>
+    <message>
+        <source>{}: the list says {}, ours is {}.</source>
+        <translation>{}: seznam říká {}, náš čas je {}.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>

@@ -6139,6 +6139,540 @@
         <source>{}: there is none</source>
         <translation>{}: gibt es nicht</translation>
     </message>
+    <message>
+        <source>&quot;{}&quot; is no gate number.</source>
+        <translation>„{}“ ist keine Tornummer.</translation>
+    </message>
+    <message>
+        <source>A section up to here was not timed, so this is not the time from the start.</source>
+        <translation>Ein Abschnitt bis hierher wurde nicht gestoppt, daher ist dies nicht die Zeit vom Start.</translation>
+    </message>
+    <message>
+        <source>A time must be above 0. Check the marks of this run.</source>
+        <translation>Eine Zeit muss über 0 liegen. Prüfen Sie die Marken dieses Laufs.</translation>
+    </message>
+    <message>
+        <source>A time of the session is negative or no number.</source>
+        <translation>Eine Zeit der Einheit ist negativ oder keine Zahl.</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>From {:.1f} s to {:.1f} s of the run nothing is recorded.</source>
+        <translation>Von {:.1f} s bis {:.1f} s des Laufs ist nichts aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>Gate {} has this penalty already.</source>
+        <translation>Tor {} hat diese Strafe schon.</translation>
+    </message>
+    <message>
+        <source>Gate {} is missing before gate {} in section {}.</source>
+        <translation>Tor {} fehlt vor Tor {} in Abschnitt {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} is not on a course of {}.</source>
+        <translation>Tor {} liegt nicht auf einer Strecke mit {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands a second time or out of order in section {}.</source>
+        <translation>Tor {} steht ein zweites Mal oder außer der Reihe in Abschnitt {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands in no section.</source>
+        <translation>Tor {} steht in keinem Abschnitt.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands there twice.</source>
+        <translation>Tor {} steht dort zweimal.</translation>
+    </message>
+    <message>
+        <source>Get ready</source>
+        <translation>Bereit machen</translation>
+    </message>
+    <message>
+        <source>It was deleted here and changed there: it is brought again.</source>
+        <translation>Hier gelöscht und dort geändert: Es wird wieder geholt.</translation>
+    </message>
+    <message>
+        <source>It was deleted there and changed here: it is put there again.</source>
+        <translation>Dort gelöscht und hier geändert: Es wird wieder dorthin gelegt.</translation>
+    </message>
+    <message>
+        <source>Line {}, {}: there is no run of this crew.</source>
+        <translation>Zeile {}, {}: Es gibt keinen Lauf dieser Besatzung.</translation>
+    </message>
+    <message>
+        <source>No motion of the boat is attached to this run.</source>
+        <translation>An diesen Lauf ist keine Bootsbewegung angehängt.</translation>
+    </message>
+    <message>
+        <source>No run waiting</source>
+        <translation>Kein Lauf wartet</translation>
+    </message>
+    <message>
+        <source>No time was taken here.</source>
+        <translation>Hier wurde keine Zeit genommen.</translation>
+    </message>
+    <message>
+        <source>Of the first {:.1f} s of the run nothing is recorded.</source>
+        <translation>Von den ersten {:.1f} s des Laufs ist nichts aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>Of the last {:.1f} s of the run nothing is recorded.</source>
+        <translation>Von den letzten {:.1f} s des Laufs ist nichts aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>Rest</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Rest between sets</source>
+        <translation>Pause zwischen Sätzen</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Belastung</translation>
+    </message>
+    <message>
+        <source>Somebody changed it on the server meanwhile.</source>
+        <translation>Inzwischen hat es jemand auf dem Server geändert.</translation>
+    </message>
+    <message>
+        <source>Somebody has locked it on the server.</source>
+        <translation>Jemand hat es auf dem Server gesperrt.</translation>
+    </message>
+    <message>
+        <source>Start and end of the stretch are not both marked in the run of {}.</source>
+        <translation>Anfang und Ende des Stücks sind im Lauf von {} nicht beide markiert.</translation>
+    </message>
+    <message>
+        <source>Start and end of the stretch are not both marked in this run.</source>
+        <translation>Anfang und Ende des Stücks sind in diesem Lauf nicht beide markiert.</translation>
+    </message>
+    <message>
+        <source>The end of the stretch is not marked after its start in the run of {}.</source>
+        <translation>Das Ende des Stücks ist im Lauf von {} nicht nach seinem Anfang markiert.</translation>
+    </message>
+    <message>
+        <source>The end of the stretch is not marked after its start in this run.</source>
+        <translation>Das Ende des Stücks ist in diesem Lauf nicht nach seinem Anfang markiert.</translation>
+    </message>
+    <message>
+        <source>The answer of the server is longer than it can be.</source>
+        <translation>Die Antwort des Servers ist länger, als sie sein kann.</translation>
+    </message>
+    <message>
+        <source>The attached motion is not as long as the run, so that its moments cannot be told.</source>
+        <translation>Die angehängte Bewegung ist nicht so lang wie der Lauf, sodass ihre Zeitpunkte unbekannt sind.</translation>
+    </message>
+    <message>
+        <source>The certificate of the server is not trusted, so that nothing was sent. It was issued by “{}”: {}.</source>
+        <translation>Dem Zertifikat des Servers wird nicht vertraut, daher wurde nichts gesendet. Ausgestellt hat es „{}“: {}.</translation>
+    </message>
+    <message>
+        <source>The connection broke off.</source>
+        <translation>Die Verbindung brach ab.</translation>
+    </message>
+    <message>
+        <source>The exit is marked before the entrance.</source>
+        <translation>Die Ausfahrt ist vor der Einfahrt markiert.</translation>
+    </message>
+    <message>
+        <source>The exit is marked before the middle.</source>
+        <translation>Die Ausfahrt ist vor der Mitte markiert.</translation>
+    </message>
+    <message>
+        <source>The middle is marked before the entrance.</source>
+        <translation>Die Mitte ist vor der Einfahrt markiert.</translation>
+    </message>
+    <message>
+        <source>The film lies on {}, which is not ticked.</source>
+        <translation>Der Film liegt auf {}, das nicht abgehakt ist.</translation>
+    </message>
+    <message>
+        <source>The folder above is not there on the server.</source>
+        <translation>Der Ordner darüber fehlt auf dem Server.</translation>
+    </message>
+    <message>
+        <source>The number of sections is {}, but that of splits is {}.</source>
+        <translation>Es sind {} Abschnitte, aber {} Zwischenzeiten.</translation>
+    </message>
+    <message>
+        <source>The recording does not reach into this run.</source>
+        <translation>Die Aufzeichnung reicht nicht in diesen Lauf.</translation>
+    </message>
+    <message>
+        <source>The recording has {} further holes in this run.</source>
+        <translation>Die Aufzeichnung hat {} weitere Lücken in diesem Lauf.</translation>
+    </message>
+    <message>
+        <source>The run has no times that the recording could be laid on.</source>
+        <translation>Der Lauf hat keine Zeiten, an die die Aufzeichnung gelegt werden könnte.</translation>
+    </message>
+    <message>
+        <source>The section before was not timed, so this time covers both.</source>
+        <translation>Der Abschnitt davor wurde nicht gestoppt, daher umfasst diese Zeit beide.</translation>
+    </message>
+    <message>
+        <source>The server answered with status {}.</source>
+        <translation>Der Server antwortete mit Status {}.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached safely.</source>
+        <translation>Der Server ist nicht sicher erreichbar.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached.</source>
+        <translation>Der Server ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The server does not accept the user name or the password.</source>
+        <translation>Der Server nimmt Benutzername oder Passwort nicht an.</translation>
+    </message>
+    <message>
+        <source>The server does not allow this, or not to this user.</source>
+        <translation>Der Server erlaubt das nicht, oder nicht diesem Benutzer.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Der Server antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The server fell silent.</source>
+        <translation>Der Server ist verstummt.</translation>
+    </message>
+    <message>
+        <source>The server has no such file or folder.</source>
+        <translation>Der Server hat keine solche Datei und keinen solchen Ordner.</translation>
+    </message>
+    <message>
+        <source>The server is full, or your share of it.</source>
+        <translation>Der Server ist voll, oder Ihr Anteil daran.</translation>
+    </message>
+    <message>
+        <source>The server leads to another one, {}, which is not followed.</source>
+        <translation>Der Server verweist auf einen anderen, {}, dem nicht gefolgt wird.</translation>
+    </message>
+    <message>
+        <source>The server takes no file of this size.</source>
+        <translation>Der Server nimmt keine Datei dieser Größe.</translation>
+    </message>
+    <message>
+        <source>The server was not found. Is the computer online?</source>
+        <translation>Der Server wurde nicht gefunden. Ist der Computer online?</translation>
+    </message>
+    <message>
+        <source>The session has more sets or repetitions than can be timed.</source>
+        <translation>Die Einheit hat mehr Sätze oder Wiederholungen, als gestoppt werden können.</translation>
+    </message>
+    <message>
+        <source>The session needs a work time.</source>
+        <translation>Die Einheit braucht eine Belastungszeit.</translation>
+    </message>
+    <message>
+        <source>The session needs at least one set and one repetition.</source>
+        <translation>Die Einheit braucht mindestens einen Satz und eine Wiederholung.</translation>
+    </message>
+    <message>
+        <source>The session takes longer than a day.</source>
+        <translation>Die Einheit dauert länger als einen Tag.</translation>
+    </message>
+    <message>
+        <source>This frame lies after {} at {}.</source>
+        <translation>Dieses Bild liegt hinter: {} bei {}.</translation>
+    </message>
+    <message>
+        <source>This frame lies before {} at {}.</source>
+        <translation>Dieses Bild liegt vor: {} bei {}.</translation>
+    </message>
+    <message>
+        <source>This run was not timed to the end, so this is not the time of the whole course.</source>
+        <translation>Dieser Lauf wurde nicht bis zum Ende gestoppt, daher ist dies nicht die Zeit der ganzen Strecke.</translation>
+    </message>
+    <message>
+        <source>Where they differ, both stay.</source>
+        <translation>Wo sie sich unterscheiden, bleiben beide.</translation>
+    </message>
+    <message>
+        <source>a byte is no UTF-8 text</source>
+        <translation>ein Byte ist kein UTF-8-Text</translation>
+    </message>
+    <message>
+        <source>a colon is due</source>
+        <translation>ein Doppelpunkt fehlt</translation>
+    </message>
+    <message>
+        <source>a comma or ] is due</source>
+        <translation>ein Komma oder ] fehlt</translation>
+    </message>
+    <message>
+        <source>a comma or } is due</source>
+        <translation>ein Komma oder } fehlt</translation>
+    </message>
+    <message>
+        <source>a digit is due</source>
+        <translation>eine Ziffer fehlt</translation>
+    </message>
+    <message>
+        <source>a key is due</source>
+        <translation>ein Schlüssel fehlt</translation>
+    </message>
+    <message>
+        <source>a micro split</source>
+        <translation>eine Mikrozeit</translation>
+    </message>
+    <message>
+        <source>a number is out of range</source>
+        <translation>eine Zahl liegt außerhalb des Bereichs</translation>
+    </message>
+    <message>
+        <source>a stroke of this hand</source>
+        <translation>ein Schlag dieser Hand</translation>
+    </message>
+    <message>
+        <source>a text holds a control character</source>
+        <translation>ein Text enthält ein Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>a text holds a malformed escape</source>
+        <translation>ein Text enthält eine fehlerhafte Maskierung</translation>
+    </message>
+    <message>
+        <source>a value is due</source>
+        <translation>ein Wert fehlt</translation>
+    </message>
+    <message>
+        <source>an unknown issuer</source>
+        <translation>ein unbekannter Aussteller</translation>
+    </message>
+    <message>
+        <source>bib</source>
+        <translation>Startnummer</translation>
+    </message>
+    <message>
+        <source>five</source>
+        <translation>fünf</translation>
+    </message>
+    <message>
+        <source>six</source>
+        <translation>sechs</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>not JSON, byte {}: {}</source>
+        <translation>kein JSON, Byte {}: {}</translation>
+    </message>
+    <message>
+        <source>not JSON, or cut off</source>
+        <translation>kein JSON oder abgeschnitten</translation>
+    </message>
+    <message>
+        <source>not JSON: a number is malformed or out of range</source>
+        <translation>kein JSON: eine Zahl ist fehlerhaft oder außerhalb des Bereichs</translation>
+    </message>
+    <message>
+        <source>not JSON: a text holds a control character</source>
+        <translation>kein JSON: ein Text enthält ein Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>not JSON: a text holds a malformed escape</source>
+        <translation>kein JSON: ein Text enthält eine fehlerhafte Maskierung</translation>
+    </message>
+    <message>
+        <source>not JSON: a text is not closed (the file may be cut off)</source>
+        <translation>kein JSON: ein Text ist nicht geschlossen (die Datei ist vielleicht abgeschnitten)</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>something stands behind the document</source>
+        <translation>hinter dem Dokument steht noch etwas</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>der Datenträger kann nur gelesen werden</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>the document is nested too deeply</source>
+        <translation>das Dokument ist zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>the document is too large for the memory</source>
+        <translation>das Dokument ist zu groß für den Speicher</translation>
+    </message>
+    <message>
+        <source>the end of the stretch</source>
+        <translation>das Ende des Stücks</translation>
+    </message>
+    <message>
+        <source>the file became shorter while it was read</source>
+        <translation>die Datei wurde beim Lesen kürzer</translation>
+    </message>
+    <message>
+        <source>the file holds nothing but blanks</source>
+        <translation>die Datei enthält nur Leerzeichen</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>the file is no text; save the list as text (CSV) first</source>
+        <translation>die Datei ist kein Text; speichern Sie die Liste zuerst als Text (CSV)</translation>
+    </message>
+    <message>
+        <source>the file is not UTF-8 text</source>
+        <translation>die Datei ist kein UTF-8-Text</translation>
+    </message>
+    <message>
+        <source>the file is too large for a document (over 4 GB)</source>
+        <translation>die Datei ist zu groß für ein Dokument (über 4 GB)</translation>
+    </message>
+    <message>
+        <source>the file is too large for a list (over 64 MB)</source>
+        <translation>die Datei ist zu groß für eine Liste (über 64 MB)</translation>
+    </message>
+    <message>
+        <source>the penalty {} is below 0</source>
+        <translation>die Strafe {} ist unter 0</translation>
+    </message>
+    <message>
+        <source>the penalty {} is over {}</source>
+        <translation>die Strafe {} ist über {}</translation>
+    </message>
+    <message>
+        <source>the position {} is below 0</source>
+        <translation>die Position {} ist unter 0</translation>
+    </message>
+    <message>
+        <source>the start</source>
+        <translation>der Start</translation>
+    </message>
+    <message>
+        <source>the start of the stretch</source>
+        <translation>der Anfang des Stücks</translation>
+    </message>
+    <message>
+        <source>the tag {}</source>
+        <translation>die Markierung {}</translation>
+    </message>
+    <message>
+        <source>the text ends too early (the file may be cut off)</source>
+        <translation>der Text endet zu früh (die Datei ist vielleicht abgeschnitten)</translation>
+    </message>
+    <message>
+        <source>the text is not valid UTF-8</source>
+        <translation>der Text ist kein gültiges UTF-8</translation>
+    </message>
+    <message>
+        <source>the time {} is an hour or more</source>
+        <translation>die Zeit {} ist eine Stunde oder mehr</translation>
+    </message>
+    <message>
+        <source>the time {} is below 0</source>
+        <translation>die Zeit {} ist unter 0</translation>
+    </message>
+    <message>
+        <source>the {} &quot;{}&quot; is no number of seconds</source>
+        <translation>{} „{}“: keine Sekundenzahl</translation>
+    </message>
+    <message>
+        <source>the {} &quot;{}&quot; is no whole number</source>
+        <translation>{} „{}“: keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>die Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a file</source>
+        <translation>das ist ein Ordner, keine Datei</translation>
+    </message>
+    <message>
+        <source>this is no JSON object: it does not begin with {</source>
+        <translation>das ist kein JSON-Objekt: es beginnt nicht mit {</translation>
+    </message>
+    <message>
+        <source>this is not an ordinary file</source>
+        <translation>das ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>this moment</source>
+        <translation>dieser Moment</translation>
+    </message>
+    <message>
+        <source>too many symbolic links</source>
+        <translation>zu viele symbolische Verknüpfungen</translation>
+    </message>
+    <message>
+        <source>{0}: has the time of {1} (bibs {2} and {3}), and {1} has this one&apos;s. Exchange the two crews?</source>
+        <translation>{0}: hat die Zeit von {1} (Startnummern {2} und {3}), und {1} hat die andere. Die beiden Besatzungen tauschen?</translation>
+    </message>
+    <message>
+        <source>{0}: has the time of {1}, and {1} has this one&apos;s. Exchange the two crews?</source>
+        <translation>{0}: hat die Zeit von {1}, und {1} hat die andere. Die beiden Besatzungen tauschen?</translation>
+    </message>
+    <message>
+        <source>{0}: the list says {1}, ours is {2}. Take {1} over?</source>
+        <translation>{0}: Die Liste sagt {1}, unsere Zeit ist {2}. {1} übernehmen?</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} fields</source>
+        <translation>
+            <numerusform>{} Feld</numerusform>
+            <numerusform>{} Felder</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} is marked on this frame already.</source>
+        <translation>{} ist auf diesem Bild schon markiert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs waiting</source>
+        <translation>
+            <numerusform>{} Lauf wartet</numerusform>
+            <numerusform>{} Läufe warten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} where {} are needed</source>
+        <translation>{}, wo {} nötig sind</translation>
+    </message>
+    <message>
+        <source>{}, the next starts in {}</source>
+        <translation>{}, der nächste startet in {}</translation>
+    </message>
+    <message>
+        <source>{}: is not in the list.</source>
+        <translation>{}: steht nicht in der Liste.</translation>
+    </message>
+    <message>
+        <source>{}: the list has {} s of penalties, ours has {} s. Take the official result over?</source>
+        <translation>{}: Die Liste hat {} s Strafe, unsere hat {} s. Das offizielle Ergebnis übernehmen?</translation>
+    </message>
+    <message>
+        <source>{}: the list has {}, the film no time to the end. Take the official time over?</source>
+        <translation>{}: Die Liste hat {}, der Film keine Zeit bis zum Ende. Die offizielle Zeit übernehmen?</translation>
+    </message>
+    <message>
+        <source>{}: the list has {}, the film {}, {} s apart. Take the official time over?</source>
+        <translation>{}: Die Liste hat {}, der Film {}, {} s auseinander. Die offizielle Zeit übernehmen?</translation>
+    </message>
+    <message>
+        <source>{}: the list says {}, ours is {}.</source>
+        <translation>{}: Die Liste sagt {}, unsere Zeit ist {}.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>

@@ -6139,6 +6139,540 @@
         <source>{}: there is none</source>
         <translation>{}: no hay</translation>
     </message>
+    <message>
+        <source>&quot;{}&quot; is no gate number.</source>
+        <translation>«{}» no es un número de puerta.</translation>
+    </message>
+    <message>
+        <source>A section up to here was not timed, so this is not the time from the start.</source>
+        <translation>Un tramo anterior no se cronometró, así que este no es el tiempo desde la salida.</translation>
+    </message>
+    <message>
+        <source>A time must be above 0. Check the marks of this run.</source>
+        <translation>Un tiempo debe ser mayor que 0. Revisa las marcas de esta manga.</translation>
+    </message>
+    <message>
+        <source>A time of the session is negative or no number.</source>
+        <translation>Un tiempo de la sesión es negativo o no es un número.</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Terminado</translation>
+    </message>
+    <message>
+        <source>From {:.1f} s to {:.1f} s of the run nothing is recorded.</source>
+        <translation>De {:.1f} s a {:.1f} s de la manga no hay nada grabado.</translation>
+    </message>
+    <message>
+        <source>Gate {} has this penalty already.</source>
+        <translation>La puerta {} ya tiene esta penalización.</translation>
+    </message>
+    <message>
+        <source>Gate {} is missing before gate {} in section {}.</source>
+        <translation>Falta la puerta {} antes de la puerta {} en el tramo {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} is not on a course of {}.</source>
+        <translation>La puerta {} no está en un recorrido de {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands a second time or out of order in section {}.</source>
+        <translation>La puerta {} está por segunda vez o fuera de orden en el tramo {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands in no section.</source>
+        <translation>La puerta {} no está en ningún tramo.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands there twice.</source>
+        <translation>La puerta {} está ahí dos veces.</translation>
+    </message>
+    <message>
+        <source>Get ready</source>
+        <translation>Prepárate</translation>
+    </message>
+    <message>
+        <source>It was deleted here and changed there: it is brought again.</source>
+        <translation>Se borró aquí y se cambió allí: se trae de nuevo.</translation>
+    </message>
+    <message>
+        <source>It was deleted there and changed here: it is put there again.</source>
+        <translation>Se borró allí y se cambió aquí: se pone allí de nuevo.</translation>
+    </message>
+    <message>
+        <source>Line {}, {}: there is no run of this crew.</source>
+        <translation>Línea {}, {}: no hay ninguna manga de esta tripulación.</translation>
+    </message>
+    <message>
+        <source>No motion of the boat is attached to this run.</source>
+        <translation>Esta manga no tiene movimiento del barco adjunto.</translation>
+    </message>
+    <message>
+        <source>No run waiting</source>
+        <translation>Ninguna manga en espera</translation>
+    </message>
+    <message>
+        <source>No time was taken here.</source>
+        <translation>Aquí no se tomó ningún tiempo.</translation>
+    </message>
+    <message>
+        <source>Of the first {:.1f} s of the run nothing is recorded.</source>
+        <translation>De los primeros {:.1f} s de la manga no hay nada grabado.</translation>
+    </message>
+    <message>
+        <source>Of the last {:.1f} s of the run nothing is recorded.</source>
+        <translation>De los últimos {:.1f} s de la manga no hay nada grabado.</translation>
+    </message>
+    <message>
+        <source>Rest</source>
+        <translation>Descanso</translation>
+    </message>
+    <message>
+        <source>Rest between sets</source>
+        <translation>Descanso entre series</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Trabajo</translation>
+    </message>
+    <message>
+        <source>Somebody changed it on the server meanwhile.</source>
+        <translation>Mientras tanto alguien lo cambió en el servidor.</translation>
+    </message>
+    <message>
+        <source>Somebody has locked it on the server.</source>
+        <translation>Alguien lo ha bloqueado en el servidor.</translation>
+    </message>
+    <message>
+        <source>Start and end of the stretch are not both marked in the run of {}.</source>
+        <translation>El inicio y el final del trecho no están ambos marcados en la manga de {}.</translation>
+    </message>
+    <message>
+        <source>Start and end of the stretch are not both marked in this run.</source>
+        <translation>El inicio y el final del trecho no están ambos marcados en esta manga.</translation>
+    </message>
+    <message>
+        <source>The end of the stretch is not marked after its start in the run of {}.</source>
+        <translation>El final del trecho no está marcado después de su inicio en la manga de {}.</translation>
+    </message>
+    <message>
+        <source>The end of the stretch is not marked after its start in this run.</source>
+        <translation>El final del trecho no está marcado después de su inicio en esta manga.</translation>
+    </message>
+    <message>
+        <source>The answer of the server is longer than it can be.</source>
+        <translation>La respuesta del servidor es más larga de lo que puede ser.</translation>
+    </message>
+    <message>
+        <source>The attached motion is not as long as the run, so that its moments cannot be told.</source>
+        <translation>El movimiento adjunto no dura lo mismo que la manga, así que no se conocen sus momentos.</translation>
+    </message>
+    <message>
+        <source>The certificate of the server is not trusted, so that nothing was sent. It was issued by “{}”: {}.</source>
+        <translation>El certificado del servidor no es de confianza, así que no se envió nada. Lo emitió «{}»: {}.</translation>
+    </message>
+    <message>
+        <source>The connection broke off.</source>
+        <translation>La conexión se cortó.</translation>
+    </message>
+    <message>
+        <source>The exit is marked before the entrance.</source>
+        <translation>La salida está marcada antes que la entrada.</translation>
+    </message>
+    <message>
+        <source>The exit is marked before the middle.</source>
+        <translation>La salida está marcada antes que el centro.</translation>
+    </message>
+    <message>
+        <source>The middle is marked before the entrance.</source>
+        <translation>El centro está marcado antes que la entrada.</translation>
+    </message>
+    <message>
+        <source>The film lies on {}, which is not ticked.</source>
+        <translation>El vídeo está en {}, que no está marcado.</translation>
+    </message>
+    <message>
+        <source>The folder above is not there on the server.</source>
+        <translation>La carpeta superior no está en el servidor.</translation>
+    </message>
+    <message>
+        <source>The number of sections is {}, but that of splits is {}.</source>
+        <translation>El número de tramos es {}, pero el de parciales es {}.</translation>
+    </message>
+    <message>
+        <source>The recording does not reach into this run.</source>
+        <translation>La grabación no llega a esta manga.</translation>
+    </message>
+    <message>
+        <source>The recording has {} further holes in this run.</source>
+        <translation>La grabación tiene {} huecos más en esta manga.</translation>
+    </message>
+    <message>
+        <source>The run has no times that the recording could be laid on.</source>
+        <translation>La manga no tiene tiempos sobre los que colocar la grabación.</translation>
+    </message>
+    <message>
+        <source>The section before was not timed, so this time covers both.</source>
+        <translation>El tramo anterior no se cronometró, así que este tiempo abarca los dos.</translation>
+    </message>
+    <message>
+        <source>The server answered with status {}.</source>
+        <translation>El servidor respondió con el estado {}.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached safely.</source>
+        <translation>No se puede llegar al servidor de forma segura.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached.</source>
+        <translation>No se puede llegar al servidor.</translation>
+    </message>
+    <message>
+        <source>The server does not accept the user name or the password.</source>
+        <translation>El servidor no acepta el usuario o la contraseña.</translation>
+    </message>
+    <message>
+        <source>The server does not allow this, or not to this user.</source>
+        <translation>El servidor no lo permite, o no a este usuario.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>El servidor no responde.</translation>
+    </message>
+    <message>
+        <source>The server fell silent.</source>
+        <translation>El servidor dejó de responder.</translation>
+    </message>
+    <message>
+        <source>The server has no such file or folder.</source>
+        <translation>El servidor no tiene ese archivo o carpeta.</translation>
+    </message>
+    <message>
+        <source>The server is full, or your share of it.</source>
+        <translation>El servidor está lleno, o tu parte de él.</translation>
+    </message>
+    <message>
+        <source>The server leads to another one, {}, which is not followed.</source>
+        <translation>El servidor lleva a otro, {}, al que no se va.</translation>
+    </message>
+    <message>
+        <source>The server takes no file of this size.</source>
+        <translation>El servidor no acepta un archivo de este tamaño.</translation>
+    </message>
+    <message>
+        <source>The server was not found. Is the computer online?</source>
+        <translation>No se encontró el servidor. ¿Tiene conexión el ordenador?</translation>
+    </message>
+    <message>
+        <source>The session has more sets or repetitions than can be timed.</source>
+        <translation>La sesión tiene más series o repeticiones de las que se pueden cronometrar.</translation>
+    </message>
+    <message>
+        <source>The session needs a work time.</source>
+        <translation>La sesión necesita un tiempo de trabajo.</translation>
+    </message>
+    <message>
+        <source>The session needs at least one set and one repetition.</source>
+        <translation>La sesión necesita al menos una serie y una repetición.</translation>
+    </message>
+    <message>
+        <source>The session takes longer than a day.</source>
+        <translation>La sesión dura más de un día.</translation>
+    </message>
+    <message>
+        <source>This frame lies after {} at {}.</source>
+        <translation>Este fotograma está después de {} en {}.</translation>
+    </message>
+    <message>
+        <source>This frame lies before {} at {}.</source>
+        <translation>Este fotograma está antes de {} en {}.</translation>
+    </message>
+    <message>
+        <source>This run was not timed to the end, so this is not the time of the whole course.</source>
+        <translation>Esta manga no se cronometró hasta el final, así que este no es el tiempo de todo el recorrido.</translation>
+    </message>
+    <message>
+        <source>Where they differ, both stay.</source>
+        <translation>Si difieren, se quedan ambos.</translation>
+    </message>
+    <message>
+        <source>a byte is no UTF-8 text</source>
+        <translation>un byte no es texto UTF-8</translation>
+    </message>
+    <message>
+        <source>a colon is due</source>
+        <translation>falta un signo de dos puntos</translation>
+    </message>
+    <message>
+        <source>a comma or ] is due</source>
+        <translation>falta una coma o ]</translation>
+    </message>
+    <message>
+        <source>a comma or } is due</source>
+        <translation>falta una coma o }</translation>
+    </message>
+    <message>
+        <source>a digit is due</source>
+        <translation>falta una cifra</translation>
+    </message>
+    <message>
+        <source>a key is due</source>
+        <translation>falta una clave</translation>
+    </message>
+    <message>
+        <source>a micro split</source>
+        <translation>un micro parcial</translation>
+    </message>
+    <message>
+        <source>a number is out of range</source>
+        <translation>un número está fuera de rango</translation>
+    </message>
+    <message>
+        <source>a stroke of this hand</source>
+        <translation>una palada de esta mano</translation>
+    </message>
+    <message>
+        <source>a text holds a control character</source>
+        <translation>un texto contiene un carácter de control</translation>
+    </message>
+    <message>
+        <source>a text holds a malformed escape</source>
+        <translation>un texto contiene un escape mal formado</translation>
+    </message>
+    <message>
+        <source>a value is due</source>
+        <translation>falta un valor</translation>
+    </message>
+    <message>
+        <source>an unknown issuer</source>
+        <translation>un emisor desconocido</translation>
+    </message>
+    <message>
+        <source>bib</source>
+        <translation>dorsal</translation>
+    </message>
+    <message>
+        <source>five</source>
+        <translation>cinco</translation>
+    </message>
+    <message>
+        <source>six</source>
+        <translation>seis</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>sin permiso</translation>
+    </message>
+    <message>
+        <source>not JSON, byte {}: {}</source>
+        <translation>no es JSON, byte {}: {}</translation>
+    </message>
+    <message>
+        <source>not JSON, or cut off</source>
+        <translation>no es JSON, o está cortado</translation>
+    </message>
+    <message>
+        <source>not JSON: a number is malformed or out of range</source>
+        <translation>no es JSON: un número está mal formado o fuera de rango</translation>
+    </message>
+    <message>
+        <source>not JSON: a text holds a control character</source>
+        <translation>no es JSON: un texto contiene un carácter de control</translation>
+    </message>
+    <message>
+        <source>not JSON: a text holds a malformed escape</source>
+        <translation>no es JSON: un texto contiene un escape mal formado</translation>
+    </message>
+    <message>
+        <source>not JSON: a text is not closed (the file may be cut off)</source>
+        <translation>no es JSON: un texto no está cerrado (el archivo puede estar cortado)</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>posición</translation>
+    </message>
+    <message>
+        <source>something stands behind the document</source>
+        <translation>hay algo detrás del documento</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>el disco es de solo lectura</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>el disco está lleno</translation>
+    </message>
+    <message>
+        <source>the document is nested too deeply</source>
+        <translation>el documento está anidado demasiado profundo</translation>
+    </message>
+    <message>
+        <source>the document is too large for the memory</source>
+        <translation>el documento es demasiado grande para la memoria</translation>
+    </message>
+    <message>
+        <source>the end of the stretch</source>
+        <translation>el final del trecho</translation>
+    </message>
+    <message>
+        <source>the file became shorter while it was read</source>
+        <translation>el archivo se acortó mientras se leía</translation>
+    </message>
+    <message>
+        <source>the file holds nothing but blanks</source>
+        <translation>el archivo solo contiene espacios</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>el archivo está vacío</translation>
+    </message>
+    <message>
+        <source>the file is no text; save the list as text (CSV) first</source>
+        <translation>el archivo no es texto; guarda antes la lista como texto (CSV)</translation>
+    </message>
+    <message>
+        <source>the file is not UTF-8 text</source>
+        <translation>el archivo no es texto UTF-8</translation>
+    </message>
+    <message>
+        <source>the file is too large for a document (over 4 GB)</source>
+        <translation>el archivo es demasiado grande para un documento (más de 4 GB)</translation>
+    </message>
+    <message>
+        <source>the file is too large for a list (over 64 MB)</source>
+        <translation>el archivo es demasiado grande para una lista (más de 64 MB)</translation>
+    </message>
+    <message>
+        <source>the penalty {} is below 0</source>
+        <translation>la penalización {} es menor que 0</translation>
+    </message>
+    <message>
+        <source>the penalty {} is over {}</source>
+        <translation>la penalización {} es mayor que {}</translation>
+    </message>
+    <message>
+        <source>the position {} is below 0</source>
+        <translation>la posición {} es menor que 0</translation>
+    </message>
+    <message>
+        <source>the start</source>
+        <translation>la salida</translation>
+    </message>
+    <message>
+        <source>the start of the stretch</source>
+        <translation>el inicio del trecho</translation>
+    </message>
+    <message>
+        <source>the tag {}</source>
+        <translation>la etiqueta {}</translation>
+    </message>
+    <message>
+        <source>the text ends too early (the file may be cut off)</source>
+        <translation>el texto termina demasiado pronto (el archivo puede estar cortado)</translation>
+    </message>
+    <message>
+        <source>the text is not valid UTF-8</source>
+        <translation>el texto no es UTF-8 válido</translation>
+    </message>
+    <message>
+        <source>the time {} is an hour or more</source>
+        <translation>el tiempo {} es de una hora o más</translation>
+    </message>
+    <message>
+        <source>the time {} is below 0</source>
+        <translation>el tiempo {} es menor que 0</translation>
+    </message>
+    <message>
+        <source>the {} &quot;{}&quot; is no number of seconds</source>
+        <translation>{} «{}»: no es un número de segundos</translation>
+    </message>
+    <message>
+        <source>the {} &quot;{}&quot; is no whole number</source>
+        <translation>{} «{}»: no es un número entero</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>no existe ese archivo</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a file</source>
+        <translation>es una carpeta, no un archivo</translation>
+    </message>
+    <message>
+        <source>this is no JSON object: it does not begin with {</source>
+        <translation>no es un objeto JSON: no empieza por {</translation>
+    </message>
+    <message>
+        <source>this is not an ordinary file</source>
+        <translation>no es un archivo corriente</translation>
+    </message>
+    <message>
+        <source>this moment</source>
+        <translation>este momento</translation>
+    </message>
+    <message>
+        <source>too many symbolic links</source>
+        <translation>demasiados enlaces simbólicos</translation>
+    </message>
+    <message>
+        <source>{0}: has the time of {1} (bibs {2} and {3}), and {1} has this one&apos;s. Exchange the two crews?</source>
+        <translation>{0}: tiene el tiempo de {1} (dorsales {2} y {3}), y {1} tiene el suyo. ¿Intercambiar las dos tripulaciones?</translation>
+    </message>
+    <message>
+        <source>{0}: has the time of {1}, and {1} has this one&apos;s. Exchange the two crews?</source>
+        <translation>{0}: tiene el tiempo de {1}, y {1} tiene el suyo. ¿Intercambiar las dos tripulaciones?</translation>
+    </message>
+    <message>
+        <source>{0}: the list says {1}, ours is {2}. Take {1} over?</source>
+        <translation>{0}: la lista dice {1}, el nuestro es {2}. ¿Incorporar {1}?</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} fields</source>
+        <translation>
+            <numerusform>{} campo</numerusform>
+            <numerusform>{} campos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} is marked on this frame already.</source>
+        <translation>{} ya está marcado en este fotograma.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs waiting</source>
+        <translation>
+            <numerusform>{} manga en espera</numerusform>
+            <numerusform>{} mangas en espera</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} where {} are needed</source>
+        <translation>{} donde hacen falta {}</translation>
+    </message>
+    <message>
+        <source>{}, the next starts in {}</source>
+        <translation>{}, la siguiente sale en {}</translation>
+    </message>
+    <message>
+        <source>{}: is not in the list.</source>
+        <translation>{}: no está en la lista.</translation>
+    </message>
+    <message>
+        <source>{}: the list has {} s of penalties, ours has {} s. Take the official result over?</source>
+        <translation>{}: la lista tiene {} s de penalización, la nuestra {} s. ¿Incorporar el resultado oficial?</translation>
+    </message>
+    <message>
+        <source>{}: the list has {}, the film no time to the end. Take the official time over?</source>
+        <translation>{}: la lista tiene {}, el vídeo ningún tiempo hasta el final. ¿Incorporar el tiempo oficial?</translation>
+    </message>
+    <message>
+        <source>{}: the list has {}, the film {}, {} s apart. Take the official time over?</source>
+        <translation>{}: la lista tiene {}, el vídeo {}, con {} s de diferencia. ¿Incorporar el tiempo oficial?</translation>
+    </message>
+    <message>
+        <source>{}: the list says {}, ours is {}.</source>
+        <translation>{}: la lista dice {}, el nuestro es {}.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>

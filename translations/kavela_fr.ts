@@ -6139,6 +6139,540 @@
         <source>{}: there is none</source>
         <translation>{} : il n’y en a pas</translation>
     </message>
+    <message>
+        <source>&quot;{}&quot; is no gate number.</source>
+        <translation>« {} » n’est pas un numéro de porte.</translation>
+    </message>
+    <message>
+        <source>A section up to here was not timed, so this is not the time from the start.</source>
+        <translation>Un secteur jusqu’ici n’a pas été chronométré : ce n’est donc pas le temps depuis le départ.</translation>
+    </message>
+    <message>
+        <source>A time must be above 0. Check the marks of this run.</source>
+        <translation>Un temps doit être supérieur à 0. Vérifiez les marques de cette manche.</translation>
+    </message>
+    <message>
+        <source>A time of the session is negative or no number.</source>
+        <translation>Un temps de la séance est négatif ou n’est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>From {:.1f} s to {:.1f} s of the run nothing is recorded.</source>
+        <translation>De {:.1f} s à {:.1f} s de la manche, rien n’est enregistré.</translation>
+    </message>
+    <message>
+        <source>Gate {} has this penalty already.</source>
+        <translation>La porte {} a déjà cette pénalité.</translation>
+    </message>
+    <message>
+        <source>Gate {} is missing before gate {} in section {}.</source>
+        <translation>La porte {} manque avant la porte {} dans le secteur {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} is not on a course of {}.</source>
+        <translation>La porte {} n’est pas sur un parcours de {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands a second time or out of order in section {}.</source>
+        <translation>La porte {} figure une seconde fois ou dans le désordre dans le secteur {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands in no section.</source>
+        <translation>La porte {} ne figure dans aucun secteur.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands there twice.</source>
+        <translation>La porte {} y figure deux fois.</translation>
+    </message>
+    <message>
+        <source>Get ready</source>
+        <translation>Préparez-vous</translation>
+    </message>
+    <message>
+        <source>It was deleted here and changed there: it is brought again.</source>
+        <translation>Supprimé ici et modifié là-bas : il est repris.</translation>
+    </message>
+    <message>
+        <source>It was deleted there and changed here: it is put there again.</source>
+        <translation>Supprimé là-bas et modifié ici : il y est remis.</translation>
+    </message>
+    <message>
+        <source>Line {}, {}: there is no run of this crew.</source>
+        <translation>Ligne {}, {} : il n’y a aucune manche de cet équipage.</translation>
+    </message>
+    <message>
+        <source>No motion of the boat is attached to this run.</source>
+        <translation>Aucun mouvement du bateau n’est joint à cette manche.</translation>
+    </message>
+    <message>
+        <source>No run waiting</source>
+        <translation>Aucune manche en attente</translation>
+    </message>
+    <message>
+        <source>No time was taken here.</source>
+        <translation>Aucun temps n’a été pris ici.</translation>
+    </message>
+    <message>
+        <source>Of the first {:.1f} s of the run nothing is recorded.</source>
+        <translation>Rien n’est enregistré des premières {:.1f} s de la manche.</translation>
+    </message>
+    <message>
+        <source>Of the last {:.1f} s of the run nothing is recorded.</source>
+        <translation>Rien n’est enregistré des dernières {:.1f} s de la manche.</translation>
+    </message>
+    <message>
+        <source>Rest</source>
+        <translation>Récupération</translation>
+    </message>
+    <message>
+        <source>Rest between sets</source>
+        <translation>Récupération entre les séries</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Effort</translation>
+    </message>
+    <message>
+        <source>Somebody changed it on the server meanwhile.</source>
+        <translation>Quelqu’un l’a modifié entre-temps sur le serveur.</translation>
+    </message>
+    <message>
+        <source>Somebody has locked it on the server.</source>
+        <translation>Quelqu’un l’a verrouillé sur le serveur.</translation>
+    </message>
+    <message>
+        <source>Start and end of the stretch are not both marked in the run of {}.</source>
+        <translation>Le début et la fin du tronçon ne sont pas tous deux marqués dans la manche de {}.</translation>
+    </message>
+    <message>
+        <source>Start and end of the stretch are not both marked in this run.</source>
+        <translation>Le début et la fin du tronçon ne sont pas tous deux marqués dans cette manche.</translation>
+    </message>
+    <message>
+        <source>The end of the stretch is not marked after its start in the run of {}.</source>
+        <translation>La fin du tronçon n’est pas marquée après son début dans la manche de {}.</translation>
+    </message>
+    <message>
+        <source>The end of the stretch is not marked after its start in this run.</source>
+        <translation>La fin du tronçon n’est pas marquée après son début dans cette manche.</translation>
+    </message>
+    <message>
+        <source>The answer of the server is longer than it can be.</source>
+        <translation>La réponse du serveur est plus longue que possible.</translation>
+    </message>
+    <message>
+        <source>The attached motion is not as long as the run, so that its moments cannot be told.</source>
+        <translation>Le mouvement joint n’est pas aussi long que la manche : ses moments ne peuvent donc pas être connus.</translation>
+    </message>
+    <message>
+        <source>The certificate of the server is not trusted, so that nothing was sent. It was issued by “{}”: {}.</source>
+        <translation>Le certificat du serveur n’est pas fiable : rien n’a été envoyé. Il a été émis par « {} » : {}.</translation>
+    </message>
+    <message>
+        <source>The connection broke off.</source>
+        <translation>La connexion s’est interrompue.</translation>
+    </message>
+    <message>
+        <source>The exit is marked before the entrance.</source>
+        <translation>La sortie est marquée avant l’entrée.</translation>
+    </message>
+    <message>
+        <source>The exit is marked before the middle.</source>
+        <translation>La sortie est marquée avant le milieu.</translation>
+    </message>
+    <message>
+        <source>The middle is marked before the entrance.</source>
+        <translation>Le milieu est marqué avant l’entrée.</translation>
+    </message>
+    <message>
+        <source>The film lies on {}, which is not ticked.</source>
+        <translation>Le film se trouve sur {}, qui n’est pas coché.</translation>
+    </message>
+    <message>
+        <source>The folder above is not there on the server.</source>
+        <translation>Le dossier parent n’existe pas sur le serveur.</translation>
+    </message>
+    <message>
+        <source>The number of sections is {}, but that of splits is {}.</source>
+        <translation>Le nombre de secteurs est {}, mais celui des inters est {}.</translation>
+    </message>
+    <message>
+        <source>The recording does not reach into this run.</source>
+        <translation>L’enregistrement n’atteint pas cette manche.</translation>
+    </message>
+    <message>
+        <source>The recording has {} further holes in this run.</source>
+        <translation>L’enregistrement a {} autres trous dans cette manche.</translation>
+    </message>
+    <message>
+        <source>The run has no times that the recording could be laid on.</source>
+        <translation>La manche n’a pas de temps sur lesquels poser l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>The section before was not timed, so this time covers both.</source>
+        <translation>Le secteur précédent n’a pas été chronométré : ce temps couvre donc les deux.</translation>
+    </message>
+    <message>
+        <source>The server answered with status {}.</source>
+        <translation>Le serveur a répondu avec le statut {}.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached safely.</source>
+        <translation>Le serveur ne peut pas être joint de façon sûre.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached.</source>
+        <translation>Le serveur ne peut pas être joint.</translation>
+    </message>
+    <message>
+        <source>The server does not accept the user name or the password.</source>
+        <translation>Le serveur n’accepte pas le nom d’utilisateur ou le mot de passe.</translation>
+    </message>
+    <message>
+        <source>The server does not allow this, or not to this user.</source>
+        <translation>Le serveur ne le permet pas, ou pas à cet utilisateur.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Le serveur ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The server fell silent.</source>
+        <translation>Le serveur s’est tu.</translation>
+    </message>
+    <message>
+        <source>The server has no such file or folder.</source>
+        <translation>Le serveur n’a pas ce fichier ou ce dossier.</translation>
+    </message>
+    <message>
+        <source>The server is full, or your share of it.</source>
+        <translation>Le serveur est plein, ou votre part de celui-ci.</translation>
+    </message>
+    <message>
+        <source>The server leads to another one, {}, which is not followed.</source>
+        <translation>Le serveur renvoie vers un autre, {}, qui n’est pas suivi.</translation>
+    </message>
+    <message>
+        <source>The server takes no file of this size.</source>
+        <translation>Le serveur n’accepte pas de fichier de cette taille.</translation>
+    </message>
+    <message>
+        <source>The server was not found. Is the computer online?</source>
+        <translation>Le serveur est introuvable. L’ordinateur est-il connecté ?</translation>
+    </message>
+    <message>
+        <source>The session has more sets or repetitions than can be timed.</source>
+        <translation>La séance a plus de séries ou de répétitions qu’on ne peut en chronométrer.</translation>
+    </message>
+    <message>
+        <source>The session needs a work time.</source>
+        <translation>La séance a besoin d’un temps d’effort.</translation>
+    </message>
+    <message>
+        <source>The session needs at least one set and one repetition.</source>
+        <translation>La séance a besoin d’au moins une série et une répétition.</translation>
+    </message>
+    <message>
+        <source>The session takes longer than a day.</source>
+        <translation>La séance dure plus d’un jour.</translation>
+    </message>
+    <message>
+        <source>This frame lies after {} at {}.</source>
+        <translation>Cette image est après {} à {}.</translation>
+    </message>
+    <message>
+        <source>This frame lies before {} at {}.</source>
+        <translation>Cette image est avant {} à {}.</translation>
+    </message>
+    <message>
+        <source>This run was not timed to the end, so this is not the time of the whole course.</source>
+        <translation>Cette manche n’a pas été chronométrée jusqu’au bout : ce n’est donc pas le temps de tout le parcours.</translation>
+    </message>
+    <message>
+        <source>Where they differ, both stay.</source>
+        <translation>S’ils diffèrent, les deux restent.</translation>
+    </message>
+    <message>
+        <source>a byte is no UTF-8 text</source>
+        <translation>un octet n’est pas du texte UTF-8</translation>
+    </message>
+    <message>
+        <source>a colon is due</source>
+        <translation>un deux-points est attendu</translation>
+    </message>
+    <message>
+        <source>a comma or ] is due</source>
+        <translation>une virgule ou ] est attendu</translation>
+    </message>
+    <message>
+        <source>a comma or } is due</source>
+        <translation>une virgule ou } est attendu</translation>
+    </message>
+    <message>
+        <source>a digit is due</source>
+        <translation>un chiffre est attendu</translation>
+    </message>
+    <message>
+        <source>a key is due</source>
+        <translation>une clé est attendue</translation>
+    </message>
+    <message>
+        <source>a micro split</source>
+        <translation>un micro-inter</translation>
+    </message>
+    <message>
+        <source>a number is out of range</source>
+        <translation>un nombre est hors limites</translation>
+    </message>
+    <message>
+        <source>a stroke of this hand</source>
+        <translation>un coup de cette main</translation>
+    </message>
+    <message>
+        <source>a text holds a control character</source>
+        <translation>un texte contient un caractère de contrôle</translation>
+    </message>
+    <message>
+        <source>a text holds a malformed escape</source>
+        <translation>un texte contient un échappement mal formé</translation>
+    </message>
+    <message>
+        <source>a value is due</source>
+        <translation>une valeur est attendue</translation>
+    </message>
+    <message>
+        <source>an unknown issuer</source>
+        <translation>un émetteur inconnu</translation>
+    </message>
+    <message>
+        <source>bib</source>
+        <translation>dossard</translation>
+    </message>
+    <message>
+        <source>five</source>
+        <translation>cinq</translation>
+    </message>
+    <message>
+        <source>six</source>
+        <translation>six</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>pas d’autorisation</translation>
+    </message>
+    <message>
+        <source>not JSON, byte {}: {}</source>
+        <translation>pas du JSON, octet {} : {}</translation>
+    </message>
+    <message>
+        <source>not JSON, or cut off</source>
+        <translation>pas du JSON, ou tronqué</translation>
+    </message>
+    <message>
+        <source>not JSON: a number is malformed or out of range</source>
+        <translation>pas du JSON : un nombre est mal formé ou hors limites</translation>
+    </message>
+    <message>
+        <source>not JSON: a text holds a control character</source>
+        <translation>pas du JSON : un texte contient un caractère de contrôle</translation>
+    </message>
+    <message>
+        <source>not JSON: a text holds a malformed escape</source>
+        <translation>pas du JSON : un texte contient un échappement mal formé</translation>
+    </message>
+    <message>
+        <source>not JSON: a text is not closed (the file may be cut off)</source>
+        <translation>pas du JSON : un texte n’est pas fermé (le fichier est peut-être tronqué)</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>position</translation>
+    </message>
+    <message>
+        <source>something stands behind the document</source>
+        <translation>quelque chose suit le document</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>le disque est en lecture seule</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>le disque est plein</translation>
+    </message>
+    <message>
+        <source>the document is nested too deeply</source>
+        <translation>le document est imbriqué trop profondément</translation>
+    </message>
+    <message>
+        <source>the document is too large for the memory</source>
+        <translation>le document est trop grand pour la mémoire</translation>
+    </message>
+    <message>
+        <source>the end of the stretch</source>
+        <translation>la fin du tronçon</translation>
+    </message>
+    <message>
+        <source>the file became shorter while it was read</source>
+        <translation>le fichier a raccourci pendant sa lecture</translation>
+    </message>
+    <message>
+        <source>the file holds nothing but blanks</source>
+        <translation>le fichier ne contient que des blancs</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>le fichier est vide</translation>
+    </message>
+    <message>
+        <source>the file is no text; save the list as text (CSV) first</source>
+        <translation>le fichier n’est pas du texte ; enregistrez d’abord la liste en texte (CSV)</translation>
+    </message>
+    <message>
+        <source>the file is not UTF-8 text</source>
+        <translation>le fichier n’est pas du texte UTF-8</translation>
+    </message>
+    <message>
+        <source>the file is too large for a document (over 4 GB)</source>
+        <translation>le fichier est trop grand pour un document (plus de 4 Go)</translation>
+    </message>
+    <message>
+        <source>the file is too large for a list (over 64 MB)</source>
+        <translation>le fichier est trop grand pour une liste (plus de 64 Mo)</translation>
+    </message>
+    <message>
+        <source>the penalty {} is below 0</source>
+        <translation>la pénalité {} est inférieure à 0</translation>
+    </message>
+    <message>
+        <source>the penalty {} is over {}</source>
+        <translation>la pénalité {} dépasse {}</translation>
+    </message>
+    <message>
+        <source>the position {} is below 0</source>
+        <translation>la position {} est inférieure à 0</translation>
+    </message>
+    <message>
+        <source>the start</source>
+        <translation>le départ</translation>
+    </message>
+    <message>
+        <source>the start of the stretch</source>
+        <translation>le début du tronçon</translation>
+    </message>
+    <message>
+        <source>the tag {}</source>
+        <translation>l’étiquette {}</translation>
+    </message>
+    <message>
+        <source>the text ends too early (the file may be cut off)</source>
+        <translation>le texte se termine trop tôt (le fichier est peut-être tronqué)</translation>
+    </message>
+    <message>
+        <source>the text is not valid UTF-8</source>
+        <translation>le texte n’est pas de l’UTF-8 valide</translation>
+    </message>
+    <message>
+        <source>the time {} is an hour or more</source>
+        <translation>le temps {} fait une heure ou plus</translation>
+    </message>
+    <message>
+        <source>the time {} is below 0</source>
+        <translation>le temps {} est inférieur à 0</translation>
+    </message>
+    <message>
+        <source>the {} &quot;{}&quot; is no number of seconds</source>
+        <translation>{} « {} » : ce n’est pas un nombre de secondes</translation>
+    </message>
+    <message>
+        <source>the {} &quot;{}&quot; is no whole number</source>
+        <translation>{} « {} » : ce n’est pas un nombre entier</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>ce fichier n’existe pas</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a file</source>
+        <translation>c’est un dossier, pas un fichier</translation>
+    </message>
+    <message>
+        <source>this is no JSON object: it does not begin with {</source>
+        <translation>ce n’est pas un objet JSON : il ne commence pas par {</translation>
+    </message>
+    <message>
+        <source>this is not an ordinary file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>this moment</source>
+        <translation>ce moment</translation>
+    </message>
+    <message>
+        <source>too many symbolic links</source>
+        <translation>trop de liens symboliques</translation>
+    </message>
+    <message>
+        <source>{0}: has the time of {1} (bibs {2} and {3}), and {1} has this one&apos;s. Exchange the two crews?</source>
+        <translation>{0} : a le temps de {1} (dossards {2} et {3}), et {1} a le sien. Échanger les deux équipages ?</translation>
+    </message>
+    <message>
+        <source>{0}: has the time of {1}, and {1} has this one&apos;s. Exchange the two crews?</source>
+        <translation>{0} : a le temps de {1}, et {1} a le sien. Échanger les deux équipages ?</translation>
+    </message>
+    <message>
+        <source>{0}: the list says {1}, ours is {2}. Take {1} over?</source>
+        <translation>{0} : la liste dit {1}, le nôtre est {2}. Reprendre {1} ?</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} fields</source>
+        <translation>
+            <numerusform>{} champ</numerusform>
+            <numerusform>{} champs</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} is marked on this frame already.</source>
+        <translation>{} : déjà marqué sur cette image.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs waiting</source>
+        <translation>
+            <numerusform>{} manche en attente</numerusform>
+            <numerusform>{} manches en attente</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} where {} are needed</source>
+        <translation>{} là où il en faut {}</translation>
+    </message>
+    <message>
+        <source>{}, the next starts in {}</source>
+        <translation>{}, la prochaine part dans {}</translation>
+    </message>
+    <message>
+        <source>{}: is not in the list.</source>
+        <translation>{} : n’est pas dans la liste.</translation>
+    </message>
+    <message>
+        <source>{}: the list has {} s of penalties, ours has {} s. Take the official result over?</source>
+        <translation>{} : la liste a {} s de pénalités, la nôtre {} s. Reprendre le résultat officiel ?</translation>
+    </message>
+    <message>
+        <source>{}: the list has {}, the film no time to the end. Take the official time over?</source>
+        <translation>{} : la liste a {}, le film aucun temps jusqu’au bout. Reprendre le temps officiel ?</translation>
+    </message>
+    <message>
+        <source>{}: the list has {}, the film {}, {} s apart. Take the official time over?</source>
+        <translation>{} : la liste a {}, le film {}, à {} s d’écart. Reprendre le temps officiel ?</translation>
+    </message>
+    <message>
+        <source>{}: the list says {}, ours is {}.</source>
+        <translation>{} : la liste dit {}, le nôtre est {}.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
