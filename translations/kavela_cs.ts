@@ -6709,6 +6709,230 @@
         <source>{}: the list says {}, ours is {}.</source>
         <translation>{}: seznam říká {}, náš čas je {}.</translation>
     </message>
+    <message>
+        <source>A difference needs two columns, as in difference:Run 2,Run 1.</source>
+        <translation>Rozdíl potřebuje dva sloupce, jako v difference:Run 2,Run 1.</translation>
+    </message>
+    <message>
+        <source>A text has no sheet &quot;{}&quot;.</source>
+        <translation>Text nemá list „{}“.</translation>
+    </message>
+    <message>
+        <source>A {} is of one column, not of {}.</source>
+        <translation>{}: z jednoho sloupce, ne z {}.</translation>
+    </message>
+    <message>
+        <source>A {} is of two columns, not of {}.</source>
+        <translation>{}: ze dvou sloupců, ne z {}.</translation>
+    </message>
+    <message>
+        <source>No column holds times; name the one to reckon with.</source>
+        <translation>Žádný sloupec neobsahuje časy; uveďte, se kterým počítat.</translation>
+    </message>
+    <message>
+        <source>No column holds times; name those to add, as in total:Time,Pen.</source>
+        <translation>Žádný sloupec neobsahuje časy; uveďte, které sečíst, jako v total:Time,Pen.</translation>
+    </message>
+    <message>
+        <source>No list is open.</source>
+        <translation>Není otevřen žádný seznam.</translation>
+    </message>
+    <message>
+        <source>Not drawn: %1</source>
+        <translation>Nenakresleno: %1</translation>
+    </message>
+    <message>
+        <source>Sections recorded in part: {}.</source>
+        <translation>Částečně zaznamenané úseky: {}.</translation>
+    </message>
+    <message>
+        <source>Sections without strokes: {}.</source>
+        <translation>Úseky bez záběrů: {}.</translation>
+    </message>
+    <message>
+        <source>The column &quot;{}&quot; has no numbers to reckon with: it is {}.</source>
+        <translation>Sloupec „{}“ nemá čísla k počítání: {}.</translation>
+    </message>
+    <message>
+        <source>The column &quot;{}&quot; has {} values: too many for columns of a pivot.</source>
+        <translation>Sloupec „{}“ má hodnot {}: na sloupce kontingenční tabulky je to příliš.</translation>
+    </message>
+    <message>
+        <source>The file is packed, but holds no spreadsheet (.xlsx or .ods).</source>
+        <translation>Soubor je zabalený, ale neobsahuje tabulku (.xlsx ani .ods).</translation>
+    </message>
+    <message>
+        <source>The list needs a column with the title Name, Athlete or Crew.</source>
+        <translation>Seznam potřebuje sloupec s nadpisem Name, Athlete nebo Crew.</translation>
+    </message>
+    <message>
+        <source>The list needs a column with the title Time, or Total and Penalty.</source>
+        <translation>Seznam potřebuje sloupec s nadpisem Time, nebo Total a Penalty.</translation>
+    </message>
+    <message>
+        <source>The picture has {} MB. Up to 40 MB can be read; save it smaller first.</source>
+        <translation>Obrázek má {} MB. Přečíst lze nejvýše 40 MB; uložte ho nejdřív menší.</translation>
+    </message>
+    <message>
+        <source>The picture is far too long for a course.</source>
+        <translation>Obrázek je na trať příliš protáhlý.</translation>
+    </message>
+    <message>
+        <source>The race carries no results list. Open the list itself; &quot;Keep with the race&quot; puts it there.</source>
+        <translation>Závod nenese žádnou výsledkovou listinu. Otevřete přímo listinu; „Uchovat u závodu“ ji tam uloží.</translation>
+    </message>
+    <message>
+        <source>The report could not be painted.</source>
+        <translation>Zprávu se nepodařilo vykreslit.</translation>
+    </message>
+    <message>
+        <source>The sheet &quot;{}&quot; has merged cells: their value stands in each of their lines.</source>
+        <translation>List „{}“ má sloučené buňky: jejich hodnota je v každém jejich řádku.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: its part {} cannot be read.</source>
+        <translation>Tabulka je poškozená: její část {} nelze přečíst.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: its part {} cannot be unpacked.</source>
+        <translation>Tabulka je poškozená: její část {} nelze rozbalit.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: {}.</source>
+        <translation>Tabulka je poškozená: {}.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is protected by a password. Save it without one and open it again.</source>
+        <translation>Tabulka je chráněna heslem. Uložte ji bez něj a otevřete znovu.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is too large: unpacked it is over 128 MB.</source>
+        <translation>Tabulka je příliš velká: rozbalená má přes 128 MB.</translation>
+    </message>
+    <message>
+        <source>The text is no UTF-8 and was read as Latin-1; look at the letters with accents.</source>
+        <translation>Text není UTF-8 a byl přečten jako Latin-1; zkontrolujte písmena s diakritikou.</translation>
+    </message>
+    <message>
+        <source>There are several sheets; choose one of {}.</source>
+        <translation>Listů je několik; vyberte jeden z {}.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;{}&quot;; there is none.</source>
+        <translation>Sloupec „{}“ není; není žádný.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;{}&quot;; there is {}.</source>
+        <translation>Sloupec „{}“ není; je tu {}.</translation>
+    </message>
+    <message>
+        <source>There is no sheet &quot;{}&quot;; there is {}.</source>
+        <translation>List „{}“ není; je tu {}.</translation>
+    </message>
+    <message>
+        <source>There is nothing in it.</source>
+        <translation>Nic v něm není.</translation>
+    </message>
+    <message>
+        <source>This is a PDF, which has no columns to read; open it in a viewer.</source>
+        <translation>To je PDF, které nemá sloupce ke čtení; otevřete ho v prohlížeči.</translation>
+    </message>
+    <message>
+        <source>This is a spreadsheet with a password or of the old kind (.xls). Save it without a password as .xlsx, .ods or text (CSV).</source>
+        <translation>To je tabulka s heslem nebo starého druhu (.xls). Uložte ji bez hesla jako .xlsx, .ods nebo text (CSV).</translation>
+    </message>
+    <message>
+        <source>This is neither text nor a spreadsheet (.xlsx, .ods).</source>
+        <translation>To není text ani tabulka (.xlsx, .ods).</translation>
+    </message>
+    <message>
+        <source>This is no picture that can be read. Take a PNG or JPEG file.</source>
+        <translation>To není čitelný obrázek. Použijte soubor PNG nebo JPEG.</translation>
+    </message>
+    <message>
+        <source>a time or a penalty is below 0</source>
+        <translation>čas nebo penalizace je menší než 0</translation>
+    </message>
+    <message>
+        <source>gate %1: %2</source>
+        <translation>branka %1: %2</translation>
+    </message>
+    <message>
+        <source>is not in the team</source>
+        <translation>není v týmu</translation>
+    </message>
+    <message>
+        <source>it could not be read</source>
+        <translation>nelze přečíst</translation>
+    </message>
+    <message>
+        <source>missed gate</source>
+        <translation>neprojetá branka</translation>
+    </message>
+    <message>
+        <source>no category of the team is called &quot;{}&quot;</source>
+        <translation>žádná kategorie týmu se nejmenuje „{}“</translation>
+    </message>
+    <message>
+        <source>no phase of the team is called &quot;{}&quot;</source>
+        <translation>žádná fáze týmu se nejmenuje „{}“</translation>
+    </message>
+    <message>
+        <source>no day such as 2026-05-03 or 3.5.2026</source>
+        <translation>není den jako 2026-05-03 nebo 3.5.2026</translation>
+    </message>
+    <message>
+        <source>no font is installed</source>
+        <translation>není nainstalováno žádné písmo</translation>
+    </message>
+    <message>
+        <source>no number</source>
+        <translation>není číslo</translation>
+    </message>
+    <message>
+        <source>no time such as 92.45, 1:32.45 or 92.45 (2)</source>
+        <translation>není čas jako 92.45, 1:32.45 nebo 92.45 (2)</translation>
+    </message>
+    <message>
+        <source>no whole number</source>
+        <translation>není celé číslo</translation>
+    </message>
+    <message>
+        <source>none of DNS, DNF, DSQ and the like</source>
+        <translation>žádné z DNS, DNF, DSQ a podobně</translation>
+    </message>
+    <message>
+        <source>stands above the titles</source>
+        <translation>je nad nadpisy</translation>
+    </message>
+    <message>
+        <source>the line ends here: it has {} of {} fields</source>
+        <translation>řádek zde končí: má {} z {} polí</translation>
+    </message>
+    <message>
+        <source>the line has more fields than there are columns</source>
+        <translation>řádek má víc polí, než je sloupců</translation>
+    </message>
+    <message>
+        <source>the run was not finished</source>
+        <translation>jízda nebyla dokončena</translation>
+    </message>
+    <message>
+        <source>the titles once more</source>
+        <translation>nadpisy ještě jednou</translation>
+    </message>
+    <message>
+        <source>touches and missed gates of %1 runs</source>
+        <translation>ťuky a neprojeté branky, jízd: %1</translation>
+    </message>
+    <message>
+        <source>{}: no run has a film</source>
+        <translation>{}: žádná jízda nemá video</translation>
+    </message>
+    <message>
+        <source>{}: the column is {}</source>
+        <translation>{}: druh sloupce: {}</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>

@@ -6126,7 +6126,7 @@
     </message>
     <message>
         <source>touch</source>
-        <translation>Ber.</translation>
+        <translation>Berührung</translation>
     </message>
     <message numerus="yes">
         <source>{} penalties cost no place</source>
@@ -6672,6 +6672,230 @@
     <message>
         <source>{}: the list says {}, ours is {}.</source>
         <translation>{}: Die Liste sagt {}, unsere Zeit ist {}.</translation>
+    </message>
+    <message>
+        <source>A difference needs two columns, as in difference:Run 2,Run 1.</source>
+        <translation>Eine Differenz braucht zwei Spalten, wie in difference:Run 2,Run 1.</translation>
+    </message>
+    <message>
+        <source>A text has no sheet &quot;{}&quot;.</source>
+        <translation>Ein Text hat kein Blatt „{}“.</translation>
+    </message>
+    <message>
+        <source>A {} is of one column, not of {}.</source>
+        <translation>{}: aus einer Spalte, nicht aus {}.</translation>
+    </message>
+    <message>
+        <source>A {} is of two columns, not of {}.</source>
+        <translation>{}: aus zwei Spalten, nicht aus {}.</translation>
+    </message>
+    <message>
+        <source>No column holds times; name the one to reckon with.</source>
+        <translation>Keine Spalte enthält Zeiten; nennen Sie die, mit der gerechnet werden soll.</translation>
+    </message>
+    <message>
+        <source>No column holds times; name those to add, as in total:Time,Pen.</source>
+        <translation>Keine Spalte enthält Zeiten; nennen Sie die zu addierenden, wie in total:Time,Pen.</translation>
+    </message>
+    <message>
+        <source>No list is open.</source>
+        <translation>Es ist keine Liste geöffnet.</translation>
+    </message>
+    <message>
+        <source>Not drawn: %1</source>
+        <translation>Nicht gezeichnet: %1</translation>
+    </message>
+    <message>
+        <source>Sections recorded in part: {}.</source>
+        <translation>Teilweise aufgezeichnete Abschnitte: {}.</translation>
+    </message>
+    <message>
+        <source>Sections without strokes: {}.</source>
+        <translation>Abschnitte ohne Schläge: {}.</translation>
+    </message>
+    <message>
+        <source>The column &quot;{}&quot; has no numbers to reckon with: it is {}.</source>
+        <translation>Die Spalte „{}“ hat keine Zahlen zum Rechnen: {}.</translation>
+    </message>
+    <message>
+        <source>The column &quot;{}&quot; has {} values: too many for columns of a pivot.</source>
+        <translation>Die Spalte „{}“ hat {} Werte: zu viele für Spalten einer Pivot-Tabelle.</translation>
+    </message>
+    <message>
+        <source>The file is packed, but holds no spreadsheet (.xlsx or .ods).</source>
+        <translation>Die Datei ist gepackt, enthält aber keine Tabelle (.xlsx oder .ods).</translation>
+    </message>
+    <message>
+        <source>The list needs a column with the title Name, Athlete or Crew.</source>
+        <translation>Die Liste braucht eine Spalte mit dem Titel Name, Athlete oder Crew.</translation>
+    </message>
+    <message>
+        <source>The list needs a column with the title Time, or Total and Penalty.</source>
+        <translation>Die Liste braucht eine Spalte mit dem Titel Time, oder Total und Penalty.</translation>
+    </message>
+    <message>
+        <source>The picture has {} MB. Up to 40 MB can be read; save it smaller first.</source>
+        <translation>Das Bild hat {} MB. Bis zu 40 MB können gelesen werden; speichern Sie es zuerst kleiner.</translation>
+    </message>
+    <message>
+        <source>The picture is far too long for a course.</source>
+        <translation>Das Bild ist für eine Strecke viel zu lang.</translation>
+    </message>
+    <message>
+        <source>The race carries no results list. Open the list itself; &quot;Keep with the race&quot; puts it there.</source>
+        <translation>Das Rennen enthält keine Ergebnisliste. Öffnen Sie die Liste selbst; „Zum Rennen legen“ legt sie dort ab.</translation>
+    </message>
+    <message>
+        <source>The report could not be painted.</source>
+        <translation>Der Bericht konnte nicht gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>The sheet &quot;{}&quot; has merged cells: their value stands in each of their lines.</source>
+        <translation>Das Blatt „{}“ hat verbundene Zellen: Ihr Wert steht in jeder ihrer Zeilen.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: its part {} cannot be read.</source>
+        <translation>Die Tabelle ist beschädigt: Ihr Teil {} ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: its part {} cannot be unpacked.</source>
+        <translation>Die Tabelle ist beschädigt: Ihr Teil {} lässt sich nicht entpacken.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: {}.</source>
+        <translation>Die Tabelle ist beschädigt: {}.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is protected by a password. Save it without one and open it again.</source>
+        <translation>Die Tabelle ist durch ein Passwort geschützt. Speichern Sie sie ohne und öffnen Sie sie erneut.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is too large: unpacked it is over 128 MB.</source>
+        <translation>Die Tabelle ist zu groß: entpackt hat sie über 128 MB.</translation>
+    </message>
+    <message>
+        <source>The text is no UTF-8 and was read as Latin-1; look at the letters with accents.</source>
+        <translation>Der Text ist kein UTF-8 und wurde als Latin-1 gelesen; prüfen Sie die Buchstaben mit Akzenten.</translation>
+    </message>
+    <message>
+        <source>There are several sheets; choose one of {}.</source>
+        <translation>Es gibt mehrere Blätter; wählen Sie eines von {}.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;{}&quot;; there is none.</source>
+        <translation>Es gibt keine Spalte „{}“; es gibt gar keine.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;{}&quot;; there is {}.</source>
+        <translation>Es gibt keine Spalte „{}“, aber {}.</translation>
+    </message>
+    <message>
+        <source>There is no sheet &quot;{}&quot;; there is {}.</source>
+        <translation>Es gibt kein Blatt „{}“, aber {}.</translation>
+    </message>
+    <message>
+        <source>There is nothing in it.</source>
+        <translation>Es ist nichts darin.</translation>
+    </message>
+    <message>
+        <source>This is a PDF, which has no columns to read; open it in a viewer.</source>
+        <translation>Das ist ein PDF, das keine lesbaren Spalten hat; öffnen Sie es in einem Betrachter.</translation>
+    </message>
+    <message>
+        <source>This is a spreadsheet with a password or of the old kind (.xls). Save it without a password as .xlsx, .ods or text (CSV).</source>
+        <translation>Das ist eine Tabelle mit Passwort oder alter Art (.xls). Speichern Sie sie ohne Passwort als .xlsx, .ods oder Text (CSV).</translation>
+    </message>
+    <message>
+        <source>This is neither text nor a spreadsheet (.xlsx, .ods).</source>
+        <translation>Das ist weder Text noch eine Tabelle (.xlsx, .ods).</translation>
+    </message>
+    <message>
+        <source>This is no picture that can be read. Take a PNG or JPEG file.</source>
+        <translation>Das ist kein lesbares Bild. Nehmen Sie eine PNG- oder JPEG-Datei.</translation>
+    </message>
+    <message>
+        <source>a time or a penalty is below 0</source>
+        <translation>eine Zeit oder Strafe ist unter 0</translation>
+    </message>
+    <message>
+        <source>gate %1: %2</source>
+        <translation>Tor %1: %2</translation>
+    </message>
+    <message>
+        <source>is not in the team</source>
+        <translation>ist nicht in der Mannschaft</translation>
+    </message>
+    <message>
+        <source>it could not be read</source>
+        <translation>sie konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>missed gate</source>
+        <translation>Torfehler</translation>
+    </message>
+    <message>
+        <source>no category of the team is called &quot;{}&quot;</source>
+        <translation>keine Kategorie der Mannschaft heißt „{}“</translation>
+    </message>
+    <message>
+        <source>no phase of the team is called &quot;{}&quot;</source>
+        <translation>keine Phase der Mannschaft heißt „{}“</translation>
+    </message>
+    <message>
+        <source>no day such as 2026-05-03 or 3.5.2026</source>
+        <translation>kein Tag wie 2026-05-03 oder 3.5.2026</translation>
+    </message>
+    <message>
+        <source>no font is installed</source>
+        <translation>es ist keine Schrift installiert</translation>
+    </message>
+    <message>
+        <source>no number</source>
+        <translation>keine Zahl</translation>
+    </message>
+    <message>
+        <source>no time such as 92.45, 1:32.45 or 92.45 (2)</source>
+        <translation>keine Zeit wie 92.45, 1:32.45 oder 92.45 (2)</translation>
+    </message>
+    <message>
+        <source>no whole number</source>
+        <translation>keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>none of DNS, DNF, DSQ and the like</source>
+        <translation>keines von DNS, DNF, DSQ und Ähnlichem</translation>
+    </message>
+    <message>
+        <source>stands above the titles</source>
+        <translation>steht über den Titeln</translation>
+    </message>
+    <message>
+        <source>the line ends here: it has {} of {} fields</source>
+        <translation>die Zeile endet hier: sie hat {} von {} Feldern</translation>
+    </message>
+    <message>
+        <source>the line has more fields than there are columns</source>
+        <translation>die Zeile hat mehr Felder als es Spalten gibt</translation>
+    </message>
+    <message>
+        <source>the run was not finished</source>
+        <translation>der Lauf wurde nicht beendet</translation>
+    </message>
+    <message>
+        <source>the titles once more</source>
+        <translation>die Titel noch einmal</translation>
+    </message>
+    <message>
+        <source>touches and missed gates of %1 runs</source>
+        <translation>Berührungen und Torfehler von %1 Läufen</translation>
+    </message>
+    <message>
+        <source>{}: no run has a film</source>
+        <translation>{}: kein Lauf hat einen Film</translation>
+    </message>
+    <message>
+        <source>{}: the column is {}</source>
+        <translation>{}: Art der Spalte: {}</translation>
     </message>
 </context>
 <context>

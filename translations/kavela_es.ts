@@ -6673,6 +6673,230 @@
         <source>{}: the list says {}, ours is {}.</source>
         <translation>{}: la lista dice {}, el nuestro es {}.</translation>
     </message>
+    <message>
+        <source>A difference needs two columns, as in difference:Run 2,Run 1.</source>
+        <translation>Una diferencia necesita dos columnas, como en difference:Run 2,Run 1.</translation>
+    </message>
+    <message>
+        <source>A text has no sheet &quot;{}&quot;.</source>
+        <translation>Un texto no tiene hoja «{}».</translation>
+    </message>
+    <message>
+        <source>A {} is of one column, not of {}.</source>
+        <translation>{}: es de una columna, no de {}.</translation>
+    </message>
+    <message>
+        <source>A {} is of two columns, not of {}.</source>
+        <translation>{}: es de dos columnas, no de {}.</translation>
+    </message>
+    <message>
+        <source>No column holds times; name the one to reckon with.</source>
+        <translation>Ninguna columna tiene tiempos; indica con cuál calcular.</translation>
+    </message>
+    <message>
+        <source>No column holds times; name those to add, as in total:Time,Pen.</source>
+        <translation>Ninguna columna tiene tiempos; indica cuáles sumar, como en total:Time,Pen.</translation>
+    </message>
+    <message>
+        <source>No list is open.</source>
+        <translation>No hay ninguna lista abierta.</translation>
+    </message>
+    <message>
+        <source>Not drawn: %1</source>
+        <translation>Sin dibujar: %1</translation>
+    </message>
+    <message>
+        <source>Sections recorded in part: {}.</source>
+        <translation>Tramos grabados en parte: {}.</translation>
+    </message>
+    <message>
+        <source>Sections without strokes: {}.</source>
+        <translation>Tramos sin paladas: {}.</translation>
+    </message>
+    <message>
+        <source>The column &quot;{}&quot; has no numbers to reckon with: it is {}.</source>
+        <translation>La columna «{}» no tiene números con los que calcular: es {}.</translation>
+    </message>
+    <message>
+        <source>The column &quot;{}&quot; has {} values: too many for columns of a pivot.</source>
+        <translation>La columna «{}» tiene {} valores: demasiados para columnas de una tabla dinámica.</translation>
+    </message>
+    <message>
+        <source>The file is packed, but holds no spreadsheet (.xlsx or .ods).</source>
+        <translation>El archivo está comprimido, pero no contiene una hoja de cálculo (.xlsx o .ods).</translation>
+    </message>
+    <message>
+        <source>The list needs a column with the title Name, Athlete or Crew.</source>
+        <translation>La lista necesita una columna con el título Name, Athlete o Crew.</translation>
+    </message>
+    <message>
+        <source>The list needs a column with the title Time, or Total and Penalty.</source>
+        <translation>La lista necesita una columna con el título Time, o Total y Penalty.</translation>
+    </message>
+    <message>
+        <source>The picture has {} MB. Up to 40 MB can be read; save it smaller first.</source>
+        <translation>La imagen tiene {} MB. Se pueden leer hasta 40 MB; guárdala antes más pequeña.</translation>
+    </message>
+    <message>
+        <source>The picture is far too long for a course.</source>
+        <translation>La imagen es demasiado alargada para un recorrido.</translation>
+    </message>
+    <message>
+        <source>The race carries no results list. Open the list itself; &quot;Keep with the race&quot; puts it there.</source>
+        <translation>La carrera no lleva ninguna lista de resultados. Abre la propia lista; «Conservar con la carrera» la pone ahí.</translation>
+    </message>
+    <message>
+        <source>The report could not be painted.</source>
+        <translation>No se pudo dibujar el informe.</translation>
+    </message>
+    <message>
+        <source>The sheet &quot;{}&quot; has merged cells: their value stands in each of their lines.</source>
+        <translation>La hoja «{}» tiene celdas combinadas: su valor está en cada una de sus líneas.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: its part {} cannot be read.</source>
+        <translation>La hoja de cálculo está dañada: no se puede leer su parte {}.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: its part {} cannot be unpacked.</source>
+        <translation>La hoja de cálculo está dañada: no se puede descomprimir su parte {}.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: {}.</source>
+        <translation>La hoja de cálculo está dañada: {}.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is protected by a password. Save it without one and open it again.</source>
+        <translation>La hoja de cálculo está protegida con una contraseña. Guárdala sin ella y ábrela de nuevo.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is too large: unpacked it is over 128 MB.</source>
+        <translation>La hoja de cálculo es demasiado grande: descomprimida supera los 128 MB.</translation>
+    </message>
+    <message>
+        <source>The text is no UTF-8 and was read as Latin-1; look at the letters with accents.</source>
+        <translation>El texto no es UTF-8 y se leyó como Latin-1; revisa las letras con acentos.</translation>
+    </message>
+    <message>
+        <source>There are several sheets; choose one of {}.</source>
+        <translation>Hay varias hojas; elige una de {}.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;{}&quot;; there is none.</source>
+        <translation>No existe la columna «{}»; no hay ninguna.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;{}&quot;; there is {}.</source>
+        <translation>No existe la columna «{}»; hay {}.</translation>
+    </message>
+    <message>
+        <source>There is no sheet &quot;{}&quot;; there is {}.</source>
+        <translation>No existe la hoja «{}»; hay {}.</translation>
+    </message>
+    <message>
+        <source>There is nothing in it.</source>
+        <translation>No contiene nada.</translation>
+    </message>
+    <message>
+        <source>This is a PDF, which has no columns to read; open it in a viewer.</source>
+        <translation>Es un PDF, que no tiene columnas que leer; ábrelo en un visor.</translation>
+    </message>
+    <message>
+        <source>This is a spreadsheet with a password or of the old kind (.xls). Save it without a password as .xlsx, .ods or text (CSV).</source>
+        <translation>Es una hoja de cálculo con contraseña o del tipo antiguo (.xls). Guárdala sin contraseña como .xlsx, .ods o texto (CSV).</translation>
+    </message>
+    <message>
+        <source>This is neither text nor a spreadsheet (.xlsx, .ods).</source>
+        <translation>No es ni texto ni una hoja de cálculo (.xlsx, .ods).</translation>
+    </message>
+    <message>
+        <source>This is no picture that can be read. Take a PNG or JPEG file.</source>
+        <translation>No es una imagen que se pueda leer. Usa un archivo PNG o JPEG.</translation>
+    </message>
+    <message>
+        <source>a time or a penalty is below 0</source>
+        <translation>un tiempo o una penalización es menor que 0</translation>
+    </message>
+    <message>
+        <source>gate %1: %2</source>
+        <translation>puerta %1: %2</translation>
+    </message>
+    <message>
+        <source>is not in the team</source>
+        <translation>no está en el equipo</translation>
+    </message>
+    <message>
+        <source>it could not be read</source>
+        <translation>no se pudo leer</translation>
+    </message>
+    <message>
+        <source>missed gate</source>
+        <translation>salto</translation>
+    </message>
+    <message>
+        <source>no category of the team is called &quot;{}&quot;</source>
+        <translation>ninguna categoría del equipo se llama «{}»</translation>
+    </message>
+    <message>
+        <source>no phase of the team is called &quot;{}&quot;</source>
+        <translation>ninguna fase del equipo se llama «{}»</translation>
+    </message>
+    <message>
+        <source>no day such as 2026-05-03 or 3.5.2026</source>
+        <translation>no es un día como 2026-05-03 o 3.5.2026</translation>
+    </message>
+    <message>
+        <source>no font is installed</source>
+        <translation>no hay ningún tipo de letra instalado</translation>
+    </message>
+    <message>
+        <source>no number</source>
+        <translation>no es un número</translation>
+    </message>
+    <message>
+        <source>no time such as 92.45, 1:32.45 or 92.45 (2)</source>
+        <translation>no es un tiempo como 92.45, 1:32.45 o 92.45 (2)</translation>
+    </message>
+    <message>
+        <source>no whole number</source>
+        <translation>no es un número entero</translation>
+    </message>
+    <message>
+        <source>none of DNS, DNF, DSQ and the like</source>
+        <translation>ninguno de DNS, DNF, DSQ y similares</translation>
+    </message>
+    <message>
+        <source>stands above the titles</source>
+        <translation>está encima de los títulos</translation>
+    </message>
+    <message>
+        <source>the line ends here: it has {} of {} fields</source>
+        <translation>la línea termina aquí: tiene {} de {} campos</translation>
+    </message>
+    <message>
+        <source>the line has more fields than there are columns</source>
+        <translation>la línea tiene más campos que columnas hay</translation>
+    </message>
+    <message>
+        <source>the run was not finished</source>
+        <translation>la manga no se terminó</translation>
+    </message>
+    <message>
+        <source>the titles once more</source>
+        <translation>los títulos otra vez</translation>
+    </message>
+    <message>
+        <source>touches and missed gates of %1 runs</source>
+        <translation>toques y saltos de %1 mangas</translation>
+    </message>
+    <message>
+        <source>{}: no run has a film</source>
+        <translation>{}: ninguna manga tiene vídeo</translation>
+    </message>
+    <message>
+        <source>{}: the column is {}</source>
+        <translation>{}: la columna es {}</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>

@@ -6673,6 +6673,230 @@
         <source>{}: the list says {}, ours is {}.</source>
         <translation>{} : la liste dit {}, le nôtre est {}.</translation>
     </message>
+    <message>
+        <source>A difference needs two columns, as in difference:Run 2,Run 1.</source>
+        <translation>Une différence a besoin de deux colonnes, comme dans difference:Run 2,Run 1.</translation>
+    </message>
+    <message>
+        <source>A text has no sheet &quot;{}&quot;.</source>
+        <translation>Un texte n’a pas de feuille « {} ».</translation>
+    </message>
+    <message>
+        <source>A {} is of one column, not of {}.</source>
+        <translation>{} : d’une colonne, pas de {}.</translation>
+    </message>
+    <message>
+        <source>A {} is of two columns, not of {}.</source>
+        <translation>{} : de deux colonnes, pas de {}.</translation>
+    </message>
+    <message>
+        <source>No column holds times; name the one to reckon with.</source>
+        <translation>Aucune colonne ne contient de temps ; nommez celle avec laquelle calculer.</translation>
+    </message>
+    <message>
+        <source>No column holds times; name those to add, as in total:Time,Pen.</source>
+        <translation>Aucune colonne ne contient de temps ; nommez celles à additionner, comme dans total:Time,Pen.</translation>
+    </message>
+    <message>
+        <source>No list is open.</source>
+        <translation>Aucune liste n’est ouverte.</translation>
+    </message>
+    <message>
+        <source>Not drawn: %1</source>
+        <translation>Non dessiné : %1</translation>
+    </message>
+    <message>
+        <source>Sections recorded in part: {}.</source>
+        <translation>Secteurs enregistrés en partie : {}.</translation>
+    </message>
+    <message>
+        <source>Sections without strokes: {}.</source>
+        <translation>Secteurs sans coups : {}.</translation>
+    </message>
+    <message>
+        <source>The column &quot;{}&quot; has no numbers to reckon with: it is {}.</source>
+        <translation>La colonne « {} » n’a pas de nombres pour calculer : elle est {}.</translation>
+    </message>
+    <message>
+        <source>The column &quot;{}&quot; has {} values: too many for columns of a pivot.</source>
+        <translation>La colonne « {} » a {} valeurs : trop pour les colonnes d’un tableau croisé.</translation>
+    </message>
+    <message>
+        <source>The file is packed, but holds no spreadsheet (.xlsx or .ods).</source>
+        <translation>Le fichier est compressé, mais ne contient pas de feuille de calcul (.xlsx ou .ods).</translation>
+    </message>
+    <message>
+        <source>The list needs a column with the title Name, Athlete or Crew.</source>
+        <translation>La liste a besoin d’une colonne intitulée Name, Athlete ou Crew.</translation>
+    </message>
+    <message>
+        <source>The list needs a column with the title Time, or Total and Penalty.</source>
+        <translation>La liste a besoin d’une colonne intitulée Time, ou Total et Penalty.</translation>
+    </message>
+    <message>
+        <source>The picture has {} MB. Up to 40 MB can be read; save it smaller first.</source>
+        <translation>L’image fait {} Mo. On peut en lire jusqu’à 40 Mo ; enregistrez-la d’abord plus petite.</translation>
+    </message>
+    <message>
+        <source>The picture is far too long for a course.</source>
+        <translation>L’image est bien trop allongée pour un parcours.</translation>
+    </message>
+    <message>
+        <source>The race carries no results list. Open the list itself; &quot;Keep with the race&quot; puts it there.</source>
+        <translation>La course ne porte aucune liste de résultats. Ouvrez la liste elle-même ; « Conserver avec la course » l’y met.</translation>
+    </message>
+    <message>
+        <source>The report could not be painted.</source>
+        <translation>Le rapport n’a pas pu être dessiné.</translation>
+    </message>
+    <message>
+        <source>The sheet &quot;{}&quot; has merged cells: their value stands in each of their lines.</source>
+        <translation>La feuille « {} » a des cellules fusionnées : leur valeur figure dans chacune de leurs lignes.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: its part {} cannot be read.</source>
+        <translation>La feuille de calcul est endommagée : sa partie {} est illisible.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: its part {} cannot be unpacked.</source>
+        <translation>La feuille de calcul est endommagée : sa partie {} ne peut pas être décompressée.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: {}.</source>
+        <translation>La feuille de calcul est endommagée : {}.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is protected by a password. Save it without one and open it again.</source>
+        <translation>La feuille de calcul est protégée par un mot de passe. Enregistrez-la sans et rouvrez-la.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is too large: unpacked it is over 128 MB.</source>
+        <translation>La feuille de calcul est trop grande : décompressée, elle dépasse 128 Mo.</translation>
+    </message>
+    <message>
+        <source>The text is no UTF-8 and was read as Latin-1; look at the letters with accents.</source>
+        <translation>Le texte n’est pas de l’UTF-8 et a été lu comme Latin-1 ; vérifiez les lettres accentuées.</translation>
+    </message>
+    <message>
+        <source>There are several sheets; choose one of {}.</source>
+        <translation>Il y a plusieurs feuilles ; choisissez parmi {}.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;{}&quot;; there is none.</source>
+        <translation>Il n’y a pas de colonne « {} » ; il n’y en a aucune.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;{}&quot;; there is {}.</source>
+        <translation>Il n’y a pas de colonne « {} » ; il y a {}.</translation>
+    </message>
+    <message>
+        <source>There is no sheet &quot;{}&quot;; there is {}.</source>
+        <translation>Il n’y a pas de feuille « {} » ; il y a {}.</translation>
+    </message>
+    <message>
+        <source>There is nothing in it.</source>
+        <translation>Il n’y a rien dedans.</translation>
+    </message>
+    <message>
+        <source>This is a PDF, which has no columns to read; open it in a viewer.</source>
+        <translation>C’est un PDF, qui n’a pas de colonnes à lire ; ouvrez-le dans une visionneuse.</translation>
+    </message>
+    <message>
+        <source>This is a spreadsheet with a password or of the old kind (.xls). Save it without a password as .xlsx, .ods or text (CSV).</source>
+        <translation>C’est une feuille de calcul avec mot de passe ou de l’ancien type (.xls). Enregistrez-la sans mot de passe en .xlsx, .ods ou texte (CSV).</translation>
+    </message>
+    <message>
+        <source>This is neither text nor a spreadsheet (.xlsx, .ods).</source>
+        <translation>Ce n’est ni du texte ni une feuille de calcul (.xlsx, .ods).</translation>
+    </message>
+    <message>
+        <source>This is no picture that can be read. Take a PNG or JPEG file.</source>
+        <translation>Ce n’est pas une image lisible. Prenez un fichier PNG ou JPEG.</translation>
+    </message>
+    <message>
+        <source>a time or a penalty is below 0</source>
+        <translation>un temps ou une pénalité est inférieur à 0</translation>
+    </message>
+    <message>
+        <source>gate %1: %2</source>
+        <translation>porte %1 : %2</translation>
+    </message>
+    <message>
+        <source>is not in the team</source>
+        <translation>n’est pas dans l’équipe</translation>
+    </message>
+    <message>
+        <source>it could not be read</source>
+        <translation>il n’a pas pu être lu</translation>
+    </message>
+    <message>
+        <source>missed gate</source>
+        <translation>porte manquée</translation>
+    </message>
+    <message>
+        <source>no category of the team is called &quot;{}&quot;</source>
+        <translation>aucune catégorie de l’équipe ne s’appelle « {} »</translation>
+    </message>
+    <message>
+        <source>no phase of the team is called &quot;{}&quot;</source>
+        <translation>aucune phase de l’équipe ne s’appelle « {} »</translation>
+    </message>
+    <message>
+        <source>no day such as 2026-05-03 or 3.5.2026</source>
+        <translation>pas un jour tel que 2026-05-03 ou 3.5.2026</translation>
+    </message>
+    <message>
+        <source>no font is installed</source>
+        <translation>aucune police n’est installée</translation>
+    </message>
+    <message>
+        <source>no number</source>
+        <translation>pas un nombre</translation>
+    </message>
+    <message>
+        <source>no time such as 92.45, 1:32.45 or 92.45 (2)</source>
+        <translation>pas un temps tel que 92.45, 1:32.45 ou 92.45 (2)</translation>
+    </message>
+    <message>
+        <source>no whole number</source>
+        <translation>pas un nombre entier</translation>
+    </message>
+    <message>
+        <source>none of DNS, DNF, DSQ and the like</source>
+        <translation>aucun de DNS, DNF, DSQ et semblables</translation>
+    </message>
+    <message>
+        <source>stands above the titles</source>
+        <translation>se trouve au-dessus des titres</translation>
+    </message>
+    <message>
+        <source>the line ends here: it has {} of {} fields</source>
+        <translation>la ligne se termine ici : elle a {} champs sur {}</translation>
+    </message>
+    <message>
+        <source>the line has more fields than there are columns</source>
+        <translation>la ligne a plus de champs qu’il n’y a de colonnes</translation>
+    </message>
+    <message>
+        <source>the run was not finished</source>
+        <translation>la manche n’a pas été terminée</translation>
+    </message>
+    <message>
+        <source>the titles once more</source>
+        <translation>les titres encore une fois</translation>
+    </message>
+    <message>
+        <source>touches and missed gates of %1 runs</source>
+        <translation>touches et portes manquées de %1 manches</translation>
+    </message>
+    <message>
+        <source>{}: no run has a film</source>
+        <translation>{} : aucune manche n’a de film</translation>
+    </message>
+    <message>
+        <source>{}: the column is {}</source>
+        <translation>{} : la colonne est {}</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
