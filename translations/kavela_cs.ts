@@ -6933,6 +6933,278 @@
         <source>{}: the column is {}</source>
         <translation>{}: druh sloupce: {}</translation>
     </message>
+    <message>
+        <source>1 field where a bib and a name are needed</source>
+        <translation>1 pole tam, kde je potřeba startovní číslo a jméno</translation>
+    </message>
+    <message>
+        <source>A bracket { is not closed.</source>
+        <translation>Závorka { není uzavřena.</translation>
+    </message>
+    <message>
+        <source>A computer with Windows cannot take this name.</source>
+        <translation>Počítač s Windows toto jméno nepřijme.</translation>
+    </message>
+    <message>
+        <source>A heat has one to four boats.</source>
+        <translation>Rozjížďka má jednu až čtyři lodě.</translation>
+    </message>
+    <message>
+        <source>An unnamed boat is not in this heat.</source>
+        <translation>Nepojmenovaná loď v této rozjížďce není.</translation>
+    </message>
+    <message>
+        <source>Both are kept: the one of this computer is “{}” now.</source>
+        <translation>Zůstanou oba: ten z tohoto počítače je teď „{}“.</translation>
+    </message>
+    <message>
+        <source>Both sides have the same.</source>
+        <translation>Obě strany mají totéž.</translation>
+    </message>
+    <message>
+        <source>Gate {}: it is not on the cross course.</source>
+        <translation>Branka {}: není na trati crossu.</translation>
+    </message>
+    <message>
+        <source>Gate {}: {}</source>
+        <translation>Branka {}: {}</translation>
+    </message>
+    <message>
+        <source>It could not be given another name. Compare again.</source>
+        <translation>Nepodařilo se to přejmenovat. Porovnejte znovu.</translation>
+    </message>
+    <message>
+        <source>It is here again. Compare again.</source>
+        <translation>Zase je zde. Porovnejte znovu.</translation>
+    </message>
+    <message>
+        <source>It is not here any more.</source>
+        <translation>Už zde není.</translation>
+    </message>
+    <message>
+        <source>It is not on the server any more. Compare again.</source>
+        <translation>Na serveru už není. Porovnejte znovu.</translation>
+    </message>
+    <message>
+        <source>It is not on the server yet: {}</source>
+        <translation>Na serveru ještě není: {}</translation>
+    </message>
+    <message>
+        <source>It is on the server again. Compare again.</source>
+        <translation>Na serveru zase je. Porovnejte znovu.</translation>
+    </message>
+    <message>
+        <source>It was changed here meanwhile. Compare again.</source>
+        <translation>Mezitím se to zde změnilo. Porovnejte znovu.</translation>
+    </message>
+    <message>
+        <source>It was changed on the server meanwhile. Compare again.</source>
+        <translation>Mezitím se to na serveru změnilo. Porovnejte znovu.</translation>
+    </message>
+    <message>
+        <source>It was changed while it was sent. Compare again.</source>
+        <translation>Během odesílání se to změnilo. Porovnejte znovu.</translation>
+    </message>
+    <message>
+        <source>Its name has control characters.</source>
+        <translation>Jeho jméno má řídicí znaky.</translation>
+    </message>
+    <message>
+        <source>Its name is no text.</source>
+        <translation>Jeho jméno není text.</translation>
+    </message>
+    <message>
+        <source>Its name is too long.</source>
+        <translation>Jeho jméno je příliš dlouhé.</translation>
+    </message>
+    <message>
+        <source>Its name leads out of the folder.</source>
+        <translation>Jeho jméno vede mimo složku.</translation>
+    </message>
+    <message>
+        <source>No mark tells yet how this camera&apos;s film lies beside the run&apos;s first one: mark one moment on both in split taking.</source>
+        <translation>Žádná značka zatím neříká, jak leží video této kamery vedle prvního videa jízdy: označte jeden okamžik na obou v měření mezičasů.</translation>
+    </message>
+    <message>
+        <source>This is a fixed camera beside the run&apos;s own film: synchronise the two in split taking first.</source>
+        <translation>To je pevná kamera vedle vlastního videa jízdy: nejdřív obě sladěte v měření mezičasů.</translation>
+    </message>
+    <message>
+        <source>The course has {}, and this line is for split {}.</source>
+        <translation>Trať má {} a tato čára je pro mezičas {}.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} splits</source>
+        <translation>
+            <numerusform>{} mezičas</numerusform>
+            <numerusform>{} mezičasy</numerusform>
+            <numerusform>{} mezičasů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file that came has gone.</source>
+        <translation>Soubor, který přišel, zmizel.</translation>
+    </message>
+    <message>
+        <source>The file that came is not what its checksum says.</source>
+        <translation>Soubor, který přišel, neodpovídá kontrolnímu součtu.</translation>
+    </message>
+    <message>
+        <source>The pattern holds no bracket such as {name}.</source>
+        <translation>Vzor neobsahuje žádnou závorku jako {name}.</translation>
+    </message>
+    <message>
+        <source>The same bracket stands twice.</source>
+        <translation>Stejná závorka je tam dvakrát.</translation>
+    </message>
+    <message>
+        <source>Two brackets stand side by side: nothing tells where one ends.</source>
+        <translation>Dvě závorky stojí vedle sebe: nic neříká, kde jedna končí.</translation>
+    </message>
+    <message>
+        <source>{{{}}} is not known. There are {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} and {{any}}.</source>
+        <translation>{{{}}} není známo. Jsou {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} a {{any}}.</translation>
+    </message>
+    <message>
+        <source>{any} does not say what is to stand there.</source>
+        <translation>{any} neříká, co tam má stát.</translation>
+    </message>
+    <message>
+        <source>The server has kept another length than was sent.</source>
+        <translation>Server uložil jinou délku, než byla odeslána.</translation>
+    </message>
+    <message>
+        <source>The server told another length than it sent.</source>
+        <translation>Server udal jinou délku, než poslal.</translation>
+    </message>
+    <message>
+        <source>The server took the file and does not have it.</source>
+        <translation>Server soubor přijal, a přesto ho nemá.</translation>
+    </message>
+    <message>
+        <source>There are more than four boats in this heat.</source>
+        <translation>V této rozjížďce jsou víc než čtyři lodě.</translation>
+    </message>
+    <message>
+        <source>all gates</source>
+        <translation>všechny</translation>
+    </message>
+    <message>
+        <source>by its name</source>
+        <translation>podle jména</translation>
+    </message>
+    <message>
+        <source>by the order</source>
+        <translation>podle pořadí</translation>
+    </message>
+    <message>
+        <source>the second boat of a long film</source>
+        <translation>druhá loď dlouhého videa</translation>
+    </message>
+    <message>
+        <source>{} s from its start</source>
+        <translation>{} s od startu</translation>
+    </message>
+    <message>
+        <source>{} s from its start, if the camera&apos;s clock is wrong</source>
+        <translation>{} s od startu, pokud jdou hodiny kamery špatně</translation>
+    </message>
+    <message>
+        <source>downstream</source>
+        <translation>povodná</translation>
+    </message>
+    <message>
+        <source>mixed</source>
+        <translation>smíšené</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>neznámé</translation>
+    </message>
+    <message>
+        <source>first third</source>
+        <translation>první třetina</translation>
+    </message>
+    <message>
+        <source>second third</source>
+        <translation>druhá třetina</translation>
+    </message>
+    <message>
+        <source>last third</source>
+        <translation>poslední třetina</translation>
+    </message>
+    <message>
+        <source>no name is known</source>
+        <translation>jméno není známo</translation>
+    </message>
+    <message>
+        <source>no {} is known</source>
+        <translation>není známo: {}</translation>
+    </message>
+    <message>
+        <source>nothing would be left of the name</source>
+        <translation>ze jména by nic nezbylo</translation>
+    </message>
+    <message>
+        <source>the name would be too long</source>
+        <translation>jméno by bylo příliš dlouhé</translation>
+    </message>
+    <message>
+        <source>the bib &quot;{}&quot; is no number above 0</source>
+        <translation>startovní číslo „{}“ není číslo větší než 0</translation>
+    </message>
+    <message>
+        <source>the bib {} is on line {} already</source>
+        <translation>startovní číslo {} už je na řádku {}</translation>
+    </message>
+    <message>
+        <source>the lines before have no start</source>
+        <translation>předchozí řádky nemají start</translation>
+    </message>
+    <message>
+        <source>the start &quot;{}&quot; is neither a time of day such as 10:01:30 nor a number in an order</source>
+        <translation>start „{}“ není čas jako 10:01:30 ani číslo v pořadí</translation>
+    </message>
+    <message>
+        <source>there is no name</source>
+        <translation>chybí jméno</translation>
+    </message>
+    <message>
+        <source>there is no number in the order</source>
+        <translation>chybí číslo v pořadí</translation>
+    </message>
+    <message>
+        <source>there is no start time, which the others have</source>
+        <translation>chybí čas startu, který ostatní mají</translation>
+    </message>
+    <message>
+        <source>{} cannot attack and defend at once.</source>
+        <translation>{} nemůže zároveň útočit a bránit.</translation>
+    </message>
+    <message>
+        <source>{} is already in this heat.</source>
+        <translation>{} už v této rozjížďce je.</translation>
+    </message>
+    <message>
+        <source>{} is not in this heat.</source>
+        <translation>{} v této rozjížďce není.</translation>
+    </message>
+    <message>
+        <source>{} stands twice among the defenders.</source>
+        <translation>{} je mezi obránci dvakrát.</translation>
+    </message>
+    <message>
+        <source>{} stands twice in the heat.</source>
+        <translation>{} je v rozjížďce dvakrát.</translation>
+    </message>
+    <message>
+        <source>{} stands twice in the order.</source>
+        <translation>{} je v pořadí dvakrát.</translation>
+    </message>
+    <message>
+        <source>{} without any detail.</source>
+        <translation>{} bez jakéhokoli detailu.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>

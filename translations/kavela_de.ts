@@ -6897,6 +6897,277 @@
         <source>{}: the column is {}</source>
         <translation>{}: Art der Spalte: {}</translation>
     </message>
+    <message>
+        <source>1 field where a bib and a name are needed</source>
+        <translation>1 Feld, wo eine Startnummer und ein Name nötig sind</translation>
+    </message>
+    <message>
+        <source>A bracket { is not closed.</source>
+        <translation>Eine Klammer { ist nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>A computer with Windows cannot take this name.</source>
+        <translation>Ein Computer mit Windows nimmt diesen Namen nicht an.</translation>
+    </message>
+    <message>
+        <source>A heat has one to four boats.</source>
+        <translation>Ein Heat hat ein bis vier Boote.</translation>
+    </message>
+    <message>
+        <source>An unnamed boat is not in this heat.</source>
+        <translation>Ein unbenanntes Boot ist nicht in diesem Heat.</translation>
+    </message>
+    <message>
+        <source>Both are kept: the one of this computer is “{}” now.</source>
+        <translation>Beide bleiben erhalten: Das von diesem Computer heißt jetzt „{}“.</translation>
+    </message>
+    <message>
+        <source>Both sides have the same.</source>
+        <translation>Beide Seiten haben dasselbe.</translation>
+    </message>
+    <message>
+        <source>Gate {}: it is not on the cross course.</source>
+        <translation>Tor {}: Es ist nicht auf der Cross-Strecke.</translation>
+    </message>
+    <message>
+        <source>Gate {}: {}</source>
+        <translation>Tor {}: {}</translation>
+    </message>
+    <message>
+        <source>It could not be given another name. Compare again.</source>
+        <translation>Es konnte keinen anderen Namen erhalten. Vergleichen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>It is here again. Compare again.</source>
+        <translation>Es ist wieder hier. Vergleichen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>It is not here any more.</source>
+        <translation>Es ist nicht mehr hier.</translation>
+    </message>
+    <message>
+        <source>It is not on the server any more. Compare again.</source>
+        <translation>Es ist nicht mehr auf dem Server. Vergleichen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>It is not on the server yet: {}</source>
+        <translation>Es ist noch nicht auf dem Server: {}</translation>
+    </message>
+    <message>
+        <source>It is on the server again. Compare again.</source>
+        <translation>Es ist wieder auf dem Server. Vergleichen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>It was changed here meanwhile. Compare again.</source>
+        <translation>Es wurde inzwischen hier geändert. Vergleichen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>It was changed on the server meanwhile. Compare again.</source>
+        <translation>Es wurde inzwischen auf dem Server geändert. Vergleichen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>It was changed while it was sent. Compare again.</source>
+        <translation>Es wurde beim Senden geändert. Vergleichen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>Its name has control characters.</source>
+        <translation>Sein Name hat Steuerzeichen.</translation>
+    </message>
+    <message>
+        <source>Its name is no text.</source>
+        <translation>Sein Name ist kein Text.</translation>
+    </message>
+    <message>
+        <source>Its name is too long.</source>
+        <translation>Sein Name ist zu lang.</translation>
+    </message>
+    <message>
+        <source>Its name leads out of the folder.</source>
+        <translation>Sein Name führt aus dem Ordner hinaus.</translation>
+    </message>
+    <message>
+        <source>No mark tells yet how this camera&apos;s film lies beside the run&apos;s first one: mark one moment on both in split taking.</source>
+        <translation>Noch sagt keine Marke, wie der Film dieser Kamera neben dem ersten des Laufs liegt: Markieren Sie einen Moment auf beiden in der Zwischenzeitnahme.</translation>
+    </message>
+    <message>
+        <source>This is a fixed camera beside the run&apos;s own film: synchronise the two in split taking first.</source>
+        <translation>Das ist eine feste Kamera neben dem eigenen Film des Laufs: Synchronisieren Sie die beiden zuerst in der Zwischenzeitnahme.</translation>
+    </message>
+    <message>
+        <source>The course has {}, and this line is for split {}.</source>
+        <translation>Die Strecke hat {}, und diese Linie ist für Zwischenzeit {}.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} splits</source>
+        <translation>
+            <numerusform>{} Zwischenzeit</numerusform>
+            <numerusform>{} Zwischenzeiten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file that came has gone.</source>
+        <translation>Die angekommene Datei ist verschwunden.</translation>
+    </message>
+    <message>
+        <source>The file that came is not what its checksum says.</source>
+        <translation>Die angekommene Datei ist nicht, was ihre Prüfsumme sagt.</translation>
+    </message>
+    <message>
+        <source>The pattern holds no bracket such as {name}.</source>
+        <translation>Das Muster enthält keine Klammer wie {name}.</translation>
+    </message>
+    <message>
+        <source>The same bracket stands twice.</source>
+        <translation>Dieselbe Klammer steht zweimal.</translation>
+    </message>
+    <message>
+        <source>Two brackets stand side by side: nothing tells where one ends.</source>
+        <translation>Zwei Klammern stehen nebeneinander: Nichts sagt, wo eine endet.</translation>
+    </message>
+    <message>
+        <source>{{{}}} is not known. There are {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} and {{any}}.</source>
+        <translation>{{{}}} ist unbekannt. Es gibt {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} und {{any}}.</translation>
+    </message>
+    <message>
+        <source>{any} does not say what is to stand there.</source>
+        <translation>{any} sagt nicht, was dort stehen soll.</translation>
+    </message>
+    <message>
+        <source>The server has kept another length than was sent.</source>
+        <translation>Der Server hat eine andere Länge behalten, als gesendet wurde.</translation>
+    </message>
+    <message>
+        <source>The server told another length than it sent.</source>
+        <translation>Der Server nannte eine andere Länge, als er sendete.</translation>
+    </message>
+    <message>
+        <source>The server took the file and does not have it.</source>
+        <translation>Der Server nahm die Datei und hat sie nicht.</translation>
+    </message>
+    <message>
+        <source>There are more than four boats in this heat.</source>
+        <translation>In diesem Heat sind mehr als vier Boote.</translation>
+    </message>
+    <message>
+        <source>all gates</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>by its name</source>
+        <translation>nach dem Namen</translation>
+    </message>
+    <message>
+        <source>by the order</source>
+        <translation>nach der Reihenfolge</translation>
+    </message>
+    <message>
+        <source>the second boat of a long film</source>
+        <translation>das zweite Boot eines langen Films</translation>
+    </message>
+    <message>
+        <source>{} s from its start</source>
+        <translation>{} s von seinem Start</translation>
+    </message>
+    <message>
+        <source>{} s from its start, if the camera&apos;s clock is wrong</source>
+        <translation>{} s von seinem Start, falls die Uhr der Kamera falsch geht</translation>
+    </message>
+    <message>
+        <source>downstream</source>
+        <translation>abwärts</translation>
+    </message>
+    <message>
+        <source>mixed</source>
+        <translation>gemischt</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>first third</source>
+        <translation>erstes Drittel</translation>
+    </message>
+    <message>
+        <source>second third</source>
+        <translation>zweites Drittel</translation>
+    </message>
+    <message>
+        <source>last third</source>
+        <translation>letztes Drittel</translation>
+    </message>
+    <message>
+        <source>no name is known</source>
+        <translation>kein Name ist bekannt</translation>
+    </message>
+    <message>
+        <source>no {} is known</source>
+        <translation>nicht bekannt: {}</translation>
+    </message>
+    <message>
+        <source>nothing would be left of the name</source>
+        <translation>vom Namen bliebe nichts übrig</translation>
+    </message>
+    <message>
+        <source>the name would be too long</source>
+        <translation>der Name wäre zu lang</translation>
+    </message>
+    <message>
+        <source>the bib &quot;{}&quot; is no number above 0</source>
+        <translation>die Startnummer „{}“ ist keine Zahl über 0</translation>
+    </message>
+    <message>
+        <source>the bib {} is on line {} already</source>
+        <translation>die Startnummer {} steht schon in Zeile {}</translation>
+    </message>
+    <message>
+        <source>the lines before have no start</source>
+        <translation>die Zeilen davor haben keinen Start</translation>
+    </message>
+    <message>
+        <source>the start &quot;{}&quot; is neither a time of day such as 10:01:30 nor a number in an order</source>
+        <translation>der Start „{}“ ist weder eine Uhrzeit wie 10:01:30 noch eine Nummer einer Reihenfolge</translation>
+    </message>
+    <message>
+        <source>there is no name</source>
+        <translation>es gibt keinen Namen</translation>
+    </message>
+    <message>
+        <source>there is no number in the order</source>
+        <translation>es gibt keine Nummer in der Reihenfolge</translation>
+    </message>
+    <message>
+        <source>there is no start time, which the others have</source>
+        <translation>es gibt keine Startzeit, die die anderen haben</translation>
+    </message>
+    <message>
+        <source>{} cannot attack and defend at once.</source>
+        <translation>{} kann nicht zugleich angreifen und verteidigen.</translation>
+    </message>
+    <message>
+        <source>{} is already in this heat.</source>
+        <translation>{} ist schon in diesem Heat.</translation>
+    </message>
+    <message>
+        <source>{} is not in this heat.</source>
+        <translation>{} ist nicht in diesem Heat.</translation>
+    </message>
+    <message>
+        <source>{} stands twice among the defenders.</source>
+        <translation>{} steht zweimal unter den Verteidigern.</translation>
+    </message>
+    <message>
+        <source>{} stands twice in the heat.</source>
+        <translation>{} steht zweimal im Heat.</translation>
+    </message>
+    <message>
+        <source>{} stands twice in the order.</source>
+        <translation>{} steht zweimal in der Reihenfolge.</translation>
+    </message>
+    <message>
+        <source>{} without any detail.</source>
+        <translation>{} ohne jede Einzelheit.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>

@@ -6897,6 +6897,277 @@
         <source>{}: the column is {}</source>
         <translation>{}: la columna es {}</translation>
     </message>
+    <message>
+        <source>1 field where a bib and a name are needed</source>
+        <translation>1 campo donde hacen falta un dorsal y un nombre</translation>
+    </message>
+    <message>
+        <source>A bracket { is not closed.</source>
+        <translation>Una llave { no está cerrada.</translation>
+    </message>
+    <message>
+        <source>A computer with Windows cannot take this name.</source>
+        <translation>Un ordenador con Windows no acepta este nombre.</translation>
+    </message>
+    <message>
+        <source>A heat has one to four boats.</source>
+        <translation>Una serie tiene de uno a cuatro barcos.</translation>
+    </message>
+    <message>
+        <source>An unnamed boat is not in this heat.</source>
+        <translation>Un barco sin nombre no está en esta serie.</translation>
+    </message>
+    <message>
+        <source>Both are kept: the one of this computer is “{}” now.</source>
+        <translation>Se conservan ambos: el de este ordenador ahora es «{}».</translation>
+    </message>
+    <message>
+        <source>Both sides have the same.</source>
+        <translation>Ambos lados tienen lo mismo.</translation>
+    </message>
+    <message>
+        <source>Gate {}: it is not on the cross course.</source>
+        <translation>Puerta {}: no está en el recorrido de cross.</translation>
+    </message>
+    <message>
+        <source>Gate {}: {}</source>
+        <translation>Puerta {}: {}</translation>
+    </message>
+    <message>
+        <source>It could not be given another name. Compare again.</source>
+        <translation>No se le pudo dar otro nombre. Compara de nuevo.</translation>
+    </message>
+    <message>
+        <source>It is here again. Compare again.</source>
+        <translation>Está aquí de nuevo. Compara de nuevo.</translation>
+    </message>
+    <message>
+        <source>It is not here any more.</source>
+        <translation>Ya no está aquí.</translation>
+    </message>
+    <message>
+        <source>It is not on the server any more. Compare again.</source>
+        <translation>Ya no está en el servidor. Compara de nuevo.</translation>
+    </message>
+    <message>
+        <source>It is not on the server yet: {}</source>
+        <translation>Aún no está en el servidor: {}</translation>
+    </message>
+    <message>
+        <source>It is on the server again. Compare again.</source>
+        <translation>Está de nuevo en el servidor. Compara de nuevo.</translation>
+    </message>
+    <message>
+        <source>It was changed here meanwhile. Compare again.</source>
+        <translation>Mientras tanto se modificó aquí. Compara de nuevo.</translation>
+    </message>
+    <message>
+        <source>It was changed on the server meanwhile. Compare again.</source>
+        <translation>Mientras tanto se modificó en el servidor. Compara de nuevo.</translation>
+    </message>
+    <message>
+        <source>It was changed while it was sent. Compare again.</source>
+        <translation>Se modificó mientras se enviaba. Compara de nuevo.</translation>
+    </message>
+    <message>
+        <source>Its name has control characters.</source>
+        <translation>Su nombre tiene caracteres de control.</translation>
+    </message>
+    <message>
+        <source>Its name is no text.</source>
+        <translation>Su nombre no es texto.</translation>
+    </message>
+    <message>
+        <source>Its name is too long.</source>
+        <translation>Su nombre es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>Its name leads out of the folder.</source>
+        <translation>Su nombre lleva fuera de la carpeta.</translation>
+    </message>
+    <message>
+        <source>No mark tells yet how this camera&apos;s film lies beside the run&apos;s first one: mark one moment on both in split taking.</source>
+        <translation>Ninguna marca indica aún cómo está el vídeo de esta cámara respecto al primero de la manga: marca un momento en ambos en la toma de parciales.</translation>
+    </message>
+    <message>
+        <source>This is a fixed camera beside the run&apos;s own film: synchronise the two in split taking first.</source>
+        <translation>Es una cámara fija junto al propio vídeo de la manga: sincroniza antes los dos en la toma de parciales.</translation>
+    </message>
+    <message>
+        <source>The course has {}, and this line is for split {}.</source>
+        <translation>El recorrido tiene {} y esta línea es para el parcial {}.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} splits</source>
+        <translation>
+            <numerusform>{} parcial</numerusform>
+            <numerusform>{} parciales</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file that came has gone.</source>
+        <translation>El archivo que llegó ha desaparecido.</translation>
+    </message>
+    <message>
+        <source>The file that came is not what its checksum says.</source>
+        <translation>El archivo que llegó no es lo que dice su suma de comprobación.</translation>
+    </message>
+    <message>
+        <source>The pattern holds no bracket such as {name}.</source>
+        <translation>El patrón no contiene ninguna llave como {name}.</translation>
+    </message>
+    <message>
+        <source>The same bracket stands twice.</source>
+        <translation>La misma llave está dos veces.</translation>
+    </message>
+    <message>
+        <source>Two brackets stand side by side: nothing tells where one ends.</source>
+        <translation>Hay dos llaves seguidas: nada indica dónde acaba una.</translation>
+    </message>
+    <message>
+        <source>{{{}}} is not known. There are {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} and {{any}}.</source>
+        <translation>{{{}}} no se conoce. Hay {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} y {{any}}.</translation>
+    </message>
+    <message>
+        <source>{any} does not say what is to stand there.</source>
+        <translation>{any} no dice qué debe ir ahí.</translation>
+    </message>
+    <message>
+        <source>The server has kept another length than was sent.</source>
+        <translation>El servidor guardó otra longitud que la enviada.</translation>
+    </message>
+    <message>
+        <source>The server told another length than it sent.</source>
+        <translation>El servidor indicó otra longitud que la que envió.</translation>
+    </message>
+    <message>
+        <source>The server took the file and does not have it.</source>
+        <translation>El servidor aceptó el archivo y no lo tiene.</translation>
+    </message>
+    <message>
+        <source>There are more than four boats in this heat.</source>
+        <translation>Hay más de cuatro barcos en esta serie.</translation>
+    </message>
+    <message>
+        <source>all gates</source>
+        <translation>todos</translation>
+    </message>
+    <message>
+        <source>by its name</source>
+        <translation>por su nombre</translation>
+    </message>
+    <message>
+        <source>by the order</source>
+        <translation>por el orden</translation>
+    </message>
+    <message>
+        <source>the second boat of a long film</source>
+        <translation>el segundo barco de un vídeo largo</translation>
+    </message>
+    <message>
+        <source>{} s from its start</source>
+        <translation>a {} s de su salida</translation>
+    </message>
+    <message>
+        <source>{} s from its start, if the camera&apos;s clock is wrong</source>
+        <translation>a {} s de su salida, si el reloj de la cámara está mal</translation>
+    </message>
+    <message>
+        <source>downstream</source>
+        <translation>a favor</translation>
+    </message>
+    <message>
+        <source>mixed</source>
+        <translation>mixto</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>first third</source>
+        <translation>primer tercio</translation>
+    </message>
+    <message>
+        <source>second third</source>
+        <translation>segundo tercio</translation>
+    </message>
+    <message>
+        <source>last third</source>
+        <translation>último tercio</translation>
+    </message>
+    <message>
+        <source>no name is known</source>
+        <translation>no se conoce el nombre</translation>
+    </message>
+    <message>
+        <source>no {} is known</source>
+        <translation>no se conoce: {}</translation>
+    </message>
+    <message>
+        <source>nothing would be left of the name</source>
+        <translation>no quedaría nada del nombre</translation>
+    </message>
+    <message>
+        <source>the name would be too long</source>
+        <translation>el nombre sería demasiado largo</translation>
+    </message>
+    <message>
+        <source>the bib &quot;{}&quot; is no number above 0</source>
+        <translation>el dorsal «{}» no es un número mayor que 0</translation>
+    </message>
+    <message>
+        <source>the bib {} is on line {} already</source>
+        <translation>el dorsal {} ya está en la línea {}</translation>
+    </message>
+    <message>
+        <source>the lines before have no start</source>
+        <translation>las líneas anteriores no tienen salida</translation>
+    </message>
+    <message>
+        <source>the start &quot;{}&quot; is neither a time of day such as 10:01:30 nor a number in an order</source>
+        <translation>la salida «{}» no es una hora como 10:01:30 ni un número de orden</translation>
+    </message>
+    <message>
+        <source>there is no name</source>
+        <translation>no hay nombre</translation>
+    </message>
+    <message>
+        <source>there is no number in the order</source>
+        <translation>no hay número de orden</translation>
+    </message>
+    <message>
+        <source>there is no start time, which the others have</source>
+        <translation>no hay hora de salida, que los demás tienen</translation>
+    </message>
+    <message>
+        <source>{} cannot attack and defend at once.</source>
+        <translation>{} no puede atacar y defender a la vez.</translation>
+    </message>
+    <message>
+        <source>{} is already in this heat.</source>
+        <translation>{} ya está en esta serie.</translation>
+    </message>
+    <message>
+        <source>{} is not in this heat.</source>
+        <translation>{} no está en esta serie.</translation>
+    </message>
+    <message>
+        <source>{} stands twice among the defenders.</source>
+        <translation>{} está dos veces entre los defensores.</translation>
+    </message>
+    <message>
+        <source>{} stands twice in the heat.</source>
+        <translation>{} está dos veces en la serie.</translation>
+    </message>
+    <message>
+        <source>{} stands twice in the order.</source>
+        <translation>{} está dos veces en el orden.</translation>
+    </message>
+    <message>
+        <source>{} without any detail.</source>
+        <translation>{} sin ningún detalle.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>

@@ -6897,6 +6897,277 @@
         <source>{}: the column is {}</source>
         <translation>{} : la colonne est {}</translation>
     </message>
+    <message>
+        <source>1 field where a bib and a name are needed</source>
+        <translation>1 champ là où il faut un dossard et un nom</translation>
+    </message>
+    <message>
+        <source>A bracket { is not closed.</source>
+        <translation>Une accolade { n’est pas fermée.</translation>
+    </message>
+    <message>
+        <source>A computer with Windows cannot take this name.</source>
+        <translation>Un ordinateur sous Windows n’accepte pas ce nom.</translation>
+    </message>
+    <message>
+        <source>A heat has one to four boats.</source>
+        <translation>Une série a de un à quatre bateaux.</translation>
+    </message>
+    <message>
+        <source>An unnamed boat is not in this heat.</source>
+        <translation>Un bateau sans nom n’est pas dans cette série.</translation>
+    </message>
+    <message>
+        <source>Both are kept: the one of this computer is “{}” now.</source>
+        <translation>Les deux sont conservés : celui de cet ordinateur est maintenant « {} ».</translation>
+    </message>
+    <message>
+        <source>Both sides have the same.</source>
+        <translation>Les deux côtés ont le même.</translation>
+    </message>
+    <message>
+        <source>Gate {}: it is not on the cross course.</source>
+        <translation>Porte {} : elle n’est pas sur le parcours de cross.</translation>
+    </message>
+    <message>
+        <source>Gate {}: {}</source>
+        <translation>Porte {} : {}</translation>
+    </message>
+    <message>
+        <source>It could not be given another name. Compare again.</source>
+        <translation>Un autre nom n’a pas pu être donné. Comparez à nouveau.</translation>
+    </message>
+    <message>
+        <source>It is here again. Compare again.</source>
+        <translation>Il est de nouveau ici. Comparez à nouveau.</translation>
+    </message>
+    <message>
+        <source>It is not here any more.</source>
+        <translation>Il n’est plus ici.</translation>
+    </message>
+    <message>
+        <source>It is not on the server any more. Compare again.</source>
+        <translation>Il n’est plus sur le serveur. Comparez à nouveau.</translation>
+    </message>
+    <message>
+        <source>It is not on the server yet: {}</source>
+        <translation>Il n’est pas encore sur le serveur : {}</translation>
+    </message>
+    <message>
+        <source>It is on the server again. Compare again.</source>
+        <translation>Il est de nouveau sur le serveur. Comparez à nouveau.</translation>
+    </message>
+    <message>
+        <source>It was changed here meanwhile. Compare again.</source>
+        <translation>Il a été modifié ici entre-temps. Comparez à nouveau.</translation>
+    </message>
+    <message>
+        <source>It was changed on the server meanwhile. Compare again.</source>
+        <translation>Il a été modifié entre-temps sur le serveur. Comparez à nouveau.</translation>
+    </message>
+    <message>
+        <source>It was changed while it was sent. Compare again.</source>
+        <translation>Il a été modifié pendant l’envoi. Comparez à nouveau.</translation>
+    </message>
+    <message>
+        <source>Its name has control characters.</source>
+        <translation>Son nom a des caractères de contrôle.</translation>
+    </message>
+    <message>
+        <source>Its name is no text.</source>
+        <translation>Son nom n’est pas du texte.</translation>
+    </message>
+    <message>
+        <source>Its name is too long.</source>
+        <translation>Son nom est trop long.</translation>
+    </message>
+    <message>
+        <source>Its name leads out of the folder.</source>
+        <translation>Son nom mène hors du dossier.</translation>
+    </message>
+    <message>
+        <source>No mark tells yet how this camera&apos;s film lies beside the run&apos;s first one: mark one moment on both in split taking.</source>
+        <translation>Aucune marque ne dit encore comment le film de cette caméra se place par rapport au premier de la manche : marquez un moment sur les deux dans la prise de temps.</translation>
+    </message>
+    <message>
+        <source>This is a fixed camera beside the run&apos;s own film: synchronise the two in split taking first.</source>
+        <translation>C’est une caméra fixe à côté du film de la manche : synchronisez d’abord les deux dans la prise de temps.</translation>
+    </message>
+    <message>
+        <source>The course has {}, and this line is for split {}.</source>
+        <translation>Le parcours a {}, et cette ligne est pour l’inter {}.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} splits</source>
+        <translation>
+            <numerusform>{} inter</numerusform>
+            <numerusform>{} inters</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file that came has gone.</source>
+        <translation>Le fichier arrivé a disparu.</translation>
+    </message>
+    <message>
+        <source>The file that came is not what its checksum says.</source>
+        <translation>Le fichier arrivé n’est pas ce que dit sa somme de contrôle.</translation>
+    </message>
+    <message>
+        <source>The pattern holds no bracket such as {name}.</source>
+        <translation>Le modèle ne contient aucune accolade telle que {name}.</translation>
+    </message>
+    <message>
+        <source>The same bracket stands twice.</source>
+        <translation>La même accolade figure deux fois.</translation>
+    </message>
+    <message>
+        <source>Two brackets stand side by side: nothing tells where one ends.</source>
+        <translation>Deux accolades se suivent : rien ne dit où l’une finit.</translation>
+    </message>
+    <message>
+        <source>{{{}}} is not known. There are {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} and {{any}}.</source>
+        <translation>{{{}}} est inconnu. Il y a {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} et {{any}}.</translation>
+    </message>
+    <message>
+        <source>{any} does not say what is to stand there.</source>
+        <translation>{any} ne dit pas ce qui doit s’y trouver.</translation>
+    </message>
+    <message>
+        <source>The server has kept another length than was sent.</source>
+        <translation>Le serveur a gardé une autre longueur que celle envoyée.</translation>
+    </message>
+    <message>
+        <source>The server told another length than it sent.</source>
+        <translation>Le serveur a annoncé une autre longueur que celle envoyée.</translation>
+    </message>
+    <message>
+        <source>The server took the file and does not have it.</source>
+        <translation>Le serveur a pris le fichier et ne l’a pas.</translation>
+    </message>
+    <message>
+        <source>There are more than four boats in this heat.</source>
+        <translation>Il y a plus de quatre bateaux dans cette série.</translation>
+    </message>
+    <message>
+        <source>all gates</source>
+        <translation>toutes</translation>
+    </message>
+    <message>
+        <source>by its name</source>
+        <translation>par son nom</translation>
+    </message>
+    <message>
+        <source>by the order</source>
+        <translation>par l’ordre</translation>
+    </message>
+    <message>
+        <source>the second boat of a long film</source>
+        <translation>le second bateau d’un long film</translation>
+    </message>
+    <message>
+        <source>{} s from its start</source>
+        <translation>à {} s de son départ</translation>
+    </message>
+    <message>
+        <source>{} s from its start, if the camera&apos;s clock is wrong</source>
+        <translation>à {} s de son départ, si l’horloge de la caméra est fausse</translation>
+    </message>
+    <message>
+        <source>downstream</source>
+        <translation>descendue</translation>
+    </message>
+    <message>
+        <source>mixed</source>
+        <translation>mixte</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>first third</source>
+        <translation>premier tiers</translation>
+    </message>
+    <message>
+        <source>second third</source>
+        <translation>deuxième tiers</translation>
+    </message>
+    <message>
+        <source>last third</source>
+        <translation>dernier tiers</translation>
+    </message>
+    <message>
+        <source>no name is known</source>
+        <translation>aucun nom n’est connu</translation>
+    </message>
+    <message>
+        <source>no {} is known</source>
+        <translation>inconnu : {}</translation>
+    </message>
+    <message>
+        <source>nothing would be left of the name</source>
+        <translation>il ne resterait rien du nom</translation>
+    </message>
+    <message>
+        <source>the name would be too long</source>
+        <translation>le nom serait trop long</translation>
+    </message>
+    <message>
+        <source>the bib &quot;{}&quot; is no number above 0</source>
+        <translation>le dossard « {} » n’est pas un nombre supérieur à 0</translation>
+    </message>
+    <message>
+        <source>the bib {} is on line {} already</source>
+        <translation>le dossard {} est déjà à la ligne {}</translation>
+    </message>
+    <message>
+        <source>the lines before have no start</source>
+        <translation>les lignes précédentes n’ont pas de départ</translation>
+    </message>
+    <message>
+        <source>the start &quot;{}&quot; is neither a time of day such as 10:01:30 nor a number in an order</source>
+        <translation>le départ « {} » n’est ni une heure telle que 10:01:30 ni un numéro d’ordre</translation>
+    </message>
+    <message>
+        <source>there is no name</source>
+        <translation>il n’y a pas de nom</translation>
+    </message>
+    <message>
+        <source>there is no number in the order</source>
+        <translation>il n’y a pas de numéro d’ordre</translation>
+    </message>
+    <message>
+        <source>there is no start time, which the others have</source>
+        <translation>il n’y a pas d’heure de départ, que les autres ont</translation>
+    </message>
+    <message>
+        <source>{} cannot attack and defend at once.</source>
+        <translation>{} ne peut pas attaquer et défendre à la fois.</translation>
+    </message>
+    <message>
+        <source>{} is already in this heat.</source>
+        <translation>{} est déjà dans cette série.</translation>
+    </message>
+    <message>
+        <source>{} is not in this heat.</source>
+        <translation>{} n’est pas dans cette série.</translation>
+    </message>
+    <message>
+        <source>{} stands twice among the defenders.</source>
+        <translation>{} figure deux fois parmi les défenseurs.</translation>
+    </message>
+    <message>
+        <source>{} stands twice in the heat.</source>
+        <translation>{} figure deux fois dans la série.</translation>
+    </message>
+    <message>
+        <source>{} stands twice in the order.</source>
+        <translation>{} figure deux fois dans l’ordre.</translation>
+    </message>
+    <message>
+        <source>{} without any detail.</source>
+        <translation>{} sans aucun détail.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
