@@ -7205,6 +7205,218 @@
         <source>{} without any detail.</source>
         <translation>{} bez jakéhokoli detailu.</translation>
     </message>
+    <message>
+        <source>A brace is opened and not closed: {}</source>
+        <translation>Závorka je otevřena a neuzavřena: {}</translation>
+    </message>
+    <message>
+        <source>Aerial phase</source>
+        <translation>Vzdušná fáze</translation>
+    </message>
+    <message>
+        <source>Water phase</source>
+        <translation>Vodní fáze</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Úhel</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Vzdálenost</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Odpor</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Trvání</translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation>Síla</translation>
+    </message>
+    <message>
+        <source>Hand</source>
+        <translation>Ruka</translation>
+    </message>
+    <message>
+        <source>Heart rate</source>
+        <translation>Tepová frekvence</translation>
+    </message>
+    <message>
+        <source>Impulse</source>
+        <translation>Impulz</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Výkon</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Rychlost</translation>
+    </message>
+    <message>
+        <source>Stroke rate</source>
+        <translation>Frekvence záběrů</translation>
+    </message>
+    <message>
+        <source>Single rate</source>
+        <translation>Frekvence záběru</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segment</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Hodnota</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Klonění</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>Kolébání</translation>
+    </message>
+    <message>
+        <source>Max acceleration</source>
+        <translation>Max. zrychlení</translation>
+    </message>
+    <message>
+        <source>Mean acceleration</source>
+        <translation>Prům. zrychlení</translation>
+    </message>
+    <message>
+        <source>Mean deceleration</source>
+        <translation>Prům. zpomalení</translation>
+    </message>
+    <message>
+        <source>Mean rotation</source>
+        <translation>Prům. otáčení</translation>
+    </message>
+    <message>
+        <source>Peak rotation</source>
+        <translation>Max. otáčení</translation>
+    </message>
+    <message>
+        <source>Mean push out</source>
+        <translation>Prům. vynášení</translation>
+    </message>
+    <message>
+        <source>Peak push out</source>
+        <translation>Max. vynášení</translation>
+    </message>
+    <message>
+        <source>Metres per stroke</source>
+        <translation>Metry na záběr</translation>
+    </message>
+    <message>
+        <source>Is in the folder.</source>
+        <translation>Je ve složce.</translation>
+    </message>
+    <message>
+        <source>It is a file. A folder is shared.</source>
+        <translation>To je soubor. Sdílí se složka.</translation>
+    </message>
+    <message>
+        <source>It is a link.</source>
+        <translation>To je odkaz.</translation>
+    </message>
+    <message>
+        <source>It lies too deep.</source>
+        <translation>Leží příliš hluboko.</translation>
+    </message>
+    <message>
+        <source>Lies on {}, which is not ticked.</source>
+        <translation>Leží na {}, což není zaškrtnuto.</translation>
+    </message>
+    <message>
+        <source>May also be bib {}.</source>
+        <translation>Může to být i startovní číslo {}.</translation>
+    </message>
+    <message>
+        <source>Only https:// keeps the password and the files from other readers.</source>
+        <translation>Jen https:// ochrání heslo a soubory před jinými čtenáři.</translation>
+    </message>
+    <message>
+        <source>The address asks for no {bib}, so that every run would have the same film.</source>
+        <translation>Adresa neobsahuje {bib}, takže by každá jízda měla stejné video.</translation>
+    </message>
+    <message>
+        <source>The address is that of a file. A folder is shared.</source>
+        <translation>Adresa patří souboru. Sdílí se složka.</translation>
+    </message>
+    <message>
+        <source>The address makes none for this run.</source>
+        <translation>Adresa pro tuto jízdu žádné nedává.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// and a server, whose name has no braces, user or password.</source>
+        <translation>Adresa musí začínat https:// a serverem, jehož jméno nemá závorky, uživatele ani heslo.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// and hold no user name and password.</source>
+        <translation>Adresa musí začínat https:// a neobsahovat uživatelské jméno ani heslo.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// or http:// and hold no user name and password.</source>
+        <translation>Adresa musí začínat https:// nebo http:// a neobsahovat uživatelské jméno ani heslo.</translation>
+    </message>
+    <message>
+        <source>The list has no film with this bib.</source>
+        <translation>V seznamu není video s tímto startovním číslem.</translation>
+    </message>
+    <message>
+        <source>The list tells no {} of this run.</source>
+        <translation>Seznam u této jízdy neuvádí: {}.</translation>
+    </message>
+    <message>
+        <source>number of the run</source>
+        <translation>číslo jízdy</translation>
+    </message>
+    <message>
+        <source>The pattern of names: {}</source>
+        <translation>Vzor jmen: {}</translation>
+    </message>
+    <message>
+        <source>The server does not speak WebDAV at this address.</source>
+        <translation>Server na této adrese nemluví WebDAV.</translation>
+    </message>
+    <message>
+        <source>The server has too many files to share.</source>
+        <translation>Server má na sdílení příliš mnoho souborů.</translation>
+    </message>
+    <message>
+        <source>The server says that it lies in another folder.</source>
+        <translation>Server říká, že leží v jiné složce.</translation>
+    </message>
+    <message>
+        <source>There are too many files to share.</source>
+        <translation>Souborů ke sdílení je příliš mnoho.</translation>
+    </message>
+    <message>
+        <source>There is no address yet.</source>
+        <translation>Adresa zatím chybí.</translation>
+    </message>
+    <message>
+        <source>There is no folder for the films yet.</source>
+        <translation>Složka pro videa zatím chybí.</translation>
+    </message>
+    <message>
+        <source>There is no start list, results list or split file for the bibs yet.</source>
+        <translation>Zatím chybí startovní listina, výsledková listina nebo soubor mezičasů pro startovní čísla.</translation>
+    </message>
+    <message>
+        <source>Would be more than 20 GB in one go.</source>
+        <translation>Bylo by to víc než 20 GB najednou.</translation>
+    </message>
+    <message>
+        <source>{{{}}} means nothing here: there are {{bib}}, {{category}}, {{phase}} and {{run}}.</source>
+        <translation>{{{}}} zde nic neznamená: jsou {{bib}}, {{category}}, {{phase}} a {{run}}.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>

@@ -7168,6 +7168,218 @@
         <source>{} without any detail.</source>
         <translation>{} ohne jede Einzelheit.</translation>
     </message>
+    <message>
+        <source>A brace is opened and not closed: {}</source>
+        <translation>Eine Klammer wird geöffnet und nicht geschlossen: {}</translation>
+    </message>
+    <message>
+        <source>Aerial phase</source>
+        <translation>Luftphase</translation>
+    </message>
+    <message>
+        <source>Water phase</source>
+        <translation>Wasserphase</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distanz</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Widerstand</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation>Kraft</translation>
+    </message>
+    <message>
+        <source>Hand</source>
+        <translation>Hand</translation>
+    </message>
+    <message>
+        <source>Heart rate</source>
+        <translation>Herzfrequenz</translation>
+    </message>
+    <message>
+        <source>Impulse</source>
+        <translation>Impuls</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Leistung</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Stroke rate</source>
+        <translation>Schlagfrequenz</translation>
+    </message>
+    <message>
+        <source>Single rate</source>
+        <translation>Einzelfrequenz</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segment</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Rollen</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>Stampfen</translation>
+    </message>
+    <message>
+        <source>Max acceleration</source>
+        <translation>Max. Beschleunigung</translation>
+    </message>
+    <message>
+        <source>Mean acceleration</source>
+        <translation>Mittl. Beschleunigung</translation>
+    </message>
+    <message>
+        <source>Mean deceleration</source>
+        <translation>Mittl. Verzögerung</translation>
+    </message>
+    <message>
+        <source>Mean rotation</source>
+        <translation>Mittl. Drehung</translation>
+    </message>
+    <message>
+        <source>Peak rotation</source>
+        <translation>Höchste Drehung</translation>
+    </message>
+    <message>
+        <source>Mean push out</source>
+        <translation>Mittl. Querschub</translation>
+    </message>
+    <message>
+        <source>Peak push out</source>
+        <translation>Höchster Querschub</translation>
+    </message>
+    <message>
+        <source>Metres per stroke</source>
+        <translation>Meter je Schlag</translation>
+    </message>
+    <message>
+        <source>Is in the folder.</source>
+        <translation>Ist im Ordner.</translation>
+    </message>
+    <message>
+        <source>It is a file. A folder is shared.</source>
+        <translation>Das ist eine Datei. Geteilt wird ein Ordner.</translation>
+    </message>
+    <message>
+        <source>It is a link.</source>
+        <translation>Das ist eine Verknüpfung.</translation>
+    </message>
+    <message>
+        <source>It lies too deep.</source>
+        <translation>Es liegt zu tief.</translation>
+    </message>
+    <message>
+        <source>Lies on {}, which is not ticked.</source>
+        <translation>Liegt auf {}, das nicht abgehakt ist.</translation>
+    </message>
+    <message>
+        <source>May also be bib {}.</source>
+        <translation>Kann auch Startnummer {} sein.</translation>
+    </message>
+    <message>
+        <source>Only https:// keeps the password and the files from other readers.</source>
+        <translation>Nur https:// hält Passwort und Dateien vor anderen Lesern verborgen.</translation>
+    </message>
+    <message>
+        <source>The address asks for no {bib}, so that every run would have the same film.</source>
+        <translation>Die Adresse fragt nach keiner {bib}, sodass jeder Lauf denselben Film hätte.</translation>
+    </message>
+    <message>
+        <source>The address is that of a file. A folder is shared.</source>
+        <translation>Die Adresse gehört zu einer Datei. Geteilt wird ein Ordner.</translation>
+    </message>
+    <message>
+        <source>The address makes none for this run.</source>
+        <translation>Die Adresse ergibt keinen für diesen Lauf.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// and a server, whose name has no braces, user or password.</source>
+        <translation>Die Adresse muss mit https:// und einem Server beginnen, dessen Name keine Klammern, Benutzer oder Passwörter hat.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// and hold no user name and password.</source>
+        <translation>Die Adresse muss mit https:// beginnen und darf weder Benutzername noch Passwort enthalten.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// or http:// and hold no user name and password.</source>
+        <translation>Die Adresse muss mit https:// oder http:// beginnen und darf weder Benutzername noch Passwort enthalten.</translation>
+    </message>
+    <message>
+        <source>The list has no film with this bib.</source>
+        <translation>Die Liste hat keinen Film mit dieser Startnummer.</translation>
+    </message>
+    <message>
+        <source>The list tells no {} of this run.</source>
+        <translation>Die Liste nennt von diesem Lauf nicht: {}.</translation>
+    </message>
+    <message>
+        <source>number of the run</source>
+        <translation>Nummer des Laufs</translation>
+    </message>
+    <message>
+        <source>The pattern of names: {}</source>
+        <translation>Das Muster der Namen: {}</translation>
+    </message>
+    <message>
+        <source>The server does not speak WebDAV at this address.</source>
+        <translation>Der Server spricht unter dieser Adresse kein WebDAV.</translation>
+    </message>
+    <message>
+        <source>The server has too many files to share.</source>
+        <translation>Der Server hat zu viele Dateien zum Teilen.</translation>
+    </message>
+    <message>
+        <source>The server says that it lies in another folder.</source>
+        <translation>Der Server sagt, es liege in einem anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>There are too many files to share.</source>
+        <translation>Es sind zu viele Dateien zum Teilen.</translation>
+    </message>
+    <message>
+        <source>There is no address yet.</source>
+        <translation>Es gibt noch keine Adresse.</translation>
+    </message>
+    <message>
+        <source>There is no folder for the films yet.</source>
+        <translation>Es gibt noch keinen Ordner für die Filme.</translation>
+    </message>
+    <message>
+        <source>There is no start list, results list or split file for the bibs yet.</source>
+        <translation>Es gibt noch keine Startliste, Ergebnisliste oder Zwischenzeitdatei für die Startnummern.</translation>
+    </message>
+    <message>
+        <source>Would be more than 20 GB in one go.</source>
+        <translation>Wären mehr als 20 GB auf einmal.</translation>
+    </message>
+    <message>
+        <source>{{{}}} means nothing here: there are {{bib}}, {{category}}, {{phase}} and {{run}}.</source>
+        <translation>{{{}}} bedeutet hier nichts: Es gibt {{bib}}, {{category}}, {{phase}} und {{run}}.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>

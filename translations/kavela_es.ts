@@ -7168,6 +7168,218 @@
         <source>{} without any detail.</source>
         <translation>{} sin ningún detalle.</translation>
     </message>
+    <message>
+        <source>A brace is opened and not closed: {}</source>
+        <translation>Una llave se abre y no se cierra: {}</translation>
+    </message>
+    <message>
+        <source>Aerial phase</source>
+        <translation>Fase aérea</translation>
+    </message>
+    <message>
+        <source>Water phase</source>
+        <translation>Fase acuática</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Ángulo</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distancia</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Resistencia</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation>Fuerza</translation>
+    </message>
+    <message>
+        <source>Hand</source>
+        <translation>Mano</translation>
+    </message>
+    <message>
+        <source>Heart rate</source>
+        <translation>Frec. cardiaca</translation>
+    </message>
+    <message>
+        <source>Impulse</source>
+        <translation>Impulso</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Potencia</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Stroke rate</source>
+        <translation>Frec. de palada</translation>
+    </message>
+    <message>
+        <source>Single rate</source>
+        <translation>Frec. de una palada</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segmento</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Balanceo</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>Cabeceo</translation>
+    </message>
+    <message>
+        <source>Max acceleration</source>
+        <translation>Aceleración máx.</translation>
+    </message>
+    <message>
+        <source>Mean acceleration</source>
+        <translation>Aceleración media</translation>
+    </message>
+    <message>
+        <source>Mean deceleration</source>
+        <translation>Deceleración media</translation>
+    </message>
+    <message>
+        <source>Mean rotation</source>
+        <translation>Rotación media</translation>
+    </message>
+    <message>
+        <source>Peak rotation</source>
+        <translation>Rotación máxima</translation>
+    </message>
+    <message>
+        <source>Mean push out</source>
+        <translation>Empuje lateral medio</translation>
+    </message>
+    <message>
+        <source>Peak push out</source>
+        <translation>Empuje lateral máximo</translation>
+    </message>
+    <message>
+        <source>Metres per stroke</source>
+        <translation>Metros por palada</translation>
+    </message>
+    <message>
+        <source>Is in the folder.</source>
+        <translation>Está en la carpeta.</translation>
+    </message>
+    <message>
+        <source>It is a file. A folder is shared.</source>
+        <translation>Es un archivo. Se comparte una carpeta.</translation>
+    </message>
+    <message>
+        <source>It is a link.</source>
+        <translation>Es un enlace.</translation>
+    </message>
+    <message>
+        <source>It lies too deep.</source>
+        <translation>Está demasiado profundo.</translation>
+    </message>
+    <message>
+        <source>Lies on {}, which is not ticked.</source>
+        <translation>Está en {}, que no está marcado.</translation>
+    </message>
+    <message>
+        <source>May also be bib {}.</source>
+        <translation>Puede ser también el dorsal {}.</translation>
+    </message>
+    <message>
+        <source>Only https:// keeps the password and the files from other readers.</source>
+        <translation>Solo https:// protege la contraseña y los archivos de otros lectores.</translation>
+    </message>
+    <message>
+        <source>The address asks for no {bib}, so that every run would have the same film.</source>
+        <translation>La dirección no pide ningún {bib}, así que todas las mangas tendrían el mismo vídeo.</translation>
+    </message>
+    <message>
+        <source>The address is that of a file. A folder is shared.</source>
+        <translation>La dirección es la de un archivo. Se comparte una carpeta.</translation>
+    </message>
+    <message>
+        <source>The address makes none for this run.</source>
+        <translation>La dirección no da ninguno para esta manga.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// and a server, whose name has no braces, user or password.</source>
+        <translation>La dirección debe empezar por https:// y un servidor cuyo nombre no tenga llaves, usuario ni contraseña.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// and hold no user name and password.</source>
+        <translation>La dirección debe empezar por https:// y no contener usuario ni contraseña.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// or http:// and hold no user name and password.</source>
+        <translation>La dirección debe empezar por https:// o http:// y no contener usuario ni contraseña.</translation>
+    </message>
+    <message>
+        <source>The list has no film with this bib.</source>
+        <translation>La lista no tiene ningún vídeo con este dorsal.</translation>
+    </message>
+    <message>
+        <source>The list tells no {} of this run.</source>
+        <translation>La lista no indica de esta manga: {}.</translation>
+    </message>
+    <message>
+        <source>number of the run</source>
+        <translation>número de la manga</translation>
+    </message>
+    <message>
+        <source>The pattern of names: {}</source>
+        <translation>El patrón de nombres: {}</translation>
+    </message>
+    <message>
+        <source>The server does not speak WebDAV at this address.</source>
+        <translation>El servidor no habla WebDAV en esta dirección.</translation>
+    </message>
+    <message>
+        <source>The server has too many files to share.</source>
+        <translation>El servidor tiene demasiados archivos para compartir.</translation>
+    </message>
+    <message>
+        <source>The server says that it lies in another folder.</source>
+        <translation>El servidor dice que está en otra carpeta.</translation>
+    </message>
+    <message>
+        <source>There are too many files to share.</source>
+        <translation>Hay demasiados archivos para compartir.</translation>
+    </message>
+    <message>
+        <source>There is no address yet.</source>
+        <translation>Aún no hay dirección.</translation>
+    </message>
+    <message>
+        <source>There is no folder for the films yet.</source>
+        <translation>Aún no hay carpeta para los vídeos.</translation>
+    </message>
+    <message>
+        <source>There is no start list, results list or split file for the bibs yet.</source>
+        <translation>Aún no hay lista de salida, lista de resultados o archivo de parciales para los dorsales.</translation>
+    </message>
+    <message>
+        <source>Would be more than 20 GB in one go.</source>
+        <translation>Serían más de 20 GB de una vez.</translation>
+    </message>
+    <message>
+        <source>{{{}}} means nothing here: there are {{bib}}, {{category}}, {{phase}} and {{run}}.</source>
+        <translation>{{{}}} no significa nada aquí: hay {{bib}}, {{category}}, {{phase}} y {{run}}.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>

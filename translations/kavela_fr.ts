@@ -7168,6 +7168,218 @@
         <source>{} without any detail.</source>
         <translation>{} sans aucun détail.</translation>
     </message>
+    <message>
+        <source>A brace is opened and not closed: {}</source>
+        <translation>Une accolade est ouverte et pas fermée : {}</translation>
+    </message>
+    <message>
+        <source>Aerial phase</source>
+        <translation>Phase aérienne</translation>
+    </message>
+    <message>
+        <source>Water phase</source>
+        <translation>Phase aquatique</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distance</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Résistance</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation>Force</translation>
+    </message>
+    <message>
+        <source>Hand</source>
+        <translation>Main</translation>
+    </message>
+    <message>
+        <source>Heart rate</source>
+        <translation>Fréquence cardiaque</translation>
+    </message>
+    <message>
+        <source>Impulse</source>
+        <translation>Impulsion</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Puissance</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Stroke rate</source>
+        <translation>Cadence</translation>
+    </message>
+    <message>
+        <source>Single rate</source>
+        <translation>Cadence d’un coup</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segment</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Roulis</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>Tangage</translation>
+    </message>
+    <message>
+        <source>Max acceleration</source>
+        <translation>Accélération max.</translation>
+    </message>
+    <message>
+        <source>Mean acceleration</source>
+        <translation>Accélération moyenne</translation>
+    </message>
+    <message>
+        <source>Mean deceleration</source>
+        <translation>Décélération moyenne</translation>
+    </message>
+    <message>
+        <source>Mean rotation</source>
+        <translation>Rotation moyenne</translation>
+    </message>
+    <message>
+        <source>Peak rotation</source>
+        <translation>Rotation maximale</translation>
+    </message>
+    <message>
+        <source>Mean push out</source>
+        <translation>Poussée latérale moyenne</translation>
+    </message>
+    <message>
+        <source>Peak push out</source>
+        <translation>Poussée latérale maximale</translation>
+    </message>
+    <message>
+        <source>Metres per stroke</source>
+        <translation>Mètres par coup</translation>
+    </message>
+    <message>
+        <source>Is in the folder.</source>
+        <translation>Est dans le dossier.</translation>
+    </message>
+    <message>
+        <source>It is a file. A folder is shared.</source>
+        <translation>C’est un fichier. On partage un dossier.</translation>
+    </message>
+    <message>
+        <source>It is a link.</source>
+        <translation>C’est un lien.</translation>
+    </message>
+    <message>
+        <source>It lies too deep.</source>
+        <translation>Il est trop profond.</translation>
+    </message>
+    <message>
+        <source>Lies on {}, which is not ticked.</source>
+        <translation>Se trouve sur {}, qui n’est pas coché.</translation>
+    </message>
+    <message>
+        <source>May also be bib {}.</source>
+        <translation>Peut aussi être le dossard {}.</translation>
+    </message>
+    <message>
+        <source>Only https:// keeps the password and the files from other readers.</source>
+        <translation>Seul https:// protège le mot de passe et les fichiers d’autres lecteurs.</translation>
+    </message>
+    <message>
+        <source>The address asks for no {bib}, so that every run would have the same film.</source>
+        <translation>L’adresse ne demande aucun {bib} : chaque manche aurait donc le même film.</translation>
+    </message>
+    <message>
+        <source>The address is that of a file. A folder is shared.</source>
+        <translation>L’adresse est celle d’un fichier. On partage un dossier.</translation>
+    </message>
+    <message>
+        <source>The address makes none for this run.</source>
+        <translation>L’adresse n’en donne aucun pour cette manche.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// and a server, whose name has no braces, user or password.</source>
+        <translation>L’adresse doit commencer par https:// et un serveur dont le nom n’a ni accolades, ni utilisateur, ni mot de passe.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// and hold no user name and password.</source>
+        <translation>L’adresse doit commencer par https:// et ne contenir ni nom d’utilisateur ni mot de passe.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// or http:// and hold no user name and password.</source>
+        <translation>L’adresse doit commencer par https:// ou http:// et ne contenir ni nom d’utilisateur ni mot de passe.</translation>
+    </message>
+    <message>
+        <source>The list has no film with this bib.</source>
+        <translation>La liste n’a aucun film avec ce dossard.</translation>
+    </message>
+    <message>
+        <source>The list tells no {} of this run.</source>
+        <translation>La liste ne dit pas de cette manche : {}.</translation>
+    </message>
+    <message>
+        <source>number of the run</source>
+        <translation>numéro de la manche</translation>
+    </message>
+    <message>
+        <source>The pattern of names: {}</source>
+        <translation>Le modèle des noms : {}</translation>
+    </message>
+    <message>
+        <source>The server does not speak WebDAV at this address.</source>
+        <translation>Le serveur ne parle pas WebDAV à cette adresse.</translation>
+    </message>
+    <message>
+        <source>The server has too many files to share.</source>
+        <translation>Le serveur a trop de fichiers à partager.</translation>
+    </message>
+    <message>
+        <source>The server says that it lies in another folder.</source>
+        <translation>Le serveur dit qu’il se trouve dans un autre dossier.</translation>
+    </message>
+    <message>
+        <source>There are too many files to share.</source>
+        <translation>Il y a trop de fichiers à partager.</translation>
+    </message>
+    <message>
+        <source>There is no address yet.</source>
+        <translation>Il n’y a pas encore d’adresse.</translation>
+    </message>
+    <message>
+        <source>There is no folder for the films yet.</source>
+        <translation>Il n’y a pas encore de dossier pour les films.</translation>
+    </message>
+    <message>
+        <source>There is no start list, results list or split file for the bibs yet.</source>
+        <translation>Il n’y a pas encore de liste de départ, de résultats ou de fichier d’intermédiaires pour les dossards.</translation>
+    </message>
+    <message>
+        <source>Would be more than 20 GB in one go.</source>
+        <translation>Ce serait plus de 20 Go d’un coup.</translation>
+    </message>
+    <message>
+        <source>{{{}}} means nothing here: there are {{bib}}, {{category}}, {{phase}} and {{run}}.</source>
+        <translation>{{{}}} ne veut rien dire ici : il y a {{bib}}, {{category}}, {{phase}} et {{run}}.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
