@@ -2,6 +2,7 @@
 
 #include "common/number_text.h"
 #include "common/percentile.h"
+#include "common/text.h"
 #include "tables/derived_columns.h"
 #include "tables/table_error.h"
 #include "tables/table_order.h"
@@ -139,9 +140,8 @@ ListTable pivoted(const ListTable& table, const Pivot& pivot) {
         columns = pivotKeys(table, table.columns[columnPlace(table, pivot.column)]);
     if (columns.texts.size() > MostPivotColumns ||
         columns.texts.size() * rows.texts.size() > MostPivotCells)
-        throw TableError("The column \"" + pivot.column + "\" has " +
-                         std::to_string(columns.texts.size()) +
-                         " values: too many for columns of a pivot.");
+        throw TableError(say("The column \"{}\" has {} values: too many for columns of a pivot.",
+                             pivot.column, columns.texts.size()));
     std::vector<std::vector<double>> numbers(rows.texts.size() * columns.texts.size());
     for (std::size_t row = 0; row < table.rows(); ++row)
         if (const auto number = pivotNumber(valueColumn, row, pivot.function))

@@ -1,5 +1,6 @@
 #include "desktop/tables/table_document.h"
 
+#include "common/text.h"
 #include "desktop/shell/qt_text.h"
 #include "tables/table_error.h"
 
@@ -44,7 +45,7 @@ std::vector<TableStep> TableDocument::steps() const {
 
 void TableDocument::take(const TableStep& step) {
     if (!hasList())
-        throw TableError("No list is open.");
+        throw TableError(say("No list is open."));
     TableState after = *m_state;
     after.steps = m_state->steps->with(step);
     put(qtText(stepText(step)), std::move(after));
