@@ -115,11 +115,15 @@ protected:
         QTest::mouseClick(&part<QAbstractButton>(name), Qt::LeftButton);
     }
 
-    void type(QLineEdit& edit, const QString& text) {
+    static void begin(QLineEdit& edit, const QString& text) {
         QApplication::setActiveWindow(edit.window());
         edit.setFocus();
         edit.selectAll();
         QTest::keyClicks(&edit, text);
+    }
+
+    void type(QLineEdit& edit, const QString& text) {
+        begin(edit, text);
         QTest::keyClick(&edit, Qt::Key_Return);
     }
 
@@ -290,6 +294,27 @@ TEST_F(CrossPagesTest, NotesAttacksByKeyAndInTheForm) {
     undoAll();
     EXPECT_FALSE(m_document.isDirty());
     EXPECT_THAT(heat().actions, IsEmpty());
+}
+
+TEST_F(CrossPagesTest, TakesWhatIsTypedForAnAttackBeforeItShowsAnother) {
+    ASSERT_NO_FATAL_FAILURE(open(freshCross()));
+    m_heats.addAttack(at(20));
+    m_heats.addAttack(at(30));
+    begin(part<QLineEdit>("attackComment"), "Late");
+    m_heats.selectMark(0);
+    EXPECT_EQ(heat().actions[1].comments, "Late");
+    EXPECT_EQ(part<QLineEdit>("attackComment").text(), "");
+    begin(part<QLineEdit>("attackComment"), "Early");
+    m_heats.moveMark(at(40));
+    ASSERT_THAT(heat().actions, SizeIs(2));
+    EXPECT_EQ(heat().actions[1].comments, "Early") << "it went behind the other one";
+    EXPECT_EQ(heat().actions[0].comments, "Late");
+    begin(*part<QComboBox>("attackSide").lineEdit(), "Wide");
+    click("attackRemoval");
+    m_document.undoStack().undo();
+    EXPECT_EQ(heat().actions.at(1).side, "Wide") << "removed with what was typed";
+    m_document.undoStack().undo();
+    EXPECT_EQ(heat().actions.at(1).side, "") << "a step of its own";
 }
 
 TEST_F(CrossPagesTest, SavesAndReadsBackWhatWasTaken) {
