@@ -465,6 +465,7 @@ void Desktop::openShare(const QString& folder) {
     ShareWindow* window = windowsOf<ShareWindow>().value(0);
     if (!window) {
         window = new ShareWindow(m_workspace);
+        connect(window, &ShareWindow::pathsChanged, this, &Desktop::rememberSession);
         show(window);
     }
     if (!folder.isEmpty())

@@ -391,7 +391,7 @@ TEST_F(FilmsWindowTest, ComesBackWithTheSession) {
         program.openFilms(QString::fromStdString(films().string()));
         EXPECT_THAT(program.windowsOf<FilmsWindow>(), SizeIs(1)) << "it comes to the front";
         program.openFetch();
-        program.openShare(shared);
+        program.openShare(shared); // later, so that it has to tell of its folder by itself
     }
     Desktop next(m_workspace, kept());
     ASSERT_TRUE(next.restoreSession());
