@@ -52,10 +52,9 @@ void FilmWindows::openSlit(const QString& film, TakingWindow* race) {
             return;
         }
         QObject::connect(window, &SlitWindow::pathsChanged, &m_program, &Desktop::rememberSession);
-        QObject::connect(window, &SlitWindow::raceRequested, &m_program,
-                         [this, window = QPointer(window)](const QString& path) {
-                             openRace(path, window);
-                         });
+        QObject::connect(
+            window, &SlitWindow::raceRequested, &m_program,
+            [this, window = QPointer(window)](const QString& path) { openRace(path, window); });
         m_program.show(window);
     }
     for (TakingWindow* const taking : m_program.windowsOf<TakingWindow>())

@@ -23,8 +23,8 @@ void SlitKeeping::open(const QString& film) {
     // Behind what another window of this film still has to write.
     disk::runAwaited(
         *this, [path, read] { *read = readSlitFile(path).value_or(slitfile001()); },
-        [this, read, number = ++m_readings, name = qtText(path.filename().string())](
-            const std::exception_ptr& fault) {
+        [this, read, number = ++m_readings,
+         name = qtText(path.filename().string())](const std::exception_ptr& fault) {
             if (number == m_readings) // else another film was opened meanwhile
                 takeRead(std::move(*read), name, fault);
         });

@@ -296,7 +296,8 @@ void SlitWindow::chooseLine(std::size_t number) {
 void SlitWindow::stepLine(int step) {
     const auto count = static_cast<int>(m_keeping.file().lines.size());
     if (count > 1)
-        chooseLine(static_cast<std::size_t>((static_cast<int>(lineNumber()) + count + step) % count));
+        chooseLine(
+            static_cast<std::size_t>((static_cast<int>(lineNumber()) + count + step) % count));
 }
 
 void SlitWindow::removeLine() {

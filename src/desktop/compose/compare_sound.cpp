@@ -60,7 +60,8 @@ void CompareSound::follow() {
                        .jump = due && m_isSounding ? courseOfSound(*due) - m_course : 0});
     if (step == SoundStep::Stay && due)
         stayInStep(*due);
-    takeSoundStep(step, [&] { start(*due); }, [this] { stop(); });
+    takeSoundStep(
+        step, [&] { start(*due); }, [this] { stop(); });
 }
 
 void CompareSound::start(double seconds) {

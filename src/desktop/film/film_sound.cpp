@@ -77,7 +77,8 @@ void FilmSound::follow() {
                                           .isMuted = m_isMuted,
                                           .isSounding = m_isSounding,
                                           .jump = m_isSounding ? course() - m_course : 0});
-    takeSoundStep(step, [this] { start(); }, [this] { stop(); });
+    takeSoundStep(
+        step, [this] { start(); }, [this] { stop(); });
 }
 
 void FilmSound::start() {

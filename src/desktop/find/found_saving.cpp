@@ -25,8 +25,8 @@ bool isFileSearched(const Found& found, const QString& path) {
 
 } // namespace
 
-void saveFound(const std::shared_ptr<const Found>& found, const QString& path,
-               Workspace& workspace, QWidget& over) {
+void saveFound(const std::shared_ptr<const Found>& found, const QString& path, Workspace& workspace,
+               QWidget& over) {
     if (isFileSearched(*found, path))
         return workspace.showAlert(
             {"Failed to create file",
@@ -35,8 +35,7 @@ void saveFound(const std::shared_ptr<const Found>& found, const QString& path,
                  .toStdString()},
             &over);
     disk::runAwaited(
-        over,
-        [found, file = path.toStdString()] { writeFileSafely(file, findCsv(found->answer)); },
+        over, [found, file = path.toStdString()] { writeFileSafely(file, findCsv(found->answer)); },
         [&workspace, &over](const std::exception_ptr& fault) {
             if (!fault)
                 return;

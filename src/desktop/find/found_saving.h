@@ -13,7 +13,7 @@ struct Found;
 
 /// Writes all rows that were found as a list for spreadsheets, beside the window, and never over a
 /// file that was searched. An alert over the window tells why it could not be written.
-void saveFound(const std::shared_ptr<const Found>& found, const QString& path,
-               Workspace& workspace, QWidget& over);
+void saveFound(const std::shared_ptr<const Found>& found, const QString& path, Workspace& workspace,
+               QWidget& over);
 
 } // namespace kavela::desktop

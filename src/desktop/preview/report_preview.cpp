@@ -236,8 +236,7 @@ void ReportPreview::print() {
 void ReportPreview::printIntoFile(const QPrinter& printer) {
     try {
         disk::writeAwaited(*this, printer.outputFileName().toStdString(),
-                           printedPdf(*m_report, printer),
-                           [this](const std::exception_ptr& fault) {
+                           printedPdf(*m_report, printer), [this](const std::exception_ptr& fault) {
                                if (fault)
                                    tellFileError(causeOf(fault));
                            });

@@ -8,16 +8,16 @@ namespace kavela::desktop {
 QString comparedFilesText(std::size_t files) {
     if (files == 0)
         return SeasonWindow::tr("No split files: winners and rivals are the team's own");
-    return files == 1 ? SeasonWindow::tr("Races from 1 split file")
-                      : SeasonWindow::tr("Races from %n split files", nullptr,
-                                         static_cast<int>(files));
+    return files == 1
+               ? SeasonWindow::tr("Races from 1 split file")
+               : SeasonWindow::tr("Races from %n split files", nullptr, static_cast<int>(files));
 }
 
 QStringList seasonNotes(const ShownSeason& shown) {
     const auto runs = shown.season.spread.runs;
-    QStringList notes{runs == 1 ? SeasonWindow::tr("1 run compared")
-                                : SeasonWindow::tr("%n runs compared", nullptr,
-                                                   static_cast<int>(runs))};
+    QStringList notes{runs == 1
+                          ? SeasonWindow::tr("1 run compared")
+                          : SeasonWindow::tr("%n runs compared", nullptr, static_cast<int>(runs))};
     for (const std::string& twin : shown.season.data.twins)
         notes << SeasonWindow::tr("several athletes are called %1: their runs cannot be told apart")
                      .arg(qtText(twin));

@@ -17,9 +17,8 @@ class Workspace;
 [[nodiscard]] splittakerdata031 newRaceIn(const QString& folder, const Workspace& workspace);
 
 /// A run for each film, as its name by the pattern tells, with room for the penalties of `gates`.
-[[nodiscard]] std::vector<athletedata031> runsOfFilms(const QStringList& films,
-                                                      const std::string& pattern,
-                                                      std::int64_t gates);
+[[nodiscard]] std::vector<athletedata031>
+runsOfFilms(const QStringList& films, const std::string& pattern, std::int64_t gates);
 
 /// Every run as the name of its first film tells; those without a film stay as they are.
 [[nodiscard]] TakingState withFilmNames(const TakingState& before, const std::string& pattern);

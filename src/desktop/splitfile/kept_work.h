@@ -23,8 +23,8 @@ void takeStarts(TakingState& state, const JsonDocument& kept);
 /// How many runs and time trials have a start mark and no split.
 [[nodiscard]] int startsWithoutSplit(const TakingState& state);
 
-/// The first run that is not as it is in the other state, which work went on with; nothing where all
-/// are the same.
+/// The first run that is not as it is in the other state, which work went on with; nothing where
+/// all are the same.
 [[nodiscard]] std::optional<std::size_t> firstOtherRun(const TakingState& state,
                                                        const TakingState& other);
 

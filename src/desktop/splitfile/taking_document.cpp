@@ -52,7 +52,8 @@ bool TakingDocument::openFolder(const QString& folder, QWidget* over) {
     if (const QString file = splitFileIn(absolute); !file.isEmpty())
         return openFile(file, over);
     splittakerdata031 document = newRaceIn(absolute, workspace());
-    document.athletes = runsOfFilms(filmsIn(absolute), filmPattern().toStdString(), document.info.gates);
+    document.athletes =
+        runsOfFilms(filmsIn(absolute), filmPattern().toStdString(), document.info.gates);
     const QString file = absolute + '/' + QFileInfo(absolute).fileName() + ".kvx";
     TakingState state = stateOf(std::move(document));
     state.day = m_days.read(file, over);
@@ -267,8 +268,8 @@ void TakingDocument::removeRun(int index) {
 void TakingDocument::moveRun(int index, int to) {
     const auto isRun = [this](int place) { return place >= 0 && place < runCount(); };
     if (isRun(index) && isRun(to) && to != index)
-        put(tr("run moved"), withRunMoved(value(), static_cast<std::size_t>(index),
-                                          static_cast<std::size_t>(to)));
+        put(tr("run moved"),
+            withRunMoved(value(), static_cast<std::size_t>(index), static_cast<std::size_t>(to)));
 }
 
 int TakingDocument::addFilms(const QStringList& names) {

@@ -133,11 +133,9 @@ void AttackForm::makeBoats() {
 
 /// After Enter the keys are the film's again.
 void AttackForm::makeWords() {
-    m_words->editableChoice({.name = "attackSide",
-                             .label = tr("Side"),
-                             .what = tr("side of an attack"),
-                             .stretch = 1},
-                            &actiondata030::side);
+    m_words->editableChoice(
+        {.name = "attackSide", .label = tr("Side"), .what = tr("side of an attack"), .stretch = 1},
+        &actiondata030::side);
     m_words->editableChoice({.name = "attackPlace",
                              .label = tr("Place"),
                              .what = tr("place of an attack"),
