@@ -215,6 +215,7 @@ void ShareWindow::noteOtherPlace() {
     tellStatus({});
     showRows(true);
     showState();
+    emit pathsChanged();
 }
 
 void ShareWindow::chooseFolder() {

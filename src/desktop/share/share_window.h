@@ -81,6 +81,9 @@ public:
     /// Waits are shorter in tests, and states are kept elsewhere.
     void setRequest(const fetch::WebPace& pace, const std::filesystem::path& caches);
 
+signals:
+    void pathsChanged(); ///< another folder
+
 protected:
     void takeFiles(const QStringList& paths) override;
     void closeEvent(QCloseEvent* event) override;
