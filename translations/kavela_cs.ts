@@ -907,6 +907,41 @@
     </message>
 </context>
 <context>
+    <name>SharePlace</name>
+    <message>
+        <source>Choose the folder…</source>
+        <translation>Vybrat složku…</translation>
+    </message>
+    <message>
+        <source>F&amp;older</source>
+        <translation>&amp;Složka</translation>
+    </message>
+    <message>
+        <source>On this computer, with everything below it but hidden files</source>
+        <translation>V tomto počítači, se vším pod ní kromě skrytých souborů</translation>
+    </message>
+    <message>
+        <source>the folder that is shared</source>
+        <translation>sdílená složka</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>&amp;Adresa</translation>
+    </message>
+    <message>
+        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
+        <translation>Složky na serveru WebDAV: Nextcloud, ownCloud, NAS, Apache…</translation>
+    </message>
+    <message>
+        <source>There is no folder to share yet.</source>
+        <translation>Zatím není složka ke sdílení.</translation>
+    </message>
+    <message>
+        <source>“%1” is no folder.</source>
+        <translation>„%1“ není složka.</translation>
+    </message>
+</context>
+<context>
     <name>SlitMarking</name>
     <message>
         <source>The film is not read so far.</source>
@@ -5247,15 +5282,15 @@
     </message>
     <message>
         <source>Medals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>Nejčastěji medaile: {}, {} z {} ({:.0f}–{:.0f} %).</translation>
+        <translation>Nejčastěji medaile: {}, {} z {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>In finals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>Nejčastěji ve finále: {}, {} z {} ({:.0f}–{:.0f} %).</translation>
+        <translation>Nejčastěji ve finále: {}, {} z {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>In semifinals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>Nejčastěji v semifinále: {}, {} z {} ({:.0f}–{:.0f} %).</translation>
+        <translation>Nejčastěji v semifinále: {}, {} z {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>No fastest split of {}&apos;s races is known.</source>
@@ -5407,19 +5442,19 @@
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind the fastest splits ({:+.1f} to {:+.1f}), {}.</source>
-        <translation>{}: {:+.1f} % za rok za nejlepšími mezičasy ({:+.1f} až {:+.1f}), {}.</translation>
+        <translation>{}: {:+.1f}&#xa0;% za rok za nejlepšími mezičasy ({:+.1f} až {:+.1f}), {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind the fastest splits, {}.</source>
-        <translation>{}: {:+.1f} % za rok za nejlepšími mezičasy, {}.</translation>
+        <translation>{}: {:+.1f}&#xa0;% za rok za nejlepšími mezičasy, {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind the winners ({:+.1f} to {:+.1f}), {}.</source>
-        <translation>{}: {:+.1f} % za rok za vítězi ({:+.1f} až {:+.1f}), {}.</translation>
+        <translation>{}: {:+.1f}&#xa0;% za rok za vítězi ({:+.1f} až {:+.1f}), {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind the winners, {}.</source>
-        <translation>{}: {:+.1f} % za rok za vítězi, {}.</translation>
+        <translation>{}: {:+.1f}&#xa0;% za rok za vítězi, {}.</translation>
     </message>
     <message>
         <source>{}st</source>
@@ -6063,7 +6098,7 @@
     </message>
     <message>
         <source>* touched more than that with 95 % certainty and more</source>
-        <translation>* častější ťuky s jistotou 95 % a více</translation>
+        <translation>* častější ťuky s jistotou 95&#xa0;% a více</translation>
     </message>
     <message>
         <source>A missed gate also saved paddling, which is not taken back here.</source>
@@ -9138,7 +9173,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>s</source>
@@ -10293,10 +10328,6 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
         <translation>Ve filmu</translation>
     </message>
     <message>
-        <source>Its place in the composed film. Space chooses it or takes it out.</source>
-        <translation>Místo ve složeném filmu. Mezerník ho vybere nebo vyřadí.</translation>
-    </message>
-    <message>
         <source>Film</source>
         <translation>Film</translation>
     </message>
@@ -10431,6 +10462,10 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     <message>
         <source>Shows it twice as large, round that path.</source>
         <translation>Ukáže ho dvakrát větší, kolem této dráhy.</translation>
+    </message>
+    <message>
+        <source>Its place in the composed film. Enter chooses it or takes it out.</source>
+        <translation>Místo ve složeném filmu. Enter ho vybere nebo vyřadí.</translation>
     </message>
 </context>
 <context>
@@ -21101,30 +21136,6 @@ Vyberte soubor.</translation>
         <translation>Sdílené složky</translation>
     </message>
     <message>
-        <source>F&amp;older</source>
-        <translation>&amp;Složka</translation>
-    </message>
-    <message>
-        <source>On this computer, with everything below it but hidden files</source>
-        <translation>V tomto počítači, se vším pod ní kromě skrytých souborů</translation>
-    </message>
-    <message>
-        <source>the folder that is shared</source>
-        <translation>sdílená složka</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>&amp;Adresa</translation>
-    </message>
-    <message>
-        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
-        <translation>Složky na serveru WebDAV: Nextcloud, ownCloud, NAS, Apache…</translation>
-    </message>
-    <message>
-        <source>Choose the folder…</source>
-        <translation>Vybrat složku…</translation>
-    </message>
-    <message>
         <source>Compare</source>
         <translation>Porovnat</translation>
     </message>
@@ -21155,14 +21166,6 @@ Vyberte soubor.</translation>
     <message>
         <source>The folder to share</source>
         <translation>Složka ke sdílení</translation>
-    </message>
-    <message>
-        <source>There is no folder to share yet.</source>
-        <translation>Zatím není složka ke sdílení.</translation>
-    </message>
-    <message>
-        <source>“%1” is no folder.</source>
-        <translation>„%1“ není složka.</translation>
     </message>
     <message>
         <source>Both sides are looked at…</source>
@@ -21434,6 +21437,10 @@ a dalších %1</translation>
     <message>
         <source>The lines could not be kept in %1: %2</source>
         <translation>Čáry nelze uchovat v %1: %2</translation>
+    </message>
+    <message>
+        <source>The lines of this film are still being read. Try again in a moment.</source>
+        <translation>Čáry tohoto videa se ještě načítají. Zkuste to za chvíli znovu.</translation>
     </message>
 </context>
 <context>

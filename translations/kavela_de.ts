@@ -906,6 +906,41 @@
     </message>
 </context>
 <context>
+    <name>SharePlace</name>
+    <message>
+        <source>Choose the folder…</source>
+        <translation>Ordner wählen…</translation>
+    </message>
+    <message>
+        <source>F&amp;older</source>
+        <translation>&amp;Ordner</translation>
+    </message>
+    <message>
+        <source>On this computer, with everything below it but hidden files</source>
+        <translation>Auf diesem Rechner, mit allem darunter außer verborgenen Dateien</translation>
+    </message>
+    <message>
+        <source>the folder that is shared</source>
+        <translation>der geteilte Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>&amp;Adresse</translation>
+    </message>
+    <message>
+        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
+        <translation>Eines Ordners auf einem WebDAV-Server: Nextcloud, ownCloud, ein NAS, Apache…</translation>
+    </message>
+    <message>
+        <source>There is no folder to share yet.</source>
+        <translation>Noch kein Ordner zum Teilen.</translation>
+    </message>
+    <message>
+        <source>“%1” is no folder.</source>
+        <translation>„%1“ ist kein Ordner.</translation>
+    </message>
+</context>
+<context>
     <name>SlitMarking</name>
     <message>
         <source>The film is not read so far.</source>
@@ -5218,15 +5253,15 @@
     </message>
     <message>
         <source>Medals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>Am häufigsten Medaillen: {}, {} von {} ({:.0f}–{:.0f} %).</translation>
+        <translation>Am häufigsten Medaillen: {}, {} von {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>In finals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>Am häufigsten in Finals: {}, {} von {} ({:.0f}–{:.0f} %).</translation>
+        <translation>Am häufigsten in Finals: {}, {} von {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>In semifinals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>Am häufigsten in Halbfinals: {}, {} von {} ({:.0f}–{:.0f} %).</translation>
+        <translation>Am häufigsten in Halbfinals: {}, {} von {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>No fastest split of {}&apos;s races is known.</source>
@@ -5378,19 +5413,19 @@
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind the fastest splits ({:+.1f} to {:+.1f}), {}.</source>
-        <translation>{}: {:+.1f} % im Jahr, Abstand zu den schnellsten Zwischenzeiten ({:+.1f} bis {:+.1f}), {}.</translation>
+        <translation>{}: {:+.1f}&#xa0;% im Jahr, Abstand zu den schnellsten Zwischenzeiten ({:+.1f} bis {:+.1f}), {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind the fastest splits, {}.</source>
-        <translation>{}: {:+.1f} % im Jahr, Abstand zu den schnellsten Zwischenzeiten, {}.</translation>
+        <translation>{}: {:+.1f}&#xa0;% im Jahr, Abstand zu den schnellsten Zwischenzeiten, {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind the winners ({:+.1f} to {:+.1f}), {}.</source>
-        <translation>{}: {:+.1f} % im Jahr, Abstand zu den Siegern ({:+.1f} bis {:+.1f}), {}.</translation>
+        <translation>{}: {:+.1f}&#xa0;% im Jahr, Abstand zu den Siegern ({:+.1f} bis {:+.1f}), {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind the winners, {}.</source>
-        <translation>{}: {:+.1f} % im Jahr, Abstand zu den Siegern, {}.</translation>
+        <translation>{}: {:+.1f}&#xa0;% im Jahr, Abstand zu den Siegern, {}.</translation>
     </message>
     <message>
         <source>{}st</source>
@@ -6030,7 +6065,7 @@
     </message>
     <message>
         <source>* touched more than that with 95 % certainty and more</source>
-        <translation>* mit 95 % Sicherheit und mehr öfter berührt als das</translation>
+        <translation>* mit 95&#xa0;% Sicherheit und mehr öfter berührt als das</translation>
     </message>
     <message>
         <source>A missed gate also saved paddling, which is not taken back here.</source>
@@ -9101,7 +9136,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>s</source>
@@ -10254,10 +10289,6 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
         <translation>Darin</translation>
     </message>
     <message>
-        <source>Its place in the composed film. Space chooses it or takes it out.</source>
-        <translation>Sein Platz im zusammengesetzten Film. Leertaste wählt ihn oder nimmt ihn heraus.</translation>
-    </message>
-    <message>
         <source>Film</source>
         <translation>Film</translation>
     </message>
@@ -10392,6 +10423,10 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     <message>
         <source>Shows it twice as large, round that path.</source>
         <translation>Zeigt ihn doppelt so groß, um diese Bahn herum.</translation>
+    </message>
+    <message>
+        <source>Its place in the composed film. Enter chooses it or takes it out.</source>
+        <translation>Sein Platz im zusammengesetzten Film. Eingabetaste wählt ihn oder nimmt ihn heraus.</translation>
     </message>
 </context>
 <context>
@@ -21037,30 +21072,6 @@ Eine Datei wählen.</translation>
         <translation>Ordner teilen</translation>
     </message>
     <message>
-        <source>F&amp;older</source>
-        <translation>&amp;Ordner</translation>
-    </message>
-    <message>
-        <source>On this computer, with everything below it but hidden files</source>
-        <translation>Auf diesem Rechner, mit allem darunter außer verborgenen Dateien</translation>
-    </message>
-    <message>
-        <source>the folder that is shared</source>
-        <translation>der geteilte Ordner</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>&amp;Adresse</translation>
-    </message>
-    <message>
-        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
-        <translation>Eines Ordners auf einem WebDAV-Server: Nextcloud, ownCloud, ein NAS, Apache…</translation>
-    </message>
-    <message>
-        <source>Choose the folder…</source>
-        <translation>Ordner wählen…</translation>
-    </message>
-    <message>
         <source>Compare</source>
         <translation>Vergleichen</translation>
     </message>
@@ -21091,14 +21102,6 @@ Eine Datei wählen.</translation>
     <message>
         <source>The folder to share</source>
         <translation>Der zu teilende Ordner</translation>
-    </message>
-    <message>
-        <source>There is no folder to share yet.</source>
-        <translation>Noch kein Ordner zum Teilen.</translation>
-    </message>
-    <message>
-        <source>“%1” is no folder.</source>
-        <translation>„%1“ ist kein Ordner.</translation>
     </message>
     <message>
         <source>Both sides are looked at…</source>
@@ -21370,6 +21373,10 @@ und %1 weitere</translation>
     <message>
         <source>The lines could not be kept in %1: %2</source>
         <translation>Die Linien konnten nicht in %1 bewahrt werden: %2</translation>
+    </message>
+    <message>
+        <source>The lines of this film are still being read. Try again in a moment.</source>
+        <translation>Die Linien dieses Films werden noch gelesen. Gleich noch einmal versuchen.</translation>
     </message>
 </context>
 <context>

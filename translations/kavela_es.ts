@@ -906,6 +906,41 @@
     </message>
 </context>
 <context>
+    <name>SharePlace</name>
+    <message>
+        <source>Choose the folder…</source>
+        <translation>Elegir la carpeta…</translation>
+    </message>
+    <message>
+        <source>F&amp;older</source>
+        <translation>&amp;Carpeta</translation>
+    </message>
+    <message>
+        <source>On this computer, with everything below it but hidden files</source>
+        <translation>En este ordenador, con todo lo que contiene salvo los archivos ocultos</translation>
+    </message>
+    <message>
+        <source>the folder that is shared</source>
+        <translation>la carpeta que se comparte</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>Di&amp;rección</translation>
+    </message>
+    <message>
+        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
+        <translation>De una carpeta en un servidor WebDAV: Nextcloud, ownCloud, un NAS, Apache…</translation>
+    </message>
+    <message>
+        <source>There is no folder to share yet.</source>
+        <translation>Aún no hay ninguna carpeta que compartir.</translation>
+    </message>
+    <message>
+        <source>“%1” is no folder.</source>
+        <translation>«%1» no es una carpeta.</translation>
+    </message>
+</context>
+<context>
     <name>SlitMarking</name>
     <message>
         <source>The film is not read so far.</source>
@@ -5218,15 +5253,15 @@
     </message>
     <message>
         <source>Medals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>Más medallas: {}, {} de {} ({:.0f}–{:.0f} %).</translation>
+        <translation>Más medallas: {}, {} de {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>In finals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>Más veces en finales: {}, {} de {} ({:.0f}–{:.0f} %).</translation>
+        <translation>Más veces en finales: {}, {} de {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>In semifinals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>Más veces en semifinales: {}, {} de {} ({:.0f}–{:.0f} %).</translation>
+        <translation>Más veces en semifinales: {}, {} de {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>No fastest split of {}&apos;s races is known.</source>
@@ -5378,19 +5413,19 @@
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind the fastest splits ({:+.1f} to {:+.1f}), {}.</source>
-        <translation>{}: {:+.1f} % al año respecto a los parciales más rápidos (de {:+.1f} a {:+.1f}), {}.</translation>
+        <translation>{}: {:+.1f}&#xa0;% al año respecto a los parciales más rápidos (de {:+.1f} a {:+.1f}), {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind the fastest splits, {}.</source>
-        <translation>{}: {:+.1f} % al año respecto a los parciales más rápidos, {}.</translation>
+        <translation>{}: {:+.1f}&#xa0;% al año respecto a los parciales más rápidos, {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind the winners ({:+.1f} to {:+.1f}), {}.</source>
-        <translation>{}: {:+.1f} % al año respecto a los ganadores (de {:+.1f} a {:+.1f}), {}.</translation>
+        <translation>{}: {:+.1f}&#xa0;% al año respecto a los ganadores (de {:+.1f} a {:+.1f}), {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind the winners, {}.</source>
-        <translation>{}: {:+.1f} % al año respecto a los ganadores, {}.</translation>
+        <translation>{}: {:+.1f}&#xa0;% al año respecto a los ganadores, {}.</translation>
     </message>
     <message>
         <source>{}st</source>
@@ -6030,7 +6065,7 @@
     </message>
     <message>
         <source>* touched more than that with 95 % certainty and more</source>
-        <translation>* más toques que eso con una certeza del 95 % o más</translation>
+        <translation>* más toques que eso con una certeza del 95&#xa0;% o más</translation>
     </message>
     <message>
         <source>A missed gate also saved paddling, which is not taken back here.</source>
@@ -9101,7 +9136,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>s</source>
@@ -10254,10 +10289,6 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
         <translation>Dentro</translation>
     </message>
     <message>
-        <source>Its place in the composed film. Space chooses it or takes it out.</source>
-        <translation>Su lugar en el vídeo compuesto. Espacio lo elige o lo saca.</translation>
-    </message>
-    <message>
         <source>Film</source>
         <translation>Vídeo</translation>
     </message>
@@ -10392,6 +10423,10 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     <message>
         <source>Shows it twice as large, round that path.</source>
         <translation>Lo muestra al doble de tamaño, alrededor de esa trayectoria.</translation>
+    </message>
+    <message>
+        <source>Its place in the composed film. Enter chooses it or takes it out.</source>
+        <translation>Su lugar en el vídeo compuesto. Intro lo elige o lo saca.</translation>
     </message>
 </context>
 <context>
@@ -21037,30 +21072,6 @@ Elige un archivo.</translation>
         <translation>Compartir carpetas</translation>
     </message>
     <message>
-        <source>F&amp;older</source>
-        <translation>&amp;Carpeta</translation>
-    </message>
-    <message>
-        <source>On this computer, with everything below it but hidden files</source>
-        <translation>En este ordenador, con todo lo que contiene salvo los archivos ocultos</translation>
-    </message>
-    <message>
-        <source>the folder that is shared</source>
-        <translation>la carpeta que se comparte</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>Di&amp;rección</translation>
-    </message>
-    <message>
-        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
-        <translation>De una carpeta en un servidor WebDAV: Nextcloud, ownCloud, un NAS, Apache…</translation>
-    </message>
-    <message>
-        <source>Choose the folder…</source>
-        <translation>Elegir la carpeta…</translation>
-    </message>
-    <message>
         <source>Compare</source>
         <translation>Comparar</translation>
     </message>
@@ -21091,14 +21102,6 @@ Elige un archivo.</translation>
     <message>
         <source>The folder to share</source>
         <translation>La carpeta que compartir</translation>
-    </message>
-    <message>
-        <source>There is no folder to share yet.</source>
-        <translation>Aún no hay ninguna carpeta que compartir.</translation>
-    </message>
-    <message>
-        <source>“%1” is no folder.</source>
-        <translation>«%1» no es una carpeta.</translation>
     </message>
     <message>
         <source>Both sides are looked at…</source>
@@ -21370,6 +21373,10 @@ y %1 más</translation>
     <message>
         <source>The lines could not be kept in %1: %2</source>
         <translation>Las líneas no se pudieron conservar en %1: %2</translation>
+    </message>
+    <message>
+        <source>The lines of this film are still being read. Try again in a moment.</source>
+        <translation>Las líneas de este vídeo aún se están leyendo. Inténtelo de nuevo en un momento.</translation>
     </message>
 </context>
 <context>

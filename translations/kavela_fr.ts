@@ -906,6 +906,41 @@
     </message>
 </context>
 <context>
+    <name>SharePlace</name>
+    <message>
+        <source>Choose the folder…</source>
+        <translation>Choisir le dossier…</translation>
+    </message>
+    <message>
+        <source>F&amp;older</source>
+        <translation>&amp;Dossier</translation>
+    </message>
+    <message>
+        <source>On this computer, with everything below it but hidden files</source>
+        <translation>Sur cet ordinateur, avec tout ce qu’il contient sauf les fichiers cachés</translation>
+    </message>
+    <message>
+        <source>the folder that is shared</source>
+        <translation>le dossier partagé</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>&amp;Adresse</translation>
+    </message>
+    <message>
+        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
+        <translation>D’un dossier sur un serveur WebDAV : Nextcloud, ownCloud, un NAS, Apache…</translation>
+    </message>
+    <message>
+        <source>There is no folder to share yet.</source>
+        <translation>Il n’y a pas encore de dossier à partager.</translation>
+    </message>
+    <message>
+        <source>“%1” is no folder.</source>
+        <translation>« %1 » n’est pas un dossier.</translation>
+    </message>
+</context>
+<context>
     <name>SlitMarking</name>
     <message>
         <source>The film is not read so far.</source>
@@ -5218,15 +5253,15 @@
     </message>
     <message>
         <source>Medals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>Le plus souvent médaillé : {}, {} sur {} ({:.0f}–{:.0f} %).</translation>
+        <translation>Le plus souvent médaillé&#x202f;: {}, {} sur {} ({:.0f}–{:.0f}&#x202f;%).</translation>
     </message>
     <message>
         <source>In finals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>Le plus souvent en finale : {}, {} sur {} ({:.0f}–{:.0f} %).</translation>
+        <translation>Le plus souvent en finale&#x202f;: {}, {} sur {} ({:.0f}–{:.0f}&#x202f;%).</translation>
     </message>
     <message>
         <source>In semifinals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>Le plus souvent en demi-finale : {}, {} sur {} ({:.0f}–{:.0f} %).</translation>
+        <translation>Le plus souvent en demi-finale&#x202f;: {}, {} sur {} ({:.0f}–{:.0f}&#x202f;%).</translation>
     </message>
     <message>
         <source>No fastest split of {}&apos;s races is known.</source>
@@ -5254,19 +5289,19 @@
     </message>
     <message>
         <source>Noted in detail: {} of {}. Shares of what was noted, no rates: nobody notes how gates are passed clean.</source>
-        <translation>Notées en détail : {} sur {}. Ce sont des parts de ce qui a été noté, pas des taux : personne ne note comment les portes sont passées sans faute.</translation>
+        <translation>Notées en détail&#x202f;: {} sur {}. Ce sont des parts de ce qui a été noté, pas des taux&#x202f;: personne ne note comment les portes sont passées sans faute.</translation>
     </message>
     <message>
         <source>Noted in detail: {} of {}. Too few to tell.</source>
-        <translation>Notées en détail : {} sur {}. Trop peu pour conclure.</translation>
+        <translation>Notées en détail&#x202f;: {} sur {}. Trop peu pour conclure.</translation>
     </message>
     <message>
         <source>Of {} who have both often enough, beyond doubt faster in the final: {}, slower: {}.</source>
-        <translation>Sur {} qui ont les deux assez souvent, sans aucun doute plus rapides en finale : {}, plus lents : {}.</translation>
+        <translation>Sur {} qui ont les deux assez souvent, sans aucun doute plus rapides en finale&#x202f;: {}, plus lents&#x202f;: {}.</translation>
     </message>
     <message>
         <source>Of {} who have both often enough, beyond doubt faster in the second run: {}, slower: {}.</source>
-        <translation>Sur {} qui ont les deux assez souvent, sans aucun doute plus rapides dans la seconde manche : {}, plus lents : {}.</translation>
+        <translation>Sur {} qui ont les deux assez souvent, sans aucun doute plus rapides dans la seconde manche&#x202f;: {}, plus lents&#x202f;: {}.</translation>
     </message>
     <message>
         <source>Of {} {} cost places, none of them a medal.</source>
@@ -5278,15 +5313,15 @@
     </message>
     <message>
         <source>The fast touch less: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
-        <translation>Les rapides touchent moins : {:.2f} touche par manche dans le tiers rapide, {:.2f} dans le lent.</translation>
+        <translation>Les rapides touchent moins&#x202f;: {:.2f} touche par manche dans le tiers rapide, {:.2f} dans le lent.</translation>
     </message>
     <message>
         <source>The fast touch more: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
-        <translation>Les rapides touchent plus : {:.2f} touche par manche dans le tiers rapide, {:.2f} dans le lent.</translation>
+        <translation>Les rapides touchent plus&#x202f;: {:.2f} touche par manche dans le tiers rapide, {:.2f} dans le lent.</translation>
     </message>
     <message>
         <source>Too few to tell fast from slow: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
-        <translation>Trop peu pour distinguer rapides et lents : {:.2f} touche par manche dans le tiers rapide, {:.2f} dans le lent.</translation>
+        <translation>Trop peu pour distinguer rapides et lents&#x202f;: {:.2f} touche par manche dans le tiers rapide, {:.2f} dans le lent.</translation>
     </message>
     <message>
         <source>There is no penalty.</source>
@@ -5298,11 +5333,11 @@
     </message>
     <message>
         <source>Without this missed gate: {}.</source>
-        <translation>Sans cette porte manquée : {}.</translation>
+        <translation>Sans cette porte manquée&#x202f;: {}.</translation>
     </message>
     <message>
         <source>Without this touch: {}.</source>
-        <translation>Sans cette touche : {}.</translation>
+        <translation>Sans cette touche&#x202f;: {}.</translation>
     </message>
     <message>
         <source>category</source>
@@ -5362,35 +5397,35 @@
     </message>
     <message>
         <source>{} stand out: touched more than the {} that all have in common.</source>
-        <translation>{} ressortent : davantage de touches que les {} communs à tous.</translation>
+        <translation>{} ressortent&#x202f;: davantage de touches que les {} communs à tous.</translation>
     </message>
     <message>
         <source>{} stands out: touched more than the {} that all have in common.</source>
-        <translation>{} ressort : davantage de touches que les {} communs à tous.</translation>
+        <translation>{} ressort&#x202f;: davantage de touches que les {} communs à tous.</translation>
     </message>
     <message>
         <source>{}: too few runs to tell a trend behind the fastest splits.</source>
-        <translation>{} : trop peu de manches pour dire une tendance derrière les meilleurs inters.</translation>
+        <translation>{}&#x202f;: trop peu de manches pour dire une tendance derrière les meilleurs inters.</translation>
     </message>
     <message>
         <source>{}: too few runs to tell a trend behind the winners.</source>
-        <translation>{} : trop peu de manches pour dire une tendance derrière les vainqueurs.</translation>
+        <translation>{}&#x202f;: trop peu de manches pour dire une tendance derrière les vainqueurs.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind the fastest splits ({:+.1f} to {:+.1f}), {}.</source>
-        <translation>{} : {:+.1f} % par an derrière les meilleurs inters (de {:+.1f} à {:+.1f}), {}.</translation>
+        <translation>{}&#x202f;: {:+.1f}&#x202f;% par an derrière les meilleurs inters (de {:+.1f} à {:+.1f}), {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind the fastest splits, {}.</source>
-        <translation>{} : {:+.1f} % par an derrière les meilleurs inters, {}.</translation>
+        <translation>{}&#x202f;: {:+.1f}&#x202f;% par an derrière les meilleurs inters, {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind the winners ({:+.1f} to {:+.1f}), {}.</source>
-        <translation>{} : {:+.1f} % par an derrière les vainqueurs (de {:+.1f} à {:+.1f}), {}.</translation>
+        <translation>{}&#x202f;: {:+.1f}&#x202f;% par an derrière les vainqueurs (de {:+.1f} à {:+.1f}), {}.</translation>
     </message>
     <message>
         <source>{}: {:+.1f} % a year behind the winners, {}.</source>
-        <translation>{} : {:+.1f} % par an derrière les vainqueurs, {}.</translation>
+        <translation>{}&#x202f;: {:+.1f}&#x202f;% par an derrière les vainqueurs, {}.</translation>
     </message>
     <message>
         <source>{}st</source>
@@ -5418,7 +5453,7 @@
     </message>
     <message>
         <source>Against the winners, over {}. Losing: the whole interval is above 0.</source>
-        <translation>Face aux vainqueurs, sur {}. Perte : tout l’intervalle est au-dessus de 0.</translation>
+        <translation>Face aux vainqueurs, sur {}. Perte&#x202f;: tout l’intervalle est au-dessus de 0.</translation>
     </message>
     <message>
         <source>All runs</source>
@@ -5450,15 +5485,15 @@
     </message>
     <message>
         <source>Gap to the ideal run from section to section: {}</source>
-        <translation>Écart à la manche idéale de secteur en secteur : {}</translation>
+        <translation>Écart à la manche idéale de secteur en secteur&#x202f;: {}</translation>
     </message>
     <message>
         <source>Gap to {} from section to section: {}</source>
-        <translation>Écart à {} de secteur en secteur : {}</translation>
+        <translation>Écart à {} de secteur en secteur&#x202f;: {}</translation>
     </message>
     <message>
         <source>Gap to {}, in seconds: above the line is behind.</source>
-        <translation>Écart à {}, en secondes : au-dessus de la ligne, c’est du retard.</translation>
+        <translation>Écart à {}, en secondes&#x202f;: au-dessus de la ligne, c’est du retard.</translation>
     </message>
     <message>
         <source>This run won. Gap to the ideal run, the best of every section, in seconds.</source>
@@ -5474,7 +5509,7 @@
     </message>
     <message>
         <source>Most lost: {}.</source>
-        <translation>Plus grosses pertes : {}.</translation>
+        <translation>Plus grosses pertes&#x202f;: {}.</translation>
     </message>
     <message>
         <source>Not ranked, time</source>
@@ -5482,7 +5517,7 @@
     </message>
     <message>
         <source>Nothing stands out from these runs: no interval lies above 0 as a whole.</source>
-        <translation>Rien ne ressort de ces manches : aucun intervalle n’est entièrement au-dessus de 0.</translation>
+        <translation>Rien ne ressort de ces manches&#x202f;: aucun intervalle n’est entièrement au-dessus de 0.</translation>
     </message>
     <message>
         <source>Of what</source>
@@ -5502,7 +5537,7 @@
     </message>
     <message>
         <source>Percent behind the winner by day, penalties included; the filled dot is the last run of each race.</source>
-        <translation>Pourcentage derrière le vainqueur par jour, pénalités comprises ; le point plein est la dernière manche de chaque course.</translation>
+        <translation>Pourcentage derrière le vainqueur par jour, pénalités comprises&#x202f;; le point plein est la dernière manche de chaque course.</translation>
     </message>
     <message>
         <source>Percent behind the winner, run by run, {} to {}</source>
@@ -5518,7 +5553,7 @@
     </message>
     <message>
         <source>Split table: {}</source>
-        <translation>Tableau des inters : {}</translation>
+        <translation>Tableau des inters&#x202f;: {}</translation>
     </message>
     <message>
         <source>The name of a page ends in .html, and its films lie in the folder named the same without that.</source>
@@ -5546,7 +5581,7 @@
     </message>
     <message>
         <source>eyes: {}</source>
-        <translation>regard : {}</translation>
+        <translation>regard&#x202f;: {}</translation>
     </message>
     <message>
         <source>fastest</source>
@@ -5612,11 +5647,11 @@
     </message>
     <message>
         <source>{}. The film lies beside this page: {}</source>
-        <translation>{}. Le film se trouve à côté de cette page : {}</translation>
+        <translation>{}. Le film se trouve à côté de cette page&#x202f;: {}</translation>
     </message>
     <message>
         <source>{}: {} s a run</source>
-        <translation>{} : {} s par manche</translation>
+        <translation>{}&#x202f;: {} s par manche</translation>
     </message>
     <message>
         <source>The film is not there.</source>
@@ -5628,7 +5663,7 @@
     </message>
     <message>
         <source>No run of &quot;{}&quot; is of the phase &quot;{}&quot;.</source>
-        <translation>Aucune manche de « {} » n’est de la phase « {} ».</translation>
+        <translation>Aucune manche de «&#x202f;{}&#x202f;» n’est de la phase «&#x202f;{}&#x202f;».</translation>
     </message>
     <message>
         <source>Entry</source>
@@ -6013,15 +6048,15 @@
     <message numerus="yes">
         <source>{} runs left out: penalties not known by gate</source>
         <translation>
-            <numerusform>{} manche laissée de côté : pénalités non connues par porte</numerusform>
-            <numerusform>{} manches laissées de côté : pénalités non connues par porte</numerusform>
+            <numerusform>{} manche laissée de côté&#x202f;: pénalités non connues par porte</numerusform>
+            <numerusform>{} manches laissées de côté&#x202f;: pénalités non connues par porte</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>{} runs are left out: their penalties are not known by gate.</source>
         <translation>
-            <numerusform>{} manche est laissée de côté : ses pénalités ne sont pas connues par porte.</numerusform>
-            <numerusform>{} manches sont laissées de côté : leurs pénalités ne sont pas connues par porte.</numerusform>
+            <numerusform>{} manche est laissée de côté&#x202f;: ses pénalités ne sont pas connues par porte.</numerusform>
+            <numerusform>{} manches sont laissées de côté&#x202f;: leurs pénalités ne sont pas connues par porte.</numerusform>
         </translation>
     </message>
     <message>
@@ -6030,7 +6065,7 @@
     </message>
     <message>
         <source>* touched more than that with 95 % certainty and more</source>
-        <translation>* touché davantage avec une certitude de 95 % et plus</translation>
+        <translation>* touché davantage avec une certitude de 95&#x202f;% et plus</translation>
     </message>
     <message>
         <source>A missed gate also saved paddling, which is not taken back here.</source>
@@ -6054,7 +6089,7 @@
     </message>
     <message>
         <source>Rate %</source>
-        <translation>Taux %</translation>
+        <translation>Taux&#x202f;%</translation>
     </message>
     <message>
         <source>Risk and speed</source>
@@ -6066,7 +6101,7 @@
     </message>
     <message>
         <source>Ways: chosen against the fastest timed</source>
-        <translation>Options : choisie face à la plus rapide chronométrée</translation>
+        <translation>Options&#x202f;: choisie face à la plus rapide chronométrée</translation>
     </message>
     <message>
         <source>between {}</source>
@@ -6090,7 +6125,7 @@
     </message>
     <message>
         <source>not finished: {}</source>
-        <translation>non terminées : {}</translation>
+        <translation>non terminées&#x202f;: {}</translation>
     </message>
     <message>
         <source>on run {}</source>
@@ -6137,15 +6172,15 @@
     </message>
     <message>
         <source>{}: there is none</source>
-        <translation>{} : il n’y en a pas</translation>
+        <translation>{}&#x202f;: il n’y en a pas</translation>
     </message>
     <message>
         <source>&quot;{}&quot; is no gate number.</source>
-        <translation>« {} » n’est pas un numéro de porte.</translation>
+        <translation>«&#x202f;{}&#x202f;» n’est pas un numéro de porte.</translation>
     </message>
     <message>
         <source>A section up to here was not timed, so this is not the time from the start.</source>
-        <translation>Un secteur jusqu’ici n’a pas été chronométré : ce n’est donc pas le temps depuis le départ.</translation>
+        <translation>Un secteur jusqu’ici n’a pas été chronométré&#x202f;: ce n’est donc pas le temps depuis le départ.</translation>
     </message>
     <message>
         <source>A time must be above 0. Check the marks of this run.</source>
@@ -6193,15 +6228,15 @@
     </message>
     <message>
         <source>It was deleted here and changed there: it is brought again.</source>
-        <translation>Supprimé ici et modifié là-bas : il est repris.</translation>
+        <translation>Supprimé ici et modifié là-bas&#x202f;: il est repris.</translation>
     </message>
     <message>
         <source>It was deleted there and changed here: it is put there again.</source>
-        <translation>Supprimé là-bas et modifié ici : il y est remis.</translation>
+        <translation>Supprimé là-bas et modifié ici&#x202f;: il y est remis.</translation>
     </message>
     <message>
         <source>Line {}, {}: there is no run of this crew.</source>
-        <translation>Ligne {}, {} : il n’y a aucune manche de cet équipage.</translation>
+        <translation>Ligne {}, {}&#x202f;: il n’y a aucune manche de cet équipage.</translation>
     </message>
     <message>
         <source>No motion of the boat is attached to this run.</source>
@@ -6265,11 +6300,11 @@
     </message>
     <message>
         <source>The attached motion is not as long as the run, so that its moments cannot be told.</source>
-        <translation>Le mouvement joint n’est pas aussi long que la manche : ses moments ne peuvent donc pas être connus.</translation>
+        <translation>Le mouvement joint n’est pas aussi long que la manche&#x202f;: ses moments ne peuvent donc pas être connus.</translation>
     </message>
     <message>
         <source>The certificate of the server is not trusted, so that nothing was sent. It was issued by “{}”: {}.</source>
-        <translation>Le certificat du serveur n’est pas fiable : rien n’a été envoyé. Il a été émis par « {} » : {}.</translation>
+        <translation>Le certificat du serveur n’est pas fiable&#x202f;: rien n’a été envoyé. Il a été émis par «&#x202f;{}&#x202f;»&#x202f;: {}.</translation>
     </message>
     <message>
         <source>The connection broke off.</source>
@@ -6313,7 +6348,7 @@
     </message>
     <message>
         <source>The section before was not timed, so this time covers both.</source>
-        <translation>Le secteur précédent n’a pas été chronométré : ce temps couvre donc les deux.</translation>
+        <translation>Le secteur précédent n’a pas été chronométré&#x202f;: ce temps couvre donc les deux.</translation>
     </message>
     <message>
         <source>The server answered with status {}.</source>
@@ -6361,7 +6396,7 @@
     </message>
     <message>
         <source>The server was not found. Is the computer online?</source>
-        <translation>Le serveur est introuvable. L’ordinateur est-il connecté ?</translation>
+        <translation>Le serveur est introuvable. L’ordinateur est-il connecté&#x202f;?</translation>
     </message>
     <message>
         <source>The session has more sets or repetitions than can be timed.</source>
@@ -6389,7 +6424,7 @@
     </message>
     <message>
         <source>This run was not timed to the end, so this is not the time of the whole course.</source>
-        <translation>Cette manche n’a pas été chronométrée jusqu’au bout : ce n’est donc pas le temps de tout le parcours.</translation>
+        <translation>Cette manche n’a pas été chronométrée jusqu’au bout&#x202f;: ce n’est donc pas le temps de tout le parcours.</translation>
     </message>
     <message>
         <source>Where they differ, both stay.</source>
@@ -6465,7 +6500,7 @@
     </message>
     <message>
         <source>not JSON, byte {}: {}</source>
-        <translation>pas du JSON, octet {} : {}</translation>
+        <translation>pas du JSON, octet {}&#x202f;: {}</translation>
     </message>
     <message>
         <source>not JSON, or cut off</source>
@@ -6473,19 +6508,19 @@
     </message>
     <message>
         <source>not JSON: a number is malformed or out of range</source>
-        <translation>pas du JSON : un nombre est mal formé ou hors limites</translation>
+        <translation>pas du JSON&#x202f;: un nombre est mal formé ou hors limites</translation>
     </message>
     <message>
         <source>not JSON: a text holds a control character</source>
-        <translation>pas du JSON : un texte contient un caractère de contrôle</translation>
+        <translation>pas du JSON&#x202f;: un texte contient un caractère de contrôle</translation>
     </message>
     <message>
         <source>not JSON: a text holds a malformed escape</source>
-        <translation>pas du JSON : un texte contient un échappement mal formé</translation>
+        <translation>pas du JSON&#x202f;: un texte contient un échappement mal formé</translation>
     </message>
     <message>
         <source>not JSON: a text is not closed (the file may be cut off)</source>
-        <translation>pas du JSON : un texte n’est pas fermé (le fichier est peut-être tronqué)</translation>
+        <translation>pas du JSON&#x202f;: un texte n’est pas fermé (le fichier est peut-être tronqué)</translation>
     </message>
     <message>
         <source>position</source>
@@ -6529,7 +6564,7 @@
     </message>
     <message>
         <source>the file is no text; save the list as text (CSV) first</source>
-        <translation>le fichier n’est pas du texte ; enregistrez d’abord la liste en texte (CSV)</translation>
+        <translation>le fichier n’est pas du texte&#x202f;; enregistrez d’abord la liste en texte (CSV)</translation>
     </message>
     <message>
         <source>the file is not UTF-8 text</source>
@@ -6585,11 +6620,11 @@
     </message>
     <message>
         <source>the {} &quot;{}&quot; is no number of seconds</source>
-        <translation>{} « {} » : ce n’est pas un nombre de secondes</translation>
+        <translation>{} «&#x202f;{}&#x202f;»&#x202f;: ce n’est pas un nombre de secondes</translation>
     </message>
     <message>
         <source>the {} &quot;{}&quot; is no whole number</source>
-        <translation>{} « {} » : ce n’est pas un nombre entier</translation>
+        <translation>{} «&#x202f;{}&#x202f;»&#x202f;: ce n’est pas un nombre entier</translation>
     </message>
     <message>
         <source>there is no such file</source>
@@ -6601,7 +6636,7 @@
     </message>
     <message>
         <source>this is no JSON object: it does not begin with {</source>
-        <translation>ce n’est pas un objet JSON : il ne commence pas par {</translation>
+        <translation>ce n’est pas un objet JSON&#x202f;: il ne commence pas par {</translation>
     </message>
     <message>
         <source>this is not an ordinary file</source>
@@ -6617,15 +6652,15 @@
     </message>
     <message>
         <source>{0}: has the time of {1} (bibs {2} and {3}), and {1} has this one&apos;s. Exchange the two crews?</source>
-        <translation>{0} : a le temps de {1} (dossards {2} et {3}), et {1} a le sien. Échanger les deux équipages ?</translation>
+        <translation>{0}&#x202f;: a le temps de {1} (dossards {2} et {3}), et {1} a le sien. Échanger les deux équipages&#x202f;?</translation>
     </message>
     <message>
         <source>{0}: has the time of {1}, and {1} has this one&apos;s. Exchange the two crews?</source>
-        <translation>{0} : a le temps de {1}, et {1} a le sien. Échanger les deux équipages ?</translation>
+        <translation>{0}&#x202f;: a le temps de {1}, et {1} a le sien. Échanger les deux équipages&#x202f;?</translation>
     </message>
     <message>
         <source>{0}: the list says {1}, ours is {2}. Take {1} over?</source>
-        <translation>{0} : la liste dit {1}, le nôtre est {2}. Reprendre {1} ?</translation>
+        <translation>{0}&#x202f;: la liste dit {1}, le nôtre est {2}. Reprendre {1}&#x202f;?</translation>
     </message>
     <message numerus="yes">
         <source>{} fields</source>
@@ -6636,7 +6671,7 @@
     </message>
     <message>
         <source>{} is marked on this frame already.</source>
-        <translation>{} : déjà marqué sur cette image.</translation>
+        <translation>{}&#x202f;: déjà marqué sur cette image.</translation>
     </message>
     <message numerus="yes">
         <source>{} runs waiting</source>
@@ -6655,23 +6690,23 @@
     </message>
     <message>
         <source>{}: is not in the list.</source>
-        <translation>{} : n’est pas dans la liste.</translation>
+        <translation>{}&#x202f;: n’est pas dans la liste.</translation>
     </message>
     <message>
         <source>{}: the list has {} s of penalties, ours has {} s. Take the official result over?</source>
-        <translation>{} : la liste a {} s de pénalités, la nôtre {} s. Reprendre le résultat officiel ?</translation>
+        <translation>{}&#x202f;: la liste a {} s de pénalités, la nôtre {} s. Reprendre le résultat officiel&#x202f;?</translation>
     </message>
     <message>
         <source>{}: the list has {}, the film no time to the end. Take the official time over?</source>
-        <translation>{} : la liste a {}, le film aucun temps jusqu’au bout. Reprendre le temps officiel ?</translation>
+        <translation>{}&#x202f;: la liste a {}, le film aucun temps jusqu’au bout. Reprendre le temps officiel&#x202f;?</translation>
     </message>
     <message>
         <source>{}: the list has {}, the film {}, {} s apart. Take the official time over?</source>
-        <translation>{} : la liste a {}, le film {}, à {} s d’écart. Reprendre le temps officiel ?</translation>
+        <translation>{}&#x202f;: la liste a {}, le film {}, à {} s d’écart. Reprendre le temps officiel&#x202f;?</translation>
     </message>
     <message>
         <source>{}: the list says {}, ours is {}.</source>
-        <translation>{} : la liste dit {}, le nôtre est {}.</translation>
+        <translation>{}&#x202f;: la liste dit {}, le nôtre est {}.</translation>
     </message>
     <message>
         <source>A difference needs two columns, as in difference:Run 2,Run 1.</source>
@@ -6679,23 +6714,23 @@
     </message>
     <message>
         <source>A text has no sheet &quot;{}&quot;.</source>
-        <translation>Un texte n’a pas de feuille « {} ».</translation>
+        <translation>Un texte n’a pas de feuille «&#x202f;{}&#x202f;».</translation>
     </message>
     <message>
         <source>A {} is of one column, not of {}.</source>
-        <translation>{} : d’une colonne, pas de {}.</translation>
+        <translation>{}&#x202f;: d’une colonne, pas de {}.</translation>
     </message>
     <message>
         <source>A {} is of two columns, not of {}.</source>
-        <translation>{} : de deux colonnes, pas de {}.</translation>
+        <translation>{}&#x202f;: de deux colonnes, pas de {}.</translation>
     </message>
     <message>
         <source>No column holds times; name the one to reckon with.</source>
-        <translation>Aucune colonne ne contient de temps ; nommez celle avec laquelle calculer.</translation>
+        <translation>Aucune colonne ne contient de temps&#x202f;; nommez celle avec laquelle calculer.</translation>
     </message>
     <message>
         <source>No column holds times; name those to add, as in total:Time,Pen.</source>
-        <translation>Aucune colonne ne contient de temps ; nommez celles à additionner, comme dans total:Time,Pen.</translation>
+        <translation>Aucune colonne ne contient de temps&#x202f;; nommez celles à additionner, comme dans total:Time,Pen.</translation>
     </message>
     <message>
         <source>No list is open.</source>
@@ -6703,23 +6738,23 @@
     </message>
     <message>
         <source>Not drawn: %1</source>
-        <translation>Non dessiné : %1</translation>
+        <translation>Non dessiné&#x202f;: %1</translation>
     </message>
     <message>
         <source>Sections recorded in part: {}.</source>
-        <translation>Secteurs enregistrés en partie : {}.</translation>
+        <translation>Secteurs enregistrés en partie&#x202f;: {}.</translation>
     </message>
     <message>
         <source>Sections without strokes: {}.</source>
-        <translation>Secteurs sans coups : {}.</translation>
+        <translation>Secteurs sans coups&#x202f;: {}.</translation>
     </message>
     <message>
         <source>The column &quot;{}&quot; has no numbers to reckon with: it is {}.</source>
-        <translation>La colonne « {} » n’a pas de nombres pour calculer : elle est {}.</translation>
+        <translation>La colonne «&#x202f;{}&#x202f;» n’a pas de nombres pour calculer&#x202f;: elle est {}.</translation>
     </message>
     <message>
         <source>The column &quot;{}&quot; has {} values: too many for columns of a pivot.</source>
-        <translation>La colonne « {} » a {} valeurs : trop pour les colonnes d’un tableau croisé.</translation>
+        <translation>La colonne «&#x202f;{}&#x202f;» a {} valeurs&#x202f;: trop pour les colonnes d’un tableau croisé.</translation>
     </message>
     <message>
         <source>The file is packed, but holds no spreadsheet (.xlsx or .ods).</source>
@@ -6735,7 +6770,7 @@
     </message>
     <message>
         <source>The picture has {} MB. Up to 40 MB can be read; save it smaller first.</source>
-        <translation>L’image fait {} Mo. On peut en lire jusqu’à 40 Mo ; enregistrez-la d’abord plus petite.</translation>
+        <translation>L’image fait {} Mo. On peut en lire jusqu’à 40 Mo&#x202f;; enregistrez-la d’abord plus petite.</translation>
     </message>
     <message>
         <source>The picture is far too long for a course.</source>
@@ -6743,7 +6778,7 @@
     </message>
     <message>
         <source>The race carries no results list. Open the list itself; &quot;Keep with the race&quot; puts it there.</source>
-        <translation>La course ne porte aucune liste de résultats. Ouvrez la liste elle-même ; « Conserver avec la course » l’y met.</translation>
+        <translation>La course ne porte aucune liste de résultats. Ouvrez la liste elle-même&#x202f;; «&#x202f;Conserver avec la course&#x202f;» l’y met.</translation>
     </message>
     <message>
         <source>The report could not be painted.</source>
@@ -6751,19 +6786,19 @@
     </message>
     <message>
         <source>The sheet &quot;{}&quot; has merged cells: their value stands in each of their lines.</source>
-        <translation>La feuille « {} » a des cellules fusionnées : leur valeur figure dans chacune de leurs lignes.</translation>
+        <translation>La feuille «&#x202f;{}&#x202f;» a des cellules fusionnées&#x202f;: leur valeur figure dans chacune de leurs lignes.</translation>
     </message>
     <message>
         <source>The spreadsheet is damaged: its part {} cannot be read.</source>
-        <translation>La feuille de calcul est endommagée : sa partie {} est illisible.</translation>
+        <translation>La feuille de calcul est endommagée&#x202f;: sa partie {} est illisible.</translation>
     </message>
     <message>
         <source>The spreadsheet is damaged: its part {} cannot be unpacked.</source>
-        <translation>La feuille de calcul est endommagée : sa partie {} ne peut pas être décompressée.</translation>
+        <translation>La feuille de calcul est endommagée&#x202f;: sa partie {} ne peut pas être décompressée.</translation>
     </message>
     <message>
         <source>The spreadsheet is damaged: {}.</source>
-        <translation>La feuille de calcul est endommagée : {}.</translation>
+        <translation>La feuille de calcul est endommagée&#x202f;: {}.</translation>
     </message>
     <message>
         <source>The spreadsheet is protected by a password. Save it without one and open it again.</source>
@@ -6771,27 +6806,27 @@
     </message>
     <message>
         <source>The spreadsheet is too large: unpacked it is over 128 MB.</source>
-        <translation>La feuille de calcul est trop grande : décompressée, elle dépasse 128 Mo.</translation>
+        <translation>La feuille de calcul est trop grande&#x202f;: décompressée, elle dépasse 128 Mo.</translation>
     </message>
     <message>
         <source>The text is no UTF-8 and was read as Latin-1; look at the letters with accents.</source>
-        <translation>Le texte n’est pas de l’UTF-8 et a été lu comme Latin-1 ; vérifiez les lettres accentuées.</translation>
+        <translation>Le texte n’est pas de l’UTF-8 et a été lu comme Latin-1&#x202f;; vérifiez les lettres accentuées.</translation>
     </message>
     <message>
         <source>There are several sheets; choose one of {}.</source>
-        <translation>Il y a plusieurs feuilles ; choisissez parmi {}.</translation>
+        <translation>Il y a plusieurs feuilles&#x202f;; choisissez parmi {}.</translation>
     </message>
     <message>
         <source>There is no column &quot;{}&quot;; there is none.</source>
-        <translation>Il n’y a pas de colonne « {} » ; il n’y en a aucune.</translation>
+        <translation>Il n’y a pas de colonne «&#x202f;{}&#x202f;»&#x202f;; il n’y en a aucune.</translation>
     </message>
     <message>
         <source>There is no column &quot;{}&quot;; there is {}.</source>
-        <translation>Il n’y a pas de colonne « {} » ; il y a {}.</translation>
+        <translation>Il n’y a pas de colonne «&#x202f;{}&#x202f;»&#x202f;; il y a {}.</translation>
     </message>
     <message>
         <source>There is no sheet &quot;{}&quot;; there is {}.</source>
-        <translation>Il n’y a pas de feuille « {} » ; il y a {}.</translation>
+        <translation>Il n’y a pas de feuille «&#x202f;{}&#x202f;»&#x202f;; il y a {}.</translation>
     </message>
     <message>
         <source>There is nothing in it.</source>
@@ -6799,7 +6834,7 @@
     </message>
     <message>
         <source>This is a PDF, which has no columns to read; open it in a viewer.</source>
-        <translation>C’est un PDF, qui n’a pas de colonnes à lire ; ouvrez-le dans une visionneuse.</translation>
+        <translation>C’est un PDF, qui n’a pas de colonnes à lire&#x202f;; ouvrez-le dans une visionneuse.</translation>
     </message>
     <message>
         <source>This is a spreadsheet with a password or of the old kind (.xls). Save it without a password as .xlsx, .ods or text (CSV).</source>
@@ -6819,7 +6854,7 @@
     </message>
     <message>
         <source>gate %1: %2</source>
-        <translation>porte %1 : %2</translation>
+        <translation>porte %1&#x202f;: %2</translation>
     </message>
     <message>
         <source>is not in the team</source>
@@ -6835,11 +6870,11 @@
     </message>
     <message>
         <source>no category of the team is called &quot;{}&quot;</source>
-        <translation>aucune catégorie de l’équipe ne s’appelle « {} »</translation>
+        <translation>aucune catégorie de l’équipe ne s’appelle «&#x202f;{}&#x202f;»</translation>
     </message>
     <message>
         <source>no phase of the team is called &quot;{}&quot;</source>
-        <translation>aucune phase de l’équipe ne s’appelle « {} »</translation>
+        <translation>aucune phase de l’équipe ne s’appelle «&#x202f;{}&#x202f;»</translation>
     </message>
     <message>
         <source>no day such as 2026-05-03 or 3.5.2026</source>
@@ -6871,7 +6906,7 @@
     </message>
     <message>
         <source>the line ends here: it has {} of {} fields</source>
-        <translation>la ligne se termine ici : elle a {} champs sur {}</translation>
+        <translation>la ligne se termine ici&#x202f;: elle a {} champs sur {}</translation>
     </message>
     <message>
         <source>the line has more fields than there are columns</source>
@@ -6891,11 +6926,11 @@
     </message>
     <message>
         <source>{}: no run has a film</source>
-        <translation>{} : aucune manche n’a de film</translation>
+        <translation>{}&#x202f;: aucune manche n’a de film</translation>
     </message>
     <message>
         <source>{}: the column is {}</source>
-        <translation>{} : la colonne est {}</translation>
+        <translation>{}&#x202f;: la colonne est {}</translation>
     </message>
     <message>
         <source>1 field where a bib and a name are needed</source>
@@ -6919,7 +6954,7 @@
     </message>
     <message>
         <source>Both are kept: the one of this computer is “{}” now.</source>
-        <translation>Les deux sont conservés : celui de cet ordinateur est maintenant « {} ».</translation>
+        <translation>Les deux sont conservés&#x202f;: celui de cet ordinateur est maintenant «&#x202f;{}&#x202f;».</translation>
     </message>
     <message>
         <source>Both sides have the same.</source>
@@ -6927,11 +6962,11 @@
     </message>
     <message>
         <source>Gate {}: it is not on the cross course.</source>
-        <translation>Porte {} : elle n’est pas sur le parcours de cross.</translation>
+        <translation>Porte {}&#x202f;: elle n’est pas sur le parcours de cross.</translation>
     </message>
     <message>
         <source>Gate {}: {}</source>
-        <translation>Porte {} : {}</translation>
+        <translation>Porte {}&#x202f;: {}</translation>
     </message>
     <message>
         <source>It could not be given another name. Compare again.</source>
@@ -6951,7 +6986,7 @@
     </message>
     <message>
         <source>It is not on the server yet: {}</source>
-        <translation>Il n’est pas encore sur le serveur : {}</translation>
+        <translation>Il n’est pas encore sur le serveur&#x202f;: {}</translation>
     </message>
     <message>
         <source>It is on the server again. Compare again.</source>
@@ -6987,11 +7022,11 @@
     </message>
     <message>
         <source>No mark tells yet how this camera&apos;s film lies beside the run&apos;s first one: mark one moment on both in split taking.</source>
-        <translation>Aucune marque ne dit encore comment le film de cette caméra se place par rapport au premier de la manche : marquez un moment sur les deux dans la prise de temps.</translation>
+        <translation>Aucune marque ne dit encore comment le film de cette caméra se place par rapport au premier de la manche&#x202f;: marquez un moment sur les deux dans la prise de temps.</translation>
     </message>
     <message>
         <source>This is a fixed camera beside the run&apos;s own film: synchronise the two in split taking first.</source>
-        <translation>C’est une caméra fixe à côté du film de la manche : synchronisez d’abord les deux dans la prise de temps.</translation>
+        <translation>C’est une caméra fixe à côté du film de la manche&#x202f;: synchronisez d’abord les deux dans la prise de temps.</translation>
     </message>
     <message>
         <source>The course has {}, and this line is for split {}.</source>
@@ -7022,7 +7057,7 @@
     </message>
     <message>
         <source>Two brackets stand side by side: nothing tells where one ends.</source>
-        <translation>Deux accolades se suivent : rien ne dit où l’une finit.</translation>
+        <translation>Deux accolades se suivent&#x202f;: rien ne dit où l’une finit.</translation>
     </message>
     <message>
         <source>{{{}}} is not known. There are {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} and {{any}}.</source>
@@ -7102,7 +7137,7 @@
     </message>
     <message>
         <source>no {} is known</source>
-        <translation>inconnu : {}</translation>
+        <translation>inconnu&#x202f;: {}</translation>
     </message>
     <message>
         <source>nothing would be left of the name</source>
@@ -7114,7 +7149,7 @@
     </message>
     <message>
         <source>the bib &quot;{}&quot; is no number above 0</source>
-        <translation>le dossard « {} » n’est pas un nombre supérieur à 0</translation>
+        <translation>le dossard «&#x202f;{}&#x202f;» n’est pas un nombre supérieur à 0</translation>
     </message>
     <message>
         <source>the bib {} is on line {} already</source>
@@ -7126,7 +7161,7 @@
     </message>
     <message>
         <source>the start &quot;{}&quot; is neither a time of day such as 10:01:30 nor a number in an order</source>
-        <translation>le départ « {} » n’est ni une heure telle que 10:01:30 ni un numéro d’ordre</translation>
+        <translation>le départ «&#x202f;{}&#x202f;» n’est ni une heure telle que 10:01:30 ni un numéro d’ordre</translation>
     </message>
     <message>
         <source>there is no name</source>
@@ -7170,7 +7205,7 @@
     </message>
     <message>
         <source>A brace is opened and not closed: {}</source>
-        <translation>Une accolade est ouverte et pas fermée : {}</translation>
+        <translation>Une accolade est ouverte et pas fermée&#x202f;: {}</translation>
     </message>
     <message>
         <source>Aerial phase</source>
@@ -7306,7 +7341,7 @@
     </message>
     <message>
         <source>The address asks for no {bib}, so that every run would have the same film.</source>
-        <translation>L’adresse ne demande aucun {bib} : chaque manche aurait donc le même film.</translation>
+        <translation>L’adresse ne demande aucun {bib}&#x202f;: chaque manche aurait donc le même film.</translation>
     </message>
     <message>
         <source>The address is that of a file. A folder is shared.</source>
@@ -7334,7 +7369,7 @@
     </message>
     <message>
         <source>The list tells no {} of this run.</source>
-        <translation>La liste ne dit pas de cette manche : {}.</translation>
+        <translation>La liste ne dit pas de cette manche&#x202f;: {}.</translation>
     </message>
     <message>
         <source>number of the run</source>
@@ -7342,7 +7377,7 @@
     </message>
     <message>
         <source>The pattern of names: {}</source>
-        <translation>Le modèle des noms : {}</translation>
+        <translation>Le modèle des noms&#x202f;: {}</translation>
     </message>
     <message>
         <source>The server does not speak WebDAV at this address.</source>
@@ -7378,7 +7413,7 @@
     </message>
     <message>
         <source>{{{}}} means nothing here: there are {{bib}}, {{category}}, {{phase}} and {{run}}.</source>
-        <translation>{{{}}} ne veut rien dire ici : il y a {{bib}}, {{category}}, {{phase}} et {{run}}.</translation>
+        <translation>{{{}}} ne veut rien dire ici&#x202f;: il y a {{bib}}, {{category}}, {{phase}} et {{run}}.</translation>
     </message>
 </context>
 <context>
@@ -9101,7 +9136,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#x202f;%</translation>
     </message>
     <message>
         <source>s</source>
@@ -9117,7 +9152,7 @@
     </message>
     <message>
         <source>No boat was found that could be this run: look for it in the slit picture.</source>
-        <translation>Aucun bateau trouvé qui puisse être cette manche : cherchez-le dans l’image à fente.</translation>
+        <translation>Aucun bateau trouvé qui puisse être cette manche&#x202f;: cherchez-le dans l’image à fente.</translation>
     </message>
     <message>
         <source>This run is marked here.</source>
@@ -9177,7 +9212,7 @@
     </message>
     <message>
         <source>Is compared; where both differ, both are kept</source>
-        <translation>Est comparé ; s’ils diffèrent, les deux sont conservés</translation>
+        <translation>Est comparé&#x202f;; s’ils diffèrent, les deux sont conservés</translation>
     </message>
     <message>
         <source>Is deleted on the server where you tick it</source>
@@ -9229,11 +9264,11 @@
     </message>
     <message>
         <source>Fastest at %1 s of the film: %2 m/s.</source>
-        <translation>Maximum à %1 s du film : %2 m/s.</translation>
+        <translation>Maximum à %1 s du film&#x202f;: %2 m/s.</translation>
     </message>
     <message>
         <source>Fastest at %1 s of the film: %2 m/s (a scale only: it holds near the two points and along their line).</source>
-        <translation>Maximum à %1 s du film : %2 m/s (une échelle seulement : elle vaut près des deux points et le long de leur ligne).</translation>
+        <translation>Maximum à %1 s du film&#x202f;: %2 m/s (une échelle seulement&#x202f;: elle vaut près des deux points et le long de leur ligne).</translation>
     </message>
     <message>
         <source>Frame</source>
@@ -9277,11 +9312,11 @@
     </message>
     <message>
         <source>Click known points on the water for metres and speeds: the poles of two gates, or of one for a scale only.</source>
-        <translation>Cliquez sur des points connus de l’eau pour les mètres et les vitesses : les fiches de deux portes, ou d’une seule pour une simple échelle.</translation>
+        <translation>Cliquez sur des points connus de l’eau pour les mètres et les vitesses&#x202f;: les fiches de deux portes, ou d’une seule pour une simple échelle.</translation>
     </message>
     <message>
         <source>There is no speed: the path is too short, or the camera&apos;s motion is not known.</source>
-        <translation>Il n’y a pas de vitesse : la trajectoire est trop courte, ou le mouvement de la caméra est inconnu.</translation>
+        <translation>Il n’y a pas de vitesse&#x202f;: la trajectoire est trop courte, ou le mouvement de la caméra est inconnu.</translation>
     </message>
     <message>
         <source>Uncertainty of the clicks</source>
@@ -10254,10 +10289,6 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
         <translation>Dedans</translation>
     </message>
     <message>
-        <source>Its place in the composed film. Space chooses it or takes it out.</source>
-        <translation>Sa place dans le film composé. Espace le choisit ou le retire.</translation>
-    </message>
-    <message>
         <source>Film</source>
         <translation>Film</translation>
     </message>
@@ -10392,6 +10423,10 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     <message>
         <source>Shows it twice as large, round that path.</source>
         <translation>Le montre deux fois plus grand, autour de cette trajectoire.</translation>
+    </message>
+    <message>
+        <source>Its place in the composed film. Enter chooses it or takes it out.</source>
+        <translation>Sa place dans le film composé. Entrée le choisit ou le retire.</translation>
     </message>
 </context>
 <context>
@@ -11051,7 +11086,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>Click where a gate hangs; hold the button and drag its right pole round.</source>
-        <translation>Cliquez là où pend une porte ; maintenez le bouton et tournez sa fiche droite.</translation>
+        <translation>Cliquez là où pend une porte&#x202f;; maintenez le bouton et tournez sa fiche droite.</translation>
     </message>
     <message>
         <source>Drag from bank to bank where the split is taken.</source>
@@ -11071,7 +11106,7 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     </message>
     <message>
         <source>It has %1 MB. Up to 40 MB can be read; save it smaller first.</source>
-        <translation>Elle fait %1 Mo. On peut en lire jusqu’à 40 Mo ; enregistrez-la d’abord plus petite.</translation>
+        <translation>Elle fait %1 Mo. On peut en lire jusqu’à 40 Mo&#x202f;; enregistrez-la d’abord plus petite.</translation>
     </message>
 </context>
 <context>
@@ -21037,30 +21072,6 @@ Choisissez un fichier.</translation>
         <translation>Partager des dossiers</translation>
     </message>
     <message>
-        <source>F&amp;older</source>
-        <translation>&amp;Dossier</translation>
-    </message>
-    <message>
-        <source>On this computer, with everything below it but hidden files</source>
-        <translation>Sur cet ordinateur, avec tout ce qu’il contient sauf les fichiers cachés</translation>
-    </message>
-    <message>
-        <source>the folder that is shared</source>
-        <translation>le dossier partagé</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>&amp;Adresse</translation>
-    </message>
-    <message>
-        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
-        <translation>D’un dossier sur un serveur WebDAV&#x202f;: Nextcloud, ownCloud, un NAS, Apache…</translation>
-    </message>
-    <message>
-        <source>Choose the folder…</source>
-        <translation>Choisir le dossier…</translation>
-    </message>
-    <message>
         <source>Compare</source>
         <translation>Comparer</translation>
     </message>
@@ -21091,14 +21102,6 @@ Choisissez un fichier.</translation>
     <message>
         <source>The folder to share</source>
         <translation>Le dossier à partager</translation>
-    </message>
-    <message>
-        <source>There is no folder to share yet.</source>
-        <translation>Il n’y a pas encore de dossier à partager.</translation>
-    </message>
-    <message>
-        <source>“%1” is no folder.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un dossier.</translation>
     </message>
     <message>
         <source>Both sides are looked at…</source>
@@ -21370,6 +21373,10 @@ et %1 autres</translation>
     <message>
         <source>The lines could not be kept in %1: %2</source>
         <translation>Les lignes n’ont pas pu être conservées dans %1&#x202f;: %2</translation>
+    </message>
+    <message>
+        <source>The lines of this film are still being read. Try again in a moment.</source>
+        <translation>Les lignes de cette vidéo sont encore en cours de lecture. Réessayez dans un instant.</translation>
     </message>
 </context>
 <context>
@@ -21833,11 +21840,11 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     </message>
     <message>
         <source>Done: %1</source>
-        <translation>Fait : %1</translation>
+        <translation>Fait&#x202f;: %1</translation>
     </message>
     <message>
         <source>To do: %1</source>
-        <translation>À faire : %1</translation>
+        <translation>À faire&#x202f;: %1</translation>
     </message>
 </context>
 <context>
