@@ -142,6 +142,7 @@ private:
                      "the line ends here: it has " + std::to_string(line.fields.size()) + " of " +
                          std::to_string(m_width) + " fields"});
             m_rows.push_back(i);
+            m_table.ids.push_back(m_table.lines.size());
             m_table.lines.push_back(line.number);
         }
     }
@@ -161,6 +162,7 @@ private:
             if (title.empty() && std::ranges::all_of(texts, &std::string::empty))
                 continue;
             GridColumn made;
+            made.source = static_cast<std::int64_t>(column) + 1;
             made.name = uniqueColumnName(
                 m_table, title.empty() ? "Column " + std::to_string(column + 1) : title);
             addColumn(std::move(made), column, std::move(texts));
@@ -188,6 +190,7 @@ private:
             made.cells.push_back({std::move(texts[row]), value.number, value.isStatus});
         }
         const std::string name = made.name;
+        penalty.source = made.source;
         m_table.columns.push_back(std::move(made));
         if (!hasPenalty)
             return;
