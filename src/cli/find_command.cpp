@@ -4,7 +4,9 @@
 #include "cli/fact_input.h"
 #include "cli/fact_scan.h"
 #include "cli/find_text.h"
+#include "cli/told_reason.h"
 #include "common/display_text.h"
+#include "facts/found_reasons.h"
 #include "facts/found_text.h"
 #include "performance/unknown_names.h"
 
@@ -33,6 +35,7 @@ constexpr const char* QueryHelp =
 struct FindCall {
     std::vector<std::string> words; ///< the paths, and last the query
     std::string csv;
+    std::string why;
     bool json = false;
 };
 
@@ -65,6 +68,8 @@ int find(const FindCall& call) {
         return WrongCall;
     }
     const QueryAnswer found = answer(scan.facts, query);
+    if (!call.why.empty())
+        return tellReason(explainFound(found, call.why), call.why);
     if (found.size() == 0)
         tellUnknownAthletes(query, scan.facts);
     const bool isKept = isTableWritten(call.csv, call.csv.empty() ? "" : findCsv(found));
@@ -83,6 +88,9 @@ void addFind(Command program, int& status) {
         .required();
     command.flag("--json", call->json, "Print one JSON document");
     command.option("--csv", call->csv, "File to write: semicolon-separated text");
+    command.option("--why", call->why,
+                   "Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in "
+                   "--json, as in cell/0/time");
     command.footer(QueryHelp);
     command.onRun([call, &status] { status = find(*call); });
 }

@@ -29,6 +29,7 @@ struct SeasonCall {
     std::string category;
     std::string years;
     std::vector<std::string> field;
+    std::string starter;
     bool json = false;
     std::string csv;
     std::string why;
@@ -60,6 +61,7 @@ std::string complaintAboutYears(const std::string& text) {
 SeasonChoice choiceOf(const SeasonCall& call) {
     SeasonChoice choice;
     choice.category = call.category;
+    choice.starter = call.starter;
     if (const auto years = yearsOf(call.years)) {
         choice.firstYear = years->first;
         choice.lastYear = years->last;
@@ -79,27 +81,46 @@ void logUnknownCategory(const myTeamToSaveStruct& team, const std::string& categ
                 (text.empty() ? "none" : text)));
 }
 
+/// That nobody is called so, with the nearest of the names there are.
+void logUnknownName(const SeasonData& data, const std::string& name) {
+    constexpr std::size_t MostOffered = 3;
+    std::vector<std::string> names;
+    for (const SeasonBoat& known : data.boats)
+        names.push_back(known.name);
+    std::string text = "Nobody is called \"" + pathText(name) + "\" in these races";
+    const std::vector<std::size_t> likest = byLikeness(name, names);
+    for (std::size_t i = 0; i < std::min(likest.size(), MostOffered); ++i)
+        text += (i == 0 ? ". The nearest names: " : ", ") + names[likest[i]];
+    logLine(text + '.');
+}
+
 /// The boats of a field; nothing, after a message, where one is not known.
 std::optional<std::vector<std::size_t>> fieldOf(const SeasonData& data, const SeasonCall& call) {
-    constexpr std::size_t MostOffered = 3;
     std::vector<std::size_t> boats;
     for (const std::string& name : call.field) {
         const auto boat = data.boatNamed(name);
-        if (boat) {
-            boats.push_back(*boat);
-            continue;
+        if (!boat) {
+            logUnknownName(data, name);
+            return std::nullopt;
         }
-        std::vector<std::string> names;
-        for (const SeasonBoat& known : data.boats)
-            names.push_back(known.name);
-        std::string text = "Nobody is called \"" + pathText(name) + "\" in these races";
-        const std::vector<std::size_t> likest = byLikeness(name, names);
-        for (std::size_t i = 0; i < std::min(likest.size(), MostOffered); ++i)
-            text += (i == 0 ? ". The nearest names: " : ", ") + names[likest[i]];
-        logLine(text + '.');
-        return std::nullopt;
+        boats.push_back(*boat);
     }
     return boats;
+}
+
+/// Of somebody of whom no start is known there are no races: says so, or who may be meant.
+bool hasStarts(const SeasonData& data, const myTeamToSaveStruct& team, const FactStore& facts,
+               const SeasonCall& call) {
+    if (call.starter.empty() || data.starter)
+        return true;
+    SeasonChoice all = choiceOf(call);
+    all.starter.clear();
+    const SeasonData everybody = seasonData(team, facts, all);
+    if (everybody.boatNamed(call.starter))
+        logLine(say("No start of {} is known in these races.", pathText(call.starter)));
+    else
+        logUnknownName(everybody, call.starter);
+    return false;
 }
 
 bool isTeamItself(const SeasonCall& call) {
@@ -133,6 +154,8 @@ int tellTeamSeason(const SeasonCall& call, const Painting* painting) {
     for (const std::string& twin : data.twins)
         logLine(say("Several athletes of the team are called {}: their runs cannot be told apart.",
                     pathText(twin)));
+    if (!hasStarts(data, *team, input.facts, call))
+        return NotDone;
     const auto field = fieldOf(data, call);
     if (!field)
         return NotDone;
@@ -162,6 +185,8 @@ void addSeason(Command program, int& status, const Painting* painting) {
     command.option("--field", call->field,
                    "Whose places to expect of one another; the team and those who raced most "
                    "often without it");
+    command.option("--starter", call->starter,
+                   "Only races in which this athlete starts, in whichever phase");
     command.flag("--json", call->json, "Print one JSON document");
     command.option("--csv", call->csv,
                    "File to write: the runs of the athletes as semicolon-separated text");

@@ -140,8 +140,10 @@ struct TeamSeasonJson {
     std::vector<SeasonAthleteJson> athletes;
     std::vector<BenchmarkJson> benchmarks;
     std::vector<ExpectedPlaceJson> simulation;
+    std::optional<std::string> starter; ///< in whose races alone this was
 };
-BOOST_DESCRIBE_STRUCT(TeamSeasonJson, (), (category, spread, athletes, benchmarks, simulation))
+BOOST_DESCRIBE_STRUCT(TeamSeasonJson, (),
+                      (category, spread, athletes, benchmarks, simulation, starter))
 
 std::int64_t seasonCount(std::size_t count) {
     return static_cast<std::int64_t>(count);
@@ -251,6 +253,8 @@ std::string teamSeasonJson(const Season& season) {
                                    seasonCount(place.runs), place.mean, place.sd, place.fail,
                                    place.chances.places, place.chances.expected,
                                    place.chances.medal});
+    if (season.data.starter)
+        json.starter = validUtf8(*season.data.starter);
     return encode(json) + '\n';
 }
 

@@ -74,6 +74,8 @@ private:
                 counted(static_cast<std::int64_t>(m_season.athletes.size()), "athlete", "athletes"),
                 counted(static_cast<std::int64_t>(fileCount(m_season.data)), "split file",
                         "split files")));
+        if (m_season.data.starter)
+            addLine(say("Only races in which {} starts.", printable(*m_season.data.starter)));
         if (!spread.cv) {
             addLine(say("Too few runs to tell how much they vary by chance."));
             return;

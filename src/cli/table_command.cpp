@@ -4,6 +4,7 @@
 #include "cli/fact_input.h"
 #include "cli/split_file_edit.h"
 #include "cli/table_print.h"
+#include "cli/told_reason.h"
 #include "common/error.h"
 #include "common/text.h"
 #include "common/text_file.h"
@@ -11,7 +12,7 @@
 #include "results/team_file.h"
 #include "tables/list_source.h"
 #include "tables/table_error.h"
-#include "tables/table_steps.h"
+#include "tables/table_reasons.h"
 #include "tables/table_text.h"
 
 #include <filesystem>
@@ -30,6 +31,7 @@ struct TableCall {
     std::string team;
     std::string sheet;
     std::string csv;
+    std::string why;
     bool json = false;
 };
 
@@ -71,13 +73,13 @@ std::optional<ListGrid> listOfCall(const TableCall& call) {
     return listOfRace(race->document.info, call.file, call.sheet);
 }
 
-ListTable tableOfCall(const TableCall& call, ListGrid list) {
+TableSteps stepsOfCall(const TableCall& call, ListGrid list) {
     TableSteps steps(std::move(list));
     for (const std::string& text : call.derive)
         steps = steps.with(parsedDerivedColumn(text));
     if (!call.pivot.empty())
         steps = steps.with(parsedPivot(call.pivot));
-    return steps.table();
+    return steps;
 }
 
 /// The unsure rows, which only a coach can tell.
@@ -95,7 +97,10 @@ void tellUnsure(const ListTable& table, std::span<const KnownAthlete> athletes,
 }
 
 int tellTable(const TableCall& call, ListGrid list) {
-    const ListTable table = tableOfCall(call, std::move(list));
+    const TableSteps steps = stepsOfCall(call, std::move(list));
+    if (!call.why.empty())
+        return tellReason(explainTable(steps, call.why, call.file), call.why);
+    const ListTable& table = steps.table();
     for (const std::string& note : table.notes)
         logLine(note);
     std::vector<KnownAthlete> athletes;
@@ -165,6 +170,9 @@ void addTable(Command program, int& status) {
                    "The sheet, where there are several; of a split file which of its lists");
     command.flag("--json", call->json, "Print one JSON document");
     command.option("--csv", call->csv, "File to write the table to: semicolon-separated text");
+    command.option("--why", call->why,
+                   "Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in "
+                   "--json, as in cell/0/rank");
     command.footer(
         "Columns are named by their titles or by their numbers from 1; names with a "
         "comma stand in quotes. Cells that are none of their column's kind are told with "

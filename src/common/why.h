@@ -4,6 +4,7 @@
 #include "common/interval.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -25,7 +26,8 @@ struct Rule {
 
 using RuleId = const Rule*;
 
-/// Where a number stands in a file. Runs and entries are counted from 0, splits and gates from 1.
+/// Where a number stands in a file. Runs and entries are counted from 0, splits, gates, lines and
+/// columns from 1.
 struct Place {
     std::filesystem::path file;
     std::size_t run = 0;
@@ -33,6 +35,8 @@ struct Place {
     std::optional<std::size_t> gate;
     std::optional<std::size_t> entry; ///< of a run's list of notes
     std::optional<CMTime> moment;     ///< on the run's first film
+    std::optional<std::int64_t> line = {};   ///< of a list, which has no runs
+    std::optional<std::int64_t> column = {}; ///< of a list
 
     friend bool operator==(const Place&, const Place&) = default;
 };

@@ -89,8 +89,12 @@ private:
 } // namespace
 
 std::string placeText(const Place& place) {
+    // What was copied has no file.
     std::string text = printable(validUtf8(place.file.filename().string()));
-    text += std::string(Dot) + say("run {}", place.run);
+    text += text.empty() ? std::string() : std::string(Dot);
+    text += place.line ? say("line {}", *place.line) : say("run {}", place.run);
+    if (place.column)
+        text += std::string(Dot) + say("column {}", *place.column);
     if (place.split)
         text += std::string(Dot) + say("split {}", *place.split);
     if (place.gate)
@@ -119,7 +123,7 @@ std::string uncertaintyText(const Reason& reason) {
 std::string inputText(const Input& input) {
     constexpr double Largest = 1e15; // beyond it every number is whole
     const bool isCount =
-        !input.place && std::abs(input.value) < Largest && input.value == std::floor(input.value);
+        (!input.place || input.place->line) && std::abs(input.value) < Largest && input.value == std::floor(input.value);
     return isCount ? plainText(input.value) : hundredthsText(input.value);
 }
 

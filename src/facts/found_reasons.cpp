@@ -1,5 +1,6 @@
 #include "facts/found_reasons.h"
 
+#include "common/cell_id.h"
 #include "facts/found_text.h"
 
 #include <algorithm>
@@ -124,6 +125,15 @@ std::optional<Reason> explainFound(const QueryAnswer& answer, std::size_t row, s
         why.result(ruleOfColumn(*found.column), value, answer.text(row, column));
     }
     return why.reason();
+}
+
+std::optional<Reason> explainFound(const QueryAnswer& answer, std::string_view id) {
+    const auto cell = parsedCellId(id);
+    if (!cell)
+        return std::nullopt;
+    const auto found = std::ranges::find(answer.columns(), cell->column, &FoundColumn::name);
+    return explainFound(answer, cell->row,
+                        static_cast<std::size_t>(found - answer.columns().begin()));
 }
 
 } // namespace kavela

@@ -4,7 +4,9 @@
 #include "facts/groups.h"
 #include "performance/loss_sides.h"
 #include "performance/penalty_passages.h"
+#include "performance/season_days.h"
 #include "performance/season_rules.h"
+#include "performance/season_starts.h"
 #include "splitdata/athlete_keys.h"
 #include "splitdata/frame_step.h"
 #include "splitdata/run_totals.h"
@@ -12,7 +14,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <map>
 #include <ranges>
@@ -25,23 +26,6 @@ namespace kavela {
 namespace {
 
 constexpr std::string_view RaceSessionWord = "Race";
-constexpr double SecondsOfDay = 86400;
-
-/// Days since 2001-01-01.
-double seasonDay(ReferenceDate date) {
-    return std::floor(date.seconds / SecondsOfDay);
-}
-
-/// 0 for a date that is none.
-std::int64_t yearOfDate(ReferenceDate date) {
-    constexpr double MostDays = 2'900'000; // the calendar of the library ends somewhat later
-    const double day = seasonDay(date);
-    if (!(std::abs(day) < MostDays))
-        return 0;
-    using namespace std::chrono;
-    constexpr sys_days First = 2001y / January / 1;
-    return static_cast<int>(year_month_day(First + days(static_cast<int>(day))).year());
-}
 
 /// The team's label of a phase, else what is written.
 std::string phaseLabel(const std::string& written) {
@@ -79,6 +63,10 @@ public:
     SeasonReader(const myTeamToSaveStruct& team, const FactStore& facts, const SeasonChoice& choice)
         : m_team(team), m_facts(facts), m_choice(choice), m_key(categoryKey(choice.category)) {
         m_data.category = choice.category;
+        if (choice.starter.empty())
+            return;
+        m_starts.emplace(team, facts, choice);
+        m_data.starter = m_starts->name();
     }
 
     [[nodiscard]] SeasonData read() {
@@ -140,7 +128,8 @@ private:
                 RaceResult result{season.year, race.event, race.location, race.finalPos, {}};
                 for (const mtPhaseStruct& phase : race.phases)
                     result.phases.push_back(resultOf(phase));
-                member.races.push_back(std::move(result));
+                if (!m_starts || m_starts->has(result))
+                    member.races.push_back(std::move(result));
             }
         }
         std::ranges::stable_sort(member.races, {}, [](const RaceResult& race) {
@@ -166,8 +155,8 @@ private:
         const RunRow& first = m_facts.runs()[group.front()];
         const FileRow& file = m_facts.fileOf(first);
         const ReferenceDate date{file.date};
-        if (m_facts.text(file.session) != RaceSessionWord ||
-            m_facts.text(first.categoryKey) != m_key || !m_choice.has(yearOfDate(date)))
+        if (!isSeasonRace(m_facts, file) || m_facts.text(first.categoryKey) != m_key ||
+            !m_choice.has(yearOfDate(date)) || (m_starts && !m_starts->has(m_facts, file)))
             return;
         const std::size_t phase = m_data.phases.size();
         const std::string_view place = m_facts.text(file.place != 0 ? file.place : file.title);
@@ -268,6 +257,7 @@ private:
     const FactStore& m_facts;
     const SeasonChoice& m_choice;
     std::string m_key;
+    std::optional<SeasonStarts> m_starts; ///< where only these races are asked for
     SeasonData m_data;
     std::unordered_map<std::string, std::size_t> m_boats;
     std::vector<GroupFigures> m_groups; ///< by phase; the split files' come first
@@ -289,6 +279,10 @@ std::string_view sourceText(WinnerSource source) {
         break;
     }
     return "";
+}
+
+bool isSeasonRace(const FactStore& facts, const FileRow& file) {
+    return facts.text(file.session) == RaceSessionWord;
 }
 
 std::optional<std::size_t> SeasonData::boatNamed(std::string_view name) const {

@@ -23,6 +23,8 @@ struct SeasonChoice {
     std::string category; ///< however it is written
     std::int64_t firstYear = std::numeric_limits<std::int64_t>::min();
     std::int64_t lastYear = std::numeric_limits<std::int64_t>::max();
+    /// Only races in which this athlete starts at all, whoever else is asked about; empty for all.
+    std::string starter = {};
 
     [[nodiscard]] bool has(std::int64_t year) const {
         return firstYear <= year && year <= lastYear;
@@ -104,12 +106,18 @@ struct SeasonData {
     std::vector<SeasonRun> runs; ///< those of split files first
     std::vector<SeasonMember> members;
     std::vector<std::string> twins; ///< names that several athletes of the team have
+    /// In whose races all this was, as first written; nothing for all races, and for somebody of
+    /// whom no start is known: then there are none.
+    std::optional<std::string> starter;
 
     /// The boat of a name however it is written.
     [[nodiscard]] std::optional<std::size_t> boatNamed(std::string_view name) const;
     /// The athlete of a name however it is written; the first of several.
     [[nodiscard]] std::optional<std::size_t> memberNamed(std::string_view name) const;
 };
+
+/// Whether a split file is of a race, and no training.
+[[nodiscard]] bool isSeasonRace(const FactStore& facts, const FileRow& file);
 
 /// Only races count: files whose session is one, of the category and the years. The team's phase
 /// and a file's group are the same when phase and category are, place or title is the location, and

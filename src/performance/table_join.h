@@ -1,10 +1,9 @@
 #pragma once
 
 #include "results/team_records.h"
-#include "tables/table.h"
+#include "tables/row_crew.h"
 
 #include <cstddef>
-#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -31,10 +30,6 @@ struct JoinedRow {
     JoinCertainty certainty = JoinCertainty::None;
     std::vector<std::size_t> athletes; ///< who may be meant, the likest first; none where None
 };
-
-/// The crew of a row as its list writes it, surname and given name put together where they stand
-/// apart; nothing where the table has no column for it.
-[[nodiscard]] std::optional<std::string> crewOfRow(const ListTable& table, std::size_t row);
 
 /// For each row who it is about, by crew and, where table and athlete tell it, by category. Throws
 /// TableError for a table without a column of names.

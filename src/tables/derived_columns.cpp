@@ -3,10 +3,13 @@
 #include "common/number_text.h"
 #include "common/text.h"
 #include "tables/table_error.h"
+#include "tables/table_rules.h"
+#include "tables/told_cells.h"
 
 #include <algorithm>
 #include <array>
 #include <map>
+#include <span>
 #include <utility>
 
 namespace kavela {
@@ -15,6 +18,11 @@ namespace {
 
 constexpr std::array<std::string_view, 6> DerivationNames{"total",   "rank",       "gap",
                                                           "percent", "percentile", "difference"};
+
+/// In the order of Derivation.
+constexpr std::array DerivationRules{TableRule::Total,   TableRule::Rank,
+                                     TableRule::Gap,     TableRule::Percent,
+                                     TableRule::Percentile, TableRule::Difference};
 
 std::string_view trimmedWords(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
@@ -89,6 +97,9 @@ public:
         return made;
     }
 
+    [[nodiscard]] GridCell cell(std::size_t row, Why* why) const { return cell(row, kind(), why); }
+    [[nodiscard]] const std::vector<std::size_t>& columns() const { return m_columns; }
+
 private:
     [[nodiscard]] const GridColumn& first() const { return m_table.columns[m_columns.front()]; }
 
@@ -155,12 +166,15 @@ private:
                    : widest;
     }
 
-    [[nodiscard]] GridCell cell(std::size_t row, ListColumnKind kind) const {
+    [[nodiscard]] GridCell cell(std::size_t row, ListColumnKind kind, Why* why = nullptr) const {
         GridCell made;
-        made.number = isCompared() ? comparison(row) : sum(row);
+        made.number = isCompared() ? comparison(row, why) : sum(row, why);
         if (made.number) {
             made.text = kind == ListColumnKind::Whole ? shortestText(*made.number)
                                                       : hundredthsText(*made.number);
+            if (why)
+                why->result(ruleOf(DerivationRules.at(static_cast<std::size_t>(m_derived.what))),
+                            *made.number, made.text);
             return made;
         }
         for (const std::size_t column : m_columns) {
@@ -175,7 +189,7 @@ private:
     }
 
     /// Of a total or a difference.
-    [[nodiscard]] std::optional<double> sum(std::size_t row) const {
+    [[nodiscard]] std::optional<double> sum(std::size_t row, Why* why) const {
         const double sign = m_derived.what == Derivation::Difference ? -1 : 1;
         double sum = 0;
         for (std::size_t i = 0; i < m_columns.size(); ++i) {
@@ -188,14 +202,20 @@ private:
             if (!number)
                 return std::nullopt;
             sum += i == 0 ? *number : sign * *number;
+            if (why)
+                why->input(column.name, *number, placeOfCell(m_table, m_columns[i], row));
+            if (why && isClean)
+                why->note("An empty penalty adds nothing.");
         }
         return sum;
     }
 
-    [[nodiscard]] std::optional<double> comparison(std::size_t row) const {
+    [[nodiscard]] std::optional<double> comparison(std::size_t row, Why* why) const {
         const auto number = comparedNumber(row);
         if (!number)
             return std::nullopt;
+        if (why)
+            tellCompared(row, *number, *why);
         const std::vector<double>& all = m_numbers.at(groupOf(row));
         const double best = all.front();
         switch (m_derived.what) {
@@ -222,6 +242,35 @@ private:
         };
         const auto end = std::ranges::lower_bound(all, seen(number), {}, seen);
         return static_cast<std::size_t>(end - all.begin());
+    }
+
+    /// The row itself, then those that are better, or the best one where that alone counts.
+    void tellCompared(std::size_t row, double number, Why& why) const {
+        const std::vector<double>& all = m_numbers.at(groupOf(row));
+        const bool isCounted =
+            m_derived.what == Derivation::Rank || m_derived.what == Derivation::Percentile;
+        const auto better = static_cast<std::ptrdiff_t>(betterThan(all, number));
+        std::vector<std::size_t> rows;
+        for (std::size_t other = 0; other < m_table.rows(); ++other) {
+            const auto compared = comparedNumber(other);
+            if (!compared || groupOf(other) != groupOf(row))
+                continue;
+            if (isCounted ? better > 0 && *compared <= *(all.begin() + better - 1)
+                          : *compared == all.front() && rows.empty())
+                rows.push_back(other);
+        }
+        std::ranges::stable_sort(rows, {}, [this](auto other) { return *comparedNumber(other); });
+        tellCells(m_table, m_columns.front(), std::span(&row, 1), why);
+        tellCells(m_table, m_columns.front(), rows, why);
+        if (isCounted) {
+            why.input("better", static_cast<double>(better));
+            why.input("others", static_cast<double>(all.size() - 1));
+        }
+        if (m_by)
+            why.note(say("Only rows with {} in {} are compared.", groupOf(row),
+                         m_table.columns[*m_by].name));
+        if (m_derived.isHighestBest)
+            why.note("The highest is the best.");
     }
 
     const ListTable& m_table;
@@ -299,6 +348,15 @@ ListTable withDerived(ListTable table, const DerivedColumn& derived) {
     GridColumn column = DerivedCells(table, derived).column();
     table.columns.push_back(std::move(column));
     return table;
+}
+
+GridCell derivedCell(const ListTable& table, const DerivedColumn& derived, std::size_t row,
+                     Why* why) {
+    return DerivedCells(table, derived).cell(row, why);
+}
+
+std::vector<std::size_t> columnsBehind(const ListTable& table, const DerivedColumn& derived) {
+    return DerivedCells(table, derived).columns();
 }
 
 } // namespace kavela

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "common/why.h"
 #include "tables/table.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,6 +45,15 @@ struct DerivedColumn {
 /// one that goes into it is missing or no time of a run; a word such as DNF is carried over. Throws
 /// TableError for columns that are missing or have no numbers.
 [[nodiscard]] ListTable withDerived(ListTable table, const DerivedColumn& derived);
+
+/// One cell of that column, which `why` hears about; no number where it has none. Throws as
+/// withDerived() does.
+[[nodiscard]] GridCell derivedCell(const ListTable& table, const DerivedColumn& derived,
+                                   std::size_t row, Why* why = nullptr);
+
+/// The places of the columns that it is reckoned from. Throws as withDerived() does.
+[[nodiscard]] std::vector<std::size_t> columnsBehind(const ListTable& table,
+                                                     const DerivedColumn& derived);
 
 /// Parts of a text between commas that stand outside quotes, quotes taken off, blanks around cut.
 [[nodiscard]] std::vector<std::string> commaParts(std::string_view text);

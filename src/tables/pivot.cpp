@@ -6,6 +6,8 @@
 #include "tables/derived_columns.h"
 #include "tables/table_error.h"
 #include "tables/table_order.h"
+#include "tables/table_rules.h"
+#include "tables/told_cells.h"
 
 #include <algorithm>
 #include <array>
@@ -18,6 +20,11 @@ namespace {
 
 constexpr std::array<std::string_view, 6> PivotNames{"count",  "sum",   "mean",
                                                      "median", "least", "most"};
+
+/// In the order of PivotFunction.
+constexpr std::array PivotRules{TableRule::PivotCount,  TableRule::PivotSum,
+                                TableRule::PivotMean,   TableRule::PivotMedian,
+                                TableRule::PivotLeast,  TableRule::PivotMost};
 
 /// More columns nobody reads: the wrong one was named.
 constexpr std::size_t MostPivotColumns = 250;
@@ -71,40 +78,115 @@ ListColumnKind pivotKind(PivotFunction function, ListColumnKind kind) {
     return isParted && kind == ListColumnKind::Whole ? ListColumnKind::Decimal : kind;
 }
 
-GridCell pivotCell(ListColumnKind kind, PivotFunction function, std::vector<double>& numbers) {
-    GridCell cell;
-    if (numbers.empty())
+/// A pivot of one table, cell by cell.
+class PivotCells {
+public:
+    PivotCells(const ListTable& table, const Pivot& pivot)
+        : m_table(table),
+          m_function(pivot.function),
+          m_row(columnPlace(table, pivot.row)),
+          m_value(columnPlace(table, pivot.value)) {
+        if (m_function != PivotFunction::Count)
+            requireNumbers(valueColumn());
+        m_rows = pivotKeys(table, table.columns[m_row]);
+        if (pivot.column.empty())
+            m_columns = {
+                {std::string(pivotFunctionName(m_function)) + ' ' + valueColumn().name},
+                std::vector<std::size_t>(table.rows(), 0)};
+        else
+            m_columns = pivotKeys(table, table.columns[columnPlace(table, pivot.column)]);
+        if (m_columns.texts.size() > MostPivotColumns ||
+            m_columns.texts.size() * m_rows.texts.size() > MostPivotCells)
+            throw TableError(
+                say("The column \"{}\" has {} values: too many for columns of a pivot.",
+                    pivot.column, m_columns.texts.size()));
+        m_behind.resize(m_rows.texts.size() * m_columns.texts.size());
+        for (std::size_t row = 0; row < table.rows(); ++row)
+            if (numberOf(row))
+                m_behind[placeOf(m_rows.ofRow[row], m_columns.ofRow[row])].push_back(row);
+    }
+
+    [[nodiscard]] ListTable made() const {
+        ListTable made = rowsAlone();
+        for (std::size_t c = 0; c < m_columns.texts.size(); ++c) {
+            GridColumn column;
+            column.name =
+                uniqueColumnName(made, m_columns.texts[c].empty() ? "(none)" : m_columns.texts[c]);
+            column.kind = kind();
+            column.isDerived = true;
+            column.holdsTimes = valueColumn().holdsTimes && m_function > PivotFunction::Sum;
+            for (std::size_t r = 0; r < m_rows.texts.size(); ++r)
+                column.cells.push_back(cell(r, c));
+            made.columns.push_back(std::move(column));
+        }
+        return made;
+    }
+
+    /// A column is counted without the one of the rows' own values.
+    [[nodiscard]] GridCell cell(std::size_t row, std::size_t column, Why* why = nullptr) const {
+        const std::vector<std::size_t>& behind = m_behind[placeOf(row, column)];
+        GridCell cell;
+        if (behind.empty())
+            return cell;
+        std::vector<double> numbers;
+        numbers.reserve(behind.size());
+        for (const std::size_t of : behind)
+            numbers.push_back(*numberOf(of));
+        cell.number = pivotFigure(m_function, numbers);
+        cell.text = kind() == ListColumnKind::Whole ? shortestText(*cell.number)
+                                                    : hundredthsText(*cell.number);
+        if (why) {
+            tellCells(m_table, m_value, behind, *why,
+                      m_function == PivotFunction::Count ? ToldOfCell::CountsAsOne
+                                                         : ToldOfCell::Number);
+            why->result(ruleOf(PivotRules.at(static_cast<std::size_t>(m_function))), *cell.number,
+                        cell.text);
+        }
         return cell;
-    cell.number = pivotFigure(function, numbers);
-    cell.text =
-        kind == ListColumnKind::Whole ? shortestText(*cell.number) : hundredthsText(*cell.number);
-    return cell;
-}
+    }
 
-/// The numbers that a figure is of.
-std::optional<double> pivotNumber(const GridColumn& column, std::size_t row,
-                                  PivotFunction function) {
-    if (function != PivotFunction::Count)
-        return column.counted(row);
-    return isNoValue(column.cells[row].text) ? std::nullopt : std::optional(1.0);
-}
+private:
+    [[nodiscard]] const GridColumn& valueColumn() const { return m_table.columns[m_value]; }
+    [[nodiscard]] ListColumnKind kind() const { return pivotKind(m_function, valueColumn().kind); }
+    [[nodiscard]] std::size_t placeOf(std::size_t row, std::size_t column) const {
+        return row * m_columns.texts.size() + column;
+    }
 
-ListTable pivotRows(const ListTable& table, const GridColumn& rowColumn, const PivotKeys& keys) {
-    ListTable made;
-    made.separator = table.separator;
-    made.refused = table.refused;
-    made.notes = table.notes;
-    made.lines.assign(keys.texts.size(), 0);
-    GridColumn first;
-    first.name = rowColumn.name;
-    first.kind = rowColumn.kind;
-    first.holdsTimes = rowColumn.holdsTimes;
-    first.cells.resize(keys.texts.size());
-    for (std::size_t row = 0; row < table.rows(); ++row)
-        first.cells[keys.ofRow[row]] = rowColumn.cells[row];
-    made.columns.push_back(std::move(first));
-    return made;
-}
+    /// What a row adds to a figure.
+    [[nodiscard]] std::optional<double> numberOf(std::size_t row) const {
+        if (m_function != PivotFunction::Count)
+            return valueColumn().counted(row);
+        return isNoValue(valueColumn().cells[row].text) ? std::nullopt : std::optional(1.0);
+    }
+
+    [[nodiscard]] ListTable rowsAlone() const {
+        const GridColumn& column = m_table.columns[m_row];
+        ListTable made;
+        made.separator = m_table.separator;
+        made.refused = m_table.refused;
+        made.notes = m_table.notes;
+        made.lines.assign(m_rows.texts.size(), 0);
+        made.ids.resize(m_rows.texts.size());
+        std::iota(made.ids.begin(), made.ids.end(), std::size_t{0});
+        GridColumn first;
+        first.name = column.name;
+        first.kind = column.kind;
+        first.holdsTimes = column.holdsTimes;
+        first.cells.resize(m_rows.texts.size());
+        for (std::size_t row = 0; row < m_table.rows(); ++row)
+            first.cells[m_rows.ofRow[row]] = column.cells[row];
+        made.columns.push_back(std::move(first));
+        return made;
+    }
+
+    const ListTable& m_table;
+    PivotFunction m_function;
+    std::size_t m_row;
+    std::size_t m_value;
+    PivotKeys m_rows;
+    PivotKeys m_columns;
+    std::vector<std::vector<std::size_t>> m_behind; ///< rows, by cell
+};
 
 } // namespace
 
@@ -127,39 +209,12 @@ Pivot parsedPivot(std::string_view text) {
 }
 
 ListTable pivoted(const ListTable& table, const Pivot& pivot) {
-    const GridColumn& rowColumn = table.columns[columnPlace(table, pivot.row)];
-    const GridColumn& valueColumn = table.columns[columnPlace(table, pivot.value)];
-    if (pivot.function != PivotFunction::Count)
-        requireNumbers(valueColumn);
-    const PivotKeys rows = pivotKeys(table, rowColumn);
-    PivotKeys columns;
-    if (pivot.column.empty())
-        columns = {{std::string(pivotFunctionName(pivot.function)) + ' ' + valueColumn.name},
-                   std::vector<std::size_t>(table.rows(), 0)};
-    else
-        columns = pivotKeys(table, table.columns[columnPlace(table, pivot.column)]);
-    if (columns.texts.size() > MostPivotColumns ||
-        columns.texts.size() * rows.texts.size() > MostPivotCells)
-        throw TableError(say("The column \"{}\" has {} values: too many for columns of a pivot.",
-                             pivot.column, columns.texts.size()));
-    std::vector<std::vector<double>> numbers(rows.texts.size() * columns.texts.size());
-    for (std::size_t row = 0; row < table.rows(); ++row)
-        if (const auto number = pivotNumber(valueColumn, row, pivot.function))
-            numbers[rows.ofRow[row] * columns.texts.size() + columns.ofRow[row]].push_back(*number);
-    ListTable made = pivotRows(table, rowColumn, rows);
-    for (std::size_t c = 0; c < columns.texts.size(); ++c) {
-        GridColumn column;
-        column.name =
-            uniqueColumnName(made, columns.texts[c].empty() ? "(none)" : columns.texts[c]);
-        column.kind = pivotKind(pivot.function, valueColumn.kind);
-        column.isDerived = true;
-        column.holdsTimes = valueColumn.holdsTimes && pivot.function > PivotFunction::Sum;
-        for (std::size_t r = 0; r < rows.texts.size(); ++r)
-            column.cells.push_back(
-                pivotCell(column.kind, pivot.function, numbers[r * columns.texts.size() + c]));
-        made.columns.push_back(std::move(column));
-    }
-    return made;
+    return PivotCells(table, pivot).made();
+}
+
+GridCell pivotedCell(const ListTable& table, const Pivot& pivot, std::size_t row,
+                     std::size_t column, Why* why) {
+    return PivotCells(table, pivot).cell(row, column, why);
 }
 
 } // namespace kavela

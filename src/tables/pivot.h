@@ -1,7 +1,9 @@
 #pragma once
 
+#include "common/why.h"
 #include "tables/table.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -30,5 +32,10 @@ struct Pivot {
 /// a figure of the third column's numbers; nothing where there are none. `Count` counts cells that
 /// say something, DNF included. Columns but the first are derived. Throws TableError.
 [[nodiscard]] ListTable pivoted(const ListTable& table, const Pivot& pivot);
+
+/// One cell of that, which `why` hears about; its column is counted without the one of the rows'
+/// own values. Throws as pivoted() does.
+[[nodiscard]] GridCell pivotedCell(const ListTable& table, const Pivot& pivot, std::size_t row,
+                                   std::size_t column, Why* why = nullptr);
 
 } // namespace kavela

@@ -87,8 +87,11 @@ ListTable withRows(const ListTable& table, const std::vector<std::size_t>& rows)
     ListTable chosen = table;
     chosen.groups.clear();
     chosen.lines.clear();
-    for (const std::size_t row : rows)
+    chosen.ids.clear();
+    for (const std::size_t row : rows) {
         chosen.lines.push_back(table.lines[row]);
+        chosen.ids.push_back(table.ids[row]);
+    }
     for (std::size_t i = 0; i < chosen.columns.size(); ++i) {
         std::vector<GridCell> cells;
         cells.reserve(rows.size());

@@ -27,6 +27,7 @@ struct GridColumn {
     ListColumnKind kind = ListColumnKind::Text;
     bool isDerived = false;  ///< not of the source
     bool holdsTimes = false; ///< numbers that are no time of a run count nowhere
+    std::int64_t source = 0; ///< column of the list, counted from 1; 0 where it stands in none
     std::vector<GridCell> cells;
 
     /// The number of a row where it counts: a time of a run where the column holds such.
@@ -47,6 +48,7 @@ struct ListTable {
     std::string separator; ///< of the source; empty for a spreadsheet or where there was none
     std::vector<GridColumn> columns;
     std::vector<std::int64_t> lines;  ///< by row, in the source; 0 for rows that stand in none
+    std::vector<std::size_t> ids;     ///< by row, the same wherever a step moves it
     std::vector<RefusedCell> refused; ///< ascending by line and column
     std::vector<std::string> notes;
     std::vector<RowGroup> groups;      ///< empty while nothing is grouped

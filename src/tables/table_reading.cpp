@@ -145,6 +145,7 @@ private:
                                            say("the line ends here: it has {} of {} fields",
                                                line.fields.size(), m_width)});
             m_rows.push_back(i);
+            m_table.ids.push_back(m_table.lines.size());
             m_table.lines.push_back(line.number);
         }
     }
@@ -164,6 +165,7 @@ private:
             if (title.empty() && std::ranges::all_of(texts, &std::string::empty))
                 continue;
             GridColumn made;
+            made.source = static_cast<std::int64_t>(column) + 1;
             made.name = uniqueColumnName(
                 m_table, title.empty() ? "Column " + std::to_string(column + 1) : title);
             addColumn(std::move(made), column, std::move(texts));
@@ -192,6 +194,7 @@ private:
             made.cells.push_back({std::move(texts[row]), value.number, value.isStatus});
         }
         const std::string name = made.name;
+        penalty.source = made.source;
         m_table.columns.push_back(std::move(made));
         if (!hasPenalty)
             return;

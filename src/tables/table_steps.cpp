@@ -145,6 +145,18 @@ void TableSteps::makeTable() {
     m_table = std::make_shared<const ListTable>(std::move(table));
 }
 
+std::vector<ListTable> TableSteps::tables() const {
+    const auto steps = std::span(m_steps).first(m_taken);
+    std::vector<ListTable> tables{tableOf(*m_source, readingOf(*m_source, steps))};
+    tables.reserve(steps.size() + 1);
+    for (const TableStep& step : steps) {
+        ListTable table = tables.back();
+        std::visit(StepTaker{table}, step);
+        tables.push_back(std::move(table));
+    }
+    return tables;
+}
+
 TableSteps TableSteps::with(TableStep step) const {
     TableSteps more = *this;
     more.m_steps.resize(m_taken);

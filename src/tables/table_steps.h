@@ -79,6 +79,8 @@ public:
     [[nodiscard]] TableSteps redone() const;
     /// The steps that are not taken back.
     [[nodiscard]] std::vector<TableStep> steps() const;
+    /// The table as the list is read, then as it stands after each of them.
+    [[nodiscard]] std::vector<ListTable> tables() const;
     /// What undone() takes back and redone() takes again; empty where there is none.
     [[nodiscard]] std::string undoText() const;
     [[nodiscard]] std::string redoText() const;

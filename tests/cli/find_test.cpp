@@ -69,6 +69,15 @@ std::vector<std::string> linesOf(const std::string& text) {
 
 } // namespace
 
+TEST_F(FindCalls, ExplainANumberWithItsPlace) {
+    const std::string query = "gates up left cat K1W time<4 year 2026";
+    const Ending ending = call({"find", "season", query, "--why", "cell/0/time"});
+    EXPECT_EQ(ending.status, 0) << ending.errors;
+    EXPECT_THAT(ending.output, HasSubstr("cup.kvx · run 0"));
+    for (const char* const id : {"cell/0/athlete", "cell/9/time", "time"})
+        EXPECT_EQ(call({"find", "season", query, "--why", id}).status, 1) << id;
+}
+
 TEST_F(FindCalls, PrintOneDocument) {
     const auto before = m_kavela.everything();
     EXPECT_EQ(found("gates up left cat K1W time<4 year 2026"), json::parse(R"({

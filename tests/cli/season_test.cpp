@@ -89,7 +89,9 @@ TEST_F(SeasonCalls, PrintOneDocumentInItsOrder) {
     ASSERT_EQ(ending.status, 0) << ending.errors;
     const auto shown = ordered_json::parse(ending.output);
     EXPECT_THAT(keysOf(shown),
-                ElementsAre("category", "spread", "athletes", "benchmarks", "simulation"));
+                ElementsAre("category", "spread", "athletes", "benchmarks", "simulation",
+                            "starter"));
+    EXPECT_TRUE(shown["starter"].is_null());
     EXPECT_THAT(keysOf(shown["spread"]),
                 ElementsAre("runs", "df", "cv", "low", "high", "worthwhile"));
     EXPECT_EQ(shown["spread"]["runs"], 16);
@@ -117,6 +119,29 @@ TEST_F(SeasonCalls, PlacesAreOfTheFieldThatIsNamed) {
     EXPECT_EQ(shown["simulation"].size(), 2U);
     const Ending unknown = call({"--field", "Anna Bel"});
     EXPECT_EQ(unknown.status, 1);
+    EXPECT_THAT(unknown.errors, AllOf(HasSubstr("\"Anna Bel\""), HasSubstr("BELL Anna")));
+}
+
+TEST_F(SeasonCalls, RacesAreThoseOfTheStarter) {
+    splittakerdata031 document;
+    document.info.session = "Race";
+    document.info.title = "Elsewhere";
+    document.info.category = "K1W";
+    document.info.date = dayOfRace(5);
+    document.athletes.resize(1);
+    document.athletes[0].names = {"Rival A"};
+    document.athletes[0].phase = "Final";
+    document.athletes[0].sectioninfo.realtime = 90;
+    (void)m_kavela.folder().add("races/5.kvx", encode(document));
+    EXPECT_EQ(ordered_json::parse(call({"--json"}).output)["spread"]["runs"], 17);
+    const auto shown = ordered_json::parse(call({"--json", "--starter", "Anna Bell"}).output);
+    EXPECT_EQ(shown["spread"]["runs"], 16);
+    EXPECT_EQ(shown["starter"], "BELL Anna");
+    EXPECT_THAT(call({"--starter", "anna bell"}).output,
+                HasSubstr("Only races in which BELL Anna starts."));
+    const Ending unknown = call({"--starter", "Anna Bel"});
+    EXPECT_EQ(unknown.status, 1);
+    EXPECT_EQ(unknown.output, "");
     EXPECT_THAT(unknown.errors, AllOf(HasSubstr("\"Anna Bel\""), HasSubstr("BELL Anna")));
 }
 

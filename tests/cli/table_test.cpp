@@ -98,6 +98,19 @@ TEST_F(TableCalls, WritePivotsAndReadSplitFiles) {
     EXPECT_THAT(race.errors, HasSubstr("it carries officialresults too"));
 }
 
+TEST_F(TableCalls, ExplainANumberWithItsPlaces) {
+    const auto before = m_kavela.everything();
+    const Ending ending =
+        m_kavela.call({"table", "list.csv", "--derive", "total", "--why", "cell/0/total"});
+    EXPECT_EQ(ending.status, 0) << ending.errors;
+    EXPECT_THAT(ending.output, HasSubstr("list.csv · line 2 · column 4"));
+    EXPECT_THAT(ending.output, HasSubstr("list.csv · line 2 · column 5"));
+    EXPECT_THAT(ending.output, HasSubstr("94.45"));
+    for (const char* const id : {"cell/3/Time", "cell/0/gone", "rank"})
+        EXPECT_EQ(m_kavela.call({"table", "list.csv", "--why", id}).status, 1) << id;
+    EXPECT_EQ(m_kavela.everything(), before);
+}
+
 TEST_P(WrongTableCalls, SayWhatIsWrong) {
     const auto before = m_kavela.everything();
     std::vector<std::string> arguments{"table"};

@@ -86,6 +86,13 @@ TEST(WhyText, ShowsNumbersAsWhatTheyAre) {
     EXPECT_THAT(text, HasSubstr("shown +1.02 of 1.0200000000000014"));
     EXPECT_THAT(text, HasSubstr(" 4\n"));
     EXPECT_THAT(text, HasSubstr("96.00  race.kvx · run 5 · split 3\n"));
+    Place cell{"day/final.csv", 0, {}, {}, {}, {}};
+    cell.line = 12;
+    cell.column = 4;
+    EXPECT_EQ(placeText(cell), "final.csv · line 12 · column 4");
+    cell.file.clear();
+    EXPECT_EQ(placeText(cell), "line 12 · column 4") << "what was copied has no file";
+    EXPECT_EQ(inputText({"Pen", 2, cell}), "2") << "a list has whole numbers of its own";
     why.result(TestedHalf, 2, "Medalist");
     EXPECT_EQ(roundingText(why.reason()), "");
 }

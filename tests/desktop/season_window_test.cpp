@@ -217,6 +217,32 @@ TEST_F(SeasonWindowTest, ExpectsThePlacesOfAFieldAndNamesWhoIsNotKnown) {
                 HasSubstr("nobody in these races is called Nobody Known"));
 }
 
+TEST_F(SeasonWindowTest, KeepsToTheRacesInWhichTheAthleteStarts) {
+    splittakerdata031 race = finalOf({"Brook", 2025y / 8 / 2, 95, 0, 97});
+    race.athletes.erase(race.athletes.begin() + 1); // without Berta
+    fs::rename(m_folder.add("Brook.kvx", encode(race)), races() / "Brook.kvx");
+    ASSERT_TRUE(open());
+    const auto runs = [this] { return m_window.season()->season.spread.runs; };
+    EXPECT_EQ(runs(), 11U);
+    m_window.header().chooseAthlete(1);
+    m_window.header().setOwnStarts(true);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_window.isBusy() && runs() == 9; }));
+    EXPECT_EQ(m_window.header().athleteName(), "COLE Berta") << "who is shown stays";
+    EXPECT_THAT(m_window.header().athletes(), SizeIs(2));
+    m_window.header().stepAthlete(-1);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_window.isBusy() && runs() == 11; }))
+        << "the races follow the athlete";
+
+    SeasonWindow again(m_workspace);
+    again.setAttribute(Qt::WA_DeleteOnClose, false);
+    m_window.header().chooseAthlete(1);
+    again.showAgain(m_window.shownView());
+    again.setPaths(m_window.paths());
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return again.season() && !again.isBusy() && again.season()->season.spread.runs == 9; }))
+        << "also when the window comes back";
+}
+
 TEST_F(SeasonWindowTest, FollowsTheTeamOnTheDiskAndKeepsWhoIsShown) {
     ASSERT_TRUE(open());
     m_window.header().chooseAthlete(QStringLiteral("Berta Cole"));

@@ -11,6 +11,7 @@
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/official_dialog.h"
 #include "desktop/taking/taking_window.h"
+#include "desktop/why/why_window.h"
 #include "performance/race_tables.h"
 #include "results/team_file.h"
 #include "splitdata/document.h"
@@ -148,6 +149,46 @@ TEST_F(TablesWindowTest, TellsWhatWasRefusedWithLineColumnAndReason) {
     });
     EXPECT_EQ(refused.rowCount(), 0) << "as text it is taken";
     EXPECT_EQ(column(window, TimeOfList).value(2), "fast");
+}
+
+/// By the key, after the rows were moved; a place leads to the cell, or tells what stood there.
+TEST_F(TablesWindowTest, TellsWhyAReckonedNumberIsWhatItIs) {
+    TablesWindow& window = openFinal();
+    window.take(parsedDerivedColumn("gap:Time"));
+    window.take(SortStep{"Name", true});
+    const int gap = 5;
+    const qsizetype anna = column(window, NameOfList).indexOf("Bell Anna");
+    window.show();
+    window.table().choose(static_cast<int>(anna), gap);
+    window.table().setFocus();
+    QApplication::processEvents();
+    const auto ask = [&]() -> WhyWindow* {
+        QTest::keyClick(&window.table(), Qt::Key_F1, Qt::ShiftModifier);
+        return window.findChild<WhyWindow*>();
+    };
+    WhyWindow* why = ask();
+    ASSERT_TRUE(why);
+    EXPECT_THAT(why->text().toStdString(), HasSubstr("4.75"));
+    EXPECT_THAT(why->text().toStdString(), HasSubstr("final.csv · line 2 · column 4"));
+    EXPECT_THAT(why->text().toStdString(), HasSubstr("final.csv · line 7 · column 4"));
+    delete why;
+
+    Place best;
+    best.line = 7;
+    best.column = TimeOfList + 1;
+    EXPECT_TRUE(window.showOwnPlace(best));
+    EXPECT_EQ(window.currentColumn(), std::optional<std::size_t>(TimeOfList));
+    EXPECT_EQ(column(window, NameOfList).value(window.table().currentPlace()), "Mach Ota");
+    EXPECT_FALSE(window.showOwnPlace(Place())) << "a run of a split file is shown elsewhere";
+
+    window.take(Pivot{"Class", "", "Time", PivotFunction::Mean});
+    window.table().choose(1, 1);
+    why = ask();
+    ASSERT_TRUE(why);
+    EXPECT_THAT(why->text().toStdString(), HasSubstr("line 6 · column 4"));
+    delete why;
+    EXPECT_TRUE(window.showOwnPlace(best));
+    EXPECT_THAT(window.status().toStdString(), HasSubstr("90.75"));
 }
 
 TEST_F(TablesWindowTest, SortsByAClickAndBackwardsByTheNext) {

@@ -158,6 +158,35 @@ TEST_F(SeasonOfThree, YearsAndCategoryNarrowFilesAndTeamAlike) {
     EXPECT_TRUE(seasonData(m_team, m_facts, {.category = "MK1"}).members.empty());
 }
 
+TEST_F(SeasonOfThree, RacesOfAStarterAreThoseWithAStartInAnyPhase) {
+    const SeasonData cleo =
+        seasonData(m_team, m_facts, {.category = "K1W", .starter = "DUNN Cleo"});
+    EXPECT_EQ(cleo.starter, "Cleo Dunn");
+    EXPECT_EQ(cleo.runs.size(), 10U) << "all of four files, nothing from abroad";
+    EXPECT_EQ(seasonSpread(cleo).runs, 9U);
+    ASSERT_EQ(cleo.members.size(), 2U) << "whoever did not start stays in the team";
+    ASSERT_EQ(cleo.members[0].races.size(), 1U);
+    EXPECT_EQ(cleo.members[0].races[0].location, "Mill");
+    const SeasonData anna = seasonData(m_team, m_facts, {.category = "K1W", .starter = "Anna Bell"});
+    EXPECT_EQ(anna.runs.size(), 11U) << "with the race that only the team has, without Rapid";
+    EXPECT_EQ(anna.members[0].races.size(), 2U);
+
+    // Out in the heats: the final of the next day is of the same race. Listed only: no start.
+    splittakerdata031 heats = finalAt("Lake", 2025y / 9 / 6, {{"Dora Ek", 120}, {"Anna Bell", 95}});
+    for (athletedata031& run : heats.athletes)
+        run.phase = "Heats 1";
+    add(heats);
+    m_facts.add(finalAt("Lake", 2025y / 9 / 7, {{"Anna Bell", 94}}), "Lake final.kvx");
+    add(finalAt("Creek", 2025y / 9 / 20, {{"Dora Ek", 0}, {"Anna Bell", 91}}));
+    const SeasonData dora = seasonData(m_team, m_facts, {.category = "K1W", .starter = "Dora Ek"});
+    EXPECT_EQ(dora.runs.size(), 3U);
+    EXPECT_EQ(dora.phases.size(), 2U);
+
+    const SeasonData nobody = seasonData(m_team, m_facts, {.category = "K1W", .starter = "Eva"});
+    EXPECT_EQ(nobody.starter, std::nullopt);
+    EXPECT_TRUE(nobody.runs.empty());
+}
+
 TEST_F(SeasonOfThree, PlacesAreOfThoseKnownWellEnough) {
     const SeasonData data = this->data();
     const SeasonSpread spread = seasonSpread(data);

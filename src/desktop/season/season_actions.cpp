@@ -29,6 +29,7 @@ void SeasonActions::refresh() {
     const bool hasSeason = m_window.season() && !m_window.season()->season.athletes.empty();
     for (QAction* const action : m_ofSeason)
         action->setEnabled(hasSeason);
+    m_ownStarts->setChecked(m_window.header().isOwnStarts());
     m_stop->setEnabled(m_window.isReading());
     m_showFailed->setEnabled(m_window.hasFailed());
 }
@@ -94,6 +95,12 @@ void SeasonActions::makeAthleteMenu() {
                << menu->addAction(tr("&Show the athlete of the row"),
                                   QKeySequence(Qt::CTRL | Qt::Key_Return), window,
                                   [window] { window->showChosenAthlete(); });
+    m_ownStarts = menu->addAction(tr("Only the athlete's &own races"),
+                                  QKeySequence(Qt::CTRL | Qt::Key_L), window, [window](bool isOn) {
+                                      window->header().setOwnStarts(isOn);
+                                  });
+    m_ownStarts->setCheckable(true);
+    m_ofSeason << m_ownStarts;
     menu->addSeparator();
     m_ofSeason << menu->addAction(tr("Expect the places of a &field…"),
                                   QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F), window,

@@ -26,6 +26,7 @@ private:
 
     SeasonWindow& m_window;
     QList<QAction*> m_ofSeason; ///< that need one
+    QAction* m_ownStarts = nullptr;
     QAction* m_stop = nullptr;
     QAction* m_showFailed = nullptr;
 };

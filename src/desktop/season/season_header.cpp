@@ -6,6 +6,7 @@
 #include "desktop/shell/theme.h"
 #include "splitdata/athlete_keys.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -28,12 +29,16 @@ SeasonHeader::SeasonHeader(QWidget* parent)
       m_first(new QComboBox),
       m_last(new QComboBox),
       m_athlete(new QComboBox),
+      m_ownStarts(new QCheckBox(tr("Only &own races"))),
       m_races(new QLabel),
       m_add(new QPushButton(tr("Add the races…"))) {
     m_category->setObjectName("category");
     m_first->setObjectName("firstYear");
     m_last->setObjectName("lastYear");
     m_athlete->setObjectName("athlete");
+    m_ownStarts->setObjectName("ownStarts");
+    m_ownStarts->setToolTip(
+        tr("Only races in which this athlete starts, in whichever phase; on every page"));
     m_athlete->setMaximumWidth(grown(*this, WidestAthlete));
     m_races->setObjectName("races");
     m_add->setObjectName("addRaces");
@@ -52,7 +57,10 @@ SeasonHeader::SeasonHeader(QWidget* parent)
     connect(m_athlete, &QComboBox::currentIndexChanged, this, [this] {
         m_wanted = m_athlete->currentText();
         emit athleteChanged();
+        if (isOwnStarts())
+            emit changed();
     });
+    connect(m_ownStarts, &QCheckBox::toggled, this, &SeasonHeader::changed);
     connect(m_add, &QPushButton::clicked, this, &SeasonHeader::racesRequested);
 }
 
@@ -70,6 +78,7 @@ void SeasonHeader::makeLayout() {
     add(tr("&Years"), m_first);
     add(QStringLiteral("–"), m_last);
     add(tr("&Athlete"), m_athlete);
+    row->addWidget(m_ownStarts);
     row->addWidget(m_races, 1);
     row->addWidget(m_add);
 }
@@ -126,7 +135,17 @@ SeasonChoice SeasonHeader::choice() const {
         choice.firstYear = m_first->currentData().toLongLong();
     if (m_last->currentIndex() >= 0 && m_last->currentIndex() < m_last->count() - 1)
         choice.lastYear = m_last->currentData().toLongLong();
+    if (isOwnStarts())
+        choice.starter = athleteName().toStdString();
     return choice;
+}
+
+void SeasonHeader::setOwnStarts(bool isOwn) {
+    m_ownStarts->setChecked(isOwn);
+}
+
+bool SeasonHeader::isOwnStarts() const {
+    return m_ownStarts->isChecked();
 }
 
 void SeasonHeader::choose(const SeasonChoice& choice) {
@@ -184,8 +203,11 @@ void SeasonHeader::chooseAthlete(const QString& name) {
     m_wanted = name;
     const int before = m_athlete->currentIndex();
     offerAthletes(athletes());
-    if (m_athlete->currentIndex() != before)
-        emit athleteChanged();
+    if (m_athlete->currentIndex() == before)
+        return;
+    emit athleteChanged();
+    if (isOwnStarts())
+        emit changed();
 }
 
 void SeasonHeader::stepAthlete(int step) {

@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -27,6 +28,9 @@ public:
     void offerAthletes(const QStringList& names);
 
     [[nodiscard]] SeasonChoice choice() const;
+    /// Only the races in which the athlete that is shown starts, or all.
+    void setOwnStarts(bool isOwn);
+    [[nodiscard]] bool isOwnStarts() const;
     /// A category that the team does not have changes nothing; years it does not have neither.
     void choose(const SeasonChoice& choice);
     /// The place among the athletes that are offered; none before there is any.
@@ -43,7 +47,7 @@ public:
     void tellRaces(const QString& text, bool isMissing);
 
 signals:
-    /// Another category or other years.
+    /// Another category, other years, or other races.
     void changed();
     void athleteChanged();
     void racesRequested();
@@ -59,6 +63,7 @@ private:
     QComboBox* m_first;
     QComboBox* m_last;
     QComboBox* m_athlete;
+    QCheckBox* m_ownStarts;
     QLabel* m_races;
     QPushButton* m_add;
 };

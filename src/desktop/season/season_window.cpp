@@ -169,7 +169,7 @@ QString SeasonWindow::shownView() const {
     const SeasonChoice choice = m_header->choice();
     return QStringList{QString::number(page()), qtText(choice.category),
                        QString::number(choice.firstYear), QString::number(choice.lastYear),
-                       m_header->athleteName()}
+                       m_header->athleteName(), m_header->isOwnStarts() ? "own" : "all"}
         .join('\n');
 }
 
@@ -242,6 +242,7 @@ void SeasonWindow::takeTeam() {
                               .firstYear = m_view[2].toLongLong(),
                               .lastYear = m_view[3].toLongLong()});
             m_header->chooseAthlete(m_view[4]);
+            m_header->setOwnStarts(m_view.value(5) == "own");
         }
         if (m_wanted) {
             SeasonChoice choice = m_header->choice();
@@ -287,6 +288,9 @@ void SeasonWindow::take(const SharedSeason& season) {
     m_figures->take(season);
     showPages();
     showStatus();
+    // Whose races they are to be was not known before the athletes were.
+    if (m_header->isOwnStarts() && !(m_header->choice() == season->question.choice))
+        compute();
 }
 
 void SeasonWindow::showPages() {

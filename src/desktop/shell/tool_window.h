@@ -54,6 +54,9 @@ public:
     using Opened = std::function<void(bool isOpen)>;
     /// The same for whom reading a file may go on beside the window.
     virtual void openBeside(const QString& path, const Opened& opened) { opened(open(path)); }
+    /// Shows where a number comes from, where that is something that the window shows itself; false
+    /// where it is not.
+    [[nodiscard]] virtual bool showOwnPlace(const Place& /*place*/) { return false; }
     /// Begins a document that has no file yet; the path is where it is to be saved.
     virtual void startNew(const QString& /*path*/) {}
 

@@ -7,6 +7,7 @@
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/tables/table_chart.h"
+#include "desktop/why/why_popup.h"
 #include "tables/table_error.h"
 
 #include <QHeaderView>
@@ -123,6 +124,12 @@ void ListPanel::connectParts() {
     connect(m_table, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
         emit menuRequested(m_table->viewport()->mapToGlobal(at), false);
     });
+    answerWhy(m_table, [this](const QModelIndex& cell) -> std::optional<Reason> {
+        const ListedRow& listed = m_rows.row(m_table->placeAt(cell));
+        return listed.group || cell.column() < 0
+                   ? std::nullopt
+                   : m_document.whyOf(listed.row, static_cast<std::size_t>(cell.column()));
+    });
     connect(m_chart, &SeriesChart::pointActivated, this, [this](int series, int index) {
         const auto& points = m_chart->content().series.at(static_cast<std::size_t>(series)).points;
         chooseRow(static_cast<std::size_t>(points.at(static_cast<std::size_t>(index)).x()));
@@ -138,6 +145,20 @@ void ListPanel::chooseRow(std::size_t row) {
 
 void ListPanel::chooseColumn(int column) {
     m_table->choose(m_table->currentPlace(), column);
+}
+
+bool ListPanel::chooseLine(std::int64_t line, std::optional<std::int64_t> column) {
+    const ListTable& table = *m_document.table();
+    const auto row = std::ranges::find(table.lines, line);
+    if (row == table.lines.end())
+        return false;
+    const auto place = column ? std::ranges::find(table.columns, *column, &GridColumn::source)
+                              : table.columns.end();
+    chooseRow(static_cast<std::size_t>(row - table.lines.begin()));
+    if (place != table.columns.end())
+        chooseColumn(static_cast<int>(place - table.columns.begin()));
+    m_table->setFocus();
+    return true;
 }
 
 std::optional<std::size_t> ListPanel::currentRow() const {

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QWidget>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -39,6 +40,9 @@ public:
     /// The column of the list with the cursor; none in that of the athletes or without a row.
     [[nodiscard]] std::optional<std::size_t> currentColumn() const;
     void chooseColumn(int column);
+    /// Puts the cursor on a line of the list, and where the table has a column of it on that too;
+    /// false where no row is that line alone.
+    [[nodiscard]] bool chooseLine(std::int64_t line, std::optional<std::int64_t> column);
 
     /// Draws the column with the cursor from now on.
     void drawCurrent();

@@ -83,4 +83,9 @@ QString listFilter() {
     return translatedList("Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;All files (*)");
 }
 
+bool isListFile(const QString& path) {
+    static const QStringList Suffixes{"csv", "tsv", "txt", "xlsx", "ods", "kvx"};
+    return Suffixes.contains(QFileInfo(path).suffix().toLower());
+}
+
 } // namespace kavela::desktop

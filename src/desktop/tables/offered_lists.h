@@ -36,4 +36,7 @@ struct OfferedLists {
 /// What the kinds of files are called where one is chosen.
 [[nodiscard]] QString listFilter();
 
+/// Whether a file is one that may hold a list, by its name.
+[[nodiscard]] bool isListFile(const QString& path);
+
 } // namespace kavela::desktop

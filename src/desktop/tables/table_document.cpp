@@ -6,6 +6,7 @@
 
 #include <QUndoCommand>
 
+#include <algorithm>
 #include <utility>
 
 namespace kavela::desktop {
@@ -41,6 +42,22 @@ void TableDocument::start(ListGrid list, ListOrigin origin) {
 
 std::vector<TableStep> TableDocument::steps() const {
     return hasList() ? m_state->steps->steps() : std::vector<TableStep>();
+}
+
+std::optional<Reason> TableDocument::whyOf(std::size_t row, std::size_t column) const {
+    return hasList() ? explainTable(*m_state->steps, row, column, m_origin.path.toStdString())
+                     : std::nullopt;
+}
+
+std::optional<QString> TableDocument::textAt(std::int64_t line, std::int64_t column) const {
+    if (!hasList() || column < 1)
+        return std::nullopt;
+    const std::vector<GridLine>& lines = m_state->steps->source().lines;
+    const auto found = std::ranges::find(lines, line, &GridLine::number);
+    const auto place = static_cast<std::size_t>(column - 1);
+    if (found == lines.end() || place >= found->fields.size())
+        return std::nullopt;
+    return qtText(found->fields[place]);
 }
 
 void TableDocument::take(const TableStep& step) {

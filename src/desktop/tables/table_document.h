@@ -1,7 +1,7 @@
 #pragma once
 
 #include "performance/table_join.h"
-#include "tables/table_steps.h"
+#include "tables/table_reasons.h"
 
 #include <QObject>
 #include <QString>
@@ -48,6 +48,11 @@ public:
     [[nodiscard]] const std::shared_ptr<const ListTable>& table() const { return m_table; }
     /// The steps that made it.
     [[nodiscard]] std::vector<TableStep> steps() const;
+
+    /// Why the number in a cell is what it is; nothing for a cell without one.
+    [[nodiscard]] std::optional<Reason> whyOf(std::size_t row, std::size_t column) const;
+    /// What stands in a line and column of the list, both counted from 1; nothing beyond it.
+    [[nodiscard]] std::optional<QString> textAt(std::int64_t line, std::int64_t column) const;
 
     /// One more step, which can be undone. Throws TableError where it cannot be taken, and nothing
     /// changes.

@@ -34,15 +34,6 @@
 
 namespace kavela::desktop {
 
-namespace {
-
-bool isListFile(const QString& path) {
-    static const QStringList Suffixes{"csv", "tsv", "txt", "xlsx", "ods", "kvx"};
-    return Suffixes.contains(QFileInfo(path).suffix().toLower());
-}
-
-} // namespace
-
 TablesWindow::TablesWindow(Workspace& workspace)
     : ToolWindow(workspace, nullptr, {"tables", tr("Tables"), "csv"}),
       m_keeping(new RaceKeeping(workspace, *this, this)) {
@@ -197,6 +188,21 @@ QStringList TablesWindow::paths() const {
 
 QString TablesWindow::shownView() const {
     return qtText(m_document.origin().list);
+}
+
+bool TablesWindow::showOwnPlace(const Place& place) {
+    if (!place.line)
+        return false;
+    if (m_panel->chooseLine(*place.line, place.column))
+        return true;
+    const auto text = m_document.textAt(*place.line, place.column.value_or(0));
+    m_status->setText(text ? tr("Line %1, column %2 of the list says “%3”.")
+                                 .arg(*place.line)
+                                 .arg(*place.column)
+                                 .arg(*text)
+                           : tr("Line %1 of the list is no row of this table any more.")
+                                 .arg(*place.line));
+    return true;
 }
 
 bool TablesWindow::isEmpty() const {

@@ -41,6 +41,8 @@ public:
     void openClipboard();
     [[nodiscard]] QStringList paths() const override;
     [[nodiscard]] QString shownView() const override;
+    /// A line of the list; where the table has no such row any more, what stands there is told.
+    [[nodiscard]] bool showOwnPlace(const Place& place) override;
     /// Nothing is shown and nothing is being read.
     [[nodiscard]] bool isEmpty() const;
     [[nodiscard]] bool isReading() const { return m_work.isRunning(); }

@@ -58,7 +58,8 @@ void askInFocus(const QMainWindow& window) {
 void showWhy(const Reason& reason, const QRect& atGlobal, QWidget* over) {
     auto* const window = new WhyWindow(reason, over->window());
     QObject::connect(window, &WhyWindow::placeActivated, over, [over](const Place& place) {
-        if (ToolWindow* const tool = toolWindowOf(over))
+        ToolWindow* const tool = toolWindowOf(over);
+        if (tool && !tool->showOwnPlace(place))
             emit tool->placeRequested(place);
     });
     window->adjustSize();

@@ -136,7 +136,8 @@ void WhyWindow::addInput(const Input& input, QTreeWidgetItem& under) {
                       (within.isEmpty() ? QString() : ' ' + within.section(" (", 0, 0)));
     item->setToolTip(ValueColumn, within);
     item->setTextAlignment(ValueColumn, Qt::AlignRight | Qt::AlignVCenter);
-    if (!input.place || input.place->file.empty())
+    // A line of what was copied is shown by the window that has it.
+    if (!input.place || (input.place->file.empty() && !input.place->line))
         return;
     item->setText(WhereColumn, qtText(placeText(*input.place)));
     item->setToolTip(WhereColumn, tr("Show this place (Enter)"));
