@@ -7452,6 +7452,154 @@
         <source>{{{}}} means nothing here: there are {{bib}}, {{category}}, {{phase}} and {{run}}.</source>
         <translation>{{{}}} zde nic neznamená: jsou {{bib}}, {{category}}, {{phase}} a {{run}}.</translation>
     </message>
+    <message>
+        <source>Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in --json, as in cell/0/time</source>
+        <translation>Místo toho vysvětlí jedno číslo: cell/ŘÁDEK/SLOUPEC, řádek počítaný od 0 jako v --json, například cell/0/time</translation>
+    </message>
+    <message>
+        <source>No start of {} is known in these races.</source>
+        <translation>V těchto závodech není znám žádný start: {}.</translation>
+    </message>
+    <message>
+        <source>Only races in which this athlete starts, in whichever phase</source>
+        <translation>Jen závody, ve kterých tento závodník startuje, v kterékoli fázi</translation>
+    </message>
+    <message>
+        <source>Only races in which {} starts.</source>
+        <translation>Jen závody, ve kterých startuje {}.</translation>
+    </message>
+    <message>
+        <source>Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in --json, as in cell/0/rank</source>
+        <translation>Místo toho vysvětlí jedno číslo: cell/ŘÁDEK/SLOUPEC, řádek počítaný od 0 jako v --json, například cell/0/rank</translation>
+    </message>
+    <message>
+        <source>line {}</source>
+        <translation>řádek {}</translation>
+    </message>
+    <message>
+        <source>column {}</source>
+        <translation>sloupec {}</translation>
+    </message>
+    <message>
+        <source>An empty penalty adds nothing.</source>
+        <translation>Prázdná penalizace nic nepřidává.</translation>
+    </message>
+    <message>
+        <source>better</source>
+        <translation>lepší</translation>
+    </message>
+    <message>
+        <source>others</source>
+        <translation>ostatní</translation>
+    </message>
+    <message>
+        <source>Only rows with {} in {} are compared.</source>
+        <translation>Porovnávají se jen řádky s hodnotou {} ve sloupci {}.</translation>
+    </message>
+    <message>
+        <source>The highest is the best.</source>
+        <translation>Nejvyšší je nejlepší.</translation>
+    </message>
+    <message>
+        <source>As it stands in the list, read as a number.</source>
+        <translation>Jak je v seznamu, přečteno jako číslo.</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>seznam</translation>
+    </message>
+    <message>
+        <source>The columns of the row added up.</source>
+        <translation>Součet sloupců řádku.</translation>
+    </message>
+    <message>
+        <source>Σ columns</source>
+        <translation>Σ sloupců</translation>
+    </message>
+    <message>
+        <source>The place in the column: one more than are better; times to the hundredth.</source>
+        <translation>Pořadí ve sloupci: o jedno více, než kolik je lepších; časy na setiny.</translation>
+    </message>
+    <message>
+        <source>1 + better</source>
+        <translation>1 + lepší</translation>
+    </message>
+    <message>
+        <source>How far the number is behind the best of the column.</source>
+        <translation>O kolik je číslo za nejlepším ve sloupci.</translation>
+    </message>
+    <message>
+        <source>own − best</source>
+        <translation>vlastní − nejlepší</translation>
+    </message>
+    <message>
+        <source>How many percent the number is behind the best of the column.</source>
+        <translation>O kolik procent je číslo za nejlepším ve sloupci.</translation>
+    </message>
+    <message>
+        <source>How many percent of the others in the column are better.</source>
+        <translation>Kolik procent ostatních ve sloupci je lepších.</translation>
+    </message>
+    <message>
+        <source>100 · better / others</source>
+        <translation>100 · lepší / ostatní</translation>
+    </message>
+    <message>
+        <source>The first column less the second.</source>
+        <translation>První sloupec minus druhý.</translation>
+    </message>
+    <message>
+        <source>first − second</source>
+        <translation>první − druhý</translation>
+    </message>
+    <message>
+        <source>How many rows say something in the column.</source>
+        <translation>Kolik řádků má ve sloupci nějaký údaj.</translation>
+    </message>
+    <message>
+        <source>The numbers of all these rows added up.</source>
+        <translation>Součet čísel všech těchto řádků.</translation>
+    </message>
+    <message>
+        <source>Σ rows</source>
+        <translation>Σ řádků</translation>
+    </message>
+    <message>
+        <source>The mean of the numbers of these rows.</source>
+        <translation>Průměr čísel těchto řádků.</translation>
+    </message>
+    <message>
+        <source>Σ rows / number of rows</source>
+        <translation>Σ řádků / počet řádků</translation>
+    </message>
+    <message>
+        <source>As many of these rows have less as have more.</source>
+        <translation>Stejně mnoho těchto řádků má méně jako více.</translation>
+    </message>
+    <message>
+        <source>median of rows</source>
+        <translation>medián řádků</translation>
+    </message>
+    <message>
+        <source>The least number of these rows.</source>
+        <translation>Nejmenší číslo těchto řádků.</translation>
+    </message>
+    <message>
+        <source>least of rows</source>
+        <translation>nejmenší z řádků</translation>
+    </message>
+    <message>
+        <source>The largest number of these rows.</source>
+        <translation>Největší číslo těchto řádků.</translation>
+    </message>
+    <message>
+        <source>largest of rows</source>
+        <translation>největší z řádků</translation>
+    </message>
+    <message>
+        <source>Of {} rows the first {} are told.</source>
+        <translation>Z {} řádků je uvedeno prvních {}.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -19642,6 +19790,10 @@ Vyberte soubor.</translation>
         <source>Pa&amp;ge for an athlete…</source>
         <translation>Stránka pro &amp;závodníka…</translation>
     </message>
+    <message>
+        <source>Only the athlete&apos;s &amp;own races</source>
+        <translation>Jen &amp;vlastní závody závodníka</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SeasonHeader</name>
@@ -19660,6 +19812,14 @@ Vyberte soubor.</translation>
     <message>
         <source>&amp;Athlete</source>
         <translation>Záv&amp;odník</translation>
+    </message>
+    <message>
+        <source>Only &amp;own races</source>
+        <translation>Jen &amp;vlastní závody</translation>
+    </message>
+    <message>
+        <source>Only races in which this athlete starts, in whichever phase; on every page</source>
+        <translation>Jen závody, ve kterých tento závodník startuje, v kterékoli fázi; na každé stránce</translation>
     </message>
 </context>
 <context>
@@ -22495,6 +22655,14 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
             <numerusform>%n sloupce</numerusform>
             <numerusform>%n sloupců</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Line %1, column %2 of the list says “%3”.</source>
+        <translation>Řádek %1, sloupec %2 seznamu říká „%3“.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the list is no row of this table any more.</source>
+        <translation>Řádek %1 seznamu už není řádkem této tabulky.</translation>
     </message>
 </context>
 <context>

@@ -7415,6 +7415,154 @@
         <source>{{{}}} means nothing here: there are {{bib}}, {{category}}, {{phase}} and {{run}}.</source>
         <translation>{{{}}} bedeutet hier nichts: Es gibt {{bib}}, {{category}}, {{phase}} und {{run}}.</translation>
     </message>
+    <message>
+        <source>Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in --json, as in cell/0/time</source>
+        <translation>Erklärt stattdessen eine Zahl: cell/ZEILE/SPALTE, die Zeile ab 0 gezählt wie in --json, etwa cell/0/time</translation>
+    </message>
+    <message>
+        <source>No start of {} is known in these races.</source>
+        <translation>Kein Start von {} ist in diesen Rennen bekannt.</translation>
+    </message>
+    <message>
+        <source>Only races in which this athlete starts, in whichever phase</source>
+        <translation>Nur Rennen, in denen dieser Sportler startet, gleich in welcher Phase</translation>
+    </message>
+    <message>
+        <source>Only races in which {} starts.</source>
+        <translation>Nur Rennen, in denen {} startet.</translation>
+    </message>
+    <message>
+        <source>Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in --json, as in cell/0/rank</source>
+        <translation>Erklärt stattdessen eine Zahl: cell/ZEILE/SPALTE, die Zeile ab 0 gezählt wie in --json, etwa cell/0/rank</translation>
+    </message>
+    <message>
+        <source>line {}</source>
+        <translation>Zeile {}</translation>
+    </message>
+    <message>
+        <source>column {}</source>
+        <translation>Spalte {}</translation>
+    </message>
+    <message>
+        <source>An empty penalty adds nothing.</source>
+        <translation>Eine leere Strafe fügt nichts hinzu.</translation>
+    </message>
+    <message>
+        <source>better</source>
+        <translation>bessere</translation>
+    </message>
+    <message>
+        <source>others</source>
+        <translation>andere</translation>
+    </message>
+    <message>
+        <source>Only rows with {} in {} are compared.</source>
+        <translation>Nur Zeilen mit {} in {} werden verglichen.</translation>
+    </message>
+    <message>
+        <source>The highest is the best.</source>
+        <translation>Der höchste ist der beste.</translation>
+    </message>
+    <message>
+        <source>As it stands in the list, read as a number.</source>
+        <translation>Wie es in der Liste steht, als Zahl gelesen.</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>The columns of the row added up.</source>
+        <translation>Die Spalten der Zeile zusammengezählt.</translation>
+    </message>
+    <message>
+        <source>Σ columns</source>
+        <translation>Σ Spalten</translation>
+    </message>
+    <message>
+        <source>The place in the column: one more than are better; times to the hundredth.</source>
+        <translation>Der Platz in der Spalte: einer mehr als bessere da sind; Zeiten auf Hundertstel.</translation>
+    </message>
+    <message>
+        <source>1 + better</source>
+        <translation>1 + bessere</translation>
+    </message>
+    <message>
+        <source>How far the number is behind the best of the column.</source>
+        <translation>Wie weit die Zahl hinter der besten der Spalte liegt.</translation>
+    </message>
+    <message>
+        <source>own − best</source>
+        <translation>eigene − beste</translation>
+    </message>
+    <message>
+        <source>How many percent the number is behind the best of the column.</source>
+        <translation>Wie viel Prozent die Zahl hinter der besten der Spalte liegt.</translation>
+    </message>
+    <message>
+        <source>How many percent of the others in the column are better.</source>
+        <translation>Wie viel Prozent der anderen in der Spalte besser sind.</translation>
+    </message>
+    <message>
+        <source>100 · better / others</source>
+        <translation>100 · bessere / andere</translation>
+    </message>
+    <message>
+        <source>The first column less the second.</source>
+        <translation>Die erste Spalte weniger die zweite.</translation>
+    </message>
+    <message>
+        <source>first − second</source>
+        <translation>erste − zweite</translation>
+    </message>
+    <message>
+        <source>How many rows say something in the column.</source>
+        <translation>Wie viele Zeilen in der Spalte etwas sagen.</translation>
+    </message>
+    <message>
+        <source>The numbers of all these rows added up.</source>
+        <translation>Die Zahlen all dieser Zeilen zusammengezählt.</translation>
+    </message>
+    <message>
+        <source>Σ rows</source>
+        <translation>Σ Zeilen</translation>
+    </message>
+    <message>
+        <source>The mean of the numbers of these rows.</source>
+        <translation>Das Mittel der Zahlen dieser Zeilen.</translation>
+    </message>
+    <message>
+        <source>Σ rows / number of rows</source>
+        <translation>Σ Zeilen / Anzahl der Zeilen</translation>
+    </message>
+    <message>
+        <source>As many of these rows have less as have more.</source>
+        <translation>Ebenso viele dieser Zeilen haben weniger wie mehr.</translation>
+    </message>
+    <message>
+        <source>median of rows</source>
+        <translation>Median der Zeilen</translation>
+    </message>
+    <message>
+        <source>The least number of these rows.</source>
+        <translation>Die kleinste Zahl dieser Zeilen.</translation>
+    </message>
+    <message>
+        <source>least of rows</source>
+        <translation>kleinste der Zeilen</translation>
+    </message>
+    <message>
+        <source>The largest number of these rows.</source>
+        <translation>Die größte Zahl dieser Zeilen.</translation>
+    </message>
+    <message>
+        <source>largest of rows</source>
+        <translation>größte der Zeilen</translation>
+    </message>
+    <message>
+        <source>Of {} rows the first {} are told.</source>
+        <translation>Von {} Zeilen werden die ersten {} genannt.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -19584,6 +19732,10 @@ Eine Datei wählen.</translation>
         <source>Pa&amp;ge for an athlete…</source>
         <translation>Seite für einen &amp;Athleten…</translation>
     </message>
+    <message>
+        <source>Only the athlete&apos;s &amp;own races</source>
+        <translation>Nur die &amp;eigenen Rennen des Sportlers</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SeasonHeader</name>
@@ -19602,6 +19754,14 @@ Eine Datei wählen.</translation>
     <message>
         <source>&amp;Athlete</source>
         <translation>&amp;Athlet</translation>
+    </message>
+    <message>
+        <source>Only &amp;own races</source>
+        <translation>Nur &amp;eigene Rennen</translation>
+    </message>
+    <message>
+        <source>Only races in which this athlete starts, in whichever phase; on every page</source>
+        <translation>Nur Rennen, in denen dieser Sportler startet, gleich in welcher Phase; auf jeder Seite</translation>
     </message>
 </context>
 <context>
@@ -22429,6 +22589,14 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
             <numerusform>%n Spalte</numerusform>
             <numerusform>%n Spalten</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Line %1, column %2 of the list says “%3”.</source>
+        <translation>In Zeile %1, Spalte %2 der Liste steht „%3“.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the list is no row of this table any more.</source>
+        <translation>Zeile %1 der Liste ist keine Zeile dieser Tabelle mehr.</translation>
     </message>
 </context>
 <context>

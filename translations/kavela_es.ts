@@ -7415,6 +7415,154 @@
         <source>{{{}}} means nothing here: there are {{bib}}, {{category}}, {{phase}} and {{run}}.</source>
         <translation>{{{}}} no significa nada aquí: hay {{bib}}, {{category}}, {{phase}} y {{run}}.</translation>
     </message>
+    <message>
+        <source>Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in --json, as in cell/0/time</source>
+        <translation>Explica en su lugar un número: cell/FILA/COLUMNA, la fila contada desde 0 como en --json, por ejemplo cell/0/time</translation>
+    </message>
+    <message>
+        <source>No start of {} is known in these races.</source>
+        <translation>No se conoce ninguna salida de {} en estas carreras.</translation>
+    </message>
+    <message>
+        <source>Only races in which this athlete starts, in whichever phase</source>
+        <translation>Solo carreras en las que sale este deportista, en cualquier fase</translation>
+    </message>
+    <message>
+        <source>Only races in which {} starts.</source>
+        <translation>Solo carreras en las que sale {}.</translation>
+    </message>
+    <message>
+        <source>Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in --json, as in cell/0/rank</source>
+        <translation>Explica en su lugar un número: cell/FILA/COLUMNA, la fila contada desde 0 como en --json, por ejemplo cell/0/rank</translation>
+    </message>
+    <message>
+        <source>line {}</source>
+        <translation>línea {}</translation>
+    </message>
+    <message>
+        <source>column {}</source>
+        <translation>columna {}</translation>
+    </message>
+    <message>
+        <source>An empty penalty adds nothing.</source>
+        <translation>Una penalización vacía no suma nada.</translation>
+    </message>
+    <message>
+        <source>better</source>
+        <translation>mejores</translation>
+    </message>
+    <message>
+        <source>others</source>
+        <translation>otros</translation>
+    </message>
+    <message>
+        <source>Only rows with {} in {} are compared.</source>
+        <translation>Solo se comparan las filas con {} en {}.</translation>
+    </message>
+    <message>
+        <source>The highest is the best.</source>
+        <translation>El más alto es el mejor.</translation>
+    </message>
+    <message>
+        <source>As it stands in the list, read as a number.</source>
+        <translation>Como está en la lista, leído como número.</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>lista</translation>
+    </message>
+    <message>
+        <source>The columns of the row added up.</source>
+        <translation>Las columnas de la fila sumadas.</translation>
+    </message>
+    <message>
+        <source>Σ columns</source>
+        <translation>Σ columnas</translation>
+    </message>
+    <message>
+        <source>The place in the column: one more than are better; times to the hundredth.</source>
+        <translation>El puesto en la columna: uno más que los que son mejores; tiempos a la centésima.</translation>
+    </message>
+    <message>
+        <source>1 + better</source>
+        <translation>1 + mejores</translation>
+    </message>
+    <message>
+        <source>How far the number is behind the best of the column.</source>
+        <translation>Cuánto está el número por detrás del mejor de la columna.</translation>
+    </message>
+    <message>
+        <source>own − best</source>
+        <translation>propio − mejor</translation>
+    </message>
+    <message>
+        <source>How many percent the number is behind the best of the column.</source>
+        <translation>Cuánto por ciento está el número por detrás del mejor de la columna.</translation>
+    </message>
+    <message>
+        <source>How many percent of the others in the column are better.</source>
+        <translation>Qué porcentaje de los otros de la columna son mejores.</translation>
+    </message>
+    <message>
+        <source>100 · better / others</source>
+        <translation>100 · mejores / otros</translation>
+    </message>
+    <message>
+        <source>The first column less the second.</source>
+        <translation>La primera columna menos la segunda.</translation>
+    </message>
+    <message>
+        <source>first − second</source>
+        <translation>primera − segunda</translation>
+    </message>
+    <message>
+        <source>How many rows say something in the column.</source>
+        <translation>Cuántas filas dicen algo en la columna.</translation>
+    </message>
+    <message>
+        <source>The numbers of all these rows added up.</source>
+        <translation>Los números de todas estas filas sumados.</translation>
+    </message>
+    <message>
+        <source>Σ rows</source>
+        <translation>Σ filas</translation>
+    </message>
+    <message>
+        <source>The mean of the numbers of these rows.</source>
+        <translation>La media de los números de estas filas.</translation>
+    </message>
+    <message>
+        <source>Σ rows / number of rows</source>
+        <translation>Σ filas / número de filas</translation>
+    </message>
+    <message>
+        <source>As many of these rows have less as have more.</source>
+        <translation>Tantas de estas filas tienen menos como más.</translation>
+    </message>
+    <message>
+        <source>median of rows</source>
+        <translation>mediana de las filas</translation>
+    </message>
+    <message>
+        <source>The least number of these rows.</source>
+        <translation>El menor número de estas filas.</translation>
+    </message>
+    <message>
+        <source>least of rows</source>
+        <translation>menor de las filas</translation>
+    </message>
+    <message>
+        <source>The largest number of these rows.</source>
+        <translation>El mayor número de estas filas.</translation>
+    </message>
+    <message>
+        <source>largest of rows</source>
+        <translation>mayor de las filas</translation>
+    </message>
+    <message>
+        <source>Of {} rows the first {} are told.</source>
+        <translation>De {} filas se nombran las primeras {}.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -19584,6 +19732,10 @@ Elige un archivo.</translation>
         <source>Pa&amp;ge for an athlete…</source>
         <translation>Pá&amp;gina para un deportista…</translation>
     </message>
+    <message>
+        <source>Only the athlete&apos;s &amp;own races</source>
+        <translation>Solo las carreras &amp;propias del deportista</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SeasonHeader</name>
@@ -19602,6 +19754,14 @@ Elige un archivo.</translation>
     <message>
         <source>&amp;Athlete</source>
         <translation>&amp;Deportista</translation>
+    </message>
+    <message>
+        <source>Only &amp;own races</source>
+        <translation>Solo carreras &amp;propias</translation>
+    </message>
+    <message>
+        <source>Only races in which this athlete starts, in whichever phase; on every page</source>
+        <translation>Solo carreras en las que sale este deportista, en cualquier fase; en todas las páginas</translation>
     </message>
 </context>
 <context>
@@ -22429,6 +22589,14 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
             <numerusform>%n columna</numerusform>
             <numerusform>%n columnas</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Line %1, column %2 of the list says “%3”.</source>
+        <translation>La línea %1, columna %2 de la lista dice «%3».</translation>
+    </message>
+    <message>
+        <source>Line %1 of the list is no row of this table any more.</source>
+        <translation>La línea %1 de la lista ya no es una fila de esta tabla.</translation>
     </message>
 </context>
 <context>

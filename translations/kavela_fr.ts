@@ -929,7 +929,7 @@
     </message>
     <message>
         <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
-        <translation>D’un dossier sur un serveur WebDAV : Nextcloud, ownCloud, un NAS, Apache…</translation>
+        <translation>D’un dossier sur un serveur WebDAV&#x202f;: Nextcloud, ownCloud, un NAS, Apache…</translation>
     </message>
     <message>
         <source>There is no folder to share yet.</source>
@@ -937,7 +937,7 @@
     </message>
     <message>
         <source>“%1” is no folder.</source>
-        <translation>« %1 » n’est pas un dossier.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un dossier.</translation>
     </message>
 </context>
 <context>
@@ -7414,6 +7414,154 @@
     <message>
         <source>{{{}}} means nothing here: there are {{bib}}, {{category}}, {{phase}} and {{run}}.</source>
         <translation>{{{}}} ne veut rien dire ici&#x202f;: il y a {{bib}}, {{category}}, {{phase}} et {{run}}.</translation>
+    </message>
+    <message>
+        <source>Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in --json, as in cell/0/time</source>
+        <translation>Explique plutôt un nombre : cell/LIGNE/COLONNE, la ligne comptée à partir de 0 comme dans --json, par exemple cell/0/time</translation>
+    </message>
+    <message>
+        <source>No start of {} is known in these races.</source>
+        <translation>Aucun départ de {} n’est connu dans ces courses.</translation>
+    </message>
+    <message>
+        <source>Only races in which this athlete starts, in whichever phase</source>
+        <translation>Seulement les courses où cet athlète prend le départ, quelle que soit la phase</translation>
+    </message>
+    <message>
+        <source>Only races in which {} starts.</source>
+        <translation>Seulement les courses où {} prend le départ.</translation>
+    </message>
+    <message>
+        <source>Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in --json, as in cell/0/rank</source>
+        <translation>Explique plutôt un nombre : cell/LIGNE/COLONNE, la ligne comptée à partir de 0 comme dans --json, par exemple cell/0/rank</translation>
+    </message>
+    <message>
+        <source>line {}</source>
+        <translation>ligne {}</translation>
+    </message>
+    <message>
+        <source>column {}</source>
+        <translation>colonne {}</translation>
+    </message>
+    <message>
+        <source>An empty penalty adds nothing.</source>
+        <translation>Une pénalité vide n’ajoute rien.</translation>
+    </message>
+    <message>
+        <source>better</source>
+        <translation>meilleurs</translation>
+    </message>
+    <message>
+        <source>others</source>
+        <translation>autres</translation>
+    </message>
+    <message>
+        <source>Only rows with {} in {} are compared.</source>
+        <translation>Seules les lignes avec {} dans {} sont comparées.</translation>
+    </message>
+    <message>
+        <source>The highest is the best.</source>
+        <translation>Le plus élevé est le meilleur.</translation>
+    </message>
+    <message>
+        <source>As it stands in the list, read as a number.</source>
+        <translation>Tel qu’il figure dans la liste, lu comme un nombre.</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>liste</translation>
+    </message>
+    <message>
+        <source>The columns of the row added up.</source>
+        <translation>Les colonnes de la ligne additionnées.</translation>
+    </message>
+    <message>
+        <source>Σ columns</source>
+        <translation>Σ colonnes</translation>
+    </message>
+    <message>
+        <source>The place in the column: one more than are better; times to the hundredth.</source>
+        <translation>La place dans la colonne : un de plus que ceux qui sont meilleurs ; temps au centième.</translation>
+    </message>
+    <message>
+        <source>1 + better</source>
+        <translation>1 + meilleurs</translation>
+    </message>
+    <message>
+        <source>How far the number is behind the best of the column.</source>
+        <translation>De combien le nombre est derrière le meilleur de la colonne.</translation>
+    </message>
+    <message>
+        <source>own − best</source>
+        <translation>propre − meilleur</translation>
+    </message>
+    <message>
+        <source>How many percent the number is behind the best of the column.</source>
+        <translation>De combien de pour cent le nombre est derrière le meilleur de la colonne.</translation>
+    </message>
+    <message>
+        <source>How many percent of the others in the column are better.</source>
+        <translation>Quel pourcentage des autres de la colonne sont meilleurs.</translation>
+    </message>
+    <message>
+        <source>100 · better / others</source>
+        <translation>100 · meilleurs / autres</translation>
+    </message>
+    <message>
+        <source>The first column less the second.</source>
+        <translation>La première colonne moins la seconde.</translation>
+    </message>
+    <message>
+        <source>first − second</source>
+        <translation>première − seconde</translation>
+    </message>
+    <message>
+        <source>How many rows say something in the column.</source>
+        <translation>Combien de lignes disent quelque chose dans la colonne.</translation>
+    </message>
+    <message>
+        <source>The numbers of all these rows added up.</source>
+        <translation>Les nombres de toutes ces lignes additionnés.</translation>
+    </message>
+    <message>
+        <source>Σ rows</source>
+        <translation>Σ lignes</translation>
+    </message>
+    <message>
+        <source>The mean of the numbers of these rows.</source>
+        <translation>La moyenne des nombres de ces lignes.</translation>
+    </message>
+    <message>
+        <source>Σ rows / number of rows</source>
+        <translation>Σ lignes / nombre de lignes</translation>
+    </message>
+    <message>
+        <source>As many of these rows have less as have more.</source>
+        <translation>Autant de ces lignes ont moins que plus.</translation>
+    </message>
+    <message>
+        <source>median of rows</source>
+        <translation>médiane des lignes</translation>
+    </message>
+    <message>
+        <source>The least number of these rows.</source>
+        <translation>Le plus petit nombre de ces lignes.</translation>
+    </message>
+    <message>
+        <source>least of rows</source>
+        <translation>plus petit des lignes</translation>
+    </message>
+    <message>
+        <source>The largest number of these rows.</source>
+        <translation>Le plus grand nombre de ces lignes.</translation>
+    </message>
+    <message>
+        <source>largest of rows</source>
+        <translation>plus grand des lignes</translation>
+    </message>
+    <message>
+        <source>Of {} rows the first {} are told.</source>
+        <translation>Sur {} lignes, les {} premières sont citées.</translation>
     </message>
 </context>
 <context>
@@ -19584,6 +19732,10 @@ Choisissez un fichier.</translation>
         <source>Pa&amp;ge for an athlete…</source>
         <translation>&amp;Page pour un athlète…</translation>
     </message>
+    <message>
+        <source>Only the athlete&apos;s &amp;own races</source>
+        <translation>Seulement les courses &amp;propres à l’athlète</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SeasonHeader</name>
@@ -19602,6 +19754,14 @@ Choisissez un fichier.</translation>
     <message>
         <source>&amp;Athlete</source>
         <translation>A&amp;thlète</translation>
+    </message>
+    <message>
+        <source>Only &amp;own races</source>
+        <translation>Seulement ses &amp;propres courses</translation>
+    </message>
+    <message>
+        <source>Only races in which this athlete starts, in whichever phase; on every page</source>
+        <translation>Seulement les courses où cet athlète prend le départ, quelle que soit la phase ; sur chaque page</translation>
     </message>
 </context>
 <context>
@@ -22429,6 +22589,14 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
             <numerusform>%n colonne</numerusform>
             <numerusform>%n colonnes</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Line %1, column %2 of the list says “%3”.</source>
+        <translation>La ligne %1, colonne %2 de la liste indique « %3 ».</translation>
+    </message>
+    <message>
+        <source>Line %1 of the list is no row of this table any more.</source>
+        <translation>La ligne %1 de la liste n’est plus une ligne de ce tableau.</translation>
     </message>
 </context>
 <context>
