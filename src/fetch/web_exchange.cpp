@@ -169,7 +169,7 @@ void WebExchange::follow() {
 
 void WebExchange::takeBytes() {
     takeHead();
-    if (!m_reply || !m_hasHead)
+    if (!m_reply || !m_hasHead || m_isHeld)
         return;
     if (const QByteArray bytes = m_reply->readAll(); !bytes.isEmpty())
         emit received(bytes);
@@ -177,7 +177,7 @@ void WebExchange::takeBytes() {
 
 void WebExchange::takeEnd() {
     takeBytes(); // which may follow a redirect, or end in a stop
-    if (!m_reply || !m_reply->isFinished())
+    if (!m_reply || !m_reply->isFinished() || m_isHeld)
         return;
     const bool isWhole = m_reply->error() == QNetworkReply::NoError || statusOf(*m_reply) >= 400;
     const std::string untrusted = m_untrusted;
@@ -187,6 +187,12 @@ void WebExchange::takeEnd() {
         finish({WebEnd::Kind::Final, untrusted, {}});
     else
         finish({isWhole ? WebEnd::Kind::Whole : WebEnd::Kind::Broken, reason, {}});
+}
+
+void WebExchange::goOn() {
+    m_isHeld = false;
+    if (m_reply)
+        takeEnd(); // or bytes, as long as there are some
 }
 
 void WebExchange::finish(const WebEnd& end) {
