@@ -75,6 +75,12 @@ HeatPage::HeatPage(const CrossDesk& desk)
     refresh();
 }
 
+/// Their tables ask the desk for boats until the end.
+HeatPage::~HeatPage() {
+    delete m_orders;
+    delete m_attacks;
+}
+
 QSize HeatPage::minimumSizeHint() const {
     const QMargins sides = contentsMargins() + layout()->contentsMargins();
     const int wide = m_body->minimumSizeHint().width() + sides.left() + sides.right();

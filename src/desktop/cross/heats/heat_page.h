@@ -22,6 +22,7 @@ class HeatPage : public CrossPage {
 
 public:
     explicit HeatPage(const CrossDesk& desk);
+    ~HeatPage() override;
 
     void refresh() override;
     void showFrame() override;
