@@ -19,6 +19,8 @@ FileTransfer::FileTransfer(QNetworkAccessManager& network, const WebRules& rules
 /// What is asked of the disk is done in the order of asking, to its end whatever becomes of this.
 template <class Work, class Done>
 void FileTransfer::onDisk(Work work, Done done) {
+    if (!m_file)
+        m_file = std::make_shared<PartFile>(m_part);
     runBeside(
         this, [file = m_file, work = std::move(work)] { return work(*file); },
         [this, done = std::move(done)](const auto& result) {
@@ -31,7 +33,6 @@ void FileTransfer::onDisk(Work work, Done done) {
 void FileTransfer::start(const Address& address, const fs::path& part) {
     m_address = address;
     m_part = part;
-    m_file = std::make_shared<PartFile>(part);
     onDisk([address](const PartFile& file) { return file.held(address); },
            [this](const HeldPart& held) {
                m_held = held;
@@ -57,6 +58,8 @@ void FileTransfer::startAnew(const std::string& reason) {
 }
 
 void FileTransfer::dropPart(std::function<void()> dropped) {
+    if (m_isStopped)
+        return; // while it was being checked: it stays for the next time
     endExchange();
     m_held = {};
     m_digest.clear();
