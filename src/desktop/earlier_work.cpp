@@ -33,6 +33,12 @@ struct LossesThen {
     }
 };
 
+/// By what they hold these would come back to be timed: a folder, and a film whose path was never
+/// saved.
+bool isKnownByTool(const OpenFile& file) {
+    return file.kind == "share" || file.kind == "tracking";
+}
+
 } // namespace
 
 /// The last window's closing leaves the program: what it showed is what the next start shows.
@@ -51,6 +57,7 @@ bool EarlierWork::restoreWindows() const {
     QList<OpenFile> tables;
     QMap<int, LossesThen> losses; ///< by window
     QMap<int, LossesThen> seasons;
+    QList<OpenFile> ofTools;
     QStringList others;
     QStringList searched;
     QStringList slits;
@@ -69,8 +76,6 @@ bool EarlierWork::restoreWindows() const {
             m_program.openFilms(file.path);
         else if (file.kind == "fetch")
             m_program.openFetch(); // its source is remembered by the window
-        else if (file.kind == "share")
-            m_program.openShare(file.path); // by its content a folder is to be timed
         else if (file.kind == "slit")
             slits.append(file.path);
         else if (file.kind == "find")
@@ -79,6 +84,8 @@ bool EarlierWork::restoreWindows() const {
             penalties.append(file.path);
         else if (file.kind == "tables")
             tables.append(file);
+        else if (isKnownByTool(file))
+            ofTools.append(file);
         else
             others.append(file.path);
     if (!races.isEmpty())
@@ -92,6 +99,9 @@ bool EarlierWork::restoreWindows() const {
         m_program.showSeasonAgain(window.paths, window.view);
     for (const QString& film : slits) // after split taking, which has their races
         m_program.openSlit(film);
+    for (const OpenFile& file : ofTools)
+        if (const ToolKind* const tool = toolOfKind(file.kind))
+            (void)m_program.openIn(*tool, file.path);
     if (!others.isEmpty())
         m_program.openAll(others);
     if (!searched.isEmpty())

@@ -141,6 +141,26 @@ TEST_F(TrackingWindowTest, MeasuresOnTheWaterFromPointsThatAreClicked) {
     EXPECT_THAT(readTextFile(m_folder.path() / "path.csv"), HasSubstr("frame,seconds,x,y"));
 }
 
+/// By what it holds a film is opened to be timed.
+TEST_F(TrackingWindowTest, AFilmWithoutASavedPathComesBackToBeFollowed) {
+    TrackingWindow* const window = &openFilm();
+    m_desktop.rememberSession();
+    delete window;
+    Desktop next(m_workspace,
+                 desktop::Autosave(QString::fromStdString((m_folder.path() / "kept").string())));
+    ASSERT_TRUE(next.restoreSession());
+    QTRY_COMPARE(next.windows().size(), 1);
+    EXPECT_EQ(next.windowsOf<TrackingWindow>().size(), 1);
+}
+
+TEST_F(TrackingWindowTest, TellsWhyAPathCannotBeExported) {
+    TrackingWindow& window = openFilm();
+    window.writeCsv(QString::fromStdString((m_folder.path() / "none" / "path.csv").string()));
+    QTRY_COMPARE(m_recorder.alerts.size(), 1UL);
+    EXPECT_THAT(m_recorder.alerts.front(), HasSubstr("path.csv"));
+    EXPECT_FALSE(window.told().contains("path.csv"));
+}
+
 TEST_F(TrackingWindowTest, TellsWhyABoxCannotBeFollowed) {
     TrackingWindow& window = openFilm();
     window.drawBox({-20, 10, 60, 60});
