@@ -15,8 +15,8 @@ namespace kavela {
 namespace {
 
 /// In the order of TableStep.
-constexpr std::array<std::string_view, 9> StepNames{
-    "titles", "kind", "remove", "filter", "sort", "group", "tint", "derive", "pivot"};
+constexpr std::array<std::string_view, 9> StepNames{"titles", "kind", "remove", "filter", "sort",
+                                                    "group",  "tint", "derive", "pivot"};
 static_assert(StepNames.size() == std::variant_size_v<TableStep>);
 
 /// Words and the switch of a step, to be written.
@@ -37,14 +37,14 @@ struct StepRecord {
         return {{}, {step.column}, step.isTinted};
     }
     tablestep001 operator()(const DerivedColumn& step) const {
-        tablestep001 made{{}, {std::string(derivationName(step.what)), step.by}, step.isHighestBest};
+        tablestep001 made{
+            {}, {std::string(derivationName(step.what)), step.by}, step.isHighestBest};
         made.words.insert(made.words.end(), step.columns.begin(), step.columns.end());
         return made;
     }
     tablestep001 operator()(const Pivot& step) const {
         return {{},
-                {step.row, step.column, step.value,
-                 std::string(pivotFunctionName(step.function))}};
+                {step.row, step.column, step.value, std::string(pivotFunctionName(step.function))}};
     }
 };
 
@@ -124,8 +124,8 @@ std::vector<std::string> validTexts(std::vector<std::string> texts) {
 }
 
 tablelist001 listRecord(const ListGrid& grid) {
-    tablelist001 record{validUtf8(grid.name), validUtf8(grid.separator), {}, {},
-                        validTexts(grid.notes)};
+    tablelist001 record{
+        validUtf8(grid.name), validUtf8(grid.separator), {}, {}, validTexts(grid.notes)};
     for (const GridLine& line : grid.lines)
         record.lines.push_back({line.number, validTexts(line.fields)});
     for (const RefusedCell& cell : grid.refused)
@@ -155,9 +155,9 @@ void takeAthletes(const tablework001& record, TableWork& work) {
     for (const tableanswer001& answer : record.answers) {
         if (answer.athlete >= count)
             throw DecodeError(Fault{"answers", "there is no such athlete"});
-        work.answers[answer.line] =
-            answer.athlete < 0 ? std::nullopt
-                               : std::optional(static_cast<std::size_t>(answer.athlete));
+        work.answers[answer.line] = answer.athlete < 0
+                                        ? std::nullopt
+                                        : std::optional(static_cast<std::size_t>(answer.athlete));
     }
     if (record.isJoined)
         work.athletes = std::make_shared<const std::vector<KnownAthlete>>(std::move(athletes));

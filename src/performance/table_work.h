@@ -60,7 +60,7 @@ struct tableanswer001 {
 BOOST_DESCRIBE_STRUCT(tableanswer001, (), (line, athlete))
 
 struct tablework001 {
-    std::string source = {}; ///< path of the list's file; empty for what was copied
+    std::string source = {};     ///< path of the list's file; empty for what was copied
     std::string sourcelist = {}; ///< which of that file's lists
     std::string title = {};
     tablelist001 list = {};
@@ -77,10 +77,10 @@ inline constexpr std::string_view TableWorkExtension = "kvtable";
 
 /// What was made of a list, at one moment. Copies share what they have in common.
 struct TableWork {
-    std::string source; ///< path of the list's file; empty for the clipboard
-    std::string list;   ///< which of the file's lists
-    std::string title;  ///< how the coach calls it
-    std::optional<TableSteps> steps;                           ///< none before a list was opened
+    std::string source;              ///< path of the list's file; empty for the clipboard
+    std::string list;                ///< which of the file's lists
+    std::string title;               ///< how the coach calls it
+    std::optional<TableSteps> steps; ///< none before a list was opened
     std::shared_ptr<const std::vector<KnownAthlete>> athletes; ///< null: joined with nobody
     /// By line of the list who is meant, by place among the athletes; none for nobody.
     std::map<std::int64_t, std::optional<std::size_t>> answers;

@@ -233,8 +233,8 @@ TEST_F(TablesWindowTest, OffersWhatWasMadeAndNeverSaved) {
     ASSERT_TRUE(work);
     EXPECT_EQ(work->label.tool, "tables");
 
-    TablesWindow other(m_workspace, Autosave(QString::fromStdString(
-                                        (m_folder.path() / "others").string())));
+    TablesWindow other(m_workspace,
+                       Autosave(QString::fromStdString((m_folder.path() / "others").string())));
     other.setAttribute(Qt::WA_DeleteOnClose, false);
     other.takeBack(work->content);
     EXPECT_EQ(tableCsv(*other.document().table()), made);

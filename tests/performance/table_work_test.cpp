@@ -44,12 +44,12 @@ std::string replaced(std::string text, const std::string& what, const std::strin
 } // namespace
 
 TEST(TableWorks, ComeBackWithEveryStepAndTheWholeList) {
-    const TableWork work = workOf({TitlesStep{true}, KindStep{"Time", ListColumnKind::Time},
-                                   parsedDerivedColumn("rank:Time down by Cat"),
-                                   parsedDerivedColumn("total:Time,Time penalty"),
-                                   FilterStep{"Cat", "a, by b", true}, SortStep{"Name", true},
-                                   GroupStep{"Cat"}, TintStep{"Time", true}, RemoveStep{"rank"},
-                                   Pivot{"Cat", "", "Time", PivotFunction::Median}});
+    const TableWork work =
+        workOf({TitlesStep{true}, KindStep{"Time", ListColumnKind::Time},
+                parsedDerivedColumn("rank:Time down by Cat"),
+                parsedDerivedColumn("total:Time,Time penalty"), FilterStep{"Cat", "a, by b", true},
+                SortStep{"Name", true}, GroupStep{"Cat"}, TintStep{"Time", true},
+                RemoveStep{"rank"}, Pivot{"Cat", "", "Time", PivotFunction::Median}});
     const std::string text = tableWorkText(work);
     EXPECT_TRUE(isTableWork(text));
     EXPECT_FALSE(isTableWork("Name;Time\n{a};92\n"));

@@ -91,13 +91,11 @@ OfferedLists offeredLists(std::string bytes) {
 }
 
 QString listFilter() {
-    return translatedList(
-        "Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;All files (*)");
+    return translatedList("Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;All files (*)");
 }
 
 bool isListFile(const QString& path) {
-    static const QStringList Suffixes{"csv",  "tsv", "txt",    "xlsx",
-                                      "ods", "kvx", "kvtable"};
+    static const QStringList Suffixes{"csv", "tsv", "txt", "xlsx", "ods", "kvx", "kvtable"};
     return Suffixes.contains(QFileInfo(path).suffix().toLower());
 }
 

@@ -87,8 +87,7 @@ std::vector<TableStep> TableDocument::steps() const {
 }
 
 std::optional<Reason> TableDocument::whyOf(std::size_t row, std::size_t column) const {
-    return hasList() ? explainTable(*value().steps, row, column, value().source)
-                     : std::nullopt;
+    return hasList() ? explainTable(*value().steps, row, column, value().source) : std::nullopt;
 }
 
 QString TableDocument::textOfPlace(const Place& place) const {

@@ -227,7 +227,7 @@ bool TablesWindow::showOwnPlace(const Place& place) {
 }
 
 bool TablesWindow::isEmpty() const {
-    return !m_document.hasList() && m_reading.isEmpty();
+    return !m_document.hasList() && m_reading.isEmpty() && m_document.path().isEmpty();
 }
 
 QString TablesWindow::status() const {

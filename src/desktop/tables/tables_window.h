@@ -49,7 +49,7 @@ public:
     [[nodiscard]] QString shownView() const override;
     /// A line of the list; where the table has no such row any more, what stands there is told.
     [[nodiscard]] bool showOwnPlace(const Place& place) override;
-    /// Nothing is shown and nothing is being read.
+    /// Nothing is shown, nothing is being read, and no earlier work is asked about.
     [[nodiscard]] bool isEmpty() const;
     [[nodiscard]] bool isReading() const { return m_work.isRunning(); }
 
