@@ -907,6 +907,41 @@
     </message>
 </context>
 <context>
+    <name>SharePlace</name>
+    <message>
+        <source>Choose the folder…</source>
+        <translation>Vybrat složku…</translation>
+    </message>
+    <message>
+        <source>F&amp;older</source>
+        <translation>&amp;Složka</translation>
+    </message>
+    <message>
+        <source>On this computer, with everything below it but hidden files</source>
+        <translation>V tomto počítači, se vším pod ní kromě skrytých souborů</translation>
+    </message>
+    <message>
+        <source>the folder that is shared</source>
+        <translation>sdílená složka</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>&amp;Adresa</translation>
+    </message>
+    <message>
+        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
+        <translation>Složky na serveru WebDAV: Nextcloud, ownCloud, NAS, Apache…</translation>
+    </message>
+    <message>
+        <source>There is no folder to share yet.</source>
+        <translation>Zatím není složka ke sdílení.</translation>
+    </message>
+    <message>
+        <source>“%1” is no folder.</source>
+        <translation>„%1“ není složka.</translation>
+    </message>
+</context>
+<context>
     <name>SlitMarking</name>
     <message>
         <source>The film is not read so far.</source>
@@ -1077,6 +1112,18 @@
     <message>
         <source>Work kept</source>
         <translation>Uchovaná práce</translation>
+    </message>
+    <message>
+        <source>Pattern of the names</source>
+        <translation>Vzor jmen</translation>
+    </message>
+    <message>
+        <source>Names now and then</source>
+        <translation>Jména nyní a potom</translation>
+    </message>
+    <message>
+        <source>Films being composed</source>
+        <translation>Skládané filmy</translation>
     </message>
 </context>
 <context>
@@ -3005,22 +3052,6 @@
         <source>Wilson&apos;s interval, 90 %</source>
         <translation>Wilsonův interval, 90&#xa0;%</translation>
     </message>
-    <message>
-        <source>{} runs are</source>
-        <translation>jízdy: {}</translation>
-    </message>
-    <message>
-        <source>{} left out: {} penalties are not known by gate.</source>
-        <translation>Vynecháno {}: {} penalizace nejsou známy po brankách.</translation>
-    </message>
-    <message>
-        <source> and {} more</source>
-        <translation> a dalších {}</translation>
-    </message>
-    <message>
-        <source>{} {} out: touched more than the {} that all have in common.</source>
-        <translation>{} {} – ťuky častější než {}, které mají všechny společné.</translation>
-    </message>
     <message numerus="yes">
         <source>{} touches</source>
         <translation>
@@ -3050,48 +3081,16 @@
         <translation>Nic nevyčnívá ({}): nejvyšší, {} ({}), může být náhoda.</translation>
     </message>
     <message>
-        <source>Without this {}: {}.</source>
-        <translation>Bez toho ({}): {}.</translation>
-    </message>
-    <message>
         <source>None of {} cost a place.</source>
         <translation>{}: žádná nestála místo.</translation>
-    </message>
-    <message>
-        <source>{} of them</source>
-        <translation>z nich {}</translation>
-    </message>
-    <message>
-        <source>Of {} {} cost places, {} a medal.</source>
-        <translation>{}: {} stálo místa, {} medaili.</translation>
     </message>
     <message>
         <source>None of {} was noted in detail.</source>
         <translation>{}: žádná nebyla podrobně poznamenána.</translation>
     </message>
-    <message numerus="yes">
-        <source>{} were</source>
-        <translation>
-            <numerusform>z nich {}</numerusform>
-            <numerusform>z nich {}</numerusform>
-            <numerusform>z nich {}</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Of {} {} noted in detail.</source>
-        <translation>{}: {} podrobně poznamenáno.</translation>
-    </message>
     <message>
         <source>Too few to tell: no group has {} whole runs.</source>
         <translation>Na závěr příliš málo: žádná skupina nemá {} úplných jízd.</translation>
-    </message>
-    <message>
-        <source>{} touches a run in {}, all in one third of the field.</source>
-        <translation>Ťuků na jízdu {} ({}), vše v jedné třetině pole.</translation>
-    </message>
-    <message>
-        <source>{:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
-        <translation>{:.2f} ťuku na jízdu v rychlejší třetině, {:.2f} v pomalejší.</translation>
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run.</source>
@@ -3128,18 +3127,6 @@
     <message>
         <source>trend {:+.1f} % a year: {}</source>
         <translation>trend {:+.1f}&#xa0;% za rok: {}</translation>
-    </message>
-    <message>
-        <source>{}: too few runs to tell a trend behind {}.</source>
-        <translation>{}: příliš málo jízd na trend za {}.</translation>
-    </message>
-    <message>
-        <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
-        <translation>{}: {:+.1f}&#xa0;% za rok za {}{}, {}.</translation>
-    </message>
-    <message>
-        <source>{} of {}&apos;s races is known.</source>
-        <translation>{1}: {0} těchto závodů není znám.</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
@@ -3204,14 +3191,6 @@
     <message>
         <source>{:.1f} % would have been a medal in {} of {}</source>
         <translation>{2}: {0:.1f}&#xa0;% by stačilo na medaili v {1}</translation>
-    </message>
-    <message>
-        <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
-        <translation>Obojí má dost často {}: {} {} nepochybně rychlejší, {}; {} pomalejší.</translation>
-    </message>
-    <message>
-        <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>{}: {}, {} z {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
@@ -5229,6 +5208,2398 @@
         <source>number of notes</source>
         <translation>počet poznámek</translation>
     </message>
+    <message>
+        <source>whole</source>
+        <translation>celé číslo</translation>
+    </message>
+    <message>
+        <source>decimal</source>
+        <translation>desetinné číslo</translation>
+    </message>
+    <message>
+        <source>status</source>
+        <translation>stav</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>datum</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>text</translation>
+    </message>
+    <message>
+        <source>Add {}</source>
+        <translation>přidání: {}</translation>
+    </message>
+    <message>
+        <source>Colour {}</source>
+        <translation>barvy: {}</translation>
+    </message>
+    <message>
+        <source>First line is a row</source>
+        <translation>první řádek jsou data</translation>
+    </message>
+    <message>
+        <source>First line is titles</source>
+        <translation>první řádek jsou nadpisy</translation>
+    </message>
+    <message>
+        <source>Group by {}</source>
+        <translation>seskupení podle: {}</translation>
+    </message>
+    <message>
+        <source>Keep {} in {}</source>
+        <translation>ponechání: {} ({})</translation>
+    </message>
+    <message>
+        <source>Leave out {}</source>
+        <translation>vynechání: {}</translation>
+    </message>
+    <message>
+        <source>No colours in {}</source>
+        <translation>bez barev: {}</translation>
+    </message>
+    <message>
+        <source>No groups</source>
+        <translation>bez skupin</translation>
+    </message>
+    <message>
+        <source>Pivot of {} by {}</source>
+        <translation>kontingenční tabulka: {} podle {}</translation>
+    </message>
+    <message>
+        <source>Read {} as {}</source>
+        <translation>čtení: {} jako {}</translation>
+    </message>
+    <message>
+        <source>Sort by {}</source>
+        <translation>řazení podle: {}</translation>
+    </message>
+    <message>
+        <source>Sort by {}, downwards</source>
+        <translation>řazení podle: {}, sestupně</translation>
+    </message>
+    <message>
+        <source>Medals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Nejčastěji medaile: {}, {} z {} ({:.0f}–{:.0f}&#xa0;%).</translation>
+    </message>
+    <message>
+        <source>In finals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Nejčastěji ve finále: {}, {} z {} ({:.0f}–{:.0f}&#xa0;%).</translation>
+    </message>
+    <message>
+        <source>In semifinals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Nejčastěji v semifinále: {}, {} z {} ({:.0f}–{:.0f}&#xa0;%).</translation>
+    </message>
+    <message>
+        <source>No fastest split of {}&apos;s races is known.</source>
+        <translation>{}: z těchto závodů není znám žádný nejlepší mezičas.</translation>
+    </message>
+    <message>
+        <source>No winner of {}&apos;s races is known.</source>
+        <translation>{}: z těchto závodů není znám žádný vítěz.</translation>
+    </message>
+    <message>
+        <source>No penalty of a whole run is known by gate.</source>
+        <translation>U žádné úplné jízdy není penalizace známa podle branek.</translation>
+    </message>
+    <message>
+        <source>No race of the team has a result that says so.</source>
+        <translation>Žádný závod týmu nemá výsledek, který by to řekl.</translation>
+    </message>
+    <message>
+        <source>No whole run is known by gate.</source>
+        <translation>Žádná úplná jízda není známa podle branek.</translation>
+    </message>
+    <message>
+        <source>Nobody&apos;s penalties are known by gate.</source>
+        <translation>U nikoho nejsou penalizace známy podle branek.</translation>
+    </message>
+    <message>
+        <source>Noted in detail: {} of {}. Shares of what was noted, no rates: nobody notes how gates are passed clean.</source>
+        <translation>Podrobně poznamenáno: {} z {}. Jsou to podíly z poznamenaného, ne četnosti: čisté průjezdy nikdo nezapisuje.</translation>
+    </message>
+    <message>
+        <source>Noted in detail: {} of {}. Too few to tell.</source>
+        <translation>Podrobně poznamenáno: {} z {}. Na závěr příliš málo.</translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, beyond doubt faster in the final: {}, slower: {}.</source>
+        <translation>Obojí má dost často {}; nepochybně rychlejší ve finále: {}, pomalejší: {}.</translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, beyond doubt faster in the second run: {}, slower: {}.</source>
+        <translation>Obojí má dost často {}; nepochybně rychlejší ve druhé jízdě: {}, pomalejší: {}.</translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, none of them a medal.</source>
+        <translation>{}: {} z nich stálo místa, žádná medaili.</translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, {} of them a medal.</source>
+        <translation>{}: {} z nich stálo místa, {} z nich medaili.</translation>
+    </message>
+    <message>
+        <source>The fast touch less: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Rychlí ťukají méně: {:.2f} ťuku na jízdu v rychlejší třetině, {:.2f} v pomalejší.</translation>
+    </message>
+    <message>
+        <source>The fast touch more: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Rychlí ťukají více: {:.2f} ťuku na jízdu v rychlejší třetině, {:.2f} v pomalejší.</translation>
+    </message>
+    <message>
+        <source>Too few to tell fast from slow: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Příliš málo na rozlišení rychlých a pomalých: {:.2f} ťuku na jízdu v rychlejší třetině, {:.2f} v pomalejší.</translation>
+    </message>
+    <message>
+        <source>There is no penalty.</source>
+        <translation>Není žádná penalizace.</translation>
+    </message>
+    <message>
+        <source>Too few races with both to tell a change.</source>
+        <translation>Příliš málo závodů s obojím na určení změny.</translation>
+    </message>
+    <message>
+        <source>Without this missed gate: {}.</source>
+        <translation>Bez této neprojeté branky: {} místo.</translation>
+    </message>
+    <message>
+        <source>Without this touch: {}.</source>
+        <translation>Bez tohoto ťuku: {} místo.</translation>
+    </message>
+    <message>
+        <source>category</source>
+        <translation>kategorie</translation>
+    </message>
+    <message>
+        <source>crew</source>
+        <translation>posádka</translation>
+    </message>
+    <message>
+        <source>gate</source>
+        <translation>branka</translation>
+    </message>
+    <message>
+        <source>hand</source>
+        <translation>ruka</translation>
+    </message>
+    <message>
+        <source>month</source>
+        <translation>měsíc</translation>
+    </message>
+    <message>
+        <source>phase</source>
+        <translation>fáze</translation>
+    </message>
+    <message>
+        <source>race</source>
+        <translation>závod</translation>
+    </message>
+    <message>
+        <source>section</source>
+        <translation>úsek</translation>
+    </message>
+    <message>
+        <source>tenth of the course</source>
+        <translation>desetina trati</translation>
+    </message>
+    <message>
+        <source>type of gate</source>
+        <translation>druh branky</translation>
+    </message>
+    <message>
+        <source>nobody came</source>
+        <translation>nikdo nepřijel</translation>
+    </message>
+    <message>
+        <source>those without one</source>
+        <translation>ti bez udání</translation>
+    </message>
+    <message>
+        <source>{:.2f} touches a run in {}, all in one third of the field.</source>
+        <translation>Ťuků na jízdu {:.2f} ({}), vše v jedné třetině pole.</translation>
+    </message>
+    <message>
+        <source>{} and {} more</source>
+        <translation>{} a dalších {}</translation>
+    </message>
+    <message>
+        <source>{} stand out: touched more than the {} that all have in common.</source>
+        <translation>{} vyčnívají: ťuky častější než {}, které mají všechny společné.</translation>
+    </message>
+    <message>
+        <source>{} stands out: touched more than the {} that all have in common.</source>
+        <translation>{} vyčnívá: ťuky častější než {}, které mají všechny společné.</translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind the fastest splits.</source>
+        <translation>{}: příliš málo jízd na trend za nejlepšími mezičasy.</translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind the winners.</source>
+        <translation>{}: příliš málo jízd na trend za vítězi.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the fastest splits ({:+.1f} to {:+.1f}), {}.</source>
+        <translation>{}: {:+.1f}&#xa0;% za rok za nejlepšími mezičasy ({:+.1f} až {:+.1f}), {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the fastest splits, {}.</source>
+        <translation>{}: {:+.1f}&#xa0;% za rok za nejlepšími mezičasy, {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the winners ({:+.1f} to {:+.1f}), {}.</source>
+        <translation>{}: {:+.1f}&#xa0;% za rok za vítězi ({:+.1f} až {:+.1f}), {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the winners, {}.</source>
+        <translation>{}: {:+.1f}&#xa0;% za rok za vítězi, {}.</translation>
+    </message>
+    <message>
+        <source>{}st</source>
+        <translation>{}.</translation>
+    </message>
+    <message>
+        <source>{}nd</source>
+        <translation>{}.</translation>
+    </message>
+    <message>
+        <source>{}rd</source>
+        <translation>{}.</translation>
+    </message>
+    <message>
+        <source>{}th</source>
+        <translation>{}.</translation>
+    </message>
+    <message>
+        <source>* the best of its column.</source>
+        <translation>* nejlepší ve sloupci.</translation>
+    </message>
+    <message>
+        <source>Against the winners</source>
+        <translation>Proti vítězům</translation>
+    </message>
+    <message>
+        <source>Against the winners, over {}. Losing: the whole interval is above 0.</source>
+        <translation>Proti vítězům, {}. Ztráta: celý interval leží nad 0.</translation>
+    </message>
+    <message>
+        <source>All runs</source>
+        <translation>Všechny jízdy</translation>
+    </message>
+    <message>
+        <source>Among the others</source>
+        <translation>Mezi ostatními</translation>
+    </message>
+    <message>
+        <source>Behind the winner</source>
+        <translation>Za vítězem</translation>
+    </message>
+    <message>
+        <source>Beside the winner</source>
+        <translation>Vedle vítěze</translation>
+    </message>
+    <message>
+        <source>Crew</source>
+        <translation>Posádka</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Den</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Videa</translation>
+    </message>
+    <message>
+        <source>Gap to the ideal run from section to section: {}</source>
+        <translation>Odstup od ideální jízdy úsek po úseku: {}</translation>
+    </message>
+    <message>
+        <source>Gap to {} from section to section: {}</source>
+        <translation>Odstup za {} úsek po úseku: {}</translation>
+    </message>
+    <message>
+        <source>Gap to {}, in seconds: above the line is behind.</source>
+        <translation>Odstup za {} v sekundách: nad čárou je ztráta.</translation>
+    </message>
+    <message>
+        <source>This run won. Gap to the ideal run, the best of every section, in seconds.</source>
+        <translation>Tato jízda vyhrála. Odstup od ideální jízdy, nejlepšího z každého úseku, v sekundách.</translation>
+    </message>
+    <message>
+        <source>Gate not noted</source>
+        <translation>Branka nepoznamenána</translation>
+    </message>
+    <message>
+        <source>Gate {}</source>
+        <translation>Branka {}</translation>
+    </message>
+    <message>
+        <source>Most lost: {}.</source>
+        <translation>Největší ztráty: {}.</translation>
+    </message>
+    <message>
+        <source>Not ranked, time</source>
+        <translation>Neklasifikováno, čas</translation>
+    </message>
+    <message>
+        <source>Nothing stands out from these runs: no interval lies above 0 as a whole.</source>
+        <translation>Z těchto jízd nic nevyčnívá: žádný interval neleží celý nad 0.</translation>
+    </message>
+    <message>
+        <source>Of what</source>
+        <translation>Čeho</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Ostatní</translation>
+    </message>
+    <message>
+        <source>Penalties on the course</source>
+        <translation>Penalizace na trati</translation>
+    </message>
+    <message>
+        <source>Penalty seconds are in the times.</source>
+        <translation>Trestné sekundy jsou v časech započteny.</translation>
+    </message>
+    <message>
+        <source>Percent behind the winner by day, penalties included; the filled dot is the last run of each race.</source>
+        <translation>Procenta za vítězem podle dnů, včetně penalizací; plný bod je poslední jízda každého závodu.</translation>
+    </message>
+    <message>
+        <source>Percent behind the winner, run by run, {} to {}</source>
+        <translation>Procenta za vítězem, jízda po jízdě, {} až {}</translation>
+    </message>
+    <message>
+        <source>Run {}</source>
+        <translation>Jízda {}</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation>Sezóna</translation>
+    </message>
+    <message>
+        <source>Split table: {}</source>
+        <translation>Tabulka mezičasů: {}</translation>
+    </message>
+    <message>
+        <source>The name of a page ends in .html, and its films lie in the folder named the same without that.</source>
+        <translation>Jméno stránky končí na .html a její videa leží ve složce stejného jména bez této přípony.</translation>
+    </message>
+    <message>
+        <source>Time lost, as noted</source>
+        <translation>Ztracený čas podle poznámek</translation>
+    </message>
+    <message>
+        <source>Times from the start to each split.</source>
+        <translation>Časy od startu ke každému mezičasu.</translation>
+    </message>
+    <message>
+        <source>Times in seconds. Made with Kavela.</source>
+        <translation>Časy v sekundách. Vytvořeno programem Kavela.</translation>
+    </message>
+    <message>
+        <source>To winner</source>
+        <translation>Na vítěze</translation>
+    </message>
+    <message>
+        <source>at {} s of the run</source>
+        <translation>v čase {} s jízdy</translation>
+    </message>
+    <message>
+        <source>eyes: {}</source>
+        <translation>pohled: {}</translation>
+    </message>
+    <message>
+        <source>fastest</source>
+        <translation>nejrychlejší</translation>
+    </message>
+    <message>
+        <source>middle</source>
+        <translation>střední</translation>
+    </message>
+    <message>
+        <source>slowest</source>
+        <translation>nejpomalejší</translation>
+    </message>
+    <message>
+        <source>upstream</source>
+        <translation>protivodná</translation>
+    </message>
+    <message>
+        <source>{} &lt;small&gt;of {}&lt;/small&gt;</source>
+        <translation>{} &lt;small&gt;z {}&lt;/small&gt;</translation>
+    </message>
+    <message>
+        <source>{} = paddling {}, penalties {}, official against video time {}.</source>
+        <translation>{} = jízda {}, penalizace {}, oficiální čas proti času z videa {}.</translation>
+    </message>
+    <message>
+        <source>{} = paddling {}, penalties {}.</source>
+        <translation>{} = jízda {}, penalizace {}.</translation>
+    </message>
+    <message>
+        <source>{} against {}</source>
+        <translation>{} proti: {}</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} gates</source>
+        <translation>
+            <numerusform>{} branka</numerusform>
+            <numerusform>{} branky</numerusform>
+            <numerusform>{} branek</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} more runs are left out.</source>
+        <translation>
+            <numerusform>Vynechána je {} další jízda.</numerusform>
+            <numerusform>Vynechány jsou {} další jízdy.</numerusform>
+            <numerusform>Vynecháno je {} dalších jízd.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} of the runs compared, column by column.</source>
+        <translation>{} ze srovnávaných jízd, sloupec po sloupci.</translation>
+    </message>
+    <message>
+        <source>{} to {}</source>
+        <translation>{} až {}</translation>
+    </message>
+    <message>
+        <source>{}, run {}</source>
+        <translation>{}, jízda {}</translation>
+    </message>
+    <message>
+        <source>{}, {} upstream</source>
+        <translation>{}, z toho protivodných: {}</translation>
+    </message>
+    <message>
+        <source>{}. The film lies beside this page: {}</source>
+        <translation>{}. Video leží vedle této stránky: {}</translation>
+    </message>
+    <message>
+        <source>{}: {} s a run</source>
+        <translation>{}: {} s na jízdu</translation>
+    </message>
+    <message>
+        <source>The film is not there.</source>
+        <translation>Video zde není.</translation>
+    </message>
+    <message>
+        <source>The marks of the run lie behind the end of the film.</source>
+        <translation>Značky jízdy leží za koncem videa.</translation>
+    </message>
+    <message>
+        <source>No run of &quot;{}&quot; is of the phase &quot;{}&quot;.</source>
+        <translation>Žádná jízda, jejíž posádka je „{}“, nepatří do fáze „{}“.</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Nájezd</translation>
+    </message>
+    <message>
+        <source>Downstream gate</source>
+        <translation>Povodná branka</translation>
+    </message>
+    <message>
+        <source>Upstream gate</source>
+        <translation>Protivodná branka</translation>
+    </message>
+    <message>
+        <source>Offset gate</source>
+        <translation>Odskočená branka</translation>
+    </message>
+    <message>
+        <source>Spin gate</source>
+        <translation>Branka s otočkou</translation>
+    </message>
+    <message>
+        <source>Single pole</source>
+        <translation>Jedna tyč</translation>
+    </message>
+    <message>
+        <source>Touch</source>
+        <translation>Ťuk</translation>
+    </message>
+    <message>
+        <source>Missed gate</source>
+        <translation>Neprojetá branka</translation>
+    </message>
+    <message>
+        <source>Head outside the gate</source>
+        <translation>Hlava mimo branku</translation>
+    </message>
+    <message>
+        <source>Wrong direction</source>
+        <translation>Špatný směr</translation>
+    </message>
+    <message>
+        <source>Wrong order</source>
+        <translation>Špatné pořadí</translation>
+    </message>
+    <message>
+        <source>Pole pushed on purpose</source>
+        <translation>Úmyslně odstrčená tyč</translation>
+    </message>
+    <message>
+        <source>Upside down in the gate</source>
+        <translation>Převrácený v brance</translation>
+    </message>
+    <message>
+        <source>Inner pole</source>
+        <translation>Vnitřní tyč</translation>
+    </message>
+    <message>
+        <source>Outer pole</source>
+        <translation>Vnější tyč</translation>
+    </message>
+    <message>
+        <source>Both poles</source>
+        <translation>Obě tyče</translation>
+    </message>
+    <message>
+        <source>Left pole</source>
+        <translation>Levá tyč</translation>
+    </message>
+    <message>
+        <source>Right pole</source>
+        <translation>Pravá tyč</translation>
+    </message>
+    <message>
+        <source>Boat</source>
+        <translation>Loď</translation>
+    </message>
+    <message>
+        <source>Blade</source>
+        <translation>List pádla</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>Tělo</translation>
+    </message>
+    <message>
+        <source>Head</source>
+        <translation>Hlava</translation>
+    </message>
+    <message>
+        <source>Bow</source>
+        <translation>Špička</translation>
+    </message>
+    <message>
+        <source>Stern</source>
+        <translation>Záď</translation>
+    </message>
+    <message>
+        <source>Shaft</source>
+        <translation>Žerď pádla</translation>
+    </message>
+    <message>
+        <source>Arm</source>
+        <translation>Paže</translation>
+    </message>
+    <message>
+        <source>Washed past the gate</source>
+        <translation>Odnesen kolem branky</translation>
+    </message>
+    <message>
+        <source>Left out on purpose</source>
+        <translation>Úmyslně vynecháno</translation>
+    </message>
+    <message>
+        <source>Entering</source>
+        <translation>Při nájezdu</translation>
+    </message>
+    <message>
+        <source>In the gate</source>
+        <translation>V brance</translation>
+    </message>
+    <message>
+        <source>Leaving</source>
+        <translation>Při výjezdu</translation>
+    </message>
+    <message>
+        <source>Before the gate</source>
+        <translation>Před brankou</translation>
+    </message>
+    <message>
+        <source>After the gate</source>
+        <translation>Za brankou</translation>
+    </message>
+    <message>
+        <source>Forwards</source>
+        <translation>Dopředu</translation>
+    </message>
+    <message>
+        <source>Backwards</source>
+        <translation>Dozadu</translation>
+    </message>
+    <message>
+        <source>Sideways</source>
+        <translation>Bokem</translation>
+    </message>
+    <message>
+        <source>Turning left</source>
+        <translation>Zatáčí vlevo</translation>
+    </message>
+    <message>
+        <source>Turning right</source>
+        <translation>Zatáčí vpravo</translation>
+    </message>
+    <message>
+        <source>Drifting left</source>
+        <translation>Sjíždí vlevo</translation>
+    </message>
+    <message>
+        <source>Drifting right</source>
+        <translation>Sjíždí vpravo</translation>
+    </message>
+    <message>
+        <source>Direct line</source>
+        <translation>Přímá stopa</translation>
+    </message>
+    <message>
+        <source>Spin</source>
+        <translation>Otočka</translation>
+    </message>
+    <message>
+        <source>Duffek (bow draw)</source>
+        <translation>Duffek (závěs)</translation>
+    </message>
+    <message>
+        <source>Sweep</source>
+        <translation>Oblouk</translation>
+    </message>
+    <message>
+        <source>Stern pivot</source>
+        <translation>Otočka po zádi</translation>
+    </message>
+    <message>
+        <source>Punt</source>
+        <translation>Odpich</translation>
+    </message>
+    <message>
+        <source>Flat turn</source>
+        <translation>Plochý obrat</translation>
+    </message>
+    <message>
+        <source>Ferry</source>
+        <translation>Traverz</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Zpětný záběr</translation>
+    </message>
+    <message>
+        <source>Surf</source>
+        <translation>Surf</translation>
+    </message>
+    <message>
+        <source>At the gate</source>
+        <translation>Na branku</translation>
+    </message>
+    <message>
+        <source>At the next gate</source>
+        <translation>Na další branku</translation>
+    </message>
+    <message>
+        <source>At the pole</source>
+        <translation>Na tyč</translation>
+    </message>
+    <message>
+        <source>At the water</source>
+        <translation>Na vodu</translation>
+    </message>
+    <message>
+        <source>At the blade</source>
+        <translation>Na list pádla</translation>
+    </message>
+    <message>
+        <source>At the bow</source>
+        <translation>Na špičku</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>Jinam</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Vlevo</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Vpravo</translation>
+    </message>
+    <message>
+        <source>Cross-bow draw</source>
+        <translation>Přehmat</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Přitažení</translation>
+    </message>
+    <message>
+        <source>Stern rudder</source>
+        <translation>Kormidlo vzadu</translation>
+    </message>
+    <message>
+        <source>Brace</source>
+        <translation>Opora</translation>
+    </message>
+    <message>
+        <source>Cross-bow</source>
+        <translation>Přehmat</translation>
+    </message>
+    <message>
+        <source>Single gate</source>
+        <translation>Jednotlivá branka</translation>
+    </message>
+    <message>
+        <source>Offset (stagger)</source>
+        <translation>Odskočené branky</translation>
+    </message>
+    <message>
+        <source>S-turn</source>
+        <translation>Esíčko</translation>
+    </message>
+    <message>
+        <source>Cross (ferry)</source>
+        <translation>Přejezd (traverz)</translation>
+    </message>
+    <message>
+        <source>Upstream</source>
+        <translation>Protivodná</translation>
+    </message>
+    <message>
+        <source>Upstream sprint</source>
+        <translation>Sprint proti vodě</translation>
+    </message>
+    <message>
+        <source>Merano</source>
+        <translation>Merano</translation>
+    </message>
+    <message>
+        <source>Downstream to upstream</source>
+        <translation>Z povodné do protivodné</translation>
+    </message>
+    <message>
+        <source>Upstream to downstream</source>
+        <translation>Z protivodné do povodné</translation>
+    </message>
+    <message>
+        <source>Upstream to upstream</source>
+        <translation>Z protivodné do protivodné</translation>
+    </message>
+    <message>
+        <source>Straight gates</source>
+        <translation>Přímé branky</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Finish sprint</source>
+        <translation>Sprint do cíle</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>Příjezd</translation>
+    </message>
+    <message>
+        <source>Between the gates</source>
+        <translation>Mezi brankami</translation>
+    </message>
+    <message>
+        <source>Whole</source>
+        <translation>Celé</translation>
+    </message>
+    <message>
+        <source>Flat water</source>
+        <translation>Klidná voda</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Vlna</translation>
+    </message>
+    <message>
+        <source>Stopper (hole)</source>
+        <translation>Válec</translation>
+    </message>
+    <message>
+        <source>Eddy</source>
+        <translation>Vracák</translation>
+    </message>
+    <message>
+        <source>Eddy line</source>
+        <translation>Rozhraní vracáku</translation>
+    </message>
+    <message>
+        <source>Pourover</source>
+        <translation>Přelitý kámen</translation>
+    </message>
+    <message>
+        <source>Curtain</source>
+        <translation>Clona</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>Stupeň</translation>
+    </message>
+    <message>
+        <source>Boil</source>
+        <translation>Výron</translation>
+    </message>
+    <message>
+        <source>Cushion</source>
+        <translation>Polštář</translation>
+    </message>
+    <message>
+        <source>Wave train</source>
+        <translation>Vlnobití</translation>
+    </message>
+    <message>
+        <source>Fast water</source>
+        <translation>Rychlá voda</translation>
+    </message>
+    <message>
+        <source>Sweep roll</source>
+        <translation>Eskymák obloukem</translation>
+    </message>
+    <message>
+        <source>C-to-C roll</source>
+        <translation>Eskymák C-C</translation>
+    </message>
+    <message>
+        <source>Hand roll</source>
+        <translation>Ruční eskymák</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs left out: penalties not known by gate</source>
+        <translation>
+            <numerusform>{} jízda vynechána: penalizace neznámé podle branek</numerusform>
+            <numerusform>{} jízdy vynechány: penalizace neznámé podle branek</numerusform>
+            <numerusform>{} jízd vynecháno: penalizace neznámé podle branek</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs are left out: their penalties are not known by gate.</source>
+        <translation>
+            <numerusform>Vynechána je {} jízda: její penalizace nejsou známy podle branek.</numerusform>
+            <numerusform>Vynechány jsou {} jízdy: jejich penalizace nejsou známy podle branek.</numerusform>
+            <numerusform>Vynecháno je {} jízd: jejich penalizace nejsou známy podle branek.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(not given)</source>
+        <translation>(neuvedeno)</translation>
+    </message>
+    <message>
+        <source>* touched more than that with 95 % certainty and more</source>
+        <translation>* častější ťuky s jistotou 95&#xa0;% a více</translation>
+    </message>
+    <message>
+        <source>A missed gate also saved paddling, which is not taken back here.</source>
+        <translation>Neprojetá branka také ušetřila čas jízdy, který se zde nevrací.</translation>
+    </message>
+    <message>
+        <source>Gained</source>
+        <translation>Získáno</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>Ztraceno</translation>
+    </message>
+    <message>
+        <source>Missed/run</source>
+        <translation>Neproj./j.</translation>
+    </message>
+    <message>
+        <source>Ranked</source>
+        <translation>Řazeno</translation>
+    </message>
+    <message>
+        <source>Rate %</source>
+        <translation>Podíl %</translation>
+    </message>
+    <message>
+        <source>Risk and speed</source>
+        <translation>Riziko/rychlost</translation>
+    </message>
+    <message>
+        <source>Touches/run</source>
+        <translation>Ťuky/jízda</translation>
+    </message>
+    <message>
+        <source>Ways: chosen against the fastest timed</source>
+        <translation>Varianty: zvolená proti nejrychlejší změřené</translation>
+    </message>
+    <message>
+        <source>between {}</source>
+        <translation>mezi tím {}</translation>
+    </message>
+    <message>
+        <source>fastest third</source>
+        <translation>rychlá třetina</translation>
+    </message>
+    <message>
+        <source>middle third</source>
+        <translation>střední třetina</translation>
+    </message>
+    <message>
+        <source>slowest third</source>
+        <translation>pomalá třetina</translation>
+    </message>
+    <message>
+        <source>in no stretch</source>
+        <translation>v žádném úseku</translation>
+    </message>
+    <message>
+        <source>not finished: {}</source>
+        <translation>nedokončeno: {}</translation>
+    </message>
+    <message>
+        <source>on run {}</source>
+        <translation>proti jízdě {}</translation>
+    </message>
+    <message>
+        <source>on the fastest</source>
+        <translation>proti nejrychlejšímu</translation>
+    </message>
+    <message>
+        <source>on the finalists&apos; median</source>
+        <translation>proti mediánu finalistů</translation>
+    </message>
+    <message>
+        <source>on the ideal run</source>
+        <translation>proti ideální jízdě</translation>
+    </message>
+    <message>
+        <source>on the own fastest other run</source>
+        <translation>proti nejrychlejší jiné vlastní jízdě</translation>
+    </message>
+    <message>
+        <source>on the winner</source>
+        <translation>proti vítězi</translation>
+    </message>
+    <message>
+        <source>penalties {}</source>
+        <translation>penalizace {}</translation>
+    </message>
+    <message>
+        <source>timing {}</source>
+        <translation>měření {}</translation>
+    </message>
+    <message>
+        <source>touch</source>
+        <translation>ťuk</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} penalties cost no place</source>
+        <translation>
+            <numerusform>{} penalizace nestála místo</numerusform>
+            <numerusform>{} penalizace nestály místo</numerusform>
+            <numerusform>{} penalizací nestálo místo</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{}: there is none</source>
+        <translation>{}: není</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no gate number.</source>
+        <translation>„{}“ není číslo branky.</translation>
+    </message>
+    <message>
+        <source>A section up to here was not timed, so this is not the time from the start.</source>
+        <translation>Některý úsek až sem nebyl změřen, proto to není čas od startu.</translation>
+    </message>
+    <message>
+        <source>A time must be above 0. Check the marks of this run.</source>
+        <translation>Čas musí být větší než 0. Zkontrolujte značky této jízdy.</translation>
+    </message>
+    <message>
+        <source>A time of the session is negative or no number.</source>
+        <translation>Některý čas jednotky je záporný nebo není číslo.</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Hotovo</translation>
+    </message>
+    <message>
+        <source>From {:.1f} s to {:.1f} s of the run nothing is recorded.</source>
+        <translation>Od {:.1f} s do {:.1f} s jízdy není nic zaznamenáno.</translation>
+    </message>
+    <message>
+        <source>Gate {} has this penalty already.</source>
+        <translation>Branka {} už tuto penalizaci má.</translation>
+    </message>
+    <message>
+        <source>Gate {} is missing before gate {} in section {}.</source>
+        <translation>Branka {} chybí před brankou {} v úseku {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} is not on a course of {}.</source>
+        <translation>Branka {} není na trati ({}).</translation>
+    </message>
+    <message>
+        <source>Gate {} stands a second time or out of order in section {}.</source>
+        <translation>Branka {} je podruhé nebo mimo pořadí v úseku {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands in no section.</source>
+        <translation>Branka {} není v žádném úseku.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands there twice.</source>
+        <translation>Branka {} je tam dvakrát.</translation>
+    </message>
+    <message>
+        <source>Get ready</source>
+        <translation>Připravte se</translation>
+    </message>
+    <message>
+        <source>It was deleted here and changed there: it is brought again.</source>
+        <translation>Zde smazáno a tam změněno: stáhne se znovu.</translation>
+    </message>
+    <message>
+        <source>It was deleted there and changed here: it is put there again.</source>
+        <translation>Tam smazáno a zde změněno: odešle se tam znovu.</translation>
+    </message>
+    <message>
+        <source>Line {}, {}: there is no run of this crew.</source>
+        <translation>Řádek {}, {}: tato posádka nemá žádnou jízdu.</translation>
+    </message>
+    <message>
+        <source>No motion of the boat is attached to this run.</source>
+        <translation>K této jízdě není připojen žádný pohyb lodi.</translation>
+    </message>
+    <message>
+        <source>No run waiting</source>
+        <translation>Žádná jízda nečeká</translation>
+    </message>
+    <message>
+        <source>No time was taken here.</source>
+        <translation>Zde nebyl změřen žádný čas.</translation>
+    </message>
+    <message>
+        <source>Of the first {:.1f} s of the run nothing is recorded.</source>
+        <translation>Z prvních {:.1f} s jízdy není nic zaznamenáno.</translation>
+    </message>
+    <message>
+        <source>Of the last {:.1f} s of the run nothing is recorded.</source>
+        <translation>Z posledních {:.1f} s jízdy není nic zaznamenáno.</translation>
+    </message>
+    <message>
+        <source>Rest</source>
+        <translation>Odpočinek</translation>
+    </message>
+    <message>
+        <source>Rest between sets</source>
+        <translation>Odpočinek mezi sériemi</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Práce</translation>
+    </message>
+    <message>
+        <source>Somebody changed it on the server meanwhile.</source>
+        <translation>Mezitím to na serveru někdo změnil.</translation>
+    </message>
+    <message>
+        <source>Somebody has locked it on the server.</source>
+        <translation>Někdo to na serveru zamkl.</translation>
+    </message>
+    <message>
+        <source>Start and end of the stretch are not both marked in the run of {}.</source>
+        <translation>Začátek a konec části nejsou oba označeny v jízdě ({}).</translation>
+    </message>
+    <message>
+        <source>Start and end of the stretch are not both marked in this run.</source>
+        <translation>Začátek a konec části nejsou v této jízdě oba označeny.</translation>
+    </message>
+    <message>
+        <source>The end of the stretch is not marked after its start in the run of {}.</source>
+        <translation>Konec části není označen za jejím začátkem v jízdě ({}).</translation>
+    </message>
+    <message>
+        <source>The end of the stretch is not marked after its start in this run.</source>
+        <translation>Konec části není v této jízdě označen za jejím začátkem.</translation>
+    </message>
+    <message>
+        <source>The answer of the server is longer than it can be.</source>
+        <translation>Odpověď serveru je delší, než může být.</translation>
+    </message>
+    <message>
+        <source>The attached motion is not as long as the run, so that its moments cannot be told.</source>
+        <translation>Připojený pohyb není stejně dlouhý jako jízda, takže jeho okamžiky nelze určit.</translation>
+    </message>
+    <message>
+        <source>The certificate of the server is not trusted, so that nothing was sent. It was issued by “{}”: {}.</source>
+        <translation>Certifikátu serveru se nedá věřit, proto nebylo nic odesláno. Vydal ho „{}“: {}.</translation>
+    </message>
+    <message>
+        <source>The connection broke off.</source>
+        <translation>Spojení se přerušilo.</translation>
+    </message>
+    <message>
+        <source>The exit is marked before the entrance.</source>
+        <translation>Výjezd je označen před nájezdem.</translation>
+    </message>
+    <message>
+        <source>The exit is marked before the middle.</source>
+        <translation>Výjezd je označen před středem.</translation>
+    </message>
+    <message>
+        <source>The middle is marked before the entrance.</source>
+        <translation>Střed je označen před nájezdem.</translation>
+    </message>
+    <message>
+        <source>The film lies on {}, which is not ticked.</source>
+        <translation>Video leží na {}, což není zaškrtnuto.</translation>
+    </message>
+    <message>
+        <source>The folder above is not there on the server.</source>
+        <translation>Nadřazená složka na serveru není.</translation>
+    </message>
+    <message>
+        <source>The number of sections is {}, but that of splits is {}.</source>
+        <translation>Počet úseků je {}, ale mezičasů je {}.</translation>
+    </message>
+    <message>
+        <source>The recording does not reach into this run.</source>
+        <translation>Záznam do této jízdy nezasahuje.</translation>
+    </message>
+    <message>
+        <source>The recording has {} further holes in this run.</source>
+        <translation>Záznam má v této jízdě další mezery: {}.</translation>
+    </message>
+    <message>
+        <source>The run has no times that the recording could be laid on.</source>
+        <translation>Jízda nemá časy, ke kterým by se záznam dal přiložit.</translation>
+    </message>
+    <message>
+        <source>The section before was not timed, so this time covers both.</source>
+        <translation>Předchozí úsek nebyl změřen, proto tento čas zahrnuje oba.</translation>
+    </message>
+    <message>
+        <source>The server answered with status {}.</source>
+        <translation>Server odpověděl stavem {}.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached safely.</source>
+        <translation>Server není bezpečně dostupný.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached.</source>
+        <translation>Server není dostupný.</translation>
+    </message>
+    <message>
+        <source>The server does not accept the user name or the password.</source>
+        <translation>Server nepřijímá uživatelské jméno nebo heslo.</translation>
+    </message>
+    <message>
+        <source>The server does not allow this, or not to this user.</source>
+        <translation>Server to nedovoluje, nebo ne tomuto uživateli.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Server neodpovídá.</translation>
+    </message>
+    <message>
+        <source>The server fell silent.</source>
+        <translation>Server se odmlčel.</translation>
+    </message>
+    <message>
+        <source>The server has no such file or folder.</source>
+        <translation>Server takový soubor ani složku nemá.</translation>
+    </message>
+    <message>
+        <source>The server is full, or your share of it.</source>
+        <translation>Server je plný, nebo je plný váš podíl.</translation>
+    </message>
+    <message>
+        <source>The server leads to another one, {}, which is not followed.</source>
+        <translation>Server odkazuje na jiný, {}, na který se nepřechází.</translation>
+    </message>
+    <message>
+        <source>The server takes no file of this size.</source>
+        <translation>Server soubor této velikosti nepřijme.</translation>
+    </message>
+    <message>
+        <source>The server was not found. Is the computer online?</source>
+        <translation>Server nebyl nalezen. Je počítač připojen?</translation>
+    </message>
+    <message>
+        <source>The session has more sets or repetitions than can be timed.</source>
+        <translation>Jednotka má víc sérií nebo opakování, než lze měřit.</translation>
+    </message>
+    <message>
+        <source>The session needs a work time.</source>
+        <translation>Jednotka potřebuje čas práce.</translation>
+    </message>
+    <message>
+        <source>The session needs at least one set and one repetition.</source>
+        <translation>Jednotka potřebuje aspoň jednu sérii a jedno opakování.</translation>
+    </message>
+    <message>
+        <source>The session takes longer than a day.</source>
+        <translation>Jednotka trvá déle než den.</translation>
+    </message>
+    <message>
+        <source>This frame lies after {} at {}.</source>
+        <translation>Tento snímek leží za: {} v čase {}.</translation>
+    </message>
+    <message>
+        <source>This frame lies before {} at {}.</source>
+        <translation>Tento snímek leží před: {} v čase {}.</translation>
+    </message>
+    <message>
+        <source>This run was not timed to the end, so this is not the time of the whole course.</source>
+        <translation>Tato jízda nebyla změřena do konce, proto to není čas celé trati.</translation>
+    </message>
+    <message>
+        <source>Where they differ, both stay.</source>
+        <translation>Kde se liší, zůstanou oba.</translation>
+    </message>
+    <message>
+        <source>a byte is no UTF-8 text</source>
+        <translation>bajt není text UTF-8</translation>
+    </message>
+    <message>
+        <source>a colon is due</source>
+        <translation>chybí dvojtečka</translation>
+    </message>
+    <message>
+        <source>a comma or ] is due</source>
+        <translation>chybí čárka nebo ]</translation>
+    </message>
+    <message>
+        <source>a comma or } is due</source>
+        <translation>chybí čárka nebo }</translation>
+    </message>
+    <message>
+        <source>a digit is due</source>
+        <translation>chybí číslice</translation>
+    </message>
+    <message>
+        <source>a key is due</source>
+        <translation>chybí klíč</translation>
+    </message>
+    <message>
+        <source>a micro split</source>
+        <translation>mikromezičas</translation>
+    </message>
+    <message>
+        <source>a number is out of range</source>
+        <translation>číslo je mimo rozsah</translation>
+    </message>
+    <message>
+        <source>a stroke of this hand</source>
+        <translation>záběr této ruky</translation>
+    </message>
+    <message>
+        <source>a text holds a control character</source>
+        <translation>text obsahuje řídicí znak</translation>
+    </message>
+    <message>
+        <source>a text holds a malformed escape</source>
+        <translation>text obsahuje chybnou escape sekvenci</translation>
+    </message>
+    <message>
+        <source>a value is due</source>
+        <translation>chybí hodnota</translation>
+    </message>
+    <message>
+        <source>an unknown issuer</source>
+        <translation>neznámý vydavatel</translation>
+    </message>
+    <message>
+        <source>bib</source>
+        <translation>startovní číslo</translation>
+    </message>
+    <message>
+        <source>five</source>
+        <translation>pět</translation>
+    </message>
+    <message>
+        <source>six</source>
+        <translation>šest</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>chybí oprávnění</translation>
+    </message>
+    <message>
+        <source>not JSON, byte {}: {}</source>
+        <translation>není JSON, bajt {}: {}</translation>
+    </message>
+    <message>
+        <source>not JSON, or cut off</source>
+        <translation>není JSON, nebo je useknutý</translation>
+    </message>
+    <message>
+        <source>not JSON: a number is malformed or out of range</source>
+        <translation>není JSON: číslo je chybné nebo mimo rozsah</translation>
+    </message>
+    <message>
+        <source>not JSON: a text holds a control character</source>
+        <translation>není JSON: text obsahuje řídicí znak</translation>
+    </message>
+    <message>
+        <source>not JSON: a text holds a malformed escape</source>
+        <translation>není JSON: text obsahuje chybnou escape sekvenci</translation>
+    </message>
+    <message>
+        <source>not JSON: a text is not closed (the file may be cut off)</source>
+        <translation>není JSON: text není uzavřen (soubor je možná useknutý)</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>pozice</translation>
+    </message>
+    <message>
+        <source>something stands behind the document</source>
+        <translation>za dokumentem ještě něco je</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>disk je jen pro čtení</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>disk je plný</translation>
+    </message>
+    <message>
+        <source>the document is nested too deeply</source>
+        <translation>dokument je příliš vnořený</translation>
+    </message>
+    <message>
+        <source>the document is too large for the memory</source>
+        <translation>dokument je pro paměť příliš velký</translation>
+    </message>
+    <message>
+        <source>the end of the stretch</source>
+        <translation>konec části</translation>
+    </message>
+    <message>
+        <source>the file became shorter while it was read</source>
+        <translation>soubor se během čtení zkrátil</translation>
+    </message>
+    <message>
+        <source>the file holds nothing but blanks</source>
+        <translation>soubor obsahuje jen mezery</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>soubor je prázdný</translation>
+    </message>
+    <message>
+        <source>the file is no text; save the list as text (CSV) first</source>
+        <translation>soubor není text; uložte seznam nejdřív jako text (CSV)</translation>
+    </message>
+    <message>
+        <source>the file is not UTF-8 text</source>
+        <translation>soubor není text UTF-8</translation>
+    </message>
+    <message>
+        <source>the file is too large for a document (over 4 GB)</source>
+        <translation>soubor je pro dokument příliš velký (přes 4 GB)</translation>
+    </message>
+    <message>
+        <source>the file is too large for a list (over 64 MB)</source>
+        <translation>soubor je pro seznam příliš velký (přes 64 MB)</translation>
+    </message>
+    <message>
+        <source>the penalty {} is below 0</source>
+        <translation>penalizace {} je menší než 0</translation>
+    </message>
+    <message>
+        <source>the penalty {} is over {}</source>
+        <translation>penalizace {} je větší než {}</translation>
+    </message>
+    <message>
+        <source>the position {} is below 0</source>
+        <translation>pozice {} je menší než 0</translation>
+    </message>
+    <message>
+        <source>the start</source>
+        <translation>start</translation>
+    </message>
+    <message>
+        <source>the start of the stretch</source>
+        <translation>začátek části</translation>
+    </message>
+    <message>
+        <source>the tag {}</source>
+        <translation>štítek {}</translation>
+    </message>
+    <message>
+        <source>the text ends too early (the file may be cut off)</source>
+        <translation>text končí příliš brzy (soubor je možná useknutý)</translation>
+    </message>
+    <message>
+        <source>the text is not valid UTF-8</source>
+        <translation>text není platné UTF-8</translation>
+    </message>
+    <message>
+        <source>the time {} is an hour or more</source>
+        <translation>čas {} je hodina nebo víc</translation>
+    </message>
+    <message>
+        <source>the time {} is below 0</source>
+        <translation>čas {} je menší než 0</translation>
+    </message>
+    <message>
+        <source>the {} &quot;{}&quot; is no number of seconds</source>
+        <translation>{} „{}“: není počet sekund</translation>
+    </message>
+    <message>
+        <source>the {} &quot;{}&quot; is no whole number</source>
+        <translation>{} „{}“: není celé číslo</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>takový soubor není</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a file</source>
+        <translation>to je složka, ne soubor</translation>
+    </message>
+    <message>
+        <source>this is no JSON object: it does not begin with {</source>
+        <translation>to není objekt JSON: nezačíná znakem {</translation>
+    </message>
+    <message>
+        <source>this is not an ordinary file</source>
+        <translation>to není obyčejný soubor</translation>
+    </message>
+    <message>
+        <source>this moment</source>
+        <translation>tento okamžik</translation>
+    </message>
+    <message>
+        <source>too many symbolic links</source>
+        <translation>příliš mnoho symbolických odkazů</translation>
+    </message>
+    <message>
+        <source>{0}: has the time of {1} (bibs {2} and {3}), and {1} has this one&apos;s. Exchange the two crews?</source>
+        <translation>{0}: má čas, který patří: {1} (startovní čísla {2} a {3}), a naopak ({1}). Vyměnit obě posádky?</translation>
+    </message>
+    <message>
+        <source>{0}: has the time of {1}, and {1} has this one&apos;s. Exchange the two crews?</source>
+        <translation>{0}: má čas, který patří: {1}, a naopak ({1}). Vyměnit obě posádky?</translation>
+    </message>
+    <message>
+        <source>{0}: the list says {1}, ours is {2}. Take {1} over?</source>
+        <translation>{0}: seznam říká {1}, náš čas je {2}. Převzít {1}?</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} fields</source>
+        <translation>
+            <numerusform>{} pole</numerusform>
+            <numerusform>{} pole</numerusform>
+            <numerusform>{} polí</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} is marked on this frame already.</source>
+        <translation>{}: na tomto snímku už je označeno.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs waiting</source>
+        <translation>
+            <numerusform>{} jízda čeká</numerusform>
+            <numerusform>{} jízdy čekají</numerusform>
+            <numerusform>{} jízd čeká</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} where {} are needed</source>
+        <translation>{}, kde je potřeba {}</translation>
+    </message>
+    <message>
+        <source>{}, the next starts in {}</source>
+        <translation>{}, další startuje za {}</translation>
+    </message>
+    <message>
+        <source>{}: is not in the list.</source>
+        <translation>{}: není v seznamu.</translation>
+    </message>
+    <message>
+        <source>{}: the list has {} s of penalties, ours has {} s. Take the official result over?</source>
+        <translation>{}: seznam má {} s penalizace, náš {} s. Převzít oficiální výsledek?</translation>
+    </message>
+    <message>
+        <source>{}: the list has {}, the film no time to the end. Take the official time over?</source>
+        <translation>{}: seznam má {}, video žádný čas do konce. Převzít oficiální čas?</translation>
+    </message>
+    <message>
+        <source>{}: the list has {}, the film {}, {} s apart. Take the official time over?</source>
+        <translation>{}: seznam má {}, video {}, rozdíl {} s. Převzít oficiální čas?</translation>
+    </message>
+    <message>
+        <source>{}: the list says {}, ours is {}.</source>
+        <translation>{}: seznam říká {}, náš čas je {}.</translation>
+    </message>
+    <message>
+        <source>A difference needs two columns, as in difference:Run 2,Run 1.</source>
+        <translation>Rozdíl potřebuje dva sloupce, jako v difference:Run 2,Run 1.</translation>
+    </message>
+    <message>
+        <source>A text has no sheet &quot;{}&quot;.</source>
+        <translation>Text nemá list „{}“.</translation>
+    </message>
+    <message>
+        <source>A {} is of one column, not of {}.</source>
+        <translation>{}: z jednoho sloupce, ne z {}.</translation>
+    </message>
+    <message>
+        <source>A {} is of two columns, not of {}.</source>
+        <translation>{}: ze dvou sloupců, ne z {}.</translation>
+    </message>
+    <message>
+        <source>No column holds times; name the one to reckon with.</source>
+        <translation>Žádný sloupec neobsahuje časy; uveďte, se kterým počítat.</translation>
+    </message>
+    <message>
+        <source>No column holds times; name those to add, as in total:Time,Pen.</source>
+        <translation>Žádný sloupec neobsahuje časy; uveďte, které sečíst, jako v total:Time,Pen.</translation>
+    </message>
+    <message>
+        <source>No list is open.</source>
+        <translation>Není otevřen žádný seznam.</translation>
+    </message>
+    <message>
+        <source>Not drawn: %1</source>
+        <translation>Nenakresleno: %1</translation>
+    </message>
+    <message>
+        <source>Sections recorded in part: {}.</source>
+        <translation>Částečně zaznamenané úseky: {}.</translation>
+    </message>
+    <message>
+        <source>Sections without strokes: {}.</source>
+        <translation>Úseky bez záběrů: {}.</translation>
+    </message>
+    <message>
+        <source>The column &quot;{}&quot; has no numbers to reckon with: it is {}.</source>
+        <translation>Sloupec „{}“ nemá čísla k počítání: {}.</translation>
+    </message>
+    <message>
+        <source>The column &quot;{}&quot; has {} values: too many for columns of a pivot.</source>
+        <translation>Sloupec „{}“ má hodnot {}: na sloupce kontingenční tabulky je to příliš.</translation>
+    </message>
+    <message>
+        <source>The file is packed, but holds no spreadsheet (.xlsx or .ods).</source>
+        <translation>Soubor je zabalený, ale neobsahuje tabulku (.xlsx ani .ods).</translation>
+    </message>
+    <message>
+        <source>The list needs a column with the title Name, Athlete or Crew.</source>
+        <translation>Seznam potřebuje sloupec s nadpisem Name, Athlete nebo Crew.</translation>
+    </message>
+    <message>
+        <source>The list needs a column with the title Time, or Total and Penalty.</source>
+        <translation>Seznam potřebuje sloupec s nadpisem Time, nebo Total a Penalty.</translation>
+    </message>
+    <message>
+        <source>The picture has {} MB. Up to 40 MB can be read; save it smaller first.</source>
+        <translation>Obrázek má {} MB. Přečíst lze nejvýše 40 MB; uložte ho nejdřív menší.</translation>
+    </message>
+    <message>
+        <source>The picture is far too long for a course.</source>
+        <translation>Obrázek je na trať příliš protáhlý.</translation>
+    </message>
+    <message>
+        <source>The race carries no results list. Open the list itself; &quot;Keep with the race&quot; puts it there.</source>
+        <translation>Závod nenese žádnou výsledkovou listinu. Otevřete přímo listinu; „Uchovat u závodu“ ji tam uloží.</translation>
+    </message>
+    <message>
+        <source>The report could not be painted.</source>
+        <translation>Zprávu se nepodařilo vykreslit.</translation>
+    </message>
+    <message>
+        <source>The sheet &quot;{}&quot; has merged cells: their value stands in each of their lines.</source>
+        <translation>List „{}“ má sloučené buňky: jejich hodnota je v každém jejich řádku.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: its part {} cannot be read.</source>
+        <translation>Tabulka je poškozená: její část {} nelze přečíst.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: its part {} cannot be unpacked.</source>
+        <translation>Tabulka je poškozená: její část {} nelze rozbalit.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: {}.</source>
+        <translation>Tabulka je poškozená: {}.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is protected by a password. Save it without one and open it again.</source>
+        <translation>Tabulka je chráněna heslem. Uložte ji bez něj a otevřete znovu.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is too large: unpacked it is over 128 MB.</source>
+        <translation>Tabulka je příliš velká: rozbalená má přes 128 MB.</translation>
+    </message>
+    <message>
+        <source>The text is no UTF-8 and was read as Latin-1; look at the letters with accents.</source>
+        <translation>Text není UTF-8 a byl přečten jako Latin-1; zkontrolujte písmena s diakritikou.</translation>
+    </message>
+    <message>
+        <source>There are several sheets; choose one of {}.</source>
+        <translation>Listů je několik; vyberte jeden z {}.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;{}&quot;; there is none.</source>
+        <translation>Sloupec „{}“ není; není žádný.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;{}&quot;; there is {}.</source>
+        <translation>Sloupec „{}“ není; je tu {}.</translation>
+    </message>
+    <message>
+        <source>There is no sheet &quot;{}&quot;; there is {}.</source>
+        <translation>List „{}“ není; je tu {}.</translation>
+    </message>
+    <message>
+        <source>There is nothing in it.</source>
+        <translation>Nic v něm není.</translation>
+    </message>
+    <message>
+        <source>This is a PDF, which has no columns to read; open it in a viewer.</source>
+        <translation>To je PDF, které nemá sloupce ke čtení; otevřete ho v prohlížeči.</translation>
+    </message>
+    <message>
+        <source>This is a spreadsheet with a password or of the old kind (.xls). Save it without a password as .xlsx, .ods or text (CSV).</source>
+        <translation>To je tabulka s heslem nebo starého druhu (.xls). Uložte ji bez hesla jako .xlsx, .ods nebo text (CSV).</translation>
+    </message>
+    <message>
+        <source>This is neither text nor a spreadsheet (.xlsx, .ods).</source>
+        <translation>To není text ani tabulka (.xlsx, .ods).</translation>
+    </message>
+    <message>
+        <source>This is no picture that can be read. Take a PNG or JPEG file.</source>
+        <translation>To není čitelný obrázek. Použijte soubor PNG nebo JPEG.</translation>
+    </message>
+    <message>
+        <source>a time or a penalty is below 0</source>
+        <translation>čas nebo penalizace je menší než 0</translation>
+    </message>
+    <message>
+        <source>gate %1: %2</source>
+        <translation>branka %1: %2</translation>
+    </message>
+    <message>
+        <source>is not in the team</source>
+        <translation>není v týmu</translation>
+    </message>
+    <message>
+        <source>it could not be read</source>
+        <translation>nelze přečíst</translation>
+    </message>
+    <message>
+        <source>missed gate</source>
+        <translation>neprojetá branka</translation>
+    </message>
+    <message>
+        <source>no category of the team is called &quot;{}&quot;</source>
+        <translation>žádná kategorie týmu se nejmenuje „{}“</translation>
+    </message>
+    <message>
+        <source>no phase of the team is called &quot;{}&quot;</source>
+        <translation>žádná fáze týmu se nejmenuje „{}“</translation>
+    </message>
+    <message>
+        <source>no day such as 2026-05-03 or 3.5.2026</source>
+        <translation>není den jako 2026-05-03 nebo 3.5.2026</translation>
+    </message>
+    <message>
+        <source>no font is installed</source>
+        <translation>není nainstalováno žádné písmo</translation>
+    </message>
+    <message>
+        <source>no number</source>
+        <translation>není číslo</translation>
+    </message>
+    <message>
+        <source>no time such as 92.45, 1:32.45 or 92.45 (2)</source>
+        <translation>není čas jako 92.45, 1:32.45 nebo 92.45 (2)</translation>
+    </message>
+    <message>
+        <source>no whole number</source>
+        <translation>není celé číslo</translation>
+    </message>
+    <message>
+        <source>none of DNS, DNF, DSQ and the like</source>
+        <translation>žádné z DNS, DNF, DSQ a podobně</translation>
+    </message>
+    <message>
+        <source>stands above the titles</source>
+        <translation>je nad nadpisy</translation>
+    </message>
+    <message>
+        <source>the line ends here: it has {} of {} fields</source>
+        <translation>řádek zde končí: má {} z {} polí</translation>
+    </message>
+    <message>
+        <source>the line has more fields than there are columns</source>
+        <translation>řádek má víc polí, než je sloupců</translation>
+    </message>
+    <message>
+        <source>the run was not finished</source>
+        <translation>jízda nebyla dokončena</translation>
+    </message>
+    <message>
+        <source>the titles once more</source>
+        <translation>nadpisy ještě jednou</translation>
+    </message>
+    <message>
+        <source>touches and missed gates of %1 runs</source>
+        <translation>ťuky a neprojeté branky, jízd: %1</translation>
+    </message>
+    <message>
+        <source>{}: no run has a film</source>
+        <translation>{}: žádná jízda nemá video</translation>
+    </message>
+    <message>
+        <source>{}: the column is {}</source>
+        <translation>{}: druh sloupce: {}</translation>
+    </message>
+    <message>
+        <source>1 field where a bib and a name are needed</source>
+        <translation>1 pole tam, kde je potřeba startovní číslo a jméno</translation>
+    </message>
+    <message>
+        <source>A bracket { is not closed.</source>
+        <translation>Závorka { není uzavřena.</translation>
+    </message>
+    <message>
+        <source>A computer with Windows cannot take this name.</source>
+        <translation>Počítač s Windows toto jméno nepřijme.</translation>
+    </message>
+    <message>
+        <source>A heat has one to four boats.</source>
+        <translation>Rozjížďka má jednu až čtyři lodě.</translation>
+    </message>
+    <message>
+        <source>An unnamed boat is not in this heat.</source>
+        <translation>Nepojmenovaná loď v této rozjížďce není.</translation>
+    </message>
+    <message>
+        <source>Both are kept: the one of this computer is “{}” now.</source>
+        <translation>Zůstanou oba: ten z tohoto počítače je teď „{}“.</translation>
+    </message>
+    <message>
+        <source>Both sides have the same.</source>
+        <translation>Obě strany mají totéž.</translation>
+    </message>
+    <message>
+        <source>Gate {}: it is not on the cross course.</source>
+        <translation>Branka {}: není na trati crossu.</translation>
+    </message>
+    <message>
+        <source>Gate {}: {}</source>
+        <translation>Branka {}: {}</translation>
+    </message>
+    <message>
+        <source>It could not be given another name. Compare again.</source>
+        <translation>Nepodařilo se to přejmenovat. Porovnejte znovu.</translation>
+    </message>
+    <message>
+        <source>It is here again. Compare again.</source>
+        <translation>Zase je zde. Porovnejte znovu.</translation>
+    </message>
+    <message>
+        <source>It is not here any more.</source>
+        <translation>Už zde není.</translation>
+    </message>
+    <message>
+        <source>It is not on the server any more. Compare again.</source>
+        <translation>Na serveru už není. Porovnejte znovu.</translation>
+    </message>
+    <message>
+        <source>It is not on the server yet: {}</source>
+        <translation>Na serveru ještě není: {}</translation>
+    </message>
+    <message>
+        <source>It is on the server again. Compare again.</source>
+        <translation>Na serveru zase je. Porovnejte znovu.</translation>
+    </message>
+    <message>
+        <source>It was changed here meanwhile. Compare again.</source>
+        <translation>Mezitím se to zde změnilo. Porovnejte znovu.</translation>
+    </message>
+    <message>
+        <source>It was changed on the server meanwhile. Compare again.</source>
+        <translation>Mezitím se to na serveru změnilo. Porovnejte znovu.</translation>
+    </message>
+    <message>
+        <source>It was changed while it was sent. Compare again.</source>
+        <translation>Během odesílání se to změnilo. Porovnejte znovu.</translation>
+    </message>
+    <message>
+        <source>Its name has control characters.</source>
+        <translation>Jeho jméno má řídicí znaky.</translation>
+    </message>
+    <message>
+        <source>Its name is no text.</source>
+        <translation>Jeho jméno není text.</translation>
+    </message>
+    <message>
+        <source>Its name is too long.</source>
+        <translation>Jeho jméno je příliš dlouhé.</translation>
+    </message>
+    <message>
+        <source>Its name leads out of the folder.</source>
+        <translation>Jeho jméno vede mimo složku.</translation>
+    </message>
+    <message>
+        <source>No mark tells yet how this camera&apos;s film lies beside the run&apos;s first one: mark one moment on both in split taking.</source>
+        <translation>Žádná značka zatím neříká, jak leží video této kamery vedle prvního videa jízdy: označte jeden okamžik na obou v měření mezičasů.</translation>
+    </message>
+    <message>
+        <source>This is a fixed camera beside the run&apos;s own film: synchronise the two in split taking first.</source>
+        <translation>To je pevná kamera vedle vlastního videa jízdy: nejdřív obě sladěte v měření mezičasů.</translation>
+    </message>
+    <message>
+        <source>The course has {}, and this line is for split {}.</source>
+        <translation>Trať má {} a tato čára je pro mezičas {}.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} splits</source>
+        <translation>
+            <numerusform>{} mezičas</numerusform>
+            <numerusform>{} mezičasy</numerusform>
+            <numerusform>{} mezičasů</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file that came has gone.</source>
+        <translation>Soubor, který přišel, zmizel.</translation>
+    </message>
+    <message>
+        <source>The file that came is not what its checksum says.</source>
+        <translation>Soubor, který přišel, neodpovídá kontrolnímu součtu.</translation>
+    </message>
+    <message>
+        <source>The pattern holds no bracket such as {name}.</source>
+        <translation>Vzor neobsahuje žádnou závorku jako {name}.</translation>
+    </message>
+    <message>
+        <source>The same bracket stands twice.</source>
+        <translation>Stejná závorka je tam dvakrát.</translation>
+    </message>
+    <message>
+        <source>Two brackets stand side by side: nothing tells where one ends.</source>
+        <translation>Dvě závorky stojí vedle sebe: nic neříká, kde jedna končí.</translation>
+    </message>
+    <message>
+        <source>{{{}}} is not known. There are {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} and {{any}}.</source>
+        <translation>{{{}}} není známo. Jsou {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} a {{any}}.</translation>
+    </message>
+    <message>
+        <source>{any} does not say what is to stand there.</source>
+        <translation>{any} neříká, co tam má stát.</translation>
+    </message>
+    <message>
+        <source>The server has kept another length than was sent.</source>
+        <translation>Server uložil jinou délku, než byla odeslána.</translation>
+    </message>
+    <message>
+        <source>The server told another length than it sent.</source>
+        <translation>Server udal jinou délku, než poslal.</translation>
+    </message>
+    <message>
+        <source>The server took the file and does not have it.</source>
+        <translation>Server soubor přijal, a přesto ho nemá.</translation>
+    </message>
+    <message>
+        <source>There are more than four boats in this heat.</source>
+        <translation>V této rozjížďce jsou víc než čtyři lodě.</translation>
+    </message>
+    <message>
+        <source>all gates</source>
+        <translation>všechny</translation>
+    </message>
+    <message>
+        <source>by its name</source>
+        <translation>podle jména</translation>
+    </message>
+    <message>
+        <source>by the order</source>
+        <translation>podle pořadí</translation>
+    </message>
+    <message>
+        <source>the second boat of a long film</source>
+        <translation>druhá loď dlouhého videa</translation>
+    </message>
+    <message>
+        <source>{} s from its start</source>
+        <translation>{} s od startu</translation>
+    </message>
+    <message>
+        <source>{} s from its start, if the camera&apos;s clock is wrong</source>
+        <translation>{} s od startu, pokud jdou hodiny kamery špatně</translation>
+    </message>
+    <message>
+        <source>downstream</source>
+        <translation>povodná</translation>
+    </message>
+    <message>
+        <source>mixed</source>
+        <translation>smíšené</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>neznámé</translation>
+    </message>
+    <message>
+        <source>first third</source>
+        <translation>první třetina</translation>
+    </message>
+    <message>
+        <source>second third</source>
+        <translation>druhá třetina</translation>
+    </message>
+    <message>
+        <source>last third</source>
+        <translation>poslední třetina</translation>
+    </message>
+    <message>
+        <source>no name is known</source>
+        <translation>jméno není známo</translation>
+    </message>
+    <message>
+        <source>no {} is known</source>
+        <translation>není známo: {}</translation>
+    </message>
+    <message>
+        <source>nothing would be left of the name</source>
+        <translation>ze jména by nic nezbylo</translation>
+    </message>
+    <message>
+        <source>the name would be too long</source>
+        <translation>jméno by bylo příliš dlouhé</translation>
+    </message>
+    <message>
+        <source>the bib &quot;{}&quot; is no number above 0</source>
+        <translation>startovní číslo „{}“ není číslo větší než 0</translation>
+    </message>
+    <message>
+        <source>the bib {} is on line {} already</source>
+        <translation>startovní číslo {} už je na řádku {}</translation>
+    </message>
+    <message>
+        <source>the lines before have no start</source>
+        <translation>předchozí řádky nemají start</translation>
+    </message>
+    <message>
+        <source>the start &quot;{}&quot; is neither a time of day such as 10:01:30 nor a number in an order</source>
+        <translation>start „{}“ není čas jako 10:01:30 ani číslo v pořadí</translation>
+    </message>
+    <message>
+        <source>there is no name</source>
+        <translation>chybí jméno</translation>
+    </message>
+    <message>
+        <source>there is no number in the order</source>
+        <translation>chybí číslo v pořadí</translation>
+    </message>
+    <message>
+        <source>there is no start time, which the others have</source>
+        <translation>chybí čas startu, který ostatní mají</translation>
+    </message>
+    <message>
+        <source>{} cannot attack and defend at once.</source>
+        <translation>{} nemůže zároveň útočit a bránit.</translation>
+    </message>
+    <message>
+        <source>{} is already in this heat.</source>
+        <translation>{} už v této rozjížďce je.</translation>
+    </message>
+    <message>
+        <source>{} is not in this heat.</source>
+        <translation>{} v této rozjížďce není.</translation>
+    </message>
+    <message>
+        <source>{} stands twice among the defenders.</source>
+        <translation>{} je mezi obránci dvakrát.</translation>
+    </message>
+    <message>
+        <source>{} stands twice in the heat.</source>
+        <translation>{} je v rozjížďce dvakrát.</translation>
+    </message>
+    <message>
+        <source>{} stands twice in the order.</source>
+        <translation>{} je v pořadí dvakrát.</translation>
+    </message>
+    <message>
+        <source>{} without any detail.</source>
+        <translation>{} bez jakéhokoli detailu.</translation>
+    </message>
+    <message>
+        <source>A brace is opened and not closed: {}</source>
+        <translation>Závorka je otevřena a neuzavřena: {}</translation>
+    </message>
+    <message>
+        <source>Aerial phase</source>
+        <translation>Vzdušná fáze</translation>
+    </message>
+    <message>
+        <source>Water phase</source>
+        <translation>Vodní fáze</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Úhel</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Vzdálenost</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Odpor</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Trvání</translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation>Síla</translation>
+    </message>
+    <message>
+        <source>Hand</source>
+        <translation>Ruka</translation>
+    </message>
+    <message>
+        <source>Heart rate</source>
+        <translation>Tepová frekvence</translation>
+    </message>
+    <message>
+        <source>Impulse</source>
+        <translation>Impulz</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Výkon</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Rychlost</translation>
+    </message>
+    <message>
+        <source>Stroke rate</source>
+        <translation>Frekvence záběrů</translation>
+    </message>
+    <message>
+        <source>Single rate</source>
+        <translation>Frekvence záběru</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segment</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Hodnota</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Klonění</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>Kolébání</translation>
+    </message>
+    <message>
+        <source>Max acceleration</source>
+        <translation>Max. zrychlení</translation>
+    </message>
+    <message>
+        <source>Mean acceleration</source>
+        <translation>Prům. zrychlení</translation>
+    </message>
+    <message>
+        <source>Mean deceleration</source>
+        <translation>Prům. zpomalení</translation>
+    </message>
+    <message>
+        <source>Mean rotation</source>
+        <translation>Prům. otáčení</translation>
+    </message>
+    <message>
+        <source>Peak rotation</source>
+        <translation>Max. otáčení</translation>
+    </message>
+    <message>
+        <source>Mean push out</source>
+        <translation>Prům. vynášení</translation>
+    </message>
+    <message>
+        <source>Peak push out</source>
+        <translation>Max. vynášení</translation>
+    </message>
+    <message>
+        <source>Metres per stroke</source>
+        <translation>Metry na záběr</translation>
+    </message>
+    <message>
+        <source>Is in the folder.</source>
+        <translation>Je ve složce.</translation>
+    </message>
+    <message>
+        <source>It is a file. A folder is shared.</source>
+        <translation>To je soubor. Sdílí se složka.</translation>
+    </message>
+    <message>
+        <source>It is a link.</source>
+        <translation>To je odkaz.</translation>
+    </message>
+    <message>
+        <source>It lies too deep.</source>
+        <translation>Leží příliš hluboko.</translation>
+    </message>
+    <message>
+        <source>Lies on {}, which is not ticked.</source>
+        <translation>Leží na {}, což není zaškrtnuto.</translation>
+    </message>
+    <message>
+        <source>May also be bib {}.</source>
+        <translation>Může to být i startovní číslo {}.</translation>
+    </message>
+    <message>
+        <source>Only https:// keeps the password and the files from other readers.</source>
+        <translation>Jen https:// ochrání heslo a soubory před jinými čtenáři.</translation>
+    </message>
+    <message>
+        <source>The address asks for no {bib}, so that every run would have the same film.</source>
+        <translation>Adresa neobsahuje {bib}, takže by každá jízda měla stejné video.</translation>
+    </message>
+    <message>
+        <source>The address is that of a file. A folder is shared.</source>
+        <translation>Adresa patří souboru. Sdílí se složka.</translation>
+    </message>
+    <message>
+        <source>The address makes none for this run.</source>
+        <translation>Adresa pro tuto jízdu žádné nedává.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// and a server, whose name has no braces, user or password.</source>
+        <translation>Adresa musí začínat https:// a serverem, jehož jméno nemá závorky, uživatele ani heslo.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// and hold no user name and password.</source>
+        <translation>Adresa musí začínat https:// a neobsahovat uživatelské jméno ani heslo.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// or http:// and hold no user name and password.</source>
+        <translation>Adresa musí začínat https:// nebo http:// a neobsahovat uživatelské jméno ani heslo.</translation>
+    </message>
+    <message>
+        <source>The list has no film with this bib.</source>
+        <translation>V seznamu není video s tímto startovním číslem.</translation>
+    </message>
+    <message>
+        <source>The list tells no {} of this run.</source>
+        <translation>Seznam u této jízdy neuvádí: {}.</translation>
+    </message>
+    <message>
+        <source>number of the run</source>
+        <translation>číslo jízdy</translation>
+    </message>
+    <message>
+        <source>The pattern of names: {}</source>
+        <translation>Vzor jmen: {}</translation>
+    </message>
+    <message>
+        <source>The server does not speak WebDAV at this address.</source>
+        <translation>Server na této adrese nemluví WebDAV.</translation>
+    </message>
+    <message>
+        <source>The server has too many files to share.</source>
+        <translation>Server má na sdílení příliš mnoho souborů.</translation>
+    </message>
+    <message>
+        <source>The server says that it lies in another folder.</source>
+        <translation>Server říká, že leží v jiné složce.</translation>
+    </message>
+    <message>
+        <source>There are too many files to share.</source>
+        <translation>Souborů ke sdílení je příliš mnoho.</translation>
+    </message>
+    <message>
+        <source>There is no address yet.</source>
+        <translation>Adresa zatím chybí.</translation>
+    </message>
+    <message>
+        <source>There is no folder for the films yet.</source>
+        <translation>Složka pro videa zatím chybí.</translation>
+    </message>
+    <message>
+        <source>There is no start list, results list or split file for the bibs yet.</source>
+        <translation>Zatím chybí startovní listina, výsledková listina nebo soubor mezičasů pro startovní čísla.</translation>
+    </message>
+    <message>
+        <source>Would be more than 20 GB in one go.</source>
+        <translation>Bylo by to víc než 20 GB najednou.</translation>
+    </message>
+    <message>
+        <source>{{{}}} means nothing here: there are {{bib}}, {{category}}, {{phase}} and {{run}}.</source>
+        <translation>{{{}}} zde nic neznamená: jsou {{bib}}, {{category}}, {{phase}} a {{run}}.</translation>
+    </message>
+    <message>
+        <source>Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in --json, as in cell/0/time</source>
+        <translation>Místo toho vysvětlí jedno číslo: cell/ŘÁDEK/SLOUPEC, řádek počítaný od 0 jako v --json, například cell/0/time</translation>
+    </message>
+    <message>
+        <source>No start of {} is known in these races.</source>
+        <translation>V těchto závodech není znám žádný start: {}.</translation>
+    </message>
+    <message>
+        <source>Only races in which this athlete starts, in whichever phase</source>
+        <translation>Jen závody, ve kterých tento závodník startuje, v kterékoli fázi</translation>
+    </message>
+    <message>
+        <source>Only races in which {} starts.</source>
+        <translation>Jen závody, ve kterých startuje {}.</translation>
+    </message>
+    <message>
+        <source>Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in --json, as in cell/0/rank</source>
+        <translation>Místo toho vysvětlí jedno číslo: cell/ŘÁDEK/SLOUPEC, řádek počítaný od 0 jako v --json, například cell/0/rank</translation>
+    </message>
+    <message>
+        <source>line {}</source>
+        <translation>řádek {}</translation>
+    </message>
+    <message>
+        <source>column {}</source>
+        <translation>sloupec {}</translation>
+    </message>
+    <message>
+        <source>An empty penalty adds nothing.</source>
+        <translation>Prázdná penalizace nic nepřidává.</translation>
+    </message>
+    <message>
+        <source>better</source>
+        <translation>lepší</translation>
+    </message>
+    <message>
+        <source>others</source>
+        <translation>ostatní</translation>
+    </message>
+    <message>
+        <source>Only rows with {} in {} are compared.</source>
+        <translation>Porovnávají se jen řádky s hodnotou {} ve sloupci {}.</translation>
+    </message>
+    <message>
+        <source>The highest is the best.</source>
+        <translation>Nejvyšší je nejlepší.</translation>
+    </message>
+    <message>
+        <source>As it stands in the list, read as a number.</source>
+        <translation>Jak je v seznamu, přečteno jako číslo.</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>seznam</translation>
+    </message>
+    <message>
+        <source>The columns of the row added up.</source>
+        <translation>Součet sloupců řádku.</translation>
+    </message>
+    <message>
+        <source>Σ columns</source>
+        <translation>Σ sloupců</translation>
+    </message>
+    <message>
+        <source>The place in the column: one more than are better; times to the hundredth.</source>
+        <translation>Pořadí ve sloupci: o jedno více, než kolik je lepších; časy na setiny.</translation>
+    </message>
+    <message>
+        <source>1 + better</source>
+        <translation>1 + lepší</translation>
+    </message>
+    <message>
+        <source>How far the number is behind the best of the column.</source>
+        <translation>O kolik je číslo za nejlepším ve sloupci.</translation>
+    </message>
+    <message>
+        <source>own − best</source>
+        <translation>vlastní − nejlepší</translation>
+    </message>
+    <message>
+        <source>How many percent the number is behind the best of the column.</source>
+        <translation>O kolik procent je číslo za nejlepším ve sloupci.</translation>
+    </message>
+    <message>
+        <source>How many percent of the others in the column are better.</source>
+        <translation>Kolik procent ostatních ve sloupci je lepších.</translation>
+    </message>
+    <message>
+        <source>100 · better / others</source>
+        <translation>100 · lepší / ostatní</translation>
+    </message>
+    <message>
+        <source>The first column less the second.</source>
+        <translation>První sloupec minus druhý.</translation>
+    </message>
+    <message>
+        <source>first − second</source>
+        <translation>první − druhý</translation>
+    </message>
+    <message>
+        <source>How many rows say something in the column.</source>
+        <translation>Kolik řádků má ve sloupci nějaký údaj.</translation>
+    </message>
+    <message>
+        <source>The numbers of all these rows added up.</source>
+        <translation>Součet čísel všech těchto řádků.</translation>
+    </message>
+    <message>
+        <source>Σ rows</source>
+        <translation>Σ řádků</translation>
+    </message>
+    <message>
+        <source>The mean of the numbers of these rows.</source>
+        <translation>Průměr čísel těchto řádků.</translation>
+    </message>
+    <message>
+        <source>Σ rows / number of rows</source>
+        <translation>Σ řádků / počet řádků</translation>
+    </message>
+    <message>
+        <source>As many of these rows have less as have more.</source>
+        <translation>Stejně mnoho těchto řádků má méně jako více.</translation>
+    </message>
+    <message>
+        <source>median of rows</source>
+        <translation>medián řádků</translation>
+    </message>
+    <message>
+        <source>The least number of these rows.</source>
+        <translation>Nejmenší číslo těchto řádků.</translation>
+    </message>
+    <message>
+        <source>least of rows</source>
+        <translation>nejmenší z řádků</translation>
+    </message>
+    <message>
+        <source>The largest number of these rows.</source>
+        <translation>Největší číslo těchto řádků.</translation>
+    </message>
+    <message>
+        <source>largest of rows</source>
+        <translation>největší z řádků</translation>
+    </message>
+    <message>
+        <source>Of {} rows the first {} are told.</source>
+        <translation>Z {} řádků je uvedeno prvních {}.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -6932,6 +9303,218 @@
         <source>Folders</source>
         <translation>Složky</translation>
     </message>
+    <message>
+        <source>Marked</source>
+        <translation>Označeno</translation>
+    </message>
+    <message>
+        <source>Proposal</source>
+        <translation>Návrh</translation>
+    </message>
+    <message>
+        <source>Confidence</source>
+        <translation>Jistota</translation>
+    </message>
+    <message>
+        <source>%1 s, %2</source>
+        <translation>%1 s, %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>žádný</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Jízda</translation>
+    </message>
+    <message>
+        <source>No boat was found that could be this run: look for it in the slit picture.</source>
+        <translation>Nenašla se žádná loď, která by mohla být touto jízdou: vyhledejte ji ve štěrbinovém obrazu.</translation>
+    </message>
+    <message>
+        <source>This run is marked here.</source>
+        <translation>Tato jízda je zde označena.</translation>
+    </message>
+    <message>
+        <source>Where the run is marked at this line, in seconds of the film</source>
+        <translation>Kde je jízda na této čáře označena, v sekundách filmu</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>vynecháno</translation>
+    </message>
+    <message>
+        <source>→ new here</source>
+        <translation>→ nový zde</translation>
+    </message>
+    <message>
+        <source>← new there</source>
+        <translation>← nový tam</translation>
+    </message>
+    <message>
+        <source>→ changed here</source>
+        <translation>→ změněn zde</translation>
+    </message>
+    <message>
+        <source>← changed there</source>
+        <translation>← změněn tam</translation>
+    </message>
+    <message>
+        <source>↔ on both sides</source>
+        <translation>↔ na obou stranách</translation>
+    </message>
+    <message>
+        <source>✕ deleted here</source>
+        <translation>✕ smazán zde</translation>
+    </message>
+    <message>
+        <source>✕ deleted there</source>
+        <translation>✕ smazán tam</translation>
+    </message>
+    <message>
+        <source>Goes to the server</source>
+        <translation>Odešle se na server</translation>
+    </message>
+    <message>
+        <source>Comes from the server</source>
+        <translation>Stáhne se ze serveru</translation>
+    </message>
+    <message>
+        <source>Goes to the server, in place of what it has</source>
+        <translation>Odešle se na server místo toho, co tam je</translation>
+    </message>
+    <message>
+        <source>Comes from the server, in place of what is here</source>
+        <translation>Stáhne se ze serveru místo toho, co je zde</translation>
+    </message>
+    <message>
+        <source>Is compared; where both differ, both are kept</source>
+        <translation>Porovná se; kde se liší, zůstanou oba</translation>
+    </message>
+    <message>
+        <source>Is deleted on the server where you tick it</source>
+        <translation>Smaže se na serveru, pokud ho zaškrtnete</translation>
+    </message>
+    <message>
+        <source>Is deleted here where you tick it</source>
+        <translation>Smaže se zde, pokud ho zaškrtnete</translation>
+    </message>
+    <message>
+        <source>%1 new here</source>
+        <translation>%1 nových zde</translation>
+    </message>
+    <message>
+        <source>%1 new there</source>
+        <translation>%1 nových tam</translation>
+    </message>
+    <message>
+        <source>%1 changed here</source>
+        <translation>%1 změněných zde</translation>
+    </message>
+    <message>
+        <source>%1 changed there</source>
+        <translation>%1 změněných tam</translation>
+    </message>
+    <message>
+        <source>%1 on both sides</source>
+        <translation>%1 na obou stranách</translation>
+    </message>
+    <message>
+        <source>%1 deleted here</source>
+        <translation>%1 smazaných zde</translation>
+    </message>
+    <message>
+        <source>%1 deleted there</source>
+        <translation>%1 smazaných tam</translation>
+    </message>
+    <message>
+        <source>Both sides are the same</source>
+        <translation>Obě strany jsou stejné</translation>
+    </message>
+    <message>
+        <source>%1 shared</source>
+        <translation>%1 sdílených</translation>
+    </message>
+    <message>
+        <source>%1 kept twice</source>
+        <translation>%1 ponechaných dvakrát</translation>
+    </message>
+    <message>
+        <source>Fastest at %1 s of the film: %2 m/s.</source>
+        <translation>Nejrychleji v čase %1 s filmu: %2 m/s.</translation>
+    </message>
+    <message>
+        <source>Fastest at %1 s of the film: %2 m/s (a scale only: it holds near the two points and along their line).</source>
+        <translation>Nejrychleji v čase %1 s filmu: %2 m/s (jen měřítko: platí poblíž obou bodů a podél jejich spojnice).</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Snímek</translation>
+    </message>
+    <message>
+        <source>Steadied x</source>
+        <translation>Ustálené x</translation>
+    </message>
+    <message>
+        <source>Steadied y</source>
+        <translation>Ustálené y</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>Napříč</translation>
+    </message>
+    <message>
+        <source>Along</source>
+        <translation>Podél</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Rychlost</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Shoda</translation>
+    </message>
+    <message>
+        <source>Film [s]</source>
+        <translation>Film [s]</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>Draw a box round what is to be followed.</source>
+        <translation>Nakreslete rámeček kolem toho, co se má sledovat.</translation>
+    </message>
+    <message>
+        <source>Click known points on the water for metres and speeds: the poles of two gates, or of one for a scale only.</source>
+        <translation>Pro metry a rychlosti klepněte na známé body na vodě: tyče dvou branek, nebo jedné jen pro měřítko.</translation>
+    </message>
+    <message>
+        <source>There is no speed: the path is too short, or the camera&apos;s motion is not known.</source>
+        <translation>Rychlost není: dráha je příliš krátká, nebo není znám pohyb kamery.</translation>
+    </message>
+    <message>
+        <source>Uncertainty of the clicks</source>
+        <translation>Nejistota klepnutí</translation>
+    </message>
+    <message>
+        <source>✓ Done</source>
+        <translation>✓ Hotovo</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>Probíhá…</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::AthleteDialog</name>
@@ -7893,10 +10476,6 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
         <translation>Ve filmu</translation>
     </message>
     <message>
-        <source>Its place in the composed film. Space chooses it or takes it out.</source>
-        <translation>Místo ve složeném filmu. Mezerník ho vybere nebo vyřadí.</translation>
-    </message>
-    <message>
         <source>Film</source>
         <translation>Film</translation>
     </message>
@@ -8031,6 +10610,10 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     <message>
         <source>Shows it twice as large, round that path.</source>
         <translation>Ukáže ho dvakrát větší, kolem této dráhy.</translation>
+    </message>
+    <message>
+        <source>Its place in the composed film. Enter chooses it or takes it out.</source>
+        <translation>Místo ve složeném filmu. Enter ho vybere nebo vyřadí.</translation>
     </message>
 </context>
 <context>
@@ -8683,6 +11266,34 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     <message>
         <source>Leave it</source>
         <translation>Nechat</translation>
+    </message>
+    <message>
+        <source>Drag a part, or one of its points. The poles of a gate turn about each other.</source>
+        <translation>Táhněte část nebo jeden z jejích bodů. Tyče branky se otáčejí kolem sebe.</translation>
+    </message>
+    <message>
+        <source>Click where a gate hangs; hold the button and drag its right pole round.</source>
+        <translation>Klepněte, kde visí branka; podržte tlačítko a otočte její pravou tyč.</translation>
+    </message>
+    <message>
+        <source>Drag from bank to bank where the split is taken.</source>
+        <translation>Táhněte od břehu ke břehu tam, kde se měří mezičas.</translation>
+    </message>
+    <message>
+        <source>Draw along the bank with the button held down.</source>
+        <translation>Kreslete podél břehu s podrženým tlačítkem.</translation>
+    </message>
+    <message>
+        <source>Draw the way of a boat with the button held down, and name it at the right.</source>
+        <translation>S podrženým tlačítkem nakreslete stopu lodi a vpravo ji pojmenujte.</translation>
+    </message>
+    <message>
+        <source>Click where words are to stand.</source>
+        <translation>Klepněte, kde má stát text.</translation>
+    </message>
+    <message>
+        <source>It has %1 MB. Up to 40 MB can be read; save it smaller first.</source>
+        <translation>Má %1 MB. Přečíst lze nejvýše 40 MB; uložte jej nejdřív menší.</translation>
     </message>
 </context>
 <context>
@@ -14398,6 +17009,14 @@ Bez penalizací.</translation>
         <source>Show in &amp;folder</source>
         <translation>Ukázat ve &amp;složce</translation>
     </message>
+    <message>
+        <source>The saved files have no run of this athlete.</source>
+        <translation>Uložené soubory nemají žádnou jízdu tohoto závodníka.</translation>
+    </message>
+    <message>
+        <source>There is no run of a named athlete in the split files that are open.</source>
+        <translation>V otevřených souborech mezičasů není žádná jízda pojmenovaného závodníka.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::PivotDialog</name>
@@ -17171,6 +19790,10 @@ Vyberte soubor.</translation>
         <source>Pa&amp;ge for an athlete…</source>
         <translation>Stránka pro &amp;závodníka…</translation>
     </message>
+    <message>
+        <source>Only the athlete&apos;s &amp;own races</source>
+        <translation>Jen &amp;vlastní závody závodníka</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SeasonHeader</name>
@@ -17189,6 +19812,14 @@ Vyberte soubor.</translation>
     <message>
         <source>&amp;Athlete</source>
         <translation>Záv&amp;odník</translation>
+    </message>
+    <message>
+        <source>Only &amp;own races</source>
+        <translation>Jen &amp;vlastní závody</translation>
+    </message>
+    <message>
+        <source>Only races in which this athlete starts, in whichever phase; on every page</source>
+        <translation>Jen závody, ve kterých tento závodník startuje, v kterékoli fázi; na každé stránce</translation>
     </message>
 </context>
 <context>
@@ -18665,30 +21296,6 @@ Vyberte soubor.</translation>
         <translation>Sdílené složky</translation>
     </message>
     <message>
-        <source>F&amp;older</source>
-        <translation>&amp;Složka</translation>
-    </message>
-    <message>
-        <source>On this computer, with everything below it but hidden files</source>
-        <translation>V tomto počítači, se vším pod ní kromě skrytých souborů</translation>
-    </message>
-    <message>
-        <source>the folder that is shared</source>
-        <translation>sdílená složka</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>&amp;Adresa</translation>
-    </message>
-    <message>
-        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
-        <translation>Složky na serveru WebDAV: Nextcloud, ownCloud, NAS, Apache…</translation>
-    </message>
-    <message>
-        <source>Choose the folder…</source>
-        <translation>Vybrat složku…</translation>
-    </message>
-    <message>
         <source>Compare</source>
         <translation>Porovnat</translation>
     </message>
@@ -18719,14 +21326,6 @@ Vyberte soubor.</translation>
     <message>
         <source>The folder to share</source>
         <translation>Složka ke sdílení</translation>
-    </message>
-    <message>
-        <source>There is no folder to share yet.</source>
-        <translation>Zatím není složka ke sdílení.</translation>
-    </message>
-    <message>
-        <source>“%1” is no folder.</source>
-        <translation>„%1“ není složka.</translation>
     </message>
     <message>
         <source>Both sides are looked at…</source>
@@ -18998,6 +21597,10 @@ a dalších %1</translation>
     <message>
         <source>The lines could not be kept in %1: %2</source>
         <translation>Čáry nelze uchovat v %1: %2</translation>
+    </message>
+    <message>
+        <source>The lines of this film are still being read. Try again in a moment.</source>
+        <translation>Čáry tohoto videa se ještě načítají. Zkuste to za chvíli znovu.</translation>
     </message>
 </context>
 <context>
@@ -19458,6 +22061,14 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <message>
         <source>First steps, three minutes</source>
         <translation>První kroky, tři minuty</translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation>Hotovo: %1</translation>
+    </message>
+    <message>
+        <source>To do: %1</source>
+        <translation>Zbývá: %1</translation>
     </message>
 </context>
 <context>
@@ -20044,6 +22655,14 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
             <numerusform>%n sloupce</numerusform>
             <numerusform>%n sloupců</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Line %1, column %2 of the list says “%3”.</source>
+        <translation>Řádek %1, sloupec %2 seznamu říká „%3“.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the list is no row of this table any more.</source>
+        <translation>Řádek %1 seznamu už není řádkem této tabulky.</translation>
     </message>
 </context>
 <context>

@@ -906,6 +906,41 @@
     </message>
 </context>
 <context>
+    <name>SharePlace</name>
+    <message>
+        <source>Choose the folder…</source>
+        <translation>Ordner wählen…</translation>
+    </message>
+    <message>
+        <source>F&amp;older</source>
+        <translation>&amp;Ordner</translation>
+    </message>
+    <message>
+        <source>On this computer, with everything below it but hidden files</source>
+        <translation>Auf diesem Rechner, mit allem darunter außer verborgenen Dateien</translation>
+    </message>
+    <message>
+        <source>the folder that is shared</source>
+        <translation>der geteilte Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>&amp;Adresse</translation>
+    </message>
+    <message>
+        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
+        <translation>Eines Ordners auf einem WebDAV-Server: Nextcloud, ownCloud, ein NAS, Apache…</translation>
+    </message>
+    <message>
+        <source>There is no folder to share yet.</source>
+        <translation>Noch kein Ordner zum Teilen.</translation>
+    </message>
+    <message>
+        <source>“%1” is no folder.</source>
+        <translation>„%1“ ist kein Ordner.</translation>
+    </message>
+</context>
+<context>
     <name>SlitMarking</name>
     <message>
         <source>The film is not read so far.</source>
@@ -1076,6 +1111,18 @@
     <message>
         <source>Work kept</source>
         <translation>Bewahrte Arbeit</translation>
+    </message>
+    <message>
+        <source>Pattern of the names</source>
+        <translation>Muster der Namen</translation>
+    </message>
+    <message>
+        <source>Names now and then</source>
+        <translation>Namen jetzt und danach</translation>
+    </message>
+    <message>
+        <source>Films being composed</source>
+        <translation>Filme in Arbeit</translation>
     </message>
 </context>
 <context>
@@ -2982,22 +3029,6 @@
         <source>Wilson&apos;s interval, 90 %</source>
         <translation>Wilson-Intervall, 90&#xa0;%</translation>
     </message>
-    <message>
-        <source>{} runs are</source>
-        <translation>{} Läufe</translation>
-    </message>
-    <message>
-        <source>{} left out: {} penalties are not known by gate.</source>
-        <translation>Ausgelassen: {}; Strafen ({}) nicht nach Toren bekannt.</translation>
-    </message>
-    <message>
-        <source> and {} more</source>
-        <translation> und {} weitere</translation>
-    </message>
-    <message>
-        <source>{} {} out: touched more than the {} that all have in common.</source>
-        <translation>{} {} out: mehr Berührungen als die {}, die allen gemeinsam sind.</translation>
-    </message>
     <message numerus="yes">
         <source>{} touches</source>
         <translation>
@@ -3025,47 +3056,16 @@
         <translation>Nichts fällt auf ({}): der höchste Wert, {} ({}), kann Zufall sein.</translation>
     </message>
     <message>
-        <source>Without this {}: {}.</source>
-        <translation>Ohne dies ({}): {}.</translation>
-    </message>
-    <message>
         <source>None of {} cost a place.</source>
         <translation>Keinen Platz kostete: {}.</translation>
-    </message>
-    <message>
-        <source>{} of them</source>
-        <translation>{} davon</translation>
-    </message>
-    <message>
-        <source>Of {} {} cost places, {} a medal.</source>
-        <translation>Von {} kosteten {} Plätze, {} eine Medaille.</translation>
     </message>
     <message>
         <source>None of {} was noted in detail.</source>
         <translation>Nichts im Einzelnen notiert: {}.</translation>
     </message>
-    <message numerus="yes">
-        <source>{} were</source>
-        <translation>
-            <numerusform>{} wurde</numerusform>
-            <numerusform>{} wurden</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Of {} {} noted in detail.</source>
-        <translation>Von {} {} im Einzelnen notiert.</translation>
-    </message>
     <message>
         <source>Too few to tell: no group has {} whole runs.</source>
         <translation>Zu wenige für eine Aussage: keine Gruppe hat {} ganze Läufe.</translation>
-    </message>
-    <message>
-        <source>{} touches a run in {}, all in one third of the field.</source>
-        <translation>{} Berührungen je Lauf bei {}, alle in einem Drittel des Felds.</translation>
-    </message>
-    <message>
-        <source>{:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
-        <translation>{:.2f} Berührungen je Lauf im schnelleren Drittel, {:.2f} im langsameren.</translation>
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run.</source>
@@ -3102,18 +3102,6 @@
     <message>
         <source>trend {:+.1f} % a year: {}</source>
         <translation>Trend {:+.1f}&#xa0;% im Jahr: {}</translation>
-    </message>
-    <message>
-        <source>{}: too few runs to tell a trend behind {}.</source>
-        <translation>{}: zu wenige Läufe für einen Trend gegenüber: {}.</translation>
-    </message>
-    <message>
-        <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
-        <translation>{}: {:+.1f}&#xa0;% im Jahr, Abstand zu: {}{}, {}.</translation>
-    </message>
-    <message>
-        <source>{} of {}&apos;s races is known.</source>
-        <translation>{} in den Rennen von {} bekannt.</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
@@ -3176,14 +3164,6 @@
     <message>
         <source>{:.1f} % would have been a medal in {} of {}</source>
         <translation>{:.1f}&#xa0;% wären eine Medaille gewesen: {} von {}</translation>
-    </message>
-    <message>
-        <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
-        <translation>Von {}, die beide oft genug haben, {} {} zweifelsfrei schneller ({}), {} langsamer.</translation>
-    </message>
-    <message>
-        <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>{}: {}, {} von {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
@@ -5199,6 +5179,2390 @@
         <source>number of notes</source>
         <translation>Anzahl der Notizen</translation>
     </message>
+    <message>
+        <source>whole</source>
+        <translation>ganze Zahl</translation>
+    </message>
+    <message>
+        <source>decimal</source>
+        <translation>Dezimalzahl</translation>
+    </message>
+    <message>
+        <source>status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Add {}</source>
+        <translation>{} hinzufügen</translation>
+    </message>
+    <message>
+        <source>Colour {}</source>
+        <translation>{} färben</translation>
+    </message>
+    <message>
+        <source>First line is a row</source>
+        <translation>Erste Zeile ist eine Datenzeile</translation>
+    </message>
+    <message>
+        <source>First line is titles</source>
+        <translation>Erste Zeile sind Titel</translation>
+    </message>
+    <message>
+        <source>Group by {}</source>
+        <translation>Nach {} gruppieren</translation>
+    </message>
+    <message>
+        <source>Keep {} in {}</source>
+        <translation>{} in {} behalten</translation>
+    </message>
+    <message>
+        <source>Leave out {}</source>
+        <translation>{} weglassen</translation>
+    </message>
+    <message>
+        <source>No colours in {}</source>
+        <translation>Keine Farben in {}</translation>
+    </message>
+    <message>
+        <source>No groups</source>
+        <translation>Keine Gruppen</translation>
+    </message>
+    <message>
+        <source>Pivot of {} by {}</source>
+        <translation>Pivot von {} nach {}</translation>
+    </message>
+    <message>
+        <source>Read {} as {}</source>
+        <translation>{} lesen als {}</translation>
+    </message>
+    <message>
+        <source>Sort by {}</source>
+        <translation>Nach {} sortieren</translation>
+    </message>
+    <message>
+        <source>Sort by {}, downwards</source>
+        <translation>Nach {} sortieren, absteigend</translation>
+    </message>
+    <message>
+        <source>Medals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Am häufigsten Medaillen: {}, {} von {} ({:.0f}–{:.0f}&#xa0;%).</translation>
+    </message>
+    <message>
+        <source>In finals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Am häufigsten in Finals: {}, {} von {} ({:.0f}–{:.0f}&#xa0;%).</translation>
+    </message>
+    <message>
+        <source>In semifinals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Am häufigsten in Halbfinals: {}, {} von {} ({:.0f}–{:.0f}&#xa0;%).</translation>
+    </message>
+    <message>
+        <source>No fastest split of {}&apos;s races is known.</source>
+        <translation>In den Rennen von {} ist keine schnellste Zwischenzeit bekannt.</translation>
+    </message>
+    <message>
+        <source>No winner of {}&apos;s races is known.</source>
+        <translation>In den Rennen von {} ist kein Sieger bekannt.</translation>
+    </message>
+    <message>
+        <source>No penalty of a whole run is known by gate.</source>
+        <translation>Von keinem ganzen Lauf ist eine Strafe nach Toren bekannt.</translation>
+    </message>
+    <message>
+        <source>No race of the team has a result that says so.</source>
+        <translation>Kein Rennen der Mannschaft hat ein Ergebnis, das dies sagt.</translation>
+    </message>
+    <message>
+        <source>No whole run is known by gate.</source>
+        <translation>Kein ganzer Lauf ist nach Toren bekannt.</translation>
+    </message>
+    <message>
+        <source>Nobody&apos;s penalties are known by gate.</source>
+        <translation>Von niemandem sind die Strafen nach Toren bekannt.</translation>
+    </message>
+    <message>
+        <source>Noted in detail: {} of {}. Shares of what was noted, no rates: nobody notes how gates are passed clean.</source>
+        <translation>Im Einzelnen notiert: {} von {}. Anteile am Notierten, keine Quoten: Niemand notiert, wie Tore fehlerfrei durchfahren werden.</translation>
+    </message>
+    <message>
+        <source>Noted in detail: {} of {}. Too few to tell.</source>
+        <translation>Im Einzelnen notiert: {} von {}. Zu wenige für eine Aussage.</translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, beyond doubt faster in the final: {}, slower: {}.</source>
+        <translation>Von {}, die beide oft genug haben, zweifelsfrei schneller im Finale: {}, langsamer: {}.</translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, beyond doubt faster in the second run: {}, slower: {}.</source>
+        <translation>Von {}, die beide oft genug haben, zweifelsfrei schneller im zweiten Lauf: {}, langsamer: {}.</translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, none of them a medal.</source>
+        <translation>Von {} kosteten {} Plätze, keine davon eine Medaille.</translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, {} of them a medal.</source>
+        <translation>Von {} kosteten {} Plätze, {} davon eine Medaille.</translation>
+    </message>
+    <message>
+        <source>The fast touch less: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Die Schnellen berühren weniger: {:.2f} Berührungen je Lauf im schnelleren Drittel, {:.2f} im langsameren.</translation>
+    </message>
+    <message>
+        <source>The fast touch more: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Die Schnellen berühren mehr: {:.2f} Berührungen je Lauf im schnelleren Drittel, {:.2f} im langsameren.</translation>
+    </message>
+    <message>
+        <source>Too few to tell fast from slow: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Zu wenige, um Schnelle von Langsamen zu unterscheiden: {:.2f} Berührungen je Lauf im schnelleren Drittel, {:.2f} im langsameren.</translation>
+    </message>
+    <message>
+        <source>There is no penalty.</source>
+        <translation>Es gibt keine Strafe.</translation>
+    </message>
+    <message>
+        <source>Too few races with both to tell a change.</source>
+        <translation>Zu wenige Rennen mit beiden für eine Veränderung.</translation>
+    </message>
+    <message>
+        <source>Without this missed gate: {}.</source>
+        <translation>Ohne diesen Torfehler: {} Platz.</translation>
+    </message>
+    <message>
+        <source>Without this touch: {}.</source>
+        <translation>Ohne diese Berührung: {} Platz.</translation>
+    </message>
+    <message>
+        <source>category</source>
+        <translation>Kategorie</translation>
+    </message>
+    <message>
+        <source>crew</source>
+        <translation>Besatzung</translation>
+    </message>
+    <message>
+        <source>gate</source>
+        <translation>Tor</translation>
+    </message>
+    <message>
+        <source>hand</source>
+        <translation>Hand</translation>
+    </message>
+    <message>
+        <source>month</source>
+        <translation>Monat</translation>
+    </message>
+    <message>
+        <source>phase</source>
+        <translation>Phase</translation>
+    </message>
+    <message>
+        <source>race</source>
+        <translation>Rennen</translation>
+    </message>
+    <message>
+        <source>section</source>
+        <translation>Abschnitt</translation>
+    </message>
+    <message>
+        <source>tenth of the course</source>
+        <translation>Zehntel der Strecke</translation>
+    </message>
+    <message>
+        <source>type of gate</source>
+        <translation>Art des Tors</translation>
+    </message>
+    <message>
+        <source>nobody came</source>
+        <translation>niemand kam</translation>
+    </message>
+    <message>
+        <source>those without one</source>
+        <translation>die ohne</translation>
+    </message>
+    <message>
+        <source>{:.2f} touches a run in {}, all in one third of the field.</source>
+        <translation>{:.2f} Berührungen je Lauf bei {}, alle in einem Drittel des Felds.</translation>
+    </message>
+    <message>
+        <source>{} and {} more</source>
+        <translation>{} und {} weitere</translation>
+    </message>
+    <message>
+        <source>{} stand out: touched more than the {} that all have in common.</source>
+        <translation>{} fallen auf: mehr Berührungen als die {}, die allen gemeinsam sind.</translation>
+    </message>
+    <message>
+        <source>{} stands out: touched more than the {} that all have in common.</source>
+        <translation>{} fällt auf: mehr Berührungen als die {}, die allen gemeinsam sind.</translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind the fastest splits.</source>
+        <translation>{}: zu wenige Läufe für einen Trend gegenüber den schnellsten Zwischenzeiten.</translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind the winners.</source>
+        <translation>{}: zu wenige Läufe für einen Trend gegenüber den Siegern.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the fastest splits ({:+.1f} to {:+.1f}), {}.</source>
+        <translation>{}: {:+.1f}&#xa0;% im Jahr, Abstand zu den schnellsten Zwischenzeiten ({:+.1f} bis {:+.1f}), {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the fastest splits, {}.</source>
+        <translation>{}: {:+.1f}&#xa0;% im Jahr, Abstand zu den schnellsten Zwischenzeiten, {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the winners ({:+.1f} to {:+.1f}), {}.</source>
+        <translation>{}: {:+.1f}&#xa0;% im Jahr, Abstand zu den Siegern ({:+.1f} bis {:+.1f}), {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the winners, {}.</source>
+        <translation>{}: {:+.1f}&#xa0;% im Jahr, Abstand zu den Siegern, {}.</translation>
+    </message>
+    <message>
+        <source>{}st</source>
+        <translation>{}.</translation>
+    </message>
+    <message>
+        <source>{}nd</source>
+        <translation>{}.</translation>
+    </message>
+    <message>
+        <source>{}rd</source>
+        <translation>{}.</translation>
+    </message>
+    <message>
+        <source>{}th</source>
+        <translation>{}.</translation>
+    </message>
+    <message>
+        <source>* the best of its column.</source>
+        <translation>* das Beste seiner Spalte.</translation>
+    </message>
+    <message>
+        <source>Against the winners</source>
+        <translation>Verglichen mit den Siegern</translation>
+    </message>
+    <message>
+        <source>Against the winners, over {}. Losing: the whole interval is above 0.</source>
+        <translation>Verglichen mit den Siegern, über {}. Verlust: das ganze Intervall liegt über 0.</translation>
+    </message>
+    <message>
+        <source>All runs</source>
+        <translation>Alle Läufe</translation>
+    </message>
+    <message>
+        <source>Among the others</source>
+        <translation>Unter den anderen</translation>
+    </message>
+    <message>
+        <source>Behind the winner</source>
+        <translation>Hinter dem Sieger</translation>
+    </message>
+    <message>
+        <source>Beside the winner</source>
+        <translation>Neben dem Sieger</translation>
+    </message>
+    <message>
+        <source>Crew</source>
+        <translation>Besatzung</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Filme</translation>
+    </message>
+    <message>
+        <source>Gap to the ideal run from section to section: {}</source>
+        <translation>Rückstand auf den Ideallauf von Abschnitt zu Abschnitt: {}</translation>
+    </message>
+    <message>
+        <source>Gap to {} from section to section: {}</source>
+        <translation>Rückstand auf {} von Abschnitt zu Abschnitt: {}</translation>
+    </message>
+    <message>
+        <source>Gap to {}, in seconds: above the line is behind.</source>
+        <translation>Rückstand auf {} in Sekunden: Über der Linie ist hinten.</translation>
+    </message>
+    <message>
+        <source>This run won. Gap to the ideal run, the best of every section, in seconds.</source>
+        <translation>Dieser Lauf hat gewonnen. Rückstand auf den Ideallauf, das Beste jedes Abschnitts, in Sekunden.</translation>
+    </message>
+    <message>
+        <source>Gate not noted</source>
+        <translation>Tor nicht notiert</translation>
+    </message>
+    <message>
+        <source>Gate {}</source>
+        <translation>Tor {}</translation>
+    </message>
+    <message>
+        <source>Most lost: {}.</source>
+        <translation>Am meisten verloren: {}.</translation>
+    </message>
+    <message>
+        <source>Not ranked, time</source>
+        <translation>Nicht gewertet, Zeit</translation>
+    </message>
+    <message>
+        <source>Nothing stands out from these runs: no interval lies above 0 as a whole.</source>
+        <translation>Aus diesen Läufen fällt nichts auf: kein Intervall liegt ganz über 0.</translation>
+    </message>
+    <message>
+        <source>Of what</source>
+        <translation>Wovon</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Übrige</translation>
+    </message>
+    <message>
+        <source>Penalties on the course</source>
+        <translation>Strafen auf der Strecke</translation>
+    </message>
+    <message>
+        <source>Penalty seconds are in the times.</source>
+        <translation>Die Strafsekunden sind in den Zeiten enthalten.</translation>
+    </message>
+    <message>
+        <source>Percent behind the winner by day, penalties included; the filled dot is the last run of each race.</source>
+        <translation>Prozent hinter dem Sieger nach Tagen, mit Strafen; der gefüllte Punkt ist der letzte Lauf jedes Rennens.</translation>
+    </message>
+    <message>
+        <source>Percent behind the winner, run by run, {} to {}</source>
+        <translation>Prozent hinter dem Sieger, Lauf für Lauf, {} bis {}</translation>
+    </message>
+    <message>
+        <source>Run {}</source>
+        <translation>Lauf {}</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation>Saison</translation>
+    </message>
+    <message>
+        <source>Split table: {}</source>
+        <translation>Tabelle der Zwischenzeiten: {}</translation>
+    </message>
+    <message>
+        <source>The name of a page ends in .html, and its films lie in the folder named the same without that.</source>
+        <translation>Der Name einer Seite endet auf .html, und ihre Filme liegen im Ordner gleichen Namens ohne diese Endung.</translation>
+    </message>
+    <message>
+        <source>Time lost, as noted</source>
+        <translation>Verlorene Zeit, wie notiert</translation>
+    </message>
+    <message>
+        <source>Times from the start to each split.</source>
+        <translation>Zeiten vom Start bis zu jeder Zwischenzeit.</translation>
+    </message>
+    <message>
+        <source>Times in seconds. Made with Kavela.</source>
+        <translation>Zeiten in Sekunden. Erstellt mit Kavela.</translation>
+    </message>
+    <message>
+        <source>To winner</source>
+        <translation>Zum Sieger</translation>
+    </message>
+    <message>
+        <source>at {} s of the run</source>
+        <translation>bei {} s des Laufs</translation>
+    </message>
+    <message>
+        <source>eyes: {}</source>
+        <translation>Blick: {}</translation>
+    </message>
+    <message>
+        <source>fastest</source>
+        <translation>schnellste</translation>
+    </message>
+    <message>
+        <source>middle</source>
+        <translation>mittlere</translation>
+    </message>
+    <message>
+        <source>slowest</source>
+        <translation>langsamste</translation>
+    </message>
+    <message>
+        <source>upstream</source>
+        <translation>aufwärts</translation>
+    </message>
+    <message>
+        <source>{} &lt;small&gt;of {}&lt;/small&gt;</source>
+        <translation>{} &lt;small&gt;von {}&lt;/small&gt;</translation>
+    </message>
+    <message>
+        <source>{} = paddling {}, penalties {}, official against video time {}.</source>
+        <translation>{} = Fahrzeit {}, Strafen {}, offizielle gegen Videozeit {}.</translation>
+    </message>
+    <message>
+        <source>{} = paddling {}, penalties {}.</source>
+        <translation>{} = Fahrzeit {}, Strafen {}.</translation>
+    </message>
+    <message>
+        <source>{} against {}</source>
+        <translation>{} gegen {}</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} gates</source>
+        <translation>
+            <numerusform>{} Tor</numerusform>
+            <numerusform>{} Tore</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} more runs are left out.</source>
+        <translation>
+            <numerusform>{} weiterer Lauf ist ausgelassen.</numerusform>
+            <numerusform>{} weitere Läufe sind ausgelassen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} of the runs compared, column by column.</source>
+        <translation>{} der verglichenen Läufe, Spalte für Spalte.</translation>
+    </message>
+    <message>
+        <source>{} to {}</source>
+        <translation>{} bis {}</translation>
+    </message>
+    <message>
+        <source>{}, run {}</source>
+        <translation>{}, Lauf {}</translation>
+    </message>
+    <message>
+        <source>{}, {} upstream</source>
+        <translation>{}, {} aufwärts</translation>
+    </message>
+    <message>
+        <source>{}. The film lies beside this page: {}</source>
+        <translation>{}. Der Film liegt neben dieser Seite: {}</translation>
+    </message>
+    <message>
+        <source>{}: {} s a run</source>
+        <translation>{}: {} s je Lauf</translation>
+    </message>
+    <message>
+        <source>The film is not there.</source>
+        <translation>Der Film ist nicht da.</translation>
+    </message>
+    <message>
+        <source>The marks of the run lie behind the end of the film.</source>
+        <translation>Die Marken des Laufs liegen hinter dem Ende des Films.</translation>
+    </message>
+    <message>
+        <source>No run of &quot;{}&quot; is of the phase &quot;{}&quot;.</source>
+        <translation>Kein Lauf von „{}“ gehört zur Phase „{}“.</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Einfahrt</translation>
+    </message>
+    <message>
+        <source>Downstream gate</source>
+        <translation>Abwärtstor</translation>
+    </message>
+    <message>
+        <source>Upstream gate</source>
+        <translation>Aufwärtstor</translation>
+    </message>
+    <message>
+        <source>Offset gate</source>
+        <translation>Versetztes Tor</translation>
+    </message>
+    <message>
+        <source>Spin gate</source>
+        <translation>Drehtor</translation>
+    </message>
+    <message>
+        <source>Single pole</source>
+        <translation>Einzelner Torstab</translation>
+    </message>
+    <message>
+        <source>Touch</source>
+        <translation>Berührung</translation>
+    </message>
+    <message>
+        <source>Missed gate</source>
+        <translation>Torfehler</translation>
+    </message>
+    <message>
+        <source>Head outside the gate</source>
+        <translation>Kopf außerhalb des Tors</translation>
+    </message>
+    <message>
+        <source>Wrong direction</source>
+        <translation>Falsche Richtung</translation>
+    </message>
+    <message>
+        <source>Wrong order</source>
+        <translation>Falsche Reihenfolge</translation>
+    </message>
+    <message>
+        <source>Pole pushed on purpose</source>
+        <translation>Stab absichtlich gestoßen</translation>
+    </message>
+    <message>
+        <source>Upside down in the gate</source>
+        <translation>Kopfüber im Tor</translation>
+    </message>
+    <message>
+        <source>Inner pole</source>
+        <translation>Innerer Stab</translation>
+    </message>
+    <message>
+        <source>Outer pole</source>
+        <translation>Äußerer Stab</translation>
+    </message>
+    <message>
+        <source>Both poles</source>
+        <translation>Beide Stäbe</translation>
+    </message>
+    <message>
+        <source>Left pole</source>
+        <translation>Linker Stab</translation>
+    </message>
+    <message>
+        <source>Right pole</source>
+        <translation>Rechter Stab</translation>
+    </message>
+    <message>
+        <source>Boat</source>
+        <translation>Boot</translation>
+    </message>
+    <message>
+        <source>Blade</source>
+        <translation>Blatt</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>Körper</translation>
+    </message>
+    <message>
+        <source>Head</source>
+        <translation>Kopf</translation>
+    </message>
+    <message>
+        <source>Bow</source>
+        <translation>Bug</translation>
+    </message>
+    <message>
+        <source>Stern</source>
+        <translation>Heck</translation>
+    </message>
+    <message>
+        <source>Shaft</source>
+        <translation>Schaft</translation>
+    </message>
+    <message>
+        <source>Arm</source>
+        <translation>Arm</translation>
+    </message>
+    <message>
+        <source>Washed past the gate</source>
+        <translation>Am Tor vorbeigespült</translation>
+    </message>
+    <message>
+        <source>Left out on purpose</source>
+        <translation>Absichtlich ausgelassen</translation>
+    </message>
+    <message>
+        <source>Entering</source>
+        <translation>Beim Einfahren</translation>
+    </message>
+    <message>
+        <source>In the gate</source>
+        <translation>Im Tor</translation>
+    </message>
+    <message>
+        <source>Leaving</source>
+        <translation>Beim Ausfahren</translation>
+    </message>
+    <message>
+        <source>Before the gate</source>
+        <translation>Vor dem Tor</translation>
+    </message>
+    <message>
+        <source>After the gate</source>
+        <translation>Nach dem Tor</translation>
+    </message>
+    <message>
+        <source>Forwards</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Backwards</source>
+        <translation>Rückwärts</translation>
+    </message>
+    <message>
+        <source>Sideways</source>
+        <translation>Seitwärts</translation>
+    </message>
+    <message>
+        <source>Turning left</source>
+        <translation>Nach links drehend</translation>
+    </message>
+    <message>
+        <source>Turning right</source>
+        <translation>Nach rechts drehend</translation>
+    </message>
+    <message>
+        <source>Drifting left</source>
+        <translation>Nach links treibend</translation>
+    </message>
+    <message>
+        <source>Drifting right</source>
+        <translation>Nach rechts treibend</translation>
+    </message>
+    <message>
+        <source>Direct line</source>
+        <translation>Direkte Linie</translation>
+    </message>
+    <message>
+        <source>Spin</source>
+        <translation>Volle Drehung</translation>
+    </message>
+    <message>
+        <source>Duffek (bow draw)</source>
+        <translation>Duffek (Bogenzug vorn)</translation>
+    </message>
+    <message>
+        <source>Sweep</source>
+        <translation>Bogenschlag</translation>
+    </message>
+    <message>
+        <source>Stern pivot</source>
+        <translation>Heckdrehung</translation>
+    </message>
+    <message>
+        <source>Punt</source>
+        <translation>Abstoßen am Grund</translation>
+    </message>
+    <message>
+        <source>Flat turn</source>
+        <translation>Flache Drehung</translation>
+    </message>
+    <message>
+        <source>Ferry</source>
+        <translation>Seilfähre</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Rückwärtsschlag</translation>
+    </message>
+    <message>
+        <source>Surf</source>
+        <translation>Surfen</translation>
+    </message>
+    <message>
+        <source>At the gate</source>
+        <translation>Zum Tor</translation>
+    </message>
+    <message>
+        <source>At the next gate</source>
+        <translation>Zum nächsten Tor</translation>
+    </message>
+    <message>
+        <source>At the pole</source>
+        <translation>Zum Torstab</translation>
+    </message>
+    <message>
+        <source>At the water</source>
+        <translation>Zum Wasser</translation>
+    </message>
+    <message>
+        <source>At the blade</source>
+        <translation>Zum Blatt</translation>
+    </message>
+    <message>
+        <source>At the bow</source>
+        <translation>Zum Bug</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>Anderswohin</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Cross-bow draw</source>
+        <translation>Übergriff am Bug</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Ziehschlag</translation>
+    </message>
+    <message>
+        <source>Stern rudder</source>
+        <translation>Hecksteuer</translation>
+    </message>
+    <message>
+        <source>Brace</source>
+        <translation>Stütze</translation>
+    </message>
+    <message>
+        <source>Cross-bow</source>
+        <translation>Übergriff</translation>
+    </message>
+    <message>
+        <source>Single gate</source>
+        <translation>Einzelnes Tor</translation>
+    </message>
+    <message>
+        <source>Offset (stagger)</source>
+        <translation>Versetzte Tore</translation>
+    </message>
+    <message>
+        <source>S-turn</source>
+        <translation>S-Kurve</translation>
+    </message>
+    <message>
+        <source>Cross (ferry)</source>
+        <translation>Querung (Seilfähre)</translation>
+    </message>
+    <message>
+        <source>Upstream</source>
+        <translation>Aufwärts</translation>
+    </message>
+    <message>
+        <source>Upstream sprint</source>
+        <translation>Aufwärtssprint</translation>
+    </message>
+    <message>
+        <source>Merano</source>
+        <translation>Merano</translation>
+    </message>
+    <message>
+        <source>Downstream to upstream</source>
+        <translation>Abwärts auf aufwärts</translation>
+    </message>
+    <message>
+        <source>Upstream to downstream</source>
+        <translation>Aufwärts auf abwärts</translation>
+    </message>
+    <message>
+        <source>Upstream to upstream</source>
+        <translation>Aufwärts auf aufwärts</translation>
+    </message>
+    <message>
+        <source>Straight gates</source>
+        <translation>Gerade Tore</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Finish sprint</source>
+        <translation>Zielsprint</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>Anfahrt</translation>
+    </message>
+    <message>
+        <source>Between the gates</source>
+        <translation>Zwischen den Toren</translation>
+    </message>
+    <message>
+        <source>Whole</source>
+        <translation>Ganz</translation>
+    </message>
+    <message>
+        <source>Flat water</source>
+        <translation>Flachwasser</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Welle</translation>
+    </message>
+    <message>
+        <source>Stopper (hole)</source>
+        <translation>Walze</translation>
+    </message>
+    <message>
+        <source>Eddy</source>
+        <translation>Kehrwasser</translation>
+    </message>
+    <message>
+        <source>Eddy line</source>
+        <translation>Kehrwasserlinie</translation>
+    </message>
+    <message>
+        <source>Pourover</source>
+        <translation>Überströmter Stein</translation>
+    </message>
+    <message>
+        <source>Curtain</source>
+        <translation>Vorhang</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>Abfall</translation>
+    </message>
+    <message>
+        <source>Boil</source>
+        <translation>Pilz</translation>
+    </message>
+    <message>
+        <source>Cushion</source>
+        <translation>Polster</translation>
+    </message>
+    <message>
+        <source>Wave train</source>
+        <translation>Wellenzug</translation>
+    </message>
+    <message>
+        <source>Fast water</source>
+        <translation>Schnelles Wasser</translation>
+    </message>
+    <message>
+        <source>Sweep roll</source>
+        <translation>Bogenschlagrolle</translation>
+    </message>
+    <message>
+        <source>C-to-C roll</source>
+        <translation>C-zu-C-Rolle</translation>
+    </message>
+    <message>
+        <source>Hand roll</source>
+        <translation>Handrolle</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs left out: penalties not known by gate</source>
+        <translation>
+            <numerusform>{} Lauf ausgelassen: Strafen nicht nach Toren bekannt</numerusform>
+            <numerusform>{} Läufe ausgelassen: Strafen nicht nach Toren bekannt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs are left out: their penalties are not known by gate.</source>
+        <translation>
+            <numerusform>{} Lauf ist ausgelassen: Seine Strafen sind nicht nach Toren bekannt.</numerusform>
+            <numerusform>{} Läufe sind ausgelassen: Ihre Strafen sind nicht nach Toren bekannt.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(not given)</source>
+        <translation>(nicht angegeben)</translation>
+    </message>
+    <message>
+        <source>* touched more than that with 95 % certainty and more</source>
+        <translation>* mit 95&#xa0;% Sicherheit und mehr öfter berührt als das</translation>
+    </message>
+    <message>
+        <source>A missed gate also saved paddling, which is not taken back here.</source>
+        <translation>Ein Torfehler hat auch Fahrzeit gespart, die hier nicht zurückgenommen wird.</translation>
+    </message>
+    <message>
+        <source>Gained</source>
+        <translation>Gewonnen</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>Verloren</translation>
+    </message>
+    <message>
+        <source>Missed/run</source>
+        <translation>Fehler/Lauf</translation>
+    </message>
+    <message>
+        <source>Ranked</source>
+        <translation>Gereiht</translation>
+    </message>
+    <message>
+        <source>Rate %</source>
+        <translation>Rate %</translation>
+    </message>
+    <message>
+        <source>Risk and speed</source>
+        <translation>Risiko &amp; Tempo</translation>
+    </message>
+    <message>
+        <source>Touches/run</source>
+        <translation>Berühr./Lauf</translation>
+    </message>
+    <message>
+        <source>Ways: chosen against the fastest timed</source>
+        <translation>Wege: der gewählte gegen den schnellsten gestoppten</translation>
+    </message>
+    <message>
+        <source>between {}</source>
+        <translation>dazwischen {}</translation>
+    </message>
+    <message>
+        <source>fastest third</source>
+        <translation>schnelles Dr.</translation>
+    </message>
+    <message>
+        <source>middle third</source>
+        <translation>mittleres Dr.</translation>
+    </message>
+    <message>
+        <source>slowest third</source>
+        <translation>langsames Dr.</translation>
+    </message>
+    <message>
+        <source>in no stretch</source>
+        <translation>in keinem Stück</translation>
+    </message>
+    <message>
+        <source>not finished: {}</source>
+        <translation>nicht beendet: {}</translation>
+    </message>
+    <message>
+        <source>on run {}</source>
+        <translation>gegen Lauf {}</translation>
+    </message>
+    <message>
+        <source>on the fastest</source>
+        <translation>gegen den Schnellsten</translation>
+    </message>
+    <message>
+        <source>on the finalists&apos; median</source>
+        <translation>gegen den Median der Finalisten</translation>
+    </message>
+    <message>
+        <source>on the ideal run</source>
+        <translation>gegen den Ideallauf</translation>
+    </message>
+    <message>
+        <source>on the own fastest other run</source>
+        <translation>gegen den schnellsten anderen eigenen Lauf</translation>
+    </message>
+    <message>
+        <source>on the winner</source>
+        <translation>gegen den Sieger</translation>
+    </message>
+    <message>
+        <source>penalties {}</source>
+        <translation>Strafen {}</translation>
+    </message>
+    <message>
+        <source>timing {}</source>
+        <translation>Zeitnahme {}</translation>
+    </message>
+    <message>
+        <source>touch</source>
+        <translation>Berührung</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} penalties cost no place</source>
+        <translation>
+            <numerusform>{} Strafe kostete keinen Platz</numerusform>
+            <numerusform>{} Strafen kosteten keinen Platz</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{}: there is none</source>
+        <translation>{}: gibt es nicht</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no gate number.</source>
+        <translation>„{}“ ist keine Tornummer.</translation>
+    </message>
+    <message>
+        <source>A section up to here was not timed, so this is not the time from the start.</source>
+        <translation>Ein Abschnitt bis hierher wurde nicht gestoppt, daher ist dies nicht die Zeit vom Start.</translation>
+    </message>
+    <message>
+        <source>A time must be above 0. Check the marks of this run.</source>
+        <translation>Eine Zeit muss über 0 liegen. Prüfen Sie die Marken dieses Laufs.</translation>
+    </message>
+    <message>
+        <source>A time of the session is negative or no number.</source>
+        <translation>Eine Zeit der Einheit ist negativ oder keine Zahl.</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>From {:.1f} s to {:.1f} s of the run nothing is recorded.</source>
+        <translation>Von {:.1f} s bis {:.1f} s des Laufs ist nichts aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>Gate {} has this penalty already.</source>
+        <translation>Tor {} hat diese Strafe schon.</translation>
+    </message>
+    <message>
+        <source>Gate {} is missing before gate {} in section {}.</source>
+        <translation>Tor {} fehlt vor Tor {} in Abschnitt {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} is not on a course of {}.</source>
+        <translation>Tor {} liegt nicht auf einer Strecke mit {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands a second time or out of order in section {}.</source>
+        <translation>Tor {} steht ein zweites Mal oder außer der Reihe in Abschnitt {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands in no section.</source>
+        <translation>Tor {} steht in keinem Abschnitt.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands there twice.</source>
+        <translation>Tor {} steht dort zweimal.</translation>
+    </message>
+    <message>
+        <source>Get ready</source>
+        <translation>Bereit machen</translation>
+    </message>
+    <message>
+        <source>It was deleted here and changed there: it is brought again.</source>
+        <translation>Hier gelöscht und dort geändert: Es wird wieder geholt.</translation>
+    </message>
+    <message>
+        <source>It was deleted there and changed here: it is put there again.</source>
+        <translation>Dort gelöscht und hier geändert: Es wird wieder dorthin gelegt.</translation>
+    </message>
+    <message>
+        <source>Line {}, {}: there is no run of this crew.</source>
+        <translation>Zeile {}, {}: Es gibt keinen Lauf dieser Besatzung.</translation>
+    </message>
+    <message>
+        <source>No motion of the boat is attached to this run.</source>
+        <translation>An diesen Lauf ist keine Bootsbewegung angehängt.</translation>
+    </message>
+    <message>
+        <source>No run waiting</source>
+        <translation>Kein Lauf wartet</translation>
+    </message>
+    <message>
+        <source>No time was taken here.</source>
+        <translation>Hier wurde keine Zeit genommen.</translation>
+    </message>
+    <message>
+        <source>Of the first {:.1f} s of the run nothing is recorded.</source>
+        <translation>Von den ersten {:.1f} s des Laufs ist nichts aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>Of the last {:.1f} s of the run nothing is recorded.</source>
+        <translation>Von den letzten {:.1f} s des Laufs ist nichts aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>Rest</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Rest between sets</source>
+        <translation>Pause zwischen Sätzen</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Belastung</translation>
+    </message>
+    <message>
+        <source>Somebody changed it on the server meanwhile.</source>
+        <translation>Inzwischen hat es jemand auf dem Server geändert.</translation>
+    </message>
+    <message>
+        <source>Somebody has locked it on the server.</source>
+        <translation>Jemand hat es auf dem Server gesperrt.</translation>
+    </message>
+    <message>
+        <source>Start and end of the stretch are not both marked in the run of {}.</source>
+        <translation>Anfang und Ende des Stücks sind im Lauf von {} nicht beide markiert.</translation>
+    </message>
+    <message>
+        <source>Start and end of the stretch are not both marked in this run.</source>
+        <translation>Anfang und Ende des Stücks sind in diesem Lauf nicht beide markiert.</translation>
+    </message>
+    <message>
+        <source>The end of the stretch is not marked after its start in the run of {}.</source>
+        <translation>Das Ende des Stücks ist im Lauf von {} nicht nach seinem Anfang markiert.</translation>
+    </message>
+    <message>
+        <source>The end of the stretch is not marked after its start in this run.</source>
+        <translation>Das Ende des Stücks ist in diesem Lauf nicht nach seinem Anfang markiert.</translation>
+    </message>
+    <message>
+        <source>The answer of the server is longer than it can be.</source>
+        <translation>Die Antwort des Servers ist länger, als sie sein kann.</translation>
+    </message>
+    <message>
+        <source>The attached motion is not as long as the run, so that its moments cannot be told.</source>
+        <translation>Die angehängte Bewegung ist nicht so lang wie der Lauf, sodass ihre Zeitpunkte unbekannt sind.</translation>
+    </message>
+    <message>
+        <source>The certificate of the server is not trusted, so that nothing was sent. It was issued by “{}”: {}.</source>
+        <translation>Dem Zertifikat des Servers wird nicht vertraut, daher wurde nichts gesendet. Ausgestellt hat es „{}“: {}.</translation>
+    </message>
+    <message>
+        <source>The connection broke off.</source>
+        <translation>Die Verbindung brach ab.</translation>
+    </message>
+    <message>
+        <source>The exit is marked before the entrance.</source>
+        <translation>Die Ausfahrt ist vor der Einfahrt markiert.</translation>
+    </message>
+    <message>
+        <source>The exit is marked before the middle.</source>
+        <translation>Die Ausfahrt ist vor der Mitte markiert.</translation>
+    </message>
+    <message>
+        <source>The middle is marked before the entrance.</source>
+        <translation>Die Mitte ist vor der Einfahrt markiert.</translation>
+    </message>
+    <message>
+        <source>The film lies on {}, which is not ticked.</source>
+        <translation>Der Film liegt auf {}, das nicht abgehakt ist.</translation>
+    </message>
+    <message>
+        <source>The folder above is not there on the server.</source>
+        <translation>Der Ordner darüber fehlt auf dem Server.</translation>
+    </message>
+    <message>
+        <source>The number of sections is {}, but that of splits is {}.</source>
+        <translation>Es sind {} Abschnitte, aber {} Zwischenzeiten.</translation>
+    </message>
+    <message>
+        <source>The recording does not reach into this run.</source>
+        <translation>Die Aufzeichnung reicht nicht in diesen Lauf.</translation>
+    </message>
+    <message>
+        <source>The recording has {} further holes in this run.</source>
+        <translation>Die Aufzeichnung hat {} weitere Lücken in diesem Lauf.</translation>
+    </message>
+    <message>
+        <source>The run has no times that the recording could be laid on.</source>
+        <translation>Der Lauf hat keine Zeiten, an die die Aufzeichnung gelegt werden könnte.</translation>
+    </message>
+    <message>
+        <source>The section before was not timed, so this time covers both.</source>
+        <translation>Der Abschnitt davor wurde nicht gestoppt, daher umfasst diese Zeit beide.</translation>
+    </message>
+    <message>
+        <source>The server answered with status {}.</source>
+        <translation>Der Server antwortete mit Status {}.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached safely.</source>
+        <translation>Der Server ist nicht sicher erreichbar.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached.</source>
+        <translation>Der Server ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>The server does not accept the user name or the password.</source>
+        <translation>Der Server nimmt Benutzername oder Passwort nicht an.</translation>
+    </message>
+    <message>
+        <source>The server does not allow this, or not to this user.</source>
+        <translation>Der Server erlaubt das nicht, oder nicht diesem Benutzer.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Der Server antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The server fell silent.</source>
+        <translation>Der Server ist verstummt.</translation>
+    </message>
+    <message>
+        <source>The server has no such file or folder.</source>
+        <translation>Der Server hat keine solche Datei und keinen solchen Ordner.</translation>
+    </message>
+    <message>
+        <source>The server is full, or your share of it.</source>
+        <translation>Der Server ist voll, oder Ihr Anteil daran.</translation>
+    </message>
+    <message>
+        <source>The server leads to another one, {}, which is not followed.</source>
+        <translation>Der Server verweist auf einen anderen, {}, dem nicht gefolgt wird.</translation>
+    </message>
+    <message>
+        <source>The server takes no file of this size.</source>
+        <translation>Der Server nimmt keine Datei dieser Größe.</translation>
+    </message>
+    <message>
+        <source>The server was not found. Is the computer online?</source>
+        <translation>Der Server wurde nicht gefunden. Ist der Computer online?</translation>
+    </message>
+    <message>
+        <source>The session has more sets or repetitions than can be timed.</source>
+        <translation>Die Einheit hat mehr Sätze oder Wiederholungen, als gestoppt werden können.</translation>
+    </message>
+    <message>
+        <source>The session needs a work time.</source>
+        <translation>Die Einheit braucht eine Belastungszeit.</translation>
+    </message>
+    <message>
+        <source>The session needs at least one set and one repetition.</source>
+        <translation>Die Einheit braucht mindestens einen Satz und eine Wiederholung.</translation>
+    </message>
+    <message>
+        <source>The session takes longer than a day.</source>
+        <translation>Die Einheit dauert länger als einen Tag.</translation>
+    </message>
+    <message>
+        <source>This frame lies after {} at {}.</source>
+        <translation>Dieses Bild liegt hinter: {} bei {}.</translation>
+    </message>
+    <message>
+        <source>This frame lies before {} at {}.</source>
+        <translation>Dieses Bild liegt vor: {} bei {}.</translation>
+    </message>
+    <message>
+        <source>This run was not timed to the end, so this is not the time of the whole course.</source>
+        <translation>Dieser Lauf wurde nicht bis zum Ende gestoppt, daher ist dies nicht die Zeit der ganzen Strecke.</translation>
+    </message>
+    <message>
+        <source>Where they differ, both stay.</source>
+        <translation>Wo sie sich unterscheiden, bleiben beide.</translation>
+    </message>
+    <message>
+        <source>a byte is no UTF-8 text</source>
+        <translation>ein Byte ist kein UTF-8-Text</translation>
+    </message>
+    <message>
+        <source>a colon is due</source>
+        <translation>ein Doppelpunkt fehlt</translation>
+    </message>
+    <message>
+        <source>a comma or ] is due</source>
+        <translation>ein Komma oder ] fehlt</translation>
+    </message>
+    <message>
+        <source>a comma or } is due</source>
+        <translation>ein Komma oder } fehlt</translation>
+    </message>
+    <message>
+        <source>a digit is due</source>
+        <translation>eine Ziffer fehlt</translation>
+    </message>
+    <message>
+        <source>a key is due</source>
+        <translation>ein Schlüssel fehlt</translation>
+    </message>
+    <message>
+        <source>a micro split</source>
+        <translation>eine Mikrozeit</translation>
+    </message>
+    <message>
+        <source>a number is out of range</source>
+        <translation>eine Zahl liegt außerhalb des Bereichs</translation>
+    </message>
+    <message>
+        <source>a stroke of this hand</source>
+        <translation>ein Schlag dieser Hand</translation>
+    </message>
+    <message>
+        <source>a text holds a control character</source>
+        <translation>ein Text enthält ein Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>a text holds a malformed escape</source>
+        <translation>ein Text enthält eine fehlerhafte Maskierung</translation>
+    </message>
+    <message>
+        <source>a value is due</source>
+        <translation>ein Wert fehlt</translation>
+    </message>
+    <message>
+        <source>an unknown issuer</source>
+        <translation>ein unbekannter Aussteller</translation>
+    </message>
+    <message>
+        <source>bib</source>
+        <translation>Startnummer</translation>
+    </message>
+    <message>
+        <source>five</source>
+        <translation>fünf</translation>
+    </message>
+    <message>
+        <source>six</source>
+        <translation>sechs</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>not JSON, byte {}: {}</source>
+        <translation>kein JSON, Byte {}: {}</translation>
+    </message>
+    <message>
+        <source>not JSON, or cut off</source>
+        <translation>kein JSON oder abgeschnitten</translation>
+    </message>
+    <message>
+        <source>not JSON: a number is malformed or out of range</source>
+        <translation>kein JSON: eine Zahl ist fehlerhaft oder außerhalb des Bereichs</translation>
+    </message>
+    <message>
+        <source>not JSON: a text holds a control character</source>
+        <translation>kein JSON: ein Text enthält ein Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>not JSON: a text holds a malformed escape</source>
+        <translation>kein JSON: ein Text enthält eine fehlerhafte Maskierung</translation>
+    </message>
+    <message>
+        <source>not JSON: a text is not closed (the file may be cut off)</source>
+        <translation>kein JSON: ein Text ist nicht geschlossen (die Datei ist vielleicht abgeschnitten)</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>something stands behind the document</source>
+        <translation>hinter dem Dokument steht noch etwas</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>der Datenträger kann nur gelesen werden</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>the document is nested too deeply</source>
+        <translation>das Dokument ist zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>the document is too large for the memory</source>
+        <translation>das Dokument ist zu groß für den Speicher</translation>
+    </message>
+    <message>
+        <source>the end of the stretch</source>
+        <translation>das Ende des Stücks</translation>
+    </message>
+    <message>
+        <source>the file became shorter while it was read</source>
+        <translation>die Datei wurde beim Lesen kürzer</translation>
+    </message>
+    <message>
+        <source>the file holds nothing but blanks</source>
+        <translation>die Datei enthält nur Leerzeichen</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>the file is no text; save the list as text (CSV) first</source>
+        <translation>die Datei ist kein Text; speichern Sie die Liste zuerst als Text (CSV)</translation>
+    </message>
+    <message>
+        <source>the file is not UTF-8 text</source>
+        <translation>die Datei ist kein UTF-8-Text</translation>
+    </message>
+    <message>
+        <source>the file is too large for a document (over 4 GB)</source>
+        <translation>die Datei ist zu groß für ein Dokument (über 4 GB)</translation>
+    </message>
+    <message>
+        <source>the file is too large for a list (over 64 MB)</source>
+        <translation>die Datei ist zu groß für eine Liste (über 64 MB)</translation>
+    </message>
+    <message>
+        <source>the penalty {} is below 0</source>
+        <translation>die Strafe {} ist unter 0</translation>
+    </message>
+    <message>
+        <source>the penalty {} is over {}</source>
+        <translation>die Strafe {} ist über {}</translation>
+    </message>
+    <message>
+        <source>the position {} is below 0</source>
+        <translation>die Position {} ist unter 0</translation>
+    </message>
+    <message>
+        <source>the start</source>
+        <translation>der Start</translation>
+    </message>
+    <message>
+        <source>the start of the stretch</source>
+        <translation>der Anfang des Stücks</translation>
+    </message>
+    <message>
+        <source>the tag {}</source>
+        <translation>die Markierung {}</translation>
+    </message>
+    <message>
+        <source>the text ends too early (the file may be cut off)</source>
+        <translation>der Text endet zu früh (die Datei ist vielleicht abgeschnitten)</translation>
+    </message>
+    <message>
+        <source>the text is not valid UTF-8</source>
+        <translation>der Text ist kein gültiges UTF-8</translation>
+    </message>
+    <message>
+        <source>the time {} is an hour or more</source>
+        <translation>die Zeit {} ist eine Stunde oder mehr</translation>
+    </message>
+    <message>
+        <source>the time {} is below 0</source>
+        <translation>die Zeit {} ist unter 0</translation>
+    </message>
+    <message>
+        <source>the {} &quot;{}&quot; is no number of seconds</source>
+        <translation>{} „{}“: keine Sekundenzahl</translation>
+    </message>
+    <message>
+        <source>the {} &quot;{}&quot; is no whole number</source>
+        <translation>{} „{}“: keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>die Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a file</source>
+        <translation>das ist ein Ordner, keine Datei</translation>
+    </message>
+    <message>
+        <source>this is no JSON object: it does not begin with {</source>
+        <translation>das ist kein JSON-Objekt: es beginnt nicht mit {</translation>
+    </message>
+    <message>
+        <source>this is not an ordinary file</source>
+        <translation>das ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>this moment</source>
+        <translation>dieser Moment</translation>
+    </message>
+    <message>
+        <source>too many symbolic links</source>
+        <translation>zu viele symbolische Verknüpfungen</translation>
+    </message>
+    <message>
+        <source>{0}: has the time of {1} (bibs {2} and {3}), and {1} has this one&apos;s. Exchange the two crews?</source>
+        <translation>{0}: hat die Zeit von {1} (Startnummern {2} und {3}), und {1} hat die andere. Die beiden Besatzungen tauschen?</translation>
+    </message>
+    <message>
+        <source>{0}: has the time of {1}, and {1} has this one&apos;s. Exchange the two crews?</source>
+        <translation>{0}: hat die Zeit von {1}, und {1} hat die andere. Die beiden Besatzungen tauschen?</translation>
+    </message>
+    <message>
+        <source>{0}: the list says {1}, ours is {2}. Take {1} over?</source>
+        <translation>{0}: Die Liste sagt {1}, unsere Zeit ist {2}. {1} übernehmen?</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} fields</source>
+        <translation>
+            <numerusform>{} Feld</numerusform>
+            <numerusform>{} Felder</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} is marked on this frame already.</source>
+        <translation>{} ist auf diesem Bild schon markiert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs waiting</source>
+        <translation>
+            <numerusform>{} Lauf wartet</numerusform>
+            <numerusform>{} Läufe warten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} where {} are needed</source>
+        <translation>{}, wo {} nötig sind</translation>
+    </message>
+    <message>
+        <source>{}, the next starts in {}</source>
+        <translation>{}, der nächste startet in {}</translation>
+    </message>
+    <message>
+        <source>{}: is not in the list.</source>
+        <translation>{}: steht nicht in der Liste.</translation>
+    </message>
+    <message>
+        <source>{}: the list has {} s of penalties, ours has {} s. Take the official result over?</source>
+        <translation>{}: Die Liste hat {} s Strafe, unsere hat {} s. Das offizielle Ergebnis übernehmen?</translation>
+    </message>
+    <message>
+        <source>{}: the list has {}, the film no time to the end. Take the official time over?</source>
+        <translation>{}: Die Liste hat {}, der Film keine Zeit bis zum Ende. Die offizielle Zeit übernehmen?</translation>
+    </message>
+    <message>
+        <source>{}: the list has {}, the film {}, {} s apart. Take the official time over?</source>
+        <translation>{}: Die Liste hat {}, der Film {}, {} s auseinander. Die offizielle Zeit übernehmen?</translation>
+    </message>
+    <message>
+        <source>{}: the list says {}, ours is {}.</source>
+        <translation>{}: Die Liste sagt {}, unsere Zeit ist {}.</translation>
+    </message>
+    <message>
+        <source>A difference needs two columns, as in difference:Run 2,Run 1.</source>
+        <translation>Eine Differenz braucht zwei Spalten, wie in difference:Run 2,Run 1.</translation>
+    </message>
+    <message>
+        <source>A text has no sheet &quot;{}&quot;.</source>
+        <translation>Ein Text hat kein Blatt „{}“.</translation>
+    </message>
+    <message>
+        <source>A {} is of one column, not of {}.</source>
+        <translation>{}: aus einer Spalte, nicht aus {}.</translation>
+    </message>
+    <message>
+        <source>A {} is of two columns, not of {}.</source>
+        <translation>{}: aus zwei Spalten, nicht aus {}.</translation>
+    </message>
+    <message>
+        <source>No column holds times; name the one to reckon with.</source>
+        <translation>Keine Spalte enthält Zeiten; nennen Sie die, mit der gerechnet werden soll.</translation>
+    </message>
+    <message>
+        <source>No column holds times; name those to add, as in total:Time,Pen.</source>
+        <translation>Keine Spalte enthält Zeiten; nennen Sie die zu addierenden, wie in total:Time,Pen.</translation>
+    </message>
+    <message>
+        <source>No list is open.</source>
+        <translation>Es ist keine Liste geöffnet.</translation>
+    </message>
+    <message>
+        <source>Not drawn: %1</source>
+        <translation>Nicht gezeichnet: %1</translation>
+    </message>
+    <message>
+        <source>Sections recorded in part: {}.</source>
+        <translation>Teilweise aufgezeichnete Abschnitte: {}.</translation>
+    </message>
+    <message>
+        <source>Sections without strokes: {}.</source>
+        <translation>Abschnitte ohne Schläge: {}.</translation>
+    </message>
+    <message>
+        <source>The column &quot;{}&quot; has no numbers to reckon with: it is {}.</source>
+        <translation>Die Spalte „{}“ hat keine Zahlen zum Rechnen: {}.</translation>
+    </message>
+    <message>
+        <source>The column &quot;{}&quot; has {} values: too many for columns of a pivot.</source>
+        <translation>Die Spalte „{}“ hat {} Werte: zu viele für Spalten einer Pivot-Tabelle.</translation>
+    </message>
+    <message>
+        <source>The file is packed, but holds no spreadsheet (.xlsx or .ods).</source>
+        <translation>Die Datei ist gepackt, enthält aber keine Tabelle (.xlsx oder .ods).</translation>
+    </message>
+    <message>
+        <source>The list needs a column with the title Name, Athlete or Crew.</source>
+        <translation>Die Liste braucht eine Spalte mit dem Titel Name, Athlete oder Crew.</translation>
+    </message>
+    <message>
+        <source>The list needs a column with the title Time, or Total and Penalty.</source>
+        <translation>Die Liste braucht eine Spalte mit dem Titel Time, oder Total und Penalty.</translation>
+    </message>
+    <message>
+        <source>The picture has {} MB. Up to 40 MB can be read; save it smaller first.</source>
+        <translation>Das Bild hat {} MB. Bis zu 40 MB können gelesen werden; speichern Sie es zuerst kleiner.</translation>
+    </message>
+    <message>
+        <source>The picture is far too long for a course.</source>
+        <translation>Das Bild ist für eine Strecke viel zu lang.</translation>
+    </message>
+    <message>
+        <source>The race carries no results list. Open the list itself; &quot;Keep with the race&quot; puts it there.</source>
+        <translation>Das Rennen enthält keine Ergebnisliste. Öffnen Sie die Liste selbst; „Zum Rennen legen“ legt sie dort ab.</translation>
+    </message>
+    <message>
+        <source>The report could not be painted.</source>
+        <translation>Der Bericht konnte nicht gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>The sheet &quot;{}&quot; has merged cells: their value stands in each of their lines.</source>
+        <translation>Das Blatt „{}“ hat verbundene Zellen: Ihr Wert steht in jeder ihrer Zeilen.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: its part {} cannot be read.</source>
+        <translation>Die Tabelle ist beschädigt: Ihr Teil {} ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: its part {} cannot be unpacked.</source>
+        <translation>Die Tabelle ist beschädigt: Ihr Teil {} lässt sich nicht entpacken.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: {}.</source>
+        <translation>Die Tabelle ist beschädigt: {}.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is protected by a password. Save it without one and open it again.</source>
+        <translation>Die Tabelle ist durch ein Passwort geschützt. Speichern Sie sie ohne und öffnen Sie sie erneut.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is too large: unpacked it is over 128 MB.</source>
+        <translation>Die Tabelle ist zu groß: entpackt hat sie über 128 MB.</translation>
+    </message>
+    <message>
+        <source>The text is no UTF-8 and was read as Latin-1; look at the letters with accents.</source>
+        <translation>Der Text ist kein UTF-8 und wurde als Latin-1 gelesen; prüfen Sie die Buchstaben mit Akzenten.</translation>
+    </message>
+    <message>
+        <source>There are several sheets; choose one of {}.</source>
+        <translation>Es gibt mehrere Blätter; wählen Sie eines von {}.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;{}&quot;; there is none.</source>
+        <translation>Es gibt keine Spalte „{}“; es gibt gar keine.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;{}&quot;; there is {}.</source>
+        <translation>Es gibt keine Spalte „{}“, aber {}.</translation>
+    </message>
+    <message>
+        <source>There is no sheet &quot;{}&quot;; there is {}.</source>
+        <translation>Es gibt kein Blatt „{}“, aber {}.</translation>
+    </message>
+    <message>
+        <source>There is nothing in it.</source>
+        <translation>Es ist nichts darin.</translation>
+    </message>
+    <message>
+        <source>This is a PDF, which has no columns to read; open it in a viewer.</source>
+        <translation>Das ist ein PDF, das keine lesbaren Spalten hat; öffnen Sie es in einem Betrachter.</translation>
+    </message>
+    <message>
+        <source>This is a spreadsheet with a password or of the old kind (.xls). Save it without a password as .xlsx, .ods or text (CSV).</source>
+        <translation>Das ist eine Tabelle mit Passwort oder alter Art (.xls). Speichern Sie sie ohne Passwort als .xlsx, .ods oder Text (CSV).</translation>
+    </message>
+    <message>
+        <source>This is neither text nor a spreadsheet (.xlsx, .ods).</source>
+        <translation>Das ist weder Text noch eine Tabelle (.xlsx, .ods).</translation>
+    </message>
+    <message>
+        <source>This is no picture that can be read. Take a PNG or JPEG file.</source>
+        <translation>Das ist kein lesbares Bild. Nehmen Sie eine PNG- oder JPEG-Datei.</translation>
+    </message>
+    <message>
+        <source>a time or a penalty is below 0</source>
+        <translation>eine Zeit oder Strafe ist unter 0</translation>
+    </message>
+    <message>
+        <source>gate %1: %2</source>
+        <translation>Tor %1: %2</translation>
+    </message>
+    <message>
+        <source>is not in the team</source>
+        <translation>ist nicht in der Mannschaft</translation>
+    </message>
+    <message>
+        <source>it could not be read</source>
+        <translation>sie konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>missed gate</source>
+        <translation>Torfehler</translation>
+    </message>
+    <message>
+        <source>no category of the team is called &quot;{}&quot;</source>
+        <translation>keine Kategorie der Mannschaft heißt „{}“</translation>
+    </message>
+    <message>
+        <source>no phase of the team is called &quot;{}&quot;</source>
+        <translation>keine Phase der Mannschaft heißt „{}“</translation>
+    </message>
+    <message>
+        <source>no day such as 2026-05-03 or 3.5.2026</source>
+        <translation>kein Tag wie 2026-05-03 oder 3.5.2026</translation>
+    </message>
+    <message>
+        <source>no font is installed</source>
+        <translation>es ist keine Schrift installiert</translation>
+    </message>
+    <message>
+        <source>no number</source>
+        <translation>keine Zahl</translation>
+    </message>
+    <message>
+        <source>no time such as 92.45, 1:32.45 or 92.45 (2)</source>
+        <translation>keine Zeit wie 92.45, 1:32.45 oder 92.45 (2)</translation>
+    </message>
+    <message>
+        <source>no whole number</source>
+        <translation>keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>none of DNS, DNF, DSQ and the like</source>
+        <translation>keines von DNS, DNF, DSQ und Ähnlichem</translation>
+    </message>
+    <message>
+        <source>stands above the titles</source>
+        <translation>steht über den Titeln</translation>
+    </message>
+    <message>
+        <source>the line ends here: it has {} of {} fields</source>
+        <translation>die Zeile endet hier: sie hat {} von {} Feldern</translation>
+    </message>
+    <message>
+        <source>the line has more fields than there are columns</source>
+        <translation>die Zeile hat mehr Felder als es Spalten gibt</translation>
+    </message>
+    <message>
+        <source>the run was not finished</source>
+        <translation>der Lauf wurde nicht beendet</translation>
+    </message>
+    <message>
+        <source>the titles once more</source>
+        <translation>die Titel noch einmal</translation>
+    </message>
+    <message>
+        <source>touches and missed gates of %1 runs</source>
+        <translation>Berührungen und Torfehler von %1 Läufen</translation>
+    </message>
+    <message>
+        <source>{}: no run has a film</source>
+        <translation>{}: kein Lauf hat einen Film</translation>
+    </message>
+    <message>
+        <source>{}: the column is {}</source>
+        <translation>{}: Art der Spalte: {}</translation>
+    </message>
+    <message>
+        <source>1 field where a bib and a name are needed</source>
+        <translation>1 Feld, wo eine Startnummer und ein Name nötig sind</translation>
+    </message>
+    <message>
+        <source>A bracket { is not closed.</source>
+        <translation>Eine Klammer { ist nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>A computer with Windows cannot take this name.</source>
+        <translation>Ein Computer mit Windows nimmt diesen Namen nicht an.</translation>
+    </message>
+    <message>
+        <source>A heat has one to four boats.</source>
+        <translation>Ein Heat hat ein bis vier Boote.</translation>
+    </message>
+    <message>
+        <source>An unnamed boat is not in this heat.</source>
+        <translation>Ein unbenanntes Boot ist nicht in diesem Heat.</translation>
+    </message>
+    <message>
+        <source>Both are kept: the one of this computer is “{}” now.</source>
+        <translation>Beide bleiben erhalten: Das von diesem Computer heißt jetzt „{}“.</translation>
+    </message>
+    <message>
+        <source>Both sides have the same.</source>
+        <translation>Beide Seiten haben dasselbe.</translation>
+    </message>
+    <message>
+        <source>Gate {}: it is not on the cross course.</source>
+        <translation>Tor {}: Es ist nicht auf der Cross-Strecke.</translation>
+    </message>
+    <message>
+        <source>Gate {}: {}</source>
+        <translation>Tor {}: {}</translation>
+    </message>
+    <message>
+        <source>It could not be given another name. Compare again.</source>
+        <translation>Es konnte keinen anderen Namen erhalten. Vergleichen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>It is here again. Compare again.</source>
+        <translation>Es ist wieder hier. Vergleichen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>It is not here any more.</source>
+        <translation>Es ist nicht mehr hier.</translation>
+    </message>
+    <message>
+        <source>It is not on the server any more. Compare again.</source>
+        <translation>Es ist nicht mehr auf dem Server. Vergleichen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>It is not on the server yet: {}</source>
+        <translation>Es ist noch nicht auf dem Server: {}</translation>
+    </message>
+    <message>
+        <source>It is on the server again. Compare again.</source>
+        <translation>Es ist wieder auf dem Server. Vergleichen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>It was changed here meanwhile. Compare again.</source>
+        <translation>Es wurde inzwischen hier geändert. Vergleichen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>It was changed on the server meanwhile. Compare again.</source>
+        <translation>Es wurde inzwischen auf dem Server geändert. Vergleichen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>It was changed while it was sent. Compare again.</source>
+        <translation>Es wurde beim Senden geändert. Vergleichen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>Its name has control characters.</source>
+        <translation>Sein Name hat Steuerzeichen.</translation>
+    </message>
+    <message>
+        <source>Its name is no text.</source>
+        <translation>Sein Name ist kein Text.</translation>
+    </message>
+    <message>
+        <source>Its name is too long.</source>
+        <translation>Sein Name ist zu lang.</translation>
+    </message>
+    <message>
+        <source>Its name leads out of the folder.</source>
+        <translation>Sein Name führt aus dem Ordner hinaus.</translation>
+    </message>
+    <message>
+        <source>No mark tells yet how this camera&apos;s film lies beside the run&apos;s first one: mark one moment on both in split taking.</source>
+        <translation>Noch sagt keine Marke, wie der Film dieser Kamera neben dem ersten des Laufs liegt: Markieren Sie einen Moment auf beiden in der Zwischenzeitnahme.</translation>
+    </message>
+    <message>
+        <source>This is a fixed camera beside the run&apos;s own film: synchronise the two in split taking first.</source>
+        <translation>Das ist eine feste Kamera neben dem eigenen Film des Laufs: Synchronisieren Sie die beiden zuerst in der Zwischenzeitnahme.</translation>
+    </message>
+    <message>
+        <source>The course has {}, and this line is for split {}.</source>
+        <translation>Die Strecke hat {}, und diese Linie ist für Zwischenzeit {}.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} splits</source>
+        <translation>
+            <numerusform>{} Zwischenzeit</numerusform>
+            <numerusform>{} Zwischenzeiten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file that came has gone.</source>
+        <translation>Die angekommene Datei ist verschwunden.</translation>
+    </message>
+    <message>
+        <source>The file that came is not what its checksum says.</source>
+        <translation>Die angekommene Datei ist nicht, was ihre Prüfsumme sagt.</translation>
+    </message>
+    <message>
+        <source>The pattern holds no bracket such as {name}.</source>
+        <translation>Das Muster enthält keine Klammer wie {name}.</translation>
+    </message>
+    <message>
+        <source>The same bracket stands twice.</source>
+        <translation>Dieselbe Klammer steht zweimal.</translation>
+    </message>
+    <message>
+        <source>Two brackets stand side by side: nothing tells where one ends.</source>
+        <translation>Zwei Klammern stehen nebeneinander: Nichts sagt, wo eine endet.</translation>
+    </message>
+    <message>
+        <source>{{{}}} is not known. There are {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} and {{any}}.</source>
+        <translation>{{{}}} ist unbekannt. Es gibt {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} und {{any}}.</translation>
+    </message>
+    <message>
+        <source>{any} does not say what is to stand there.</source>
+        <translation>{any} sagt nicht, was dort stehen soll.</translation>
+    </message>
+    <message>
+        <source>The server has kept another length than was sent.</source>
+        <translation>Der Server hat eine andere Länge behalten, als gesendet wurde.</translation>
+    </message>
+    <message>
+        <source>The server told another length than it sent.</source>
+        <translation>Der Server nannte eine andere Länge, als er sendete.</translation>
+    </message>
+    <message>
+        <source>The server took the file and does not have it.</source>
+        <translation>Der Server nahm die Datei und hat sie nicht.</translation>
+    </message>
+    <message>
+        <source>There are more than four boats in this heat.</source>
+        <translation>In diesem Heat sind mehr als vier Boote.</translation>
+    </message>
+    <message>
+        <source>all gates</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>by its name</source>
+        <translation>nach dem Namen</translation>
+    </message>
+    <message>
+        <source>by the order</source>
+        <translation>nach der Reihenfolge</translation>
+    </message>
+    <message>
+        <source>the second boat of a long film</source>
+        <translation>das zweite Boot eines langen Films</translation>
+    </message>
+    <message>
+        <source>{} s from its start</source>
+        <translation>{} s von seinem Start</translation>
+    </message>
+    <message>
+        <source>{} s from its start, if the camera&apos;s clock is wrong</source>
+        <translation>{} s von seinem Start, falls die Uhr der Kamera falsch geht</translation>
+    </message>
+    <message>
+        <source>downstream</source>
+        <translation>abwärts</translation>
+    </message>
+    <message>
+        <source>mixed</source>
+        <translation>gemischt</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>first third</source>
+        <translation>erstes Drittel</translation>
+    </message>
+    <message>
+        <source>second third</source>
+        <translation>zweites Drittel</translation>
+    </message>
+    <message>
+        <source>last third</source>
+        <translation>letztes Drittel</translation>
+    </message>
+    <message>
+        <source>no name is known</source>
+        <translation>kein Name ist bekannt</translation>
+    </message>
+    <message>
+        <source>no {} is known</source>
+        <translation>nicht bekannt: {}</translation>
+    </message>
+    <message>
+        <source>nothing would be left of the name</source>
+        <translation>vom Namen bliebe nichts übrig</translation>
+    </message>
+    <message>
+        <source>the name would be too long</source>
+        <translation>der Name wäre zu lang</translation>
+    </message>
+    <message>
+        <source>the bib &quot;{}&quot; is no number above 0</source>
+        <translation>die Startnummer „{}“ ist keine Zahl über 0</translation>
+    </message>
+    <message>
+        <source>the bib {} is on line {} already</source>
+        <translation>die Startnummer {} steht schon in Zeile {}</translation>
+    </message>
+    <message>
+        <source>the lines before have no start</source>
+        <translation>die Zeilen davor haben keinen Start</translation>
+    </message>
+    <message>
+        <source>the start &quot;{}&quot; is neither a time of day such as 10:01:30 nor a number in an order</source>
+        <translation>der Start „{}“ ist weder eine Uhrzeit wie 10:01:30 noch eine Nummer einer Reihenfolge</translation>
+    </message>
+    <message>
+        <source>there is no name</source>
+        <translation>es gibt keinen Namen</translation>
+    </message>
+    <message>
+        <source>there is no number in the order</source>
+        <translation>es gibt keine Nummer in der Reihenfolge</translation>
+    </message>
+    <message>
+        <source>there is no start time, which the others have</source>
+        <translation>es gibt keine Startzeit, die die anderen haben</translation>
+    </message>
+    <message>
+        <source>{} cannot attack and defend at once.</source>
+        <translation>{} kann nicht zugleich angreifen und verteidigen.</translation>
+    </message>
+    <message>
+        <source>{} is already in this heat.</source>
+        <translation>{} ist schon in diesem Heat.</translation>
+    </message>
+    <message>
+        <source>{} is not in this heat.</source>
+        <translation>{} ist nicht in diesem Heat.</translation>
+    </message>
+    <message>
+        <source>{} stands twice among the defenders.</source>
+        <translation>{} steht zweimal unter den Verteidigern.</translation>
+    </message>
+    <message>
+        <source>{} stands twice in the heat.</source>
+        <translation>{} steht zweimal im Heat.</translation>
+    </message>
+    <message>
+        <source>{} stands twice in the order.</source>
+        <translation>{} steht zweimal in der Reihenfolge.</translation>
+    </message>
+    <message>
+        <source>{} without any detail.</source>
+        <translation>{} ohne jede Einzelheit.</translation>
+    </message>
+    <message>
+        <source>A brace is opened and not closed: {}</source>
+        <translation>Eine Klammer wird geöffnet und nicht geschlossen: {}</translation>
+    </message>
+    <message>
+        <source>Aerial phase</source>
+        <translation>Luftphase</translation>
+    </message>
+    <message>
+        <source>Water phase</source>
+        <translation>Wasserphase</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distanz</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Widerstand</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation>Kraft</translation>
+    </message>
+    <message>
+        <source>Hand</source>
+        <translation>Hand</translation>
+    </message>
+    <message>
+        <source>Heart rate</source>
+        <translation>Herzfrequenz</translation>
+    </message>
+    <message>
+        <source>Impulse</source>
+        <translation>Impuls</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Leistung</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Stroke rate</source>
+        <translation>Schlagfrequenz</translation>
+    </message>
+    <message>
+        <source>Single rate</source>
+        <translation>Einzelfrequenz</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segment</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Rollen</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>Stampfen</translation>
+    </message>
+    <message>
+        <source>Max acceleration</source>
+        <translation>Max. Beschleunigung</translation>
+    </message>
+    <message>
+        <source>Mean acceleration</source>
+        <translation>Mittl. Beschleunigung</translation>
+    </message>
+    <message>
+        <source>Mean deceleration</source>
+        <translation>Mittl. Verzögerung</translation>
+    </message>
+    <message>
+        <source>Mean rotation</source>
+        <translation>Mittl. Drehung</translation>
+    </message>
+    <message>
+        <source>Peak rotation</source>
+        <translation>Höchste Drehung</translation>
+    </message>
+    <message>
+        <source>Mean push out</source>
+        <translation>Mittl. Querschub</translation>
+    </message>
+    <message>
+        <source>Peak push out</source>
+        <translation>Höchster Querschub</translation>
+    </message>
+    <message>
+        <source>Metres per stroke</source>
+        <translation>Meter je Schlag</translation>
+    </message>
+    <message>
+        <source>Is in the folder.</source>
+        <translation>Ist im Ordner.</translation>
+    </message>
+    <message>
+        <source>It is a file. A folder is shared.</source>
+        <translation>Das ist eine Datei. Geteilt wird ein Ordner.</translation>
+    </message>
+    <message>
+        <source>It is a link.</source>
+        <translation>Das ist eine Verknüpfung.</translation>
+    </message>
+    <message>
+        <source>It lies too deep.</source>
+        <translation>Es liegt zu tief.</translation>
+    </message>
+    <message>
+        <source>Lies on {}, which is not ticked.</source>
+        <translation>Liegt auf {}, das nicht abgehakt ist.</translation>
+    </message>
+    <message>
+        <source>May also be bib {}.</source>
+        <translation>Kann auch Startnummer {} sein.</translation>
+    </message>
+    <message>
+        <source>Only https:// keeps the password and the files from other readers.</source>
+        <translation>Nur https:// hält Passwort und Dateien vor anderen Lesern verborgen.</translation>
+    </message>
+    <message>
+        <source>The address asks for no {bib}, so that every run would have the same film.</source>
+        <translation>Die Adresse fragt nach keiner {bib}, sodass jeder Lauf denselben Film hätte.</translation>
+    </message>
+    <message>
+        <source>The address is that of a file. A folder is shared.</source>
+        <translation>Die Adresse gehört zu einer Datei. Geteilt wird ein Ordner.</translation>
+    </message>
+    <message>
+        <source>The address makes none for this run.</source>
+        <translation>Die Adresse ergibt keinen für diesen Lauf.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// and a server, whose name has no braces, user or password.</source>
+        <translation>Die Adresse muss mit https:// und einem Server beginnen, dessen Name keine Klammern, Benutzer oder Passwörter hat.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// and hold no user name and password.</source>
+        <translation>Die Adresse muss mit https:// beginnen und darf weder Benutzername noch Passwort enthalten.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// or http:// and hold no user name and password.</source>
+        <translation>Die Adresse muss mit https:// oder http:// beginnen und darf weder Benutzername noch Passwort enthalten.</translation>
+    </message>
+    <message>
+        <source>The list has no film with this bib.</source>
+        <translation>Die Liste hat keinen Film mit dieser Startnummer.</translation>
+    </message>
+    <message>
+        <source>The list tells no {} of this run.</source>
+        <translation>Die Liste nennt von diesem Lauf nicht: {}.</translation>
+    </message>
+    <message>
+        <source>number of the run</source>
+        <translation>Nummer des Laufs</translation>
+    </message>
+    <message>
+        <source>The pattern of names: {}</source>
+        <translation>Das Muster der Namen: {}</translation>
+    </message>
+    <message>
+        <source>The server does not speak WebDAV at this address.</source>
+        <translation>Der Server spricht unter dieser Adresse kein WebDAV.</translation>
+    </message>
+    <message>
+        <source>The server has too many files to share.</source>
+        <translation>Der Server hat zu viele Dateien zum Teilen.</translation>
+    </message>
+    <message>
+        <source>The server says that it lies in another folder.</source>
+        <translation>Der Server sagt, es liege in einem anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>There are too many files to share.</source>
+        <translation>Es sind zu viele Dateien zum Teilen.</translation>
+    </message>
+    <message>
+        <source>There is no address yet.</source>
+        <translation>Es gibt noch keine Adresse.</translation>
+    </message>
+    <message>
+        <source>There is no folder for the films yet.</source>
+        <translation>Es gibt noch keinen Ordner für die Filme.</translation>
+    </message>
+    <message>
+        <source>There is no start list, results list or split file for the bibs yet.</source>
+        <translation>Es gibt noch keine Startliste, Ergebnisliste oder Zwischenzeitdatei für die Startnummern.</translation>
+    </message>
+    <message>
+        <source>Would be more than 20 GB in one go.</source>
+        <translation>Wären mehr als 20 GB auf einmal.</translation>
+    </message>
+    <message>
+        <source>{{{}}} means nothing here: there are {{bib}}, {{category}}, {{phase}} and {{run}}.</source>
+        <translation>{{{}}} bedeutet hier nichts: Es gibt {{bib}}, {{category}}, {{phase}} und {{run}}.</translation>
+    </message>
+    <message>
+        <source>Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in --json, as in cell/0/time</source>
+        <translation>Erklärt stattdessen eine Zahl: cell/ZEILE/SPALTE, die Zeile ab 0 gezählt wie in --json, etwa cell/0/time</translation>
+    </message>
+    <message>
+        <source>No start of {} is known in these races.</source>
+        <translation>Kein Start von {} ist in diesen Rennen bekannt.</translation>
+    </message>
+    <message>
+        <source>Only races in which this athlete starts, in whichever phase</source>
+        <translation>Nur Rennen, in denen dieser Sportler startet, gleich in welcher Phase</translation>
+    </message>
+    <message>
+        <source>Only races in which {} starts.</source>
+        <translation>Nur Rennen, in denen {} startet.</translation>
+    </message>
+    <message>
+        <source>Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in --json, as in cell/0/rank</source>
+        <translation>Erklärt stattdessen eine Zahl: cell/ZEILE/SPALTE, die Zeile ab 0 gezählt wie in --json, etwa cell/0/rank</translation>
+    </message>
+    <message>
+        <source>line {}</source>
+        <translation>Zeile {}</translation>
+    </message>
+    <message>
+        <source>column {}</source>
+        <translation>Spalte {}</translation>
+    </message>
+    <message>
+        <source>An empty penalty adds nothing.</source>
+        <translation>Eine leere Strafe fügt nichts hinzu.</translation>
+    </message>
+    <message>
+        <source>better</source>
+        <translation>bessere</translation>
+    </message>
+    <message>
+        <source>others</source>
+        <translation>andere</translation>
+    </message>
+    <message>
+        <source>Only rows with {} in {} are compared.</source>
+        <translation>Nur Zeilen mit {} in {} werden verglichen.</translation>
+    </message>
+    <message>
+        <source>The highest is the best.</source>
+        <translation>Der höchste ist der beste.</translation>
+    </message>
+    <message>
+        <source>As it stands in the list, read as a number.</source>
+        <translation>Wie es in der Liste steht, als Zahl gelesen.</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>The columns of the row added up.</source>
+        <translation>Die Spalten der Zeile zusammengezählt.</translation>
+    </message>
+    <message>
+        <source>Σ columns</source>
+        <translation>Σ Spalten</translation>
+    </message>
+    <message>
+        <source>The place in the column: one more than are better; times to the hundredth.</source>
+        <translation>Der Platz in der Spalte: einer mehr als bessere da sind; Zeiten auf Hundertstel.</translation>
+    </message>
+    <message>
+        <source>1 + better</source>
+        <translation>1 + bessere</translation>
+    </message>
+    <message>
+        <source>How far the number is behind the best of the column.</source>
+        <translation>Wie weit die Zahl hinter der besten der Spalte liegt.</translation>
+    </message>
+    <message>
+        <source>own − best</source>
+        <translation>eigene − beste</translation>
+    </message>
+    <message>
+        <source>How many percent the number is behind the best of the column.</source>
+        <translation>Wie viel Prozent die Zahl hinter der besten der Spalte liegt.</translation>
+    </message>
+    <message>
+        <source>How many percent of the others in the column are better.</source>
+        <translation>Wie viel Prozent der anderen in der Spalte besser sind.</translation>
+    </message>
+    <message>
+        <source>100 · better / others</source>
+        <translation>100 · bessere / andere</translation>
+    </message>
+    <message>
+        <source>The first column less the second.</source>
+        <translation>Die erste Spalte weniger die zweite.</translation>
+    </message>
+    <message>
+        <source>first − second</source>
+        <translation>erste − zweite</translation>
+    </message>
+    <message>
+        <source>How many rows say something in the column.</source>
+        <translation>Wie viele Zeilen in der Spalte etwas sagen.</translation>
+    </message>
+    <message>
+        <source>The numbers of all these rows added up.</source>
+        <translation>Die Zahlen all dieser Zeilen zusammengezählt.</translation>
+    </message>
+    <message>
+        <source>Σ rows</source>
+        <translation>Σ Zeilen</translation>
+    </message>
+    <message>
+        <source>The mean of the numbers of these rows.</source>
+        <translation>Das Mittel der Zahlen dieser Zeilen.</translation>
+    </message>
+    <message>
+        <source>Σ rows / number of rows</source>
+        <translation>Σ Zeilen / Anzahl der Zeilen</translation>
+    </message>
+    <message>
+        <source>As many of these rows have less as have more.</source>
+        <translation>Ebenso viele dieser Zeilen haben weniger wie mehr.</translation>
+    </message>
+    <message>
+        <source>median of rows</source>
+        <translation>Median der Zeilen</translation>
+    </message>
+    <message>
+        <source>The least number of these rows.</source>
+        <translation>Die kleinste Zahl dieser Zeilen.</translation>
+    </message>
+    <message>
+        <source>least of rows</source>
+        <translation>kleinste der Zeilen</translation>
+    </message>
+    <message>
+        <source>The largest number of these rows.</source>
+        <translation>Die größte Zahl dieser Zeilen.</translation>
+    </message>
+    <message>
+        <source>largest of rows</source>
+        <translation>größte der Zeilen</translation>
+    </message>
+    <message>
+        <source>Of {} rows the first {} are told.</source>
+        <translation>Von {} Zeilen werden die ersten {} genannt.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -6902,6 +9266,218 @@
         <source>Folders</source>
         <translation>Ordner</translation>
     </message>
+    <message>
+        <source>Marked</source>
+        <translation>Markiert</translation>
+    </message>
+    <message>
+        <source>Proposal</source>
+        <translation>Vorschlag</translation>
+    </message>
+    <message>
+        <source>Confidence</source>
+        <translation>Sicherheit</translation>
+    </message>
+    <message>
+        <source>%1 s, %2</source>
+        <translation>%1 s, %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keiner</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Lauf</translation>
+    </message>
+    <message>
+        <source>No boat was found that could be this run: look for it in the slit picture.</source>
+        <translation>Es wurde kein Boot gefunden, das dieser Lauf sein könnte: Suchen Sie es im Schlitzbild.</translation>
+    </message>
+    <message>
+        <source>This run is marked here.</source>
+        <translation>Dieser Lauf ist hier markiert.</translation>
+    </message>
+    <message>
+        <source>Where the run is marked at this line, in seconds of the film</source>
+        <translation>Wo der Lauf an dieser Linie markiert ist, in Sekunden des Films</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>ausgelassen</translation>
+    </message>
+    <message>
+        <source>→ new here</source>
+        <translation>→ neu hier</translation>
+    </message>
+    <message>
+        <source>← new there</source>
+        <translation>← neu dort</translation>
+    </message>
+    <message>
+        <source>→ changed here</source>
+        <translation>→ hier geändert</translation>
+    </message>
+    <message>
+        <source>← changed there</source>
+        <translation>← dort geändert</translation>
+    </message>
+    <message>
+        <source>↔ on both sides</source>
+        <translation>↔ auf beiden Seiten</translation>
+    </message>
+    <message>
+        <source>✕ deleted here</source>
+        <translation>✕ hier gelöscht</translation>
+    </message>
+    <message>
+        <source>✕ deleted there</source>
+        <translation>✕ dort gelöscht</translation>
+    </message>
+    <message>
+        <source>Goes to the server</source>
+        <translation>Geht zum Server</translation>
+    </message>
+    <message>
+        <source>Comes from the server</source>
+        <translation>Kommt vom Server</translation>
+    </message>
+    <message>
+        <source>Goes to the server, in place of what it has</source>
+        <translation>Geht zum Server, anstelle dessen, was er hat</translation>
+    </message>
+    <message>
+        <source>Comes from the server, in place of what is here</source>
+        <translation>Kommt vom Server, anstelle dessen, was hier ist</translation>
+    </message>
+    <message>
+        <source>Is compared; where both differ, both are kept</source>
+        <translation>Wird verglichen; wo sich beide unterscheiden, bleiben beide erhalten</translation>
+    </message>
+    <message>
+        <source>Is deleted on the server where you tick it</source>
+        <translation>Wird auf dem Server gelöscht, wo Sie es abhaken</translation>
+    </message>
+    <message>
+        <source>Is deleted here where you tick it</source>
+        <translation>Wird hier gelöscht, wo Sie es abhaken</translation>
+    </message>
+    <message>
+        <source>%1 new here</source>
+        <translation>%1 neu hier</translation>
+    </message>
+    <message>
+        <source>%1 new there</source>
+        <translation>%1 neu dort</translation>
+    </message>
+    <message>
+        <source>%1 changed here</source>
+        <translation>%1 hier geändert</translation>
+    </message>
+    <message>
+        <source>%1 changed there</source>
+        <translation>%1 dort geändert</translation>
+    </message>
+    <message>
+        <source>%1 on both sides</source>
+        <translation>%1 auf beiden Seiten</translation>
+    </message>
+    <message>
+        <source>%1 deleted here</source>
+        <translation>%1 hier gelöscht</translation>
+    </message>
+    <message>
+        <source>%1 deleted there</source>
+        <translation>%1 dort gelöscht</translation>
+    </message>
+    <message>
+        <source>Both sides are the same</source>
+        <translation>Beide Seiten sind gleich</translation>
+    </message>
+    <message>
+        <source>%1 shared</source>
+        <translation>%1 geteilt</translation>
+    </message>
+    <message>
+        <source>%1 kept twice</source>
+        <translation>%1 doppelt behalten</translation>
+    </message>
+    <message>
+        <source>Fastest at %1 s of the film: %2 m/s.</source>
+        <translation>Am schnellsten bei %1 s des Films: %2 m/s.</translation>
+    </message>
+    <message>
+        <source>Fastest at %1 s of the film: %2 m/s (a scale only: it holds near the two points and along their line).</source>
+        <translation>Am schnellsten bei %1 s des Films: %2 m/s (nur ein Maßstab: Er gilt nahe den zwei Punkten und entlang ihrer Linie).</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Steadied x</source>
+        <translation>x beruhigt</translation>
+    </message>
+    <message>
+        <source>Steadied y</source>
+        <translation>y beruhigt</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>Quer</translation>
+    </message>
+    <message>
+        <source>Along</source>
+        <translation>Längs</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Güte</translation>
+    </message>
+    <message>
+        <source>Film [s]</source>
+        <translation>Film [s]</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>Draw a box round what is to be followed.</source>
+        <translation>Zeichnen Sie einen Rahmen um das, was verfolgt werden soll.</translation>
+    </message>
+    <message>
+        <source>Click known points on the water for metres and speeds: the poles of two gates, or of one for a scale only.</source>
+        <translation>Klicken Sie für Meter und Geschwindigkeiten bekannte Punkte auf dem Wasser an: die Torstäbe von zwei Toren, oder von einem nur für einen Maßstab.</translation>
+    </message>
+    <message>
+        <source>There is no speed: the path is too short, or the camera&apos;s motion is not known.</source>
+        <translation>Es gibt keine Geschwindigkeit: Die Bahn ist zu kurz, oder die Bewegung der Kamera ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>Uncertainty of the clicks</source>
+        <translation>Unsicherheit der Klicks</translation>
+    </message>
+    <message>
+        <source>✓ Done</source>
+        <translation>✓ Fertig</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>Läuft…</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::AthleteDialog</name>
@@ -7861,10 +10437,6 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
         <translation>Darin</translation>
     </message>
     <message>
-        <source>Its place in the composed film. Space chooses it or takes it out.</source>
-        <translation>Sein Platz im zusammengesetzten Film. Leertaste wählt ihn oder nimmt ihn heraus.</translation>
-    </message>
-    <message>
         <source>Film</source>
         <translation>Film</translation>
     </message>
@@ -7999,6 +10571,10 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     <message>
         <source>Shows it twice as large, round that path.</source>
         <translation>Zeigt ihn doppelt so groß, um diese Bahn herum.</translation>
+    </message>
+    <message>
+        <source>Its place in the composed film. Enter chooses it or takes it out.</source>
+        <translation>Sein Platz im zusammengesetzten Film. Eingabetaste wählt ihn oder nimmt ihn heraus.</translation>
     </message>
 </context>
 <context>
@@ -8651,6 +11227,34 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     <message>
         <source>Leave it</source>
         <translation>So lassen</translation>
+    </message>
+    <message>
+        <source>Drag a part, or one of its points. The poles of a gate turn about each other.</source>
+        <translation>Ziehen Sie ein Teil oder einen seiner Punkte. Die Stäbe eines Tors drehen sich umeinander.</translation>
+    </message>
+    <message>
+        <source>Click where a gate hangs; hold the button and drag its right pole round.</source>
+        <translation>Klicken Sie, wo ein Tor hängt; halten Sie die Taste und drehen Sie den rechten Stab herum.</translation>
+    </message>
+    <message>
+        <source>Drag from bank to bank where the split is taken.</source>
+        <translation>Ziehen Sie von Ufer zu Ufer, wo die Zwischenzeit genommen wird.</translation>
+    </message>
+    <message>
+        <source>Draw along the bank with the button held down.</source>
+        <translation>Zeichnen Sie mit gehaltener Taste am Ufer entlang.</translation>
+    </message>
+    <message>
+        <source>Draw the way of a boat with the button held down, and name it at the right.</source>
+        <translation>Zeichnen Sie mit gehaltener Taste den Weg eines Boots und benennen Sie ihn rechts.</translation>
+    </message>
+    <message>
+        <source>Click where words are to stand.</source>
+        <translation>Klicken Sie, wo Wörter stehen sollen.</translation>
+    </message>
+    <message>
+        <source>It has %1 MB. Up to 40 MB can be read; save it smaller first.</source>
+        <translation>Es hat %1 MB. Bis zu 40 MB können gelesen werden; speichern Sie es zuerst kleiner.</translation>
     </message>
 </context>
 <context>
@@ -14353,6 +16957,14 @@ Strafen sind nicht enthalten.</translation>
         <source>Show in &amp;folder</source>
         <translation>Im &amp;Ordner zeigen</translation>
     </message>
+    <message>
+        <source>The saved files have no run of this athlete.</source>
+        <translation>Die gespeicherten Dateien haben keinen Lauf dieses Athleten.</translation>
+    </message>
+    <message>
+        <source>There is no run of a named athlete in the split files that are open.</source>
+        <translation>In den offenen Zwischenzeitdateien ist kein Lauf eines genannten Athleten.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::PivotDialog</name>
@@ -17120,6 +19732,10 @@ Eine Datei wählen.</translation>
         <source>Pa&amp;ge for an athlete…</source>
         <translation>Seite für einen &amp;Athleten…</translation>
     </message>
+    <message>
+        <source>Only the athlete&apos;s &amp;own races</source>
+        <translation>Nur die &amp;eigenen Rennen des Sportlers</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SeasonHeader</name>
@@ -17138,6 +19754,14 @@ Eine Datei wählen.</translation>
     <message>
         <source>&amp;Athlete</source>
         <translation>&amp;Athlet</translation>
+    </message>
+    <message>
+        <source>Only &amp;own races</source>
+        <translation>Nur &amp;eigene Rennen</translation>
+    </message>
+    <message>
+        <source>Only races in which this athlete starts, in whichever phase; on every page</source>
+        <translation>Nur Rennen, in denen dieser Sportler startet, gleich in welcher Phase; auf jeder Seite</translation>
     </message>
 </context>
 <context>
@@ -18608,30 +21232,6 @@ Eine Datei wählen.</translation>
         <translation>Ordner teilen</translation>
     </message>
     <message>
-        <source>F&amp;older</source>
-        <translation>&amp;Ordner</translation>
-    </message>
-    <message>
-        <source>On this computer, with everything below it but hidden files</source>
-        <translation>Auf diesem Rechner, mit allem darunter außer verborgenen Dateien</translation>
-    </message>
-    <message>
-        <source>the folder that is shared</source>
-        <translation>der geteilte Ordner</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>&amp;Adresse</translation>
-    </message>
-    <message>
-        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
-        <translation>Eines Ordners auf einem WebDAV-Server: Nextcloud, ownCloud, ein NAS, Apache…</translation>
-    </message>
-    <message>
-        <source>Choose the folder…</source>
-        <translation>Ordner wählen…</translation>
-    </message>
-    <message>
         <source>Compare</source>
         <translation>Vergleichen</translation>
     </message>
@@ -18662,14 +21262,6 @@ Eine Datei wählen.</translation>
     <message>
         <source>The folder to share</source>
         <translation>Der zu teilende Ordner</translation>
-    </message>
-    <message>
-        <source>There is no folder to share yet.</source>
-        <translation>Noch kein Ordner zum Teilen.</translation>
-    </message>
-    <message>
-        <source>“%1” is no folder.</source>
-        <translation>„%1“ ist kein Ordner.</translation>
     </message>
     <message>
         <source>Both sides are looked at…</source>
@@ -18941,6 +21533,10 @@ und %1 weitere</translation>
     <message>
         <source>The lines could not be kept in %1: %2</source>
         <translation>Die Linien konnten nicht in %1 bewahrt werden: %2</translation>
+    </message>
+    <message>
+        <source>The lines of this film are still being read. Try again in a moment.</source>
+        <translation>Die Linien dieses Films werden noch gelesen. Gleich noch einmal versuchen.</translation>
     </message>
 </context>
 <context>
@@ -19401,6 +21997,14 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <message>
         <source>First steps, three minutes</source>
         <translation>Erste Schritte, drei Minuten</translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation>Erledigt: %1</translation>
+    </message>
+    <message>
+        <source>To do: %1</source>
+        <translation>Zu tun: %1</translation>
     </message>
 </context>
 <context>
@@ -19985,6 +22589,14 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
             <numerusform>%n Spalte</numerusform>
             <numerusform>%n Spalten</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Line %1, column %2 of the list says “%3”.</source>
+        <translation>In Zeile %1, Spalte %2 der Liste steht „%3“.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the list is no row of this table any more.</source>
+        <translation>Zeile %1 der Liste ist keine Zeile dieser Tabelle mehr.</translation>
     </message>
 </context>
 <context>

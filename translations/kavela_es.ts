@@ -906,6 +906,41 @@
     </message>
 </context>
 <context>
+    <name>SharePlace</name>
+    <message>
+        <source>Choose the folder…</source>
+        <translation>Elegir la carpeta…</translation>
+    </message>
+    <message>
+        <source>F&amp;older</source>
+        <translation>&amp;Carpeta</translation>
+    </message>
+    <message>
+        <source>On this computer, with everything below it but hidden files</source>
+        <translation>En este ordenador, con todo lo que contiene salvo los archivos ocultos</translation>
+    </message>
+    <message>
+        <source>the folder that is shared</source>
+        <translation>la carpeta que se comparte</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>Di&amp;rección</translation>
+    </message>
+    <message>
+        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
+        <translation>De una carpeta en un servidor WebDAV: Nextcloud, ownCloud, un NAS, Apache…</translation>
+    </message>
+    <message>
+        <source>There is no folder to share yet.</source>
+        <translation>Aún no hay ninguna carpeta que compartir.</translation>
+    </message>
+    <message>
+        <source>“%1” is no folder.</source>
+        <translation>«%1» no es una carpeta.</translation>
+    </message>
+</context>
+<context>
     <name>SlitMarking</name>
     <message>
         <source>The film is not read so far.</source>
@@ -1076,6 +1111,18 @@
     <message>
         <source>Work kept</source>
         <translation>Trabajo guardado</translation>
+    </message>
+    <message>
+        <source>Pattern of the names</source>
+        <translation>Patrón de los nombres</translation>
+    </message>
+    <message>
+        <source>Names now and then</source>
+        <translation>Nombres actuales y nuevos</translation>
+    </message>
+    <message>
+        <source>Films being composed</source>
+        <translation>Vídeos en composición</translation>
     </message>
 </context>
 <context>
@@ -2982,22 +3029,6 @@
         <source>Wilson&apos;s interval, 90 %</source>
         <translation>Intervalo de Wilson, 90&#xa0;%</translation>
     </message>
-    <message>
-        <source>{} runs are</source>
-        <translation>{} mangas se omiten</translation>
-    </message>
-    <message>
-        <source>{} left out: {} penalties are not known by gate.</source>
-        <translation>Omitido: {}: {} penalizaciones no se conocen por puerta.</translation>
-    </message>
-    <message>
-        <source> and {} more</source>
-        <translation> y {} más</translation>
-    </message>
-    <message>
-        <source>{} {} out: touched more than the {} that all have in common.</source>
-        <translation>{} {} por encima: más toques que el {} común a todas.</translation>
-    </message>
     <message numerus="yes">
         <source>{} touches</source>
         <translation>
@@ -3025,47 +3056,16 @@
         <translation>Ninguno destaca ({}): el más alto, {} ({}), puede ser azar.</translation>
     </message>
     <message>
-        <source>Without this {}: {}.</source>
-        <translation>Sin esto ({}): {}.</translation>
-    </message>
-    <message>
         <source>None of {} cost a place.</source>
         <translation>Coste en puestos de {}: ninguno.</translation>
-    </message>
-    <message>
-        <source>{} of them</source>
-        <translation>{} de ellas</translation>
-    </message>
-    <message>
-        <source>Of {} {} cost places, {} a medal.</source>
-        <translation>De {}, {} costaron puestos; una medalla, {}.</translation>
     </message>
     <message>
         <source>None of {} was noted in detail.</source>
         <translation>Anotado con detalle de {}: nada.</translation>
     </message>
-    <message numerus="yes">
-        <source>{} were</source>
-        <translation>
-            <numerusform>se anotó {}</numerusform>
-            <numerusform>se anotaron {}</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Of {} {} noted in detail.</source>
-        <translation>De {} {} con detalle.</translation>
-    </message>
     <message>
         <source>Too few to tell: no group has {} whole runs.</source>
         <translation>Muy pocas para decirlo: ningún grupo tiene {} mangas enteras.</translation>
-    </message>
-    <message>
-        <source>{} touches a run in {}, all in one third of the field.</source>
-        <translation>{} toques por manga en {}, todas en un mismo tercio de los participantes.</translation>
-    </message>
-    <message>
-        <source>{:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
-        <translation>{:.2f} toques por manga en el tercio más rápido, {:.2f} en el más lento.</translation>
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run.</source>
@@ -3102,18 +3102,6 @@
     <message>
         <source>trend {:+.1f} % a year: {}</source>
         <translation>tendencia {:+.1f}&#xa0;% al año: {}</translation>
-    </message>
-    <message>
-        <source>{}: too few runs to tell a trend behind {}.</source>
-        <translation>{}: muy pocas mangas para indicar una tendencia respecto a {}.</translation>
-    </message>
-    <message>
-        <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
-        <translation>{}: {:+.1f}&#xa0;% al año respecto a {}{}, {}.</translation>
-    </message>
-    <message>
-        <source>{} of {}&apos;s races is known.</source>
-        <translation>{} de las carreras de {}: no se conoce.</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
@@ -3176,14 +3164,6 @@
     <message>
         <source>{:.1f} % would have been a medal in {} of {}</source>
         <translation>Un {:.1f}&#xa0;% habría sido medalla en {} de {}</translation>
-    </message>
-    <message>
-        <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
-        <translation>De {} que tienen ambas las veces suficientes, {} {} sin duda más rápidos en {}, {} más lentos.</translation>
-    </message>
-    <message>
-        <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>{}: {}, {} de {} ({:.0f}–{:.0f}&#xa0;%).</translation>
     </message>
     <message>
         <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
@@ -5199,6 +5179,2390 @@
         <source>number of notes</source>
         <translation>número de notas</translation>
     </message>
+    <message>
+        <source>whole</source>
+        <translation>número entero</translation>
+    </message>
+    <message>
+        <source>decimal</source>
+        <translation>número decimal</translation>
+    </message>
+    <message>
+        <source>status</source>
+        <translation>estado</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>fecha</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>texto</translation>
+    </message>
+    <message>
+        <source>Add {}</source>
+        <translation>Añadir {}</translation>
+    </message>
+    <message>
+        <source>Colour {}</source>
+        <translation>Colorear {}</translation>
+    </message>
+    <message>
+        <source>First line is a row</source>
+        <translation>La primera línea es una fila</translation>
+    </message>
+    <message>
+        <source>First line is titles</source>
+        <translation>La primera línea son títulos</translation>
+    </message>
+    <message>
+        <source>Group by {}</source>
+        <translation>Agrupar por {}</translation>
+    </message>
+    <message>
+        <source>Keep {} in {}</source>
+        <translation>Conservar {} en {}</translation>
+    </message>
+    <message>
+        <source>Leave out {}</source>
+        <translation>Omitir {}</translation>
+    </message>
+    <message>
+        <source>No colours in {}</source>
+        <translation>Sin colores en {}</translation>
+    </message>
+    <message>
+        <source>No groups</source>
+        <translation>Sin grupos</translation>
+    </message>
+    <message>
+        <source>Pivot of {} by {}</source>
+        <translation>Tabla dinámica de {} por {}</translation>
+    </message>
+    <message>
+        <source>Read {} as {}</source>
+        <translation>Leer {} como {}</translation>
+    </message>
+    <message>
+        <source>Sort by {}</source>
+        <translation>Ordenar por {}</translation>
+    </message>
+    <message>
+        <source>Sort by {}, downwards</source>
+        <translation>Ordenar por {}, descendente</translation>
+    </message>
+    <message>
+        <source>Medals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Más medallas: {}, {} de {} ({:.0f}–{:.0f}&#xa0;%).</translation>
+    </message>
+    <message>
+        <source>In finals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Más veces en finales: {}, {} de {} ({:.0f}–{:.0f}&#xa0;%).</translation>
+    </message>
+    <message>
+        <source>In semifinals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Más veces en semifinales: {}, {} de {} ({:.0f}–{:.0f}&#xa0;%).</translation>
+    </message>
+    <message>
+        <source>No fastest split of {}&apos;s races is known.</source>
+        <translation>De las carreras de {} no se conoce ningún parcial más rápido.</translation>
+    </message>
+    <message>
+        <source>No winner of {}&apos;s races is known.</source>
+        <translation>De las carreras de {} no se conoce ningún ganador.</translation>
+    </message>
+    <message>
+        <source>No penalty of a whole run is known by gate.</source>
+        <translation>De ninguna manga completa se conocen las penalizaciones por puerta.</translation>
+    </message>
+    <message>
+        <source>No race of the team has a result that says so.</source>
+        <translation>Ninguna carrera del equipo tiene un resultado que lo diga.</translation>
+    </message>
+    <message>
+        <source>No whole run is known by gate.</source>
+        <translation>No se conoce ninguna manga completa por puertas.</translation>
+    </message>
+    <message>
+        <source>Nobody&apos;s penalties are known by gate.</source>
+        <translation>No se conocen las penalizaciones de nadie por puerta.</translation>
+    </message>
+    <message>
+        <source>Noted in detail: {} of {}. Shares of what was noted, no rates: nobody notes how gates are passed clean.</source>
+        <translation>Anotadas con detalle: {} de {}. Son partes de lo anotado, no frecuencias: nadie anota cómo se pasan las puertas sin penalizar.</translation>
+    </message>
+    <message>
+        <source>Noted in detail: {} of {}. Too few to tell.</source>
+        <translation>Anotadas con detalle: {} de {}. Muy pocas para decir algo.</translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, beyond doubt faster in the final: {}, slower: {}.</source>
+        <translation>De {} que tienen ambas las veces suficientes, sin duda más rápidos en la final: {}, más lentos: {}.</translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, beyond doubt faster in the second run: {}, slower: {}.</source>
+        <translation>De {} que tienen ambas las veces suficientes, sin duda más rápidos en la segunda manga: {}, más lentos: {}.</translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, none of them a medal.</source>
+        <translation>De {}, {} costaron puestos, ninguna de ellas una medalla.</translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, {} of them a medal.</source>
+        <translation>De {}, {} costaron puestos, {} de ellas una medalla.</translation>
+    </message>
+    <message>
+        <source>The fast touch less: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Los rápidos tocan menos: {:.2f} toques por manga en el tercio más rápido, {:.2f} en el más lento.</translation>
+    </message>
+    <message>
+        <source>The fast touch more: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Los rápidos tocan más: {:.2f} toques por manga en el tercio más rápido, {:.2f} en el más lento.</translation>
+    </message>
+    <message>
+        <source>Too few to tell fast from slow: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Muy pocas para distinguir rápidos de lentos: {:.2f} toques por manga en el tercio más rápido, {:.2f} en el más lento.</translation>
+    </message>
+    <message>
+        <source>There is no penalty.</source>
+        <translation>No hay ninguna penalización.</translation>
+    </message>
+    <message>
+        <source>Too few races with both to tell a change.</source>
+        <translation>Muy pocas carreras con ambas para indicar un cambio.</translation>
+    </message>
+    <message>
+        <source>Without this missed gate: {}.</source>
+        <translation>Sin este salto: {}.</translation>
+    </message>
+    <message>
+        <source>Without this touch: {}.</source>
+        <translation>Sin este toque: {}.</translation>
+    </message>
+    <message>
+        <source>category</source>
+        <translation>categoría</translation>
+    </message>
+    <message>
+        <source>crew</source>
+        <translation>tripulación</translation>
+    </message>
+    <message>
+        <source>gate</source>
+        <translation>puerta</translation>
+    </message>
+    <message>
+        <source>hand</source>
+        <translation>mano</translation>
+    </message>
+    <message>
+        <source>month</source>
+        <translation>mes</translation>
+    </message>
+    <message>
+        <source>phase</source>
+        <translation>fase</translation>
+    </message>
+    <message>
+        <source>race</source>
+        <translation>carrera</translation>
+    </message>
+    <message>
+        <source>section</source>
+        <translation>tramo</translation>
+    </message>
+    <message>
+        <source>tenth of the course</source>
+        <translation>décimo del recorrido</translation>
+    </message>
+    <message>
+        <source>type of gate</source>
+        <translation>tipo de puerta</translation>
+    </message>
+    <message>
+        <source>nobody came</source>
+        <translation>nadie llegó</translation>
+    </message>
+    <message>
+        <source>those without one</source>
+        <translation>los que no tienen</translation>
+    </message>
+    <message>
+        <source>{:.2f} touches a run in {}, all in one third of the field.</source>
+        <translation>{:.2f} toques por manga en {}, todas en un mismo tercio de los participantes.</translation>
+    </message>
+    <message>
+        <source>{} and {} more</source>
+        <translation>{} y {} más</translation>
+    </message>
+    <message>
+        <source>{} stand out: touched more than the {} that all have in common.</source>
+        <translation>{} destacan: más toques que el {} común a todas.</translation>
+    </message>
+    <message>
+        <source>{} stands out: touched more than the {} that all have in common.</source>
+        <translation>{} destaca: más toques que el {} común a todas.</translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind the fastest splits.</source>
+        <translation>{}: muy pocas mangas para indicar una tendencia respecto a los parciales más rápidos.</translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind the winners.</source>
+        <translation>{}: muy pocas mangas para indicar una tendencia respecto a los ganadores.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the fastest splits ({:+.1f} to {:+.1f}), {}.</source>
+        <translation>{}: {:+.1f}&#xa0;% al año respecto a los parciales más rápidos (de {:+.1f} a {:+.1f}), {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the fastest splits, {}.</source>
+        <translation>{}: {:+.1f}&#xa0;% al año respecto a los parciales más rápidos, {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the winners ({:+.1f} to {:+.1f}), {}.</source>
+        <translation>{}: {:+.1f}&#xa0;% al año respecto a los ganadores (de {:+.1f} a {:+.1f}), {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the winners, {}.</source>
+        <translation>{}: {:+.1f}&#xa0;% al año respecto a los ganadores, {}.</translation>
+    </message>
+    <message>
+        <source>{}st</source>
+        <translation>{}.º</translation>
+    </message>
+    <message>
+        <source>{}nd</source>
+        <translation>{}.º</translation>
+    </message>
+    <message>
+        <source>{}rd</source>
+        <translation>{}.º</translation>
+    </message>
+    <message>
+        <source>{}th</source>
+        <translation>{}.º</translation>
+    </message>
+    <message>
+        <source>* the best of its column.</source>
+        <translation>* lo mejor de su columna.</translation>
+    </message>
+    <message>
+        <source>Against the winners</source>
+        <translation>Comparado con los ganadores</translation>
+    </message>
+    <message>
+        <source>Against the winners, over {}. Losing: the whole interval is above 0.</source>
+        <translation>Comparado con los ganadores, en {}. Se pierde: todo el intervalo está por encima de 0.</translation>
+    </message>
+    <message>
+        <source>All runs</source>
+        <translation>Todas las mangas</translation>
+    </message>
+    <message>
+        <source>Among the others</source>
+        <translation>Entre los demás</translation>
+    </message>
+    <message>
+        <source>Behind the winner</source>
+        <translation>Respecto al ganador</translation>
+    </message>
+    <message>
+        <source>Beside the winner</source>
+        <translation>Junto al ganador</translation>
+    </message>
+    <message>
+        <source>Crew</source>
+        <translation>Tripulación</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Día</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Vídeos</translation>
+    </message>
+    <message>
+        <source>Gap to the ideal run from section to section: {}</source>
+        <translation>Diferencia con la manga ideal de tramo en tramo: {}</translation>
+    </message>
+    <message>
+        <source>Gap to {} from section to section: {}</source>
+        <translation>Diferencia con {} de tramo en tramo: {}</translation>
+    </message>
+    <message>
+        <source>Gap to {}, in seconds: above the line is behind.</source>
+        <translation>Diferencia con {}, en segundos: por encima de la línea es por detrás.</translation>
+    </message>
+    <message>
+        <source>This run won. Gap to the ideal run, the best of every section, in seconds.</source>
+        <translation>Esta manga ganó. Diferencia con la manga ideal, lo mejor de cada tramo, en segundos.</translation>
+    </message>
+    <message>
+        <source>Gate not noted</source>
+        <translation>Puerta sin anotar</translation>
+    </message>
+    <message>
+        <source>Gate {}</source>
+        <translation>Puerta {}</translation>
+    </message>
+    <message>
+        <source>Most lost: {}.</source>
+        <translation>Donde más se pierde: {}.</translation>
+    </message>
+    <message>
+        <source>Not ranked, time</source>
+        <translation>Sin clasificar, tiempo</translation>
+    </message>
+    <message>
+        <source>Nothing stands out from these runs: no interval lies above 0 as a whole.</source>
+        <translation>Nada destaca en estas mangas: ningún intervalo queda entero por encima de 0.</translation>
+    </message>
+    <message>
+        <source>Of what</source>
+        <translation>De qué</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Otras</translation>
+    </message>
+    <message>
+        <source>Penalties on the course</source>
+        <translation>Penalizaciones en el recorrido</translation>
+    </message>
+    <message>
+        <source>Penalty seconds are in the times.</source>
+        <translation>Los segundos de penalización están en los tiempos.</translation>
+    </message>
+    <message>
+        <source>Percent behind the winner by day, penalties included; the filled dot is the last run of each race.</source>
+        <translation>Porcentaje respecto al ganador por día, con penalizaciones; el punto relleno es la última manga de cada carrera.</translation>
+    </message>
+    <message>
+        <source>Percent behind the winner, run by run, {} to {}</source>
+        <translation>Porcentaje respecto al ganador, manga a manga, de {} a {}</translation>
+    </message>
+    <message>
+        <source>Run {}</source>
+        <translation>Manga {}</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation>Temporada</translation>
+    </message>
+    <message>
+        <source>Split table: {}</source>
+        <translation>Tabla de parciales: {}</translation>
+    </message>
+    <message>
+        <source>The name of a page ends in .html, and its films lie in the folder named the same without that.</source>
+        <translation>El nombre de una página termina en .html y sus vídeos están en la carpeta del mismo nombre sin eso.</translation>
+    </message>
+    <message>
+        <source>Time lost, as noted</source>
+        <translation>Tiempo perdido, según lo anotado</translation>
+    </message>
+    <message>
+        <source>Times from the start to each split.</source>
+        <translation>Tiempos desde la salida hasta cada parcial.</translation>
+    </message>
+    <message>
+        <source>Times in seconds. Made with Kavela.</source>
+        <translation>Tiempos en segundos. Hecho con Kavela.</translation>
+    </message>
+    <message>
+        <source>To winner</source>
+        <translation>Al ganador</translation>
+    </message>
+    <message>
+        <source>at {} s of the run</source>
+        <translation>a los {} s de la manga</translation>
+    </message>
+    <message>
+        <source>eyes: {}</source>
+        <translation>mirada: {}</translation>
+    </message>
+    <message>
+        <source>fastest</source>
+        <translation>más rápido</translation>
+    </message>
+    <message>
+        <source>middle</source>
+        <translation>medio</translation>
+    </message>
+    <message>
+        <source>slowest</source>
+        <translation>más lento</translation>
+    </message>
+    <message>
+        <source>upstream</source>
+        <translation>remonte</translation>
+    </message>
+    <message>
+        <source>{} &lt;small&gt;of {}&lt;/small&gt;</source>
+        <translation>{} &lt;small&gt;de {}&lt;/small&gt;</translation>
+    </message>
+    <message>
+        <source>{} = paddling {}, penalties {}, official against video time {}.</source>
+        <translation>{} = paleo {}, penalizaciones {}, tiempo oficial frente al del vídeo {}.</translation>
+    </message>
+    <message>
+        <source>{} = paddling {}, penalties {}.</source>
+        <translation>{} = paleo {}, penalizaciones {}.</translation>
+    </message>
+    <message>
+        <source>{} against {}</source>
+        <translation>{} respecto a {}</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} gates</source>
+        <translation>
+            <numerusform>{} puerta</numerusform>
+            <numerusform>{} puertas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} more runs are left out.</source>
+        <translation>
+            <numerusform>Se omite {} manga más.</numerusform>
+            <numerusform>Se omiten {} mangas más.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} of the runs compared, column by column.</source>
+        <translation>{} de las mangas comparadas, columna por columna.</translation>
+    </message>
+    <message>
+        <source>{} to {}</source>
+        <translation>{} a {}</translation>
+    </message>
+    <message>
+        <source>{}, run {}</source>
+        <translation>{}, manga {}</translation>
+    </message>
+    <message>
+        <source>{}, {} upstream</source>
+        <translation>{}, {} remontes</translation>
+    </message>
+    <message>
+        <source>{}. The film lies beside this page: {}</source>
+        <translation>{}. El vídeo está junto a esta página: {}</translation>
+    </message>
+    <message>
+        <source>{}: {} s a run</source>
+        <translation>{}: {} s por manga</translation>
+    </message>
+    <message>
+        <source>The film is not there.</source>
+        <translation>El vídeo no está.</translation>
+    </message>
+    <message>
+        <source>The marks of the run lie behind the end of the film.</source>
+        <translation>Las marcas de la manga están después del final del vídeo.</translation>
+    </message>
+    <message>
+        <source>No run of &quot;{}&quot; is of the phase &quot;{}&quot;.</source>
+        <translation>Ninguna manga de «{}» es de la fase «{}».</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Entrada</translation>
+    </message>
+    <message>
+        <source>Downstream gate</source>
+        <translation>Puerta a favor</translation>
+    </message>
+    <message>
+        <source>Upstream gate</source>
+        <translation>Remonte</translation>
+    </message>
+    <message>
+        <source>Offset gate</source>
+        <translation>Puerta desplazada</translation>
+    </message>
+    <message>
+        <source>Spin gate</source>
+        <translation>Puerta de giro completo</translation>
+    </message>
+    <message>
+        <source>Single pole</source>
+        <translation>Un solo palo</translation>
+    </message>
+    <message>
+        <source>Touch</source>
+        <translation>Toque</translation>
+    </message>
+    <message>
+        <source>Missed gate</source>
+        <translation>Salto</translation>
+    </message>
+    <message>
+        <source>Head outside the gate</source>
+        <translation>Cabeza fuera de la puerta</translation>
+    </message>
+    <message>
+        <source>Wrong direction</source>
+        <translation>Sentido incorrecto</translation>
+    </message>
+    <message>
+        <source>Wrong order</source>
+        <translation>Orden incorrecto</translation>
+    </message>
+    <message>
+        <source>Pole pushed on purpose</source>
+        <translation>Palo empujado a propósito</translation>
+    </message>
+    <message>
+        <source>Upside down in the gate</source>
+        <translation>Volcado en la puerta</translation>
+    </message>
+    <message>
+        <source>Inner pole</source>
+        <translation>Palo interior</translation>
+    </message>
+    <message>
+        <source>Outer pole</source>
+        <translation>Palo exterior</translation>
+    </message>
+    <message>
+        <source>Both poles</source>
+        <translation>Ambos palos</translation>
+    </message>
+    <message>
+        <source>Left pole</source>
+        <translation>Palo izquierdo</translation>
+    </message>
+    <message>
+        <source>Right pole</source>
+        <translation>Palo derecho</translation>
+    </message>
+    <message>
+        <source>Boat</source>
+        <translation>Barco</translation>
+    </message>
+    <message>
+        <source>Blade</source>
+        <translation>Pala</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>Cuerpo</translation>
+    </message>
+    <message>
+        <source>Head</source>
+        <translation>Cabeza</translation>
+    </message>
+    <message>
+        <source>Bow</source>
+        <translation>Proa</translation>
+    </message>
+    <message>
+        <source>Stern</source>
+        <translation>Popa</translation>
+    </message>
+    <message>
+        <source>Shaft</source>
+        <translation>Pértiga</translation>
+    </message>
+    <message>
+        <source>Arm</source>
+        <translation>Brazo</translation>
+    </message>
+    <message>
+        <source>Washed past the gate</source>
+        <translation>Arrastrado más allá de la puerta</translation>
+    </message>
+    <message>
+        <source>Left out on purpose</source>
+        <translation>Omitida a propósito</translation>
+    </message>
+    <message>
+        <source>Entering</source>
+        <translation>Al entrar</translation>
+    </message>
+    <message>
+        <source>In the gate</source>
+        <translation>En la puerta</translation>
+    </message>
+    <message>
+        <source>Leaving</source>
+        <translation>Al salir</translation>
+    </message>
+    <message>
+        <source>Before the gate</source>
+        <translation>Antes de la puerta</translation>
+    </message>
+    <message>
+        <source>After the gate</source>
+        <translation>Después de la puerta</translation>
+    </message>
+    <message>
+        <source>Forwards</source>
+        <translation>Hacia delante</translation>
+    </message>
+    <message>
+        <source>Backwards</source>
+        <translation>Hacia atrás</translation>
+    </message>
+    <message>
+        <source>Sideways</source>
+        <translation>De lado</translation>
+    </message>
+    <message>
+        <source>Turning left</source>
+        <translation>Girando a la izquierda</translation>
+    </message>
+    <message>
+        <source>Turning right</source>
+        <translation>Girando a la derecha</translation>
+    </message>
+    <message>
+        <source>Drifting left</source>
+        <translation>Derivando a la izquierda</translation>
+    </message>
+    <message>
+        <source>Drifting right</source>
+        <translation>Derivando a la derecha</translation>
+    </message>
+    <message>
+        <source>Direct line</source>
+        <translation>Línea directa</translation>
+    </message>
+    <message>
+        <source>Spin</source>
+        <translation>Giro completo</translation>
+    </message>
+    <message>
+        <source>Duffek (bow draw)</source>
+        <translation>Duffek (apoyo de proa)</translation>
+    </message>
+    <message>
+        <source>Sweep</source>
+        <translation>Palada circular</translation>
+    </message>
+    <message>
+        <source>Stern pivot</source>
+        <translation>Pivote de popa</translation>
+    </message>
+    <message>
+        <source>Punt</source>
+        <translation>Apoyo en el fondo</translation>
+    </message>
+    <message>
+        <source>Flat turn</source>
+        <translation>Giro plano</translation>
+    </message>
+    <message>
+        <source>Ferry</source>
+        <translation>Bac</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Marcha atrás</translation>
+    </message>
+    <message>
+        <source>Surf</source>
+        <translation>Surf</translation>
+    </message>
+    <message>
+        <source>At the gate</source>
+        <translation>A la puerta</translation>
+    </message>
+    <message>
+        <source>At the next gate</source>
+        <translation>A la puerta siguiente</translation>
+    </message>
+    <message>
+        <source>At the pole</source>
+        <translation>Al palo</translation>
+    </message>
+    <message>
+        <source>At the water</source>
+        <translation>Al agua</translation>
+    </message>
+    <message>
+        <source>At the blade</source>
+        <translation>A la pala</translation>
+    </message>
+    <message>
+        <source>At the bow</source>
+        <translation>A la proa</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>A otro lado</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>Cross-bow draw</source>
+        <translation>Apoyo cruzado de proa</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Tracción</translation>
+    </message>
+    <message>
+        <source>Stern rudder</source>
+        <translation>Timón de popa</translation>
+    </message>
+    <message>
+        <source>Brace</source>
+        <translation>Apoyo</translation>
+    </message>
+    <message>
+        <source>Cross-bow</source>
+        <translation>Cruzada de proa</translation>
+    </message>
+    <message>
+        <source>Single gate</source>
+        <translation>Puerta única</translation>
+    </message>
+    <message>
+        <source>Offset (stagger)</source>
+        <translation>Puertas desplazadas</translation>
+    </message>
+    <message>
+        <source>S-turn</source>
+        <translation>Giro en S</translation>
+    </message>
+    <message>
+        <source>Cross (ferry)</source>
+        <translation>Cruce (bac)</translation>
+    </message>
+    <message>
+        <source>Upstream</source>
+        <translation>Remonte</translation>
+    </message>
+    <message>
+        <source>Upstream sprint</source>
+        <translation>Esprint en remonte</translation>
+    </message>
+    <message>
+        <source>Merano</source>
+        <translation>Merano</translation>
+    </message>
+    <message>
+        <source>Downstream to upstream</source>
+        <translation>De puerta a favor a remonte</translation>
+    </message>
+    <message>
+        <source>Upstream to downstream</source>
+        <translation>De remonte a puerta a favor</translation>
+    </message>
+    <message>
+        <source>Upstream to upstream</source>
+        <translation>De remonte a remonte</translation>
+    </message>
+    <message>
+        <source>Straight gates</source>
+        <translation>Puertas rectas</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Salida</translation>
+    </message>
+    <message>
+        <source>Finish sprint</source>
+        <translation>Esprint a meta</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>Aproximación</translation>
+    </message>
+    <message>
+        <source>Between the gates</source>
+        <translation>Entre las puertas</translation>
+    </message>
+    <message>
+        <source>Whole</source>
+        <translation>Entera</translation>
+    </message>
+    <message>
+        <source>Flat water</source>
+        <translation>Aguas tranquilas</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Ola</translation>
+    </message>
+    <message>
+        <source>Stopper (hole)</source>
+        <translation>Rebufo</translation>
+    </message>
+    <message>
+        <source>Eddy</source>
+        <translation>Contra</translation>
+    </message>
+    <message>
+        <source>Eddy line</source>
+        <translation>Línea de contra</translation>
+    </message>
+    <message>
+        <source>Pourover</source>
+        <translation>Roca cubierta</translation>
+    </message>
+    <message>
+        <source>Curtain</source>
+        <translation>Cortina</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>Salto de agua</translation>
+    </message>
+    <message>
+        <source>Boil</source>
+        <translation>Borbotón</translation>
+    </message>
+    <message>
+        <source>Cushion</source>
+        <translation>Cojín</translation>
+    </message>
+    <message>
+        <source>Wave train</source>
+        <translation>Tren de olas</translation>
+    </message>
+    <message>
+        <source>Fast water</source>
+        <translation>Agua rápida</translation>
+    </message>
+    <message>
+        <source>Sweep roll</source>
+        <translation>Esquimotaje con palada circular</translation>
+    </message>
+    <message>
+        <source>C-to-C roll</source>
+        <translation>Esquimotaje C a C</translation>
+    </message>
+    <message>
+        <source>Hand roll</source>
+        <translation>Esquimotaje de mano</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs left out: penalties not known by gate</source>
+        <translation>
+            <numerusform>{} manga omitida: penalizaciones no conocidas por puerta</numerusform>
+            <numerusform>{} mangas omitidas: penalizaciones no conocidas por puerta</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs are left out: their penalties are not known by gate.</source>
+        <translation>
+            <numerusform>Se omite {} manga: sus penalizaciones no se conocen por puerta.</numerusform>
+            <numerusform>Se omiten {} mangas: sus penalizaciones no se conocen por puerta.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(not given)</source>
+        <translation>(sin indicar)</translation>
+    </message>
+    <message>
+        <source>* touched more than that with 95 % certainty and more</source>
+        <translation>* más toques que eso con una certeza del 95&#xa0;% o más</translation>
+    </message>
+    <message>
+        <source>A missed gate also saved paddling, which is not taken back here.</source>
+        <translation>Un salto también ahorró paleo, que aquí no se devuelve.</translation>
+    </message>
+    <message>
+        <source>Gained</source>
+        <translation>Ganado</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>Perdido</translation>
+    </message>
+    <message>
+        <source>Missed/run</source>
+        <translation>Saltos/m.</translation>
+    </message>
+    <message>
+        <source>Ranked</source>
+        <translation>Ordenada</translation>
+    </message>
+    <message>
+        <source>Rate %</source>
+        <translation>Frec. %</translation>
+    </message>
+    <message>
+        <source>Risk and speed</source>
+        <translation>Riesgo y ritmo</translation>
+    </message>
+    <message>
+        <source>Touches/run</source>
+        <translation>Toques/manga</translation>
+    </message>
+    <message>
+        <source>Ways: chosen against the fastest timed</source>
+        <translation>Trazadas: la elegida frente a la más rápida cronometrada</translation>
+    </message>
+    <message>
+        <source>between {}</source>
+        <translation>entre medias {}</translation>
+    </message>
+    <message>
+        <source>fastest third</source>
+        <translation>tercio rápido</translation>
+    </message>
+    <message>
+        <source>middle third</source>
+        <translation>tercio medio</translation>
+    </message>
+    <message>
+        <source>slowest third</source>
+        <translation>tercio lento</translation>
+    </message>
+    <message>
+        <source>in no stretch</source>
+        <translation>en ningún trecho</translation>
+    </message>
+    <message>
+        <source>not finished: {}</source>
+        <translation>sin terminar: {}</translation>
+    </message>
+    <message>
+        <source>on run {}</source>
+        <translation>respecto a la manga {}</translation>
+    </message>
+    <message>
+        <source>on the fastest</source>
+        <translation>respecto al más rápido</translation>
+    </message>
+    <message>
+        <source>on the finalists&apos; median</source>
+        <translation>respecto a la mediana de los finalistas</translation>
+    </message>
+    <message>
+        <source>on the ideal run</source>
+        <translation>respecto a la manga ideal</translation>
+    </message>
+    <message>
+        <source>on the own fastest other run</source>
+        <translation>respecto a la propia manga más rápida de las demás</translation>
+    </message>
+    <message>
+        <source>on the winner</source>
+        <translation>respecto al ganador</translation>
+    </message>
+    <message>
+        <source>penalties {}</source>
+        <translation>penalizaciones {}</translation>
+    </message>
+    <message>
+        <source>timing {}</source>
+        <translation>cronometraje {}</translation>
+    </message>
+    <message>
+        <source>touch</source>
+        <translation>toque</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} penalties cost no place</source>
+        <translation>
+            <numerusform>{} penalización no costó ningún puesto</numerusform>
+            <numerusform>{} penalizaciones no costaron ningún puesto</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{}: there is none</source>
+        <translation>{}: no hay</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no gate number.</source>
+        <translation>«{}» no es un número de puerta.</translation>
+    </message>
+    <message>
+        <source>A section up to here was not timed, so this is not the time from the start.</source>
+        <translation>Un tramo anterior no se cronometró, así que este no es el tiempo desde la salida.</translation>
+    </message>
+    <message>
+        <source>A time must be above 0. Check the marks of this run.</source>
+        <translation>Un tiempo debe ser mayor que 0. Revisa las marcas de esta manga.</translation>
+    </message>
+    <message>
+        <source>A time of the session is negative or no number.</source>
+        <translation>Un tiempo de la sesión es negativo o no es un número.</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Terminado</translation>
+    </message>
+    <message>
+        <source>From {:.1f} s to {:.1f} s of the run nothing is recorded.</source>
+        <translation>De {:.1f} s a {:.1f} s de la manga no hay nada grabado.</translation>
+    </message>
+    <message>
+        <source>Gate {} has this penalty already.</source>
+        <translation>La puerta {} ya tiene esta penalización.</translation>
+    </message>
+    <message>
+        <source>Gate {} is missing before gate {} in section {}.</source>
+        <translation>Falta la puerta {} antes de la puerta {} en el tramo {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} is not on a course of {}.</source>
+        <translation>La puerta {} no está en un recorrido de {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands a second time or out of order in section {}.</source>
+        <translation>La puerta {} está por segunda vez o fuera de orden en el tramo {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands in no section.</source>
+        <translation>La puerta {} no está en ningún tramo.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands there twice.</source>
+        <translation>La puerta {} está ahí dos veces.</translation>
+    </message>
+    <message>
+        <source>Get ready</source>
+        <translation>Prepárate</translation>
+    </message>
+    <message>
+        <source>It was deleted here and changed there: it is brought again.</source>
+        <translation>Se borró aquí y se cambió allí: se trae de nuevo.</translation>
+    </message>
+    <message>
+        <source>It was deleted there and changed here: it is put there again.</source>
+        <translation>Se borró allí y se cambió aquí: se pone allí de nuevo.</translation>
+    </message>
+    <message>
+        <source>Line {}, {}: there is no run of this crew.</source>
+        <translation>Línea {}, {}: no hay ninguna manga de esta tripulación.</translation>
+    </message>
+    <message>
+        <source>No motion of the boat is attached to this run.</source>
+        <translation>Esta manga no tiene movimiento del barco adjunto.</translation>
+    </message>
+    <message>
+        <source>No run waiting</source>
+        <translation>Ninguna manga en espera</translation>
+    </message>
+    <message>
+        <source>No time was taken here.</source>
+        <translation>Aquí no se tomó ningún tiempo.</translation>
+    </message>
+    <message>
+        <source>Of the first {:.1f} s of the run nothing is recorded.</source>
+        <translation>De los primeros {:.1f} s de la manga no hay nada grabado.</translation>
+    </message>
+    <message>
+        <source>Of the last {:.1f} s of the run nothing is recorded.</source>
+        <translation>De los últimos {:.1f} s de la manga no hay nada grabado.</translation>
+    </message>
+    <message>
+        <source>Rest</source>
+        <translation>Descanso</translation>
+    </message>
+    <message>
+        <source>Rest between sets</source>
+        <translation>Descanso entre series</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Trabajo</translation>
+    </message>
+    <message>
+        <source>Somebody changed it on the server meanwhile.</source>
+        <translation>Mientras tanto alguien lo cambió en el servidor.</translation>
+    </message>
+    <message>
+        <source>Somebody has locked it on the server.</source>
+        <translation>Alguien lo ha bloqueado en el servidor.</translation>
+    </message>
+    <message>
+        <source>Start and end of the stretch are not both marked in the run of {}.</source>
+        <translation>El inicio y el final del trecho no están ambos marcados en la manga de {}.</translation>
+    </message>
+    <message>
+        <source>Start and end of the stretch are not both marked in this run.</source>
+        <translation>El inicio y el final del trecho no están ambos marcados en esta manga.</translation>
+    </message>
+    <message>
+        <source>The end of the stretch is not marked after its start in the run of {}.</source>
+        <translation>El final del trecho no está marcado después de su inicio en la manga de {}.</translation>
+    </message>
+    <message>
+        <source>The end of the stretch is not marked after its start in this run.</source>
+        <translation>El final del trecho no está marcado después de su inicio en esta manga.</translation>
+    </message>
+    <message>
+        <source>The answer of the server is longer than it can be.</source>
+        <translation>La respuesta del servidor es más larga de lo que puede ser.</translation>
+    </message>
+    <message>
+        <source>The attached motion is not as long as the run, so that its moments cannot be told.</source>
+        <translation>El movimiento adjunto no dura lo mismo que la manga, así que no se conocen sus momentos.</translation>
+    </message>
+    <message>
+        <source>The certificate of the server is not trusted, so that nothing was sent. It was issued by “{}”: {}.</source>
+        <translation>El certificado del servidor no es de confianza, así que no se envió nada. Lo emitió «{}»: {}.</translation>
+    </message>
+    <message>
+        <source>The connection broke off.</source>
+        <translation>La conexión se cortó.</translation>
+    </message>
+    <message>
+        <source>The exit is marked before the entrance.</source>
+        <translation>La salida está marcada antes que la entrada.</translation>
+    </message>
+    <message>
+        <source>The exit is marked before the middle.</source>
+        <translation>La salida está marcada antes que el centro.</translation>
+    </message>
+    <message>
+        <source>The middle is marked before the entrance.</source>
+        <translation>El centro está marcado antes que la entrada.</translation>
+    </message>
+    <message>
+        <source>The film lies on {}, which is not ticked.</source>
+        <translation>El vídeo está en {}, que no está marcado.</translation>
+    </message>
+    <message>
+        <source>The folder above is not there on the server.</source>
+        <translation>La carpeta superior no está en el servidor.</translation>
+    </message>
+    <message>
+        <source>The number of sections is {}, but that of splits is {}.</source>
+        <translation>El número de tramos es {}, pero el de parciales es {}.</translation>
+    </message>
+    <message>
+        <source>The recording does not reach into this run.</source>
+        <translation>La grabación no llega a esta manga.</translation>
+    </message>
+    <message>
+        <source>The recording has {} further holes in this run.</source>
+        <translation>La grabación tiene {} huecos más en esta manga.</translation>
+    </message>
+    <message>
+        <source>The run has no times that the recording could be laid on.</source>
+        <translation>La manga no tiene tiempos sobre los que colocar la grabación.</translation>
+    </message>
+    <message>
+        <source>The section before was not timed, so this time covers both.</source>
+        <translation>El tramo anterior no se cronometró, así que este tiempo abarca los dos.</translation>
+    </message>
+    <message>
+        <source>The server answered with status {}.</source>
+        <translation>El servidor respondió con el estado {}.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached safely.</source>
+        <translation>No se puede llegar al servidor de forma segura.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached.</source>
+        <translation>No se puede llegar al servidor.</translation>
+    </message>
+    <message>
+        <source>The server does not accept the user name or the password.</source>
+        <translation>El servidor no acepta el usuario o la contraseña.</translation>
+    </message>
+    <message>
+        <source>The server does not allow this, or not to this user.</source>
+        <translation>El servidor no lo permite, o no a este usuario.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>El servidor no responde.</translation>
+    </message>
+    <message>
+        <source>The server fell silent.</source>
+        <translation>El servidor dejó de responder.</translation>
+    </message>
+    <message>
+        <source>The server has no such file or folder.</source>
+        <translation>El servidor no tiene ese archivo o carpeta.</translation>
+    </message>
+    <message>
+        <source>The server is full, or your share of it.</source>
+        <translation>El servidor está lleno, o tu parte de él.</translation>
+    </message>
+    <message>
+        <source>The server leads to another one, {}, which is not followed.</source>
+        <translation>El servidor lleva a otro, {}, al que no se va.</translation>
+    </message>
+    <message>
+        <source>The server takes no file of this size.</source>
+        <translation>El servidor no acepta un archivo de este tamaño.</translation>
+    </message>
+    <message>
+        <source>The server was not found. Is the computer online?</source>
+        <translation>No se encontró el servidor. ¿Tiene conexión el ordenador?</translation>
+    </message>
+    <message>
+        <source>The session has more sets or repetitions than can be timed.</source>
+        <translation>La sesión tiene más series o repeticiones de las que se pueden cronometrar.</translation>
+    </message>
+    <message>
+        <source>The session needs a work time.</source>
+        <translation>La sesión necesita un tiempo de trabajo.</translation>
+    </message>
+    <message>
+        <source>The session needs at least one set and one repetition.</source>
+        <translation>La sesión necesita al menos una serie y una repetición.</translation>
+    </message>
+    <message>
+        <source>The session takes longer than a day.</source>
+        <translation>La sesión dura más de un día.</translation>
+    </message>
+    <message>
+        <source>This frame lies after {} at {}.</source>
+        <translation>Este fotograma está después de {} en {}.</translation>
+    </message>
+    <message>
+        <source>This frame lies before {} at {}.</source>
+        <translation>Este fotograma está antes de {} en {}.</translation>
+    </message>
+    <message>
+        <source>This run was not timed to the end, so this is not the time of the whole course.</source>
+        <translation>Esta manga no se cronometró hasta el final, así que este no es el tiempo de todo el recorrido.</translation>
+    </message>
+    <message>
+        <source>Where they differ, both stay.</source>
+        <translation>Si difieren, se quedan ambos.</translation>
+    </message>
+    <message>
+        <source>a byte is no UTF-8 text</source>
+        <translation>un byte no es texto UTF-8</translation>
+    </message>
+    <message>
+        <source>a colon is due</source>
+        <translation>falta un signo de dos puntos</translation>
+    </message>
+    <message>
+        <source>a comma or ] is due</source>
+        <translation>falta una coma o ]</translation>
+    </message>
+    <message>
+        <source>a comma or } is due</source>
+        <translation>falta una coma o }</translation>
+    </message>
+    <message>
+        <source>a digit is due</source>
+        <translation>falta una cifra</translation>
+    </message>
+    <message>
+        <source>a key is due</source>
+        <translation>falta una clave</translation>
+    </message>
+    <message>
+        <source>a micro split</source>
+        <translation>un micro parcial</translation>
+    </message>
+    <message>
+        <source>a number is out of range</source>
+        <translation>un número está fuera de rango</translation>
+    </message>
+    <message>
+        <source>a stroke of this hand</source>
+        <translation>una palada de esta mano</translation>
+    </message>
+    <message>
+        <source>a text holds a control character</source>
+        <translation>un texto contiene un carácter de control</translation>
+    </message>
+    <message>
+        <source>a text holds a malformed escape</source>
+        <translation>un texto contiene un escape mal formado</translation>
+    </message>
+    <message>
+        <source>a value is due</source>
+        <translation>falta un valor</translation>
+    </message>
+    <message>
+        <source>an unknown issuer</source>
+        <translation>un emisor desconocido</translation>
+    </message>
+    <message>
+        <source>bib</source>
+        <translation>dorsal</translation>
+    </message>
+    <message>
+        <source>five</source>
+        <translation>cinco</translation>
+    </message>
+    <message>
+        <source>six</source>
+        <translation>seis</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>sin permiso</translation>
+    </message>
+    <message>
+        <source>not JSON, byte {}: {}</source>
+        <translation>no es JSON, byte {}: {}</translation>
+    </message>
+    <message>
+        <source>not JSON, or cut off</source>
+        <translation>no es JSON, o está cortado</translation>
+    </message>
+    <message>
+        <source>not JSON: a number is malformed or out of range</source>
+        <translation>no es JSON: un número está mal formado o fuera de rango</translation>
+    </message>
+    <message>
+        <source>not JSON: a text holds a control character</source>
+        <translation>no es JSON: un texto contiene un carácter de control</translation>
+    </message>
+    <message>
+        <source>not JSON: a text holds a malformed escape</source>
+        <translation>no es JSON: un texto contiene un escape mal formado</translation>
+    </message>
+    <message>
+        <source>not JSON: a text is not closed (the file may be cut off)</source>
+        <translation>no es JSON: un texto no está cerrado (el archivo puede estar cortado)</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>posición</translation>
+    </message>
+    <message>
+        <source>something stands behind the document</source>
+        <translation>hay algo detrás del documento</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>el disco es de solo lectura</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>el disco está lleno</translation>
+    </message>
+    <message>
+        <source>the document is nested too deeply</source>
+        <translation>el documento está anidado demasiado profundo</translation>
+    </message>
+    <message>
+        <source>the document is too large for the memory</source>
+        <translation>el documento es demasiado grande para la memoria</translation>
+    </message>
+    <message>
+        <source>the end of the stretch</source>
+        <translation>el final del trecho</translation>
+    </message>
+    <message>
+        <source>the file became shorter while it was read</source>
+        <translation>el archivo se acortó mientras se leía</translation>
+    </message>
+    <message>
+        <source>the file holds nothing but blanks</source>
+        <translation>el archivo solo contiene espacios</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>el archivo está vacío</translation>
+    </message>
+    <message>
+        <source>the file is no text; save the list as text (CSV) first</source>
+        <translation>el archivo no es texto; guarda antes la lista como texto (CSV)</translation>
+    </message>
+    <message>
+        <source>the file is not UTF-8 text</source>
+        <translation>el archivo no es texto UTF-8</translation>
+    </message>
+    <message>
+        <source>the file is too large for a document (over 4 GB)</source>
+        <translation>el archivo es demasiado grande para un documento (más de 4 GB)</translation>
+    </message>
+    <message>
+        <source>the file is too large for a list (over 64 MB)</source>
+        <translation>el archivo es demasiado grande para una lista (más de 64 MB)</translation>
+    </message>
+    <message>
+        <source>the penalty {} is below 0</source>
+        <translation>la penalización {} es menor que 0</translation>
+    </message>
+    <message>
+        <source>the penalty {} is over {}</source>
+        <translation>la penalización {} es mayor que {}</translation>
+    </message>
+    <message>
+        <source>the position {} is below 0</source>
+        <translation>la posición {} es menor que 0</translation>
+    </message>
+    <message>
+        <source>the start</source>
+        <translation>la salida</translation>
+    </message>
+    <message>
+        <source>the start of the stretch</source>
+        <translation>el inicio del trecho</translation>
+    </message>
+    <message>
+        <source>the tag {}</source>
+        <translation>la etiqueta {}</translation>
+    </message>
+    <message>
+        <source>the text ends too early (the file may be cut off)</source>
+        <translation>el texto termina demasiado pronto (el archivo puede estar cortado)</translation>
+    </message>
+    <message>
+        <source>the text is not valid UTF-8</source>
+        <translation>el texto no es UTF-8 válido</translation>
+    </message>
+    <message>
+        <source>the time {} is an hour or more</source>
+        <translation>el tiempo {} es de una hora o más</translation>
+    </message>
+    <message>
+        <source>the time {} is below 0</source>
+        <translation>el tiempo {} es menor que 0</translation>
+    </message>
+    <message>
+        <source>the {} &quot;{}&quot; is no number of seconds</source>
+        <translation>{} «{}»: no es un número de segundos</translation>
+    </message>
+    <message>
+        <source>the {} &quot;{}&quot; is no whole number</source>
+        <translation>{} «{}»: no es un número entero</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>no existe ese archivo</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a file</source>
+        <translation>es una carpeta, no un archivo</translation>
+    </message>
+    <message>
+        <source>this is no JSON object: it does not begin with {</source>
+        <translation>no es un objeto JSON: no empieza por {</translation>
+    </message>
+    <message>
+        <source>this is not an ordinary file</source>
+        <translation>no es un archivo corriente</translation>
+    </message>
+    <message>
+        <source>this moment</source>
+        <translation>este momento</translation>
+    </message>
+    <message>
+        <source>too many symbolic links</source>
+        <translation>demasiados enlaces simbólicos</translation>
+    </message>
+    <message>
+        <source>{0}: has the time of {1} (bibs {2} and {3}), and {1} has this one&apos;s. Exchange the two crews?</source>
+        <translation>{0}: tiene el tiempo de {1} (dorsales {2} y {3}), y {1} tiene el suyo. ¿Intercambiar las dos tripulaciones?</translation>
+    </message>
+    <message>
+        <source>{0}: has the time of {1}, and {1} has this one&apos;s. Exchange the two crews?</source>
+        <translation>{0}: tiene el tiempo de {1}, y {1} tiene el suyo. ¿Intercambiar las dos tripulaciones?</translation>
+    </message>
+    <message>
+        <source>{0}: the list says {1}, ours is {2}. Take {1} over?</source>
+        <translation>{0}: la lista dice {1}, el nuestro es {2}. ¿Incorporar {1}?</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} fields</source>
+        <translation>
+            <numerusform>{} campo</numerusform>
+            <numerusform>{} campos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} is marked on this frame already.</source>
+        <translation>{} ya está marcado en este fotograma.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs waiting</source>
+        <translation>
+            <numerusform>{} manga en espera</numerusform>
+            <numerusform>{} mangas en espera</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} where {} are needed</source>
+        <translation>{} donde hacen falta {}</translation>
+    </message>
+    <message>
+        <source>{}, the next starts in {}</source>
+        <translation>{}, la siguiente sale en {}</translation>
+    </message>
+    <message>
+        <source>{}: is not in the list.</source>
+        <translation>{}: no está en la lista.</translation>
+    </message>
+    <message>
+        <source>{}: the list has {} s of penalties, ours has {} s. Take the official result over?</source>
+        <translation>{}: la lista tiene {} s de penalización, la nuestra {} s. ¿Incorporar el resultado oficial?</translation>
+    </message>
+    <message>
+        <source>{}: the list has {}, the film no time to the end. Take the official time over?</source>
+        <translation>{}: la lista tiene {}, el vídeo ningún tiempo hasta el final. ¿Incorporar el tiempo oficial?</translation>
+    </message>
+    <message>
+        <source>{}: the list has {}, the film {}, {} s apart. Take the official time over?</source>
+        <translation>{}: la lista tiene {}, el vídeo {}, con {} s de diferencia. ¿Incorporar el tiempo oficial?</translation>
+    </message>
+    <message>
+        <source>{}: the list says {}, ours is {}.</source>
+        <translation>{}: la lista dice {}, el nuestro es {}.</translation>
+    </message>
+    <message>
+        <source>A difference needs two columns, as in difference:Run 2,Run 1.</source>
+        <translation>Una diferencia necesita dos columnas, como en difference:Run 2,Run 1.</translation>
+    </message>
+    <message>
+        <source>A text has no sheet &quot;{}&quot;.</source>
+        <translation>Un texto no tiene hoja «{}».</translation>
+    </message>
+    <message>
+        <source>A {} is of one column, not of {}.</source>
+        <translation>{}: es de una columna, no de {}.</translation>
+    </message>
+    <message>
+        <source>A {} is of two columns, not of {}.</source>
+        <translation>{}: es de dos columnas, no de {}.</translation>
+    </message>
+    <message>
+        <source>No column holds times; name the one to reckon with.</source>
+        <translation>Ninguna columna tiene tiempos; indica con cuál calcular.</translation>
+    </message>
+    <message>
+        <source>No column holds times; name those to add, as in total:Time,Pen.</source>
+        <translation>Ninguna columna tiene tiempos; indica cuáles sumar, como en total:Time,Pen.</translation>
+    </message>
+    <message>
+        <source>No list is open.</source>
+        <translation>No hay ninguna lista abierta.</translation>
+    </message>
+    <message>
+        <source>Not drawn: %1</source>
+        <translation>Sin dibujar: %1</translation>
+    </message>
+    <message>
+        <source>Sections recorded in part: {}.</source>
+        <translation>Tramos grabados en parte: {}.</translation>
+    </message>
+    <message>
+        <source>Sections without strokes: {}.</source>
+        <translation>Tramos sin paladas: {}.</translation>
+    </message>
+    <message>
+        <source>The column &quot;{}&quot; has no numbers to reckon with: it is {}.</source>
+        <translation>La columna «{}» no tiene números con los que calcular: es {}.</translation>
+    </message>
+    <message>
+        <source>The column &quot;{}&quot; has {} values: too many for columns of a pivot.</source>
+        <translation>La columna «{}» tiene {} valores: demasiados para columnas de una tabla dinámica.</translation>
+    </message>
+    <message>
+        <source>The file is packed, but holds no spreadsheet (.xlsx or .ods).</source>
+        <translation>El archivo está comprimido, pero no contiene una hoja de cálculo (.xlsx o .ods).</translation>
+    </message>
+    <message>
+        <source>The list needs a column with the title Name, Athlete or Crew.</source>
+        <translation>La lista necesita una columna con el título Name, Athlete o Crew.</translation>
+    </message>
+    <message>
+        <source>The list needs a column with the title Time, or Total and Penalty.</source>
+        <translation>La lista necesita una columna con el título Time, o Total y Penalty.</translation>
+    </message>
+    <message>
+        <source>The picture has {} MB. Up to 40 MB can be read; save it smaller first.</source>
+        <translation>La imagen tiene {} MB. Se pueden leer hasta 40 MB; guárdala antes más pequeña.</translation>
+    </message>
+    <message>
+        <source>The picture is far too long for a course.</source>
+        <translation>La imagen es demasiado alargada para un recorrido.</translation>
+    </message>
+    <message>
+        <source>The race carries no results list. Open the list itself; &quot;Keep with the race&quot; puts it there.</source>
+        <translation>La carrera no lleva ninguna lista de resultados. Abre la propia lista; «Conservar con la carrera» la pone ahí.</translation>
+    </message>
+    <message>
+        <source>The report could not be painted.</source>
+        <translation>No se pudo dibujar el informe.</translation>
+    </message>
+    <message>
+        <source>The sheet &quot;{}&quot; has merged cells: their value stands in each of their lines.</source>
+        <translation>La hoja «{}» tiene celdas combinadas: su valor está en cada una de sus líneas.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: its part {} cannot be read.</source>
+        <translation>La hoja de cálculo está dañada: no se puede leer su parte {}.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: its part {} cannot be unpacked.</source>
+        <translation>La hoja de cálculo está dañada: no se puede descomprimir su parte {}.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: {}.</source>
+        <translation>La hoja de cálculo está dañada: {}.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is protected by a password. Save it without one and open it again.</source>
+        <translation>La hoja de cálculo está protegida con una contraseña. Guárdala sin ella y ábrela de nuevo.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is too large: unpacked it is over 128 MB.</source>
+        <translation>La hoja de cálculo es demasiado grande: descomprimida supera los 128 MB.</translation>
+    </message>
+    <message>
+        <source>The text is no UTF-8 and was read as Latin-1; look at the letters with accents.</source>
+        <translation>El texto no es UTF-8 y se leyó como Latin-1; revisa las letras con acentos.</translation>
+    </message>
+    <message>
+        <source>There are several sheets; choose one of {}.</source>
+        <translation>Hay varias hojas; elige una de {}.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;{}&quot;; there is none.</source>
+        <translation>No existe la columna «{}»; no hay ninguna.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;{}&quot;; there is {}.</source>
+        <translation>No existe la columna «{}»; hay {}.</translation>
+    </message>
+    <message>
+        <source>There is no sheet &quot;{}&quot;; there is {}.</source>
+        <translation>No existe la hoja «{}»; hay {}.</translation>
+    </message>
+    <message>
+        <source>There is nothing in it.</source>
+        <translation>No contiene nada.</translation>
+    </message>
+    <message>
+        <source>This is a PDF, which has no columns to read; open it in a viewer.</source>
+        <translation>Es un PDF, que no tiene columnas que leer; ábrelo en un visor.</translation>
+    </message>
+    <message>
+        <source>This is a spreadsheet with a password or of the old kind (.xls). Save it without a password as .xlsx, .ods or text (CSV).</source>
+        <translation>Es una hoja de cálculo con contraseña o del tipo antiguo (.xls). Guárdala sin contraseña como .xlsx, .ods o texto (CSV).</translation>
+    </message>
+    <message>
+        <source>This is neither text nor a spreadsheet (.xlsx, .ods).</source>
+        <translation>No es ni texto ni una hoja de cálculo (.xlsx, .ods).</translation>
+    </message>
+    <message>
+        <source>This is no picture that can be read. Take a PNG or JPEG file.</source>
+        <translation>No es una imagen que se pueda leer. Usa un archivo PNG o JPEG.</translation>
+    </message>
+    <message>
+        <source>a time or a penalty is below 0</source>
+        <translation>un tiempo o una penalización es menor que 0</translation>
+    </message>
+    <message>
+        <source>gate %1: %2</source>
+        <translation>puerta %1: %2</translation>
+    </message>
+    <message>
+        <source>is not in the team</source>
+        <translation>no está en el equipo</translation>
+    </message>
+    <message>
+        <source>it could not be read</source>
+        <translation>no se pudo leer</translation>
+    </message>
+    <message>
+        <source>missed gate</source>
+        <translation>salto</translation>
+    </message>
+    <message>
+        <source>no category of the team is called &quot;{}&quot;</source>
+        <translation>ninguna categoría del equipo se llama «{}»</translation>
+    </message>
+    <message>
+        <source>no phase of the team is called &quot;{}&quot;</source>
+        <translation>ninguna fase del equipo se llama «{}»</translation>
+    </message>
+    <message>
+        <source>no day such as 2026-05-03 or 3.5.2026</source>
+        <translation>no es un día como 2026-05-03 o 3.5.2026</translation>
+    </message>
+    <message>
+        <source>no font is installed</source>
+        <translation>no hay ningún tipo de letra instalado</translation>
+    </message>
+    <message>
+        <source>no number</source>
+        <translation>no es un número</translation>
+    </message>
+    <message>
+        <source>no time such as 92.45, 1:32.45 or 92.45 (2)</source>
+        <translation>no es un tiempo como 92.45, 1:32.45 o 92.45 (2)</translation>
+    </message>
+    <message>
+        <source>no whole number</source>
+        <translation>no es un número entero</translation>
+    </message>
+    <message>
+        <source>none of DNS, DNF, DSQ and the like</source>
+        <translation>ninguno de DNS, DNF, DSQ y similares</translation>
+    </message>
+    <message>
+        <source>stands above the titles</source>
+        <translation>está encima de los títulos</translation>
+    </message>
+    <message>
+        <source>the line ends here: it has {} of {} fields</source>
+        <translation>la línea termina aquí: tiene {} de {} campos</translation>
+    </message>
+    <message>
+        <source>the line has more fields than there are columns</source>
+        <translation>la línea tiene más campos que columnas hay</translation>
+    </message>
+    <message>
+        <source>the run was not finished</source>
+        <translation>la manga no se terminó</translation>
+    </message>
+    <message>
+        <source>the titles once more</source>
+        <translation>los títulos otra vez</translation>
+    </message>
+    <message>
+        <source>touches and missed gates of %1 runs</source>
+        <translation>toques y saltos de %1 mangas</translation>
+    </message>
+    <message>
+        <source>{}: no run has a film</source>
+        <translation>{}: ninguna manga tiene vídeo</translation>
+    </message>
+    <message>
+        <source>{}: the column is {}</source>
+        <translation>{}: la columna es {}</translation>
+    </message>
+    <message>
+        <source>1 field where a bib and a name are needed</source>
+        <translation>1 campo donde hacen falta un dorsal y un nombre</translation>
+    </message>
+    <message>
+        <source>A bracket { is not closed.</source>
+        <translation>Una llave { no está cerrada.</translation>
+    </message>
+    <message>
+        <source>A computer with Windows cannot take this name.</source>
+        <translation>Un ordenador con Windows no acepta este nombre.</translation>
+    </message>
+    <message>
+        <source>A heat has one to four boats.</source>
+        <translation>Una serie tiene de uno a cuatro barcos.</translation>
+    </message>
+    <message>
+        <source>An unnamed boat is not in this heat.</source>
+        <translation>Un barco sin nombre no está en esta serie.</translation>
+    </message>
+    <message>
+        <source>Both are kept: the one of this computer is “{}” now.</source>
+        <translation>Se conservan ambos: el de este ordenador ahora es «{}».</translation>
+    </message>
+    <message>
+        <source>Both sides have the same.</source>
+        <translation>Ambos lados tienen lo mismo.</translation>
+    </message>
+    <message>
+        <source>Gate {}: it is not on the cross course.</source>
+        <translation>Puerta {}: no está en el recorrido de cross.</translation>
+    </message>
+    <message>
+        <source>Gate {}: {}</source>
+        <translation>Puerta {}: {}</translation>
+    </message>
+    <message>
+        <source>It could not be given another name. Compare again.</source>
+        <translation>No se le pudo dar otro nombre. Compara de nuevo.</translation>
+    </message>
+    <message>
+        <source>It is here again. Compare again.</source>
+        <translation>Está aquí de nuevo. Compara de nuevo.</translation>
+    </message>
+    <message>
+        <source>It is not here any more.</source>
+        <translation>Ya no está aquí.</translation>
+    </message>
+    <message>
+        <source>It is not on the server any more. Compare again.</source>
+        <translation>Ya no está en el servidor. Compara de nuevo.</translation>
+    </message>
+    <message>
+        <source>It is not on the server yet: {}</source>
+        <translation>Aún no está en el servidor: {}</translation>
+    </message>
+    <message>
+        <source>It is on the server again. Compare again.</source>
+        <translation>Está de nuevo en el servidor. Compara de nuevo.</translation>
+    </message>
+    <message>
+        <source>It was changed here meanwhile. Compare again.</source>
+        <translation>Mientras tanto se modificó aquí. Compara de nuevo.</translation>
+    </message>
+    <message>
+        <source>It was changed on the server meanwhile. Compare again.</source>
+        <translation>Mientras tanto se modificó en el servidor. Compara de nuevo.</translation>
+    </message>
+    <message>
+        <source>It was changed while it was sent. Compare again.</source>
+        <translation>Se modificó mientras se enviaba. Compara de nuevo.</translation>
+    </message>
+    <message>
+        <source>Its name has control characters.</source>
+        <translation>Su nombre tiene caracteres de control.</translation>
+    </message>
+    <message>
+        <source>Its name is no text.</source>
+        <translation>Su nombre no es texto.</translation>
+    </message>
+    <message>
+        <source>Its name is too long.</source>
+        <translation>Su nombre es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>Its name leads out of the folder.</source>
+        <translation>Su nombre lleva fuera de la carpeta.</translation>
+    </message>
+    <message>
+        <source>No mark tells yet how this camera&apos;s film lies beside the run&apos;s first one: mark one moment on both in split taking.</source>
+        <translation>Ninguna marca indica aún cómo está el vídeo de esta cámara respecto al primero de la manga: marca un momento en ambos en la toma de parciales.</translation>
+    </message>
+    <message>
+        <source>This is a fixed camera beside the run&apos;s own film: synchronise the two in split taking first.</source>
+        <translation>Es una cámara fija junto al propio vídeo de la manga: sincroniza antes los dos en la toma de parciales.</translation>
+    </message>
+    <message>
+        <source>The course has {}, and this line is for split {}.</source>
+        <translation>El recorrido tiene {} y esta línea es para el parcial {}.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} splits</source>
+        <translation>
+            <numerusform>{} parcial</numerusform>
+            <numerusform>{} parciales</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file that came has gone.</source>
+        <translation>El archivo que llegó ha desaparecido.</translation>
+    </message>
+    <message>
+        <source>The file that came is not what its checksum says.</source>
+        <translation>El archivo que llegó no es lo que dice su suma de comprobación.</translation>
+    </message>
+    <message>
+        <source>The pattern holds no bracket such as {name}.</source>
+        <translation>El patrón no contiene ninguna llave como {name}.</translation>
+    </message>
+    <message>
+        <source>The same bracket stands twice.</source>
+        <translation>La misma llave está dos veces.</translation>
+    </message>
+    <message>
+        <source>Two brackets stand side by side: nothing tells where one ends.</source>
+        <translation>Hay dos llaves seguidas: nada indica dónde acaba una.</translation>
+    </message>
+    <message>
+        <source>{{{}}} is not known. There are {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} and {{any}}.</source>
+        <translation>{{{}}} no se conoce. Hay {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} y {{any}}.</translation>
+    </message>
+    <message>
+        <source>{any} does not say what is to stand there.</source>
+        <translation>{any} no dice qué debe ir ahí.</translation>
+    </message>
+    <message>
+        <source>The server has kept another length than was sent.</source>
+        <translation>El servidor guardó otra longitud que la enviada.</translation>
+    </message>
+    <message>
+        <source>The server told another length than it sent.</source>
+        <translation>El servidor indicó otra longitud que la que envió.</translation>
+    </message>
+    <message>
+        <source>The server took the file and does not have it.</source>
+        <translation>El servidor aceptó el archivo y no lo tiene.</translation>
+    </message>
+    <message>
+        <source>There are more than four boats in this heat.</source>
+        <translation>Hay más de cuatro barcos en esta serie.</translation>
+    </message>
+    <message>
+        <source>all gates</source>
+        <translation>todos</translation>
+    </message>
+    <message>
+        <source>by its name</source>
+        <translation>por su nombre</translation>
+    </message>
+    <message>
+        <source>by the order</source>
+        <translation>por el orden</translation>
+    </message>
+    <message>
+        <source>the second boat of a long film</source>
+        <translation>el segundo barco de un vídeo largo</translation>
+    </message>
+    <message>
+        <source>{} s from its start</source>
+        <translation>a {} s de su salida</translation>
+    </message>
+    <message>
+        <source>{} s from its start, if the camera&apos;s clock is wrong</source>
+        <translation>a {} s de su salida, si el reloj de la cámara está mal</translation>
+    </message>
+    <message>
+        <source>downstream</source>
+        <translation>a favor</translation>
+    </message>
+    <message>
+        <source>mixed</source>
+        <translation>mixto</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>first third</source>
+        <translation>primer tercio</translation>
+    </message>
+    <message>
+        <source>second third</source>
+        <translation>segundo tercio</translation>
+    </message>
+    <message>
+        <source>last third</source>
+        <translation>último tercio</translation>
+    </message>
+    <message>
+        <source>no name is known</source>
+        <translation>no se conoce el nombre</translation>
+    </message>
+    <message>
+        <source>no {} is known</source>
+        <translation>no se conoce: {}</translation>
+    </message>
+    <message>
+        <source>nothing would be left of the name</source>
+        <translation>no quedaría nada del nombre</translation>
+    </message>
+    <message>
+        <source>the name would be too long</source>
+        <translation>el nombre sería demasiado largo</translation>
+    </message>
+    <message>
+        <source>the bib &quot;{}&quot; is no number above 0</source>
+        <translation>el dorsal «{}» no es un número mayor que 0</translation>
+    </message>
+    <message>
+        <source>the bib {} is on line {} already</source>
+        <translation>el dorsal {} ya está en la línea {}</translation>
+    </message>
+    <message>
+        <source>the lines before have no start</source>
+        <translation>las líneas anteriores no tienen salida</translation>
+    </message>
+    <message>
+        <source>the start &quot;{}&quot; is neither a time of day such as 10:01:30 nor a number in an order</source>
+        <translation>la salida «{}» no es una hora como 10:01:30 ni un número de orden</translation>
+    </message>
+    <message>
+        <source>there is no name</source>
+        <translation>no hay nombre</translation>
+    </message>
+    <message>
+        <source>there is no number in the order</source>
+        <translation>no hay número de orden</translation>
+    </message>
+    <message>
+        <source>there is no start time, which the others have</source>
+        <translation>no hay hora de salida, que los demás tienen</translation>
+    </message>
+    <message>
+        <source>{} cannot attack and defend at once.</source>
+        <translation>{} no puede atacar y defender a la vez.</translation>
+    </message>
+    <message>
+        <source>{} is already in this heat.</source>
+        <translation>{} ya está en esta serie.</translation>
+    </message>
+    <message>
+        <source>{} is not in this heat.</source>
+        <translation>{} no está en esta serie.</translation>
+    </message>
+    <message>
+        <source>{} stands twice among the defenders.</source>
+        <translation>{} está dos veces entre los defensores.</translation>
+    </message>
+    <message>
+        <source>{} stands twice in the heat.</source>
+        <translation>{} está dos veces en la serie.</translation>
+    </message>
+    <message>
+        <source>{} stands twice in the order.</source>
+        <translation>{} está dos veces en el orden.</translation>
+    </message>
+    <message>
+        <source>{} without any detail.</source>
+        <translation>{} sin ningún detalle.</translation>
+    </message>
+    <message>
+        <source>A brace is opened and not closed: {}</source>
+        <translation>Una llave se abre y no se cierra: {}</translation>
+    </message>
+    <message>
+        <source>Aerial phase</source>
+        <translation>Fase aérea</translation>
+    </message>
+    <message>
+        <source>Water phase</source>
+        <translation>Fase acuática</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Ángulo</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distancia</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Resistencia</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation>Fuerza</translation>
+    </message>
+    <message>
+        <source>Hand</source>
+        <translation>Mano</translation>
+    </message>
+    <message>
+        <source>Heart rate</source>
+        <translation>Frec. cardiaca</translation>
+    </message>
+    <message>
+        <source>Impulse</source>
+        <translation>Impulso</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Potencia</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Stroke rate</source>
+        <translation>Frec. de palada</translation>
+    </message>
+    <message>
+        <source>Single rate</source>
+        <translation>Frec. de una palada</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segmento</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Balanceo</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>Cabeceo</translation>
+    </message>
+    <message>
+        <source>Max acceleration</source>
+        <translation>Aceleración máx.</translation>
+    </message>
+    <message>
+        <source>Mean acceleration</source>
+        <translation>Aceleración media</translation>
+    </message>
+    <message>
+        <source>Mean deceleration</source>
+        <translation>Deceleración media</translation>
+    </message>
+    <message>
+        <source>Mean rotation</source>
+        <translation>Rotación media</translation>
+    </message>
+    <message>
+        <source>Peak rotation</source>
+        <translation>Rotación máxima</translation>
+    </message>
+    <message>
+        <source>Mean push out</source>
+        <translation>Empuje lateral medio</translation>
+    </message>
+    <message>
+        <source>Peak push out</source>
+        <translation>Empuje lateral máximo</translation>
+    </message>
+    <message>
+        <source>Metres per stroke</source>
+        <translation>Metros por palada</translation>
+    </message>
+    <message>
+        <source>Is in the folder.</source>
+        <translation>Está en la carpeta.</translation>
+    </message>
+    <message>
+        <source>It is a file. A folder is shared.</source>
+        <translation>Es un archivo. Se comparte una carpeta.</translation>
+    </message>
+    <message>
+        <source>It is a link.</source>
+        <translation>Es un enlace.</translation>
+    </message>
+    <message>
+        <source>It lies too deep.</source>
+        <translation>Está demasiado profundo.</translation>
+    </message>
+    <message>
+        <source>Lies on {}, which is not ticked.</source>
+        <translation>Está en {}, que no está marcado.</translation>
+    </message>
+    <message>
+        <source>May also be bib {}.</source>
+        <translation>Puede ser también el dorsal {}.</translation>
+    </message>
+    <message>
+        <source>Only https:// keeps the password and the files from other readers.</source>
+        <translation>Solo https:// protege la contraseña y los archivos de otros lectores.</translation>
+    </message>
+    <message>
+        <source>The address asks for no {bib}, so that every run would have the same film.</source>
+        <translation>La dirección no pide ningún {bib}, así que todas las mangas tendrían el mismo vídeo.</translation>
+    </message>
+    <message>
+        <source>The address is that of a file. A folder is shared.</source>
+        <translation>La dirección es la de un archivo. Se comparte una carpeta.</translation>
+    </message>
+    <message>
+        <source>The address makes none for this run.</source>
+        <translation>La dirección no da ninguno para esta manga.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// and a server, whose name has no braces, user or password.</source>
+        <translation>La dirección debe empezar por https:// y un servidor cuyo nombre no tenga llaves, usuario ni contraseña.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// and hold no user name and password.</source>
+        <translation>La dirección debe empezar por https:// y no contener usuario ni contraseña.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// or http:// and hold no user name and password.</source>
+        <translation>La dirección debe empezar por https:// o http:// y no contener usuario ni contraseña.</translation>
+    </message>
+    <message>
+        <source>The list has no film with this bib.</source>
+        <translation>La lista no tiene ningún vídeo con este dorsal.</translation>
+    </message>
+    <message>
+        <source>The list tells no {} of this run.</source>
+        <translation>La lista no indica de esta manga: {}.</translation>
+    </message>
+    <message>
+        <source>number of the run</source>
+        <translation>número de la manga</translation>
+    </message>
+    <message>
+        <source>The pattern of names: {}</source>
+        <translation>El patrón de nombres: {}</translation>
+    </message>
+    <message>
+        <source>The server does not speak WebDAV at this address.</source>
+        <translation>El servidor no habla WebDAV en esta dirección.</translation>
+    </message>
+    <message>
+        <source>The server has too many files to share.</source>
+        <translation>El servidor tiene demasiados archivos para compartir.</translation>
+    </message>
+    <message>
+        <source>The server says that it lies in another folder.</source>
+        <translation>El servidor dice que está en otra carpeta.</translation>
+    </message>
+    <message>
+        <source>There are too many files to share.</source>
+        <translation>Hay demasiados archivos para compartir.</translation>
+    </message>
+    <message>
+        <source>There is no address yet.</source>
+        <translation>Aún no hay dirección.</translation>
+    </message>
+    <message>
+        <source>There is no folder for the films yet.</source>
+        <translation>Aún no hay carpeta para los vídeos.</translation>
+    </message>
+    <message>
+        <source>There is no start list, results list or split file for the bibs yet.</source>
+        <translation>Aún no hay lista de salida, lista de resultados o archivo de parciales para los dorsales.</translation>
+    </message>
+    <message>
+        <source>Would be more than 20 GB in one go.</source>
+        <translation>Serían más de 20 GB de una vez.</translation>
+    </message>
+    <message>
+        <source>{{{}}} means nothing here: there are {{bib}}, {{category}}, {{phase}} and {{run}}.</source>
+        <translation>{{{}}} no significa nada aquí: hay {{bib}}, {{category}}, {{phase}} y {{run}}.</translation>
+    </message>
+    <message>
+        <source>Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in --json, as in cell/0/time</source>
+        <translation>Explica en su lugar un número: cell/FILA/COLUMNA, la fila contada desde 0 como en --json, por ejemplo cell/0/time</translation>
+    </message>
+    <message>
+        <source>No start of {} is known in these races.</source>
+        <translation>No se conoce ninguna salida de {} en estas carreras.</translation>
+    </message>
+    <message>
+        <source>Only races in which this athlete starts, in whichever phase</source>
+        <translation>Solo carreras en las que sale este deportista, en cualquier fase</translation>
+    </message>
+    <message>
+        <source>Only races in which {} starts.</source>
+        <translation>Solo carreras en las que sale {}.</translation>
+    </message>
+    <message>
+        <source>Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in --json, as in cell/0/rank</source>
+        <translation>Explica en su lugar un número: cell/FILA/COLUMNA, la fila contada desde 0 como en --json, por ejemplo cell/0/rank</translation>
+    </message>
+    <message>
+        <source>line {}</source>
+        <translation>línea {}</translation>
+    </message>
+    <message>
+        <source>column {}</source>
+        <translation>columna {}</translation>
+    </message>
+    <message>
+        <source>An empty penalty adds nothing.</source>
+        <translation>Una penalización vacía no suma nada.</translation>
+    </message>
+    <message>
+        <source>better</source>
+        <translation>mejores</translation>
+    </message>
+    <message>
+        <source>others</source>
+        <translation>otros</translation>
+    </message>
+    <message>
+        <source>Only rows with {} in {} are compared.</source>
+        <translation>Solo se comparan las filas con {} en {}.</translation>
+    </message>
+    <message>
+        <source>The highest is the best.</source>
+        <translation>El más alto es el mejor.</translation>
+    </message>
+    <message>
+        <source>As it stands in the list, read as a number.</source>
+        <translation>Como está en la lista, leído como número.</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>lista</translation>
+    </message>
+    <message>
+        <source>The columns of the row added up.</source>
+        <translation>Las columnas de la fila sumadas.</translation>
+    </message>
+    <message>
+        <source>Σ columns</source>
+        <translation>Σ columnas</translation>
+    </message>
+    <message>
+        <source>The place in the column: one more than are better; times to the hundredth.</source>
+        <translation>El puesto en la columna: uno más que los que son mejores; tiempos a la centésima.</translation>
+    </message>
+    <message>
+        <source>1 + better</source>
+        <translation>1 + mejores</translation>
+    </message>
+    <message>
+        <source>How far the number is behind the best of the column.</source>
+        <translation>Cuánto está el número por detrás del mejor de la columna.</translation>
+    </message>
+    <message>
+        <source>own − best</source>
+        <translation>propio − mejor</translation>
+    </message>
+    <message>
+        <source>How many percent the number is behind the best of the column.</source>
+        <translation>Cuánto por ciento está el número por detrás del mejor de la columna.</translation>
+    </message>
+    <message>
+        <source>How many percent of the others in the column are better.</source>
+        <translation>Qué porcentaje de los otros de la columna son mejores.</translation>
+    </message>
+    <message>
+        <source>100 · better / others</source>
+        <translation>100 · mejores / otros</translation>
+    </message>
+    <message>
+        <source>The first column less the second.</source>
+        <translation>La primera columna menos la segunda.</translation>
+    </message>
+    <message>
+        <source>first − second</source>
+        <translation>primera − segunda</translation>
+    </message>
+    <message>
+        <source>How many rows say something in the column.</source>
+        <translation>Cuántas filas dicen algo en la columna.</translation>
+    </message>
+    <message>
+        <source>The numbers of all these rows added up.</source>
+        <translation>Los números de todas estas filas sumados.</translation>
+    </message>
+    <message>
+        <source>Σ rows</source>
+        <translation>Σ filas</translation>
+    </message>
+    <message>
+        <source>The mean of the numbers of these rows.</source>
+        <translation>La media de los números de estas filas.</translation>
+    </message>
+    <message>
+        <source>Σ rows / number of rows</source>
+        <translation>Σ filas / número de filas</translation>
+    </message>
+    <message>
+        <source>As many of these rows have less as have more.</source>
+        <translation>Tantas de estas filas tienen menos como más.</translation>
+    </message>
+    <message>
+        <source>median of rows</source>
+        <translation>mediana de las filas</translation>
+    </message>
+    <message>
+        <source>The least number of these rows.</source>
+        <translation>El menor número de estas filas.</translation>
+    </message>
+    <message>
+        <source>least of rows</source>
+        <translation>menor de las filas</translation>
+    </message>
+    <message>
+        <source>The largest number of these rows.</source>
+        <translation>El mayor número de estas filas.</translation>
+    </message>
+    <message>
+        <source>largest of rows</source>
+        <translation>mayor de las filas</translation>
+    </message>
+    <message>
+        <source>Of {} rows the first {} are told.</source>
+        <translation>De {} filas se nombran las primeras {}.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -6902,6 +9266,218 @@
         <source>Folders</source>
         <translation>Carpetas</translation>
     </message>
+    <message>
+        <source>Marked</source>
+        <translation>Marcado</translation>
+    </message>
+    <message>
+        <source>Proposal</source>
+        <translation>Propuesta</translation>
+    </message>
+    <message>
+        <source>Confidence</source>
+        <translation>Confianza</translation>
+    </message>
+    <message>
+        <source>%1 s, %2</source>
+        <translation>%1 s, %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Manga</translation>
+    </message>
+    <message>
+        <source>No boat was found that could be this run: look for it in the slit picture.</source>
+        <translation>No se encontró ningún barco que pueda ser esta manga: búscalo en la imagen de línea.</translation>
+    </message>
+    <message>
+        <source>This run is marked here.</source>
+        <translation>Esta manga está marcada aquí.</translation>
+    </message>
+    <message>
+        <source>Where the run is marked at this line, in seconds of the film</source>
+        <translation>Dónde está marcada la manga en esta línea, en segundos del vídeo</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>omitido</translation>
+    </message>
+    <message>
+        <source>→ new here</source>
+        <translation>→ nuevo aquí</translation>
+    </message>
+    <message>
+        <source>← new there</source>
+        <translation>← nuevo allí</translation>
+    </message>
+    <message>
+        <source>→ changed here</source>
+        <translation>→ modificado aquí</translation>
+    </message>
+    <message>
+        <source>← changed there</source>
+        <translation>← modificado allí</translation>
+    </message>
+    <message>
+        <source>↔ on both sides</source>
+        <translation>↔ en ambos lados</translation>
+    </message>
+    <message>
+        <source>✕ deleted here</source>
+        <translation>✕ borrado aquí</translation>
+    </message>
+    <message>
+        <source>✕ deleted there</source>
+        <translation>✕ borrado allí</translation>
+    </message>
+    <message>
+        <source>Goes to the server</source>
+        <translation>Va al servidor</translation>
+    </message>
+    <message>
+        <source>Comes from the server</source>
+        <translation>Viene del servidor</translation>
+    </message>
+    <message>
+        <source>Goes to the server, in place of what it has</source>
+        <translation>Va al servidor, en lugar de lo que hay allí</translation>
+    </message>
+    <message>
+        <source>Comes from the server, in place of what is here</source>
+        <translation>Viene del servidor, en lugar de lo que hay aquí</translation>
+    </message>
+    <message>
+        <source>Is compared; where both differ, both are kept</source>
+        <translation>Se compara; si difieren, se conservan ambos</translation>
+    </message>
+    <message>
+        <source>Is deleted on the server where you tick it</source>
+        <translation>Se borra en el servidor si lo marcas</translation>
+    </message>
+    <message>
+        <source>Is deleted here where you tick it</source>
+        <translation>Se borra aquí si lo marcas</translation>
+    </message>
+    <message>
+        <source>%1 new here</source>
+        <translation>%1 nuevos aquí</translation>
+    </message>
+    <message>
+        <source>%1 new there</source>
+        <translation>%1 nuevos allí</translation>
+    </message>
+    <message>
+        <source>%1 changed here</source>
+        <translation>%1 modificados aquí</translation>
+    </message>
+    <message>
+        <source>%1 changed there</source>
+        <translation>%1 modificados allí</translation>
+    </message>
+    <message>
+        <source>%1 on both sides</source>
+        <translation>%1 en ambos lados</translation>
+    </message>
+    <message>
+        <source>%1 deleted here</source>
+        <translation>%1 borrados aquí</translation>
+    </message>
+    <message>
+        <source>%1 deleted there</source>
+        <translation>%1 borrados allí</translation>
+    </message>
+    <message>
+        <source>Both sides are the same</source>
+        <translation>Ambos lados son iguales</translation>
+    </message>
+    <message>
+        <source>%1 shared</source>
+        <translation>%1 compartidos</translation>
+    </message>
+    <message>
+        <source>%1 kept twice</source>
+        <translation>%1 conservados dos veces</translation>
+    </message>
+    <message>
+        <source>Fastest at %1 s of the film: %2 m/s.</source>
+        <translation>Máxima en el segundo %1 del vídeo: %2 m/s.</translation>
+    </message>
+    <message>
+        <source>Fastest at %1 s of the film: %2 m/s (a scale only: it holds near the two points and along their line).</source>
+        <translation>Máxima en el segundo %1 del vídeo: %2 m/s (solo una escala: vale cerca de los dos puntos y a lo largo de su línea).</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Fotograma</translation>
+    </message>
+    <message>
+        <source>Steadied x</source>
+        <translation>x estabilizada</translation>
+    </message>
+    <message>
+        <source>Steadied y</source>
+        <translation>y estabilizada</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>A lo ancho</translation>
+    </message>
+    <message>
+        <source>Along</source>
+        <translation>A lo largo</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Acierto</translation>
+    </message>
+    <message>
+        <source>Film [s]</source>
+        <translation>Vídeo [s]</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>Draw a box round what is to be followed.</source>
+        <translation>Dibuja un recuadro alrededor de lo que hay que seguir.</translation>
+    </message>
+    <message>
+        <source>Click known points on the water for metres and speeds: the poles of two gates, or of one for a scale only.</source>
+        <translation>Haz clic en puntos conocidos del agua para tener metros y velocidades: los palos de dos puertas, o de una para tener solo una escala.</translation>
+    </message>
+    <message>
+        <source>There is no speed: the path is too short, or the camera&apos;s motion is not known.</source>
+        <translation>No hay velocidad: la trayectoria es demasiado corta o no se conoce el movimiento de la cámara.</translation>
+    </message>
+    <message>
+        <source>Uncertainty of the clicks</source>
+        <translation>Incertidumbre de los clics</translation>
+    </message>
+    <message>
+        <source>✓ Done</source>
+        <translation>✓ Hecho</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>En curso…</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::AthleteDialog</name>
@@ -7861,10 +10437,6 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
         <translation>Dentro</translation>
     </message>
     <message>
-        <source>Its place in the composed film. Space chooses it or takes it out.</source>
-        <translation>Su lugar en el vídeo compuesto. Espacio lo elige o lo saca.</translation>
-    </message>
-    <message>
         <source>Film</source>
         <translation>Vídeo</translation>
     </message>
@@ -7999,6 +10571,10 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     <message>
         <source>Shows it twice as large, round that path.</source>
         <translation>Lo muestra al doble de tamaño, alrededor de esa trayectoria.</translation>
+    </message>
+    <message>
+        <source>Its place in the composed film. Enter chooses it or takes it out.</source>
+        <translation>Su lugar en el vídeo compuesto. Intro lo elige o lo saca.</translation>
     </message>
 </context>
 <context>
@@ -8651,6 +11227,34 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     <message>
         <source>Leave it</source>
         <translation>Dejarlo</translation>
+    </message>
+    <message>
+        <source>Drag a part, or one of its points. The poles of a gate turn about each other.</source>
+        <translation>Arrastra una parte o uno de sus puntos. Los palos de una puerta giran uno alrededor del otro.</translation>
+    </message>
+    <message>
+        <source>Click where a gate hangs; hold the button and drag its right pole round.</source>
+        <translation>Haz clic donde cuelga una puerta; mantén el botón y arrastra su palo derecho para girarla.</translation>
+    </message>
+    <message>
+        <source>Drag from bank to bank where the split is taken.</source>
+        <translation>Arrastra de orilla a orilla donde se toma el parcial.</translation>
+    </message>
+    <message>
+        <source>Draw along the bank with the button held down.</source>
+        <translation>Dibuja a lo largo de la orilla con el botón pulsado.</translation>
+    </message>
+    <message>
+        <source>Draw the way of a boat with the button held down, and name it at the right.</source>
+        <translation>Dibuja la trazada de un barco con el botón pulsado y ponle nombre a la derecha.</translation>
+    </message>
+    <message>
+        <source>Click where words are to stand.</source>
+        <translation>Haz clic donde deba ir el texto.</translation>
+    </message>
+    <message>
+        <source>It has %1 MB. Up to 40 MB can be read; save it smaller first.</source>
+        <translation>Tiene %1 MB. Se pueden leer hasta 40 MB; guárdala antes más pequeña.</translation>
     </message>
 </context>
 <context>
@@ -14353,6 +16957,14 @@ Las penalizaciones no se cuentan.</translation>
         <source>Show in &amp;folder</source>
         <translation>Mostrar en la &amp;carpeta</translation>
     </message>
+    <message>
+        <source>The saved files have no run of this athlete.</source>
+        <translation>Los archivos guardados no tienen ninguna manga de este deportista.</translation>
+    </message>
+    <message>
+        <source>There is no run of a named athlete in the split files that are open.</source>
+        <translation>En los archivos de parciales abiertos no hay ninguna manga de un deportista con nombre.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::PivotDialog</name>
@@ -17120,6 +19732,10 @@ Elige un archivo.</translation>
         <source>Pa&amp;ge for an athlete…</source>
         <translation>Pá&amp;gina para un deportista…</translation>
     </message>
+    <message>
+        <source>Only the athlete&apos;s &amp;own races</source>
+        <translation>Solo las carreras &amp;propias del deportista</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SeasonHeader</name>
@@ -17138,6 +19754,14 @@ Elige un archivo.</translation>
     <message>
         <source>&amp;Athlete</source>
         <translation>&amp;Deportista</translation>
+    </message>
+    <message>
+        <source>Only &amp;own races</source>
+        <translation>Solo carreras &amp;propias</translation>
+    </message>
+    <message>
+        <source>Only races in which this athlete starts, in whichever phase; on every page</source>
+        <translation>Solo carreras en las que sale este deportista, en cualquier fase; en todas las páginas</translation>
     </message>
 </context>
 <context>
@@ -18608,30 +21232,6 @@ Elige un archivo.</translation>
         <translation>Compartir carpetas</translation>
     </message>
     <message>
-        <source>F&amp;older</source>
-        <translation>&amp;Carpeta</translation>
-    </message>
-    <message>
-        <source>On this computer, with everything below it but hidden files</source>
-        <translation>En este ordenador, con todo lo que contiene salvo los archivos ocultos</translation>
-    </message>
-    <message>
-        <source>the folder that is shared</source>
-        <translation>la carpeta que se comparte</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>Di&amp;rección</translation>
-    </message>
-    <message>
-        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
-        <translation>De una carpeta en un servidor WebDAV: Nextcloud, ownCloud, un NAS, Apache…</translation>
-    </message>
-    <message>
-        <source>Choose the folder…</source>
-        <translation>Elegir la carpeta…</translation>
-    </message>
-    <message>
         <source>Compare</source>
         <translation>Comparar</translation>
     </message>
@@ -18662,14 +21262,6 @@ Elige un archivo.</translation>
     <message>
         <source>The folder to share</source>
         <translation>La carpeta que compartir</translation>
-    </message>
-    <message>
-        <source>There is no folder to share yet.</source>
-        <translation>Aún no hay ninguna carpeta que compartir.</translation>
-    </message>
-    <message>
-        <source>“%1” is no folder.</source>
-        <translation>«%1» no es una carpeta.</translation>
     </message>
     <message>
         <source>Both sides are looked at…</source>
@@ -18941,6 +21533,10 @@ y %1 más</translation>
     <message>
         <source>The lines could not be kept in %1: %2</source>
         <translation>Las líneas no se pudieron conservar en %1: %2</translation>
+    </message>
+    <message>
+        <source>The lines of this film are still being read. Try again in a moment.</source>
+        <translation>Las líneas de este vídeo aún se están leyendo. Inténtelo de nuevo en un momento.</translation>
     </message>
 </context>
 <context>
@@ -19401,6 +21997,14 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <message>
         <source>First steps, three minutes</source>
         <translation>Primeros pasos, tres minutos</translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation>Hecho: %1</translation>
+    </message>
+    <message>
+        <source>To do: %1</source>
+        <translation>Por hacer: %1</translation>
     </message>
 </context>
 <context>
@@ -19985,6 +22589,14 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
             <numerusform>%n columna</numerusform>
             <numerusform>%n columnas</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Line %1, column %2 of the list says “%3”.</source>
+        <translation>La línea %1, columna %2 de la lista dice «%3».</translation>
+    </message>
+    <message>
+        <source>Line %1 of the list is no row of this table any more.</source>
+        <translation>La línea %1 de la lista ya no es una fila de esta tabla.</translation>
     </message>
 </context>
 <context>

@@ -906,6 +906,41 @@
     </message>
 </context>
 <context>
+    <name>SharePlace</name>
+    <message>
+        <source>Choose the folder…</source>
+        <translation>Choisir le dossier…</translation>
+    </message>
+    <message>
+        <source>F&amp;older</source>
+        <translation>&amp;Dossier</translation>
+    </message>
+    <message>
+        <source>On this computer, with everything below it but hidden files</source>
+        <translation>Sur cet ordinateur, avec tout ce qu’il contient sauf les fichiers cachés</translation>
+    </message>
+    <message>
+        <source>the folder that is shared</source>
+        <translation>le dossier partagé</translation>
+    </message>
+    <message>
+        <source>&amp;Address</source>
+        <translation>&amp;Adresse</translation>
+    </message>
+    <message>
+        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
+        <translation>D’un dossier sur un serveur WebDAV&#x202f;: Nextcloud, ownCloud, un NAS, Apache…</translation>
+    </message>
+    <message>
+        <source>There is no folder to share yet.</source>
+        <translation>Il n’y a pas encore de dossier à partager.</translation>
+    </message>
+    <message>
+        <source>“%1” is no folder.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un dossier.</translation>
+    </message>
+</context>
+<context>
     <name>SlitMarking</name>
     <message>
         <source>The film is not read so far.</source>
@@ -1076,6 +1111,18 @@
     <message>
         <source>Work kept</source>
         <translation>Travail conservé</translation>
+    </message>
+    <message>
+        <source>Pattern of the names</source>
+        <translation>Modèle des noms</translation>
+    </message>
+    <message>
+        <source>Names now and then</source>
+        <translation>Noms actuels et nouveaux</translation>
+    </message>
+    <message>
+        <source>Films being composed</source>
+        <translation>Films en composition</translation>
     </message>
 </context>
 <context>
@@ -2982,22 +3029,6 @@
         <source>Wilson&apos;s interval, 90 %</source>
         <translation>intervalle de Wilson, 90&#x202f;%</translation>
     </message>
-    <message>
-        <source>{} runs are</source>
-        <translation>{} manches sont</translation>
-    </message>
-    <message>
-        <source>{} left out: {} penalties are not known by gate.</source>
-        <translation>{} laissées de côté&#x202f;: {} pénalités ne sont pas connues par porte.</translation>
-    </message>
-    <message>
-        <source> and {} more</source>
-        <translation> et {} autres</translation>
-    </message>
-    <message>
-        <source>{} {} out: touched more than the {} that all have in common.</source>
-        <translation>{} {} à part&#x202f;: davantage de touches que les {} communs à tous.</translation>
-    </message>
     <message numerus="yes">
         <source>{} touches</source>
         <translation>
@@ -3025,47 +3056,16 @@
         <translation>Rien ne ressort ({})&#x202f;: le plus haut, {} ({}), peut être dû au hasard.</translation>
     </message>
     <message>
-        <source>Without this {}: {}.</source>
-        <translation>Sans ce groupe ({})&#x202f;: {}.</translation>
-    </message>
-    <message>
         <source>None of {} cost a place.</source>
         <translation>Sur {}, aucune n’a coûté de place.</translation>
-    </message>
-    <message>
-        <source>{} of them</source>
-        <translation>{} d’entre elles</translation>
-    </message>
-    <message>
-        <source>Of {} {} cost places, {} a medal.</source>
-        <translation>Sur {}, {} ont coûté des places, {} une médaille.</translation>
     </message>
     <message>
         <source>None of {} was noted in detail.</source>
         <translation>Sur {}, aucune n’a été notée en détail.</translation>
     </message>
-    <message numerus="yes">
-        <source>{} were</source>
-        <translation>
-            <numerusform>{} a été</numerusform>
-            <numerusform>{} ont été</numerusform>
-        </translation>
-    </message>
-    <message>
-        <source>Of {} {} noted in detail.</source>
-        <translation>Sur {}, {} notées en détail.</translation>
-    </message>
     <message>
         <source>Too few to tell: no group has {} whole runs.</source>
         <translation>Trop peu pour conclure&#x202f;: aucun groupe n’a {} manches complètes.</translation>
-    </message>
-    <message>
-        <source>{} touches a run in {}, all in one third of the field.</source>
-        <translation>{} touches par manche sur {}, toutes dans un seul tiers du plateau.</translation>
-    </message>
-    <message>
-        <source>{:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
-        <translation>{:.2f} touche par manche dans le tiers rapide, {:.2f} dans le lent.</translation>
     </message>
     <message>
         <source>1 % of speed pays for {:.2f} touches a run.</source>
@@ -3102,18 +3102,6 @@
     <message>
         <source>trend {:+.1f} % a year: {}</source>
         <translation>tendance {:+.1f}&#x202f;% par an&#x202f;: {}</translation>
-    </message>
-    <message>
-        <source>{}: too few runs to tell a trend behind {}.</source>
-        <translation>{}&#x202f;: trop peu de manches pour dire une tendance derrière {}.</translation>
-    </message>
-    <message>
-        <source>{}: {:+.1f} % a year behind {}{}, {}.</source>
-        <translation>{}&#x202f;: {:+.1f}&#x202f;% par an derrière {}{}, {}.</translation>
-    </message>
-    <message>
-        <source>{} of {}&apos;s races is known.</source>
-        <translation>{} des courses de {} est connu.</translation>
     </message>
     <message>
         <source>Too few runs to tell how much they vary.</source>
@@ -3176,14 +3164,6 @@
     <message>
         <source>{:.1f} % would have been a medal in {} of {}</source>
         <translation>{:.1f}&#x202f;% aurait été une médaille dans {} sur {}</translation>
-    </message>
-    <message>
-        <source>Of {} who have both often enough, {} {} beyond doubt faster in {}, {} slower.</source>
-        <translation>Sur {} qui ont les deux assez souvent, {} {} sans aucun doute plus rapides en {}, {} plus lents.</translation>
-    </message>
-    <message>
-        <source>{}: {}, {} of {} ({:.0f}–{:.0f} %).</source>
-        <translation>{}&#x202f;: {}, {} sur {} ({:.0f}–{:.0f}&#x202f;%).</translation>
     </message>
     <message>
         <source>Nearest to the winners ({}): {}, {:.1f} % (median of {}).</source>
@@ -5199,6 +5179,2390 @@
         <source>number of notes</source>
         <translation>nombre de notes</translation>
     </message>
+    <message>
+        <source>whole</source>
+        <translation>nombre entier</translation>
+    </message>
+    <message>
+        <source>decimal</source>
+        <translation>nombre décimal</translation>
+    </message>
+    <message>
+        <source>status</source>
+        <translation>statut</translation>
+    </message>
+    <message>
+        <source>date</source>
+        <translation>date</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>texte</translation>
+    </message>
+    <message>
+        <source>Add {}</source>
+        <translation>Ajouter {}</translation>
+    </message>
+    <message>
+        <source>Colour {}</source>
+        <translation>Colorer {}</translation>
+    </message>
+    <message>
+        <source>First line is a row</source>
+        <translation>La première ligne est une rangée</translation>
+    </message>
+    <message>
+        <source>First line is titles</source>
+        <translation>La première ligne porte les titres</translation>
+    </message>
+    <message>
+        <source>Group by {}</source>
+        <translation>Grouper par {}</translation>
+    </message>
+    <message>
+        <source>Keep {} in {}</source>
+        <translation>Garder {} dans {}</translation>
+    </message>
+    <message>
+        <source>Leave out {}</source>
+        <translation>Laisser {} de côté</translation>
+    </message>
+    <message>
+        <source>No colours in {}</source>
+        <translation>Pas de couleurs dans {}</translation>
+    </message>
+    <message>
+        <source>No groups</source>
+        <translation>Sans groupes</translation>
+    </message>
+    <message>
+        <source>Pivot of {} by {}</source>
+        <translation>Tableau croisé de {} par {}</translation>
+    </message>
+    <message>
+        <source>Read {} as {}</source>
+        <translation>Lire {} comme {}</translation>
+    </message>
+    <message>
+        <source>Sort by {}</source>
+        <translation>Trier par {}</translation>
+    </message>
+    <message>
+        <source>Sort by {}, downwards</source>
+        <translation>Trier par {}, décroissant</translation>
+    </message>
+    <message>
+        <source>Medals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Le plus souvent médaillé&#x202f;: {}, {} sur {} ({:.0f}–{:.0f}&#x202f;%).</translation>
+    </message>
+    <message>
+        <source>In finals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Le plus souvent en finale&#x202f;: {}, {} sur {} ({:.0f}–{:.0f}&#x202f;%).</translation>
+    </message>
+    <message>
+        <source>In semifinals most often: {}, {} of {} ({:.0f}–{:.0f} %).</source>
+        <translation>Le plus souvent en demi-finale&#x202f;: {}, {} sur {} ({:.0f}–{:.0f}&#x202f;%).</translation>
+    </message>
+    <message>
+        <source>No fastest split of {}&apos;s races is known.</source>
+        <translation>Aucun meilleur temps intermédiaire des courses de {} n’est connu.</translation>
+    </message>
+    <message>
+        <source>No winner of {}&apos;s races is known.</source>
+        <translation>Aucun vainqueur des courses de {} n’est connu.</translation>
+    </message>
+    <message>
+        <source>No penalty of a whole run is known by gate.</source>
+        <translation>Aucune pénalité d’une manche complète n’est connue par porte.</translation>
+    </message>
+    <message>
+        <source>No race of the team has a result that says so.</source>
+        <translation>Aucune course de l’équipe n’a un résultat qui le dise.</translation>
+    </message>
+    <message>
+        <source>No whole run is known by gate.</source>
+        <translation>Aucune manche complète n’est connue par porte.</translation>
+    </message>
+    <message>
+        <source>Nobody&apos;s penalties are known by gate.</source>
+        <translation>Les pénalités ne sont connues par porte pour personne.</translation>
+    </message>
+    <message>
+        <source>Noted in detail: {} of {}. Shares of what was noted, no rates: nobody notes how gates are passed clean.</source>
+        <translation>Notées en détail&#x202f;: {} sur {}. Ce sont des parts de ce qui a été noté, pas des taux&#x202f;: personne ne note comment les portes sont passées sans faute.</translation>
+    </message>
+    <message>
+        <source>Noted in detail: {} of {}. Too few to tell.</source>
+        <translation>Notées en détail&#x202f;: {} sur {}. Trop peu pour conclure.</translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, beyond doubt faster in the final: {}, slower: {}.</source>
+        <translation>Sur {} qui ont les deux assez souvent, sans aucun doute plus rapides en finale&#x202f;: {}, plus lents&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>Of {} who have both often enough, beyond doubt faster in the second run: {}, slower: {}.</source>
+        <translation>Sur {} qui ont les deux assez souvent, sans aucun doute plus rapides dans la seconde manche&#x202f;: {}, plus lents&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, none of them a medal.</source>
+        <translation>Sur {}, {} ont coûté des places, aucune d’elles une médaille.</translation>
+    </message>
+    <message>
+        <source>Of {} {} cost places, {} of them a medal.</source>
+        <translation>Sur {}, {} ont coûté des places, dont {} une médaille.</translation>
+    </message>
+    <message>
+        <source>The fast touch less: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Les rapides touchent moins&#x202f;: {:.2f} touche par manche dans le tiers rapide, {:.2f} dans le lent.</translation>
+    </message>
+    <message>
+        <source>The fast touch more: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Les rapides touchent plus&#x202f;: {:.2f} touche par manche dans le tiers rapide, {:.2f} dans le lent.</translation>
+    </message>
+    <message>
+        <source>Too few to tell fast from slow: {:.2f} touches a run in the faster third, {:.2f} in the slower.</source>
+        <translation>Trop peu pour distinguer rapides et lents&#x202f;: {:.2f} touche par manche dans le tiers rapide, {:.2f} dans le lent.</translation>
+    </message>
+    <message>
+        <source>There is no penalty.</source>
+        <translation>Il n’y a aucune pénalité.</translation>
+    </message>
+    <message>
+        <source>Too few races with both to tell a change.</source>
+        <translation>Trop peu de courses avec les deux pour dire un changement.</translation>
+    </message>
+    <message>
+        <source>Without this missed gate: {}.</source>
+        <translation>Sans cette porte manquée&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>Without this touch: {}.</source>
+        <translation>Sans cette touche&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>category</source>
+        <translation>catégorie</translation>
+    </message>
+    <message>
+        <source>crew</source>
+        <translation>équipage</translation>
+    </message>
+    <message>
+        <source>gate</source>
+        <translation>porte</translation>
+    </message>
+    <message>
+        <source>hand</source>
+        <translation>main</translation>
+    </message>
+    <message>
+        <source>month</source>
+        <translation>mois</translation>
+    </message>
+    <message>
+        <source>phase</source>
+        <translation>phase</translation>
+    </message>
+    <message>
+        <source>race</source>
+        <translation>course</translation>
+    </message>
+    <message>
+        <source>section</source>
+        <translation>secteur</translation>
+    </message>
+    <message>
+        <source>tenth of the course</source>
+        <translation>dixième du parcours</translation>
+    </message>
+    <message>
+        <source>type of gate</source>
+        <translation>type de porte</translation>
+    </message>
+    <message>
+        <source>nobody came</source>
+        <translation>personne n’est venu</translation>
+    </message>
+    <message>
+        <source>those without one</source>
+        <translation>ceux sans</translation>
+    </message>
+    <message>
+        <source>{:.2f} touches a run in {}, all in one third of the field.</source>
+        <translation>{:.2f} touche par manche sur {}, toutes dans un seul tiers du plateau.</translation>
+    </message>
+    <message>
+        <source>{} and {} more</source>
+        <translation>{} et {} autres</translation>
+    </message>
+    <message>
+        <source>{} stand out: touched more than the {} that all have in common.</source>
+        <translation>{} ressortent&#x202f;: davantage de touches que les {} communs à tous.</translation>
+    </message>
+    <message>
+        <source>{} stands out: touched more than the {} that all have in common.</source>
+        <translation>{} ressort&#x202f;: davantage de touches que les {} communs à tous.</translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind the fastest splits.</source>
+        <translation>{}&#x202f;: trop peu de manches pour dire une tendance derrière les meilleurs inters.</translation>
+    </message>
+    <message>
+        <source>{}: too few runs to tell a trend behind the winners.</source>
+        <translation>{}&#x202f;: trop peu de manches pour dire une tendance derrière les vainqueurs.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the fastest splits ({:+.1f} to {:+.1f}), {}.</source>
+        <translation>{}&#x202f;: {:+.1f}&#x202f;% par an derrière les meilleurs inters (de {:+.1f} à {:+.1f}), {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the fastest splits, {}.</source>
+        <translation>{}&#x202f;: {:+.1f}&#x202f;% par an derrière les meilleurs inters, {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the winners ({:+.1f} to {:+.1f}), {}.</source>
+        <translation>{}&#x202f;: {:+.1f}&#x202f;% par an derrière les vainqueurs (de {:+.1f} à {:+.1f}), {}.</translation>
+    </message>
+    <message>
+        <source>{}: {:+.1f} % a year behind the winners, {}.</source>
+        <translation>{}&#x202f;: {:+.1f}&#x202f;% par an derrière les vainqueurs, {}.</translation>
+    </message>
+    <message>
+        <source>{}st</source>
+        <translation>{}e</translation>
+    </message>
+    <message>
+        <source>{}nd</source>
+        <translation>{}e</translation>
+    </message>
+    <message>
+        <source>{}rd</source>
+        <translation>{}e</translation>
+    </message>
+    <message>
+        <source>{}th</source>
+        <translation>{}e</translation>
+    </message>
+    <message>
+        <source>* the best of its column.</source>
+        <translation>* le meilleur de sa colonne.</translation>
+    </message>
+    <message>
+        <source>Against the winners</source>
+        <translation>Face aux vainqueurs</translation>
+    </message>
+    <message>
+        <source>Against the winners, over {}. Losing: the whole interval is above 0.</source>
+        <translation>Face aux vainqueurs, sur {}. Perte&#x202f;: tout l’intervalle est au-dessus de 0.</translation>
+    </message>
+    <message>
+        <source>All runs</source>
+        <translation>Toutes les manches</translation>
+    </message>
+    <message>
+        <source>Among the others</source>
+        <translation>Parmi les autres</translation>
+    </message>
+    <message>
+        <source>Behind the winner</source>
+        <translation>Derrière le vainqueur</translation>
+    </message>
+    <message>
+        <source>Beside the winner</source>
+        <translation>À côté du vainqueur</translation>
+    </message>
+    <message>
+        <source>Crew</source>
+        <translation>Équipage</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Jour</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Films</translation>
+    </message>
+    <message>
+        <source>Gap to the ideal run from section to section: {}</source>
+        <translation>Écart à la manche idéale de secteur en secteur&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>Gap to {} from section to section: {}</source>
+        <translation>Écart à {} de secteur en secteur&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>Gap to {}, in seconds: above the line is behind.</source>
+        <translation>Écart à {}, en secondes&#x202f;: au-dessus de la ligne, c’est du retard.</translation>
+    </message>
+    <message>
+        <source>This run won. Gap to the ideal run, the best of every section, in seconds.</source>
+        <translation>Cette manche a gagné. Écart à la manche idéale, le meilleur de chaque secteur, en secondes.</translation>
+    </message>
+    <message>
+        <source>Gate not noted</source>
+        <translation>Porte non notée</translation>
+    </message>
+    <message>
+        <source>Gate {}</source>
+        <translation>Porte {}</translation>
+    </message>
+    <message>
+        <source>Most lost: {}.</source>
+        <translation>Plus grosses pertes&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>Not ranked, time</source>
+        <translation>Non classé, temps</translation>
+    </message>
+    <message>
+        <source>Nothing stands out from these runs: no interval lies above 0 as a whole.</source>
+        <translation>Rien ne ressort de ces manches&#x202f;: aucun intervalle n’est entièrement au-dessus de 0.</translation>
+    </message>
+    <message>
+        <source>Of what</source>
+        <translation>De quoi</translation>
+    </message>
+    <message>
+        <source>Others</source>
+        <translation>Autres</translation>
+    </message>
+    <message>
+        <source>Penalties on the course</source>
+        <translation>Pénalités sur le parcours</translation>
+    </message>
+    <message>
+        <source>Penalty seconds are in the times.</source>
+        <translation>Les secondes de pénalité sont dans les temps.</translation>
+    </message>
+    <message>
+        <source>Percent behind the winner by day, penalties included; the filled dot is the last run of each race.</source>
+        <translation>Pourcentage derrière le vainqueur par jour, pénalités comprises&#x202f;; le point plein est la dernière manche de chaque course.</translation>
+    </message>
+    <message>
+        <source>Percent behind the winner, run by run, {} to {}</source>
+        <translation>Pourcentage derrière le vainqueur, manche par manche, de {} à {}</translation>
+    </message>
+    <message>
+        <source>Run {}</source>
+        <translation>Manche {}</translation>
+    </message>
+    <message>
+        <source>Season</source>
+        <translation>Saison</translation>
+    </message>
+    <message>
+        <source>Split table: {}</source>
+        <translation>Tableau des inters&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>The name of a page ends in .html, and its films lie in the folder named the same without that.</source>
+        <translation>Le nom d’une page se termine par .html, et ses films se trouvent dans le dossier du même nom sans cela.</translation>
+    </message>
+    <message>
+        <source>Time lost, as noted</source>
+        <translation>Temps perdu, tel que noté</translation>
+    </message>
+    <message>
+        <source>Times from the start to each split.</source>
+        <translation>Temps du départ à chaque point intermédiaire.</translation>
+    </message>
+    <message>
+        <source>Times in seconds. Made with Kavela.</source>
+        <translation>Temps en secondes. Fait avec Kavela.</translation>
+    </message>
+    <message>
+        <source>To winner</source>
+        <translation>Au vainqueur</translation>
+    </message>
+    <message>
+        <source>at {} s of the run</source>
+        <translation>à {} s de la manche</translation>
+    </message>
+    <message>
+        <source>eyes: {}</source>
+        <translation>regard&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>fastest</source>
+        <translation>le plus rapide</translation>
+    </message>
+    <message>
+        <source>middle</source>
+        <translation>moyen</translation>
+    </message>
+    <message>
+        <source>slowest</source>
+        <translation>le plus lent</translation>
+    </message>
+    <message>
+        <source>upstream</source>
+        <translation>remontée</translation>
+    </message>
+    <message>
+        <source>{} &lt;small&gt;of {}&lt;/small&gt;</source>
+        <translation>{} &lt;small&gt;sur {}&lt;/small&gt;</translation>
+    </message>
+    <message>
+        <source>{} = paddling {}, penalties {}, official against video time {}.</source>
+        <translation>{} = navigation {}, pénalités {}, temps officiel face au temps vidéo {}.</translation>
+    </message>
+    <message>
+        <source>{} = paddling {}, penalties {}.</source>
+        <translation>{} = navigation {}, pénalités {}.</translation>
+    </message>
+    <message>
+        <source>{} against {}</source>
+        <translation>{} face à {}</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} gates</source>
+        <translation>
+            <numerusform>{} porte</numerusform>
+            <numerusform>{} portes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} more runs are left out.</source>
+        <translation>
+            <numerusform>{} autre manche est laissée de côté.</numerusform>
+            <numerusform>{} autres manches sont laissées de côté.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} of the runs compared, column by column.</source>
+        <translation>{} des manches comparées, colonne par colonne.</translation>
+    </message>
+    <message>
+        <source>{} to {}</source>
+        <translation>{} à {}</translation>
+    </message>
+    <message>
+        <source>{}, run {}</source>
+        <translation>{}, manche {}</translation>
+    </message>
+    <message>
+        <source>{}, {} upstream</source>
+        <translation>{}, dont {} en remontée</translation>
+    </message>
+    <message>
+        <source>{}. The film lies beside this page: {}</source>
+        <translation>{}. Le film se trouve à côté de cette page&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>{}: {} s a run</source>
+        <translation>{}&#x202f;: {} s par manche</translation>
+    </message>
+    <message>
+        <source>The film is not there.</source>
+        <translation>Le film n’est pas là.</translation>
+    </message>
+    <message>
+        <source>The marks of the run lie behind the end of the film.</source>
+        <translation>Les marques de la manche sont après la fin du film.</translation>
+    </message>
+    <message>
+        <source>No run of &quot;{}&quot; is of the phase &quot;{}&quot;.</source>
+        <translation>Aucune manche de «&#x202f;{}&#x202f;» n’est de la phase «&#x202f;{}&#x202f;».</translation>
+    </message>
+    <message>
+        <source>Entry</source>
+        <translation>Entrée</translation>
+    </message>
+    <message>
+        <source>Downstream gate</source>
+        <translation>Porte en descente</translation>
+    </message>
+    <message>
+        <source>Upstream gate</source>
+        <translation>Remontée</translation>
+    </message>
+    <message>
+        <source>Offset gate</source>
+        <translation>Porte décalée</translation>
+    </message>
+    <message>
+        <source>Spin gate</source>
+        <translation>Porte à tour complet</translation>
+    </message>
+    <message>
+        <source>Single pole</source>
+        <translation>Fiche unique</translation>
+    </message>
+    <message>
+        <source>Touch</source>
+        <translation>Touche</translation>
+    </message>
+    <message>
+        <source>Missed gate</source>
+        <translation>Porte manquée</translation>
+    </message>
+    <message>
+        <source>Head outside the gate</source>
+        <translation>Tête hors de la porte</translation>
+    </message>
+    <message>
+        <source>Wrong direction</source>
+        <translation>Mauvais sens</translation>
+    </message>
+    <message>
+        <source>Wrong order</source>
+        <translation>Mauvais ordre</translation>
+    </message>
+    <message>
+        <source>Pole pushed on purpose</source>
+        <translation>Fiche poussée volontairement</translation>
+    </message>
+    <message>
+        <source>Upside down in the gate</source>
+        <translation>À l’envers dans la porte</translation>
+    </message>
+    <message>
+        <source>Inner pole</source>
+        <translation>Fiche intérieure</translation>
+    </message>
+    <message>
+        <source>Outer pole</source>
+        <translation>Fiche extérieure</translation>
+    </message>
+    <message>
+        <source>Both poles</source>
+        <translation>Les deux fiches</translation>
+    </message>
+    <message>
+        <source>Left pole</source>
+        <translation>Fiche gauche</translation>
+    </message>
+    <message>
+        <source>Right pole</source>
+        <translation>Fiche droite</translation>
+    </message>
+    <message>
+        <source>Boat</source>
+        <translation>Bateau</translation>
+    </message>
+    <message>
+        <source>Blade</source>
+        <translation>Pale</translation>
+    </message>
+    <message>
+        <source>Body</source>
+        <translation>Corps</translation>
+    </message>
+    <message>
+        <source>Head</source>
+        <translation>Tête</translation>
+    </message>
+    <message>
+        <source>Bow</source>
+        <translation>Pointe avant</translation>
+    </message>
+    <message>
+        <source>Stern</source>
+        <translation>Pointe arrière</translation>
+    </message>
+    <message>
+        <source>Shaft</source>
+        <translation>Manche de la pagaie</translation>
+    </message>
+    <message>
+        <source>Arm</source>
+        <translation>Bras</translation>
+    </message>
+    <message>
+        <source>Washed past the gate</source>
+        <translation>Emporté au-delà de la porte</translation>
+    </message>
+    <message>
+        <source>Left out on purpose</source>
+        <translation>Laissée volontairement</translation>
+    </message>
+    <message>
+        <source>Entering</source>
+        <translation>À l’entrée</translation>
+    </message>
+    <message>
+        <source>In the gate</source>
+        <translation>Dans la porte</translation>
+    </message>
+    <message>
+        <source>Leaving</source>
+        <translation>À la sortie</translation>
+    </message>
+    <message>
+        <source>Before the gate</source>
+        <translation>Avant la porte</translation>
+    </message>
+    <message>
+        <source>After the gate</source>
+        <translation>Après la porte</translation>
+    </message>
+    <message>
+        <source>Forwards</source>
+        <translation>En avant</translation>
+    </message>
+    <message>
+        <source>Backwards</source>
+        <translation>En arrière</translation>
+    </message>
+    <message>
+        <source>Sideways</source>
+        <translation>De travers</translation>
+    </message>
+    <message>
+        <source>Turning left</source>
+        <translation>En tournant à gauche</translation>
+    </message>
+    <message>
+        <source>Turning right</source>
+        <translation>En tournant à droite</translation>
+    </message>
+    <message>
+        <source>Drifting left</source>
+        <translation>Dérive à gauche</translation>
+    </message>
+    <message>
+        <source>Drifting right</source>
+        <translation>Dérive à droite</translation>
+    </message>
+    <message>
+        <source>Direct line</source>
+        <translation>Ligne directe</translation>
+    </message>
+    <message>
+        <source>Spin</source>
+        <translation>Tour complet</translation>
+    </message>
+    <message>
+        <source>Duffek (bow draw)</source>
+        <translation>Duffek (appel avant)</translation>
+    </message>
+    <message>
+        <source>Sweep</source>
+        <translation>Propulsion circulaire</translation>
+    </message>
+    <message>
+        <source>Stern pivot</source>
+        <translation>Pivot arrière</translation>
+    </message>
+    <message>
+        <source>Punt</source>
+        <translation>Poussée au fond</translation>
+    </message>
+    <message>
+        <source>Flat turn</source>
+        <translation>Virage à plat</translation>
+    </message>
+    <message>
+        <source>Ferry</source>
+        <translation>Bac</translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation>Marche arrière</translation>
+    </message>
+    <message>
+        <source>Surf</source>
+        <translation>Surf</translation>
+    </message>
+    <message>
+        <source>At the gate</source>
+        <translation>Vers la porte</translation>
+    </message>
+    <message>
+        <source>At the next gate</source>
+        <translation>Vers la porte suivante</translation>
+    </message>
+    <message>
+        <source>At the pole</source>
+        <translation>Vers la fiche</translation>
+    </message>
+    <message>
+        <source>At the water</source>
+        <translation>Vers l’eau</translation>
+    </message>
+    <message>
+        <source>At the blade</source>
+        <translation>Vers la pale</translation>
+    </message>
+    <message>
+        <source>At the bow</source>
+        <translation>Vers la pointe avant</translation>
+    </message>
+    <message>
+        <source>Elsewhere</source>
+        <translation>Ailleurs</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Droite</translation>
+    </message>
+    <message>
+        <source>Cross-bow draw</source>
+        <translation>Appel croisé</translation>
+    </message>
+    <message>
+        <source>Draw</source>
+        <translation>Appel</translation>
+    </message>
+    <message>
+        <source>Stern rudder</source>
+        <translation>Gouvernail arrière</translation>
+    </message>
+    <message>
+        <source>Brace</source>
+        <translation>Appui</translation>
+    </message>
+    <message>
+        <source>Cross-bow</source>
+        <translation>Croisé avant</translation>
+    </message>
+    <message>
+        <source>Single gate</source>
+        <translation>Porte isolée</translation>
+    </message>
+    <message>
+        <source>Offset (stagger)</source>
+        <translation>Décalage</translation>
+    </message>
+    <message>
+        <source>S-turn</source>
+        <translation>Virage en S</translation>
+    </message>
+    <message>
+        <source>Cross (ferry)</source>
+        <translation>Traversée (bac)</translation>
+    </message>
+    <message>
+        <source>Upstream</source>
+        <translation>Remontée</translation>
+    </message>
+    <message>
+        <source>Upstream sprint</source>
+        <translation>Sprint vers l’amont</translation>
+    </message>
+    <message>
+        <source>Merano</source>
+        <translation>Merano</translation>
+    </message>
+    <message>
+        <source>Downstream to upstream</source>
+        <translation>De descendue à remontée</translation>
+    </message>
+    <message>
+        <source>Upstream to downstream</source>
+        <translation>De remontée à descendue</translation>
+    </message>
+    <message>
+        <source>Upstream to upstream</source>
+        <translation>De remontée à remontée</translation>
+    </message>
+    <message>
+        <source>Straight gates</source>
+        <translation>Portes en ligne</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Départ</translation>
+    </message>
+    <message>
+        <source>Finish sprint</source>
+        <translation>Sprint final</translation>
+    </message>
+    <message>
+        <source>Approach</source>
+        <translation>Approche</translation>
+    </message>
+    <message>
+        <source>Between the gates</source>
+        <translation>Entre les portes</translation>
+    </message>
+    <message>
+        <source>Whole</source>
+        <translation>Entier</translation>
+    </message>
+    <message>
+        <source>Flat water</source>
+        <translation>Eau plate</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Vague</translation>
+    </message>
+    <message>
+        <source>Stopper (hole)</source>
+        <translation>Rappel</translation>
+    </message>
+    <message>
+        <source>Eddy</source>
+        <translation>Contre-courant</translation>
+    </message>
+    <message>
+        <source>Eddy line</source>
+        <translation>Ligne de contre-courant</translation>
+    </message>
+    <message>
+        <source>Pourover</source>
+        <translation>Pleureur</translation>
+    </message>
+    <message>
+        <source>Curtain</source>
+        <translation>Rideau</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>Chute</translation>
+    </message>
+    <message>
+        <source>Boil</source>
+        <translation>Champignon</translation>
+    </message>
+    <message>
+        <source>Cushion</source>
+        <translation>Coussin</translation>
+    </message>
+    <message>
+        <source>Wave train</source>
+        <translation>Train de vagues</translation>
+    </message>
+    <message>
+        <source>Fast water</source>
+        <translation>Eau rapide</translation>
+    </message>
+    <message>
+        <source>Sweep roll</source>
+        <translation>Esquimautage circulaire</translation>
+    </message>
+    <message>
+        <source>C-to-C roll</source>
+        <translation>Esquimautage C à C</translation>
+    </message>
+    <message>
+        <source>Hand roll</source>
+        <translation>Esquimautage à la main</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs left out: penalties not known by gate</source>
+        <translation>
+            <numerusform>{} manche laissée de côté&#x202f;: pénalités non connues par porte</numerusform>
+            <numerusform>{} manches laissées de côté&#x202f;: pénalités non connues par porte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs are left out: their penalties are not known by gate.</source>
+        <translation>
+            <numerusform>{} manche est laissée de côté&#x202f;: ses pénalités ne sont pas connues par porte.</numerusform>
+            <numerusform>{} manches sont laissées de côté&#x202f;: leurs pénalités ne sont pas connues par porte.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>(not given)</source>
+        <translation>(non indiqué)</translation>
+    </message>
+    <message>
+        <source>* touched more than that with 95 % certainty and more</source>
+        <translation>* touché davantage avec une certitude de 95&#x202f;% et plus</translation>
+    </message>
+    <message>
+        <source>A missed gate also saved paddling, which is not taken back here.</source>
+        <translation>Une porte manquée a aussi épargné de la navigation, ce qui n’est pas repris ici.</translation>
+    </message>
+    <message>
+        <source>Gained</source>
+        <translation>Gagné</translation>
+    </message>
+    <message>
+        <source>Lost</source>
+        <translation>Perdu</translation>
+    </message>
+    <message>
+        <source>Missed/run</source>
+        <translation>Manq./m.</translation>
+    </message>
+    <message>
+        <source>Ranked</source>
+        <translation>Classé</translation>
+    </message>
+    <message>
+        <source>Rate %</source>
+        <translation>Taux&#x202f;%</translation>
+    </message>
+    <message>
+        <source>Risk and speed</source>
+        <translation>Risque, vitesse</translation>
+    </message>
+    <message>
+        <source>Touches/run</source>
+        <translation>Touches/m.</translation>
+    </message>
+    <message>
+        <source>Ways: chosen against the fastest timed</source>
+        <translation>Options&#x202f;: choisie face à la plus rapide chronométrée</translation>
+    </message>
+    <message>
+        <source>between {}</source>
+        <translation>entre-deux {}</translation>
+    </message>
+    <message>
+        <source>fastest third</source>
+        <translation>tiers rapide</translation>
+    </message>
+    <message>
+        <source>middle third</source>
+        <translation>tiers moyen</translation>
+    </message>
+    <message>
+        <source>slowest third</source>
+        <translation>tiers lent</translation>
+    </message>
+    <message>
+        <source>in no stretch</source>
+        <translation>dans aucun tronçon</translation>
+    </message>
+    <message>
+        <source>not finished: {}</source>
+        <translation>non terminées&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>on run {}</source>
+        <translation>face à la manche {}</translation>
+    </message>
+    <message>
+        <source>on the fastest</source>
+        <translation>face au plus rapide</translation>
+    </message>
+    <message>
+        <source>on the finalists&apos; median</source>
+        <translation>face à la médiane des finalistes</translation>
+    </message>
+    <message>
+        <source>on the ideal run</source>
+        <translation>face à la manche idéale</translation>
+    </message>
+    <message>
+        <source>on the own fastest other run</source>
+        <translation>face à la plus rapide de ses autres manches</translation>
+    </message>
+    <message>
+        <source>on the winner</source>
+        <translation>face au vainqueur</translation>
+    </message>
+    <message>
+        <source>penalties {}</source>
+        <translation>pénalités {}</translation>
+    </message>
+    <message>
+        <source>timing {}</source>
+        <translation>chronométrage {}</translation>
+    </message>
+    <message>
+        <source>touch</source>
+        <translation>touche</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} penalties cost no place</source>
+        <translation>
+            <numerusform>{} pénalité n’a coûté aucune place</numerusform>
+            <numerusform>{} pénalités n’ont coûté aucune place</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{}: there is none</source>
+        <translation>{}&#x202f;: il n’y en a pas</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no gate number.</source>
+        <translation>«&#x202f;{}&#x202f;» n’est pas un numéro de porte.</translation>
+    </message>
+    <message>
+        <source>A section up to here was not timed, so this is not the time from the start.</source>
+        <translation>Un secteur jusqu’ici n’a pas été chronométré&#x202f;: ce n’est donc pas le temps depuis le départ.</translation>
+    </message>
+    <message>
+        <source>A time must be above 0. Check the marks of this run.</source>
+        <translation>Un temps doit être supérieur à 0. Vérifiez les marques de cette manche.</translation>
+    </message>
+    <message>
+        <source>A time of the session is negative or no number.</source>
+        <translation>Un temps de la séance est négatif ou n’est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>From {:.1f} s to {:.1f} s of the run nothing is recorded.</source>
+        <translation>De {:.1f} s à {:.1f} s de la manche, rien n’est enregistré.</translation>
+    </message>
+    <message>
+        <source>Gate {} has this penalty already.</source>
+        <translation>La porte {} a déjà cette pénalité.</translation>
+    </message>
+    <message>
+        <source>Gate {} is missing before gate {} in section {}.</source>
+        <translation>La porte {} manque avant la porte {} dans le secteur {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} is not on a course of {}.</source>
+        <translation>La porte {} n’est pas sur un parcours de {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands a second time or out of order in section {}.</source>
+        <translation>La porte {} figure une seconde fois ou dans le désordre dans le secteur {}.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands in no section.</source>
+        <translation>La porte {} ne figure dans aucun secteur.</translation>
+    </message>
+    <message>
+        <source>Gate {} stands there twice.</source>
+        <translation>La porte {} y figure deux fois.</translation>
+    </message>
+    <message>
+        <source>Get ready</source>
+        <translation>Préparez-vous</translation>
+    </message>
+    <message>
+        <source>It was deleted here and changed there: it is brought again.</source>
+        <translation>Supprimé ici et modifié là-bas&#x202f;: il est repris.</translation>
+    </message>
+    <message>
+        <source>It was deleted there and changed here: it is put there again.</source>
+        <translation>Supprimé là-bas et modifié ici&#x202f;: il y est remis.</translation>
+    </message>
+    <message>
+        <source>Line {}, {}: there is no run of this crew.</source>
+        <translation>Ligne {}, {}&#x202f;: il n’y a aucune manche de cet équipage.</translation>
+    </message>
+    <message>
+        <source>No motion of the boat is attached to this run.</source>
+        <translation>Aucun mouvement du bateau n’est joint à cette manche.</translation>
+    </message>
+    <message>
+        <source>No run waiting</source>
+        <translation>Aucune manche en attente</translation>
+    </message>
+    <message>
+        <source>No time was taken here.</source>
+        <translation>Aucun temps n’a été pris ici.</translation>
+    </message>
+    <message>
+        <source>Of the first {:.1f} s of the run nothing is recorded.</source>
+        <translation>Rien n’est enregistré des premières {:.1f} s de la manche.</translation>
+    </message>
+    <message>
+        <source>Of the last {:.1f} s of the run nothing is recorded.</source>
+        <translation>Rien n’est enregistré des dernières {:.1f} s de la manche.</translation>
+    </message>
+    <message>
+        <source>Rest</source>
+        <translation>Récupération</translation>
+    </message>
+    <message>
+        <source>Rest between sets</source>
+        <translation>Récupération entre les séries</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Effort</translation>
+    </message>
+    <message>
+        <source>Somebody changed it on the server meanwhile.</source>
+        <translation>Quelqu’un l’a modifié entre-temps sur le serveur.</translation>
+    </message>
+    <message>
+        <source>Somebody has locked it on the server.</source>
+        <translation>Quelqu’un l’a verrouillé sur le serveur.</translation>
+    </message>
+    <message>
+        <source>Start and end of the stretch are not both marked in the run of {}.</source>
+        <translation>Le début et la fin du tronçon ne sont pas tous deux marqués dans la manche de {}.</translation>
+    </message>
+    <message>
+        <source>Start and end of the stretch are not both marked in this run.</source>
+        <translation>Le début et la fin du tronçon ne sont pas tous deux marqués dans cette manche.</translation>
+    </message>
+    <message>
+        <source>The end of the stretch is not marked after its start in the run of {}.</source>
+        <translation>La fin du tronçon n’est pas marquée après son début dans la manche de {}.</translation>
+    </message>
+    <message>
+        <source>The end of the stretch is not marked after its start in this run.</source>
+        <translation>La fin du tronçon n’est pas marquée après son début dans cette manche.</translation>
+    </message>
+    <message>
+        <source>The answer of the server is longer than it can be.</source>
+        <translation>La réponse du serveur est plus longue que possible.</translation>
+    </message>
+    <message>
+        <source>The attached motion is not as long as the run, so that its moments cannot be told.</source>
+        <translation>Le mouvement joint n’est pas aussi long que la manche&#x202f;: ses moments ne peuvent donc pas être connus.</translation>
+    </message>
+    <message>
+        <source>The certificate of the server is not trusted, so that nothing was sent. It was issued by “{}”: {}.</source>
+        <translation>Le certificat du serveur n’est pas fiable&#x202f;: rien n’a été envoyé. Il a été émis par «&#x202f;{}&#x202f;»&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>The connection broke off.</source>
+        <translation>La connexion s’est interrompue.</translation>
+    </message>
+    <message>
+        <source>The exit is marked before the entrance.</source>
+        <translation>La sortie est marquée avant l’entrée.</translation>
+    </message>
+    <message>
+        <source>The exit is marked before the middle.</source>
+        <translation>La sortie est marquée avant le milieu.</translation>
+    </message>
+    <message>
+        <source>The middle is marked before the entrance.</source>
+        <translation>Le milieu est marqué avant l’entrée.</translation>
+    </message>
+    <message>
+        <source>The film lies on {}, which is not ticked.</source>
+        <translation>Le film se trouve sur {}, qui n’est pas coché.</translation>
+    </message>
+    <message>
+        <source>The folder above is not there on the server.</source>
+        <translation>Le dossier parent n’existe pas sur le serveur.</translation>
+    </message>
+    <message>
+        <source>The number of sections is {}, but that of splits is {}.</source>
+        <translation>Le nombre de secteurs est {}, mais celui des inters est {}.</translation>
+    </message>
+    <message>
+        <source>The recording does not reach into this run.</source>
+        <translation>L’enregistrement n’atteint pas cette manche.</translation>
+    </message>
+    <message>
+        <source>The recording has {} further holes in this run.</source>
+        <translation>L’enregistrement a {} autres trous dans cette manche.</translation>
+    </message>
+    <message>
+        <source>The run has no times that the recording could be laid on.</source>
+        <translation>La manche n’a pas de temps sur lesquels poser l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>The section before was not timed, so this time covers both.</source>
+        <translation>Le secteur précédent n’a pas été chronométré&#x202f;: ce temps couvre donc les deux.</translation>
+    </message>
+    <message>
+        <source>The server answered with status {}.</source>
+        <translation>Le serveur a répondu avec le statut {}.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached safely.</source>
+        <translation>Le serveur ne peut pas être joint de façon sûre.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached.</source>
+        <translation>Le serveur ne peut pas être joint.</translation>
+    </message>
+    <message>
+        <source>The server does not accept the user name or the password.</source>
+        <translation>Le serveur n’accepte pas le nom d’utilisateur ou le mot de passe.</translation>
+    </message>
+    <message>
+        <source>The server does not allow this, or not to this user.</source>
+        <translation>Le serveur ne le permet pas, ou pas à cet utilisateur.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Le serveur ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The server fell silent.</source>
+        <translation>Le serveur s’est tu.</translation>
+    </message>
+    <message>
+        <source>The server has no such file or folder.</source>
+        <translation>Le serveur n’a pas ce fichier ou ce dossier.</translation>
+    </message>
+    <message>
+        <source>The server is full, or your share of it.</source>
+        <translation>Le serveur est plein, ou votre part de celui-ci.</translation>
+    </message>
+    <message>
+        <source>The server leads to another one, {}, which is not followed.</source>
+        <translation>Le serveur renvoie vers un autre, {}, qui n’est pas suivi.</translation>
+    </message>
+    <message>
+        <source>The server takes no file of this size.</source>
+        <translation>Le serveur n’accepte pas de fichier de cette taille.</translation>
+    </message>
+    <message>
+        <source>The server was not found. Is the computer online?</source>
+        <translation>Le serveur est introuvable. L’ordinateur est-il connecté&#x202f;?</translation>
+    </message>
+    <message>
+        <source>The session has more sets or repetitions than can be timed.</source>
+        <translation>La séance a plus de séries ou de répétitions qu’on ne peut en chronométrer.</translation>
+    </message>
+    <message>
+        <source>The session needs a work time.</source>
+        <translation>La séance a besoin d’un temps d’effort.</translation>
+    </message>
+    <message>
+        <source>The session needs at least one set and one repetition.</source>
+        <translation>La séance a besoin d’au moins une série et une répétition.</translation>
+    </message>
+    <message>
+        <source>The session takes longer than a day.</source>
+        <translation>La séance dure plus d’un jour.</translation>
+    </message>
+    <message>
+        <source>This frame lies after {} at {}.</source>
+        <translation>Cette image est après {} à {}.</translation>
+    </message>
+    <message>
+        <source>This frame lies before {} at {}.</source>
+        <translation>Cette image est avant {} à {}.</translation>
+    </message>
+    <message>
+        <source>This run was not timed to the end, so this is not the time of the whole course.</source>
+        <translation>Cette manche n’a pas été chronométrée jusqu’au bout&#x202f;: ce n’est donc pas le temps de tout le parcours.</translation>
+    </message>
+    <message>
+        <source>Where they differ, both stay.</source>
+        <translation>S’ils diffèrent, les deux restent.</translation>
+    </message>
+    <message>
+        <source>a byte is no UTF-8 text</source>
+        <translation>un octet n’est pas du texte UTF-8</translation>
+    </message>
+    <message>
+        <source>a colon is due</source>
+        <translation>un deux-points est attendu</translation>
+    </message>
+    <message>
+        <source>a comma or ] is due</source>
+        <translation>une virgule ou ] est attendu</translation>
+    </message>
+    <message>
+        <source>a comma or } is due</source>
+        <translation>une virgule ou } est attendu</translation>
+    </message>
+    <message>
+        <source>a digit is due</source>
+        <translation>un chiffre est attendu</translation>
+    </message>
+    <message>
+        <source>a key is due</source>
+        <translation>une clé est attendue</translation>
+    </message>
+    <message>
+        <source>a micro split</source>
+        <translation>un micro-inter</translation>
+    </message>
+    <message>
+        <source>a number is out of range</source>
+        <translation>un nombre est hors limites</translation>
+    </message>
+    <message>
+        <source>a stroke of this hand</source>
+        <translation>un coup de cette main</translation>
+    </message>
+    <message>
+        <source>a text holds a control character</source>
+        <translation>un texte contient un caractère de contrôle</translation>
+    </message>
+    <message>
+        <source>a text holds a malformed escape</source>
+        <translation>un texte contient un échappement mal formé</translation>
+    </message>
+    <message>
+        <source>a value is due</source>
+        <translation>une valeur est attendue</translation>
+    </message>
+    <message>
+        <source>an unknown issuer</source>
+        <translation>un émetteur inconnu</translation>
+    </message>
+    <message>
+        <source>bib</source>
+        <translation>dossard</translation>
+    </message>
+    <message>
+        <source>five</source>
+        <translation>cinq</translation>
+    </message>
+    <message>
+        <source>six</source>
+        <translation>six</translation>
+    </message>
+    <message>
+        <source>no permission</source>
+        <translation>pas d’autorisation</translation>
+    </message>
+    <message>
+        <source>not JSON, byte {}: {}</source>
+        <translation>pas du JSON, octet {}&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>not JSON, or cut off</source>
+        <translation>pas du JSON, ou tronqué</translation>
+    </message>
+    <message>
+        <source>not JSON: a number is malformed or out of range</source>
+        <translation>pas du JSON&#x202f;: un nombre est mal formé ou hors limites</translation>
+    </message>
+    <message>
+        <source>not JSON: a text holds a control character</source>
+        <translation>pas du JSON&#x202f;: un texte contient un caractère de contrôle</translation>
+    </message>
+    <message>
+        <source>not JSON: a text holds a malformed escape</source>
+        <translation>pas du JSON&#x202f;: un texte contient un échappement mal formé</translation>
+    </message>
+    <message>
+        <source>not JSON: a text is not closed (the file may be cut off)</source>
+        <translation>pas du JSON&#x202f;: un texte n’est pas fermé (le fichier est peut-être tronqué)</translation>
+    </message>
+    <message>
+        <source>position</source>
+        <translation>position</translation>
+    </message>
+    <message>
+        <source>something stands behind the document</source>
+        <translation>quelque chose suit le document</translation>
+    </message>
+    <message>
+        <source>the disk can only be read</source>
+        <translation>le disque est en lecture seule</translation>
+    </message>
+    <message>
+        <source>the disk is full</source>
+        <translation>le disque est plein</translation>
+    </message>
+    <message>
+        <source>the document is nested too deeply</source>
+        <translation>le document est imbriqué trop profondément</translation>
+    </message>
+    <message>
+        <source>the document is too large for the memory</source>
+        <translation>le document est trop grand pour la mémoire</translation>
+    </message>
+    <message>
+        <source>the end of the stretch</source>
+        <translation>la fin du tronçon</translation>
+    </message>
+    <message>
+        <source>the file became shorter while it was read</source>
+        <translation>le fichier a raccourci pendant sa lecture</translation>
+    </message>
+    <message>
+        <source>the file holds nothing but blanks</source>
+        <translation>le fichier ne contient que des blancs</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>le fichier est vide</translation>
+    </message>
+    <message>
+        <source>the file is no text; save the list as text (CSV) first</source>
+        <translation>le fichier n’est pas du texte&#x202f;; enregistrez d’abord la liste en texte (CSV)</translation>
+    </message>
+    <message>
+        <source>the file is not UTF-8 text</source>
+        <translation>le fichier n’est pas du texte UTF-8</translation>
+    </message>
+    <message>
+        <source>the file is too large for a document (over 4 GB)</source>
+        <translation>le fichier est trop grand pour un document (plus de 4 Go)</translation>
+    </message>
+    <message>
+        <source>the file is too large for a list (over 64 MB)</source>
+        <translation>le fichier est trop grand pour une liste (plus de 64 Mo)</translation>
+    </message>
+    <message>
+        <source>the penalty {} is below 0</source>
+        <translation>la pénalité {} est inférieure à 0</translation>
+    </message>
+    <message>
+        <source>the penalty {} is over {}</source>
+        <translation>la pénalité {} dépasse {}</translation>
+    </message>
+    <message>
+        <source>the position {} is below 0</source>
+        <translation>la position {} est inférieure à 0</translation>
+    </message>
+    <message>
+        <source>the start</source>
+        <translation>le départ</translation>
+    </message>
+    <message>
+        <source>the start of the stretch</source>
+        <translation>le début du tronçon</translation>
+    </message>
+    <message>
+        <source>the tag {}</source>
+        <translation>l’étiquette {}</translation>
+    </message>
+    <message>
+        <source>the text ends too early (the file may be cut off)</source>
+        <translation>le texte se termine trop tôt (le fichier est peut-être tronqué)</translation>
+    </message>
+    <message>
+        <source>the text is not valid UTF-8</source>
+        <translation>le texte n’est pas de l’UTF-8 valide</translation>
+    </message>
+    <message>
+        <source>the time {} is an hour or more</source>
+        <translation>le temps {} fait une heure ou plus</translation>
+    </message>
+    <message>
+        <source>the time {} is below 0</source>
+        <translation>le temps {} est inférieur à 0</translation>
+    </message>
+    <message>
+        <source>the {} &quot;{}&quot; is no number of seconds</source>
+        <translation>{} «&#x202f;{}&#x202f;»&#x202f;: ce n’est pas un nombre de secondes</translation>
+    </message>
+    <message>
+        <source>the {} &quot;{}&quot; is no whole number</source>
+        <translation>{} «&#x202f;{}&#x202f;»&#x202f;: ce n’est pas un nombre entier</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>ce fichier n’existe pas</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a file</source>
+        <translation>c’est un dossier, pas un fichier</translation>
+    </message>
+    <message>
+        <source>this is no JSON object: it does not begin with {</source>
+        <translation>ce n’est pas un objet JSON&#x202f;: il ne commence pas par {</translation>
+    </message>
+    <message>
+        <source>this is not an ordinary file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>this moment</source>
+        <translation>ce moment</translation>
+    </message>
+    <message>
+        <source>too many symbolic links</source>
+        <translation>trop de liens symboliques</translation>
+    </message>
+    <message>
+        <source>{0}: has the time of {1} (bibs {2} and {3}), and {1} has this one&apos;s. Exchange the two crews?</source>
+        <translation>{0}&#x202f;: a le temps de {1} (dossards {2} et {3}), et {1} a le sien. Échanger les deux équipages&#x202f;?</translation>
+    </message>
+    <message>
+        <source>{0}: has the time of {1}, and {1} has this one&apos;s. Exchange the two crews?</source>
+        <translation>{0}&#x202f;: a le temps de {1}, et {1} a le sien. Échanger les deux équipages&#x202f;?</translation>
+    </message>
+    <message>
+        <source>{0}: the list says {1}, ours is {2}. Take {1} over?</source>
+        <translation>{0}&#x202f;: la liste dit {1}, le nôtre est {2}. Reprendre {1}&#x202f;?</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} fields</source>
+        <translation>
+            <numerusform>{} champ</numerusform>
+            <numerusform>{} champs</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} is marked on this frame already.</source>
+        <translation>{}&#x202f;: déjà marqué sur cette image.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} runs waiting</source>
+        <translation>
+            <numerusform>{} manche en attente</numerusform>
+            <numerusform>{} manches en attente</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} where {} are needed</source>
+        <translation>{} là où il en faut {}</translation>
+    </message>
+    <message>
+        <source>{}, the next starts in {}</source>
+        <translation>{}, la prochaine part dans {}</translation>
+    </message>
+    <message>
+        <source>{}: is not in the list.</source>
+        <translation>{}&#x202f;: n’est pas dans la liste.</translation>
+    </message>
+    <message>
+        <source>{}: the list has {} s of penalties, ours has {} s. Take the official result over?</source>
+        <translation>{}&#x202f;: la liste a {} s de pénalités, la nôtre {} s. Reprendre le résultat officiel&#x202f;?</translation>
+    </message>
+    <message>
+        <source>{}: the list has {}, the film no time to the end. Take the official time over?</source>
+        <translation>{}&#x202f;: la liste a {}, le film aucun temps jusqu’au bout. Reprendre le temps officiel&#x202f;?</translation>
+    </message>
+    <message>
+        <source>{}: the list has {}, the film {}, {} s apart. Take the official time over?</source>
+        <translation>{}&#x202f;: la liste a {}, le film {}, à {} s d’écart. Reprendre le temps officiel&#x202f;?</translation>
+    </message>
+    <message>
+        <source>{}: the list says {}, ours is {}.</source>
+        <translation>{}&#x202f;: la liste dit {}, le nôtre est {}.</translation>
+    </message>
+    <message>
+        <source>A difference needs two columns, as in difference:Run 2,Run 1.</source>
+        <translation>Une différence a besoin de deux colonnes, comme dans difference:Run 2,Run 1.</translation>
+    </message>
+    <message>
+        <source>A text has no sheet &quot;{}&quot;.</source>
+        <translation>Un texte n’a pas de feuille «&#x202f;{}&#x202f;».</translation>
+    </message>
+    <message>
+        <source>A {} is of one column, not of {}.</source>
+        <translation>{}&#x202f;: d’une colonne, pas de {}.</translation>
+    </message>
+    <message>
+        <source>A {} is of two columns, not of {}.</source>
+        <translation>{}&#x202f;: de deux colonnes, pas de {}.</translation>
+    </message>
+    <message>
+        <source>No column holds times; name the one to reckon with.</source>
+        <translation>Aucune colonne ne contient de temps&#x202f;; nommez celle avec laquelle calculer.</translation>
+    </message>
+    <message>
+        <source>No column holds times; name those to add, as in total:Time,Pen.</source>
+        <translation>Aucune colonne ne contient de temps&#x202f;; nommez celles à additionner, comme dans total:Time,Pen.</translation>
+    </message>
+    <message>
+        <source>No list is open.</source>
+        <translation>Aucune liste n’est ouverte.</translation>
+    </message>
+    <message>
+        <source>Not drawn: %1</source>
+        <translation>Non dessiné&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>Sections recorded in part: {}.</source>
+        <translation>Secteurs enregistrés en partie&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>Sections without strokes: {}.</source>
+        <translation>Secteurs sans coups&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>The column &quot;{}&quot; has no numbers to reckon with: it is {}.</source>
+        <translation>La colonne «&#x202f;{}&#x202f;» n’a pas de nombres pour calculer&#x202f;: elle est {}.</translation>
+    </message>
+    <message>
+        <source>The column &quot;{}&quot; has {} values: too many for columns of a pivot.</source>
+        <translation>La colonne «&#x202f;{}&#x202f;» a {} valeurs&#x202f;: trop pour les colonnes d’un tableau croisé.</translation>
+    </message>
+    <message>
+        <source>The file is packed, but holds no spreadsheet (.xlsx or .ods).</source>
+        <translation>Le fichier est compressé, mais ne contient pas de feuille de calcul (.xlsx ou .ods).</translation>
+    </message>
+    <message>
+        <source>The list needs a column with the title Name, Athlete or Crew.</source>
+        <translation>La liste a besoin d’une colonne intitulée Name, Athlete ou Crew.</translation>
+    </message>
+    <message>
+        <source>The list needs a column with the title Time, or Total and Penalty.</source>
+        <translation>La liste a besoin d’une colonne intitulée Time, ou Total et Penalty.</translation>
+    </message>
+    <message>
+        <source>The picture has {} MB. Up to 40 MB can be read; save it smaller first.</source>
+        <translation>L’image fait {} Mo. On peut en lire jusqu’à 40 Mo&#x202f;; enregistrez-la d’abord plus petite.</translation>
+    </message>
+    <message>
+        <source>The picture is far too long for a course.</source>
+        <translation>L’image est bien trop allongée pour un parcours.</translation>
+    </message>
+    <message>
+        <source>The race carries no results list. Open the list itself; &quot;Keep with the race&quot; puts it there.</source>
+        <translation>La course ne porte aucune liste de résultats. Ouvrez la liste elle-même&#x202f;; «&#x202f;Conserver avec la course&#x202f;» l’y met.</translation>
+    </message>
+    <message>
+        <source>The report could not be painted.</source>
+        <translation>Le rapport n’a pas pu être dessiné.</translation>
+    </message>
+    <message>
+        <source>The sheet &quot;{}&quot; has merged cells: their value stands in each of their lines.</source>
+        <translation>La feuille «&#x202f;{}&#x202f;» a des cellules fusionnées&#x202f;: leur valeur figure dans chacune de leurs lignes.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: its part {} cannot be read.</source>
+        <translation>La feuille de calcul est endommagée&#x202f;: sa partie {} est illisible.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: its part {} cannot be unpacked.</source>
+        <translation>La feuille de calcul est endommagée&#x202f;: sa partie {} ne peut pas être décompressée.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is damaged: {}.</source>
+        <translation>La feuille de calcul est endommagée&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is protected by a password. Save it without one and open it again.</source>
+        <translation>La feuille de calcul est protégée par un mot de passe. Enregistrez-la sans et rouvrez-la.</translation>
+    </message>
+    <message>
+        <source>The spreadsheet is too large: unpacked it is over 128 MB.</source>
+        <translation>La feuille de calcul est trop grande&#x202f;: décompressée, elle dépasse 128 Mo.</translation>
+    </message>
+    <message>
+        <source>The text is no UTF-8 and was read as Latin-1; look at the letters with accents.</source>
+        <translation>Le texte n’est pas de l’UTF-8 et a été lu comme Latin-1&#x202f;; vérifiez les lettres accentuées.</translation>
+    </message>
+    <message>
+        <source>There are several sheets; choose one of {}.</source>
+        <translation>Il y a plusieurs feuilles&#x202f;; choisissez parmi {}.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;{}&quot;; there is none.</source>
+        <translation>Il n’y a pas de colonne «&#x202f;{}&#x202f;»&#x202f;; il n’y en a aucune.</translation>
+    </message>
+    <message>
+        <source>There is no column &quot;{}&quot;; there is {}.</source>
+        <translation>Il n’y a pas de colonne «&#x202f;{}&#x202f;»&#x202f;; il y a {}.</translation>
+    </message>
+    <message>
+        <source>There is no sheet &quot;{}&quot;; there is {}.</source>
+        <translation>Il n’y a pas de feuille «&#x202f;{}&#x202f;»&#x202f;; il y a {}.</translation>
+    </message>
+    <message>
+        <source>There is nothing in it.</source>
+        <translation>Il n’y a rien dedans.</translation>
+    </message>
+    <message>
+        <source>This is a PDF, which has no columns to read; open it in a viewer.</source>
+        <translation>C’est un PDF, qui n’a pas de colonnes à lire&#x202f;; ouvrez-le dans une visionneuse.</translation>
+    </message>
+    <message>
+        <source>This is a spreadsheet with a password or of the old kind (.xls). Save it without a password as .xlsx, .ods or text (CSV).</source>
+        <translation>C’est une feuille de calcul avec mot de passe ou de l’ancien type (.xls). Enregistrez-la sans mot de passe en .xlsx, .ods ou texte (CSV).</translation>
+    </message>
+    <message>
+        <source>This is neither text nor a spreadsheet (.xlsx, .ods).</source>
+        <translation>Ce n’est ni du texte ni une feuille de calcul (.xlsx, .ods).</translation>
+    </message>
+    <message>
+        <source>This is no picture that can be read. Take a PNG or JPEG file.</source>
+        <translation>Ce n’est pas une image lisible. Prenez un fichier PNG ou JPEG.</translation>
+    </message>
+    <message>
+        <source>a time or a penalty is below 0</source>
+        <translation>un temps ou une pénalité est inférieur à 0</translation>
+    </message>
+    <message>
+        <source>gate %1: %2</source>
+        <translation>porte %1&#x202f;: %2</translation>
+    </message>
+    <message>
+        <source>is not in the team</source>
+        <translation>n’est pas dans l’équipe</translation>
+    </message>
+    <message>
+        <source>it could not be read</source>
+        <translation>il n’a pas pu être lu</translation>
+    </message>
+    <message>
+        <source>missed gate</source>
+        <translation>porte manquée</translation>
+    </message>
+    <message>
+        <source>no category of the team is called &quot;{}&quot;</source>
+        <translation>aucune catégorie de l’équipe ne s’appelle «&#x202f;{}&#x202f;»</translation>
+    </message>
+    <message>
+        <source>no phase of the team is called &quot;{}&quot;</source>
+        <translation>aucune phase de l’équipe ne s’appelle «&#x202f;{}&#x202f;»</translation>
+    </message>
+    <message>
+        <source>no day such as 2026-05-03 or 3.5.2026</source>
+        <translation>pas un jour tel que 2026-05-03 ou 3.5.2026</translation>
+    </message>
+    <message>
+        <source>no font is installed</source>
+        <translation>aucune police n’est installée</translation>
+    </message>
+    <message>
+        <source>no number</source>
+        <translation>pas un nombre</translation>
+    </message>
+    <message>
+        <source>no time such as 92.45, 1:32.45 or 92.45 (2)</source>
+        <translation>pas un temps tel que 92.45, 1:32.45 ou 92.45 (2)</translation>
+    </message>
+    <message>
+        <source>no whole number</source>
+        <translation>pas un nombre entier</translation>
+    </message>
+    <message>
+        <source>none of DNS, DNF, DSQ and the like</source>
+        <translation>aucun de DNS, DNF, DSQ et semblables</translation>
+    </message>
+    <message>
+        <source>stands above the titles</source>
+        <translation>se trouve au-dessus des titres</translation>
+    </message>
+    <message>
+        <source>the line ends here: it has {} of {} fields</source>
+        <translation>la ligne se termine ici&#x202f;: elle a {} champs sur {}</translation>
+    </message>
+    <message>
+        <source>the line has more fields than there are columns</source>
+        <translation>la ligne a plus de champs qu’il n’y a de colonnes</translation>
+    </message>
+    <message>
+        <source>the run was not finished</source>
+        <translation>la manche n’a pas été terminée</translation>
+    </message>
+    <message>
+        <source>the titles once more</source>
+        <translation>les titres encore une fois</translation>
+    </message>
+    <message>
+        <source>touches and missed gates of %1 runs</source>
+        <translation>touches et portes manquées de %1 manches</translation>
+    </message>
+    <message>
+        <source>{}: no run has a film</source>
+        <translation>{}&#x202f;: aucune manche n’a de film</translation>
+    </message>
+    <message>
+        <source>{}: the column is {}</source>
+        <translation>{}&#x202f;: la colonne est {}</translation>
+    </message>
+    <message>
+        <source>1 field where a bib and a name are needed</source>
+        <translation>1 champ là où il faut un dossard et un nom</translation>
+    </message>
+    <message>
+        <source>A bracket { is not closed.</source>
+        <translation>Une accolade { n’est pas fermée.</translation>
+    </message>
+    <message>
+        <source>A computer with Windows cannot take this name.</source>
+        <translation>Un ordinateur sous Windows n’accepte pas ce nom.</translation>
+    </message>
+    <message>
+        <source>A heat has one to four boats.</source>
+        <translation>Une série a de un à quatre bateaux.</translation>
+    </message>
+    <message>
+        <source>An unnamed boat is not in this heat.</source>
+        <translation>Un bateau sans nom n’est pas dans cette série.</translation>
+    </message>
+    <message>
+        <source>Both are kept: the one of this computer is “{}” now.</source>
+        <translation>Les deux sont conservés&#x202f;: celui de cet ordinateur est maintenant «&#x202f;{}&#x202f;».</translation>
+    </message>
+    <message>
+        <source>Both sides have the same.</source>
+        <translation>Les deux côtés ont le même.</translation>
+    </message>
+    <message>
+        <source>Gate {}: it is not on the cross course.</source>
+        <translation>Porte {}&#x202f;: elle n’est pas sur le parcours de cross.</translation>
+    </message>
+    <message>
+        <source>Gate {}: {}</source>
+        <translation>Porte {}&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>It could not be given another name. Compare again.</source>
+        <translation>Un autre nom n’a pas pu être donné. Comparez à nouveau.</translation>
+    </message>
+    <message>
+        <source>It is here again. Compare again.</source>
+        <translation>Il est de nouveau ici. Comparez à nouveau.</translation>
+    </message>
+    <message>
+        <source>It is not here any more.</source>
+        <translation>Il n’est plus ici.</translation>
+    </message>
+    <message>
+        <source>It is not on the server any more. Compare again.</source>
+        <translation>Il n’est plus sur le serveur. Comparez à nouveau.</translation>
+    </message>
+    <message>
+        <source>It is not on the server yet: {}</source>
+        <translation>Il n’est pas encore sur le serveur&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>It is on the server again. Compare again.</source>
+        <translation>Il est de nouveau sur le serveur. Comparez à nouveau.</translation>
+    </message>
+    <message>
+        <source>It was changed here meanwhile. Compare again.</source>
+        <translation>Il a été modifié ici entre-temps. Comparez à nouveau.</translation>
+    </message>
+    <message>
+        <source>It was changed on the server meanwhile. Compare again.</source>
+        <translation>Il a été modifié entre-temps sur le serveur. Comparez à nouveau.</translation>
+    </message>
+    <message>
+        <source>It was changed while it was sent. Compare again.</source>
+        <translation>Il a été modifié pendant l’envoi. Comparez à nouveau.</translation>
+    </message>
+    <message>
+        <source>Its name has control characters.</source>
+        <translation>Son nom a des caractères de contrôle.</translation>
+    </message>
+    <message>
+        <source>Its name is no text.</source>
+        <translation>Son nom n’est pas du texte.</translation>
+    </message>
+    <message>
+        <source>Its name is too long.</source>
+        <translation>Son nom est trop long.</translation>
+    </message>
+    <message>
+        <source>Its name leads out of the folder.</source>
+        <translation>Son nom mène hors du dossier.</translation>
+    </message>
+    <message>
+        <source>No mark tells yet how this camera&apos;s film lies beside the run&apos;s first one: mark one moment on both in split taking.</source>
+        <translation>Aucune marque ne dit encore comment le film de cette caméra se place par rapport au premier de la manche&#x202f;: marquez un moment sur les deux dans la prise de temps.</translation>
+    </message>
+    <message>
+        <source>This is a fixed camera beside the run&apos;s own film: synchronise the two in split taking first.</source>
+        <translation>C’est une caméra fixe à côté du film de la manche&#x202f;: synchronisez d’abord les deux dans la prise de temps.</translation>
+    </message>
+    <message>
+        <source>The course has {}, and this line is for split {}.</source>
+        <translation>Le parcours a {}, et cette ligne est pour l’inter {}.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} splits</source>
+        <translation>
+            <numerusform>{} inter</numerusform>
+            <numerusform>{} inters</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file that came has gone.</source>
+        <translation>Le fichier arrivé a disparu.</translation>
+    </message>
+    <message>
+        <source>The file that came is not what its checksum says.</source>
+        <translation>Le fichier arrivé n’est pas ce que dit sa somme de contrôle.</translation>
+    </message>
+    <message>
+        <source>The pattern holds no bracket such as {name}.</source>
+        <translation>Le modèle ne contient aucune accolade telle que {name}.</translation>
+    </message>
+    <message>
+        <source>The same bracket stands twice.</source>
+        <translation>La même accolade figure deux fois.</translation>
+    </message>
+    <message>
+        <source>Two brackets stand side by side: nothing tells where one ends.</source>
+        <translation>Deux accolades se suivent&#x202f;: rien ne dit où l’une finit.</translation>
+    </message>
+    <message>
+        <source>{{{}}} is not known. There are {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} and {{any}}.</source>
+        <translation>{{{}}} est inconnu. Il y a {{name}}, {{category}}, {{phase}}, {{bib}}, {{number}} et {{any}}.</translation>
+    </message>
+    <message>
+        <source>{any} does not say what is to stand there.</source>
+        <translation>{any} ne dit pas ce qui doit s’y trouver.</translation>
+    </message>
+    <message>
+        <source>The server has kept another length than was sent.</source>
+        <translation>Le serveur a gardé une autre longueur que celle envoyée.</translation>
+    </message>
+    <message>
+        <source>The server told another length than it sent.</source>
+        <translation>Le serveur a annoncé une autre longueur que celle envoyée.</translation>
+    </message>
+    <message>
+        <source>The server took the file and does not have it.</source>
+        <translation>Le serveur a pris le fichier et ne l’a pas.</translation>
+    </message>
+    <message>
+        <source>There are more than four boats in this heat.</source>
+        <translation>Il y a plus de quatre bateaux dans cette série.</translation>
+    </message>
+    <message>
+        <source>all gates</source>
+        <translation>toutes</translation>
+    </message>
+    <message>
+        <source>by its name</source>
+        <translation>par son nom</translation>
+    </message>
+    <message>
+        <source>by the order</source>
+        <translation>par l’ordre</translation>
+    </message>
+    <message>
+        <source>the second boat of a long film</source>
+        <translation>le second bateau d’un long film</translation>
+    </message>
+    <message>
+        <source>{} s from its start</source>
+        <translation>à {} s de son départ</translation>
+    </message>
+    <message>
+        <source>{} s from its start, if the camera&apos;s clock is wrong</source>
+        <translation>à {} s de son départ, si l’horloge de la caméra est fausse</translation>
+    </message>
+    <message>
+        <source>downstream</source>
+        <translation>descendue</translation>
+    </message>
+    <message>
+        <source>mixed</source>
+        <translation>mixte</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>first third</source>
+        <translation>premier tiers</translation>
+    </message>
+    <message>
+        <source>second third</source>
+        <translation>deuxième tiers</translation>
+    </message>
+    <message>
+        <source>last third</source>
+        <translation>dernier tiers</translation>
+    </message>
+    <message>
+        <source>no name is known</source>
+        <translation>aucun nom n’est connu</translation>
+    </message>
+    <message>
+        <source>no {} is known</source>
+        <translation>inconnu&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>nothing would be left of the name</source>
+        <translation>il ne resterait rien du nom</translation>
+    </message>
+    <message>
+        <source>the name would be too long</source>
+        <translation>le nom serait trop long</translation>
+    </message>
+    <message>
+        <source>the bib &quot;{}&quot; is no number above 0</source>
+        <translation>le dossard «&#x202f;{}&#x202f;» n’est pas un nombre supérieur à 0</translation>
+    </message>
+    <message>
+        <source>the bib {} is on line {} already</source>
+        <translation>le dossard {} est déjà à la ligne {}</translation>
+    </message>
+    <message>
+        <source>the lines before have no start</source>
+        <translation>les lignes précédentes n’ont pas de départ</translation>
+    </message>
+    <message>
+        <source>the start &quot;{}&quot; is neither a time of day such as 10:01:30 nor a number in an order</source>
+        <translation>le départ «&#x202f;{}&#x202f;» n’est ni une heure telle que 10:01:30 ni un numéro d’ordre</translation>
+    </message>
+    <message>
+        <source>there is no name</source>
+        <translation>il n’y a pas de nom</translation>
+    </message>
+    <message>
+        <source>there is no number in the order</source>
+        <translation>il n’y a pas de numéro d’ordre</translation>
+    </message>
+    <message>
+        <source>there is no start time, which the others have</source>
+        <translation>il n’y a pas d’heure de départ, que les autres ont</translation>
+    </message>
+    <message>
+        <source>{} cannot attack and defend at once.</source>
+        <translation>{} ne peut pas attaquer et défendre à la fois.</translation>
+    </message>
+    <message>
+        <source>{} is already in this heat.</source>
+        <translation>{} est déjà dans cette série.</translation>
+    </message>
+    <message>
+        <source>{} is not in this heat.</source>
+        <translation>{} n’est pas dans cette série.</translation>
+    </message>
+    <message>
+        <source>{} stands twice among the defenders.</source>
+        <translation>{} figure deux fois parmi les défenseurs.</translation>
+    </message>
+    <message>
+        <source>{} stands twice in the heat.</source>
+        <translation>{} figure deux fois dans la série.</translation>
+    </message>
+    <message>
+        <source>{} stands twice in the order.</source>
+        <translation>{} figure deux fois dans l’ordre.</translation>
+    </message>
+    <message>
+        <source>{} without any detail.</source>
+        <translation>{} sans aucun détail.</translation>
+    </message>
+    <message>
+        <source>A brace is opened and not closed: {}</source>
+        <translation>Une accolade est ouverte et pas fermée&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>Aerial phase</source>
+        <translation>Phase aérienne</translation>
+    </message>
+    <message>
+        <source>Water phase</source>
+        <translation>Phase aquatique</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distance</translation>
+    </message>
+    <message>
+        <source>Drag</source>
+        <translation>Résistance</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Force</source>
+        <translation>Force</translation>
+    </message>
+    <message>
+        <source>Hand</source>
+        <translation>Main</translation>
+    </message>
+    <message>
+        <source>Heart rate</source>
+        <translation>Fréquence cardiaque</translation>
+    </message>
+    <message>
+        <source>Impulse</source>
+        <translation>Impulsion</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Puissance</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Stroke rate</source>
+        <translation>Cadence</translation>
+    </message>
+    <message>
+        <source>Single rate</source>
+        <translation>Cadence d’un coup</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>Segment</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Roulis</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>Tangage</translation>
+    </message>
+    <message>
+        <source>Max acceleration</source>
+        <translation>Accélération max.</translation>
+    </message>
+    <message>
+        <source>Mean acceleration</source>
+        <translation>Accélération moyenne</translation>
+    </message>
+    <message>
+        <source>Mean deceleration</source>
+        <translation>Décélération moyenne</translation>
+    </message>
+    <message>
+        <source>Mean rotation</source>
+        <translation>Rotation moyenne</translation>
+    </message>
+    <message>
+        <source>Peak rotation</source>
+        <translation>Rotation maximale</translation>
+    </message>
+    <message>
+        <source>Mean push out</source>
+        <translation>Poussée latérale moyenne</translation>
+    </message>
+    <message>
+        <source>Peak push out</source>
+        <translation>Poussée latérale maximale</translation>
+    </message>
+    <message>
+        <source>Metres per stroke</source>
+        <translation>Mètres par coup</translation>
+    </message>
+    <message>
+        <source>Is in the folder.</source>
+        <translation>Est dans le dossier.</translation>
+    </message>
+    <message>
+        <source>It is a file. A folder is shared.</source>
+        <translation>C’est un fichier. On partage un dossier.</translation>
+    </message>
+    <message>
+        <source>It is a link.</source>
+        <translation>C’est un lien.</translation>
+    </message>
+    <message>
+        <source>It lies too deep.</source>
+        <translation>Il est trop profond.</translation>
+    </message>
+    <message>
+        <source>Lies on {}, which is not ticked.</source>
+        <translation>Se trouve sur {}, qui n’est pas coché.</translation>
+    </message>
+    <message>
+        <source>May also be bib {}.</source>
+        <translation>Peut aussi être le dossard {}.</translation>
+    </message>
+    <message>
+        <source>Only https:// keeps the password and the files from other readers.</source>
+        <translation>Seul https:// protège le mot de passe et les fichiers d’autres lecteurs.</translation>
+    </message>
+    <message>
+        <source>The address asks for no {bib}, so that every run would have the same film.</source>
+        <translation>L’adresse ne demande aucun {bib}&#x202f;: chaque manche aurait donc le même film.</translation>
+    </message>
+    <message>
+        <source>The address is that of a file. A folder is shared.</source>
+        <translation>L’adresse est celle d’un fichier. On partage un dossier.</translation>
+    </message>
+    <message>
+        <source>The address makes none for this run.</source>
+        <translation>L’adresse n’en donne aucun pour cette manche.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// and a server, whose name has no braces, user or password.</source>
+        <translation>L’adresse doit commencer par https:// et un serveur dont le nom n’a ni accolades, ni utilisateur, ni mot de passe.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// and hold no user name and password.</source>
+        <translation>L’adresse doit commencer par https:// et ne contenir ni nom d’utilisateur ni mot de passe.</translation>
+    </message>
+    <message>
+        <source>The address must begin with https:// or http:// and hold no user name and password.</source>
+        <translation>L’adresse doit commencer par https:// ou http:// et ne contenir ni nom d’utilisateur ni mot de passe.</translation>
+    </message>
+    <message>
+        <source>The list has no film with this bib.</source>
+        <translation>La liste n’a aucun film avec ce dossard.</translation>
+    </message>
+    <message>
+        <source>The list tells no {} of this run.</source>
+        <translation>La liste ne dit pas de cette manche&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>number of the run</source>
+        <translation>numéro de la manche</translation>
+    </message>
+    <message>
+        <source>The pattern of names: {}</source>
+        <translation>Le modèle des noms&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>The server does not speak WebDAV at this address.</source>
+        <translation>Le serveur ne parle pas WebDAV à cette adresse.</translation>
+    </message>
+    <message>
+        <source>The server has too many files to share.</source>
+        <translation>Le serveur a trop de fichiers à partager.</translation>
+    </message>
+    <message>
+        <source>The server says that it lies in another folder.</source>
+        <translation>Le serveur dit qu’il se trouve dans un autre dossier.</translation>
+    </message>
+    <message>
+        <source>There are too many files to share.</source>
+        <translation>Il y a trop de fichiers à partager.</translation>
+    </message>
+    <message>
+        <source>There is no address yet.</source>
+        <translation>Il n’y a pas encore d’adresse.</translation>
+    </message>
+    <message>
+        <source>There is no folder for the films yet.</source>
+        <translation>Il n’y a pas encore de dossier pour les films.</translation>
+    </message>
+    <message>
+        <source>There is no start list, results list or split file for the bibs yet.</source>
+        <translation>Il n’y a pas encore de liste de départ, de résultats ou de fichier d’intermédiaires pour les dossards.</translation>
+    </message>
+    <message>
+        <source>Would be more than 20 GB in one go.</source>
+        <translation>Ce serait plus de 20 Go d’un coup.</translation>
+    </message>
+    <message>
+        <source>{{{}}} means nothing here: there are {{bib}}, {{category}}, {{phase}} and {{run}}.</source>
+        <translation>{{{}}} ne veut rien dire ici&#x202f;: il y a {{bib}}, {{category}}, {{phase}} et {{run}}.</translation>
+    </message>
+    <message>
+        <source>Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in --json, as in cell/0/time</source>
+        <translation>Explique plutôt un nombre : cell/LIGNE/COLONNE, la ligne comptée à partir de 0 comme dans --json, par exemple cell/0/time</translation>
+    </message>
+    <message>
+        <source>No start of {} is known in these races.</source>
+        <translation>Aucun départ de {} n’est connu dans ces courses.</translation>
+    </message>
+    <message>
+        <source>Only races in which this athlete starts, in whichever phase</source>
+        <translation>Seulement les courses où cet athlète prend le départ, quelle que soit la phase</translation>
+    </message>
+    <message>
+        <source>Only races in which {} starts.</source>
+        <translation>Seulement les courses où {} prend le départ.</translation>
+    </message>
+    <message>
+        <source>Explain one number instead: cell/ROW/COLUMN, the row counted from 0 as in --json, as in cell/0/rank</source>
+        <translation>Explique plutôt un nombre : cell/LIGNE/COLONNE, la ligne comptée à partir de 0 comme dans --json, par exemple cell/0/rank</translation>
+    </message>
+    <message>
+        <source>line {}</source>
+        <translation>ligne {}</translation>
+    </message>
+    <message>
+        <source>column {}</source>
+        <translation>colonne {}</translation>
+    </message>
+    <message>
+        <source>An empty penalty adds nothing.</source>
+        <translation>Une pénalité vide n’ajoute rien.</translation>
+    </message>
+    <message>
+        <source>better</source>
+        <translation>meilleurs</translation>
+    </message>
+    <message>
+        <source>others</source>
+        <translation>autres</translation>
+    </message>
+    <message>
+        <source>Only rows with {} in {} are compared.</source>
+        <translation>Seules les lignes avec {} dans {} sont comparées.</translation>
+    </message>
+    <message>
+        <source>The highest is the best.</source>
+        <translation>Le plus élevé est le meilleur.</translation>
+    </message>
+    <message>
+        <source>As it stands in the list, read as a number.</source>
+        <translation>Tel qu’il figure dans la liste, lu comme un nombre.</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>liste</translation>
+    </message>
+    <message>
+        <source>The columns of the row added up.</source>
+        <translation>Les colonnes de la ligne additionnées.</translation>
+    </message>
+    <message>
+        <source>Σ columns</source>
+        <translation>Σ colonnes</translation>
+    </message>
+    <message>
+        <source>The place in the column: one more than are better; times to the hundredth.</source>
+        <translation>La place dans la colonne : un de plus que ceux qui sont meilleurs ; temps au centième.</translation>
+    </message>
+    <message>
+        <source>1 + better</source>
+        <translation>1 + meilleurs</translation>
+    </message>
+    <message>
+        <source>How far the number is behind the best of the column.</source>
+        <translation>De combien le nombre est derrière le meilleur de la colonne.</translation>
+    </message>
+    <message>
+        <source>own − best</source>
+        <translation>propre − meilleur</translation>
+    </message>
+    <message>
+        <source>How many percent the number is behind the best of the column.</source>
+        <translation>De combien de pour cent le nombre est derrière le meilleur de la colonne.</translation>
+    </message>
+    <message>
+        <source>How many percent of the others in the column are better.</source>
+        <translation>Quel pourcentage des autres de la colonne sont meilleurs.</translation>
+    </message>
+    <message>
+        <source>100 · better / others</source>
+        <translation>100 · meilleurs / autres</translation>
+    </message>
+    <message>
+        <source>The first column less the second.</source>
+        <translation>La première colonne moins la seconde.</translation>
+    </message>
+    <message>
+        <source>first − second</source>
+        <translation>première − seconde</translation>
+    </message>
+    <message>
+        <source>How many rows say something in the column.</source>
+        <translation>Combien de lignes disent quelque chose dans la colonne.</translation>
+    </message>
+    <message>
+        <source>The numbers of all these rows added up.</source>
+        <translation>Les nombres de toutes ces lignes additionnés.</translation>
+    </message>
+    <message>
+        <source>Σ rows</source>
+        <translation>Σ lignes</translation>
+    </message>
+    <message>
+        <source>The mean of the numbers of these rows.</source>
+        <translation>La moyenne des nombres de ces lignes.</translation>
+    </message>
+    <message>
+        <source>Σ rows / number of rows</source>
+        <translation>Σ lignes / nombre de lignes</translation>
+    </message>
+    <message>
+        <source>As many of these rows have less as have more.</source>
+        <translation>Autant de ces lignes ont moins que plus.</translation>
+    </message>
+    <message>
+        <source>median of rows</source>
+        <translation>médiane des lignes</translation>
+    </message>
+    <message>
+        <source>The least number of these rows.</source>
+        <translation>Le plus petit nombre de ces lignes.</translation>
+    </message>
+    <message>
+        <source>least of rows</source>
+        <translation>plus petit des lignes</translation>
+    </message>
+    <message>
+        <source>The largest number of these rows.</source>
+        <translation>Le plus grand nombre de ces lignes.</translation>
+    </message>
+    <message>
+        <source>largest of rows</source>
+        <translation>plus grand des lignes</translation>
+    </message>
+    <message>
+        <source>Of {} rows the first {} are told.</source>
+        <translation>Sur {} lignes, les {} premières sont citées.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -6902,6 +9266,218 @@
         <source>Folders</source>
         <translation>Dossiers</translation>
     </message>
+    <message>
+        <source>Marked</source>
+        <translation>Marqué</translation>
+    </message>
+    <message>
+        <source>Proposal</source>
+        <translation>Proposition</translation>
+    </message>
+    <message>
+        <source>Confidence</source>
+        <translation>Fiabilité</translation>
+    </message>
+    <message>
+        <source>%1 s, %2</source>
+        <translation>%1 s, %2</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1&#x202f;%</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucune</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Manche</translation>
+    </message>
+    <message>
+        <source>No boat was found that could be this run: look for it in the slit picture.</source>
+        <translation>Aucun bateau trouvé qui puisse être cette manche&#x202f;: cherchez-le dans l’image à fente.</translation>
+    </message>
+    <message>
+        <source>This run is marked here.</source>
+        <translation>Cette manche est marquée ici.</translation>
+    </message>
+    <message>
+        <source>Where the run is marked at this line, in seconds of the film</source>
+        <translation>Où la manche est marquée sur cette ligne, en secondes du film</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>laissé de côté</translation>
+    </message>
+    <message>
+        <source>→ new here</source>
+        <translation>→ nouveau ici</translation>
+    </message>
+    <message>
+        <source>← new there</source>
+        <translation>← nouveau là-bas</translation>
+    </message>
+    <message>
+        <source>→ changed here</source>
+        <translation>→ modifié ici</translation>
+    </message>
+    <message>
+        <source>← changed there</source>
+        <translation>← modifié là-bas</translation>
+    </message>
+    <message>
+        <source>↔ on both sides</source>
+        <translation>↔ des deux côtés</translation>
+    </message>
+    <message>
+        <source>✕ deleted here</source>
+        <translation>✕ supprimé ici</translation>
+    </message>
+    <message>
+        <source>✕ deleted there</source>
+        <translation>✕ supprimé là-bas</translation>
+    </message>
+    <message>
+        <source>Goes to the server</source>
+        <translation>Va sur le serveur</translation>
+    </message>
+    <message>
+        <source>Comes from the server</source>
+        <translation>Vient du serveur</translation>
+    </message>
+    <message>
+        <source>Goes to the server, in place of what it has</source>
+        <translation>Va sur le serveur, à la place de ce qu’il a</translation>
+    </message>
+    <message>
+        <source>Comes from the server, in place of what is here</source>
+        <translation>Vient du serveur, à la place de ce qui est ici</translation>
+    </message>
+    <message>
+        <source>Is compared; where both differ, both are kept</source>
+        <translation>Est comparé&#x202f;; s’ils diffèrent, les deux sont conservés</translation>
+    </message>
+    <message>
+        <source>Is deleted on the server where you tick it</source>
+        <translation>Est supprimé sur le serveur si vous le cochez</translation>
+    </message>
+    <message>
+        <source>Is deleted here where you tick it</source>
+        <translation>Est supprimé ici si vous le cochez</translation>
+    </message>
+    <message>
+        <source>%1 new here</source>
+        <translation>%1 nouveaux ici</translation>
+    </message>
+    <message>
+        <source>%1 new there</source>
+        <translation>%1 nouveaux là-bas</translation>
+    </message>
+    <message>
+        <source>%1 changed here</source>
+        <translation>%1 modifiés ici</translation>
+    </message>
+    <message>
+        <source>%1 changed there</source>
+        <translation>%1 modifiés là-bas</translation>
+    </message>
+    <message>
+        <source>%1 on both sides</source>
+        <translation>%1 des deux côtés</translation>
+    </message>
+    <message>
+        <source>%1 deleted here</source>
+        <translation>%1 supprimés ici</translation>
+    </message>
+    <message>
+        <source>%1 deleted there</source>
+        <translation>%1 supprimés là-bas</translation>
+    </message>
+    <message>
+        <source>Both sides are the same</source>
+        <translation>Les deux côtés sont identiques</translation>
+    </message>
+    <message>
+        <source>%1 shared</source>
+        <translation>%1 partagés</translation>
+    </message>
+    <message>
+        <source>%1 kept twice</source>
+        <translation>%1 conservés en double</translation>
+    </message>
+    <message>
+        <source>Fastest at %1 s of the film: %2 m/s.</source>
+        <translation>Maximum à %1 s du film&#x202f;: %2 m/s.</translation>
+    </message>
+    <message>
+        <source>Fastest at %1 s of the film: %2 m/s (a scale only: it holds near the two points and along their line).</source>
+        <translation>Maximum à %1 s du film&#x202f;: %2 m/s (une échelle seulement&#x202f;: elle vaut près des deux points et le long de leur ligne).</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Steadied x</source>
+        <translation>x stabilisé</translation>
+    </message>
+    <message>
+        <source>Steadied y</source>
+        <translation>y stabilisé</translation>
+    </message>
+    <message>
+        <source>Across</source>
+        <translation>En travers</translation>
+    </message>
+    <message>
+        <source>Along</source>
+        <translation>En long</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Score</source>
+        <translation>Score</translation>
+    </message>
+    <message>
+        <source>Film [s]</source>
+        <translation>Film [s]</translation>
+    </message>
+    <message>
+        <source>m/s</source>
+        <translation>m/s</translation>
+    </message>
+    <message>
+        <source>Draw a box round what is to be followed.</source>
+        <translation>Tracez un cadre autour de ce qu’il faut suivre.</translation>
+    </message>
+    <message>
+        <source>Click known points on the water for metres and speeds: the poles of two gates, or of one for a scale only.</source>
+        <translation>Cliquez sur des points connus de l’eau pour les mètres et les vitesses&#x202f;: les fiches de deux portes, ou d’une seule pour une simple échelle.</translation>
+    </message>
+    <message>
+        <source>There is no speed: the path is too short, or the camera&apos;s motion is not known.</source>
+        <translation>Il n’y a pas de vitesse&#x202f;: la trajectoire est trop courte, ou le mouvement de la caméra est inconnu.</translation>
+    </message>
+    <message>
+        <source>Uncertainty of the clicks</source>
+        <translation>Incertitude des clics</translation>
+    </message>
+    <message>
+        <source>✓ Done</source>
+        <translation>✓ Fait</translation>
+    </message>
+    <message>
+        <source>Runs…</source>
+        <translation>En cours…</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::AthleteDialog</name>
@@ -7861,10 +10437,6 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
         <translation>Dedans</translation>
     </message>
     <message>
-        <source>Its place in the composed film. Space chooses it or takes it out.</source>
-        <translation>Sa place dans le film composé. Espace le choisit ou le retire.</translation>
-    </message>
-    <message>
         <source>Film</source>
         <translation>Film</translation>
     </message>
@@ -7999,6 +10571,10 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     <message>
         <source>Shows it twice as large, round that path.</source>
         <translation>Le montre deux fois plus grand, autour de cette trajectoire.</translation>
+    </message>
+    <message>
+        <source>Its place in the composed film. Enter chooses it or takes it out.</source>
+        <translation>Sa place dans le film composé. Entrée le choisit ou le retire.</translation>
     </message>
 </context>
 <context>
@@ -8651,6 +11227,34 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     <message>
         <source>Leave it</source>
         <translation>Le laisser</translation>
+    </message>
+    <message>
+        <source>Drag a part, or one of its points. The poles of a gate turn about each other.</source>
+        <translation>Faites glisser un élément, ou un de ses points. Les fiches d’une porte tournent l’une autour de l’autre.</translation>
+    </message>
+    <message>
+        <source>Click where a gate hangs; hold the button and drag its right pole round.</source>
+        <translation>Cliquez là où pend une porte&#x202f;; maintenez le bouton et tournez sa fiche droite.</translation>
+    </message>
+    <message>
+        <source>Drag from bank to bank where the split is taken.</source>
+        <translation>Tracez d’une rive à l’autre là où le temps intermédiaire est pris.</translation>
+    </message>
+    <message>
+        <source>Draw along the bank with the button held down.</source>
+        <translation>Dessinez le long de la rive en maintenant le bouton.</translation>
+    </message>
+    <message>
+        <source>Draw the way of a boat with the button held down, and name it at the right.</source>
+        <translation>Dessinez le trajet d’un bateau en maintenant le bouton, puis nommez-le à droite.</translation>
+    </message>
+    <message>
+        <source>Click where words are to stand.</source>
+        <translation>Cliquez là où le texte doit se trouver.</translation>
+    </message>
+    <message>
+        <source>It has %1 MB. Up to 40 MB can be read; save it smaller first.</source>
+        <translation>Elle fait %1 Mo. On peut en lire jusqu’à 40 Mo&#x202f;; enregistrez-la d’abord plus petite.</translation>
     </message>
 </context>
 <context>
@@ -14353,6 +16957,14 @@ Les pénalités sont laissées de côté.</translation>
         <source>Show in &amp;folder</source>
         <translation>&amp;Montrer dans le dossier</translation>
     </message>
+    <message>
+        <source>The saved files have no run of this athlete.</source>
+        <translation>Les fichiers enregistrés n’ont aucune manche de cet athlète.</translation>
+    </message>
+    <message>
+        <source>There is no run of a named athlete in the split files that are open.</source>
+        <translation>Les fichiers d’intermédiaires ouverts n’ont aucune manche d’un athlète nommé.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::PivotDialog</name>
@@ -17120,6 +19732,10 @@ Choisissez un fichier.</translation>
         <source>Pa&amp;ge for an athlete…</source>
         <translation>&amp;Page pour un athlète…</translation>
     </message>
+    <message>
+        <source>Only the athlete&apos;s &amp;own races</source>
+        <translation>Seulement les courses &amp;propres à l’athlète</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SeasonHeader</name>
@@ -17138,6 +19754,14 @@ Choisissez un fichier.</translation>
     <message>
         <source>&amp;Athlete</source>
         <translation>A&amp;thlète</translation>
+    </message>
+    <message>
+        <source>Only &amp;own races</source>
+        <translation>Seulement ses &amp;propres courses</translation>
+    </message>
+    <message>
+        <source>Only races in which this athlete starts, in whichever phase; on every page</source>
+        <translation>Seulement les courses où cet athlète prend le départ, quelle que soit la phase ; sur chaque page</translation>
     </message>
 </context>
 <context>
@@ -18608,30 +21232,6 @@ Choisissez un fichier.</translation>
         <translation>Partager des dossiers</translation>
     </message>
     <message>
-        <source>F&amp;older</source>
-        <translation>&amp;Dossier</translation>
-    </message>
-    <message>
-        <source>On this computer, with everything below it but hidden files</source>
-        <translation>Sur cet ordinateur, avec tout ce qu’il contient sauf les fichiers cachés</translation>
-    </message>
-    <message>
-        <source>the folder that is shared</source>
-        <translation>le dossier partagé</translation>
-    </message>
-    <message>
-        <source>&amp;Address</source>
-        <translation>&amp;Adresse</translation>
-    </message>
-    <message>
-        <source>Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…</source>
-        <translation>D’un dossier sur un serveur WebDAV&#x202f;: Nextcloud, ownCloud, un NAS, Apache…</translation>
-    </message>
-    <message>
-        <source>Choose the folder…</source>
-        <translation>Choisir le dossier…</translation>
-    </message>
-    <message>
         <source>Compare</source>
         <translation>Comparer</translation>
     </message>
@@ -18662,14 +21262,6 @@ Choisissez un fichier.</translation>
     <message>
         <source>The folder to share</source>
         <translation>Le dossier à partager</translation>
-    </message>
-    <message>
-        <source>There is no folder to share yet.</source>
-        <translation>Il n’y a pas encore de dossier à partager.</translation>
-    </message>
-    <message>
-        <source>“%1” is no folder.</source>
-        <translation>«&#xa0;%1&#xa0;» n’est pas un dossier.</translation>
     </message>
     <message>
         <source>Both sides are looked at…</source>
@@ -18941,6 +21533,10 @@ et %1 autres</translation>
     <message>
         <source>The lines could not be kept in %1: %2</source>
         <translation>Les lignes n’ont pas pu être conservées dans %1&#x202f;: %2</translation>
+    </message>
+    <message>
+        <source>The lines of this film are still being read. Try again in a moment.</source>
+        <translation>Les lignes de cette vidéo sont encore en cours de lecture. Réessayez dans un instant.</translation>
     </message>
 </context>
 <context>
@@ -19401,6 +21997,14 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     <message>
         <source>First steps, three minutes</source>
         <translation>Premiers pas, trois minutes</translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation>Fait&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>To do: %1</source>
+        <translation>À faire&#x202f;: %1</translation>
     </message>
 </context>
 <context>
@@ -19985,6 +22589,14 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
             <numerusform>%n colonne</numerusform>
             <numerusform>%n colonnes</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Line %1, column %2 of the list says “%3”.</source>
+        <translation>La ligne %1, colonne %2 de la liste indique « %3 ».</translation>
+    </message>
+    <message>
+        <source>Line %1 of the list is no row of this table any more.</source>
+        <translation>La ligne %1 de la liste n’est plus une ligne de ce tableau.</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "analysis/run_motion.h"
 
 #include "boatmotion/attachment.h"
+#include "common/text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -164,13 +165,13 @@ void placeMotion(const MotionAnalysis& analysis, const RunClock& clock, RunMotio
 std::optional<RunClock> analyseBoat(const RunArrays& run, const MotionProfile& profile,
                                     RunMotion& motion) {
     if (run.bm.empty()) {
-        motion.reason = "No motion of the boat is attached to this run.";
+        motion.reason = say("No motion of the boat is attached to this run.");
         return std::nullopt;
     }
     const auto clock = clockOf(run.bm, motion.seconds, Stamp);
     if (!clock) {
-        motion.reason = "The attached motion is not as long as the run, so that its moments cannot "
-                        "be told.";
+        motion.reason = say("The attached motion is not as long as the run, so that its moments "
+                            "cannot be told.");
         return std::nullopt;
     }
     motion.drift = clock->rate - 1;
@@ -251,7 +252,7 @@ RunMotion runMotion(const RunArrays& run, const MotionProfile& profile) {
     motion.seconds = motion.sections.empty() ? 0 : motion.sections.back().end;
     motion.whole.end = motion.seconds;
     if (!(motion.seconds > 0 && motion.seconds <= LongestRun)) {
-        motion.reason = "The run has no times that the recording could be laid on.";
+        motion.reason = say("The run has no times that the recording could be laid on.");
         return motion;
     }
     placeDated(run, analyseBoat(run, profile, motion), motion);

@@ -1,5 +1,6 @@
 #include "analysis/standing.h"
 
+#include "common/text.h"
 #include "splitdata/run_timing.h"
 #include "splitdata/run_totals.h"
 
@@ -66,15 +67,17 @@ std::string_view reasonOf(TimeStanding standing) {
     case TimeStanding::Counts:
         return {};
     case TimeStanding::NotTimed:
-        return "No time was taken here.";
+        return translated("No time was taken here.");
     case TimeStanding::NotPositive:
-        return "A time must be above 0. Check the marks of this run.";
+        return translated("A time must be above 0. Check the marks of this run.");
     case TimeStanding::Merged:
-        return "The section before was not timed, so this time covers both.";
+        return translated("The section before was not timed, so this time covers both.");
     case TimeStanding::AfterUntimed:
-        return "A section up to here was not timed, so this is not the time from the start.";
+        return translated(
+            "A section up to here was not timed, so this is not the time from the start.");
     case TimeStanding::NotFinished:
-        return "This run was not timed to the end, so this is not the time of the whole course.";
+        return translated(
+            "This run was not timed to the end, so this is not the time of the whole course.");
     }
     return {};
 }

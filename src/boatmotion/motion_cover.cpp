@@ -1,5 +1,7 @@
 #include "boatmotion/motion_cover.h"
 
+#include "common/text.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -51,7 +53,7 @@ MotionCover::Share MotionCover::of(double from, double to) const {
 
 std::vector<std::string> MotionCover::notes(double seconds) const {
     if (of(0, seconds) == None)
-        return {"The recording does not reach into this run."};
+        return {say("The recording does not reach into this run.")};
     std::vector<MotionStretch> holes;
     double reached = 0;
     for (const MotionStretch& stretch : m_stretches) {
@@ -65,19 +67,17 @@ std::vector<std::string> MotionCover::notes(double seconds) const {
     for (const MotionStretch& hole : holes) {
         const double missing = hole.to - hole.from;
         if (hole.from <= 0)
-            notes.push_back(
-                fmt::format("Of the first {:.1f} s of the run nothing is recorded.", missing));
+            notes.push_back(say("Of the first {:.1f} s of the run nothing is recorded.", missing));
         else if (hole.to >= seconds)
-            notes.push_back(
-                fmt::format("Of the last {:.1f} s of the run nothing is recorded.", missing));
+            notes.push_back(say("Of the last {:.1f} s of the run nothing is recorded.", missing));
         else
-            notes.push_back(fmt::format("From {:.1f} s to {:.1f} s of the run nothing is recorded.",
-                                        hole.from, hole.to));
+            notes.push_back(say("From {:.1f} s to {:.1f} s of the run nothing is recorded.",
+                                hole.from, hole.to));
     }
     if (notes.size() > MostHoles) {
         const std::size_t more = notes.size() - MostHoles;
         notes.resize(MostHoles);
-        notes.push_back(fmt::format("The recording has {} further holes in this run.", more));
+        notes.push_back(say("The recording has {} further holes in this run.", more));
     }
     return notes;
 }

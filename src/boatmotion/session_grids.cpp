@@ -1,6 +1,7 @@
 #include "boatmotion/session_table.h"
 #include "boatmotion/strokes/stroke_table.h"
 #include "common/number_text.h"
+#include "common/text.h"
 
 #include <cmath>
 #include <numbers>
@@ -76,23 +77,23 @@ SessionGrid::Row turnRow(const EditedSession& edited, const SessionFigures& figu
 
 SessionGrid strokeGrid(const EditedSession& edited, const SessionFigures& figures) {
     SessionGrid grid;
-    grid.columns = {{"Time", "s", 2},
-                    {"Segment", "", 0},
-                    {"Hand", "", 0},
-                    {"Stroke rate", "1/min", 0},
-                    {"Single rate", "1/min", 1},
-                    {"Force", "N", 0},
-                    {"Impulse", "N·s", 1},
-                    {"Power", "W", 0},
-                    {"Water phase", "s", 2},
-                    {"Aerial phase", "s", 2},
-                    {"Mean acceleration", "m/s²", 2},
-                    {"Max acceleration", "m/s²", 2},
-                    {"Mean deceleration", "m/s²", 2},
-                    {"Roll", "°", 1},
-                    {"Speed", "m/s", 2},
-                    {"Metres per stroke", "m", 2},
-                    {"Heart rate", "1/min", 0}};
+    grid.columns = {{KAVELA_TEXT("Time"), "s", 2},
+                    {KAVELA_TEXT("Segment"), "", 0},
+                    {KAVELA_TEXT("Hand"), "", 0},
+                    {KAVELA_TEXT("Stroke rate"), "1/min", 0},
+                    {KAVELA_TEXT("Single rate"), "1/min", 1},
+                    {KAVELA_TEXT("Force"), "N", 0},
+                    {KAVELA_TEXT("Impulse"), "N·s", 1},
+                    {KAVELA_TEXT("Power"), "W", 0},
+                    {KAVELA_TEXT("Water phase"), "s", 2},
+                    {KAVELA_TEXT("Aerial phase"), "s", 2},
+                    {KAVELA_TEXT("Mean acceleration"), "m/s²", 2},
+                    {KAVELA_TEXT("Max acceleration"), "m/s²", 2},
+                    {KAVELA_TEXT("Mean deceleration"), "m/s²", 2},
+                    {KAVELA_TEXT("Roll"), "°", 1},
+                    {KAVELA_TEXT("Speed"), "m/s", 2},
+                    {KAVELA_TEXT("Metres per stroke"), "m", 2},
+                    {KAVELA_TEXT("Heart rate"), "1/min", 0}};
     for (const StrokeFigures& stroke : figures.strokes)
         grid.rows.push_back(strokeRow(edited, figures, stroke));
     return grid;
@@ -100,18 +101,18 @@ SessionGrid strokeGrid(const EditedSession& edited, const SessionFigures& figure
 
 SessionGrid turnGrid(const EditedSession& edited, const SessionFigures& figures) {
     SessionGrid grid;
-    grid.columns = {{"Turn", "", 0},
-                    {"Time", "s", 2},
-                    {"Segment", "", 0},
-                    {"Duration", "s", 2},
-                    {"Angle", "°", 0},
-                    {"Peak rotation", "°/s", 0},
-                    {"Mean rotation", "°/s", 0},
-                    {"Peak push out", "m/s²", 2},
-                    {"Mean push out", "m/s²", 2},
-                    {"Roll", "°", 1},
-                    {"Pitch", "°", 1},
-                    {"Heart rate", "1/min", 0}};
+    grid.columns = {{KAVELA_TEXT("Turn"), "", 0},
+                    {KAVELA_TEXT("Time"), "s", 2},
+                    {KAVELA_TEXT("Segment"), "", 0},
+                    {KAVELA_TEXT("Duration"), "s", 2},
+                    {KAVELA_TEXT("Angle"), "°", 0},
+                    {KAVELA_TEXT("Peak rotation"), "°/s", 0},
+                    {KAVELA_TEXT("Mean rotation"), "°/s", 0},
+                    {KAVELA_TEXT("Peak push out"), "m/s²", 2},
+                    {KAVELA_TEXT("Mean push out"), "m/s²", 2},
+                    {KAVELA_TEXT("Roll"), "°", 1},
+                    {KAVELA_TEXT("Pitch"), "°", 1},
+                    {KAVELA_TEXT("Heart rate"), "1/min", 0}};
     for (std::size_t i = 0; i < figures.turns.size(); ++i)
         grid.rows.push_back(turnRow(edited, figures, figures.turns[i], i + 1));
     return grid;
@@ -119,9 +120,10 @@ SessionGrid turnGrid(const EditedSession& edited, const SessionFigures& figures)
 
 SessionGrid segmentGrid(const SessionFigures& figures) {
     SessionGrid grid;
-    grid.columns = {{"Segment", "", 0},   {"Stroke rate", "1/min", 1}, {"Power", "W", 0},
-                    {"Force", "N", 0},    {"Strokes", "", 0},          {"Time", "s", 1},
-                    {"Distance", "m", 0}, {"Speed", "m/s", 2}};
+    grid.columns = {{KAVELA_TEXT("Segment"), "", 0},   {KAVELA_TEXT("Stroke rate"), "1/min", 1},
+                    {KAVELA_TEXT("Power"), "W", 0},    {KAVELA_TEXT("Force"), "N", 0},
+                    {KAVELA_TEXT("Strokes"), "", 0},   {KAVELA_TEXT("Time"), "s", 1},
+                    {KAVELA_TEXT("Distance"), "m", 0}, {KAVELA_TEXT("Speed"), "m/s", 2}};
     for (const StretchOfSession& segment : figures.segments) {
         const Cell number = segment.averages.segment == 0
                                 ? Cell(std::string(figures.segments.size() == 1 ? "all" : "rest"))
@@ -138,10 +140,10 @@ SessionGrid segmentGrid(const SessionFigures& figures) {
 
 SessionGrid metersGrid(const std::vector<MetersRow>& meters) {
     SessionGrid grid;
-    grid.columns = {{"Distance", "m", 0}, {"Stroke rate", "1/min", 1},
-                    {"Power", "W", 0},    {"Force", "N", 0},
-                    {"Drag", "N", 1},     {"Impulse", "N·s", 1},
-                    {"Speed", "m/s", 2},  {"Metres per stroke", "m", 2}};
+    grid.columns = {{KAVELA_TEXT("Distance"), "m", 0}, {KAVELA_TEXT("Stroke rate"), "1/min", 1},
+                    {KAVELA_TEXT("Power"), "W", 0},    {KAVELA_TEXT("Force"), "N", 0},
+                    {KAVELA_TEXT("Drag"), "N", 1},     {KAVELA_TEXT("Impulse"), "N·s", 1},
+                    {KAVELA_TEXT("Speed"), "m/s", 2},  {KAVELA_TEXT("Metres per stroke"), "m", 2}};
     for (const MetersRow& row : meters) {
         const smartMetersData& values = row.values;
         grid.rows.push_back(

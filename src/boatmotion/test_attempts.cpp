@@ -1,5 +1,7 @@
 #include "boatmotion/test_attempts.h"
 
+#include "common/text.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -40,7 +42,9 @@ SessionGrid strokeDataGrid(const differentGTdata& attempt, const std::string& ki
         if (isShown(entry))
             most = std::max(most, entry.values.size());
     SessionGrid grid;
-    grid.columns = {{"Time", "s", 2}, {"Kind", "", 0}, {"Heart rate", "1/min", 0}};
+    grid.columns = {{KAVELA_TEXT("Time"), "s", 2},
+                    {KAVELA_TEXT("Kind"), "", 0},
+                    {KAVELA_TEXT("Heart rate"), "1/min", 0}};
     for (std::size_t i = 0; i < most; ++i)
         grid.columns.push_back({"Value " + std::to_string(i + 1), "", 3});
     const double begin = beginOf(attempt);
@@ -59,7 +63,9 @@ SessionGrid strokeDataGrid(const differentGTdata& attempt, const std::string& ki
 
 SessionGrid sprintDataGrid(const differentGTdata& attempt) {
     SessionGrid grid;
-    grid.columns = {{"Time", "s", 2}, {"Value", "", 3}, {"Heart rate", "1/min", 0}};
+    grid.columns = {{KAVELA_TEXT("Time"), "s", 2},
+                    {KAVELA_TEXT("Value"), "", 3},
+                    {KAVELA_TEXT("Heart rate"), "1/min", 0}};
     const double begin = beginOf(attempt);
     for (const smartSprintdata& entry : attempt.sprintdata) {
         SessionGrid::Row row;

@@ -28,20 +28,20 @@ std::string shownText(std::string_view text) {
     return printable(validUtf8(text));
 }
 
-std::string referenceWord(const LossReference& reference) {
+std::string referenceHeading(const LossReference& reference) {
     switch (reference.kind) {
     case LossReferenceKind::Winner:
-        return "the winner";
+        return say("on the winner");
     case LossReferenceKind::Fastest:
-        return "the fastest";
+        return say("on the fastest");
     case LossReferenceKind::Ideal:
-        return "the ideal run";
+        return say("on the ideal run");
     case LossReferenceKind::Median:
-        return "the finalists' median";
+        return say("on the finalists' median");
     case LossReferenceKind::Own:
-        return "the own fastest other run";
+        return say("on the own fastest other run");
     case LossReferenceKind::Run:
-        return say("run {}", reference.run);
+        return say("on run {}", reference.run);
     }
     return {};
 }
@@ -82,21 +82,19 @@ private:
         std::string heading = shownText(m_facts.text(run.category));
         if (run.phase != 0)
             heading += (heading.empty() ? "" : " · ") + shownText(m_facts.text(run.phase));
-        heading +=
-            (heading.empty() ? "" : " · ") + std::string("on ") + referenceWord(losses.reference);
+        heading += (heading.empty() ? "" : " · ") + referenceHeading(losses.reference);
         if (losses.reference.kind != LossReferenceKind::Own)
-            heading += referenceText(losses);
+            heading = withReference(heading, losses);
         addLine('\n' + styled(LossBold, heading));
     }
 
     /// Who it is and the total, as far as there is something.
-    [[nodiscard]] std::string referenceText(const RunLosses& losses) const {
-        std::string text;
+    [[nodiscard]] std::string withReference(std::string text, const RunLosses& losses) const {
         if (losses.referenceRun)
             text += ", " + shownText(m_facts.text(row(*losses.referenceRun).crew));
         if (losses.referenceTotal)
             text += ", " + saidNumber(hundredthsText(*losses.referenceTotal));
-        return losses.hasReference ? text : text + ": there is none";
+        return losses.hasReference ? text : say("{}: there is none", text);
     }
 
     void addRun(const RunLosses& losses) {
@@ -111,7 +109,7 @@ private:
             head += std::string(LossMargin) + saidNumber(hundredthsText(run.total)) +
                     styled(LossDim, say(", no totals to compare"));
         if (losses.hasReference && losses.reference.kind == LossReferenceKind::Own)
-            head += styled(LossDim, referenceText(losses));
+            head += styled(LossDim, withReference({}, losses));
         addLine(head);
         if (losses.referenceRun == losses.run)
             return;
@@ -125,20 +123,17 @@ private:
     /// The parts of the gap, each in one piece.
     [[nodiscard]] std::vector<std::string> waterfallWords(const RunLosses& losses) const {
         std::vector<std::string> words;
-        const auto add = [&](const std::string& name, std::int64_t hundredths) {
-            words.push_back(name + ' ' + saidNumber(signedText(hundredths)));
-        };
         if (losses.sum)
             words.push_back(saidNumber(hundredthsText(losses.sum->reference)));
         for (std::size_t i = 0; i < losses.stretches.size(); ++i)
-            add(sectionsText(losses.stretches[i].first, losses.stretches[i].last),
-                losses.shown.stretches[i]);
+            words.push_back(sectionsText(losses.stretches[i].first, losses.stretches[i].last) +
+                            ' ' + saidNumber(signedText(losses.shown.stretches[i])));
         if (!losses.sum)
             return words;
         if (losses.shown.penalties != 0)
-            add("penalties", losses.shown.penalties);
+            words.push_back(say("penalties {}", saidNumber(signedText(losses.shown.penalties))));
         if (losses.shown.timing != 0)
-            add("timing", losses.shown.timing);
+            words.push_back(say("timing {}", saidNumber(signedText(losses.shown.timing))));
         words.push_back(saidNumber(hundredthsText(losses.sum->own)));
         return words;
     }
@@ -167,7 +162,7 @@ private:
         std::vector<std::string> words{sectionsText(stretch.first, stretch.last)};
         for (const GateLoss& gate : stretch.gates)
             words.push_back(gateText(gate));
-        words.push_back("between " + saidNumber(signedHundredths(stretch.between)));
+        words.push_back(say("between {}", saidNumber(signedHundredths(stretch.between))));
         if (stretch.strokes && stretch.referenceStrokes)
             words.push_back(say("strokes {} on {}", *stretch.strokes, *stretch.referenceStrokes));
         addWrapped(words);
@@ -176,7 +171,7 @@ private:
     void addElsewhere(const RunLosses& losses) {
         if (losses.gatesElsewhere.empty())
             return;
-        std::vector<std::string> words{"in no stretch"};
+        std::vector<std::string> words{say("in no stretch")};
         for (const GateLoss& gate : losses.gatesElsewhere)
             words.push_back(gateText(gate));
         addWrapped(words);
@@ -227,7 +222,7 @@ std::string wayCostsText(const FactStore& facts, std::span<const WayCost> ways) 
             text += fmt::format("  {:>6}  {}, {}\n", saidNumber(signedHundredths(*way.cost)),
                                 shownText(way.title),
                                 shownText(facts.text(facts.runs()[way.run].crew)));
-    return text.empty() ? text : "\nWays: chosen against the fastest timed\n" + text;
+    return text.empty() ? text : '\n' + say("Ways: chosen against the fastest timed") + '\n' + text;
 }
 
 } // namespace
@@ -250,21 +245,21 @@ std::string lossNotesText(const LossNotes& notes) {
     constexpr int NumberWidth = 9;
     if (notes.rows.empty() && notes.unfinished == 0)
         return {};
-    std::string text = "\nNoted\n  " + fitted("", FieldWidth + KeyWidth);
-    for (const char* title : {"Notes", "Lost", "Gained"})
+    std::string text = '\n' + say("Noted") + "\n  " + fitted("", FieldWidth + KeyWidth);
+    for (const std::string& title : {say("Notes"), say("Lost"), say("Gained")})
         text += rightAligned(title, NumberWidth);
     text += '\n';
     std::string field;
     for (const LossNoteRow& row : notes.rows) {
         text += "  " + fitted(row.field == field ? "" : row.field, FieldWidth) +
-                fitted(row.text.empty() ? "not noted" : shownText(row.text), KeyWidth) +
+                fitted(row.text.empty() ? say("not noted") : shownText(row.text), KeyWidth) +
                 rightAligned(std::to_string(row.count), NumberWidth) +
                 rightAligned(saidNumber(signedHundredths(row.lost)), NumberWidth) +
                 rightAligned(saidNumber(signedHundredths(row.gained)), NumberWidth) + '\n';
         field = row.field;
     }
     if (notes.unfinished > 0)
-        text += "  not finished: " + std::to_string(notes.unfinished) + '\n';
+        text += "  " + say("not finished: {}", notes.unfinished) + '\n';
     return text;
 }
 

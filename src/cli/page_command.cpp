@@ -6,6 +6,8 @@
 #include "cli/painting.h"
 #include "cli/unknown_athlete.h"
 #include "cli/user_preferences.h"
+#include "common/text.h"
+#include "language/languages.h"
 #include "page/athlete_page.h"
 #include "page/page_films.h"
 #include "page/race_files.h"
@@ -47,6 +49,7 @@ page::PageChoice pageChoiceOf(const PageCall& call, const UserPreferences& prefe
     choice.settings.colorMode = call.mode.empty()     ? preferences.string("colorMode")
                                 : call.mode == "race" ? "Race"
                                                       : "Training";
+    choice.language = languageFor(languageWishes());
     return choice;
 }
 
@@ -67,8 +70,8 @@ bool isPageWritten(const PageCall& call, const page::PageChoice& choice,
     const std::vector<page::PageFilm> films = page::filmsBeside(races, call.output);
     const auto text = page::athletePage(std::move(races), choice, films);
     if (!text) {
-        logLine("No run of \"" + pathText(call.athlete) + "\" is of the phase \"" +
-                pathText(call.phase) + "\".");
+        logLine(say("No run of \"{}\" is of the phase \"{}\".", pathText(call.athlete),
+                    pathText(call.phase)));
         return false;
     }
     return isTableWritten(call.output, *text);

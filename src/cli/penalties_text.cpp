@@ -103,8 +103,8 @@ private:
                         rates.clean->of, 100 * rates.clean->rate,
                         percentRange(rates.clean->interval)));
         if (rates.leftOut > 0)
-            addLine(counted(whole(rates.leftOut), "run", "runs") +
-                    " left out: penalties not known by gate");
+            addLine(sayCount(whole(rates.leftOut), "{} run left out: penalties not known by gate",
+                             "{} runs left out: penalties not known by gate"));
     }
 
     [[nodiscard]] int labelWidth() const {
@@ -117,7 +117,7 @@ private:
     }
 
     static std::string labelOf(const RateRow& row) {
-        return row.label.empty() ? "(not given)" : printable(row.label);
+        return row.label.empty() ? say("(not given)") : printable(row.label);
     }
 
     void addRates() {
@@ -125,9 +125,10 @@ private:
         if (rows.empty())
             return;
         const int label = labelWidth();
-        addTitle(fitted("", label) + rightAligned("Touches", 12) + rightAligned("Rate %", 7) +
-                 rightAligned("90 %", 11) + rightAligned("Ranked", 8) + rightAligned("90 %", 10) +
-                 rightAligned("Missed", 8));
+        addTitle(fitted("", label) + rightAligned(say("Touches"), 12) +
+                 rightAligned(say("Rate %"), 7) + rightAligned("90 %", 11) +
+                 rightAligned(say("Ranked"), 8) + rightAligned("90 %", 10) +
+                 rightAligned(say("Missed"), 8));
         const std::size_t count = shown(rows.size(), MostRatesShown);
         for (std::size_t i = 0; i < count; ++i)
             addRate(rows[i], label);
@@ -135,7 +136,7 @@ private:
         const CommonRate& common = m_findings.rates.common;
         addStyled(DimCode, say("Ranked: drawn towards {:.1f} %, the more the fewer the passages;",
                                100 * common.mean));
-        addStyled(DimCode, "* touched more than that with 95 % certainty and more");
+        addStyled(DimCode, say("* touched more than that with 95 % certainty and more"));
     }
 
     void addRate(const RateRow& row, int label) {
@@ -177,9 +178,11 @@ private:
             addCost(costs[i]);
         addLeftOut(costs.size() - count);
         if (free > 0)
-            addLine(counted(whole(free), "penalty", "penalties") + " cost no place");
+            addLine(
+                sayCount(whole(free), "{} penalty cost no place", "{} penalties cost no place"));
         if (std::ranges::any_of(costs, &PenaltyCost::isMissedGate))
-            addStyled(DimCode, "A missed gate also saved paddling, which is not taken back here.");
+            addStyled(DimCode,
+                      say("A missed gate also saved paddling, which is not taken back here."));
     }
 
     void addCost(const PenaltyCost& cost) {
@@ -190,8 +193,8 @@ private:
             fmt::format("{} {}", m_facts.text(run.category), m_facts.text(run.phase));
         std::string line = fitted(printable(m_facts.text(run.crew)), CrewWidth) + ' ' +
                            fitted(printable(where), PlaceWidth) +
-                           rightAligned(say("gate {}", cost.gate), 8) +
-                           (cost.isMissedGate() ? " missed" : " touch ") +
+                           rightAligned(say("gate {}", cost.gate), 8) + ' ' +
+                           fitted(cost.isMissedGate() ? say("missed") : say("touch"), 9) +
                            say("  {} of {}, without {}", ordinalText(cost.rank), cost.of,
                                ordinalText(cost.without));
         const std::string file = ' ' + printable(m_files[run.file]);
@@ -230,14 +233,14 @@ private:
         const TradeOff& tradeOff = m_findings.tradeOff;
         if (tradeOff.rows.empty())
             return;
-        constexpr std::array<const char*, 3> Names{"fastest third", "middle third",
-                                                   "slowest third"};
-        addTitle(fitted("Risk and speed", 16) + rightAligned("Runs", 6) +
-                 rightAligned("Touches/run", 13) + rightAligned("90 %", 11) +
-                 rightAligned("Missed/run", 12) + rightAligned("Paddling", 10) +
-                 rightAligned("Total", 9));
+        const std::array<std::string, 3> names{say("fastest third"), say("middle third"),
+                                               say("slowest third")};
+        addTitle(fitted(say("Risk and speed"), 16) + rightAligned(say("Runs"), 6) +
+                 rightAligned(say("Touches/run"), 13) + rightAligned("90 %", 11) +
+                 rightAligned(say("Missed/run"), 12) + rightAligned(say("Paddling"), 10) +
+                 rightAligned(say("Total"), 9));
         for (const TradeOffRow& row : tradeOff.rows)
-            addLine(fitted(Names[static_cast<std::size_t>(row.third - 1)], 16) +
+            addLine(fitted(names[static_cast<std::size_t>(row.third - 1)], 16) +
                     rightAligned(std::to_string(row.runs), 6) +
                     rightAligned(fmt::format("{:.2f}", row.touchesPerRun), 13) +
                     rightAligned(fmt::format("{:.2f}–{:.2f}", row.interval.low, row.interval.high),

@@ -1,5 +1,7 @@
 #include "common/delimited_text.h"
 
+#include "common/text.h"
+
 #include <algorithm>
 
 namespace kavela {
@@ -121,8 +123,9 @@ std::string DelimitedReader::lack(std::size_t needed, std::string_view neededInW
 std::string lackOfFields(std::size_t count, std::size_t needed, std::string_view neededInWords) {
     if (count >= needed)
         return {};
-    return std::to_string(count) + (count == 1 ? " field" : " fields") + " where " +
-           std::string(neededInWords) + " are needed";
+    return say("{} where {} are needed",
+               sayCount(static_cast<std::int64_t>(count), "{} field", "{} fields"),
+               translated(neededInWords));
 }
 
 } // namespace kavela

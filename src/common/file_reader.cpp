@@ -3,6 +3,7 @@
 #include "common/error.h"
 #include "common/large_pages.h"
 #include "common/posix_file.h"
+#include "common/text.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -83,9 +84,9 @@ PosixFile openOrdinaryFile(const std::filesystem::path& path, struct ::stat& sta
     if (::fstat(file.descriptor(), &status) != 0)
         throw systemFileError(path);
     if (S_ISDIR(status.st_mode))
-        throw FileError(path, "this is a folder, not a file");
+        throw FileError(path, say("this is a folder, not a file"));
     if (!S_ISREG(status.st_mode))
-        throw FileError(path, "this is not an ordinary file");
+        throw FileError(path, say("this is not an ordinary file"));
     return file;
 }
 
@@ -96,7 +97,7 @@ simdjson::padded_string readObjectText(const std::filesystem::path& path) {
     const PosixFile file = openOrdinaryFile(path, status);
     Range range{0, status.st_size};
     if (range.end == 0)
-        throw DecodeError({{}, "the file is empty"});
+        throw DecodeError({{}, say("the file is empty")});
 
     std::array<char, 3> start{};
     const std::size_t got = readAt(file, start.data(), start.size(), 0);
@@ -105,21 +106,22 @@ simdjson::padded_string readObjectText(const std::filesystem::path& path) {
 
     range.begin = firstUsed(file, range);
     if (range.begin >= range.end)
-        throw DecodeError({{}, "the file holds nothing but blanks"});
+        throw DecodeError({{}, say("the file holds nothing but blanks")});
     char first = 0;
     if (readAt(file, &first, 1, range.begin) != 1 || first != '{')
-        throw DecodeError({{}, "this is no JSON object: it does not begin with {"});
+        throw DecodeError(
+            {{}, std::string(translated("this is no JSON object: it does not begin with {"))});
     range.end = pastLastUsed(file, range);
 
     const auto size = static_cast<std::size_t>(range.end - range.begin);
     if (size > LargestDocument)
-        throw DecodeError({{}, "the file is too large for a document (over 4 GB)"});
+        throw DecodeError({{}, say("the file is too large for a document (over 4 GB)")});
     simdjson::padded_string text(size);
     if (text.data() == nullptr)
         throw std::bad_alloc();
     preferLargePages(text.data(), size);
     if (readAt(file, text.data(), size, range.begin) != size)
-        throw FileError(path, "the file became shorter while it was read");
+        throw FileError(path, say("the file became shorter while it was read"));
     return text;
 }
 

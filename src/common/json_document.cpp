@@ -3,6 +3,7 @@
 #include "common/file_reader.h"
 #include "common/json_fault.h"
 #include "common/large_pages.h"
+#include "common/text.h"
 
 #include <simdjson.h>
 
@@ -26,21 +27,21 @@ constexpr std::size_t ShortestWideInteger = 19;
 std::string plainText(simdjson::error_code code) {
     switch (code) {
     case simdjson::UTF8_ERROR:
-        return "the text is not valid UTF-8";
+        return say("the text is not valid UTF-8");
     case simdjson::DEPTH_ERROR:
-        return "the document is nested too deeply";
+        return say("the document is nested too deeply");
     case simdjson::NUMBER_ERROR:
-        return "not JSON: a number is malformed or out of range";
+        return say("not JSON: a number is malformed or out of range");
     case simdjson::UNCLOSED_STRING:
-        return "not JSON: a text is not closed (the file may be cut off)";
+        return say("not JSON: a text is not closed (the file may be cut off)");
     case simdjson::UNESCAPED_CHARS:
-        return "not JSON: a text holds a control character";
+        return say("not JSON: a text holds a control character");
     case simdjson::STRING_ERROR:
-        return "not JSON: a text holds a malformed escape";
+        return say("not JSON: a text holds a malformed escape");
     case simdjson::MEMALLOC:
-        return "the document is too large for the memory";
+        return say("the document is too large for the memory");
     default:
-        return "not JSON, or cut off";
+        return say("not JSON, or cut off");
     }
 }
 
@@ -51,7 +52,7 @@ Fault describe(simdjson::error_code code, std::string_view text) {
     const auto fault = findJsonFault(text);
     if (!fault)
         return {{}, plainText(code)};
-    return {{}, "not JSON, byte " + std::to_string(fault->byte) + ": " + std::string(fault->what)};
+    return {{}, say("not JSON, byte {}: {}", fault->byte, translated(fault->what))};
 }
 
 /// Whether a whole number fits the 64 bits, signed or not, that the parser reads.

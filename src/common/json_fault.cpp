@@ -1,5 +1,6 @@
 #include "common/json_fault.h"
 
+#include "common/text.h"
 #include "common/utf8.h"
 
 #include <charconv>
@@ -35,8 +36,9 @@ private:
     }
 
     bool fail(std::string_view what) {
-        m_fault = {m_at + 1,
-                   isAtEnd() ? "the text ends too early (the file may be cut off)" : what};
+        m_fault = {m_at + 1, isAtEnd()
+                                 ? KAVELA_TEXT("the text ends too early (the file may be cut off)")
+                                 : what};
         return false;
     }
 
@@ -57,7 +59,7 @@ private:
             return takeKey();
         case Due::Colon:
             m_due = Due::Value;
-            return take(':') || fail("a colon is due");
+            return take(':') || fail(KAVELA_TEXT("a colon is due"));
         case Due::End:
             return takeEnd();
         }
@@ -78,7 +80,7 @@ private:
 
     bool takeKey() {
         m_due = Due::Colon;
-        return take('"') ? takeText() : fail("a key is due");
+        return take('"') ? takeText() : fail(KAVELA_TEXT("a key is due"));
     }
 
     bool takeValue() {
@@ -97,19 +99,20 @@ private:
                 return true;
             }
         }
-        return fail("a value is due");
+        return fail(KAVELA_TEXT("a value is due"));
     }
 
     bool takeEnd() {
         if (m_open.empty()) {
             m_isDone = isAtEnd();
-            return m_isDone || fail("something stands behind the document");
+            return m_isDone || fail(KAVELA_TEXT("something stands behind the document"));
         }
         const bool isObject = m_open.back() == '}';
         if (take(m_open.back()))
             return close();
         m_due = isObject ? Due::Key : Due::Value;
-        return take(',') || fail(isObject ? "a comma or } is due" : "a comma or ] is due");
+        return take(',') || fail(isObject ? KAVELA_TEXT("a comma or } is due")
+                                          : KAVELA_TEXT("a comma or ] is due"));
     }
 
     /// The rest of a text, behind its first quote.
@@ -118,7 +121,7 @@ private:
             if (take('"'))
                 return true;
             if (static_cast<unsigned char>(next()) < ' ')
-                return fail("a text holds a control character");
+                return fail(KAVELA_TEXT("a text holds a control character"));
             if (next() == '\\' ? !takeEscape() : !takeLetter())
                 return false;
         }
@@ -128,7 +131,7 @@ private:
     bool takeLetter() {
         std::string_view rest = m_text.substr(m_at);
         if (!takeCharacter(rest))
-            return fail("a byte is no UTF-8 text");
+            return fail(KAVELA_TEXT("a byte is no UTF-8 text"));
         m_at = m_text.size() - rest.size();
         return true;
     }
@@ -141,10 +144,10 @@ private:
             return true;
         }
         if (!take('u'))
-            return fail("a text holds a malformed escape");
+            return fail(KAVELA_TEXT("a text holds a malformed escape"));
         for (int digit = 0; digit < 4; ++digit, ++m_at)
             if (isAtEnd() || Hexadecimal.find(next()) == std::string_view::npos)
-                return fail("a text holds a malformed escape");
+                return fail(KAVELA_TEXT("a text holds a malformed escape"));
         return true;
     }
 
@@ -152,7 +155,7 @@ private:
 
     bool takeDigits() {
         if (!isDigit())
-            return fail("a digit is due");
+            return fail(KAVELA_TEXT("a digit is due"));
         while (isDigit())
             ++m_at;
         return true;
@@ -178,7 +181,7 @@ private:
         const auto read = std::from_chars(m_text.data() + begin, m_text.data() + m_at, value);
         if (read.ec != std::errc::result_out_of_range || isTiny)
             return true;
-        m_fault = {begin + 1, "a number is out of range"};
+        m_fault = {begin + 1, KAVELA_TEXT("a number is out of range")};
         return false;
     }
 

@@ -1,5 +1,7 @@
 #include "common/posix_file.h"
 
+#include "common/text.h"
+
 #include <fcntl.h>
 
 #include <cerrno>
@@ -12,16 +14,16 @@ namespace {
 std::string plainReason(int code) {
     switch (code) {
     case ENOENT:
-        return "there is no such file";
+        return say("there is no such file");
     case EACCES:
     case EPERM:
-        return "no permission";
+        return say("no permission");
     case EISDIR:
-        return "this is a folder, not a file";
+        return say("this is a folder, not a file");
     case ENOSPC:
-        return "the disk is full";
+        return say("the disk is full");
     case EROFS:
-        return "the disk can only be read";
+        return say("the disk can only be read");
     default:
         return std::system_category().message(code);
     }

@@ -1,6 +1,7 @@
 #include "common/safe_file.h"
 
 #include "common/posix_file.h"
+#include "common/text.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -101,7 +102,7 @@ fs::path behindLinks(const fs::path& path) {
     fs::path target = path;
     for (int links = 0; fs::is_symlink(fs::symlink_status(target)); ++links) {
         if (links == LongestChain)
-            throw FileError(path, "too many symbolic links");
+            throw FileError(path, say("too many symbolic links"));
         const fs::path next = fs::read_symlink(target);
         target = next.is_absolute() ? next : target.parent_path() / next;
     }
@@ -120,9 +121,9 @@ std::optional<struct ::stat> statusOf(const fs::path& path) {
 void writeBehindLinks(const fs::path& target, std::string_view content) {
     const auto status = statusOf(target);
     if (status && S_ISDIR(status->st_mode))
-        throw FileError(target, "this is a folder, not a file");
+        throw FileError(target, say("this is a folder, not a file"));
     if (status && !S_ISREG(status->st_mode))
-        throw FileError(target, "this is not an ordinary file");
+        throw FileError(target, say("this is not an ordinary file"));
     if (status && ::access(target.c_str(), W_OK) != 0)
         throw systemFileError(target);
     TemporaryFile temporary(target, status ? status->st_mode & 0777 : NewFileMode);

@@ -2,6 +2,7 @@
 
 #include "common/error.h"
 #include "common/posix_file.h"
+#include "common/text.h"
 #include "common/utf8.h"
 
 #include <fcntl.h>
@@ -24,9 +25,9 @@ void checkOrdinary(const PosixFile& file) {
     if (::fstat(file.descriptor(), &status) != 0)
         throw systemFileError(file.path());
     if (S_ISDIR(status.st_mode))
-        throw FileError(file.path(), "this is a folder, not a file");
+        throw FileError(file.path(), say("this is a folder, not a file"));
     if (!S_ISREG(status.st_mode))
-        throw FileError(file.path(), "this is not an ordinary file");
+        throw FileError(file.path(), say("this is not an ordinary file"));
 }
 
 std::string contentOf(const PosixFile& file) {
@@ -42,7 +43,7 @@ std::string contentOf(const PosixFile& file) {
             return content;
         content.append(chunk.data(), static_cast<std::size_t>(got));
         if (content.size() > LargestList)
-            throw FileError(file.path(), "the file is too large for a list (over 64 MB)");
+            throw FileError(file.path(), say("the file is too large for a list (over 64 MB)"));
     }
 }
 
@@ -136,7 +137,7 @@ std::string fromUtf16(std::string_view bytes, ByteOrder order) {
 std::string readTextFile(const std::filesystem::path& path) {
     std::string text = bytesOf(path);
     if (!isUtf8(text))
-        throw DecodeError({{}, "the file is not UTF-8 text"});
+        throw DecodeError({{}, say("the file is not UTF-8 text")});
     return withoutMark(std::move(text));
 }
 
@@ -148,7 +149,7 @@ ListText listTextOf(std::string bytes) {
     if (const auto order = byteOrderOf(bytes))
         bytes = fromUtf16(bytes, *order);
     if (!isText(bytes))
-        throw DecodeError({{}, "the file is no text; save the list as text (CSV) first"});
+        throw DecodeError({{}, say("the file is no text; save the list as text (CSV) first")});
     if (isUtf8(bytes))
         return {withoutMark(std::move(bytes)), false};
     return {fromLatin1(bytes), true};

@@ -1,26 +1,18 @@
 #include "desktop/desktop.h"
 
 #include "common/error.h"
-#include "desktop/barrier/slit_window.h"
-#include "desktop/compose/compare_window.h"
 #include "desktop/cross/cross_window.h"
-#include "desktop/fetch/fetch_window.h"
 #include "desktop/folder/films_window.h"
-#include "desktop/motion/motion_window.h"
 #include "desktop/planning/online/online_planning.h"
 #include "desktop/planning/planning_window.h"
 #include "desktop/race/race_window.h"
-#include "desktop/sessions/session_imports.h"
-#include "desktop/sessions/session_window.h"
 #include "desktop/share/share_window.h"
 #include "desktop/shell/bring_to_front.h"
 #include "desktop/shell/disk_worker.h"
 #include "desktop/shell/edited_file.h"
 #include "desktop/shell/file_names.h"
-#include "desktop/shell/home_window.h"
 #include "desktop/shell/screen_fit.h"
 #include "desktop/shell/settings_window.h"
-#include "desktop/steps/steps_box.h"
 #include "desktop/tables/tables_window.h"
 #include "desktop/taking/taking_window.h"
 #include "desktop/team/team_window.h"
@@ -52,10 +44,6 @@ namespace fs = std::filesystem;
 /// Files a folder may hold before a coach is unlikely to want a tab for each.
 constexpr int MostRacesOfAFolder = 24;
 
-QIcon icon(const char* name) {
-    return QIcon(QString(":/icons/%1.svg").arg(name));
-}
-
 /// The split files of a folder in the order of their names.
 QStringList splitFilesIn(const QString& folder) {
     QStringList files;
@@ -77,24 +65,26 @@ Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
       m_quitting([this] { return windows(); }, [this] { rememberSession(); }),
       m_choice(*this, m_workspace),
       m_guide(m_workspace),
-      m_firstSteps(m_workspace),
+      m_home(*this, m_workspace, m_choice, m_earlierWork),
       m_plannings(*this, m_workspace, m_autosave),
       m_analysis(*this, m_workspace, m_autosave),
       m_splitFiles(*this, m_workspace, m_autosave, m_analysis),
+      m_films(*this, m_workspace, m_autosave, m_splitFiles),
+      m_recordings(*this, m_workspace, m_autosave),
       m_updates(m_workspace, update::parsedVersion(QApplication::applicationVersion().toStdString())
                                  .value_or(update::Version())) {
     loadIcons();
     m_workspace.setProgramCommands(
         [program = QPointer(this)] { return program ? program->toolCommands() : Commands(); });
     qApp->installEventFilter(&m_wheelGuard);
-    QApplication::setWindowIcon(icon("kavela"));
+    QApplication::setWindowIcon(QIcon(":/icons/kavela.svg"));
     connect(&m_workspace, &Workspace::openRequested, this, &Desktop::openAgain);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &Desktop::noteFront);
 }
 
 /// What is still being written is written to its end.
 Desktop::~Desktop() {
-    delete m_home;
+    m_home.close();
     for (const auto& window : m_windows) {
         if (window)
             window->disconnect(this);
@@ -112,50 +102,9 @@ Commands Desktop::toolCommands() {
     return commands;
 }
 
-void Desktop::showHome() {
-    if (!m_home) {
-        Tools tools;
-        for (const HomeGroup& group : homeGroups()) {
-            tools.push_back({group.title, {}});
-            for (const ToolKind* const tool : group.tools)
-                tools.back().tools.push_back({tool->title, tool->sentence, icon(tool->icon),
-                                              [this, tool] { m_choice.choose(*tool); }});
-        }
-        m_home = new HomeWindow(m_workspace, tools);
-        m_home->setAttribute(Qt::WA_DeleteOnClose);
-        if (m_firstSteps.isOffered())
-            m_home->addBelowHeader(new StepsBox(m_firstSteps));
-        connect(m_home, &HomeWindow::settingsRequested, this, &Desktop::openSettings);
-        connect(m_home, &HomeWindow::sampleRequested, this, &Desktop::openSampleSeason);
-        connect(m_home, &HomeWindow::filesRequested, this,
-                [this](const QStringList& files) { openAll(files); });
-    }
-    m_home->show();
-    bringToFront(*m_home);
-    showKeptWork();
-}
-
-void Desktop::showKeptWork() {
-    if (!isHomeShown())
-        return;
-    m_earlierWork.listPutOff(*m_home, [this](const std::vector<Autosave::Found>& works) {
-        std::vector<HomeWindow::KeptWork> lines;
-        for (const Autosave::Found& work : works) {
-            const QFileInfo file(work.label.path);
-            QStringList line{file.fileName(), work.label.note,
-                             work.when.toString("yyyy-MM-dd HH:mm")};
-            line.removeAll(QString());
-            lines.push_back({line.join(QStringLiteral("   ")),
-                             QDir::toNativeSeparators(file.absoluteFilePath()),
-                             [this, work] { m_earlierWork.bringBack(work); }});
-        }
-        m_home->showKeptWork(lines);
-    });
-}
-
 void Desktop::rememberSession() {
     m_earlierWork.rememberWindows();
-    showKeptWork();
+    m_home.showKeptWork();
 }
 
 /// What is open in an editor comes to the front there: the file itself may be behind its changes.
@@ -178,7 +127,7 @@ void Desktop::comeForward(const QStringList& files) {
 
 /// While the coach is in another program, no window of this one is active.
 void Desktop::noteFront(const QWindow* window) {
-    QList<QWidget*> candidates{m_home};
+    QList<QWidget*> candidates{m_home.window()};
     for (ToolWindow* const open : windows())
         candidates.append(open);
     for (QWidget* const candidate : candidates)
@@ -186,12 +135,8 @@ void Desktop::noteFront(const QWindow* window) {
             m_lastFront = candidate;
 }
 
-bool Desktop::isHomeShown() const {
-    return m_home && m_home->isVisible();
-}
-
 QWidget* Desktop::front() const {
-    return QApplication::activeWindow() ? QApplication::activeWindow() : m_home;
+    return QApplication::activeWindow() ? QApplication::activeWindow() : m_home.window();
 }
 
 void Desktop::openNew(const ToolKind& tool, const QString& path, bool isNamed) {
@@ -244,7 +189,7 @@ QStringList Desktop::racesAmong(const QStringList& paths, HeldDocuments& held) {
     if (!recordings.isEmpty())
         openRecordings(recordings);
     if (!imports.isEmpty())
-        openImports(imports);
+        m_recordings.openImports(imports);
     return races;
 }
 
@@ -260,51 +205,54 @@ void Desktop::openByContent(const QString& path, OpensAs kind) {
     }
 }
 
-bool Desktop::openIn(const ToolKind& tool, const QString& path) {
-    if (tool.opens == OpensAs::Race || tool.opens == OpensAs::Recording) {
-        tool.opens == OpensAs::Race ? openRaces({path}, nullptr) : openRecordings({path});
+/// Those whose windows hold several files, or are not of one file.
+bool Desktop::openInOneOf(OpensAs kind, const QString& path) {
+    switch (kind) {
+    case OpensAs::Race:
+        openRaces({path});
         return true;
-    }
-    if (tool.opens == OpensAs::Find) {
+    case OpensAs::Recording:
+        openRecordings({path});
+        return true;
+    case OpensAs::Find:
         openFind({path});
         return true;
-    }
-    if (tool.opens == OpensAs::Films) {
+    case OpensAs::Films:
         openFilms(path);
         return true;
-    }
-    if (tool.opens == OpensAs::SlitPicture) {
+    case OpensAs::SlitPicture:
         openSlit(path);
         return true;
+    case OpensAs::Course:
+        openCourse(path);
+        return true;
+    case OpensAs::Penalties:
+        openPenalties({path});
+        return true;
+    case OpensAs::Losses:
+        openLosses({path});
+        return true;
+    case OpensAs::ResultsList:
+        openTables({path});
+        return true;
+    case OpensAs::Season:
+        openSeason({path});
+        return true;
+    case OpensAs::Share:
+        openShare(path);
+        return true;
+    default:
+        return false;
     }
+}
+
+bool Desktop::openIn(const ToolKind& tool, const QString& path) {
     if (tool.opens == OpensAs::FolderOfFilms)
         return openTaking(path) != nullptr;
     if (tool.opens == OpensAs::Cross)
         return openCross(path) != nullptr;
-    if (tool.opens == OpensAs::Course) {
-        openCourse(path);
+    if (openInOneOf(tool.opens, path))
         return true;
-    }
-    if (tool.opens == OpensAs::Penalties) {
-        openPenalties({path});
-        return true;
-    }
-    if (tool.opens == OpensAs::Losses) {
-        openLosses({path});
-        return true;
-    }
-    if (tool.opens == OpensAs::ResultsList) {
-        openTables({path});
-        return true;
-    }
-    if (tool.opens == OpensAs::Season) {
-        openSeason({path});
-        return true;
-    }
-    if (tool.opens == OpensAs::Share) {
-        openShare(path);
-        return true;
-    }
     const QString file = canonicalPath(path);
     if (m_opening.contains(file) || raiseEditorOf(path))
         return true;
@@ -430,66 +378,16 @@ QList<QWidget*> Desktop::othersLike(const ToolWindow& window) const {
     return others;
 }
 
-void Desktop::openImports(const QStringList& paths) {
-    SessionWindow* window = nullptr;
-    for (SessionWindow* const session : windowsOf<SessionWindow>())
-        window = !window || session->isActiveWindow() ? session : window;
-    if (!window) {
-        window = new SessionWindow(m_workspace, m_autosave);
-        const QFileInfo first(paths.constFirst());
-        window->startNew(first.absolutePath() + '/' + first.completeBaseName() + ".bms");
-        show(window);
-    }
-    bringToFront(*window);
-    window->imports().takeInAll(paths);
-}
-
-void Desktop::openRecordings(const QStringList& paths) {
-    MotionWindow* window = windowsOf<MotionWindow>().value(0);
-    if (!window) {
-        window = new MotionWindow(m_workspace);
-        connect(window, &MotionWindow::recordingsChanged, this, &Desktop::rememberSession);
-        show(window);
-    }
-    bringToFront(*window);
-    window->open(paths);
-}
-
-void Desktop::openFetch() {
-    FetchWindow* window = windowsOf<FetchWindow>().value(0);
-    if (!window) {
-        window = new FetchWindow(m_workspace);
-        show(window);
-    }
-    bringToFront(*window);
-}
-
 void Desktop::openShare(const QString& folder) {
     ShareWindow* window = windowsOf<ShareWindow>().value(0);
     if (!window) {
         window = new ShareWindow(m_workspace);
+        connect(window, &ShareWindow::pathsChanged, this, &Desktop::rememberSession);
         show(window);
     }
     if (!folder.isEmpty())
         (void)window->open(folder);
     bringToFront(*window);
-}
-
-void Desktop::openFilms(const QString& path) {
-    const QString folder =
-        QFileInfo(path).isDir() ? path : QFileInfo(path).absolutePath(); // of a film
-    for (FilmsWindow* const window : windowsOf<FilmsWindow>())
-        if (isSameFile(window->shelf().folder(), folder)) {
-            (void)window->open(path); // shows the film
-            bringToFront(*window);
-            return;
-        }
-    auto* const window = new FilmsWindow(m_workspace);
-    connect(window, &FilmsWindow::pathsChanged, this, &Desktop::rememberSession);
-    if (window->open(path))
-        show(window);
-    else
-        delete window;
 }
 
 /// A folder among the recent files comes back in the tool that it was opened in: by what it holds
@@ -499,44 +397,6 @@ void Desktop::openAgain(const QString& path) {
         openFilms(path);
     else
         open(path);
-}
-
-void Desktop::openSlit(const QString& film, TakingWindow* race) {
-    SlitWindow* window = nullptr;
-    for (SlitWindow* const each : windowsOf<SlitWindow>())
-        if (isSameFile(each->film(), film))
-            window = each;
-    if (!window) {
-        window = new SlitWindow(m_workspace);
-        if (!window->open(film)) {
-            delete window;
-            return;
-        }
-        connect(window, &SlitWindow::pathsChanged, this, &Desktop::rememberSession);
-        connect(window, &SlitWindow::raceRequested, this,
-                [this, window = QPointer(window)](const QString& path) {
-                    (void)m_splitFiles.openTaking(path, [window](TakingWindow& taking) {
-                        if (!window)
-                            return;
-                        window->setRace(taking.document(), taking);
-                        bringToFront(*window);
-                    });
-                });
-        show(window);
-    }
-    for (TakingWindow* const taking : windowsOf<TakingWindow>())
-        if (!race && isSameFile(taking->document().folder(), QFileInfo(film).absolutePath()))
-            race = taking;
-    if (race && window->race().document() != &race->document())
-        window->setRace(race->document(), *race);
-    bringToFront(*window);
-}
-
-void Desktop::openCompare(const CompareRequest& request) {
-    auto* const window = new CompareWindow(m_workspace, m_autosave);
-    window->startWith(request);
-    show(window);
-    bringToFront(*window);
 }
 
 void Desktop::showPlace(const Place& place) {

@@ -3,10 +3,13 @@
 #include "common/why.h"
 #include "desktop/analysis_windows.h"
 #include "desktop/earlier_work.h"
+#include "desktop/film_windows.h"
 #include "desktop/help/guide_help.h"
+#include "desktop/home_screen.h"
 #include "desktop/opened_as.h"
 #include "desktop/planning_windows.h"
 #include "desktop/quitting.h"
+#include "desktop/recording_windows.h"
 #include "desktop/shell/autosave.h"
 #include "desktop/shell/focus_edge.h"
 #include "desktop/shell/spoken_names.h"
@@ -14,7 +17,6 @@
 #include "desktop/shell/wheel_guard.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/split_file_windows.h"
-#include "desktop/steps/first_steps.h"
 #include "desktop/tool_choice.h"
 #include "desktop/update/updates.h"
 
@@ -31,8 +33,6 @@ namespace kavela::desktop {
 class CrossWindow;
 struct CompareRequest;
 class HeldDocuments;
-class MotionWindow;
-class HomeWindow;
 class RaceWindow;
 class TakingWindow;
 struct ToolKind;
@@ -49,7 +49,7 @@ public:
     explicit Desktop(Workspace& workspace, std::optional<Autosave> autosave = std::nullopt);
     ~Desktop() override;
 
-    void showHome();
+    void showHome() { m_home.show(); }
     /// Opens a file in the tool it belongs to, by what it holds; every split file of a folder.
     void open(const QString& path) { openAll({path}); }
     /// The same for several: their races come into one window, which is `into` where it is given.
@@ -80,16 +80,16 @@ public:
         m_analysis.openRaces(paths, into);
     }
     /// Opens raw recordings beside each other, in the window that has some where there is one.
-    void openRecordings(const QStringList& paths);
+    void openRecordings(const QStringList& paths) { m_recordings.openRecordings(paths); }
     /// Brings the search to the front; it searches these files and folders too.
     void openFind(const QStringList& paths) { m_analysis.openFind(paths); }
     /// Brings the window that fetches films to the front.
-    void openFetch();
+    void openFetch() { m_films.openFetch(); }
     /// Brings the window that shares folders to the front, with this folder where one is given.
     void openShare(const QString& folder);
     /// Shows the films of a folder, or of a film's folder with that film in front; the window that
     /// has the folder comes to the front.
-    void openFilms(const QString& path);
+    void openFilms(const QString& path) { m_films.openFilms(path); }
     /// Opens what was open once: a folder of films in their window, all else as open() does.
     void openAgain(const QString& path);
     /// Shows the penalties of split files, and of folders with all below them, in one window; the
@@ -126,9 +126,11 @@ public:
     /// Shows the slit picture of a fixed camera's film, in the window that has it where there is
     /// one. Its marks go into the race that split taking has open for the film's folder, or into
     /// that of `race`.
-    void openSlit(const QString& film, TakingWindow* race = nullptr);
+    void openSlit(const QString& film, TakingWindow* race = nullptr) {
+        m_films.openSlit(film, race);
+    }
     /// Compares films in a window of its own.
-    void openCompare(const CompareRequest& request);
+    void openCompare(const CompareRequest& request) { m_films.openCompare(request); }
     /// Opens the planning that the preferences name, where they ask for one.
     void loadPlanningAtStart() { m_plannings.loadAtStart(); }
 
@@ -144,7 +146,7 @@ public:
     /// What is open now is what the next start opens.
     void rememberSession();
 
-    [[nodiscard]] bool isHomeShown() const;
+    [[nodiscard]] bool isHomeShown() const { return m_home.isShown(); }
     /// Over which dialogs open.
     [[nodiscard]] QWidget* front() const;
     /// Its windows are being closed, one after the other.
@@ -167,8 +169,6 @@ public:
     }
 
 private:
-    /// Lists on the home screen what was put off.
-    void showKeptWork();
     /// Each tool, for the search of every window.
     [[nodiscard]] Commands toolCommands();
     [[nodiscard]] ToolWindow* make(const ToolKind& tool);
@@ -184,8 +184,7 @@ private:
     /// The split files of a folder; told when there are none.
     [[nodiscard]] QStringList racesIn(const QString& folder);
     void openByContent(const QString& path, OpensAs kind);
-    /// Takes lists and tracks of other devices into the session in front, or into a new one.
-    void openImports(const QStringList& paths);
+    [[nodiscard]] bool openInOneOf(OpensAs kind, const QString& path);
     /// The races among files and folders; what is not one is told.
     [[nodiscard]] QStringList racesAmong(const QStringList& paths, HeldDocuments& held);
     void noteFront(const QWindow* window);
@@ -194,7 +193,6 @@ private:
     WheelGuard m_wheelGuard;
     SpokenNames m_spokenNames;
     FocusEdge m_focusEdge;
-    QPointer<HomeWindow> m_home;
     QPointer<QWidget> m_lastFront; ///< of the windows, the one that the coach was in last
     QList<QPointer<ToolWindow>> m_windows;
     QMap<QString, OpenFile> m_opening; ///< that a window is reading right now; by canonical path
@@ -203,10 +201,12 @@ private:
     Quitting m_quitting;
     ToolChoice m_choice;
     GuideHelp m_guide;
-    FirstSteps m_firstSteps;
+    HomeScreen m_home;
     PlanningWindows m_plannings;
     AnalysisWindows m_analysis;
     SplitFileWindows m_splitFiles;
+    FilmWindows m_films;
+    RecordingWindows m_recordings;
     Updates m_updates;
 };
 

@@ -69,6 +69,8 @@ bool EarlierWork::restoreWindows() const {
             m_program.openFilms(file.path);
         else if (file.kind == "fetch")
             m_program.openFetch(); // its source is remembered by the window
+        else if (file.kind == "share")
+            m_program.openShare(file.path); // by its content a folder is to be timed
         else if (file.kind == "slit")
             slits.append(file.path);
         else if (file.kind == "find")

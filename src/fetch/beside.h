@@ -13,7 +13,8 @@ namespace kavela::fetch {
 /// Runs what takes a disk's time on another thread; `done(result)` is called on the thread of
 /// `context` as long as that is there. `work` throws nothing and holds what it works on.
 template <class Work, class Done>
-void runBeside(QObject* context, Work work, Done done) {
+void runBeside(QObject* context, Work work, Done done,
+               QThreadPool& pool = *QThreadPool::globalInstance()) {
     using Result = decltype(work());
     const auto promise = std::make_shared<QPromise<Result>>();
     promise->start();
@@ -24,7 +25,7 @@ void runBeside(QObject* context, Work work, Done done) {
                          done(watcher->result());
                      });
     watcher->setFuture(promise->future());
-    QThreadPool::globalInstance()->start([promise, work = std::move(work)] {
+    pool.start([promise, work = std::move(work)] {
         promise->addResult(work());
         promise->finish();
     });

@@ -1,6 +1,7 @@
 #include "fetch/fetch_plan.h"
 
 #include "common/folded_text.h"
+#include "common/text.h"
 #include "fetch/film_name.h"
 
 #include <algorithm>
@@ -34,11 +35,11 @@ private:
         for (int copy = 2; !m_names.insert(folded(film.name)).second; ++copy)
             film.name = stem + ' ' + std::to_string(copy) + extension;
         if (m_rules.isThere(film.name))
-            set(film, State::AlreadyThere, "Is in the folder.");
+            set(film, State::AlreadyThere, say("Is in the folder."));
         else if (film.address.site() != m_rules.site &&
                  !m_rules.sites.contains(film.address.site()))
             set(film, State::OtherSite,
-                "Lies on " + film.address.site() + ", which is not ticked.");
+                say("Lies on {}, which is not ticked.", film.address.site()));
         else if (film.state == State::Wanted)
             count(film);
     }
@@ -46,7 +47,7 @@ private:
     void count(PlannedFilm& film) {
         const std::int64_t size = std::max<std::int64_t>(film.size.value_or(0), 0);
         if (size > MostJobBytes - m_bytes)
-            set(film, State::TooMuch, "Would be more than 20 GB in one go.");
+            set(film, State::TooMuch, say("Would be more than 20 GB in one go."));
         else
             m_bytes += size;
     }
@@ -103,10 +104,10 @@ std::string doubtText(const std::vector<std::size_t>& all, const std::vector<Fet
         if (other == own)
             continue;
         const FetchRun& run = runs[other];
-        text += (text.empty() ? "May also be bib " : ", ") + std::to_string(run.bib) +
+        text += (text.empty() ? "" : ", ") + std::to_string(run.bib) +
                 (run.phase.empty() ? "" : ' ' + run.phase);
     }
-    return text + '.';
+    return say("May also be bib {}.", text);
 }
 
 } // namespace
@@ -118,9 +119,9 @@ std::vector<PlannedFilm> planByPattern(const UrlPattern& pattern, const std::vec
         const std::optional<Address> address = pattern.address(run);
         if (!address) {
             const std::string lack = pattern.lackOf(run);
-            planner.add(withoutFilm(run, lack.empty()
-                                             ? "The address makes none for this run."
-                                             : "The list tells no " + lack + " of this run."));
+            planner.add(withoutFilm(
+                run, lack.empty() ? say("The address makes none for this run.")
+                                  : say("The list tells no {} of this run.", translated(lack))));
             continue;
         }
         PlannedFilm film;
@@ -150,7 +151,7 @@ std::vector<PlannedFilm> planByListing(const std::vector<ListedFilm>& films,
     FilmPlanner planner(rules);
     for (std::size_t run = 0; run < runs.size(); ++run) {
         if (found[run].empty())
-            planner.add(withoutFilm(runs[run], "The list has no film with this bib."));
+            planner.add(withoutFilm(runs[run], say("The list has no film with this bib.")));
         for (PlannedFilm& film : found[run])
             planner.add(std::move(film));
     }

@@ -3,6 +3,7 @@
 #include "common/json_decode.h"
 #include "common/json_encode.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 #include "fetch/url_pattern.h"
 #include "splittaking/video_names.h"
 
@@ -29,20 +30,20 @@ fs::path folderOf(const fs::path& path) {
 
 std::optional<std::string> faultOfSource(const filmsource001& source) {
     if (source.address.empty())
-        return "There is no address yet.";
+        return say("There is no address yet.");
     if (UrlPattern::isPattern(source.address)) {
         if (const auto fault = UrlPattern(source.address).fault())
             return fault;
     } else if (!parsedAddress(source.address)) {
-        return "The address must begin with https:// or http:// and hold no user name and "
-               "password.";
+        return say("The address must begin with https:// or http:// and hold no user name and "
+                   "password.");
     }
     if (source.bibs.empty())
-        return "There is no start list, results list or split file for the bibs yet.";
+        return say("There is no start list, results list or split file for the bibs yet.");
     if (source.folder.empty())
-        return "There is no folder for the films yet.";
+        return say("There is no folder for the films yet.");
     if (const auto fault = faultOfVideoPattern(source.names))
-        return "The pattern of names: " + *fault;
+        return say("The pattern of names: {}", *fault);
     return std::nullopt;
 }
 

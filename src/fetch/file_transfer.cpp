@@ -1,89 +1,71 @@
 #include "fetch/file_transfer.h"
 
-#include "common/error.h"
-#include "common/json_decode.h"
-#include "common/json_encode.h"
-#include "common/safe_file.h"
 #include "fetch/beside.h"
 
 #include <QDateTime>
+#include <QThreadPool>
 #include <QTimer>
 
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <cerrno>
-#include <system_error>
+#include <utility>
 
 namespace kavela::fetch {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-/// Waits until the disk has all of a file.
-bool isOnDisk(const fs::path& path) {
-    const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (file < 0)
-        return false;
-    const bool isThere = ::fsync(file) == 0;
-    ::close(file);
-    return isThere;
-}
-
-} // namespace
-
 FileTransfer::FileTransfer(QNetworkAccessManager& network, const WebRules& rules, TakeBytes mayTake,
                            QObject* parent)
     : QObject(parent), m_network(network), m_rules(rules), m_mayTake(std::move(mayTake)) {}
 
-fs::path FileTransfer::notePath() const {
-    return m_part.string() + ".note";
+/// What is asked of the disk is done in the order of asking, to its end whatever becomes of this.
+template <class Work, class Done>
+void FileTransfer::onDisk(Work work, Done done) {
+    runBeside(
+        this, [file = m_file, work = std::move(work)] { return work(*file); },
+        [this, done = std::move(done)](const auto& result) {
+            if (!m_isStopped)
+                done(result);
+        },
+        partPool());
 }
 
 void FileTransfer::start(const Address& address, const fs::path& part) {
     m_address = address;
     m_part = part;
-    m_file.setFileName(QFile::decodeName(part.c_str()));
-    findHeld();
-    // Also what is here already is told from the event loop.
-    QTimer::singleShot(0, this, &FileTransfer::tryNow);
+    m_file = std::make_shared<PartFile>(part);
+    onDisk([address](const PartFile& file) { return file.held(address); },
+           [this](const HeldPart& held) {
+               m_held = held;
+               tryNow();
+           });
 }
 
 void FileTransfer::stop() {
     m_isStopped = true;
     endExchange();
-    m_file.close();
+    letGo();
     disconnect(this, nullptr, nullptr, nullptr);
 }
 
-void FileTransfer::startAnew(const std::string& reason) {
-    dropPart();
-    retry(reason);
+/// Closing a file may take a disk's time too.
+void FileTransfer::letGo() {
+    if (m_file)
+        partPool().start([file = std::exchange(m_file, nullptr)] {});
 }
 
-void FileTransfer::dropPart() {
-    m_file.close();
-    std::error_code ignored;
-    fs::remove(m_part, ignored);
-    fs::remove(notePath(), ignored);
+void FileTransfer::startAnew(const std::string& reason) {
+    dropPart([this, reason] { retry(reason); });
+}
+
+void FileTransfer::dropPart(std::function<void()> dropped) {
+    endExchange();
     m_held = {};
     m_digest.clear();
-}
-
-/// A part without a note that fits is of no use: nobody knows what it is of.
-void FileTransfer::findHeld() {
-    std::error_code missing;
-    const auto bytes = fs::file_size(m_part, missing);
-    try {
-        if (!missing)
-            m_held = {static_cast<std::int64_t>(bytes),
-                      decode<filmpart001>(JsonDocument::fromFile(notePath()))};
-    } catch (const std::runtime_error&) {
-        m_held = {};
-    }
-    if (m_held.note.address != m_address.text())
-        m_held = {};
+    onDisk(
+        [](PartFile& file) {
+            file.remove();
+            return true;
+        },
+        [dropped = std::move(dropped)](bool) { dropped(); });
 }
 
 void FileTransfer::tryNow() {
@@ -114,12 +96,10 @@ void FileTransfer::takeHead(const AnswerHead& head) {
     switch (plan.step) {
     case Step::Append:
     case Step::Start:
-        if (isOpenFor(plan))
-            emit progressed(m_held.bytes, m_held.note.size);
+        openFor(plan);
         return;
     case Step::AskWhole:
-        dropPart();
-        retry(plan.reason);
+        startAnew(plan.reason);
         return;
     case Step::Wait:
         retry(plan.reason, plan.retryAfter);
@@ -132,48 +112,43 @@ void FileTransfer::takeHead(const AnswerHead& head) {
     }
 }
 
-/// The note stands on the disk before the first byte does: a part never has that of another state.
-bool FileTransfer::isOpenFor(const AnswerPlan& plan) {
-    const bool isStart = plan.step == AnswerPlan::Step::Start;
-    std::error_code ignored;
-    if (isStart)
-        fs::remove(m_part, ignored);
-    m_held = {isStart ? 0 : m_held.bytes, plan.note};
-    try {
-        writeFileSafely(notePath(), encode(m_held.note));
-    } catch (const FileError& error) {
-        fail({.reason = "The folder takes no file: " + error.reason(), .isOfDisk = true});
-        return false;
-    }
-    if (m_file.open(QIODevice::Append) && m_file.size() == m_held.bytes)
-        return true;
-    fail({.reason = "The folder takes no file: " + m_file.errorString().toStdString(),
-          .isOfDisk = true});
-    return false;
+void FileTransfer::openFor(const AnswerPlan& plan) {
+    m_held = {plan.step == AnswerPlan::Step::Start ? 0 : m_held.bytes, plan.note};
+    m_exchange->hold();
+    onDisk([held = m_held](PartFile& file) { return file.open(held); },
+           [this](const std::string& fault) {
+               if (fault.empty())
+                   countTaken(0);
+               else
+                   fail({.reason = "The folder takes no file: " + fault, .isOfDisk = true});
+           });
 }
 
+/// Bytes are held as soon as the disk has taken them, and not before.
 void FileTransfer::takeBytes(const QByteArray& bytes) {
     if (m_held.note.size > 0 && m_held.bytes + bytes.size() > m_held.note.size) {
-        dropPart();
-        retry("The server sends more than it announced.");
+        startAnew("The server sends more than it announced.");
         return;
     }
     if (!m_mayTake(bytes.size())) {
         fail({"The job has brought 20 GB, which is the most in one go."});
         return;
     }
-    // Unbuffered by itself: what a full disk did not take is not counted as held.
-    errno = 0;
-    if (m_file.write(bytes) != bytes.size() || !m_file.flush()) {
-        // Of bytes that were taken in part, the file itself tells no reason.
-        const int fault = errno;
-        const std::string reason = fault != 0 ? std::generic_category().message(fault)
-                                              : m_file.errorString().toStdString();
-        fail({.reason = "The disk does not take the file: " + reason, .isOfDisk = true});
-        return;
-    }
-    m_held.bytes += bytes.size();
+    m_exchange->hold();
+    onDisk([bytes](PartFile& file) { return file.append(bytes); },
+           [this, count = bytes.size()](const std::string& fault) {
+               if (fault.empty())
+                   countTaken(count);
+               else
+                   fail({.reason = "The disk does not take the file: " + fault, .isOfDisk = true});
+           });
+}
+
+void FileTransfer::countTaken(qint64 bytes) {
+    m_held.bytes += bytes;
     emit progressed(m_held.bytes, m_held.note.size);
+    if (m_exchange) // unless who heard it has stopped this
+        m_exchange->goOn();
 }
 
 void FileTransfer::takeEnd(const WebEnd& end) {
@@ -190,15 +165,13 @@ void FileTransfer::takeEnd(const WebEnd& end) {
 void FileTransfer::finishFile() {
     endExchange();
     if (m_held.bytes == 0) {
-        dropPart();
-        retry("The server sent nothing.");
+        startAnew("The server sent nothing.");
         return;
     }
-    const bool isFlushed = m_file.flush();
-    m_file.close();
-    // A disk may take its time, and a film in pieces has thousands of ends.
+    // A disk may take its time, and a film in pieces has thousands of ends: in no order with
+    // others.
     runBeside(
-        this, [part = m_part, isFlushed] { return isFlushed && isOnDisk(part); },
+        this, [file = m_file] { return file->finish(); },
         [this](bool isKept) {
             if (m_isStopped)
                 return;
@@ -212,9 +185,9 @@ void FileTransfer::finishFile() {
 void FileTransfer::retry(const std::string& reason,
                          std::optional<std::chrono::seconds> retryAfter) {
     endExchange();
-    m_file.close();
     const auto wait = waitBeforeTry(++m_tries, retryAfter);
     if (!wait) {
+        letGo();
         emit failed({reason + " After " + std::to_string(m_tries) +
                      (m_tries == 1 ? " try" : " tries") + " it was given up for now."});
         return;
@@ -225,7 +198,7 @@ void FileTransfer::retry(const std::string& reason,
 
 void FileTransfer::fail(TransferFault fault) {
     endExchange();
-    m_file.close();
+    letGo();
     emit failed(fault);
 }
 

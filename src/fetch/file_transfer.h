@@ -1,8 +1,7 @@
 #pragma once
 
+#include "fetch/part_file.h"
 #include "fetch/web_exchange.h"
-
-#include <QFile>
 
 #include <filesystem>
 #include <functional>
@@ -25,6 +24,7 @@ struct TransferFault {
 
 /// Brings one file into PART, with a note "PART.note" beside it, by as many tries as it takes, and
 /// goes on where an earlier one stopped. What is held stays for the next time, whatever ends this.
+/// The disk is waited for on another thread, and the server waits with it.
 class FileTransfer : public QObject {
     Q_OBJECT
 
@@ -38,8 +38,8 @@ public:
     /// The file is not what it should be: it is given up and fetched from its beginning, which is
     /// one more try.
     void startAnew(const std::string& reason);
-    /// Removes the part and its note.
-    void dropPart();
+    /// Removes the part and its note; `dropped` is called then, unless this was stopped.
+    void dropPart(std::function<void()> dropped);
 
     [[nodiscard]] const std::filesystem::path& part() const { return m_part; }
     /// What is known of the state that came.
@@ -55,17 +55,19 @@ signals:
     void failed(const kavela::fetch::TransferFault& fault);
 
 private:
-    void findHeld();
+    template <class Work, class Done>
+    void onDisk(Work work, Done done);
     void tryNow();
     void takeHead(const AnswerHead& head);
-    [[nodiscard]] bool isOpenFor(const AnswerPlan& plan);
+    void openFor(const AnswerPlan& plan);
     void takeBytes(const QByteArray& bytes);
+    void countTaken(qint64 bytes);
     void takeEnd(const WebEnd& end);
     void finishFile();
     void retry(const std::string& reason, std::optional<std::chrono::seconds> retryAfter = {});
     void fail(TransferFault fault);
     void endExchange();
-    [[nodiscard]] std::filesystem::path notePath() const;
+    void letGo();
 
     QNetworkAccessManager& m_network;
     const WebRules& m_rules;
@@ -73,7 +75,7 @@ private:
     Address m_address;
     std::filesystem::path m_part;
     HeldPart m_held;
-    QFile m_file;
+    std::shared_ptr<PartFile> m_file; ///< of the other thread while that works on it
     WebExchange* m_exchange = nullptr;
     std::string m_digest;
     bool m_wasRest = false;

@@ -19,7 +19,10 @@ struct NamedFilm {
 
 NamedFilm namedFilm(const fs::path& part, const fs::path& folder, const std::string& name) {
     try {
-        return {nameFilm(part, folder, name), {}};
+        NamedFilm named{nameFilm(part, folder, name), {}};
+        std::error_code ignored;
+        fs::remove(part.string() + ".note", ignored);
+        return named;
     } catch (const FileError& error) {
         return {{}, error.reason()};
     }
@@ -58,8 +61,6 @@ void RunningFilm::takeName() {
                 fail({"The film could not be given its name: " + named.fault});
                 return;
             }
-            std::error_code ignored;
-            fs::remove(partPath().string() + ".note", ignored);
             emit ended({.name = named.name});
         });
 }
@@ -126,8 +127,8 @@ void PlainFilm::checkFilm() {
                 takeName();
                 return;
             }
-            m_transfer.dropPart(); // it is whole: nothing would be gone on with
-            fail({*fault});
+            // It is whole: nothing would be gone on with.
+            m_transfer.dropPart([this, fault = *fault] { fail({fault}); });
         });
 }
 

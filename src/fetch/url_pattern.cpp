@@ -1,6 +1,7 @@
 #include "fetch/url_pattern.h"
 
 #include "common/delimited_text.h"
+#include "common/text.h"
 
 #include <algorithm>
 
@@ -28,7 +29,7 @@ UrlPattern::UrlPattern(std::string_view text) {
             break;
         const std::size_t close = text.find('}');
         if (close == std::string_view::npos) {
-            m_fault = "A brace is opened and not closed: " + std::string(text);
+            m_fault = say("A brace is opened and not closed: {}", text);
             return;
         }
         addPlaceholder(text.substr(1, close - 1));
@@ -55,8 +56,9 @@ void UrlPattern::addPlaceholder(std::string_view placeholder) {
     else if (name == "run")
         part.kind = Kind::Run;
     else
-        m_fault = "{" + std::string(placeholder) +
-                  "} means nothing here: there are {bib}, {category}, {phase} and {run}.";
+        m_fault = say("{{{}}} means nothing here: there are {{bib}}, {{category}}, {{phase}} and "
+                      "{{run}}.",
+                      placeholder);
     const bool isNumber = part.kind == Kind::Bib || part.kind == Kind::Run;
     if (!m_fault && colon < placeholder.size() &&
         (!isNumber || !parseField(placeholder.substr(colon + 1), part.width) || part.width < 1 ||
@@ -72,10 +74,11 @@ void UrlPattern::checkPlaces(std::string_view text) {
     const std::size_t path =
         scheme == std::string_view::npos ? scheme : text.find_first_of("/?#", scheme + 3);
     if (path == std::string_view::npos || !parsedAddress(text.substr(0, path)))
-        m_fault = "The address must begin with https:// and a server, whose name has no braces, "
-                  "user or password.";
+        m_fault = say("The address must begin with https:// and a server, whose name has no "
+                      "braces, user or password.");
     else if (std::ranges::none_of(m_parts, [](const Part& part) { return part.kind == Kind::Bib; }))
-        m_fault = "The address asks for no {bib}, so that every run would have the same film.";
+        m_fault = std::string(translated("The address asks for no {bib}, so that every run would "
+                                         "have the same film."));
 }
 
 std::string UrlPattern::lackOf(const FetchRun& run) const {
@@ -85,7 +88,7 @@ std::string UrlPattern::lackOf(const FetchRun& run) const {
         if (part.kind == Kind::Phase && run.phase.empty())
             return "phase";
         if (part.kind == Kind::Run && run.run <= 0)
-            return "number of the run";
+            return KAVELA_TEXT("number of the run");
         if (part.kind == Kind::Bib && run.bib <= 0)
             return "bib";
     }

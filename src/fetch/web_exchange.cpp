@@ -1,5 +1,7 @@
 #include "fetch/web_exchange.h"
 
+#include "common/text.h"
+
 #include <QIODevice>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -37,13 +39,13 @@ std::string brokenReason(const QNetworkReply& reply, bool hasHead) {
     switch (reply.error()) {
     case QNetworkReply::OperationCanceledError:
     case QNetworkReply::TimeoutError:
-        return hasHead ? "The server fell silent." : "The server does not answer.";
+        return hasHead ? say("The server fell silent.") : say("The server does not answer.");
     case QNetworkReply::HostNotFoundError:
-        return "The server was not found. Is the computer online?";
+        return say("The server was not found. Is the computer online?");
     case QNetworkReply::SslHandshakeFailedError:
-        return "The server cannot be reached safely.";
+        return say("The server cannot be reached safely.");
     default:
-        return hasHead ? "The connection broke off." : "The server cannot be reached.";
+        return hasHead ? say("The connection broke off.") : say("The server cannot be reached.");
     }
 }
 
@@ -52,13 +54,13 @@ std::string issuerOf(const QSslCertificate& certificate) {
     for (const auto name : {QSslCertificate::Organization, QSslCertificate::CommonName})
         if (const QStringList known = certificate.issuerInfo(name); !known.isEmpty())
             return known.constFirst().toStdString();
-    return "an unknown issuer";
+    return say("an unknown issuer");
 }
 
 std::string untrustedReason(const QSslError& fault) {
-    return "The certificate of the server is not trusted, so that nothing was sent. It was issued "
-           "by “" +
-           issuerOf(fault.certificate()) + "”: " + fault.errorString().toStdString() + '.';
+    return say("The certificate of the server is not trusted, so that nothing was sent. It was "
+               "issued by “{}”: {}.",
+               issuerOf(fault.certificate()), fault.errorString().toStdString());
 }
 
 } // namespace
@@ -81,8 +83,8 @@ void WebExchange::start() {
     QMetaObject::invokeMethod(
         this,
         [this, site] {
-            finish(
-                {WebEnd::Kind::Final, "The film lies on " + site + ", which is not ticked.", site});
+            finish({WebEnd::Kind::Final, say("The film lies on {}, which is not ticked.", site),
+                    site});
         },
         Qt::QueuedConnection);
 }
@@ -167,7 +169,7 @@ void WebExchange::follow() {
 
 void WebExchange::takeBytes() {
     takeHead();
-    if (!m_reply || !m_hasHead)
+    if (!m_reply || !m_hasHead || m_isHeld)
         return;
     if (const QByteArray bytes = m_reply->readAll(); !bytes.isEmpty())
         emit received(bytes);
@@ -175,7 +177,7 @@ void WebExchange::takeBytes() {
 
 void WebExchange::takeEnd() {
     takeBytes(); // which may follow a redirect, or end in a stop
-    if (!m_reply || !m_reply->isFinished())
+    if (!m_reply || !m_reply->isFinished() || m_isHeld)
         return;
     const bool isWhole = m_reply->error() == QNetworkReply::NoError || statusOf(*m_reply) >= 400;
     const std::string untrusted = m_untrusted;
@@ -185,6 +187,12 @@ void WebExchange::takeEnd() {
         finish({WebEnd::Kind::Final, untrusted, {}});
     else
         finish({isWhole ? WebEnd::Kind::Whole : WebEnd::Kind::Broken, reason, {}});
+}
+
+void WebExchange::goOn() {
+    m_isHeld = false;
+    if (m_reply)
+        takeEnd(); // or bytes, as long as there are some
 }
 
 void WebExchange::finish(const WebEnd& end) {

@@ -54,6 +54,9 @@ public:
 
     void start();
     void stop();
+    /// Neither bytes nor the end are told until goOn(); little is taken from the server meanwhile.
+    void hold() { m_isHeld = true; }
+    void goOn();
     /// Where the answer came from.
     [[nodiscard]] const Address& from() const { return m_ask.address; }
 
@@ -82,6 +85,7 @@ private:
     std::string m_untrusted; ///< what is wrong with the certificate
     int m_redirects = 0;
     bool m_hasHead = false;
+    bool m_isHeld = false;
 };
 
 } // namespace kavela::fetch

@@ -1,6 +1,7 @@
 #include "page/athlete_page.h"
 
 #include "common/reference_date.h"
+#include "common/text.h"
 #include "page/cell_classes.h"
 #include "page/html_text.h"
 #include "page/page_style.h"
@@ -18,7 +19,7 @@ namespace {
 /// Nothing is fetched but films and their pictures, and nothing is ever run, whatever a text of the
 /// files should get past its being escaped.
 constexpr std::string_view PageHead =
-    "<!DOCTYPE html>\n<html lang=en><head><meta charset=utf-8>"
+    "<head><meta charset=utf-8>"
     "<meta name=viewport content=\"width=device-width,initial-scale=1\">"
     "<meta http-equiv=Content-Security-Policy content=\"default-src 'none';style-src "
     "'unsafe-inline';img-src 'self' file: content: data:;media-src 'self' file: content:;base-uri "
@@ -43,7 +44,7 @@ const FactStore& factsOf(const RaceOnPage& race) {
 
 std::string crewOf(const RaceOnPage& race) {
     const std::string name(factsOf(race).text(race.factsOf(race.own().front()).crew));
-    return name.empty() ? "Athlete" : name;
+    return name.empty() ? std::string(translated("Athlete")) : name;
 }
 
 std::string categoriesOfRuns(const std::vector<RaceOnPage>& races) {
@@ -68,9 +69,9 @@ std::string headerText(const std::vector<RaceOnPage>& races) {
     if (races.size() == 1) {
         add(isolated(races.front().title()));
     } else {
-        add(countText(static_cast<long long>(races.size()), "race", "races"));
-        add(escaped(dayText({races.front().file().date})) + " to " +
-            escaped(dayText({races.back().file().date})));
+        add(sayCount(static_cast<std::int64_t>(races.size()), "{} race", "{} races"));
+        add(say("{} to {}", escaped(dayText({races.front().file().date})),
+                escaped(dayText({races.back().file().date}))));
     }
     return "<header><h1>" + isolated(crewOf(races.front())) + "</h1><p class=h>" + line +
            "</p></header>\n";
@@ -79,7 +80,7 @@ std::string headerText(const std::vector<RaceOnPage>& races) {
 std::string linksTo(const std::vector<RaceOnPage>& races) {
     if (races.size() < 2)
         return {};
-    std::string made = "<nav aria-label=Races><ul>";
+    std::string made = "<nav aria-label=\"" + said("Races") + "\"><ul>";
     for (const RaceOnPage& race : races)
         made += "<li><a href=#f" + std::to_string(race.number()) + ">" + isolated(race.title()) +
                 "</a>";
@@ -92,7 +93,7 @@ std::string filmsOfAll(const std::vector<PageFilm>& films) {
     for (const PageFilm& film : films)
         if (!film.run)
             made += filmPart(film);
-    return made.empty() ? made : "<section><h2>Films</h2>" + made + "</section>\n";
+    return made.empty() ? made : "<section><h2>" + said("Films") + "</h2>" + made + "</section>\n";
 }
 
 } // namespace
@@ -103,16 +104,18 @@ std::optional<std::string> athletePage(std::vector<RaceFile> races, const PageCh
     if (shown.empty())
         return std::nullopt;
     const bool isOfSeason = shown.size() > 1;
-    std::string made(PageHead);
+    std::string made = "<!DOCTYPE html>\n<html lang=\"" + escaped(choice.language) + "\">";
+    made += PageHead;
     made += "<title>" + escaped(crewOf(shown.front())) + " · " +
-            (isOfSeason ? "Season" : escaped(shown.front().title())) + "</title>\n<style>";
+            (isOfSeason ? said("Season") : escaped(shown.front().title())) + "</title>\n<style>";
     made += pageStyle();
     made += cellStyle(choice.scale) + "</style></head>\n<body>" + headerText(shown) +
             linksTo(shown) + "<main>\n" + overviewPart(shown) + progressPart(shown) +
             seasonLossPart(shown, choice) + filmsOfAll(films);
     for (const RaceOnPage& race : shown)
         made += racePart(race, isOfSeason, films);
-    return made + "</main><footer>Times in seconds. Made with Kavela.</footer></body></html>\n";
+    return made + "</main><footer>" + said("Times in seconds. Made with Kavela.") +
+           "</footer></body></html>\n";
 }
 
 std::string complaintAboutPageName(const std::filesystem::path& path) {
@@ -121,8 +124,8 @@ std::string complaintAboutPageName(const std::filesystem::path& path) {
         letter = 'A' <= letter && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
     return ending == ".html" || ending == ".htm"
                ? ""
-               : "The name of a page ends in .html, and its films lie in the folder named the same "
-                 "without that.";
+               : say("The name of a page ends in .html, and its films lie in the folder named the "
+                     "same without that.");
 }
 
 } // namespace kavela::page

@@ -27,6 +27,7 @@ struct PageChoice {
     std::string phase;    ///< the same
     TableSettings settings = {};
     ColourScale scale = ColourScale::GreenRed;
+    std::string language = "en"; ///< what the program speaks: the page says so of itself
 };
 
 /// A film that lies beside the page.

@@ -1,5 +1,6 @@
 #include "page/cell_classes.h"
 
+#include "common/text.h"
 #include "page/html_text.h"
 
 #include <array>
@@ -39,7 +40,7 @@ std::string classOf(const TableCell& cell) {
 
 std::string tableCell(const TableCell& cell) {
     const std::string name = classOf(cell);
-    const std::string text = escaped(cell.text);
+    const std::string text = escaped(saidNumber(cell.text));
     std::string made = "<td";
     if (!name.empty())
         made += name.find(' ') == std::string::npos ? " class=" + name : " class=\"" + name + '"';

@@ -1,6 +1,7 @@
 #include "page/gap_picture.h"
 
 #include "analysis/cell_text.h"
+#include "common/text.h"
 #include "page/html_text.h"
 
 #include <algorithm>
@@ -85,7 +86,7 @@ std::string scaleLines(const RoundScale& scale) {
         const double y = scale.placeOf(value);
         lines += 'M' + point(LeftEdge) + ' ' + point(y) + 'H' + point(RightEdge);
         texts += "<text x=" + point(LeftEdge - 5) + " y=" + point(y + 3.5) + ">" +
-                 scaleText(value, scale.step) + "</text>";
+                 saidNumber(scaleText(value, scale.step)) + "</text>";
     }
     return "<path class=l d=" + inQuotes(lines) + "/><path class=z d=" +
            inQuotes('M' + point(LeftEdge) + ' ' + point(scale.placeOf(0)) + 'H' +
@@ -191,8 +192,8 @@ private:
         const bool isFalling = m_line.points[m_line.points.size() - 2].gap > gap;
         const double place = m_scale.placeOf(gap) + (isFalling ? 16 : -8);
         return "<text class=v x=" + point(RightEdge) +
-               " y=" + point(std::clamp(place, 11.0, LowerEdge - 3)) + ">" + signedHundredths(gap) +
-               "</text>";
+               " y=" + point(std::clamp(place, 11.0, LowerEdge - 3)) + ">" +
+               saidNumber(signedHundredths(gap)) + "</text>";
     }
 
     const GapLine& m_line;
@@ -215,8 +216,8 @@ std::string seasonPicture(const std::vector<SeasonDot>& dots) {
     const auto [least, most] = std::ranges::minmax(dots, {}, &SeasonDot::percent);
     const RoundScale scale(least.percent, most.percent);
     const double days = std::max(last.day - first.day, 1.0);
-    std::string made = pictureBegin("Percent behind the winner, run by run, " + first.title +
-                                    " to " + last.title) +
+    std::string made = pictureBegin(say("Percent behind the winner, run by run, {} to {}",
+                                        first.title, last.title)) +
                        scaleLines(scale);
     for (const SeasonDot& dot : dots) {
         const double x = LeftEdge + 6 + (dot.day - first.day) / days * (RightEdge - LeftEdge - 12);

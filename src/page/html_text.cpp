@@ -1,6 +1,7 @@
 #include "page/html_text.h"
 
 #include "common/display_text.h"
+#include "common/text.h"
 
 #include <array>
 
@@ -65,8 +66,8 @@ std::string addressOf(std::string_view path) {
     return made;
 }
 
-std::string countText(long long count, std::string_view one, std::string_view more) {
-    return std::to_string(count) + ' ' + std::string(count == 1 ? one : more);
+std::string said(std::string_view text) {
+    return escaped(translated(text));
 }
 
 } // namespace kavela::page

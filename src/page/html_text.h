@@ -18,7 +18,8 @@ namespace kavela::page {
 /// A path of a file beside the page, with "/" between folders, as an address for an attribute.
 [[nodiscard]] std::string addressOf(std::string_view path);
 
-/// "1 touch", "3 touches".
-[[nodiscard]] std::string countText(long long count, std::string_view one, std::string_view more);
+/// A text of the page in the language of the program, for an element or a quoted attribute: the
+/// literal is the key of its translation.
+[[nodiscard]] std::string said(std::string_view text);
 
 } // namespace kavela::page

@@ -1,6 +1,7 @@
 #include "page/race_on_page.h"
 
 #include "analysis/run_motion.h"
+#include "common/text.h"
 #include "splitdata/athlete_keys.h"
 #include "splitdata/run_timing.h"
 
@@ -135,8 +136,8 @@ std::string runTitle(const RaceOnPage& race, std::size_t own) {
         place += isAlike && other <= own;
     }
     if (phase.empty())
-        return "Run " + std::to_string(own + 1);
-    return alike > 1 ? phase + ", run " + std::to_string(place) : phase;
+        return say("Run {}", own + 1);
+    return alike > 1 ? say("{}, run {}", phase, place) : phase;
 }
 
 } // namespace kavela::page

@@ -1,6 +1,7 @@
 #include "page/race_part.h"
 
 #include "common/reference_date.h"
+#include "common/text.h"
 #include "page/cell_classes.h"
 #include "page/html_text.h"
 #include "page/run_part.h"
@@ -52,21 +53,21 @@ public:
         if (!facts.text(first.phase).empty() && facts.text(m_race.file().session) == "Race")
             title += (title.empty() ? "" : " · ") + escaped(facts.text(first.phase));
         if (title.empty())
-            title = "Runs";
-        std::string made =
-            "<div class=o role=region tabindex=0 aria-label=\"Split table: " + title +
-            "\"><table class=b><caption>" + title + "</caption><thead><tr><th scope=col>Crew";
+            title = said("Runs");
+        std::string made = "<div class=o role=region tabindex=0 aria-label=\"" +
+                           say("Split table: {}", title) + "\"><table class=b><caption>" + title +
+                           "</caption><thead><tr><th scope=col>" + said("Crew");
         for (const std::size_t column : m_columns)
             made += "<th scope=col>" + escaped(m_race.table().columns[column].title);
-        made += "<th scope=col>Pen</thead><tbody>";
+        made += "<th scope=col>" + said("Pen") + "</thead><tbody>";
         for (std::size_t i = 0; i < std::min(m_rows.size(), MostTableRows); ++i)
             made += rowText(m_rows[i]);
         made += "</table></div>";
         if (m_rows.size() > MostTableRows)
             made += "<p class=h>" +
-                    countText(static_cast<long long>(m_rows.size() - MostTableRows), "more run is",
-                              "more runs are") +
-                    " left out.</p>";
+                    sayCount(static_cast<std::int64_t>(m_rows.size() - MostTableRows),
+                             "{} more run is left out.", "{} more runs are left out.") +
+                    "</p>";
         return made;
     }
 
@@ -109,21 +110,23 @@ std::string groupTables(const RaceOnPage& race, bool isOfSeason) {
 }
 
 std::string legendOf(const RaceOnPage& race) {
-    const std::string star = "* the best of its column.";
+    const std::string star = said("* the best of its column.");
     if (!race.settings().isTinted())
         return "<p class=h>" + star + "</p>";
-    return "<p class=h><span class=g><span class=k1>fastest</span><span class=k4>faster</span>"
-           "<span class=k6>middle</span><span class=k9>slower</span><span class=k12>slowest</span>"
-           "</span> of the runs compared, column by column. " +
-           star + "</p>";
+    const std::string bands = "<span class=g><span class=k1>" + said("fastest") +
+                              "</span><span class=k4>" + said("faster") + "</span><span class=k6>" +
+                              said("middle") + "</span><span class=k9>" + said("slower") +
+                              "</span><span class=k12>" + said("slowest") + "</span></span>";
+    return "<p class=h>" + say("{} of the runs compared, column by column.", bands) + ' ' + star +
+           "</p>";
 }
 
 std::string settingsLine(const RaceOnPage& race) {
     std::string made;
     if (race.settings().kind == ValueKind::Accumulated)
-        made += "Times from the start to each split. ";
+        made += said("Times from the start to each split.");
     if (race.settings().penaltiesIncluded && race.settings().kind != ValueKind::Accumulated)
-        made += "Penalty seconds are in the times. ";
+        made += said("Penalty seconds are in the times.");
     return made.empty() ? made : "<p class=h>" + made + "</p>";
 }
 
@@ -137,8 +140,8 @@ std::string raceLine(const RaceOnPage& race) {
         if (!facts.text(part).empty())
             made += " · " + isolated(facts.text(part));
     if (file.gates > 0)
-        made += " · " + countText(file.gates, "gate", "gates") + ", " +
-                std::to_string(facts.upGatesOf(file).size()) + " upstream";
+        made += " · " + say("{}, {} upstream", sayCount(file.gates, "{} gate", "{} gates"),
+                            facts.upGatesOf(file).size());
     return made;
 }
 
@@ -149,7 +152,7 @@ std::string racePart(const RaceOnPage& race, bool isOfSeason, const std::vector<
     made += "<div class=a>";
     for (std::size_t own = 0; own < race.own().size(); ++own)
         made += runPart(race, own, films);
-    made += "</div><h3>" + std::string(isOfSeason ? "Beside the winner" : "Among the others") +
+    made += "</div><h3>" + (isOfSeason ? said("Beside the winner") : said("Among the others")) +
             "</h3>" + groupTables(race, isOfSeason) + legendOf(race);
     return made + "</section>\n";
 }

@@ -2,6 +2,7 @@
 
 #include "analysis/cell_text.h"
 #include "common/number_text.h"
+#include "common/text.h"
 #include "page/html_text.h"
 #include "performance/loss_gates.h"
 #include "splitdata/annotation_labels.h"
@@ -23,7 +24,7 @@ constexpr std::int64_t MissedSeconds = 50;
 
 /// A time as the file has it; a dash for one that was not taken.
 std::string takenText(double seconds) {
-    return seconds != 0 && std::isfinite(seconds) ? hundredthsText(seconds) : "–";
+    return seconds != 0 && std::isfinite(seconds) ? saidNumber(hundredthsText(seconds)) : "–";
 }
 
 /// Texts one behind the other, without the empty ones.
@@ -54,7 +55,10 @@ public:
         for (std::int64_t gate = 1; gate <= gates(); ++gate)
             others.push_back(gate);
         const bool hasSections = made.size() > std::string_view("<div class=c>").size();
-        return made + group(hasSections ? "Others" : "Course", others, isShown) + "</div>";
+        return made +
+               group(std::string(hasSections ? translated("Others") : translated("Course")), others,
+                     isShown) +
+               "</div>";
     }
 
 private:
@@ -87,7 +91,7 @@ private:
             made += name.size() > 1 ? " class=\"" + name + '"' : " class=" + name;
         made += '>' + std::to_string(gate);
         if (isUpstream)
-            made += "<span class=v> upstream</span>";
+            made += "<span class=v> " + said("upstream") + "</span>";
         if (pen > 0)
             made += "<small>+" + std::to_string(pen) + "</small>";
         return made;
@@ -119,13 +123,11 @@ std::string penaltyWords(const PenaltyRow& penalty) {
             continue;
         if (!words.empty())
             words += " · ";
-        if (field.list == LabelList::PenaltyEye)
-            words += "eyes: ";
-        words += escaped(labelOf(field.list, penalty.*field.code));
+        const std::string label = escaped(labelOf(field.list, penalty.*field.code));
+        words += field.list == LabelList::PenaltyEye ? say("eyes: {}", label) : label;
     }
-    const std::string gate = penalty.gate == PenaltyRow::NoCode
-                                 ? std::string("Gate not noted")
-                                 : "Gate " + std::to_string(penalty.gate);
+    const std::string gate =
+        penalty.gate == PenaltyRow::NoCode ? said("Gate not noted") : say("Gate {}", penalty.gate);
     return "<li><b>" + gate + "</b> " + words;
 }
 
@@ -147,12 +149,14 @@ std::string lossNote(const FactStore& facts, const LossRow& note) {
         labelOf(LabelList::LossGateDetails, note.gateDetails),
         labelOf(LabelList::LossStyle, note.style),
         labelOf(LabelList::LossWaterFeature, note.waterFeature)};
-    std::string made =
-        "<li><b>" +
-        (note.lost == 0 ? std::string("Not finished") : signedHundredths(note.lost) + " s") +
+    const std::string lost =
+        "<b>" +
+        (note.lost == 0 ? said("Not finished") : saidNumber(signedHundredths(note.lost)) + " s") +
         "</b>";
-    if (!facts.text(note.versus).empty())
-        made += " against " + isolated(facts.text(note.versus));
+    std::string made =
+        "<li>" + (facts.text(note.versus).empty()
+                      ? lost
+                      : say("{} against {}", lost, isolated(facts.text(note.versus))));
     made += ": " + escaped(joinedTexts(where, ", "));
     if (const std::string reasons = joinedTexts(facts.lines(note.reasons), ", "); !reasons.empty())
         made += ". " + isolated(reasons);
@@ -171,9 +175,9 @@ std::string penaltiesPart(const RaceOnPage& race, std::size_t row) {
         words += penaltyWords(penalty);
     if (race.set().gates < 1 && words.empty())
         return {};
-    std::string made = "<h4>Penalties on the course</h4>";
+    std::string made = "<h4>" + said("Penalties on the course") + "</h4>";
     if (!course.isKnown())
-        made += "<p class=h>The penalties of this run are not known by gate.</p>";
+        made += "<p class=h>" + said("The penalties of this run are not known by gate.") + "</p>";
     made += course.text();
     return words.empty() ? made : made + "<ul>" + words + "</ul>";
 }
@@ -182,16 +186,20 @@ std::string upstreamPart(const RaceOnPage& race, std::size_t own) {
     const auto gates = race.facts().gatesOf(race.factsOf(race.own()[own]));
     if (gates.empty())
         return {};
-    std::string made = "<table class=r><caption>Upstream gates</caption><thead><tr><th scope=col>"
-                       "Gate<th scope=col>In<th scope=col>Out<th scope=col>Time<th scope=col>To "
-                       "winner<th scope=col class=j>Turn</thead><tbody>";
+    std::string made =
+        "<table class=r><caption>" + said("Upstream gates") + "</caption><thead><tr>";
+    for (const std::string& title :
+         {said("Gate"), said("Entry"), said("Exit"), said("Time"), said("To winner")})
+        made += "<th scope=col>" + title;
+    made += "<th scope=col class=j>" + said("Turn") + "</thead><tbody>";
     for (const GateRow& gate : gates) {
         const GateLoss* const loss = gateLossOf(race.lossesOf(own), gate.gate);
         made += "<tr><th scope=row>" + std::to_string(gate.gate) + "<td>" +
                 takenText(gate.entrance) + "<td>" + takenText(gate.exit) + "<td>" +
-                takenText(gate.time) + "<td>" + (loss ? signedHundredths(loss->loss) : "–") +
-                "<td class=j>" + escaped(labelOf(LabelList::UpstreamDirection, gate.direction)) +
-                ", " + escaped(labelOf(LabelList::UpstreamStyle, gate.style));
+                takenText(gate.time) + "<td>" +
+                (loss ? saidNumber(signedHundredths(loss->loss)) : "–") + "<td class=j>" +
+                escaped(labelOf(LabelList::UpstreamDirection, gate.direction)) + ", " +
+                escaped(labelOf(LabelList::UpstreamStyle, gate.style));
     }
     return made + "</table>";
 }
@@ -200,7 +208,8 @@ std::string notedLossesPart(const RaceOnPage& race, std::size_t row) {
     std::string notes;
     for (const LossRow& note : race.facts().lossesOf(race.factsOf(row)))
         notes += lossNote(race.facts(), note);
-    return notes.empty() ? notes : "<h4>Time lost, as noted</h4><ul>" + notes + "</ul>";
+    return notes.empty() ? notes
+                         : "<h4>" + said("Time lost, as noted") + "</h4><ul>" + notes + "</ul>";
 }
 
 std::string commentsPart(const RaceOnPage& race, std::size_t row) {
@@ -216,9 +225,10 @@ std::string commentsPart(const RaceOnPage& race, std::size_t row) {
     for (const TagRow& tag : race.facts().tagsOf(run)) {
         notes += "<li><b>" + escaped(race.facts().text(tag.tag)) + "</b>";
         if (tag.film == 0 && std::isfinite(tag.at - run.start))
-            notes += " at " + hundredthsText(tag.at - run.start) + " s of the run";
+            notes +=
+                ' ' + say("at {} s of the run", saidNumber(hundredthsText(tag.at - run.start)));
     }
-    return notes.empty() ? notes : "<h4>Comments</h4><ul>" + notes + "</ul>";
+    return notes.empty() ? notes : "<h4>" + said("Comments") + "</h4><ul>" + notes + "</ul>";
 }
 
 } // namespace kavela::page

@@ -2,6 +2,7 @@
 
 #include "analysis/cell_text.h"
 #include "common/number_text.h"
+#include "common/text.h"
 #include "page/cell_classes.h"
 #include "page/gap_picture.h"
 #include "page/html_text.h"
@@ -18,7 +19,11 @@ namespace kavela::page {
 namespace {
 
 std::string seconds(double value) {
-    return std::isfinite(value) ? hundredthsText(value) : "–";
+    return std::isfinite(value) ? saidNumber(hundredthsText(value)) : "–";
+}
+
+std::string signedSeconds(std::int64_t hundredths) {
+    return saidNumber(signedText(hundredths));
 }
 
 /// Writes the parts of one run one after the other.
@@ -68,21 +73,21 @@ private:
         if (const auto place = placeInGroup(facts, group, m_run)) {
             const auto count = std::ranges::count_if(
                 group, [&](std::size_t run) { return facts.runs()[run].isComplete; });
-            made += figure("Place", std::to_string(*place) + " <small>of " + std::to_string(count) +
-                                        "</small>");
+            made += figure(said("Rank"), say("{} <small>of {}</small>", *place, count));
         }
         if (m_facts.isComplete) {
-            made += figure("Total", seconds(m_facts.total)) +
-                    figure("Time", seconds(m_facts.paddling)) +
-                    figure("Penalties", std::to_string(m_facts.penalty));
+            made += figure(said("Total"), seconds(m_facts.total)) +
+                    figure(said("Time"), seconds(m_facts.paddling)) +
+                    figure(said("Penalties"), std::to_string(m_facts.penalty));
         } else {
-            made += figure(m_facts.isRefused ? "Not ranked, time" : "Time so far",
+            made += figure(m_facts.isRefused ? said("Not ranked, time") : said("Time so far"),
                            seconds(m_facts.totaltime)) +
-                    figure("Penalties", std::to_string(m_facts.totalpen));
+                    figure(said("Penalties"), std::to_string(m_facts.totalpen));
         }
         if (m_losses.sum && !m_isWinner)
-            made += figure("Behind the winner", signedText(m_losses.shown.gap) + " <small>" +
-                                                    isolated(winnerName()) + "</small>");
+            made +=
+                figure(said("Behind the winner"), signedSeconds(m_losses.shown.gap) + " <small>" +
+                                                      isolated(winnerName()) + "</small>");
         return made + strokes() + "</dl>";
     }
 
@@ -90,7 +95,7 @@ private:
         const auto& strokes = m_race.strokesOf(m_own);
         if (strokes.empty() || !strokes.back().count)
             return {};
-        return figure("Strokes", strokeText(strokes.back()));
+        return figure(said("Strokes"), strokeText(strokes.back()));
     }
 
     static std::string strokeText(const PageStrokes& strokes) {
@@ -128,18 +133,19 @@ private:
 
     [[nodiscard]] std::string gap() const {
         GapLine line = gapLine();
-        const std::string other = m_isWinner ? "the ideal run" : winnerName();
-        line.label = "Gap to " + other + " from section to section";
+        std::string gaps;
         for (const GapPoint& end : line.points)
-            line.label += ", " + signedHundredths(end.gap);
+            gaps += (gaps.empty() ? "" : ", ") + saidNumber(signedHundredths(end.gap));
+        line.label = m_isWinner ? say("Gap to the ideal run from section to section: {}", gaps)
+                                : say("Gap to {} from section to section: {}", winnerName(), gaps);
         const std::string picture = gapPicture(line);
         if (picture.empty())
             return {};
         return "<figure>" + picture + "<figcaption>" +
-               (m_isWinner
-                    ? std::string("This run won. Gap to the ideal run, the best of every "
-                                  "section, in seconds.")
-                    : "Gap to " + isolated(other) + ", in seconds: above the line is behind.") +
+               (m_isWinner ? said("This run won. Gap to the ideal run, the best of every section, "
+                                  "in seconds.")
+                           : say("Gap to {}, in seconds: above the line is behind.",
+                                 isolated(winnerName()))) +
                sumWords() + "</figcaption></figure>";
     }
 
@@ -147,12 +153,15 @@ private:
         if (m_isWinner || !m_losses.sum)
             return {};
         const ShownLosses& shown = m_losses.shown;
-        std::string words = " <b>" + signedText(shown.gap) + "</b> = paddling " +
-                            signedText(shown.paddling) + ", penalties " +
-                            signedText(shown.penalties);
-        if (shown.timing != 0)
-            words += ", official against video time " + signedText(shown.timing);
-        return words + '.' + mostLost();
+        const std::string gap = "<b>" + signedSeconds(shown.gap) + "</b>";
+        const std::string paddling = signedSeconds(shown.paddling);
+        const std::string penalties = signedSeconds(shown.penalties);
+        return ' ' +
+               (shown.timing == 0
+                    ? say("{} = paddling {}, penalties {}.", gap, paddling, penalties)
+                    : say("{} = paddling {}, penalties {}, official against video time {}.", gap,
+                          paddling, penalties, signedSeconds(shown.timing))) +
+               mostLost();
     }
 
     /// The three greatest losses, for whoever reads no further.
@@ -166,9 +175,9 @@ private:
         std::ranges::sort(losses);
         std::string words;
         for (const auto& [loss, k] : losses | std::views::take(MostTold))
-            words += (words.empty() ? " Most lost: " : ", ") + stretchTitle(m_losses.stretches[k]) +
-                     ' ' + signedText(-loss);
-        return words.empty() ? words : words + '.';
+            words += (words.empty() ? "" : ", ") + stretchTitle(m_losses.stretches[k]) + ' ' +
+                     signedSeconds(-loss);
+        return words.empty() ? words : ' ' + say("Most lost: {}.", words);
     }
 
     [[nodiscard]] std::string stretchTitle(const Stretch& stretch) const {
@@ -185,7 +194,7 @@ private:
             const Stretch& stretch = m_losses.stretches[k];
             if (stretch.last > texts.size())
                 continue;
-            std::string text = signedText(m_losses.shown.stretches[k]);
+            std::string text = signedSeconds(m_losses.shown.stretches[k]);
             if (stretch.first != stretch.last)
                 text += " <small>" + sectionsText(stretch.first, stretch.last) + "</small>";
             texts[stretch.last - 1] = std::move(text);
@@ -204,11 +213,18 @@ private:
         const auto& strokes = m_race.strokesOf(m_own);
         const bool hasStrokes = std::ranges::any_of(
             strokes, [](const PageStrokes& of) { return of.count.has_value(); });
-        std::string made = "<table class=r><caption>Splits</caption><thead><tr><th scope=col>"
-                           "Section<th scope=col>Time<th scope=col>Rank";
-        made += std::string(hasLosses ? "<th scope=col>To winner" : "") +
-                (hasPens ? "<th scope=col>Pen" : "") + (hasStrokes ? "<th scope=col>Strokes" : "") +
-                "</thead><tbody>";
+        std::string made = "<table class=r><caption>" + said("Splits") + "</caption><thead><tr>";
+        const auto add = [&made](const std::string& title) { made += "<th scope=col>" + title; };
+        add(said("Section"));
+        add(said("Time"));
+        add(said("Rank"));
+        if (hasLosses)
+            add(said("To winner"));
+        if (hasPens)
+            add(said("Pen"));
+        if (hasStrokes)
+            add(said("Strokes"));
+        made += "</thead><tbody>";
         const std::vector<std::string> losses = lossTexts();
         for (std::size_t k = 0; k < m_race.sections(); ++k) {
             made += "<tr><th scope=row><i>" + std::to_string(k + 1) + "</i> " +
@@ -277,9 +293,10 @@ std::string filmPart(const PageFilm& film) {
     if (!film.poster.empty())
         made += " poster=\"" + addressOf(film.poster) + '"';
     return made + " src=\"" + addressOf(film.address) + "\" aria-label=\"" + escaped(film.title) +
-           "\"></video><figcaption>" + isolated(film.title) +
-           ". The film lies beside this page: <bdi>" + escaped(film.address) +
-           "</bdi></figcaption></figure>";
+           "\"></video><figcaption>" +
+           say("{}. The film lies beside this page: {}", isolated(film.title),
+               isolated(film.address)) +
+           "</figcaption></figure>";
 }
 
 } // namespace kavela::page

@@ -3,6 +3,7 @@
 #include "analysis/cell_text.h"
 #include "common/number_text.h"
 #include "common/reference_date.h"
+#include "common/text.h"
 #include "page/gap_picture.h"
 #include "page/html_text.h"
 #include "page/run_part.h"
@@ -28,20 +29,21 @@ struct LossFieldTitle {
     std::string_view title;
 };
 
-constexpr std::array LossFieldTitles{
-    LossFieldTitle{"kind", "Sections"}, LossFieldTitle{"third", "Course"},
-    LossFieldTitle{"upstream", "Upstream gates"}, LossFieldTitle{"direction", "Direction"},
-    LossFieldTitle{"style", "Style"}};
+constexpr std::array LossFieldTitles{LossFieldTitle{"kind", KAVELA_TEXT("Sections")},
+                                     LossFieldTitle{"third", KAVELA_TEXT("Course")},
+                                     LossFieldTitle{"upstream", KAVELA_TEXT("Upstream gates")},
+                                     LossFieldTitle{"direction", KAVELA_TEXT("Direction")},
+                                     LossFieldTitle{"style", KAVELA_TEXT("Style")}};
 
 std::string lossFieldTitle(std::string_view field) {
     const auto found = std::ranges::find(LossFieldTitles, field, &LossFieldTitle::field);
-    return std::string(found == LossFieldTitles.end() ? field : found->title);
+    return found == LossFieldTitles.end() ? escaped(field) : said(found->title);
 }
 
 std::string tenths(double value) {
     std::array<char, 48> text{};
     std::snprintf(text.data(), text.size(), "%+.1f", value);
-    return text.data();
+    return saidNumber(text.data());
 }
 
 std::string overviewRow(const RaceOnPage& race, std::size_t own, bool isOfSeason) {
@@ -55,10 +57,10 @@ std::string overviewRow(const RaceOnPage& race, std::size_t own, bool isOfSeason
     made += "<a href=#" + runAnchor(race, own) + ">" + escaped(runTitle(race, own)) + "</a>";
     if (isOfSeason)
         made += "<td>" + escaped(dayText({race.file().date}));
-    made += "<td>" + (facts.isComplete ? hundredthsText(facts.total) : std::string("–")) + "<td>" +
+    made += "<td>" + (facts.isComplete ? saidNumber(hundredthsText(facts.total)) : "–") + "<td>" +
             std::to_string(facts.isComplete ? facts.penalty : facts.totalpen) + "<td>" +
             (place ? std::to_string(*place) : "–") + "<td>" +
-            (losses.sum ? signedText(losses.shown.gap) : "–");
+            (losses.sum ? saidNumber(signedText(losses.shown.gap)) : "–");
     return made;
 }
 
@@ -71,18 +73,19 @@ FactStore factsTogether(const std::vector<RaceOnPage>& races) {
 
 std::string lossTable(const SeasonLosses& losses) {
     constexpr std::size_t MostRows = 30; // there are fewer unless a file holds odd labels
-    std::string made =
-        "<div class=o role=region tabindex=0 aria-label=\"Where time is lost\"><table class=\"b "
-        "s\">"
-        "<thead><tr><th scope=col>In<th scope=col>A run, s<th scope=col>Percent<th scope=col>90 % "
-        "interval<th scope=col>Runs<th scope=col class=j>Verdict</thead><tbody>";
+    std::string made = "<div class=o role=region tabindex=0 aria-label=\"" +
+                       said("Where time is lost") + "\"><table class=\"b s\"><thead><tr>";
+    for (const std::string& title :
+         {said("Of what"), said("A run, s"), said("Percent"), said("90 % interval"), said("Runs")})
+        made += "<th scope=col>" + title;
+    made += "<th scope=col class=j>" + said("Verdict") + "</thead><tbody>";
     for (std::size_t i = 0; i < std::min(losses.rows.size(), MostRows); ++i) {
         const SeasonLossRow& row = losses.rows[i];
         const std::string range =
-            row.interval ? tenths(row.interval->low) + " to " + tenths(row.interval->high)
-                         : "too few";
+            row.interval ? say("{} to {}", tenths(row.interval->low), tenths(row.interval->high))
+                         : said("too few");
         made += "<tr><th scope=row><small>" + lossFieldTitle(row.field) + "</small><br>" +
-                escaped(row.text) + "<td>" + signedHundredths(row.perRun) + "<td>" +
+                escaped(row.text) + "<td>" + saidNumber(signedHundredths(row.perRun)) + "<td>" +
                 tenths(row.percent) + "<td>" + range + "<td>" + std::to_string(row.runs) +
                 "<td class=j>" +
                 (row.interval ? std::string(verdictText(row.verdict)) : std::string("–"));
@@ -92,12 +95,15 @@ std::string lossTable(const SeasonLosses& losses) {
 
 std::string trainList(const SeasonLosses& losses) {
     if (losses.train.empty())
-        return "<p>Nothing stands out from these runs: no interval lies above 0 as a whole.</p>";
+        return "<p>" +
+               said("Nothing stands out from these runs: no interval lies above 0 as a whole.") +
+               "</p>";
     std::string made = "<ol class=n>";
     for (const std::size_t place : losses.train) {
         const SeasonLossRow& row = losses.rows[place];
-        made += "<li><b>" + lossFieldTitle(row.field) + ", " + escaped(row.text) +
-                "</b>: " + signedHundredths(row.perRun) + " s a run";
+        made += "<li>" + say("{}: {} s a run",
+                             "<b>" + lossFieldTitle(row.field) + ", " + escaped(row.text) + "</b>",
+                             saidNumber(signedHundredths(row.perRun)));
     }
     return made + "</ol>";
 }
@@ -113,12 +119,19 @@ std::string overviewPart(const std::vector<RaceOnPage>& races) {
             rows += overviewRow(race, own, isOfSeason);
     if (count < 2)
         return {};
-    return "<section><h2>All runs</h2><div class=o role=region tabindex=0 aria-label=\"All "
-           "runs\"><table class=\"b s\"><thead><tr><th scope=col>Run" +
-           std::string(isOfSeason ? "<th scope=col>Day" : "") +
-           "<th scope=col>Total<th scope=col>Pen<th scope=col>Place<th scope=col>To winner"
-           "</thead><tbody>" +
-           rows + "</table></div></section>\n";
+    std::string titles;
+    const auto add = [&titles](const std::string& title) { titles += "<th scope=col>" + title; };
+    add(said("Run"));
+    if (isOfSeason)
+        add(said("Day"));
+    add(said("Total"));
+    add(said("Pen"));
+    add(said("Rank"));
+    add(said("To winner"));
+    return "<section><h2>" + said("All runs") +
+           "</h2><div class=o role=region tabindex=0 aria-label=\"" + said("All runs") +
+           "\"><table class=\"b s\"><thead><tr>" + titles + "</thead><tbody>" + rows +
+           "</table></div></section>\n";
 }
 
 std::string progressPart(const std::vector<RaceOnPage>& races) {
@@ -139,9 +152,11 @@ std::string progressPart(const std::vector<RaceOnPage>& races) {
     const std::string picture = seasonPicture(dots);
     return picture.empty()
                ? picture
-               : "<section><h2>Against the winners</h2><figure>" + picture +
-                     "<figcaption>Percent behind the winner by day, penalties included; the filled "
-                     "dot is the last run of each race.</figcaption></figure></section>\n";
+               : "<section><h2>" + said("Against the winners") + "</h2><figure>" + picture +
+                     "<figcaption>" +
+                     said("Percent behind the winner by day, penalties included; the filled dot is "
+                          "the last run of each race.") +
+                     "</figcaption></figure></section>\n";
 }
 
 std::string seasonLossPart(const std::vector<RaceOnPage>& races, const PageChoice& choice) {
@@ -152,10 +167,12 @@ std::string seasonLossPart(const std::vector<RaceOnPage>& races, const PageChoic
                              {}});
     if (losses.runs.size() < 2 || losses.rows.empty())
         return {};
-    return "<section><h2>What to train</h2>" + trainList(losses) + "<h3>Where time is lost</h3>" +
-           lossTable(losses) + "<p class=h>Against the winners, over " +
-           countText(static_cast<long long>(losses.runs.size()), "whole run", "whole runs") +
-           ". Losing: the whole interval is above 0.</p></section>\n";
+    const std::string runs =
+        sayCount(static_cast<std::int64_t>(losses.runs.size()), "{} whole run", "{} whole runs");
+    return "<section><h2>" + said("What to train") + "</h2>" + trainList(losses) + "<h3>" +
+           said("Where time is lost") + "</h3>" + lossTable(losses) + "<p class=h>" +
+           say("Against the winners, over {}. Losing: the whole interval is above 0.", runs) +
+           "</p></section>\n";
 }
 
 } // namespace kavela::page

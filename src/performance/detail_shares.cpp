@@ -1,5 +1,6 @@
 #include "performance/detail_shares.h"
 
+#include "common/text.h"
 #include "performance/penalty_rules.h"
 
 #include <algorithm>
@@ -95,7 +96,7 @@ void tellDetail(Why& why, const FactStore& facts, const NotedPenalties& all,
             why.input(std::string(facts.text(facts.runs()[penalty.run].crew)),
                       static_cast<double>(penalty.row.*field.code), placeOf(facts, penalty));
     if (!row.code && all.unnoted > 0)
-        why.note(std::to_string(all.unnoted) + " without any detail.");
+        why.note(say("{} without any detail.", all.unnoted));
 }
 
 } // namespace
@@ -103,7 +104,7 @@ void tellDetail(Why& why, const FactStore& facts, const NotedPenalties& all,
 std::string detailText(const DetailRow& row) {
     const auto field = std::ranges::find(DetailFields, row.field, &DetailField::name);
     return row.code && field != DetailFields.end() ? labelOf(field->labels, *row.code)
-                                                   : std::string("not noted");
+                                                   : say("not noted");
 }
 
 DetailShares detailShares(const FactStore& facts, const PenaltyChoice& choice) {

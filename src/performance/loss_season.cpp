@@ -24,8 +24,11 @@ constexpr std::array<std::string_view, 3> Verdicts{KAVELA_TEXT("losing"), KAVELA
 constexpr std::array<std::string_view, 5> SeasonFields{"kind", "third", "upstream", "direction",
                                                        "style"};
 /// The keys that have an order of their own; labels come as they are met.
-constexpr std::array<std::string_view, 4> SeasonKinds{"upstream", "downstream", "mixed", "unknown"};
-constexpr std::array<std::string_view, 3> ThirdNames{"first third", "second third", "last third"};
+constexpr std::array<std::string_view, 4> SeasonKinds{KAVELA_TEXT("upstream"),
+                                                      KAVELA_TEXT("downstream"),
+                                                      KAVELA_TEXT("mixed"), KAVELA_TEXT("unknown")};
+constexpr std::array<std::string_view, 3> ThirdNames{
+    KAVELA_TEXT("first third"), KAVELA_TEXT("second third"), KAVELA_TEXT("last third")};
 
 /// What the runs have of one row.
 struct SeasonColumn {
@@ -86,16 +89,16 @@ private:
         const LossClip clip{losses.run,   losses.referenceRun, stretch.first,
                             stretch.last, std::nullopt,        stretch.loss};
         const std::string kind(kindText(stretch.kind));
-        add({"kind", kind, kind, stretch.loss, stretch.reference, clip});
+        add({"kind", kind, std::string(translated(kind)), stretch.loss, stretch.reference, clip});
         const auto third = static_cast<std::size_t>(std::clamp(stretch.third, 1, 3));
-        add({"third", std::to_string(third), std::string(ThirdNames[third - 1]), stretch.loss,
-             stretch.reference, clip});
+        add({"third", std::to_string(third), std::string(translated(ThirdNames[third - 1])),
+             stretch.loss, stretch.reference, clip});
     }
 
     void addGate(const RunLosses& losses, const GateLoss& gate, std::size_t first,
                  std::size_t last) {
         const LossClip clip{losses.run, losses.referenceRun, first, last, gate.gate, gate.loss};
-        add({"upstream", "all", "all gates", gate.loss, gate.reference, clip});
+        add({"upstream", "all", say("all gates"), gate.loss, gate.reference, clip});
         const auto addLabel = [&](std::string_view field, LabelList list, std::int16_t code) {
             const auto labels = labelsOf(list);
             const bool isKnown = code >= 0 && static_cast<std::size_t>(code) < labels.size();

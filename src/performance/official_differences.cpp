@@ -1,6 +1,7 @@
 #include "performance/official_differences.h"
 
 #include "common/number_text.h"
+#include "common/text.h"
 #include "splitdata/athlete_keys.h"
 #include "splitdata/run_timing.h"
 #include "splitdata/run_totals.h"
@@ -23,8 +24,8 @@ std::optional<RunTotal> filmedTotal(const splittakerdata031& document, const ath
     return totalOf(course, filmed);
 }
 
-std::string secondsText(std::int64_t seconds) {
-    return std::to_string(seconds) + " s";
+std::string saidSeconds(double seconds) {
+    return saidNumber(hundredthsText(seconds));
 }
 
 /// Matches lines and runs and tells where they differ.
@@ -153,13 +154,17 @@ private:
                bareKey(first.phase) == bareKey(second.phase);
     }
 
+    [[nodiscard]] std::string crewOf(std::size_t i) const {
+        return crewText(m_document.athletes[m_runs[i]].names);
+    }
+
     OfficialDifference& add(OfficialDifferenceKind kind, std::size_t i, std::string text) {
         OfficialDifference& made = m_differences.emplace_back();
         made.kind = kind;
         made.run = m_runs[i];
         made.isOpen = kind != OfficialDifferenceKind::NotInList;
-        made.crew = crewText(m_document.athletes[m_runs[i]].names);
-        made.text = made.crew + ": " + std::move(text);
+        made.crew = crewOf(i);
+        made.text = std::move(text);
         if (m_lineOf[i]) {
             made.line = *m_lineOf[i];
             made.status = lineOf(i).status;
@@ -171,7 +176,7 @@ private:
 
     void tellRun(std::size_t i) {
         if (!m_lineOf[i]) {
-            add(OfficialDifferenceKind::NotInList, i, "is not in the list.");
+            add(OfficialDifferenceKind::NotInList, i, say("{}: is not in the list.", crewOf(i)));
             return;
         }
         if (isTakenOver(i))
@@ -181,8 +186,9 @@ private:
             tellNoResult(i, line);
         else if (!m_filmed[i])
             add(OfficialDifferenceKind::Unfinished, i,
-                "the list has " + hundredthsText(*line.time) +
-                    ", the film no time to the end. Take the official time over?");
+                say("{}: the list has {}, the film no time to the end. Take the official time "
+                    "over?",
+                    crewOf(i), saidSeconds(*line.time)));
         else if (m_swappedWith[i])
             tellSwap(i, *m_swappedWith[i]);
         else
@@ -196,25 +202,27 @@ private:
         if (line.status.empty() || !isTakenTime(ours))
             return;
         const bool isOpen = isTakenTime(real) || !isRefused(m_document.info, run);
-        const std::string proposal = isOpen ? ". Take " + line.status + " over?" : ".";
         add(OfficialDifferenceKind::NoResult, i,
-            "the list says " + line.status + ", ours is " + hundredthsText(ours) + proposal)
+            isOpen ? say("{0}: the list says {1}, ours is {2}. Take {1} over?", crewOf(i),
+                         line.status, saidSeconds(ours))
+                   : say("{}: the list says {}, ours is {}.", crewOf(i), line.status,
+                         saidSeconds(ours)))
             .isOpen = isOpen;
     }
 
     void tellSwap(std::size_t i, std::size_t other) {
         if (other < i)
             return; // told with the first of the two
-        const std::string crew = crewText(m_document.athletes[m_runs[other]].names);
+        const std::string crew = crewOf(other);
         const std::int64_t bib = lineOf(i).bib;
         const std::int64_t otherBib = lineOf(other).bib;
-        const std::string bibs =
-            bib > 0 && otherBib > 0
-                ? " (bibs " + std::to_string(bib) + " and " + std::to_string(otherBib) + ')'
-                : "";
         add(OfficialDifferenceKind::SwappedBib, i,
-            "has the time of " + crew + bibs + ", and " + crew +
-                " has this one's. Exchange the two crews?")
+            bib > 0 && otherBib > 0
+                ? say("{0}: has the time of {1} (bibs {2} and {3}), and {1} has this one's. "
+                      "Exchange the two crews?",
+                      crewOf(i), crew, bib, otherBib)
+                : say("{0}: has the time of {1}, and {1} has this one's. Exchange the two crews?",
+                      crewOf(i), crew))
             .other = m_runs[other];
     }
 
@@ -224,14 +232,14 @@ private:
             add(line.penalty > ours ? OfficialDifferenceKind::MissingPenalty
                                     : OfficialDifferenceKind::ExcessPenalty,
                 i,
-                "the list has " + secondsText(line.penalty) + " of penalties, ours has " +
-                    secondsText(ours) + ". Take the official result over?");
+                say("{}: the list has {} s of penalties, ours has {} s. Take the official result "
+                    "over?",
+                    crewOf(i), line.penalty, ours));
         if (!isNear(i, line))
             add(OfficialDifferenceKind::TimeOff, i,
-                "the list has " + hundredthsText(*line.time) + ", the film " +
-                    hundredthsText(m_filmed[i]->paddling) + ", " +
-                    hundredthsText(std::abs(m_filmed[i]->paddling - *line.time)) +
-                    " s apart. Take the official time over?");
+                say("{}: the list has {}, the film {}, {} s apart. Take the official time over?",
+                    crewOf(i), saidSeconds(*line.time), saidSeconds(m_filmed[i]->paddling),
+                    saidSeconds(std::abs(m_filmed[i]->paddling - *line.time))));
     }
 
     void tellNotFilmed(std::size_t line) {
@@ -242,8 +250,8 @@ private:
         made.status = m_lines[line].status;
         made.time = m_lines[line].time.value_or(0);
         made.penalty = m_lines[line].penalty;
-        made.text = "Line " + std::to_string(m_lines[line].line) + ", " + made.crew +
-                    ": there is no run of this crew.";
+        made.text =
+            say("Line {}, {}: there is no run of this crew.", m_lines[line].line, made.crew);
     }
 
     const splittakerdata031& m_document;

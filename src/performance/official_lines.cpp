@@ -1,5 +1,6 @@
 #include "performance/official_lines.h"
 
+#include "common/text.h"
 #include "performance/table_join.h"
 #include "splitdata/athlete_keys.h"
 #include "splitdata/run_totals.h"
@@ -46,7 +47,8 @@ public:
           m_total(columnOfRole(table, ColumnRole::Total)),
           m_status(columnOfRole(table, ColumnRole::Status)) {
         if (!m_time && !(m_total && m_penalty))
-            throw TableError("The list needs a column with the title Time, or Total and Penalty.");
+            throw TableError(
+                say("The list needs a column with the title Time, or Total and Penalty."));
     }
 
     [[nodiscard]] OfficialLine line(std::size_t row) const {
@@ -57,7 +59,7 @@ public:
         made.category = m_category ? cell(*m_category, row).text : std::string();
         const auto crew = crewOfRow(m_table, row);
         if (!crew)
-            throw TableError("The list needs a column with the title Name, Athlete or Crew.");
+            throw TableError(say("The list needs a column with the title Name, Athlete or Crew."));
         made.crew = *crew;
         made.status = status(row, made.crew);
         if (made.status.empty())

@@ -94,9 +94,9 @@ void tellRate(Why& why, const Rule& rule, const RateOf& rate) {
 }
 
 std::string leftOutText(std::size_t runs) {
-    return say("{} left out: {} penalties are not known by gate.",
-               runs == 1 ? std::string("1 run is") : say("{} runs are", runs),
-               runs == 1 ? "its" : "their");
+    return sayCount(static_cast<std::int64_t>(runs),
+                    "{} run is left out: its penalties are not known by gate.",
+                    "{} runs are left out: their penalties are not known by gate.");
 }
 
 } // namespace kavela

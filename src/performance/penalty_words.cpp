@@ -37,16 +37,15 @@ std::string withCapital(std::string text) {
 /// What one row of a grouping is called.
 std::string_view kindOf(RateBy by) {
     constexpr std::array<std::string_view, 10> Kinds{
-        "gate",    "type of gate", "tenth of the course",
-        "section", "crew",         "category",
-        "phase",   "race",         "month",
-        "hand"};
-    return Kinds[static_cast<std::size_t>(by)];
+        KAVELA_TEXT("gate"),    KAVELA_TEXT("type of gate"), KAVELA_TEXT("tenth of the course"),
+        KAVELA_TEXT("section"), KAVELA_TEXT("crew"),         KAVELA_TEXT("category"),
+        KAVELA_TEXT("phase"),   KAVELA_TEXT("race"),         KAVELA_TEXT("month"),
+        KAVELA_TEXT("hand")};
+    return translated(Kinds[static_cast<std::size_t>(by)]);
 }
 
 std::string countText(const NamedRate& row) {
-    return row.touches ? say("{} of {}", row.touches->count, row.touches->of)
-                       : std::string("nobody came");
+    return row.touches ? say("{} of {}", row.touches->count, row.touches->of) : say("nobody came");
 }
 
 std::string namesOf(const std::vector<const NamedRate*>& rows) {
@@ -55,9 +54,7 @@ std::string namesOf(const std::vector<const NamedRate*>& rows) {
     const std::size_t shown = std::min(rows.size(), MostNamed);
     for (std::size_t i = 0; i < shown; ++i)
         names += fmt::format("{}{} ({})", i == 0 ? "" : ", ", rows[i]->name, countText(*rows[i]));
-    if (rows.size() > shown)
-        names += say(" and {} more", rows.size() - shown);
-    return names;
+    return rows.size() > shown ? say("{} and {} more", names, rows.size() - shown) : names;
 }
 
 std::string rankedWords(const std::vector<NamedRate>& rows, std::string_view kind, double common) {
@@ -71,12 +68,13 @@ std::string rankedWords(const std::vector<NamedRate>& rows, std::string_view kin
             bold.push_back(&row);
     }
     if (passages == 0)
-        return "Nobody's penalties are known by gate.";
+        return say("Nobody's penalties are known by gate.");
+    if (bold.size() == 1)
+        return withCapital(say("{} stands out: touched more than the {} that all have in common.",
+                               namesOf(bold), rateText(common)));
     if (!bold.empty())
-        return withCapital(say("{} {} out: touched more than the {} that all have in "
-                               "common.",
-                               namesOf(bold), bold.size() == 1 ? "stands" : "stand",
-                               rateText(common)));
+        return withCapital(say("{} stand out: touched more than the {} that all have in common.",
+                               namesOf(bold), rateText(common)));
     if (touches < LeastTouches)
         return say("Too few to tell: {} in {}.", counted(touches, "touch", "touches"),
                    counted(passages, "passage", "passages"));
@@ -88,7 +86,7 @@ std::string rankedWords(const std::vector<NamedRate>& rows, std::string_view kin
 }
 
 std::string nameOfRow(const RateRow& row) {
-    return row.label.empty() ? "those without one" : row.label;
+    return row.label.empty() ? say("those without one") : row.label;
 }
 
 bool isClearlyBelow(const TradeOffRow& low, const TradeOffRow& high) {
@@ -100,12 +98,13 @@ bool isClearlyBelow(const TradeOffRow& low, const TradeOffRow& high) {
 std::string ordinalText(int rank) {
     const int tens = rank % 100 / 10;
     const int ones = rank % 10;
-    const char* const ending = tens == 1   ? "th"
-                               : ones == 1 ? "st"
-                               : ones == 2 ? "nd"
-                               : ones == 3 ? "rd"
-                                           : "th";
-    return std::to_string(rank) + ending;
+    if (tens != 1 && ones == 1)
+        return say("{}st", rank);
+    if (tens != 1 && ones == 2)
+        return say("{}nd", rank);
+    if (tens != 1 && ones == 3)
+        return say("{}rd", rank);
+    return say("{}th", rank);
 }
 
 std::string wordsOf(const PenaltyRates& rates) {
@@ -118,40 +117,40 @@ std::string wordsOf(const PenaltyRates& rates) {
 std::string wordsOf(const CourseOfRates& course) {
     std::vector<NamedRate> rows;
     for (const GateOnCourse& gate : course.gates)
-        rows.push_back(
-            {"gate " + std::to_string(gate.gate), gate.touches, gate.shrunk.rate, gate.isBold});
-    return rankedWords(rows, "gate", course.common);
+        rows.push_back({say("gate {}", gate.gate), gate.touches, gate.shrunk.rate, gate.isBold});
+    return rankedWords(rows, kindOf(RateBy::Gate), course.common);
 }
 
 std::string wordsOf(const PenaltyCost& cost) {
-    return say("Without this {}: {}.", cost.isMissedGate() ? "missed gate" : "touch",
-               ordinalText(cost.without));
+    return cost.isMissedGate() ? say("Without this missed gate: {}.", ordinalText(cost.without))
+                               : say("Without this touch: {}.", ordinalText(cost.without));
 }
 
 std::string wordsOf(std::span<const PenaltyCost> costs) {
     if (costs.empty())
-        return "No penalty of a whole run is known by gate.";
+        return say("No penalty of a whole run is known by gate.");
     const auto cost = static_cast<std::size_t>(
         std::ranges::count_if(costs, [](const PenaltyCost& one) { return one.places() > 0; }));
     const auto medals =
         static_cast<std::size_t>(std::ranges::count_if(costs, &PenaltyCost::isMedal));
+    const std::string all = counted(costs.size(), "penalty", "penalties");
     if (cost == 0)
-        return say("None of {} cost a place.", counted(costs.size(), "penalty", "penalties"));
-    return say("Of {} {} cost places, {} a medal.", counted(costs.size(), "penalty", "penalties"),
-               cost, medals == 0 ? std::string("none of them") : say("{} of them", medals));
+        return say("None of {} cost a place.", all);
+    return medals == 0 ? say("Of {} {} cost places, none of them a medal.", all, cost)
+                       : say("Of {} {} cost places, {} of them a medal.", all, cost, medals);
 }
 
 std::string wordsOf(const DetailShares& details) {
     if (details.penalties == 0)
-        return "There is no penalty.";
+        return say("There is no penalty.");
     const std::string all = counted(details.penalties, "penalty", "penalties");
     if (details.noted == 0)
         return say("None of {} was noted in detail.", all);
-    const std::string start =
-        say("Of {} {} noted in detail.", all, counted(details.noted, "was", "were"));
     if (details.noted < LeastValues)
-        return start + " Too few to tell.";
-    return start + " Shares of what was noted, no rates: nobody notes how gates are passed clean.";
+        return say("Noted in detail: {} of {}. Too few to tell.", details.noted, all);
+    return say("Noted in detail: {} of {}. Shares of what was noted, no rates: nobody notes how "
+               "gates are passed clean.",
+               details.noted, all);
 }
 
 std::string wordsOf(const TradeOff& tradeOff) {
@@ -159,19 +158,21 @@ std::string wordsOf(const TradeOff& tradeOff) {
     if (rows.empty())
         return say("Too few to tell: no group has {} whole runs.", LeastDivided);
     if (rows.size() == 1)
-        return say("{} touches a run in {}, all in one third of the field.",
-                   fmt::format("{:.2f}", rows.front().touchesPerRun),
-                   counted(rows.front().runs, "run", "runs"));
+        return say("{:.2f} touches a run in {}, all in one third of the field.",
+                   rows.front().touchesPerRun, counted(rows.front().runs, "run", "runs"));
     const TradeOffRow& fast = rows.front();
     const TradeOffRow& slow = rows.back();
-    const std::string figures = say("{:.2f} touches a run in the faster third, {:.2f} in "
-                                    "the slower.",
-                                    fast.touchesPerRun, slow.touchesPerRun);
     if (isClearlyBelow(fast, slow))
-        return "The fast touch less: " + figures;
+        return say("The fast touch less: {:.2f} touches a run in the faster third, {:.2f} in the "
+                   "slower.",
+                   fast.touchesPerRun, slow.touchesPerRun);
     if (isClearlyBelow(slow, fast))
-        return "The fast touch more: " + figures;
-    return "Too few to tell fast from slow: " + figures;
+        return say("The fast touch more: {:.2f} touches a run in the faster third, {:.2f} in the "
+                   "slower.",
+                   fast.touchesPerRun, slow.touchesPerRun);
+    return say("Too few to tell fast from slow: {:.2f} touches a run in the faster third, {:.2f} "
+               "in the slower.",
+               fast.touchesPerRun, slow.touchesPerRun);
 }
 
 std::string breakEvenWords(const TradeOff& tradeOff) {
@@ -182,7 +183,7 @@ std::string breakEvenWords(const TradeOff& tradeOff) {
 
 std::string cleanWords(const PenaltyRates& rates) {
     if (!rates.clean)
-        return "No whole run is known by gate.";
+        return say("No whole run is known by gate.");
     const RateOf& clean = *rates.clean;
     return say("{} of {} without a penalty: {:.1f} % ({:.1f}–{:.1f}).", clean.count,
                counted(clean.of, "whole run", "whole runs"), 100 * clean.rate,

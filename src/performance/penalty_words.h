@@ -26,7 +26,7 @@ namespace kavela {
 /// "Of 57 penalties 21 cost places, 3 of them a medal."
 [[nodiscard]] std::string wordsOf(std::span<const PenaltyCost> costs);
 
-/// "Of 57 penalties 12 were noted in detail. …"
+/// "Noted in detail: 12 of 57 penalties. …"
 [[nodiscard]] std::string wordsOf(const DetailShares& details);
 
 /// "The fast touch less: 0.52 a run in the fastest third, 1.90 in the slowest." Thirds whose

@@ -19,15 +19,25 @@ const SeasonMember& memberOf(const Season& season, const SeasonAthlete& athlete)
     return season.data.members[athlete.member];
 }
 
-std::string trendSentence(const std::string& name, std::string_view whom,
-                          const SeasonTrend& trend) {
+std::string winnerTrendSentence(const std::string& name, const SeasonTrend& trend) {
     if (!trend.perYear)
-        return say("{}: too few runs to tell a trend behind {}.", name, whom);
-    const std::string range =
-        trend.interval ? say(" ({:+.1f} to {:+.1f})", trend.interval->low, trend.interval->high)
-                       : std::string();
-    return say("{}: {:+.1f} % a year behind {}{}, {}.", name, *trend.perYear, whom, range,
-               verdictText(trend.verdict));
+        return say("{}: too few runs to tell a trend behind the winners.", name);
+    const std::string_view verdict = verdictText(trend.verdict);
+    if (!trend.interval)
+        return say("{}: {:+.1f} % a year behind the winners, {}.", name, *trend.perYear, verdict);
+    return say("{}: {:+.1f} % a year behind the winners ({:+.1f} to {:+.1f}), {}.", name,
+               *trend.perYear, trend.interval->low, trend.interval->high, verdict);
+}
+
+std::string splitTrendSentence(const std::string& name, const SeasonTrend& trend) {
+    if (!trend.perYear)
+        return say("{}: too few runs to tell a trend behind the fastest splits.", name);
+    const std::string_view verdict = verdictText(trend.verdict);
+    if (!trend.interval)
+        return say("{}: {:+.1f} % a year behind the fastest splits, {}.", name, *trend.perYear,
+                   verdict);
+    return say("{}: {:+.1f} % a year behind the fastest splits ({:+.1f} to {:+.1f}), {}.", name,
+               *trend.perYear, trend.interval->low, trend.interval->high, verdict);
 }
 
 std::string seasonCounted(std::size_t count, std::string_view one, std::string_view many) {
@@ -66,13 +76,13 @@ ProgressionChart progressionChart(const Season& season, std::size_t athlete, Tre
     if (medal && of == TrendOf::Winner)
         chart.medalLine = medal->median;
     const SeasonAthlete& figures = season.athletes[athlete];
-    if (chart.points.empty())
-        chart.sentence = say("{} of {}'s races is known.",
-                             of == TrendOf::Winner ? "No winner" : "No fastest split", member.name);
-    else if (of == TrendOf::Winner)
-        chart.sentence = trendSentence(member.name, "the winners", figures.toWinner);
+    if (!chart.points.empty())
+        chart.sentence = of == TrendOf::Winner ? winnerTrendSentence(member.name, figures.toWinner)
+                                               : splitTrendSentence(member.name, figures.toSplits);
     else
-        chart.sentence = trendSentence(member.name, "the fastest splits", figures.toSplits);
+        chart.sentence = of == TrendOf::Winner
+                             ? say("No winner of {}'s races is known.", member.name)
+                             : say("No fastest split of {}'s races is known.", member.name);
     return chart;
 }
 

@@ -44,21 +44,41 @@ const std::optional<RateOf>& rateIn(const SeasonAthlete& athlete, RaceRate rate)
     return athlete.semifinals;
 }
 
-struct ReachedWords {
-    std::string_view id;
-    std::string_view most; ///< how the sentence begins
-};
-
-ReachedWords wordsFor(RaceRate rate) {
-    constexpr std::array<ReachedWords, 3> Words{
-        ReachedWords{"medal", "Medals most often"}, ReachedWords{"final", "In finals most often"},
-        ReachedWords{"semifinal", "In semifinals most often"}};
-    return Words[static_cast<std::size_t>(rate)];
+std::string_view idOf(RaceRate rate) {
+    constexpr std::array<std::string_view, 3> Ids{"medal", "final", "semifinal"};
+    return Ids[static_cast<std::size_t>(rate)];
 }
 
-/// Which phase it is that is faster or slower.
-std::string_view laterOf(RacePair pair) {
-    return pair == RacePair::Heats ? "the second run" : "the final";
+/// Who got there most often, and how often.
+std::string mostOftenSentence(RaceRate rate, const std::string& name, const RateOf& reached) {
+    const double low = InPercent * reached.interval.low;
+    const double high = InPercent * reached.interval.high;
+    switch (rate) {
+    case RaceRate::Medals:
+        return say("Medals most often: {}, {} of {} ({:.0f}–{:.0f} %).", name, reached.count,
+                   reached.of, low, high);
+    case RaceRate::Finals:
+        return say("In finals most often: {}, {} of {} ({:.0f}–{:.0f} %).", name, reached.count,
+                   reached.of, low, high);
+    case RaceRate::Semifinals:
+        break;
+    }
+    return say("In semifinals most often: {}, {} of {} ({:.0f}–{:.0f} %).", name, reached.count,
+               reached.of, low, high);
+}
+
+/// Of those whose change is known, how many became faster or slower in the later phase.
+std::string changeSentence(RacePair pair, std::size_t known, std::size_t faster,
+                           std::size_t slower) {
+    if (known == 0)
+        return say("Too few races with both to tell a change.");
+    return pair == RacePair::Heats
+               ? say("Of {} who have both often enough, beyond doubt faster in the second run: "
+                     "{}, slower: {}.",
+                     known, faster, slower)
+               : say("Of {} who have both often enough, beyond doubt faster in the final: {}, "
+                     "slower: {}.",
+                     known, faster, slower);
 }
 
 } // namespace
@@ -82,18 +102,13 @@ SeasonIntervalChart pairChart(const Season& season, RacePair pair) {
         faster += isFaster ? 1 : 0;
         slower += isSlower ? 1 : 0;
     }
-    chart.sentence = known == 0
-                         ? "Too few races with both to tell a change."
-                         : say("Of {} who have both often enough, {} {} beyond doubt faster in "
-                               "{}, {} slower.",
-                               known, faster, faster == 1 ? "is" : "are", laterOf(pair), slower);
+    chart.sentence = changeSentence(pair, known, faster, slower);
     return chart;
 }
 
 SeasonIntervalChart raceRateChart(const Season& season, RaceRate rate) {
     SeasonIntervalChart chart;
     chart.unit = "%";
-    const ReachedWords words = wordsFor(rate);
     const RateOf* best = nullptr;
     const std::string* whose = nullptr;
     for (const SeasonAthlete& athlete : season.athletes) {
@@ -101,7 +116,7 @@ SeasonIntervalChart raceRateChart(const Season& season, RaceRate rate) {
         const std::string& name = nameIn(season, athlete);
         SeasonInterval row;
         row.label = name;
-        row.id = seasonId(words.id, name);
+        row.id = seasonId(idOf(rate), name);
         if (reached) {
             row.value = InPercent * reached->rate;
             row.interval =
@@ -115,10 +130,8 @@ SeasonIntervalChart raceRateChart(const Season& season, RaceRate rate) {
         }
         chart.rows.push_back(std::move(row));
     }
-    chart.sentence =
-        best ? say("{}: {}, {} of {} ({:.0f}–{:.0f} %).", words.most, *whose, best->count, best->of,
-                   InPercent * best->interval.low, InPercent * best->interval.high)
-             : "No race of the team has a result that says so.";
+    chart.sentence = best ? mostOftenSentence(rate, *whose, *best)
+                          : say("No race of the team has a result that says so.");
     return chart;
 }
 

@@ -1,5 +1,7 @@
 #include "planning/interval_timer.h"
 
+#include "common/text.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -20,33 +22,33 @@ double real(std::int64_t count) {
 const char* phaseName(IntervalPhase phase) {
     switch (phase) {
     case IntervalPhase::Prepare:
-        return "Get ready";
+        return KAVELA_TEXT("Get ready");
     case IntervalPhase::Work:
-        return "Work";
+        return KAVELA_TEXT("Work");
     case IntervalPhase::Rest:
-        return "Rest";
+        return KAVELA_TEXT("Rest");
     case IntervalPhase::SetRest:
-        return "Rest between sets";
+        return KAVELA_TEXT("Rest between sets");
     case IntervalPhase::End:
         break;
     }
-    return "Finished";
+    return KAVELA_TEXT("Finished");
 }
 
 std::string whyNotTimed(const favInvervalSessions_v2& session) {
     if (session.sets < 1 || session.reps < 1)
-        return "The session needs at least one set and one repetition.";
+        return say("The session needs at least one set and one repetition.");
     if (session.sets > MostCount || session.reps > MostCount)
-        return "The session has more sets or repetitions than can be timed.";
+        return say("The session has more sets or repetitions than can be timed.");
     for (const double time : {session.worktime, session.workrest, session.setrest})
         if (!std::isfinite(time) || time < 0)
-            return "A time of the session is negative or no number.";
+            return say("A time of the session is negative or no number.");
     if (session.worktime <= 0)
-        return "The session needs a work time.";
+        return say("The session needs a work time.");
     const double set = real(session.reps) * (session.worktime + session.workrest);
     const double most = real(session.sets) * (set + session.setrest);
     if (!(most <= LongestIntervalSession))
-        return "The session takes longer than a day.";
+        return say("The session takes longer than a day.");
     return {};
 }
 

@@ -190,7 +190,7 @@ private:
 /// A label behind what it explains; returns where the next one begins.
 qreal paintEntry(QPainter& painter, QRectF line, qreal left, const char* text,
                  const Typeface& typeface) {
-    const QString label = QString::fromLatin1(text);
+    const QString label = said(text);
     line.setLeft(left);
     typeface.draw(painter, line, Qt::AlignLeft, label, Caption);
     return left + typeface.width(label, Caption) + 14 * Point;
@@ -200,12 +200,14 @@ void paintKey(QPainter& painter, const QRectF& line, const Typeface& typeface) {
     const qreal y = line.center().y();
     const qreal gap = 4 * Point;
     paintCourseUpstreamMark(painter, {line.left(), y});
-    qreal left =
-        paintEntry(painter, line, line.left() + 3.6 * Point + gap, "upstream gate", typeface);
+    qreal left = paintEntry(painter, line, line.left() + 3.6 * Point + gap,
+                            KAVELA_TEXT("upstream gate"), typeface);
     for (const std::int64_t penalty : {std::int64_t{2}, MissedGateSeconds}) {
         paintPenalty(painter, {left + PatchWidth / 2, y}, penalty, typeface);
         left = paintEntry(painter, line, left + PatchWidth + gap,
-                          penalty == MissedGateSeconds ? "missed gate" : "touch", typeface);
+                          penalty == MissedGateSeconds ? KAVELA_TEXT("missed gate")
+                                                       : KAVELA_TEXT("touch"),
+                          typeface);
     }
 }
 

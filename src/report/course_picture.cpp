@@ -1,5 +1,6 @@
 #include "report/course_picture.h"
 
+#include "common/text.h"
 #include "report/typeface.h"
 
 #include <QBuffer>
@@ -268,16 +269,17 @@ Blob coursePicture(const CoursePainting& course) {
 
 CourseGround courseGround(std::span<const unsigned char> picture) {
     if (picture.size() > MostPhotoBytes)
-        throw CourseError("The picture has " + std::to_string(picture.size() / 1'000'000) +
-                          " MB. Up to 40 MB can be read; save it smaller first.");
+        throw CourseError(
+            say("The picture has {} MB. Up to 40 MB can be read; save it smaller first.",
+                picture.size() / 1'000'000));
     const QByteArray bytes(reinterpret_cast<const char*>(picture.data()),
                            static_cast<qsizetype>(picture.size()));
     const QImage image = readPicture(bytes, LargestCourseSide);
     if (image.isNull())
-        throw CourseError("This is no picture that can be read. Take a PNG or JPEG file.");
+        throw CourseError(say("This is no picture that can be read. Take a PNG or JPEG file."));
     const double height = static_cast<double>(image.height()) / image.width();
     if (height < FlattestGround || height > FarthestFromCourse)
-        throw CourseError("The picture is far too long for a course.");
+        throw CourseError(say("The picture is far too long for a course."));
     if (bytes.size() <= LargestKeptGround)
         return {blobOfBytes(bytes), height};
     QImage opaque(image.size(), QImage::Format_RGB32);

@@ -1,6 +1,7 @@
 #include "report/drawn_course.h"
 
 #include "report/list_styles.h"
+#include "report/said.h"
 #include "report/small_lists.h"
 
 #include <QPainter>
@@ -50,7 +51,7 @@ bool isDrawn(const coursedesign001& design, std::int64_t gate) {
 
 QString notDrawnText(const QStringList& gates) {
     return gates.isEmpty() ? QString()
-                           : QStringLiteral("Not drawn: ") + gates.join(QStringLiteral(", "));
+                           : said("Not drawn: %1").arg(gates.join(QStringLiteral(", ")));
 }
 
 void putUndrawn(PageBuilder& pages, const QString& text, const Typeface& typeface) {
@@ -80,13 +81,11 @@ void putDrawnCourse(PageBuilder& pages, const SharedCourse& drawn, const RunCour
             continue;
         penalties[gate.number] = gate.penalty;
         if (!isDrawn(drawn->design(), gate.number))
-            elsewhere
-                << QStringLiteral("gate %1: %2").arg(gate.number).arg(penaltyText(gate.penalty));
+            elsewhere << said("gate %1: %2").arg(gate.number).arg(penaltyText(gate.penalty));
     }
     makeRoomForCourse(pages, drawn, DrawnTitleHeight + DrawnNoteHeight);
     pages.put(DrawnTitleHeight, [=](QPainter& painter, const QRectF& place) {
-        typeface.draw(painter, place, Qt::AlignLeft, QStringLiteral("Penalties by gate"),
-                      ListTitleStyle);
+        typeface.draw(painter, place, Qt::AlignLeft, said("Penalties by gate"), ListTitleStyle);
         typeface.draw(painter, place.adjusted(place.width() * 0.4, 0, 0, 0), Qt::AlignRight,
                       course.remark, Caption);
     });
@@ -114,11 +113,10 @@ void putDrawnCourse(PageBuilder& pages, const SharedCourse& drawn, const CourseP
         most = std::max(most, gate.touches + gate.missed);
     }
     makeRoomForCourse(pages, drawn, SectionHeadingHeight);
-    const QString remark = QStringLiteral("touches and missed gates of %1 runs")
+    const QString remark = said("touches and missed gates of %1 runs")
                                .arg(static_cast<qulonglong>(penalties.countedRuns));
     pages.put(SectionHeadingHeight, [typeface, remark](QPainter& painter, const QRectF& place) {
-        paintSectionHeading(painter, place, QStringLiteral("Penalties on the course"), remark,
-                            typeface);
+        paintSectionHeading(painter, place, said("Penalties on the course"), remark, typeface);
     });
     CourseLook look;
     look.hasLines = false;

@@ -76,8 +76,8 @@ public:
     }
 
     void paintKey(QPainter& painter, QRectF line) const {
-        paintEntry(painter, line, AccentLight, "touch");
-        paintEntry(painter, line, Accent, "missed gate");
+        paintEntry(painter, line, AccentLight, KAVELA_TEXT("touch"));
+        paintEntry(painter, line, Accent, KAVELA_TEXT("missed gate"));
         paintUpstreamMark(painter, {line.left() + Swatch / 2, line.center().y() - 2.2 * Point});
         line.setLeft(line.left() + Swatch * 1.6);
         m_typeface.draw(painter, line, Qt::AlignLeft, said("upstream gate"), Caption);
@@ -90,7 +90,7 @@ private:
     }
 
     void paintEntry(QPainter& painter, QRectF& line, const QColor& colour, const char* text) const {
-        const QString label = QString::fromLatin1(text);
+        const QString label = said(text);
         painter.fillRect(QRectF(line.left(), line.center().y() - Swatch / 2, Swatch, Swatch),
                          colour);
         line.setLeft(line.left() + Swatch * 1.6);

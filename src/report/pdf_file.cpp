@@ -2,6 +2,7 @@
 
 #include "common/error.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 #include "report/searchable_text.h"
 #include "report/typeface.h"
 
@@ -47,7 +48,7 @@ std::string pdfOf(const PagedReport& report) {
         writer.setCreator(Creator);
         QPainter painter;
         if (!painter.begin(&writer))
-            throw std::runtime_error("The report could not be painted.");
+            throw std::runtime_error(say("The report could not be painted."));
         painter.scale(DotsPerInch / PointsPerInch, DotsPerInch / PointsPerInch);
         for (int page = 0; page < report.pageCount(); ++page) {
             if (page > 0)
@@ -71,7 +72,7 @@ bool isOwnPdf(const std::filesystem::path& path, const QString& title) {
 
 std::string pdfFor(const PagedReport& report, const std::filesystem::path& path) {
     if (!isAnyFontInstalled())
-        throw FileError(path, "no font is installed");
+        throw FileError(path, say("no font is installed"));
     return pdfOf(report);
 }
 

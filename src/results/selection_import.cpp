@@ -1,5 +1,6 @@
 #include "results/selection_import.h"
 
+#include "common/text.h"
 #include "results/selection_edit.h"
 #include "results/team_records.h"
 #include "splitdata/athlete_keys.h"
@@ -33,7 +34,7 @@ std::size_t categoryOf(const ListLine& line, selectionracesStruct_v3& document,
 /// Adds the athlete of a line; why not, or an empty text.
 std::string addFrom(const ListLine& line, selectionracesStruct_v3& document, ListImport& import) {
     if (line.fields.size() < 5)
-        return lackOfFields(line.fields.size(), 5, "five");
+        return lackOfFields(line.fields.size(), 5, KAVELA_TEXT("five"));
     const std::string& surname = line.fields[2];
     if (line.fields[0].empty())
         return "the category is empty";
@@ -63,7 +64,7 @@ struct Columns {
 };
 
 constexpr Columns ComaColumns{1, 2, 3, "four"};
-constexpr Columns TacenColumns{1, 3, 4, "five"};
+constexpr Columns TacenColumns{1, 3, 4, KAVELA_TEXT("five")};
 
 /// Reads the columns of a line; why not, or an empty text.
 std::string readColumns(const ListLine& line, const Columns& columns, bool hasComma,

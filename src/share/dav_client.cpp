@@ -1,5 +1,6 @@
 #include "share/dav_client.h"
 
+#include "common/text.h"
 #include "share/web_place.h"
 
 #include <QTimer>
@@ -42,15 +43,17 @@ private:
         if (m_answer.body.size() <= m_most)
             return;
         m_exchange->stop();
-        m_answer.reason = "The answer of the server is longer than it can be.";
+        m_answer.reason = say("The answer of the server is longer than it can be.");
         give();
     }
 
     void takeEnd(const fetch::WebEnd& end) {
         m_answer.isBroken = end.kind == fetch::WebEnd::Kind::Broken;
-        m_answer.reason = end.otherSite.empty() ? end.reason
-                                                : "The server leads to another one, " +
-                                                      end.otherSite + ", which is not followed.";
+        m_answer.reason = end.otherSite.empty()
+                              ? end.reason
+                              : say("The server leads to another one, {}, which is "
+                                    "not followed.",
+                                    end.otherSite);
         give();
     }
 
@@ -76,26 +79,25 @@ std::string refusalOf(const DavAnswer& answer) {
         return answer.reason;
     switch (answer.status()) {
     case 401:
-        return "The server does not accept the user name or the password.";
+        return say("The server does not accept the user name or the password.");
     case 403:
-        return "The server does not allow this, or not to this user.";
+        return say("The server does not allow this, or not to this user.");
     case 404:
     case 410:
-        return "The server has no such file or folder.";
+        return say("The server has no such file or folder.");
     case 409:
-        return "The folder above is not there on the server.";
+        return say("The folder above is not there on the server.");
     case 412:
-        return "Somebody changed it on the server meanwhile.";
+        return say("Somebody changed it on the server meanwhile.");
     case 413:
-        return "The server takes no file of this size.";
+        return say("The server takes no file of this size.");
     case 423:
-        return "Somebody has locked it on the server.";
+        return say("Somebody has locked it on the server.");
     case 507:
-        return "The server is full, or your share of it.";
+        return say("The server is full, or your share of it.");
     default:
-        return answer.isDone()
-                   ? std::string()
-                   : "The server answered with status " + std::to_string(answer.status()) + '.';
+        return answer.isDone() ? std::string()
+                               : say("The server answered with status {}.", answer.status());
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "common/display_text.h"
 #include "common/error.h"
+#include "common/text.h"
 #include "fetch/listing.h"
 #include "share/shared_names.h"
 #include "share/web_place.h"
@@ -65,7 +66,7 @@ private:
         const bool isOtherServer =
             answer.reason.empty() && answer.isDone() && answer.status() != MultiStatus;
         if (isOtherServer || answer.status() == 405 || answer.status() == 501)
-            throw ShareError("The server does not speak WebDAV at this address.");
+            throw ShareError(say("The server does not speak WebDAV at this address."));
         if (!answer.isDone())
             throw ShareError(refusalOf(answer));
         return read(answer, address, folder);
@@ -76,7 +77,7 @@ private:
         address.path.pop_back();
         if (const auto file = address.path.empty() ? std::nullopt : m_web.stateOf(address);
             file && !file->isFolder)
-            throw ShareError("The address is that of a file. A folder is shared.");
+            throw ShareError(say("The address is that of a file. A folder is shared."));
     }
 
     std::vector<fetch::DavEntry> read(const DavAnswer& answer, const fetch::Address& address,
@@ -85,7 +86,7 @@ private:
             std::vector<fetch::DavEntry> entries = fetch::entriesOfDav(answer.body, address);
             for (const fetch::DavEntry& entry : entries)
                 if (folder.empty() && !entry.isFolder && isFolderItself(entry.address, address))
-                    throw ShareError("The address is that of a file. A folder is shared.");
+                    throw ShareError(say("The address is that of a file. A folder is shared."));
             m_survey.foldersThere.insert(folder);
             return entries;
         } catch (const fetch::ListingError& error) {
@@ -116,7 +117,7 @@ private:
         if (const auto fault = faultOfName(name))
             leaveOut(within, *fault);
         else if (!isChild(plain, address))
-            leaveOut(within, "The server says that it lies in another folder.");
+            leaveOut(within, say("The server says that it lies in another folder."));
         else if (entry.isFolder)
             takeFolder(within, waiting);
         else
@@ -125,7 +126,7 @@ private:
                                       .isTag = entry.isTag,
                                       .sha256 = entry.sha256};
         if (m_survey.there.size() > MostSharedFiles)
-            throw ShareError("The server has too many files to share.");
+            throw ShareError(say("The server has too many files to share."));
     }
 
     static bool isChild(const fetch::Address& file, const fetch::Address& folder) {
@@ -148,7 +149,7 @@ private:
 
     void takeFolder(const std::string& path, std::deque<std::string>& waiting) {
         if (std::ranges::count(path, '/') + 1 >= MostLevels)
-            leaveOut(path, "It lies too deep.");
+            leaveOut(path, say("It lies too deep."));
         else if (m_seen.insert(path).second)
             waiting.push_back(path);
     }

@@ -4,6 +4,7 @@
 #include "common/error.h"
 #include "common/json_decode.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 #include "share/held_lock.h"
 #include "share/shared_names.h"
 #include "share/web_place.h"
@@ -162,7 +163,7 @@ bool FolderExchange::isThereAsSeen(const std::string& path) {
 HereFile FolderExchange::hashed(const std::string& path) {
     auto now = fileNow(place(path));
     if (!now)
-        throw ShareError("It is not here any more.");
+        throw ShareError(say("It is not here any more."));
     const auto seen = m_survey.here.find(path);
     const bool isKnown = seen != m_survey.here.end() && !seen->second.sha256.empty() &&
                          isSameStamp(*now, seen->second);
@@ -267,12 +268,12 @@ ShareResult FolderExchange::checkSent(const std::string& path, const HereFile& s
     m_survey.known.erase(path);
     const auto there = m_web.stateOf(addressOf(path));
     if (!there)
-        return failedWith("The server took the file and does not have it.");
+        return failedWith(say("The server took the file and does not have it."));
     if (there->size.value_or(sent.size) != sent.size)
-        return failedWith("The server has kept another length than was sent.");
+        return failedWith(say("The server has kept another length than was sent."));
     const auto now = fileNow(place(path));
     if (!now || !isSameStamp(*now, sent))
-        return failedWith("It was changed while it was sent. Compare again.");
+        return failedWith(say("It was changed while it was sent. Compare again."));
     const std::string tag = fetch::markOfTag(answer.head.etag);
     // Where they differ, somebody was there since: the next comparison shows it.
     const std::string mark = there->isTag && !tag.empty() ? tag : there->mark;
@@ -305,14 +306,14 @@ void FolderExchange::bringPart(const std::string& path, Arrived& arrived) {
     if (hasOtherLength) {
         dropPart(arrived.part);
         throw ShareError(arrived.mark.empty()
-                             ? "It was changed on the server meanwhile. Compare again."
-                             : "The server told another length than it sent.");
+                             ? say("It was changed on the server meanwhile. Compare again.")
+                             : say("The server told another length than it sent."));
     }
     arrived.file.sha256 = sha256OfFile(arrived.part, m_steps.stop);
     for (const std::string& told : {seen.sha256, brought.digest})
         if (!told.empty() && told != arrived.file.sha256) {
             dropPart(arrived.part);
-            throw ShareError("The file that came is not what its checksum says.");
+            throw ShareError(say("The file that came is not what its checksum says."));
         }
 }
 
@@ -326,7 +327,7 @@ FolderExchange::Arrived FolderExchange::arrive(const std::string& path) {
     bringPart(path, arrived);
     const auto held = fileNow(arrived.part);
     if (!held)
-        throw ShareError("The file that came has gone.");
+        throw ShareError(say("The file that came has gone."));
     const std::string hash = arrived.file.sha256.empty() ? sha256OfFile(arrived.part, m_steps.stop)
                                                          : arrived.file.sha256;
     arrived.file = {.size = held->size, .sha256 = hash, .modified = held->modified};
@@ -335,7 +336,7 @@ FolderExchange::Arrived FolderExchange::arrive(const std::string& path) {
 
 ShareResult FolderExchange::download(const std::string& path, bool replaces) {
     const fs::path target = place(path);
-    const ShareResult changed = failedWith("It was changed here meanwhile. Compare again.");
+    const ShareResult changed = failedWith(say("It was changed here meanwhile. Compare again."));
     if (replaces ? !isHereAsSeen(path) : isTaken(target))
         return changed;
     const Arrived arrived = arrive(path);
@@ -357,7 +358,7 @@ ShareResult FolderExchange::download(const std::string& path, bool replaces) {
 ShareResult FolderExchange::settle(const std::string& path) {
     const auto there = m_web.stateOf(addressOf(path));
     if (!there)
-        return failedWith("It is not on the server any more. Compare again.");
+        return failedWith(say("It is not on the server any more. Compare again."));
     m_survey.there[path] = {
         .size = there->size, .mark = there->mark, .isTag = there->isTag, .sha256 = there->sha256};
     const HereFile own = hashed(path);
@@ -366,7 +367,7 @@ ShareResult FolderExchange::settle(const std::string& path) {
         return keepBoth(path, own, arrived);
     dropPart(arrived.part);
     note(path, arrived.mark, own);
-    return {.kind = Kind::Same, .text = "Both sides have the same."};
+    return {.kind = Kind::Same, .text = say("Both sides have the same.")};
 }
 
 /// The own file gets another name before the other one gets its: at every moment both are there.
@@ -378,24 +379,24 @@ ShareResult FolderExchange::keepBoth(const std::string& path, const HereFile& ow
             return m_survey.there.contains(taken) || isTaken(place(taken));
         });
     if (!keepUnderSecondName(target, place(name)))
-        return failedWith("It could not be given another name. Compare again.");
+        return failedWith(say("It could not be given another name. Compare again."));
     const auto now = fileNow(target);
     if (!now || !isSameStamp(*now, own))
-        return failedWith("It was changed here meanwhile. Compare again.");
+        return failedWith(say("It was changed here meanwhile. Compare again."));
     renameOver(arrived.part, target);
     dropPart(arrived.part);
     HereFile file = fileNow(target).value_or(arrived.file);
     file.sha256 = arrived.file.sha256;
     note(path, arrived.mark, file);
-    ShareResult result{.kind = Kind::BothKept,
-                       .text = "Both are kept: the one of this computer is “" + validUtf8(name) +
-                               "” now."};
+    ShareResult result{
+        .kind = Kind::BothKept,
+        .text = say("Both are kept: the one of this computer is “{}” now.", validUtf8(name))};
     try {
         const ShareResult put = upload(name, true);
         if (put.kind == Kind::Failed)
-            result.text += " It is not on the server yet: " + put.text;
+            result.text += ' ' + say("It is not on the server yet: {}", put.text);
     } catch (const ShareError& error) {
-        result.text += std::string(" It is not on the server yet: ") + error.what();
+        result.text += ' ' + say("It is not on the server yet: {}", error.what());
         result.wantsLogin = error.wantsLogin();
     }
     return result;
@@ -405,9 +406,9 @@ ShareResult FolderExchange::deleteThere(const std::string& path) {
     const auto seen = m_survey.there.find(path);
     const auto now = m_web.stateOf(addressOf(path));
     if (isTaken(place(path)))
-        return failedWith("It is here again. Compare again.");
+        return failedWith(say("It is here again. Compare again."));
     if (now && (seen == m_survey.there.end() || now->mark != seen->second.mark))
-        return failedWith("It was changed on the server meanwhile. Compare again.");
+        return failedWith(say("It was changed on the server meanwhile. Compare again."));
     if (now) {
         std::vector<std::pair<QByteArray, QByteArray>> headers;
         if (now->isTag)
@@ -425,9 +426,9 @@ ShareResult FolderExchange::deleteThere(const std::string& path) {
 
 ShareResult FolderExchange::deleteHere(const std::string& path) {
     if (m_web.stateOf(addressOf(path)))
-        return failedWith("It is on the server again. Compare again.");
+        return failedWith(say("It is on the server again. Compare again."));
     if (!isHereAsSeen(path))
-        return failedWith("It was changed here meanwhile. Compare again.");
+        return failedWith(say("It was changed here meanwhile. Compare again."));
     std::error_code fault;
     const fs::path file = place(path);
     fs::remove(file, fault);

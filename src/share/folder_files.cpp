@@ -2,6 +2,7 @@
 
 #include "common/display_text.h"
 #include "common/error.h"
+#include "common/text.h"
 #include "share/shared_names.h"
 
 #include <sys/stat.h>
@@ -38,15 +39,15 @@ private:
         if (const auto wrong = faultOfName(name))
             leaveOut(path, *wrong);
         else if (status.type() == fs::file_type::symlink)
-            leaveOut(path, "It is a link.");
+            leaveOut(path, say("It is a link."));
         else if (status.type() == fs::file_type::directory && level >= MostLevels)
-            leaveOut(path, "It lies too deep.");
+            leaveOut(path, say("It lies too deep."));
         else if (status.type() == fs::file_type::directory)
             walk(entry.path(), path, level + 1);
         else if (const auto file = fileNow(entry.path()))
             m_found.files.emplace(path, *file);
         if (m_found.files.size() > MostSharedFiles)
-            throw FileError(entry.path().parent_path(), "There are too many files to share.");
+            throw FileError(entry.path().parent_path(), say("There are too many files to share."));
     }
 
     void leaveOut(const std::string& path, const std::string& reason) {
@@ -62,7 +63,7 @@ private:
 FolderFiles filesIn(const fs::path& folder, const std::stop_token& stop) {
     std::error_code fault;
     if (fs::exists(folder, fault) && !fs::is_directory(folder, fault))
-        throw FileError(folder, "It is a file. A folder is shared.");
+        throw FileError(folder, say("It is a file. A folder is shared."));
     FolderFiles found;
     FolderWalk(found, stop).walk(folder, {}, 1);
     return found;

@@ -1,5 +1,6 @@
 #include "share/share_plan.h"
 
+#include "common/text.h"
 #include "share/shared_names.h"
 
 #include <set>
@@ -50,11 +51,11 @@ Change changeOfBoth(const HereFile& here, const ThereFile& there, const KnownFil
 std::string noteOf(Change change, const ShareRow& row, bool wasKnown) {
     std::string note;
     if (change == Change::NewThere && wasKnown)
-        note = "It was deleted here and changed there: it is brought again.";
+        note = say("It was deleted here and changed there: it is brought again.");
     else if (change == Change::NewHere && wasKnown)
-        note = "It was deleted there and changed here: it is put there again.";
+        note = say("It was deleted there and changed here: it is put there again.");
     else if (change == Change::BothSides)
-        note = "Where they differ, both stay.";
+        note = say("Where they differ, both stay.");
     const std::string windows = windowsNote(row.path.substr(row.path.rfind('/') + 1));
     return note.empty() ? windows : windows.empty() ? note : note + ' ' + windows;
 }

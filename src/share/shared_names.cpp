@@ -1,6 +1,7 @@
 #include "share/shared_names.h"
 
 #include "common/folded_text.h"
+#include "common/text.h"
 #include "common/utf8.h"
 
 #include <fmt/format.h>
@@ -36,14 +37,14 @@ bool isDevice(std::string_view stem) {
 std::optional<std::string> faultOfName(std::string_view name) {
     if (name.empty() || name == "." || name == ".." || name.find('/') != std::string_view::npos ||
         name.find('\\') != std::string_view::npos)
-        return "Its name leads out of the folder.";
+        return say("Its name leads out of the folder.");
     if (!isUtf8(name))
-        return "Its name is no text.";
+        return say("Its name is no text.");
     if (name.size() > LongestSharedName)
-        return "Its name is too long.";
+        return say("Its name is too long.");
     for (std::string_view rest = name; !rest.empty();)
         if (isControl(takeCharacter(rest).value_or(U'\0')))
-            return "Its name has control characters.";
+            return say("Its name has control characters.");
     return std::nullopt;
 }
 
@@ -52,7 +53,7 @@ std::string windowsNote(std::string_view name) {
     const bool isReserved = isDevice(name.substr(0, name.find('.'))) ||
                             name.find_first_of(Forbidden) != std::string_view::npos ||
                             name.ends_with('.') || name.ends_with(' ');
-    return isReserved ? "A computer with Windows cannot take this name." : "";
+    return isReserved ? say("A computer with Windows cannot take this name.") : "";
 }
 
 bool isLeftOut(std::string_view name) {

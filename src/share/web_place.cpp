@@ -1,5 +1,7 @@
 #include "share/web_place.h"
 
+#include "common/text.h"
+
 #include <algorithm>
 
 namespace kavela::share {
@@ -28,9 +30,9 @@ bool isThisComputer(std::string_view host) {
 std::optional<std::string> faultOfPlace(std::string_view address) {
     const std::optional<fetch::Address> parsed = fetch::parsedAddress(address);
     if (!parsed)
-        return "The address must begin with https:// and hold no user name and password.";
+        return say("The address must begin with https:// and hold no user name and password.");
     if (parsed->scheme != "https" && !isThisComputer(parsed->host))
-        return "Only https:// keeps the password and the files from other readers.";
+        return say("Only https:// keeps the password and the files from other readers.");
     return std::nullopt;
 }
 

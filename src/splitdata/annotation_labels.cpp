@@ -1,5 +1,7 @@
 #include "splitdata/annotation_labels.h"
 
+#include "common/text.h"
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -158,7 +160,7 @@ std::string labelOf(LabelList list, std::int64_t code) {
     const std::span<const Label> labels = labelsOf(list);
     if (code < 0 || std::cmp_greater_equal(code, labels.size()))
         return std::to_string(code);
-    return std::string(labels[static_cast<std::size_t>(code)].text);
+    return std::string(translated(labels[static_cast<std::size_t>(code)].text));
 }
 
 std::optional<std::int64_t> codeOf(LabelList list, std::string_view id) {

@@ -38,7 +38,7 @@ enum class PenaltyKindCode : std::int64_t { Touch = 0, MissedGate = 1 };
 /// Codes of `hand` of a stroke.
 enum class HandCode : std::int64_t { Left = 0, Right = 1 };
 
-/// An entry of a list: an id for translations, unique within the list, and the English text.
+/// An entry of a list: an id, unique within the list, and the English text.
 struct Label {
     std::string_view id;
     std::string_view text;
@@ -50,7 +50,8 @@ struct Label {
 /// The list's name, the first part of a translation's key: "penalty.kind".
 [[nodiscard]] std::string_view nameOf(LabelList list);
 
-/// The English text of a code; the number as text for a code that is not in the list.
+/// The text of a code in the language of the program; the number as text for a code that is not in
+/// the list.
 [[nodiscard]] std::string labelOf(LabelList list, std::int64_t code);
 
 /// The code behind an id; nothing when the list has none such.

@@ -1,5 +1,7 @@
 #include "splittaking/course_setup.h"
 
+#include "common/text.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -27,21 +29,15 @@ std::optional<Number> parsed(std::string_view text) {
     return number;
 }
 
-std::string gateText(std::int64_t gate) {
-    return "Gate " + std::to_string(gate);
-}
-
 std::string notOnCourse(std::int64_t gate, std::int64_t gates) {
-    return gateText(gate) + " is not on a course of " + std::to_string(gates) +
-           (gates == 1 ? " gate." : " gates.");
+    return say("Gate {} is not on a course of {}.", gate, sayCount(gates, "{} gate", "{} gates"));
 }
 
 /// What is wrong with a gate that follows another one through the sections.
 std::string orderFault(std::int64_t gate, std::int64_t expected, std::size_t section) {
-    const std::string where = " in section " + std::to_string(section) + '.';
     if (gate < expected)
-        return gateText(gate) + " stands a second time or out of order" + where;
-    return gateText(expected) + " is missing before gate " + std::to_string(gate) + where;
+        return say("Gate {} stands a second time or out of order in section {}.", gate, section);
+    return say("Gate {} is missing before gate {} in section {}.", expected, gate, section);
 }
 
 } // namespace
@@ -85,7 +81,7 @@ GateList parseGateList(std::string_view text, std::int64_t gates) {
         text.remove_prefix(word.size());
         const auto gate = parsed<std::int64_t>(word);
         if (!gate)
-            return {{}, '"' + std::string(word) + "\" is no gate number."};
+            return {{}, say("\"{}\" is no gate number.", word)};
         if (*gate < 1 || *gate > gates)
             return {{}, notOnCourse(*gate, gates)};
         list.gates.push_back(*gate);
@@ -110,10 +106,10 @@ std::optional<std::string> faultOfSections(const infodata031& course) {
         }
     }
     if (expected <= course.gates)
-        return gateText(expected) + " stands in no section.";
+        return say("Gate {} stands in no section.", expected);
     if (!std::cmp_equal(sections.size(), course.totalsplits))
-        return "The number of sections is " + std::to_string(sections.size()) +
-               ", but that of splits is " + std::to_string(course.totalsplits) + '.';
+        return say("The number of sections is {}, but that of splits is {}.", sections.size(),
+                   course.totalsplits);
     return std::nullopt;
 }
 

@@ -1,5 +1,6 @@
 #include "splittaking/film_crossings.h"
 
+#include "common/text.h"
 #include "splitdata/film_marks.h"
 #include "splittaking/annotations/camera_sync.h"
 #include "splittaking/marking.h"
@@ -98,18 +99,19 @@ std::optional<Alert> setMarkOnFilm(const athletedata031& run, RunMarks& marks,
                                    const CameraOfRun& film, std::size_t mark, const CMTime& moment,
                                    std::int64_t totalsplits) {
     if (std::cmp_greater(mark, totalsplits))
-        return refusedOnFilm("The course has " + std::to_string(totalsplits) +
-                             " splits, and this line is for split " + std::to_string(mark) + '.');
+        return refusedOnFilm(say("The course has {}, and this line is for split {}.",
+                                 sayCount(totalsplits, "{} split", "{} splits"), mark));
     const auto lag = film.isFixed ? lagOf(run, film.camera) : std::optional(0.0);
     if (!lag)
-        return refusedOnFilm("This is a fixed camera beside the run's own film: synchronise the "
-                             "two in split taking first.");
+        return refusedOnFilm(
+            say("This is a fixed camera beside the run's own film: synchronise the "
+                "two in split taking first."));
     const CMTime own = film.isFixed ? later(moment, -*lag) : moment;
     RunMarks changed = marks;
     Stamps stamps = stampsAt(run, marks, film.isFixed ? 0 : film.camera, mark, own);
     if (stamps.empty())
-        return refusedOnFilm("No mark tells yet how this camera's film lies beside the run's first "
-                             "one: mark one moment on both in split taking.");
+        return refusedOnFilm(say("No mark tells yet how this camera's film lies beside the run's "
+                                 "first one: mark one moment on both in split taking."));
     if (mark > changed.marks.size())
         changed.marks.resize(mark);
     if (auto refused = refusalToMove(changed, mark, stamps.front()))

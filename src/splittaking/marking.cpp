@@ -1,5 +1,6 @@
 #include "splittaking/marking.h"
 
+#include "common/text.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/annotations/film_marks.h"
 #include "splittaking/course_setup.h"
@@ -29,7 +30,7 @@ std::optional<CMTime> momentOfMark(const RunMarks& run, std::size_t mark) {
 }
 
 std::string nameOf(std::size_t mark) {
-    return mark == 0 ? "the start" : "split " + std::to_string(mark);
+    return mark == 0 ? say("the start") : say("split {}", mark);
 }
 
 std::optional<Neighbour> neighbour(const RunMarks& run, std::size_t mark) {

@@ -3,6 +3,7 @@
 #include "common/delimited_text.h"
 #include "common/error.h"
 #include "common/number_text.h"
+#include "common/text.h"
 #include "common/text_file.h"
 #include "splittaking/perfect_time.h"
 
@@ -19,19 +20,20 @@ constexpr std::size_t FieldsNeeded = 6;
 class ResultLine {
 public:
     explicit ResultLine(const DelimitedReader& line)
-        : m_line(line), m_reason(line.lack(FieldsNeeded, "six")) {}
+        : m_line(line), m_reason(line.lack(FieldsNeeded, KAVELA_TEXT("six"))) {}
 
     [[nodiscard]] std::int64_t wholeNumber(std::size_t at, std::string_view what) {
         std::int64_t number = 0;
         if (isFine() && !parseField(m_line.field(at), number))
-            refuse(at, what, " is no whole number");
+            m_reason = say("the {} \"{}\" is no whole number", translated(what), m_line.field(at));
         return number;
     }
 
     [[nodiscard]] double seconds(std::size_t at, std::string_view what) {
         double number = 0;
         if (isFine() && (!parseField(m_line.field(at), number) || !std::isfinite(number)))
-            refuse(at, what, " is no number of seconds");
+            m_reason =
+                say("the {} \"{}\" is no number of seconds", translated(what), m_line.field(at));
         return number;
     }
 
@@ -43,23 +45,18 @@ public:
     [[nodiscard]] const std::string& reason() const { return m_reason; }
 
 private:
-    void refuse(std::size_t at, std::string_view what, std::string_view fault) {
-        m_reason = "the " + std::string(what) + " \"" + std::string(m_line.field(at)) + '"' +
-                   std::string(fault);
-    }
-
     const DelimitedReader& m_line;
     std::string m_reason;
 };
 
 allresultsdata030 resultOf(ResultLine& line) {
     allresultsdata030 result;
-    result.pos = line.wholeNumber(0, "position");
-    result.bib = line.wholeNumber(1, "bib");
+    result.pos = line.wholeNumber(0, KAVELA_TEXT("position"));
+    result.bib = line.wholeNumber(1, KAVELA_TEXT("bib"));
     result.name = line.text(2);
     result.nationality = line.text(3);
-    result.time = line.seconds(4, "time");
-    result.pen = line.wholeNumber(5, "penalty");
+    result.time = line.seconds(4, KAVELA_TEXT("time"));
+    result.pen = line.wholeNumber(5, KAVELA_TEXT("penalty"));
     result.total = result.time + static_cast<double>(result.pen);
     return result;
 }
@@ -71,15 +68,14 @@ constexpr std::int64_t MostPenalty = 999;
 /// were not finished.
 std::string oddity(const allresultsdata030& result) {
     if (result.time < 0)
-        return "the time " + shortestText(result.time) + " is below 0";
+        return say("the time {} is below 0", saidNumber(shortestText(result.time)));
     if (result.time >= LongestTime)
-        return "the time " + shortestText(result.time) + " is an hour or more";
+        return say("the time {} is an hour or more", saidNumber(shortestText(result.time)));
     if (result.pen < 0)
-        return "the penalty " + std::to_string(result.pen) + " is below 0";
+        return say("the penalty {} is below 0", result.pen);
     if (result.pen > MostPenalty)
-        return "the penalty " + std::to_string(result.pen) + " is over " +
-               std::to_string(MostPenalty);
-    return result.pos < 0 ? "the position " + std::to_string(result.pos) + " is below 0" : "";
+        return say("the penalty {} is over {}", result.pen, MostPenalty);
+    return result.pos < 0 ? say("the position {} is below 0", result.pos) : "";
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "splittaking/video_pattern.h"
 
+#include "common/text.h"
 #include "splittaking/film_words.h"
 
 #include <algorithm>
@@ -135,7 +136,7 @@ VideoPattern::VideoPattern(std::string_view pattern) {
             break;
         const std::size_t close = rest.find('}', open);
         if (close == std::string_view::npos) {
-            m_fault = "A bracket { is not closed.";
+            m_fault = std::string(translated("A bracket { is not closed."));
             break;
         }
         addPlaceholder(rest.substr(open + 1, close - open - 1));
@@ -163,9 +164,9 @@ std::optional<VideoPattern::Kind> VideoPattern::kindOf(std::string_view placehol
 void VideoPattern::addPlaceholder(std::string_view placeholder) {
     const auto kind = kindOf(placeholder);
     if (!kind)
-        m_fault = '{' + std::string(placeholder) +
-                  "} is not known. There are {name}, {category}, {phase}, {bib}, {number} and "
-                  "{any}.";
+        m_fault = say("{{{}}} is not known. There are {{name}}, {{category}}, {{phase}}, {{bib}}, "
+                      "{{number}} and {{any}}.",
+                      placeholder);
     else
         m_parts.push_back({*kind, {}, false});
 }
@@ -183,13 +184,13 @@ void VideoPattern::findFaults() {
             continue;
         hasPlaceholder = true;
         if (i > 0 && m_parts[i - 1].kind != Kind::Literal)
-            m_fault = "Two brackets stand side by side: nothing tells where one ends.";
+            m_fault = say("Two brackets stand side by side: nothing tells where one ends.");
         const auto isSame = [kind](const Part& part) { return part.kind == kind; };
         if (kind != Kind::Any && std::count_if(m_parts.begin(), m_parts.end(), isSame) > 1)
-            m_fault = "The same bracket stands twice.";
+            m_fault = say("The same bracket stands twice.");
     }
     if (!m_fault && !hasPlaceholder)
-        m_fault = "The pattern holds no bracket such as {name}.";
+        m_fault = std::string(translated("The pattern holds no bracket such as {name}."));
 }
 
 void VideoPattern::findSetApart() {

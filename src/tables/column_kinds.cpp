@@ -2,6 +2,7 @@
 
 #include "common/folded_text.h"
 #include "common/reference_date.h"
+#include "common/text.h"
 #include "common/typed_number.h"
 
 #include <algorithm>
@@ -14,8 +15,9 @@ namespace kavela {
 
 namespace {
 
-constexpr std::array<std::string_view, 6> KindNames{"whole",  "decimal", "time",
-                                                    "status", "date",    "text"};
+constexpr std::array<std::string_view, 6> KindNames{KAVELA_TEXT("whole"), KAVELA_TEXT("decimal"),
+                                                    KAVELA_TEXT("time"),  KAVELA_TEXT("status"),
+                                                    KAVELA_TEXT("date"),  KAVELA_TEXT("text")};
 
 /// A count of whole numbers beyond this has lost its digits.
 constexpr double LargestExact = 9e15;
@@ -94,15 +96,15 @@ std::optional<double> dateIn(std::string_view text) {
 std::string_view lackOf(ListColumnKind kind) {
     switch (kind) {
     case ListColumnKind::Whole:
-        return "no whole number";
+        return translated("no whole number");
     case ListColumnKind::Decimal:
-        return "no number";
+        return translated("no number");
     case ListColumnKind::Time:
-        return "no time such as 92.45, 1:32.45 or 92.45 (2)";
+        return translated("no time such as 92.45, 1:32.45 or 92.45 (2)");
     case ListColumnKind::Status:
-        return "none of DNS, DNF, DSQ and the like";
+        return translated("none of DNS, DNF, DSQ and the like");
     case ListColumnKind::Date:
-        return "no day such as 2026-05-03 or 3.5.2026";
+        return translated("no day such as 2026-05-03 or 3.5.2026");
     case ListColumnKind::Text:
         break;
     }

@@ -105,7 +105,7 @@ private:
 
     void takeUsualColumns() {
         if (m_derived.what == Derivation::Difference)
-            throw TableError("A difference needs two columns, as in difference:Run 2,Run 1.");
+            throw TableError(say("A difference needs two columns, as in difference:Run 2,Run 1."));
         if (m_derived.what != Derivation::Total) {
             m_columns = {resultColumn(m_table)};
             return;
@@ -116,7 +116,8 @@ private:
         };
         const auto time = std::ranges::find_if(m_table.columns, isTime);
         if (time == m_table.columns.end())
-            throw TableError("No column holds times; name those to add, as in total:Time,Pen.");
+            throw TableError(
+                say("No column holds times; name those to add, as in total:Time,Pen."));
         m_columns = {static_cast<std::size_t>(time - m_table.columns.begin())};
         if (const auto penalty = columnOfRole(m_table, ColumnRole::Penalty))
             m_columns.push_back(*penalty);
@@ -127,9 +128,10 @@ private:
         const bool isRight =
             m_derived.what == Derivation::Total ? !m_columns.empty() : m_columns.size() == needed;
         if (!isRight)
-            throw TableError("A " + std::string(derivationName(m_derived.what)) + " is of " +
-                             (needed == 1 ? "one column" : "two columns") + ", not of " +
-                             std::to_string(m_columns.size()) + '.');
+            throw TableError(needed == 1 ? say("A {} is of one column, not of {}.",
+                                               derivationName(m_derived.what), m_columns.size())
+                                         : say("A {} is of two columns, not of {}.",
+                                               derivationName(m_derived.what), m_columns.size()));
         for (const std::size_t column : m_columns)
             requireNumbers(m_table.columns[column]);
     }

@@ -1,5 +1,6 @@
 #include "tables/ods_sheets.h"
 
+#include "common/text.h"
 #include "common/typed_number.h"
 #include "tables/sheet_grid.h"
 #include "tables/table_error.h"
@@ -156,8 +157,8 @@ bool isOdsLocked(ZipParts& parts) {
 
 std::vector<ListGrid> odsSheets(ZipParts& parts, const std::string& content) {
     if (isOdsLocked(parts))
-        throw TableError("The spreadsheet is protected by a password. Save it without one and open "
-                         "it again.");
+        throw TableError(say("The spreadsheet is protected by a password. Save it without one and "
+                             "open it again."));
     pugi::xml_document document;
     const auto result = document.load_buffer(content.data(), content.size(),
                                              pugi::parse_default | pugi::parse_ws_pcdata_single);

@@ -2,6 +2,7 @@
 
 #include "common/number_text.h"
 #include "common/percentile.h"
+#include "common/text.h"
 #include "tables/derived_columns.h"
 #include "tables/table_error.h"
 #include "tables/table_order.h"
@@ -95,9 +96,9 @@ public:
             m_columns = pivotKeys(table, table.columns[columnPlace(table, pivot.column)]);
         if (m_columns.texts.size() > MostPivotColumns ||
             m_columns.texts.size() * m_rows.texts.size() > MostPivotCells)
-            throw TableError("The column \"" + pivot.column + "\" has " +
-                             std::to_string(m_columns.texts.size()) +
-                             " values: too many for columns of a pivot.");
+            throw TableError(
+                say("The column \"{}\" has {} values: too many for columns of a pivot.",
+                    pivot.column, m_columns.texts.size()));
         m_behind.resize(m_rows.texts.size() * m_columns.texts.size());
         for (std::size_t row = 0; row < table.rows(); ++row)
             if (numberOf(row))

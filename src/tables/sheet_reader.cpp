@@ -1,6 +1,7 @@
 #include "tables/sheet_reader.h"
 
 #include "common/number_text.h"
+#include "common/text.h"
 #include "tables/ods_sheets.h"
 #include "tables/sheet_grid.h"
 #include "tables/table_error.h"
@@ -33,14 +34,14 @@ ListFormat listFormatOf(std::string_view bytes) {
 
 std::vector<ListGrid> readSheets(std::string_view bytes) {
     if (listFormatOf(bytes) == ListFormat::OldSpreadsheet)
-        throw TableError("This is a spreadsheet with a password or of the old kind (.xls). Save it "
-                         "without a password as .xlsx, .ods or text (CSV).");
+        throw TableError(say("This is a spreadsheet with a password or of the old kind (.xls). "
+                             "Save it without a password as .xlsx, .ods or text (CSV)."));
     ZipParts parts(bytes);
     if (const auto workbook = parts.content("xl/workbook.xml"))
         return xlsxSheets(parts, *workbook);
     if (const auto content = parts.content("content.xml"))
         return odsSheets(parts, *content);
-    throw TableError("The file is packed, but holds no spreadsheet (.xlsx or .ods).");
+    throw TableError(say("The file is packed, but holds no spreadsheet (.xlsx or .ods)."));
 }
 
 SheetGrid::SheetGrid(std::string name) {
@@ -120,8 +121,9 @@ ListGrid SheetGrid::finished() {
             ++filled;
         }
     if (filled > 0)
-        m_grid.notes.push_back("The sheet \"" + m_grid.name +
-                               "\" has merged cells: their value stands in each of their lines.");
+        m_grid.notes.push_back(
+            say("The sheet \"{}\" has merged cells: their value stands in each of their lines.",
+                m_grid.name));
     if (m_filledLines >= MostFilledLines)
         m_grid.notes.push_back("The sheet \"" + m_grid.name +
                                "\" has too many merged cells: not all of them were filled.");

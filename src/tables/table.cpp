@@ -1,5 +1,6 @@
 #include "tables/table.h"
 
+#include "common/text.h"
 #include "tables/table_error.h"
 
 #include <algorithm>
@@ -30,8 +31,8 @@ std::size_t columnPlace(const ListTable& table, std::string_view name) {
     std::string names;
     for (const GridColumn& column : table.columns)
         names += (names.empty() ? "\"" : ", \"") + column.name + '"';
-    throw TableError("There is no column \"" + std::string(name) + "\"; there is " +
-                     (names.empty() ? "none" : names) + '.');
+    throw TableError(names.empty() ? say("There is no column \"{}\"; there is none.", name)
+                                   : say("There is no column \"{}\"; there is {}.", name, names));
 }
 
 std::optional<std::size_t> columnOfRole(const ListTable& table, ColumnRole role) {
@@ -63,14 +64,13 @@ std::size_t resultColumn(const ListTable& table) {
     };
     if (const auto decimal = first(isDecimal))
         return *decimal;
-    throw TableError("No column holds times; name the one to reckon with.");
+    throw TableError(say("No column holds times; name the one to reckon with."));
 }
 
 void requireNumbers(const GridColumn& column) {
     if (!isReckoned(column.kind))
-        throw TableError("The column \"" + column.name +
-                         "\" has no numbers to reckon with: it is " +
-                         std::string(kindName(column.kind)) + '.');
+        throw TableError(say("The column \"{}\" has no numbers to reckon with: it is {}.",
+                             column.name, translated(kindName(column.kind))));
 }
 
 std::string uniqueColumnName(const ListTable& table, std::string name) {

@@ -1,5 +1,7 @@
 #include "tables/table_reading.h"
 
+#include "common/text.h"
+
 #include <algorithm>
 #include <tuple>
 #include <utility>
@@ -71,7 +73,7 @@ private:
         // Titles of columns that are mostly empty are often more, of last ones sometimes less.
         const std::size_t enough = std::max<std::size_t>(1, (usual * 3 + 4) / 5);
         while (m_first < m_grid.lines.size() && filledFields(lineAt(m_first)) < enough) {
-            refuseLine(lineAt(m_first), "stands above the titles");
+            refuseLine(lineAt(m_first), say("stands above the titles"));
             ++m_first;
         }
     }
@@ -130,17 +132,18 @@ private:
         for (std::size_t i = m_first; i < m_grid.lines.size(); ++i) {
             const GridLine& line = lineAt(i);
             if (!m_titles.empty() && line.fields == m_titles) {
-                refuseLine(line, "the titles once more");
+                refuseLine(line, say("the titles once more"));
                 continue;
             }
             for (std::size_t column = m_width; column < line.fields.size(); ++column)
                 if (!line.fields[column].empty())
-                    refuseCell(line, column, "the line has more fields than there are columns");
+                    refuseCell(line, column,
+                               say("the line has more fields than there are columns"));
             if (m_grid.isText() && line.fields.size() < m_width)
-                m_table.refused.push_back(
-                    {line.number, static_cast<std::int64_t>(line.fields.size()) + 1, "",
-                     "the line ends here: it has " + std::to_string(line.fields.size()) + " of " +
-                         std::to_string(m_width) + " fields"});
+                m_table.refused.push_back({line.number,
+                                           static_cast<std::int64_t>(line.fields.size()) + 1, "",
+                                           say("the line ends here: it has {} of {} fields",
+                                               line.fields.size(), m_width)});
             m_rows.push_back(i);
             m_table.ids.push_back(m_table.lines.size());
             m_table.lines.push_back(line.number);
@@ -179,8 +182,9 @@ private:
         for (std::size_t row = 0; row < texts.size(); ++row) {
             CellValue value = valueAs(made.kind, texts[row]);
             if (!value.reason.empty())
-                refuseCell(lineAt(m_rows[row]), column,
-                           value.reason + ": the column is " + std::string(kindName(made.kind)));
+                refuseCell(
+                    lineAt(m_rows[row]), column,
+                    say("{}: the column is {}", value.reason, translated(kindName(made.kind))));
             hasPenalty = hasPenalty || value.penalty;
             GridCell& behind = penalty.cells.emplace_back();
             if (value.penalty) {

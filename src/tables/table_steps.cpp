@@ -1,6 +1,7 @@
 #include "tables/table_steps.h"
 
 #include "common/folded_text.h"
+#include "common/text.h"
 #include "tables/table_order.h"
 
 #include <algorithm>
@@ -76,27 +77,30 @@ struct StepTaker {
 
 struct StepWriter {
     std::string operator()(const TitlesStep& step) const {
-        return step.hasTitles ? "First line is titles" : "First line is a row";
+        return step.hasTitles ? say("First line is titles") : say("First line is a row");
     }
     std::string operator()(const KindStep& step) const {
-        return "Read " + step.column + " as " + std::string(kindName(step.kind));
+        return say("Read {} as {}", step.column, translated(kindName(step.kind)));
     }
-    std::string operator()(const RemoveStep& step) const { return "Leave out " + step.column; }
+    std::string operator()(const RemoveStep& step) const {
+        return say("Leave out {}", step.column);
+    }
     std::string operator()(const FilterStep& step) const {
-        return "Keep " + step.text + " in " + step.column;
+        return say("Keep {} in {}", step.text, step.column);
     }
     std::string operator()(const SortStep& step) const {
-        return "Sort by " + step.column + (step.isDescending ? ", downwards" : "");
+        return step.isDescending ? say("Sort by {}, downwards", step.column)
+                                 : say("Sort by {}", step.column);
     }
     std::string operator()(const GroupStep& step) const {
-        return step.column.empty() ? "No groups" : "Group by " + step.column;
+        return step.column.empty() ? say("No groups") : say("Group by {}", step.column);
     }
     std::string operator()(const TintStep& step) const {
-        return (step.isTinted ? "Colour " : "No colours in ") + step.column;
+        return step.isTinted ? say("Colour {}", step.column) : say("No colours in {}", step.column);
     }
-    std::string operator()(const DerivedColumn& step) const { return "Add " + textOf(step); }
+    std::string operator()(const DerivedColumn& step) const { return say("Add {}", textOf(step)); }
     std::string operator()(const Pivot& step) const {
-        return "Pivot of " + step.value + " by " + step.row;
+        return say("Pivot of {} by {}", step.value, step.row);
     }
 };
 

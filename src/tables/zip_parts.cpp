@@ -1,5 +1,6 @@
 #include "tables/zip_parts.h"
 
+#include "common/text.h"
 #include "tables/table_error.h"
 
 #include <zip.h>
@@ -30,7 +31,7 @@ ZipParts::ZipParts(std::string_view bytes) {
     const std::string reason = m_archive ? std::string() : zip_error_strerror(&fault);
     zip_error_fini(&fault);
     if (!m_archive)
-        throw TableError("The spreadsheet is damaged: " + reason + '.');
+        throw TableError(say("The spreadsheet is damaged: {}.", reason));
 }
 
 ZipParts::~ZipParts() {
@@ -48,23 +49,23 @@ std::optional<std::string> ZipParts::content(const std::string& name) {
                           (facts.valid & ZIP_STAT_ENCRYPTION_METHOD) != 0 &&
                           facts.encryption_method != ZIP_EM_NONE;
     if (isLocked)
-        throw TableError(NeedsPassword);
+        throw TableError(std::string(translated(NeedsPassword)));
     const std::unique_ptr<zip_file_t, int (*)(zip_file_t*)> file(
         zip_fopen_index(m_archive, place, 0), zip_fclose);
     if (!file)
-        throw TableError("The spreadsheet is damaged: its part " + name + " cannot be read.");
+        throw TableError(say("The spreadsheet is damaged: its part {} cannot be read.", name));
     std::string content;
     std::array<char, 1 << 16> chunk; // NOLINT(cppcoreguidelines-pro-type-member-init): filled below
     for (;;) {
         const zip_int64_t got = zip_fread(file.get(), chunk.data(), chunk.size());
         if (got < 0)
-            throw TableError("The spreadsheet is damaged: its part " + name +
-                             " cannot be unpacked.");
+            throw TableError(
+                say("The spreadsheet is damaged: its part {} cannot be unpacked.", name));
         if (got == 0)
             return content;
         m_unpacked += static_cast<std::size_t>(got);
         if (m_unpacked > MostUnpacked)
-            throw TableError("The spreadsheet is too large: unpacked it is over 128 MB.");
+            throw TableError(say("The spreadsheet is too large: unpacked it is over 128 MB."));
         content.append(chunk.data(), static_cast<std::size_t>(got));
     }
 }

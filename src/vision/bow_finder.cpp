@@ -173,6 +173,9 @@ private:
     int m_count = 0;
 };
 
+constexpr double TipShare = 0.04; ///< of a boat's length: the tip of a bow is too thin to stand out
+constexpr double PaddlerShare = 0.36; ///< of a boat's length, that a paddler takes at most
+
 /// What stands out is measured against what the front of the hull gives.
 float bowLevel(const BowGround& ground, const BowPart& front) {
     constexpr float Least = 2.2F;
@@ -233,15 +236,24 @@ std::optional<FoundBow> findBow(const BandStretch& stretch, const BandBoat& boat
     if (first == ground.last())
         return std::nullopt;
     const BowPiece body(ground, level, front, whole);
+    const double length = boat.length / motion.speed;
     int filled = 0;
     int tallest = 0;
+    int places = 0;
+    double moment = 0;
     for (int slot = first; slot < std::min(first + passage, ground.last()); ++slot) {
         const int tall = body.rowsAt(slot);
         filled += tall > 0 ? 1 : 0;
         tallest = std::max(tallest, tall);
+        places += tall;
+        moment += double(tall) * slot;
     }
-    return FoundBow{first - beforeSlot(ground, first, hull, level), motion.speed,
-                    double(filled) / passage, tallest / boat.height,
+    const double lengthShare = double(filled) / passage;
+    double slot = first - beforeSlot(ground, first, hull, level) - TipShare * length;
+    // A hull like the water does not stand out, and what does is the paddler in its middle.
+    if (lengthShare < PaddlerShare && places > 0)
+        slot = moment / places - length / 2;
+    return FoundBow{slot, motion.speed, lengthShare, tallest / boat.height,
                     sharperThanOpposite(stretch, boat, seed, motion)};
 }
 

@@ -11,6 +11,7 @@
 #include "desktop/numbered_film.h"
 #include "desktop/race_fixture.h"
 #include "desktop/saving.h"
+#include "desktop/shell/tables/column_table.h"
 #include "video/index.h"
 
 #include <QComboBox>
@@ -94,6 +95,22 @@ TEST_F(CompareWindowTest, PlaysToTheEndAndBeginsThereAgain) {
     window.togglePlaying();
     EXPECT_LT(window.player().position(), 1);
     window.player().pause();
+}
+
+TEST_F(CompareWindowTest, PlaysBySpaceAndChoosesByEnterInTheListToo) {
+    CompareWindow& window = compareTwo();
+    ASSERT_TRUE(isPrepared(window));
+    auto& list = *window.findChild<desktop::ColumnTable*>("candidates");
+    QApplication::setActiveWindow(&window);
+    list.setFocus();
+    list.choose(0, 0);
+    QTest::keyClick(&list, Qt::Key_Space);
+    EXPECT_TRUE(window.player().isPlaying());
+    EXPECT_EQ(window.document().value().films.size(), 2U) << "nothing is taken out";
+    QTest::keyClick(&list, Qt::Key_Space);
+    EXPECT_FALSE(window.player().isPlaying());
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_EQ(window.document().value().films.size(), 1U);
 }
 
 TEST_F(CompareWindowTest, TakesAPartThatIsDraggedAndOneThatIsMarkedHere) {

@@ -1,166 +1,7 @@
-#include "common/recorders.h"
-#include "common/temp_folder.h"
-#include "desktop/cross/heats/attack_form.h"
-#include "desktop/cross/heats/heat_page.h"
-#include "desktop/cross/heats/order_board.h"
-#include "desktop/cross/heats/place_grid.h"
-#include "desktop/cross/results/results_page.h"
-#include "desktop/film/film_deck.h"
-#include "desktop/saving.h"
-#include "desktop/shell/tables/column_table.h"
-#include "desktop/shell/workspace.h"
-#include "desktop/splitfile/taking_document.h"
-#include "sample/races.h"
-#include "splitdata/loader.h"
-
-#include <gmock/gmock.h>
-
-#include <QApplication>
-#include <QCheckBox>
-#include <QClipboard>
-#include <QComboBox>
-#include <QDialog>
-#include <QDialogButtonBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTest>
-#include <QTimer>
-#include <QToolButton>
+#include "desktop/cross_fixture.h"
 
 namespace kavela::test {
 namespace {
-
-using desktop::ColumnTable;
-using desktop::CrossDesk;
-using desktop::FilmDeck;
-using desktop::HeatPage;
-using desktop::OrderBoard;
-using desktop::PlaceGrid;
-using desktop::ResultsPage;
-using desktop::TakingDocument;
-using desktop::Workspace;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-using ::testing::SizeIs;
-using Names = std::vector<std::string>;
-
-const std::string Ada = "Ada Stone";
-const std::string Bea = "Bea Rill";
-const std::string Cleo = "Cleo Weir";
-const std::string Dora = "Dora Moss";
-const std::string Stranger = "Una Known";
-
-CMTime at(std::int64_t seconds) {
-    return {seconds * 50, 50, 1, 0};
-}
-
-/// A heat of four on a course of four gates, its film not there and nothing taken.
-crossdata030 freshCross() {
-    crossdata030 cross;
-    cross.crossinfo.gates = {2, 4, 5, 7};
-    cross.eliphase = {{"heat.MOV", {Ada, Bea, Cleo, Dora}, {}, {}}};
-    return cross;
-}
-
-generaldata030 order(std::int64_t gate, Names names, std::int64_t seconds = 30) {
-    return {at(seconds), gate, 1, std::move(names), ""};
-}
-
-class CrossPagesTest : public ::testing::Test {
-protected:
-    CrossPagesTest() { m_workspace.setAlerts(&m_recorder); }
-
-    /// The pages follow the document as their window makes them.
-    void open(const crossdata030& cross) {
-        splittakerdata031 race = sample::holdRace(sample::harbourNight());
-        race.athletes.resize(1);
-        race.crossracedata = cross;
-        ASSERT_TRUE(saveSplitFile(race, file(), m_recorder.log()));
-        ASSERT_TRUE(m_document.openFile(QString::fromStdString(file().string()), nullptr));
-        for (desktop::CrossPage* const page : {static_cast<desktop::CrossPage*>(&m_heats),
-                                               static_cast<desktop::CrossPage*>(&m_results)}) {
-            QObject::connect(&m_document, &TakingDocument::changed, page,
-                             [page] { page->refresh(); });
-            page->resize(700, 740);
-            page->refresh();
-            page->show();
-        }
-        QObject::connect(&m_heats, &desktop::CrossPage::told,
-                         [this](const QString& text) { m_told = text.toStdString(); });
-        QApplication::processEvents();
-    }
-
-    std::filesystem::path file() const { return m_folder.path() / "cross.kvx"; }
-
-    const rounddata030& heat(std::size_t place = 0) const {
-        return m_document.cross().eliphase.at(place);
-    }
-
-    void press(std::initializer_list<int> numbers) {
-        for (const int number : numbers)
-            m_heats.pressNumber(number);
-    }
-
-    template <class T>
-    T& part(const QString& name, desktop::CrossPage* page = nullptr) {
-        T* const found = (page ? page : &m_heats)->findChild<T*>(name);
-        if (!found)
-            throw std::runtime_error("no part " + name.toStdString());
-        return *found;
-    }
-
-    void click(const QString& name) {
-        QTest::mouseClick(&part<QAbstractButton>(name), Qt::LeftButton);
-    }
-
-    void type(QLineEdit& edit, const QString& text) {
-        QApplication::setActiveWindow(edit.window());
-        edit.setFocus();
-        edit.selectAll();
-        QTest::keyClicks(&edit, text);
-        QTest::keyClick(&edit, Qt::Key_Return);
-    }
-
-    /// Answers the dialog that comes next with these names, the fault it shows kept.
-    void answerDialog(const QStringList& names) {
-        QTimer::singleShot(0, [this, names] {
-            auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            for (qsizetype boat = 0; boat < names.size(); ++boat)
-                dialog->findChild<QComboBox*>(QStringLiteral("boat%1").arg(boat + 1))
-                    ->setEditText(names[boat]);
-            auto* const ok = dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
-            m_isRefused = !ok->isEnabled();
-            m_isRefused ? dialog->reject() : ok->click();
-        });
-    }
-
-    /// The row of a table as text.
-    static std::string row(const ColumnTable& table, int row) {
-        QStringList texts;
-        for (int column = 0; column < table.model()->columnCount(); ++column)
-            texts.append(table.model()->index(row, column).data().toString());
-        return texts.join('|').toStdString();
-    }
-
-    void undoAll() {
-        while (m_document.undoStack().canUndo())
-            m_document.undoStack().undo();
-    }
-
-    TempFolder m_folder;
-    Recorder m_recorder;
-    Workspace m_workspace{Preferences(m_folder.path() / "preferences.ini"), m_recorder.log(),
-                          [] { return ReferenceDate{7e8}; }};
-    TakingDocument m_document{m_workspace, desktop::Autosave(QString::fromStdString(
-                                               (m_folder.path() / "autosave").string()))};
-    FilmDeck m_deck{std::make_shared<FrameCache>(1U << 20U)};
-    HeatPage m_heats{CrossDesk{m_document, m_deck, m_workspace}};
-    ResultsPage m_results{CrossDesk{m_document, m_deck, m_workspace}};
-    std::string m_told;
-    bool m_isRefused = false;
-};
 
 TEST_F(CrossPagesTest, TakesOrdersByNumberAndLeavesOutBoatsThatWereNotSeen) {
     ASSERT_NO_FATAL_FAILURE(open(freshCross()));
@@ -292,6 +133,27 @@ TEST_F(CrossPagesTest, NotesAttacksByKeyAndInTheForm) {
     EXPECT_THAT(heat().actions, IsEmpty());
 }
 
+TEST_F(CrossPagesTest, TakesWhatIsTypedForAnAttackBeforeItShowsAnother) {
+    ASSERT_NO_FATAL_FAILURE(open(freshCross()));
+    m_heats.addAttack(at(20));
+    m_heats.addAttack(at(30));
+    begin(part<QLineEdit>("attackComment"), "Late");
+    m_heats.selectMark(0);
+    EXPECT_EQ(heat().actions[1].comments, "Late");
+    EXPECT_EQ(part<QLineEdit>("attackComment").text(), "");
+    begin(part<QLineEdit>("attackComment"), "Early");
+    m_heats.moveMark(at(40));
+    ASSERT_THAT(heat().actions, SizeIs(2));
+    EXPECT_EQ(heat().actions[1].comments, "Early") << "it went behind the other one";
+    EXPECT_EQ(heat().actions[0].comments, "Late");
+    begin(*part<QComboBox>("attackSide").lineEdit(), "Wide");
+    click("attackRemoval");
+    m_document.undoStack().undo();
+    EXPECT_EQ(heat().actions.at(1).side, "Wide") << "removed with what was typed";
+    m_document.undoStack().undo();
+    EXPECT_EQ(heat().actions.at(1).side, "") << "a step of its own";
+}
+
 TEST_F(CrossPagesTest, SavesAndReadsBackWhatWasTaken) {
     ASSERT_NO_FATAL_FAILURE(open(freshCross()));
     press({2, 1});
@@ -402,54 +264,6 @@ TEST_F(CrossPagesTest, AddsRenamesAndRemovesHeats) {
     EXPECT_EQ(m_told, "Add a heat first.");
     undoAll();
     EXPECT_THAT(heat().athletes, ElementsAre(Ada, Bea, Cleo, Dora));
-}
-
-TEST_F(CrossPagesTest, ListsTheResultsOfEachRound) {
-    crossdata030 cross = freshCross();
-    cross.eliphase[0].generals = {order(2, {Ada, Bea, Cleo, Dora}), order(4, {Bea, Ada, Dora}),
-                                  order(5, {Bea, Dora, Ada}), order(7, {Dora, Bea, Ada})};
-    cross.eliphase[0].actions = {{{at(1)}, Dora, {Bea}, true, "Left", "Gate 7", ""},
-                                 {{at(2)}, Dora, {Bea, Ada}, false, "Left", "Gate 7", ""}};
-    cross.eliphase.push_back({"", {Dora, Bea}, {order(2, {Bea, Dora})}, {}});
-    ASSERT_NO_FATAL_FAILURE(open(cross));
-    auto& first = part<ColumnTable>("heat1Places", &m_results);
-    EXPECT_EQ(row(first, 0), "Dora Moss|1|4|3|0|→ goes on");
-    EXPECT_EQ(row(first, 1), "Bea Rill|2|2|1|1|→ goes on");
-    EXPECT_EQ(row(first, 3), "Cleo Weir|–|3|0|0|out");
-    const auto ground = [&](int place) { return first.cellAt(place, 0).data(Qt::BackgroundRole); };
-    EXPECT_TRUE(ground(1).isValid()) << "who goes on is seen from afar";
-    EXPECT_FALSE(ground(3).isValid());
-    EXPECT_EQ(part<QLabel>("heat1Missing", &m_results).text(),
-              "⚠ Not all boats were seen at the last gate.");
-    EXPECT_EQ(row(part<ColumnTable>("heat2Places", &m_results), 0), "Bea Rill|1|1|0|0|")
-        << "nobody has won yet";
-    EXPECT_EQ(part<QLabel>("heat2Missing", &m_results).text(),
-              "⚠ Not finished. Gates without an order: 4, 5, 7.");
-    EXPECT_EQ(row(part<ColumnTable>("attackers", &m_results), 2), "Dora Moss|2|1|50 %|0|0|–");
-    EXPECT_EQ(row(part<ColumnTable>("attackPlaces", &m_results), 0), "Gate 7, Left|2|1|50 %");
-    QSignalSpy wanted(&m_results, &ResultsPage::heatWanted);
-    auto& title = part<QLabel>("heat2", &m_results);
-    QTest::mouseClick(&title, Qt::LeftButton, {}, {8, title.height() / 2});
-    ASSERT_EQ(wanted.size(), 1);
-    EXPECT_EQ(wanted[0][0].value<std::size_t>(), 1U);
-}
-
-TEST_F(CrossPagesTest, CopiesResultsForASpreadsheet) {
-    crossdata030 cross = freshCross();
-    cross.eliphase[0].generals = {order(7, {Ada, Bea})};
-    ASSERT_NO_FATAL_FAILURE(open(cross));
-    QApplication::setActiveWindow(&m_results);
-    auto& table = part<ColumnTable>("heat1Places", &m_results);
-    table.setFocus();
-    table.selectRow(1);
-    QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::clipboard()->text().toStdString(),
-              "Boat\tPlace\tStart\tGained\tLost\tOutcome\nBea Rill\t2\t2\t0\t0\t\n");
-    table.clearFocus();
-    m_results.copy();
-    EXPECT_EQ(QApplication::clipboard()->text().count('\n'), 5) << "also what is not selected";
-    m_document.editCross("heats removed", [](crossdata030& all) { all.eliphase.clear(); });
-    EXPECT_TRUE(part<QLabel>("noResults", &m_results).isVisible());
 }
 
 } // namespace

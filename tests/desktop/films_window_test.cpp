@@ -13,14 +13,17 @@
 #include "desktop/folder/rename_films_dialog.h"
 #include "desktop/folder/tag_mode.h"
 #include "desktop/numbered_film.h"
+#include "desktop/share/share_window.h"
 #include "desktop/shell/disk_worker.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/taking/taking_window.h"
 #include "splitdata/document.h"
 #include "splittaking/folder/film_tags.h"
 
 #include <gmock/gmock.h>
 
+#include <QDir>
 #include <QIcon>
 #include <QImage>
 #include <QLineEdit>
@@ -376,6 +379,8 @@ TEST_F(FilmsWindowTest, CutsBetweenTheEndsThatWereSetInEitherOrder) {
 
 TEST_F(FilmsWindowTest, ComesBackWithTheSession) {
     addFilm("a.mp4");
+    const QString shared = QString::fromStdString((m_folder.path() / "shared").string());
+    ASSERT_TRUE(QDir().mkpath(shared));
     const auto kept = [this] {
         return Autosave(QString::fromStdString((m_folder.path() / "kept").string()));
     };
@@ -386,9 +391,13 @@ TEST_F(FilmsWindowTest, ComesBackWithTheSession) {
         program.openFilms(QString::fromStdString(films().string()));
         EXPECT_THAT(program.windowsOf<FilmsWindow>(), SizeIs(1)) << "it comes to the front";
         program.openFetch();
+        program.openShare(shared); // later, so that it has to tell of its folder by itself
     }
     Desktop next(m_workspace, kept());
     ASSERT_TRUE(next.restoreSession());
+    ASSERT_THAT(next.windowsOf<ShareWindow>(), SizeIs(1));
+    EXPECT_EQ(next.windowsOf<ShareWindow>().front()->paths(), QStringList{shared});
+    EXPECT_THAT(next.windowsOf<TakingWindow>(), IsEmpty()) << "what it shares is not to be timed";
     ASSERT_THAT(next.windowsOf<FilmsWindow>(), SizeIs(1));
     EXPECT_EQ(next.windowsOf<FilmsWindow>().front()->shelf().folder().toStdString(),
               films().string());

@@ -3,13 +3,19 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/charts/chart_plot.h"
+#include "desktop/compose/jobs_window.h"
 #include "desktop/course/course_editor.h"
 #include "desktop/desktop.h"
+#include "desktop/folder/rename_films_dialog.h"
 #include "desktop/help/guide_window.h"
+#include "desktop/page/phone_page_dialog.h"
 #include "desktop/shell/focus_edge.h"
 #include "desktop/shell/login_dialog.h"
 #include "desktop/shell/settings_window.h"
+#include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/tool_window.h"
+#include "desktop/steps/first_steps.h"
+#include "desktop/steps/steps_box.h"
 #include "desktop/tools.h"
 #include "desktop/update/offer_dialog.h"
 
@@ -151,14 +157,44 @@ TEST_F(SpokenNamesTest, AreThoseOfEveryPartOfTheDialogs) {
     desktop::SettingsWindow settings(m_workspace);
     desktop::GuideWindow guide(m_workspace);
     desktop::LoginDialog login("films.example.org", std::nullopt, nullptr);
+    desktop::PhonePageDialog page({{{"ada", "Ada Brook", "K1W", {"a.kvx"}}}, "ada", {}}, nullptr);
+    ListedFilm film;
+    film.path = "/films/a.mp4";
+    film.names = {"Ada Brook"};
+    desktop::RenameFilmsDialog rename({film}, {"a.mp4"}, "{name}", nullptr);
     for (QWidget* const window :
-         std::initializer_list<QWidget*>{&course, &settings, &guide, &login}) {
+         std::initializer_list<QWidget*>{&course, &settings, &guide, &login, &page, &rename}) {
         window->setAttribute(Qt::WA_DeleteOnClose, false);
         window->show();
         EXPECT_EQ(silentPartsOf(*window).join('\n').toStdString(), "")
             << window->metaObject()->className();
         window->hide();
     }
+}
+
+TEST_F(SpokenNamesTest, AreThoseOfTheListOfJobs) {
+    desktop::JobsWindow& jobs = desktop::JobsWindow::showOf(m_workspace);
+    EXPECT_EQ(silentPartsOf(jobs).join('\n').toStdString(), "");
+    EXPECT_EQ(desktop::nameFromAround(jobs.table()), "Films being composed");
+    jobs.close();
+}
+
+/// A tick is a sign that nobody hears.
+TEST_F(SpokenNamesTest, TellWhichOfTheFirstStepsAreDone) {
+    desktop::FirstSteps steps(m_workspace);
+    desktop::StepsBox box(steps);
+    box.show();
+    EXPECT_EQ(silentPartsOf(box).join('\n').toStdString(), "");
+    const auto saying = [&box](const char* beginning) {
+        qsizetype count = 0;
+        for (const QLabel* const line : box.findChildren<QLabel*>())
+            count += line->accessibleName().startsWith(beginning) ? 1 : 0;
+        return count;
+    };
+    EXPECT_EQ(saying("To do: "), desktop::FirstSteps::Count);
+    steps.note(desktop::FirstSteps::Step::Why);
+    EXPECT_EQ(saying("To do: "), desktop::FirstSteps::Count - 1);
+    EXPECT_EQ(saying("Done: "), 1);
 }
 
 /// Wherever Tab leads, in every tool.

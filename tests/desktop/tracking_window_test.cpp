@@ -137,6 +137,7 @@ TEST_F(TrackingWindowTest, MeasuresOnTheWaterFromPointsThatAreClicked) {
     EXPECT_NEAR(*speedAt(20), 12.5, 6);
     const QString target = QString::fromStdString((m_folder.path() / "path.csv").string());
     window.writeCsv(target);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window.told() == "path.csv is there."; }));
     EXPECT_THAT(readTextFile(m_folder.path() / "path.csv"), HasSubstr("frame,seconds,x,y"));
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/preview/report_printing.h"
 
+#include "common/safe_file.h"
 #include "common/temp_folder.h"
 #include "desktop_preview/sample_reports.h"
 #include "report/pdf_text.h"
@@ -53,6 +54,18 @@ TEST_F(Printing, PrintsTheChosenPagesOnOtherPaper) {
     ASSERT_THAT(pages, SizeIs(1));
     EXPECT_THAT(pages.front(), HasSubstr("Page 2 / " + std::to_string(m_report->pageCount())))
         << "to its corner";
+}
+
+TEST_F(Printing, MakesADocumentOfTheChosenPagesOnOtherPaper) {
+    m_printer.setPageSize(QPageSize(QPageSize::A5));
+    m_printer.setPrintRange(QPrinter::PageRange);
+    m_printer.setFromTo(2, 2);
+    const std::string pdf = desktop::printedPdf(*m_report, m_printer);
+    EXPECT_FALSE(std::filesystem::exists(file())) << "what is to be written is not written here";
+    writeFileSafely(file(), pdf);
+    const std::vector<std::string> pages = pagesOf(file());
+    ASSERT_THAT(pages, SizeIs(1));
+    EXPECT_THAT(pages.front(), HasSubstr("Page 2 / " + std::to_string(m_report->pageCount())));
 }
 
 TEST_F(Printing, PrintsNothingOfAReportWithoutPages) {

@@ -2,14 +2,17 @@
 
 #include "common/temp_folder.h"
 #include "fetch/faulty_server.h"
+#include "fetch/part_file.h"
 #include "fetch/test_films.h"
 
 #include <gmock/gmock.h>
 
 #include <QCryptographicHash>
+#include <QSemaphore>
 #include <QSslSocket>
 #include <QTcpServer>
 #include <QTest>
+#include <QThreadPool>
 
 namespace kavela::test {
 namespace {
@@ -148,6 +151,33 @@ TEST_F(FetchJobTest, GoesOnWithWhatAnEarlierProgramLeft) {
     EXPECT_EQ(runOne(film("/14.mp4")).kind, Kind::Fetched);
     expectOnly(body);
     EXPECT_EQ(server.askedFor("/14.mp4").at(0).headers.at("range"), "bytes=1000-");
+}
+
+/// A sleeping disk, or a stick: the window of the job goes on, and so does the film later.
+TEST_F(FetchJobTest, WaitsForTheDiskBesideItsThread) {
+    server.add("/14.mp4", {served(body, "\"a\"")});
+    QSemaphore disk;
+    partPool().start([&disk] { disk.acquire(); });
+    {
+        FetchJob given;
+        given.start({film("/14.mp4")}, folder.path(), rules());
+        QTest::qWait(50);
+        EXPECT_TRUE(given.isRunning());
+        EXPECT_THAT(folder.names(), IsEmpty());
+    }
+    disk.release();
+    EXPECT_EQ(runOne(film("/14.mp4")).kind, Kind::Fetched);
+    expectOnly(body);
+}
+
+/// What could not be written is told, and what was there before stays.
+TEST_F(FetchJobTest, TellsThatTheFolderTakesNoPart) {
+    fs::create_directories(folder.path() / "14.mp4.part.note");
+    server.add("/14.mp4", {served(body, "\"a\"")});
+    const FilmResult result = runOne(film("/14.mp4"));
+    EXPECT_EQ(result.kind, Kind::Failed);
+    EXPECT_THAT(result.reason, HasSubstr("The folder takes no file: "));
+    EXPECT_THAT(folder.names(), ElementsAre("14.mp4.part.note"));
 }
 
 /// A part whose note is gone or of another film could be anything.

@@ -5,7 +5,9 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <regex>
 #include <set>
 
@@ -114,6 +116,32 @@ TEST(Catalogues, ThatAreOfferedKnowEveryTextOfThePlainLibraries) {
                 << language.code << " does not know: " << text.spelling
                 << " (build kavela-translations)";
     }
+}
+
+std::string contentIn(const std::filesystem::path& file) {
+    std::ifstream stream(file);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// What a plain function of the windows says is only found by the name of the function.
+TEST(Catalogues, AreMadeFromWhatEveryFunctionOfTheWindowsSays) {
+    const std::filesystem::path sources = KAVELA_SOURCES;
+    const std::string known = contentIn(sources / "language" / "CMakeLists.txt");
+    const std::regex sayer(R"(QString (\w+)\(const char\* text\) \{\s*)"
+                           R"(return QCoreApplication::translate\("\w+", text\))");
+    std::size_t count = 0;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(sources / "desktop")) {
+        if (entry.path().extension() != ".cpp")
+            continue;
+        const std::string source = contentIn(entry.path());
+        for (std::sregex_iterator at(source.begin(), source.end(), sayer), end; at != end; ++at) {
+            ++count;
+            const std::regex word("\\b" + (*at)[1].str() + "\\b");
+            EXPECT_TRUE((*at)[1] == "tr" || std::regex_search(known, word))
+                << entry.path() << " says texts by " << (*at)[1];
+        }
+    }
+    EXPECT_GT(count, 10U);
 }
 
 TEST(Catalogues, ListOnlyLanguagesThatThereAre) {

@@ -26,6 +26,7 @@ TEST(SourceTexts, AreTheLiteralsOfWhatSaysThem) {
                 testing::ElementsAre("one", "other"));
     EXPECT_THAT(spelled(R"(Rule{"loss", "Time lost.", "own − other", ""})"),
                 testing::ElementsAre("Time lost.", "own − other"));
+    EXPECT_THAT(spelled(R"(std::array{Label{"touch", "Touch"}})"), testing::ElementsAre("Touch"));
     EXPECT_THAT(
         spelled("char a = '\"'; /* say(\"no\") */ hearsay(\"no\"); n = 1'000; say(\"yes\")"),
         testing::ElementsAre("yes"));

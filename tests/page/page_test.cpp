@@ -6,6 +6,7 @@
 #include "common/json_encode.h"
 #include "common/number_text.h"
 #include "common/temp_folder.h"
+#include "common/text.h"
 #include "performance/losses.h"
 #include "sample/races.h"
 #include "splitdata/athlete_keys.h"
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <set>
 
 /// What the page of an athlete tells, and that texts of files stay texts.
 namespace kavela::test {
@@ -62,6 +64,43 @@ std::size_t slowRunNumber() {
 
 const athletedata031& slowRun() {
     return cup().athletes.at(slowRunNumber());
+}
+
+/// A language of brackets and commas, for the life of a test.
+class Bracketed : public TextCatalogue {
+public:
+    Bracketed() { installCatalogue(this); }
+    ~Bracketed() override { installCatalogue(nullptr); }
+
+    [[nodiscard]] std::string_view of(std::string_view text) const override {
+        return *m_said.insert('[' + std::string(text) + ']').first;
+    }
+    [[nodiscard]] std::string_view of(std::string_view text, std::int64_t) const override {
+        return of(text);
+    }
+    [[nodiscard]] char decimalSign() const override { return ','; }
+
+private:
+    mutable std::set<std::string> m_said;
+};
+
+/// What is read on a page and was not said in its language. Texts of the files stand in <bdi>.
+std::string unsaidWords(std::string_view page) {
+    std::string words;
+    int brackets = 0;
+    for (std::size_t at = page.find("<body>"); at < page.size(); ++at) {
+        if (page.substr(at).starts_with("<bdi>"))
+            at = page.find("</bdi>", at);
+        if (page[at] == '<')
+            at = page.find('>', at);
+        else if (page[at] == '[')
+            ++brackets;
+        else if (page[at] == ']')
+            --brackets;
+        else if (brackets == 0)
+            words += page[at];
+    }
+    return words;
 }
 
 timeloss031 noteOf(const std::string& versus, const std::string& reason,
@@ -123,6 +162,26 @@ TEST(AthletePage, WhatIsNotedOfARunIsThere) {
           ">5<small>+2</small>", ">9<small>+50</small>", "Upstream gates", "<svg "})
         EXPECT_THAT(text, HasSubstr(part));
     EXPECT_THAT(text, HasSubstr(hundredthsText(run.upstreams.front().time)));
+}
+
+TEST(AthletePage, SpeaksTheLanguageOfTheProgram) {
+    page::PageChoice choice = choiceOf(slowRun());
+    choice.language = "cs";
+    splittakerdata031 later = cup();
+    later.info.date.seconds += 40 * 86400.0;
+    const Bracketed language;
+    const std::string text = pageOf({cup(), later}, choice);
+    EXPECT_THAT(text, HasSubstr("<html lang=\"cs\">"));
+    EXPECT_THAT(text, HasSubstr("<th scope=col>[To winner]"));
+    FactStore facts;
+    facts.add(cup(), "race_0.kvx");
+    const std::string total = hundredthsText(facts.runs()[slowRunNumber()].total);
+    EXPECT_THAT(text, HasSubstr("<dd>" + saidNumber(total)));
+    EXPECT_THAT(text, Not(HasSubstr("<dd>" + total)));
+    const std::string unsaid = unsaidWords(text);
+    for (const char* const word : {"Times in", "Penalties", "Gap to", "winner", "All runs", "train",
+                                   "Strokes", "Most lost", "Comments", "whole", "compared"})
+        EXPECT_THAT(unsaid, Not(HasSubstr(word)));
 }
 
 TEST(AthletePage, TextsThatAreMarkupStayTexts) {

@@ -1,5 +1,7 @@
 #include "vision/river_scene.h"
 
+#include "vision/river_ground.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -10,57 +12,6 @@ namespace kavela {
 namespace {
 
 constexpr double Turn = 2 * std::numbers::pi;
-constexpr int Tile = 256;
-
-/// A number that is always the same for the same place.
-std::uint32_t scrambled(std::uint32_t value) {
-    value ^= value >> 16;
-    value *= 0x7feb352dU;
-    value ^= value >> 15;
-    value *= 0x846ca68bU;
-    return value ^ (value >> 16);
-}
-
-double chance(std::uint32_t seed, std::uint32_t number) {
-    return scrambled(seed * 7919U + scrambled(number)) / 4294967296.0;
-}
-
-/// Smooth random ground that repeats, −1 to 1, with hills of some size.
-class Ground {
-public:
-    Ground(std::uint32_t seed, int hills) : m_values(std::size_t(Tile) * Tile) {
-        const int cells = Tile / hills;
-        const auto knot = [&](int x, int y) {
-            const int place = (y % cells) * cells + x % cells;
-            return chance(seed, static_cast<std::uint32_t>(place)) * 2 - 1;
-        };
-        for (int y = 0; y < Tile; ++y)
-            for (int x = 0; x < Tile; ++x) {
-                const double fx = eased(double(x % hills) / hills);
-                const double fy = eased(double(y % hills) / hills);
-                const int left = x / hills;
-                const int top = y / hills;
-                const double upper = knot(left, top) * (1 - fx) + knot(left + 1, top) * fx;
-                const double lower = knot(left, top + 1) * (1 - fx) + knot(left + 1, top + 1) * fx;
-                m_values[std::size_t(y) * Tile + std::size_t(x)] =
-                    static_cast<float>(upper * (1 - fy) + lower * fy);
-            }
-    }
-    [[nodiscard]] float at(int x, int y) const {
-        return m_values[std::size_t(y & (Tile - 1)) * Tile + std::size_t(x & (Tile - 1))];
-    }
-    /// Between the places along a row.
-    [[nodiscard]] float at(double x, int y) const {
-        const double left = std::floor(x);
-        const auto part = static_cast<float>(x - left);
-        const int whole = static_cast<int>(left);
-        return at(whole, y) * (1 - part) + at(whole + 1, y) * part;
-    }
-
-private:
-    static double eased(double part) { return part * part * (3 - 2 * part); }
-    std::vector<float> m_values;
-};
 
 struct Grounds {
     Ground fine{11, 2};
@@ -72,10 +23,6 @@ struct Grounds {
 const Grounds& grounds() {
     static const Grounds made;
     return made;
-}
-
-double between(double part, double low, double high) {
-    return low + part * (high - low);
 }
 
 } // namespace

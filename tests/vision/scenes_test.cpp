@@ -58,6 +58,22 @@ TEST(Scenes, ShowTheirBoats) {
     EXPECT_LE(score.errorAt(0.5), 4);
 }
 
+/// What stands out of such a boat is its paddler, and the bow is half a boat's length ahead.
+TEST(Scenes, TellTheBowFromThePaddlerWhereHullsAreLikeTheWater) {
+    RiverScore score;
+    for (std::uint32_t seed = 51; seed <= 56; ++seed) {
+        RiverRecipe recipe = shortScene(seed);
+        recipe.hasDarkHulls = true;
+        recipe.foam = 0.15;
+        recipe.dipping = 0;
+        const RiverScene scene(recipe);
+        score.add(scoreOf(scene, crossingsOf(scene).proposals));
+    }
+    EXPECT_EQ(score.boats, 6);
+    EXPECT_GE(score.near, 5);
+    EXPECT_LE(score.errorAt(0.7), 4);
+}
+
 TEST(Scenes, ShowNothingOnEmptyWater) {
     RiverRecipe recipe = shortScene(41);
     recipe.boats = 0;

@@ -1,5 +1,7 @@
 #include "boatmotion/imports/source_file.h"
 
+#include "common/text.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -19,9 +21,9 @@ SourceFile::SourceFile(const std::filesystem::path& path)
     if (::fstat(m_file.descriptor(), &status) != 0)
         throw systemFileError(path);
     if (S_ISDIR(status.st_mode))
-        throw FileError(path, "this is a folder, not a file");
+        throw FileError(path, say("this is a folder, not a file"));
     if (!S_ISREG(status.st_mode))
-        throw FileError(path, "this is not an ordinary file");
+        throw FileError(path, say("this is not an ordinary file"));
     m_size = static_cast<std::uint64_t>(status.st_size);
 }
 

@@ -7,30 +7,49 @@
 #include "desktop/shell/disk_worker.h"
 #include "desktop/shell/qt_text.h"
 
-#include <stdexcept>
+#include <memory>
 #include <utility>
 
 namespace kavela::desktop {
 
 void SlitKeeping::open(const QString& film) {
-    disk::waitForAll(); // what another window of this film still has to write
     m_film = film;
     m_file = {};
     m_isUnreadable = false;
+    m_isReading = true;
+    emit opened();
     const auto path = slitFileOf(film.toStdString());
-    try {
-        m_file = readSlitFile(path).value_or(slitfile001());
-    } catch (const std::runtime_error& error) {
-        m_isUnreadable = true;
+    const auto read = std::make_shared<slitfile001>();
+    // Behind what another window of this film still has to write.
+    disk::runAwaited(
+        *this, [path, read] { *read = readSlitFile(path).value_or(slitfile001()); },
+        [this, read, number = ++m_readings,
+         name = qtText(path.filename().string())](const std::exception_ptr& fault) {
+            if (number == m_readings) // else another film was opened meanwhile
+                takeRead(std::move(*read), name, fault);
+        });
+    if (m_isReading)
+        emit changed();
+}
+
+void SlitKeeping::takeRead(slitfile001 file, const QString& name, const std::exception_ptr& fault) {
+    m_isReading = false;
+    m_isUnreadable = fault != nullptr;
+    if (fault)
         emit failed(tr("The lines in %1 cannot be read: %2. The file is put aside before new lines "
                        "take its name.")
-                        .arg(qtText(path.filename().string()), qtText(error.what())));
-    }
-    emit opened();
+                        .arg(name, qtText(messageOf(fault))));
+    else
+        m_file = std::move(file);
     emit changed();
 }
 
 void SlitKeeping::edit(const std::function<void(slitfile001&)>& change) {
+    if (m_isReading) { // nothing is written over lines that are not known yet
+        emit failed(tr("The lines of this film are still being read. Try again in a moment."));
+        emit changed();
+        return;
+    }
     const slitfile001 before = m_file;
     change(m_file);
     if (encode(m_file) != encode(before)) // a click on a line moves it nowhere
@@ -40,6 +59,8 @@ void SlitKeeping::edit(const std::function<void(slitfile001&)>& change) {
 }
 
 void SlitKeeping::putBack(slitfile001 file) {
+    if (m_isReading)
+        return;
     m_file = std::move(file);
     write();
     emit changed();

@@ -35,6 +35,15 @@ void SlitMarking::edit(const std::function<void(slitline001&)>& change) {
         m_keeping.edit([&](slitfile001& file) { change(file.lines[m_number]); });
 }
 
+void SlitMarking::setBoat(const QRectF& box) {
+    edit([&](slitline001& line) {
+        line.boatX = box.x();
+        line.boatY = box.y();
+        line.boatWidth = box.width();
+        line.boatHeight = box.height();
+    });
+}
+
 QString SlitMarking::draw(std::size_t number, const SlitLine& ends, const VideoFacts& film) {
     try {
         checkSlitLine(ends, film.shownSize, film.path);

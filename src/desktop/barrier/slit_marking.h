@@ -8,6 +8,7 @@
 #include "vision/slit_picture.h"
 
 #include <QCoreApplication>
+#include <QRectF>
 
 #include <functional>
 #include <memory>
@@ -34,6 +35,8 @@ public:
     void setNumber(std::size_t number) { m_number = number; }
     [[nodiscard]] std::size_t split() const; ///< whose marks it makes; 0 is the start
     void edit(const std::function<void(slitline001&)>& change);
+    /// The box round a boat, for the line in front.
+    void setBoat(const QRectF& box);
     /// Draws a line anew and brings it to the front; a number behind the last one adds a line for
     /// the next split. Returns what is wrong with it; it is as it was then.
     [[nodiscard]] QString draw(std::size_t number, const SlitLine& ends, const VideoFacts& film);

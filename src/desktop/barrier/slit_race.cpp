@@ -1,9 +1,11 @@
 #include "desktop/barrier/slit_race.h"
 
 #include "desktop/shell/qt_text.h"
+#include "desktop/splitfile/taking_files.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/film_crossings.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QUndoStack>
 
@@ -118,6 +120,14 @@ void SlitRace::redo() {
 void SlitRace::save() {
     if (m_document && m_owner)
         m_owner->saveBeside();
+}
+
+QString raceFileOf(const QString& film) {
+    if (film.isEmpty())
+        return {};
+    const QString folder = QFileInfo(film).absolutePath();
+    const QString file = splitFileIn(folder);
+    return file.isEmpty() ? folder : QDir(folder).absoluteFilePath(file);
 }
 
 } // namespace kavela::desktop

@@ -29,7 +29,7 @@ class SlitRace : public QObject {
 public:
     using QObject::QObject;
 
-    void setFilm(const QString& film);
+    void setFilm(const QString& film); ///< its path
     /// The document lives in a window of its own, which saves it and takes its steps back.
     void setDocument(TakingDocument& document, ToolWindow& owner);
     [[nodiscard]] bool isThere() const { return !m_document.isNull(); }
@@ -65,5 +65,8 @@ private:
     QPointer<TakingDocument> m_document;
     QPointer<ToolWindow> m_owner;
 };
+
+/// The split file in a film's folder, or the folder where it has none; empty for no film.
+[[nodiscard]] QString raceFileOf(const QString& film);
 
 } // namespace kavela::desktop

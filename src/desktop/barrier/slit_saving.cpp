@@ -5,7 +5,18 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace kavela::desktop {
+
+SlitSheet sheetOf(const SlitPicture& picture, FrameNumber first, FrameNumber last,
+                  const std::vector<SlitRunRow>& runs) {
+    SlitSheet sheet{first, std::min(last, picture.columns - 1), {}};
+    for (const SlitRunRow& row : runs)
+        if (row.run.seconds)
+            sheet.marks.push_back({*row.run.seconds, row.run.crew});
+    return sheet;
+}
 
 QString SlitSaving::writePicture(const QString& file, const SlitPicture& picture,
                                  const VideoIndex& index, const SlitSheet& sheet) {

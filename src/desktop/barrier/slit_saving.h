@@ -1,6 +1,7 @@
 #pragma once
 
 #include "captions/slit_sheet.h"
+#include "desktop/barrier/slit_tables.h"
 #include "desktop/shell/background_work.h"
 #include "vision/band_recording.h"
 #include "vision/slit_file.h"
@@ -12,6 +13,11 @@
 #include <vector>
 
 namespace kavela::desktop {
+
+/// From one frame to another, as far as the picture is read, with the marks of runs; its last frame
+/// is before its first where nothing of it is read.
+[[nodiscard]] SlitSheet sheetOf(const SlitPicture& picture, FrameNumber first, FrameNumber last,
+                                const std::vector<SlitRunRow>& runs);
 
 /// What is written of a slit picture for others.
 class SlitSaving : public QObject {

@@ -17,10 +17,10 @@ QString slitText(const char* text) {
 }
 
 template <class Row>
-Column<Row> slitColumn(const char* title, std::function<Cell(const Row&)> show,
+Column<Row> slitColumn(const QString& title, std::function<Cell(const Row&)> show,
                        ColumnKind kind = ColumnKind::Text) {
     Column<Row> column;
-    column.title = slitText(title);
+    column.title = title;
     column.kind = kind;
     column.show = std::move(show);
     return column;
@@ -85,20 +85,22 @@ Cell proposedCrewCell(const ProposalRow& row) {
 
 ColumnModel<SlitRunRow>::Columns slitRunColumns() {
     ColumnModel<SlitRunRow>::Columns columns;
-    columns.push_back(slitColumn<SlitRunRow>("Run", slitCrewCell));
-    columns.push_back(slitColumn<SlitRunRow>("Marked", slitMarkedCell, ColumnKind::Number));
+    columns.push_back(slitColumn<SlitRunRow>(slitText("Run"), slitCrewCell));
+    columns.push_back(
+        slitColumn<SlitRunRow>(slitText("Marked"), slitMarkedCell, ColumnKind::Number));
     columns.back().unit = slitText("s");
     columns.back().tip = slitText("Where the run is marked at this line, in seconds of the film");
-    columns.push_back(slitColumn<SlitRunRow>("Proposal", slitProposalCell));
+    columns.push_back(slitColumn<SlitRunRow>(slitText("Proposal"), slitProposalCell));
     return columns;
 }
 
 ColumnModel<ProposalRow>::Columns proposalColumns() {
     ColumnModel<ProposalRow>::Columns columns;
-    columns.push_back(slitColumn<ProposalRow>("At", proposedAtCell, ColumnKind::Number));
+    columns.push_back(slitColumn<ProposalRow>(slitText("At"), proposedAtCell, ColumnKind::Number));
     columns.back().unit = slitText("s");
-    columns.push_back(slitColumn<ProposalRow>("Confidence", confidenceCell, ColumnKind::Number));
-    columns.push_back(slitColumn<ProposalRow>("Run", proposedCrewCell));
+    columns.push_back(
+        slitColumn<ProposalRow>(slitText("Confidence"), confidenceCell, ColumnKind::Number));
+    columns.push_back(slitColumn<ProposalRow>(slitText("Run"), proposedCrewCell));
     return columns;
 }
 

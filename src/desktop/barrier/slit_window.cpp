@@ -11,10 +11,8 @@
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
-#include "desktop/splitfile/taking_files.h"
 #include "splittaking/video_names.h"
 
-#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QSplitter>
@@ -93,12 +91,7 @@ void SlitWindow::connectLines() {
     connect(&overlay(), &LineOverlay::lineDrawn, this, &SlitWindow::drawn);
     connect(&overlay(), &LineOverlay::boatDrawn, this, [this](const QRectF& box) {
         overlay().setTool(LineOverlay::Tool::None);
-        m_marking.edit([&](slitline001& line) {
-            line.boatX = box.x();
-            line.boatY = box.y();
-            line.boatWidth = box.width();
-            line.boatHeight = box.height();
-        });
+        m_marking.setBoat(box);
     });
     connect(m_panel, &SlitPanel::lineChosen, this, [this](std::size_t line) {
         chooseLine(line);
@@ -180,14 +173,6 @@ void SlitWindow::setRace(TakingDocument& document, ToolWindow& owner) {
     m_race.setDocument(document, owner);
     m_told.clear();
     showState();
-}
-
-QString SlitWindow::raceOfFilm() const {
-    if (m_film.isEmpty())
-        return {};
-    const QString folder = QFileInfo(m_film).absolutePath();
-    const QString file = splitFileIn(folder);
-    return file.isEmpty() ? folder : QDir(folder).absoluteFilePath(file);
 }
 
 /// The lines can be drawn as soon as the film is seen; it is read when all of it is known.
@@ -309,11 +294,10 @@ void SlitWindow::chooseLine(std::size_t number) {
 }
 
 void SlitWindow::stepLine(int step) {
-    const std::size_t count = m_keeping.file().lines.size();
+    const auto count = static_cast<int>(m_keeping.file().lines.size());
     if (count > 1)
         chooseLine(
-            (lineNumber() + count + static_cast<std::size_t>(step + static_cast<int>(count))) %
-            count);
+            static_cast<std::size_t>((static_cast<int>(lineNumber()) + count + step) % count));
 }
 
 void SlitWindow::removeLine() {
@@ -438,15 +422,11 @@ QString SlitWindow::exportTo(const QString& file) {
     const auto index = m_loader.index();
     if (!index || picture.tiles.empty())
         return tr("There is no slit picture yet.");
-    SlitSheet sheet{slitFrameAt(*index, 0, view().columnAt(0)),
-                    slitFrameAt(*index, 0, view().columnAt(view().width())),
-                    {}};
-    sheet.last = std::min(sheet.last, picture.columns - 1);
+    const SlitSheet sheet =
+        sheetOf(picture, slitFrameAt(*index, 0, view().columnAt(0)),
+                slitFrameAt(*index, 0, view().columnAt(view().width())), m_panel->runs());
     if (sheet.last < sheet.first)
         return tr("That part is not read yet.");
-    for (const SlitRunRow& row : m_panel->runs())
-        if (row.run.seconds)
-            sheet.marks.push_back({*row.run.seconds, row.run.crew});
     return SlitSaving::writePicture(file, picture, *index, sheet);
 }
 

@@ -38,7 +38,7 @@ public:
     /// Marks go into this race from now on, which split taking has open.
     void setRace(TakingDocument& document, ToolWindow& owner);
     /// The split file beside the film, or its folder where none is.
-    [[nodiscard]] QString raceOfFilm() const;
+    [[nodiscard]] QString raceOfFilm() const { return raceFileOf(m_film); }
 
     [[nodiscard]] SlitKeeping& keeping() { return m_keeping; }
     [[nodiscard]] SlitLoader& loader() { return m_loader; }

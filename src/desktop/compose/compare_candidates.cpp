@@ -1,6 +1,8 @@
 #include "desktop/compose/compare_candidates.h"
 
+#include "common/text.h"
 #include "compose/composition.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/splitfile/film_places.h"
 #include "splitdata/loader.h"
 #include "splitdata/run_timing.h"
@@ -46,7 +48,7 @@ void readRuns(const QString& path, FoundCandidates& found) {
     if (!file.version) {
         found.faults.push_back(QStringLiteral("%1: %2").arg(
             QFileInfo(path).fileName(),
-            QString::fromStdString(file.failures.empty() ? std::string("it could not be read")
+            QString::fromStdString(file.failures.empty() ? say("it could not be read")
                                                          : file.failures.front().fault.message())));
         return;
     }
@@ -58,7 +60,7 @@ void readRuns(const QString& path, FoundCandidates& found) {
                 found.candidates.push_back(runCandidate(file.document, path, run, camera));
     if (found.candidates.size() == before)
         found.faults.push_back(
-            QStringLiteral("%1: no run has a film").arg(QFileInfo(path).fileName()));
+            qtText(say("{}: no run has a film", QFileInfo(path).fileName().toStdString())));
 }
 
 void readFilm(const QString& path, const std::stop_token& stop, FoundCandidates& found) {

@@ -50,7 +50,7 @@ CompareFilmsPanel::CompareFilmsPanel(Edit edit, QWidget* parent)
 
 std::vector<Column<CompareFilmsPanel::CandidateRow>> CompareFilmsPanel::candidateColumns() {
     Column<CandidateRow> chosen = textColumn<CandidateRow>(tr("In it"), nullptr);
-    chosen.tip = tr("Its place in the composed film. Space chooses it or takes it out.");
+    chosen.tip = tr("Its place in the composed film. Enter chooses it or takes it out.");
     chosen.show = [](const CandidateRow& row) {
         Cell cell;
         cell.isTicked = row.film > 0;

@@ -53,23 +53,15 @@ void CompareSound::follow() {
         stop();
         m_film = m_player.prepared()->heard->film;
     }
-    switch (nextSoundStep({.hasFilm = due.has_value(),
-                           .isPlaying = true,
-                           .isSounding = m_isSounding,
-                           .jump = due && m_isSounding ? courseOfSound(*due) - m_course : 0})) {
-    case SoundStep::Stay:
-        if (due)
-            stayInStep(*due);
-        return;
-    case SoundStep::Stop:
-        stop();
-        return;
-    case SoundStep::Restart:
-        stop();
-        [[fallthrough]];
-    case SoundStep::Start:
-        start(*due);
-    }
+    const SoundStep step =
+        nextSoundStep({.hasFilm = due.has_value(),
+                       .isPlaying = true,
+                       .isSounding = m_isSounding,
+                       .jump = due && m_isSounding ? courseOfSound(*due) - m_course : 0});
+    if (step == SoundStep::Stay && due)
+        stayInStep(*due);
+    takeSoundStep(
+        step, [&] { start(*due); }, [this] { stop(); });
 }
 
 void CompareSound::start(double seconds) {

@@ -181,12 +181,12 @@ void CourseEditor::makeKeys() {
 
 void CourseEditor::setTool(CourseTool tool) {
     static const std::array<const char*, 6> Hints{
-        "Drag a part, or one of its points. The poles of a gate turn about each other.",
-        "Click where a gate hangs; hold the button and drag its right pole round.",
-        "Drag from bank to bank where the split is taken.",
-        "Draw along the bank with the button held down.",
-        "Draw the way of a boat with the button held down, and name it at the right.",
-        "Click where words are to stand."};
+        QT_TR_NOOP("Drag a part, or one of its points. The poles of a gate turn about each other."),
+        QT_TR_NOOP("Click where a gate hangs; hold the button and drag its right pole round."),
+        QT_TR_NOOP("Drag from bank to bank where the split is taken."),
+        QT_TR_NOOP("Draw along the bank with the button held down."),
+        QT_TR_NOOP("Draw the way of a boat with the button held down, and name it at the right."),
+        QT_TR_NOOP("Click where words are to stand.")};
     m_canvas->setTool(tool);
     m_tools->button(static_cast<int>(tool))->setChecked(true);
     tell(tr(Hints[static_cast<std::size_t>(tool)]));
@@ -211,8 +211,9 @@ void CourseEditor::usePhoto(const QString& path) {
     try {
         // A film of gigabytes chosen by mistake is not read to be told so.
         if (file.size() > static_cast<qint64>(report::MostPhotoBytes))
-            throw CourseError("It has " + std::to_string(file.size() / 1'000'000) +
-                              " MB. Up to 40 MB can be read; save it smaller first.");
+            throw CourseError(tr("It has %1 MB. Up to 40 MB can be read; save it smaller first.")
+                                  .arg(file.size() / 1'000'000)
+                                  .toStdString());
         if (!file.open(QIODevice::ReadOnly))
             throw CourseError(file.errorString().toStdString());
         const QByteArray bytes = file.readAll();

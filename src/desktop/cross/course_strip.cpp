@@ -1,5 +1,6 @@
 #include "desktop/cross/course_strip.h"
 
+#include "common/text.h"
 #include "desktop/shell/fault_label.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/theme.h"
@@ -35,9 +36,9 @@ CourseGates parseCourseGates(std::string_view text) {
         text.remove_prefix(word.size());
         const auto gate = parseGates(word);
         if (!gate || *gate < 1)
-            return {{}, '"' + std::string(word) + "\" is no gate number."};
+            return {{}, say("\"{}\" is no gate number.", word)};
         if (std::ranges::find(course.gates, *gate) != course.gates.end())
-            return {{}, "Gate " + std::to_string(*gate) + " stands there twice."};
+            return {{}, say("Gate {} stands there twice.", *gate)};
         course.gates.push_back(*gate);
     }
     return course;

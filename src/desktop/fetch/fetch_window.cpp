@@ -384,11 +384,11 @@ void FetchWindow::forgetLogin() {
 }
 
 void FetchWindow::connectLogins() {
-    connect(&m_logins, &FetchLogins::signedIn, this, [this] {
+    connect(&m_logins, &ServerLogins::signedIn, this, [this] {
         if (rows().empty())
             showPlan();
     });
-    connect(&m_logins, &FetchLogins::notKept, this, [this] {
+    connect(&m_logins, &ServerLogins::notKept, this, [this] {
         tell(tr("This computer has no password store that is open. The password holds "
                 "until this window is closed."));
     });

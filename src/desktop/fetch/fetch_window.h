@@ -1,9 +1,9 @@
 #pragma once
 
 #include "desktop/fetch/fetch_list.h"
-#include "desktop/fetch/fetch_logins.h"
 #include "desktop/shell/background_work.h"
 #include "desktop/shell/forms/record_form.h"
+#include "desktop/shell/server_logins.h"
 #include "desktop/shell/tool_window.h"
 #include "fetch/fetch_job.h"
 #include "fetch/fetch_source.h"
@@ -105,7 +105,7 @@ private:
     fetch::filmsource001 m_source;
     std::set<std::string> m_seenSites; ///< that films lie on, or were led to
     fetch::WebPace m_pace;
-    FetchLogins m_logins;
+    ServerLogins m_logins;
     FetchList m_list;
     fetch::PlanMaker m_maker;
     fetch::FetchJob m_job;

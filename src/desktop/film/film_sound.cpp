@@ -25,6 +25,14 @@ SoundStep nextSoundStep(const SoundSituation& situation) {
     return std::abs(situation.jump) > SmallestJump ? SoundStep::Restart : SoundStep::Stay;
 }
 
+void takeSoundStep(SoundStep step, const std::function<void()>& start,
+                   const std::function<void()>& stop) {
+    if (step == SoundStep::Stop || step == SoundStep::Restart)
+        stop();
+    if (step == SoundStep::Start || step == SoundStep::Restart)
+        start();
+}
+
 bool hasDrifted(double heard, double clock) {
     return std::abs(heard - clock) > MostDrift;
 }
@@ -63,23 +71,14 @@ void FilmSound::follow() {
             m_feed->close();
         m_film = film();
     }
-    switch (nextSoundStep({.hasFilm = !m_film.isEmpty(),
-                           .isPlaying = m_deck.isPlaying(),
-                           .rate = m_deck.rate(),
-                           .isMuted = m_isMuted,
-                           .isSounding = m_isSounding,
-                           .jump = m_isSounding ? course() - m_course : 0})) {
-    case SoundStep::Stay:
-        return;
-    case SoundStep::Stop:
-        stop();
-        return;
-    case SoundStep::Restart:
-        stop();
-        [[fallthrough]];
-    case SoundStep::Start:
-        start();
-    }
+    const SoundStep step = nextSoundStep({.hasFilm = !m_film.isEmpty(),
+                                          .isPlaying = m_deck.isPlaying(),
+                                          .rate = m_deck.rate(),
+                                          .isMuted = m_isMuted,
+                                          .isSounding = m_isSounding,
+                                          .jump = m_isSounding ? course() - m_course : 0});
+    takeSoundStep(
+        step, [this] { start(); }, [this] { stop(); });
 }
 
 void FilmSound::start() {

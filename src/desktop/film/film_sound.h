@@ -7,6 +7,8 @@
 #include <QString>
 #include <QTimer>
 
+#include <functional>
+
 namespace kavela::desktop {
 
 class FilmDeck;
@@ -26,6 +28,10 @@ enum class SoundStep { Stay, Start, Stop, Restart };
 /// Sound is heard while a film plays forward at its own speed; after a jump of the clock it begins
 /// anew.
 [[nodiscard]] SoundStep nextSoundStep(const SoundSituation& situation);
+
+/// Carries a step out: what restarts stops and starts.
+void takeSoundStep(SoundStep step, const std::function<void()>& start,
+                   const std::function<void()>& stop);
 
 /// Whether sound heard at one moment of the film is too far from the clock, both in seconds.
 [[nodiscard]] bool hasDrifted(double heard, double clock);

@@ -418,9 +418,9 @@ void FindWindow::chooseAndSaveCsv() {
         saveCsv(path);
 }
 
-bool FindWindow::saveCsv(const QString& path) {
-    const auto& found = m_results->found();
-    return found && isFoundSaved(*found, path, workspace(), this);
+void FindWindow::saveCsv(const QString& path) {
+    if (m_results->found())
+        saveFound(m_results->found(), path, workspace(), *this);
 }
 
 void FindWindow::showFailed() {

@@ -63,8 +63,8 @@ public:
     void enterGroup();
 
     void chooseAndSaveCsv();
-    /// Writes the whole result; false, after an alert, when it could not be written.
-    bool saveCsv(const QString& path);
+    /// Writes the whole result.
+    void saveCsv(const QString& path);
     void showFailed();
 
     [[nodiscard]] WatchedFacts& facts() { return m_facts; }

@@ -1,8 +1,9 @@
 #include "desktop/find/found_saving.h"
 
-#include "common/error.h"
 #include "common/safe_file.h"
 #include "desktop/find/found_table.h"
+#include "desktop/shell/background_work.h"
+#include "desktop/shell/disk_worker.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
@@ -24,24 +25,23 @@ bool isFileSearched(const Found& found, const QString& path) {
 
 } // namespace
 
-bool isFoundSaved(const Found& found, const QString& path, Workspace& workspace, QWidget* over) {
-    if (isFileSearched(found, path)) {
-        workspace.showAlert(
+void saveFound(const std::shared_ptr<const Found>& found, const QString& path, Workspace& workspace,
+               QWidget& over) {
+    if (isFileSearched(*found, path))
+        return workspace.showAlert(
             {"Failed to create file",
              QCoreApplication::translate(
                  "FindWindow", "The table cannot be written over a file that is searched.")
                  .toStdString()},
-            over);
-        return false;
-    }
-    try {
-        writeFileSafely(path.toStdString(), findCsv(found.answer));
-        return true;
-    } catch (const FileError& error) {
-        workspace.log()("Failed to create file");
-        workspace.showAlert({"Failed to create file", error.reason()}, over);
-        return false;
-    }
+            &over);
+    disk::runAwaited(
+        over, [found, file = path.toStdString()] { writeFileSafely(file, findCsv(found->answer)); },
+        [&workspace, &over](const std::exception_ptr& fault) {
+            if (!fault)
+                return;
+            workspace.log()("Failed to create file");
+            workspace.showAlert({"Failed to create file", causeOf(fault)}, &over);
+        });
 }
 
 } // namespace kavela::desktop

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <memory>
+
 class QWidget;
 
 namespace kavela::desktop {
@@ -9,9 +11,9 @@ namespace kavela::desktop {
 class Workspace;
 struct Found;
 
-/// Writes all rows that were found as a list for spreadsheets, and never over a file that was
-/// searched. False, after an alert, when it could not be written.
-[[nodiscard]] bool isFoundSaved(const Found& found, const QString& path, Workspace& workspace,
-                                QWidget* over);
+/// Writes all rows that were found as a list for spreadsheets, beside the window, and never over a
+/// file that was searched. An alert over the window tells why it could not be written.
+void saveFound(const std::shared_ptr<const Found>& found, const QString& path, Workspace& workspace,
+               QWidget& over);
 
 } // namespace kavela::desktop

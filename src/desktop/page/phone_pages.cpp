@@ -2,6 +2,7 @@
 
 #include "common/safe_file.h"
 #include "desktop/shell/file_names.h"
+#include "desktop/shell/language.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
 #include "page/clips/page_clips.h"
@@ -48,7 +49,8 @@ QStringList makePhonePage(const PhonePageJob& job, const WorkSteps& steps) {
     const std::vector<page::PageFilm> films = page::filmsBeside(read.races, target);
     const auto text = page::athletePage(std::move(read.races), job.choice, films);
     if (!text)
-        throw std::runtime_error("The saved files have no run of this athlete.");
+        throw std::runtime_error(
+            PhonePages::tr("The saved files have no run of this athlete.").toStdString());
     writeFileSafely(target, *text);
     return remarks;
 }
@@ -87,8 +89,9 @@ TableSettings PhonePages::settingsOf(const Workspace& workspace) {
 void PhonePages::ask(PhonePageRequest request) {
     if (request.crews.empty()) {
         m_workspace.showAlert(
-            {"Page for an athlete",
-             "There is no run of a named athlete in the split files that are open."},
+            {tr("Page for an athlete").toStdString(),
+             tr("There is no run of a named athlete in the split files that are open.")
+                 .toStdString()},
             &m_window);
         return;
     }
@@ -104,6 +107,7 @@ void PhonePages::askForFile(const PhonePageDialog& dialog) {
         return;
     PhonePageJob job{crew->races, dialog.request().shown, {}, dialog.wantsClips()};
     job.choice.crewKey = crew->key;
+    job.choice.language = spokenLanguage(m_workspace).toStdString();
     // Colours are among all that the window compares, unless the crew races in several categories.
     if (std::ranges::count(dialog.request().crews, crew->key, &PhonePageCrew::key) > 1)
         job.choice.category = crew->category.toStdString();

@@ -21,6 +21,7 @@
 #include <QToolButton>
 
 #include <cmath>
+#include <stdexcept>
 
 namespace kavela::desktop {
 
@@ -226,13 +227,21 @@ void ReportPreview::print() {
     preparePrinter(printer, *m_report);
     if (!m_choosePrinter(printer, this))
         return;
+    if (printer.outputFormat() == QPrinter::PdfFormat)
+        printIntoFile(printer);
+    else if (!printReport(*m_report, printer))
+        m_failures.showAlert({"Failed to print", "The printer does not take the pages."}, this);
+}
+
+void ReportPreview::printIntoFile(const QPrinter& printer) {
     try {
-        if (printer.outputFormat() == QPrinter::PdfFormat)
-            printIntoFile(*m_report, printer);
-        else if (!printReport(*m_report, printer))
-            m_failures.showAlert({"Failed to print", "The printer does not take the pages."}, this);
-    } catch (const FileError& error) {
-        tellFileError(error.reason());
+        disk::writeAwaited(*this, printer.outputFileName().toStdString(),
+                           printedPdf(*m_report, printer), [this](const std::exception_ptr& fault) {
+                               if (fault)
+                                   tellFileError(causeOf(fault));
+                           });
+    } catch (const std::runtime_error& error) {
+        tellFileError(error.what());
     }
 }
 

@@ -73,6 +73,7 @@ private:
     void updateBar();
     void savePdf();
     void print();
+    void printIntoFile(const QPrinter& printer);
     void noteSaved(const QString& path, const std::exception_ptr& fault);
     void tellFileError(const std::string& reason);
 

@@ -1,16 +1,15 @@
 #include "desktop/preview/report_printing.h"
 
-#include "common/error.h"
-#include "common/safe_file.h"
 #include "report/paged_report.h"
 #include "report/searchable_text.h"
 
-#include <QDir>
+#include <QBuffer>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrinter>
-#include <QTemporaryFile>
 
 #include <algorithm>
+#include <stdexcept>
 #include <vector>
 
 namespace kavela::desktop {
@@ -29,16 +28,31 @@ std::vector<int> chosenPages(const report::PagedReport& report, const QPrinter& 
     return pages;
 }
 
-/// From points of the report's page to dots on the printer's paper.
-QTransform placement(const report::PagedReport& report, const QPrinter& printer) {
+/// From points of the report's page to dots on the paper.
+QTransform placement(const report::PagedReport& report, const QPageLayout& layout, int resolution) {
     const QSizeF page = report.layout().fullRect(QPageLayout::Point).size();
-    const QSizeF paper = printer.pageLayout().fullRectPixels(printer.resolution()).size();
+    const QSizeF paper = layout.fullRectPixels(resolution).size();
     const double scale = std::min(paper.width() / page.width(), paper.height() / page.height());
     QTransform transform;
     transform.translate((paper.width() - page.width() * scale) / 2,
                         (paper.height() - page.height() * scale) / 2);
     transform.scale(scale, scale);
     return transform;
+}
+
+/// False where the paper takes no painting or no further page.
+bool isPainted(const report::PagedReport& report, const std::vector<int>& pages,
+               const QTransform& placement, QPagedPaintDevice& paper) {
+    QPainter painter;
+    if (!painter.begin(&paper))
+        return false;
+    painter.setTransform(placement);
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        if (i > 0 && !paper.newPage())
+            return false;
+        report.paintPage(painter, pages[i]);
+    }
+    return painter.end();
 }
 
 } // namespace
@@ -58,29 +72,31 @@ bool printReport(const report::PagedReport& report, QPrinter& printer) {
     const std::vector<int> pages = chosenPages(report, printer);
     if (pages.empty())
         return true;
-    QPainter painter;
-    if (!painter.begin(&printer))
-        return false;
-    painter.setTransform(placement(report, printer));
-    for (std::size_t i = 0; i < pages.size(); ++i) {
-        if (i > 0 && !printer.newPage())
-            return false;
-        report.paintPage(painter, pages[i]);
-    }
-    return painter.end() && printer.printerState() != QPrinter::Error;
+    return isPainted(report, pages, placement(report, printer.pageLayout(), printer.resolution()),
+                     printer) &&
+           printer.printerState() != QPrinter::Error;
 }
 
-void printIntoFile(const report::PagedReport& report, QPrinter& printer) {
-    const std::string target = printer.outputFileName().toStdString();
-    QTemporaryFile draft(QDir::temp().filePath(QStringLiteral("kavela-XXXXXX.pdf")));
-    if (!draft.open())
-        throw FileError(draft.fileTemplate().toStdString(), draft.errorString().toStdString());
-    printer.setOutputFileName(draft.fileName());
-    if (!printReport(report, printer))
-        throw FileError(draft.fileName().toStdString(), "the pages could not be drawn");
-    std::string pdf = draft.readAll().toStdString();
+/// The printer itself would write into a file, on the thread that the window waits for.
+std::string printedPdf(const report::PagedReport& report, const QPrinter& printer) {
+    QPageLayout layout = printer.pageLayout();
+    layout.setOrientation(report.layout().orientation());
+    layout.setMode(QPageLayout::FullPageMode);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setResolution(printer.resolution());
+        writer.setPageLayout(layout);
+        writer.setTitle(printer.docName());
+        writer.setCreator(printer.creator());
+        const QTransform place = placement(report, layout, printer.resolution());
+        if (!isPainted(report, chosenPages(report, printer), place, writer))
+            throw std::runtime_error("the pages could not be drawn");
+    }
+    std::string pdf = buffer.data().toStdString();
     report::makeTextSearchable(pdf);
-    writeFileSafely(target, pdf);
+    return pdf;
 }
 
 } // namespace kavela::desktop

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 class QPrinter;
 
 namespace kavela::report {
@@ -15,8 +17,7 @@ void preparePrinter(QPrinter& printer, const report::PagedReport& report);
 /// fitted into that, in the middle. Lies as the report lies. False when the printer refuses.
 [[nodiscard]] bool printReport(const report::PagedReport& report, QPrinter& printer);
 
-/// The same for a printer that is set to write a PDF document: the file is there whole or not at
-/// all. Throws FileError.
-void printIntoFile(const report::PagedReport& report, QPrinter& printer);
+/// What a printer that is set to write a PDF document would write. Throws std::runtime_error.
+[[nodiscard]] std::string printedPdf(const report::PagedReport& report, const QPrinter& printer);
 
 } // namespace kavela::desktop

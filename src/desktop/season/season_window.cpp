@@ -6,10 +6,12 @@
 #include "desktop/facts/facts_status.h"
 #include "desktop/page/phone_pages.h"
 #include "desktop/season/comparison_panel.h"
+#include "desktop/season/empty_season.h"
 #include "desktop/season/figures_panel.h"
 #include "desktop/season/progression_panel.h"
 #include "desktop/season/season_actions.h"
 #include "desktop/season/season_header.h"
+#include "desktop/season/season_notes.h"
 #include "desktop/season/season_pages.h"
 #include "desktop/season/season_reports.h"
 #include "desktop/shell/file_names.h"
@@ -22,8 +24,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
-#include <QLabel>
-#include <QPushButton>
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -68,35 +68,12 @@ SeasonWindow::~SeasonWindow() {
 
 void SeasonWindow::makeParts() {
     m_pages = new QStackedWidget;
-    m_pages->addWidget(makeEmptyPage());
+    m_empty = new EmptySeason;
+    m_pages->addWidget(m_empty);
     m_pages->addWidget(makeContent());
     setCentralWidget(m_pages);
     m_status = new FactsStatus(m_facts);
     statusBar()->addWidget(m_status);
-}
-
-QWidget* SeasonWindow::makeEmptyPage() {
-    auto* const page = new QWidget;
-    auto* const title = new QLabel(tr("Drop a team (.kvteam) and the folder of its races here"));
-    title->setFont(theme::titleFont(*this));
-    m_emptyText = new QLabel;
-    m_emptyText->setObjectName("emptyText");
-    m_emptyText->setWordWrap(true);
-    m_emptyText->setAlignment(Qt::AlignCenter);
-    m_emptyText->setForegroundRole(QPalette::PlaceholderText);
-    auto* const team = new QPushButton(tr("Open a team…"));
-    auto* const folder = new QPushButton(tr("Add a folder of races…"));
-    connect(team, &QPushButton::clicked, this, &SeasonWindow::chooseTeam);
-    connect(folder, &QPushButton::clicked, this, &SeasonWindow::chooseFolder);
-    auto* const column = new QVBoxLayout(page);
-    column->setSpacing(theme::LargeSpacing);
-    column->addStretch();
-    column->addWidget(title, 0, Qt::AlignHCenter);
-    column->addWidget(m_emptyText); // over the whole width: beside others its lines would be cut
-    for (QPushButton* const button : {team, folder})
-        column->addWidget(button, 0, Qt::AlignHCenter);
-    column->addStretch();
-    return page;
 }
 
 QWidget* SeasonWindow::makeContent() {
@@ -112,6 +89,8 @@ QWidget* SeasonWindow::makeContent() {
 }
 
 void SeasonWindow::connectParts() {
+    connect(m_empty, &EmptySeason::teamWanted, this, &SeasonWindow::chooseTeam);
+    connect(m_empty, &EmptySeason::folderWanted, this, &SeasonWindow::chooseFolder);
     connect(&m_team, &WatchedTeam::changed, this, &SeasonWindow::takeTeam);
     connect(&m_facts, &WatchedFacts::changed, this, &SeasonWindow::compute);
     connect(&m_facts, &WatchedFacts::readingChanged, this, &SeasonWindow::showStatus);
@@ -423,35 +402,16 @@ void SeasonWindow::showStatus() {
     const std::size_t files = m_facts.facts()->files().size();
     m_pages->setCurrentIndex(m_season && !m_season->season.athletes.empty() ? 1 : 0);
     if (!m_team.fault().isEmpty())
-        m_emptyText->setText(tr("%1 could not be read: %2").arg(m_team.path(), m_team.fault()));
+        m_empty->tell(tr("%1 could not be read: %2").arg(m_team.path(), m_team.fault()));
     else if (m_team.path().isEmpty())
-        m_emptyText->setText(tr("How every athlete of a team stands over the seasons: behind the "
-                                "winners, against rivals, and against chance. Files are only "
-                                "read."));
+        m_empty->tell(tr("How every athlete of a team stands over the seasons: behind the winners, "
+                         "against rivals, and against chance. Files are only read."));
     else if (isBusy())
-        m_emptyText->setText(tr("Reading…"));
+        m_empty->tell(tr("Reading…"));
     else
-        m_emptyText->setText(tr("Nobody of this team races in any category yet."));
-    m_header->tellRaces(files == 0 ? tr("No split files: winners and rivals are the team's own")
-                        : files == 1
-                            ? tr("Races from 1 split file")
-                            : tr("Races from %n split files", nullptr, static_cast<int>(files)),
-                        files == 0 && !m_facts.isReading());
-    QStringList parts;
-    if (m_season) {
-        const std::vector<std::string>& twins = m_season->season.data.twins;
-        parts << (m_season->season.spread.runs == 1
-                      ? tr("1 run compared")
-                      : tr("%n runs compared", nullptr,
-                           static_cast<int>(m_season->season.spread.runs)));
-        for (const std::string& twin : twins)
-            parts << tr("several athletes are called %1: their runs cannot be told apart")
-                         .arg(qtText(twin));
-        if (!m_season->unknown.empty())
-            parts << tr("nobody in these races is called %1").arg(joined(m_season->unknown));
-        if (const std::size_t left = m_season->season.places.leftOut.size(); left > 0)
-            parts << tr("too few runs to expect a place of %1 of the field").arg(left);
-    }
+        m_empty->tell(tr("Nobody of this team races in any category yet."));
+    m_header->tellRaces(comparedFilesText(files), files == 0 && !m_facts.isReading());
+    QStringList parts = m_season ? seasonNotes(*m_season) : QStringList();
     if (m_season && !m_team.fault().isEmpty())
         parts << tr("the team could not be read again: %1").arg(m_team.fault());
     m_status->show(parts);

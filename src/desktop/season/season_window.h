@@ -12,7 +12,6 @@
 #include <utility>
 #include <vector>
 
-class QLabel;
 class QStackedWidget;
 
 namespace kavela::desktop {
@@ -20,6 +19,7 @@ namespace kavela::desktop {
 class ChartFrame;
 class ColumnTable;
 class ComparisonPanel;
+class EmptySeason;
 class FactsStatus;
 class FiguresPanel;
 class PhonePages;
@@ -109,7 +109,6 @@ protected:
 
 private:
     void makeParts();
-    [[nodiscard]] QWidget* makeEmptyPage();
     [[nodiscard]] QWidget* makeContent();
     void connectParts();
     void takeTeam();
@@ -131,7 +130,7 @@ private:
     bool m_isComputing = false;
 
     QStackedWidget* m_pages = nullptr;
-    QLabel* m_emptyText = nullptr;
+    EmptySeason* m_empty = nullptr;
     SeasonHeader* m_header = nullptr;
     SeasonPages* m_figures = nullptr;
     FactsStatus* m_status = nullptr;

@@ -1,6 +1,8 @@
 #include "desktop/sessions/grid_model.h"
 
+#include "common/text.h"
 #include "desktop/sessions/session_texts.h"
+#include "desktop/shell/qt_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,7 +12,7 @@ namespace kavela::desktop {
 namespace {
 
 QString titleOf(const SessionColumn& column) {
-    const QString title = QString::fromStdString(column.title);
+    const QString title = qtText(translated(column.title));
     return column.unit.empty() ? title : title + "\n(" + QString::fromStdString(column.unit) + ')';
 }
 

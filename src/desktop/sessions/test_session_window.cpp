@@ -4,10 +4,12 @@
 #include "boatmotion/test_attempts.h"
 #include "common/error.h"
 #include "common/json_encode.h"
+#include "common/text.h"
 #include "desktop/charts/series_chart.h"
 #include "desktop/sessions/grid_model.h"
 #include "desktop/shell/background_work.h"
 #include "desktop/shell/disk_worker.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
@@ -40,7 +42,7 @@ ChartContent contentOf(const SessionGrid& grid, const QString& title) {
     content.emptyText = TestSessionWindow::tr("There are no values in this attempt.");
     for (std::size_t column = 0; column < grid.columns.size(); ++column) {
         ChartSeries series;
-        series.name = QString::fromStdString(grid.columns[column].title);
+        series.name = qtText(translated(grid.columns[column].title));
         series.onRight = grid.columns[column].title == "Heart rate";
         series.slot = column;
         for (const SessionGrid::Row& row : grid.rows)

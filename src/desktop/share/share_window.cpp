@@ -4,14 +4,11 @@
 #include "desktop/share/share_actions.h"
 #include "desktop/shell/fault_label.h"
 #include "desktop/shell/growth.h"
-#include "desktop/shell/login_dialog.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 #include "facts/fact_cache.h"
-#include "share/shared_folders.h"
-#include "share/web_place.h"
 
 #include <QCloseEvent>
 #include <QFileDialog>
@@ -25,7 +22,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 namespace kavela::desktop {
@@ -33,44 +29,19 @@ namespace kavela::desktop {
 namespace {
 
 constexpr int MillisecondsBetweenShown = 150; ///< of the rows while files move
-constexpr std::chrono::milliseconds BetweenReports(100);
 constexpr int MostNamedDeletions = 10;
-
-std::vector<std::string> keptFolders(const Workspace& workspace) {
-    return workspace.preferences().rawList(share::SharedFoldersKey);
-}
-
-/// What was shared last.
-ShareWindow::Typed rememberedPlace(const Workspace& workspace) {
-    const std::vector<share::SharedFolder> kept = share::sharedFolders(keptFolders(workspace));
-    return kept.empty() ? ShareWindow::Typed()
-                        : ShareWindow::Typed{kept.front().folder, kept.front().address};
-}
 
 std::filesystem::path cachesOfShares() {
     const std::filesystem::path facts = userCacheFolder();
     return facts.empty() ? facts : facts.parent_path() / "share";
 }
 
-/// Tells of bytes a few times a second, however small the pieces are.
-share::BytesMoved bytesReport(ShareReports& reports, const int& place) {
-    return [&reports, &place, last = std::chrono::steady_clock::time_point()](
-               std::int64_t done, std::int64_t all) mutable {
-        const auto now = std::chrono::steady_clock::now();
-        if (now - last < BetweenReports)
-            return;
-        last = now;
-        emit reports.moved(place, done, all);
-    };
-}
-
 } // namespace
 
 ShareWindow::ShareWindow(Workspace& workspace, std::unique_ptr<fetch::SecretStore> store)
     : ToolWindow(workspace, nullptr, {"share", tr("Share folders"), "*"}),
-      m_place(rememberedPlace(workspace)),
       m_caches(cachesOfShares()),
-      m_store(std::move(store)),
+      m_logins(std::move(store), *this),
       m_files(sharedColumns([this](std::size_t place, bool isTicked) { tick(place, isTicked); }),
               RowsKnownBy::Number) {
     makeParts();
@@ -80,43 +51,15 @@ ShareWindow::ShareWindow(Workspace& workspace, std::unique_ptr<fetch::SecretStor
     m_refresh.setSingleShot(true);
     m_refresh.setInterval(MillisecondsBetweenShown);
     connect(&m_refresh, &QTimer::timeout, this, [this] { showRows(); });
-    m_form->show(&m_place, true);
+    connectRun();
+    connectRows();
+    connectLogins();
     showState();
-    m_form->editField(m_place.folder.empty() ? "folder" : "address");
+    m_place->editEmpty();
 }
 
-/// The worker holds by itself what it works on, and ends soon.
 ShareWindow::~ShareWindow() {
-    m_stop.request_stop();
     m_table->disconnect(this);
-}
-
-void ShareWindow::makeForm() {
-    m_form = new RecordForm<Typed>(
-        [this](const QString& /*what*/, const RecordForm<Typed>::Change& change) { edit(change); });
-    m_form->text({.name = "folder",
-                  .label = tr("F&older"),
-                  .tip = tr("On this computer, with everything below it but hidden files"),
-                  .placeholder = tr("the folder that is shared")},
-                 &Typed::folder);
-    m_form->text({.name = "address",
-                  .label = tr("&Address"),
-                  .tip = tr("Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…"),
-                  .placeholder = "https://cloud.example.org/dav/team/"},
-                 &Typed::address);
-}
-
-QWidget* ShareWindow::makePlace() {
-    makeForm();
-    auto* const choose = new QPushButton(tr("Choose the folder…"));
-    connect(choose, &QPushButton::clicked, this, &ShareWindow::chooseFolder);
-    auto* const part = new QWidget;
-    auto* const line = new QHBoxLayout(part);
-    line->setContentsMargins(0, 0, 0, 0);
-    line->setSpacing(theme::Spacing);
-    line->addWidget(m_form, 1);
-    line->addWidget(choose, 0, Qt::AlignTop);
-    return part;
 }
 
 QWidget* ShareWindow::makeButtons() {
@@ -141,7 +84,9 @@ QWidget* ShareWindow::makeButtons() {
 }
 
 void ShareWindow::makeParts() {
-    m_placePart = makePlace();
+    m_place = new SharePlace(workspace());
+    connect(m_place, &SharePlace::changed, this, &ShareWindow::noteOtherPlace);
+    connect(m_place, &SharePlace::folderWanted, this, &ShareWindow::chooseFolder);
     m_fault = new FaultLabel;
     m_table = new ColumnTable(m_files, "files", this);
     m_table->setEmptyText(tr("Nothing is shared before it is shown here"));
@@ -150,7 +95,7 @@ void ShareWindow::makeParts() {
     auto* const column = new QVBoxLayout(main);
     column->setContentsMargins(theme::Spacing, theme::Spacing, theme::Spacing, theme::Spacing);
     column->setSpacing(theme::Spacing);
-    column->addWidget(m_placePart);
+    column->addWidget(m_place);
     column->addWidget(makeButtons());
     column->addWidget(m_fault);
     column->addWidget(m_table, 1);
@@ -165,7 +110,7 @@ void ShareWindow::makeParts() {
 }
 
 QStringList ShareWindow::paths() const {
-    return m_place.folder.empty() ? QStringList() : QStringList{qtText(m_place.folder)};
+    return place().folder.empty() ? QStringList() : QStringList{qtText(place().folder)};
 }
 
 bool ShareWindow::open(const QString& path) {
@@ -174,9 +119,7 @@ bool ShareWindow::open(const QString& path) {
         return false;
     }
     const QFileInfo file(path);
-    const QString folder = file.isDir() ? file.absoluteFilePath() : file.absolutePath();
-    const auto known = share::addressOfFolder(keptFolders(workspace()), folder.toStdString());
-    setPlace({folder.toStdString(), known.value_or(m_place.address)});
+    m_place->setFolder(file.isDir() ? file.absoluteFilePath() : file.absolutePath());
     return true;
 }
 
@@ -186,55 +129,36 @@ void ShareWindow::takeFiles(const QStringList& paths) {
 }
 
 void ShareWindow::setPlace(const Typed& place) {
-    if (isBusy())
-        return;
-    m_place = place;
-    m_form->show(&m_place, true);
-    noteOtherPlace();
-}
-
-void ShareWindow::edit(const std::function<void(Typed&)>& change) {
-    const std::string before = m_place.folder;
-    change(m_place);
-    // A folder that was shared before goes to where it went.
-    if (m_place.folder != before)
-        m_place.address = share::addressOfFolder(keptFolders(workspace()), m_place.folder)
-                              .value_or(m_place.address);
-    m_form->show(&m_place);
-    noteOtherPlace();
+    if (!isBusy())
+        m_place->set(place);
 }
 
 /// What was shown was of another place: it is not to be shared any more.
 void ShareWindow::noteOtherPlace() {
-    ++m_asked;
-    m_stop.request_stop();
-    m_isFindingLogin = false;
+    m_logins.giveUp();
+    m_run.cancel();
     m_rows.clear();
     m_survey.reset();
     m_fault->tell({});
     tellStatus({});
     showRows(true);
     showState();
+    emit pathsChanged();
 }
 
 void ShareWindow::chooseFolder() {
     if (isBusy())
         return;
     const QString folder =
-        QFileDialog::getExistingDirectory(this, tr("The folder to share"), qtText(m_place.folder));
+        QFileDialog::getExistingDirectory(this, tr("The folder to share"), qtText(place().folder));
     if (!folder.isEmpty())
         (void)open(folder);
 }
 
-fetch::Address ShareWindow::origin() const {
-    return share::folderAt(m_place.address);
-}
-
 share::ShareRequest ShareWindow::request() const {
-    const bool isFor = m_loginOrigin && m_loginOrigin->isSameOrigin(origin());
-    return {.folder = m_place.folder,
-            .address = m_place.address,
-            .login = isFor ? m_login : std::nullopt,
+    return {.folder = place().folder,
+            .address = place().address,
+            .login = m_logins.loginFor(m_place->address()),
             .caches = m_caches,
             .machine = QSysInfo::machineHostName().toStdString(),
             .pace = m_pace};
@@ -249,88 +173,31 @@ void ShareWindow::compare() {
     if (!commit() || isBusy())
         return;
     m_fault->tell({});
-    if (m_place.folder.empty() || !QFileInfo(qtText(m_place.folder)).isDir()) {
-        m_fault->tell(m_place.folder.empty()
-                          ? tr("There is no folder to share yet.")
-                          : tr("“%1” is no folder.").arg(qtText(m_place.folder)));
+    if (const QString fault = m_place->fault(); !fault.isEmpty()) {
+        m_fault->tell(fault);
         return;
     }
-    if (const auto fault = share::faultOfPlace(m_place.address)) {
-        m_fault->tell(qtText(*fault));
-        return;
-    }
-    QStringList kept;
-    for (const std::string& text :
-         share::keptWith(keptFolders(workspace()), {m_place.folder, m_place.address}))
-        kept.append(qtText(text));
-    workspace().remember(share::SharedFoldersKey, kept);
-    ++m_asked;
-    findLogin();
+    m_place->remember();
+    m_logins.find(m_place->address(), [this] {
+        tellStatus(tr("Both sides are looked at…"));
+        m_run.compare(request());
+        showState();
+    });
     showState();
 }
 
-/// The store is asked once for a server; what was typed meanwhile stands.
-void ShareWindow::findLogin() {
-    const fetch::Address from = origin();
-    if (m_loginOrigin && m_loginOrigin->isSameOrigin(from)) {
-        runCompare();
-        return;
-    }
-    m_isFindingLogin = true;
-    m_store->find(from, [this, from, asked = m_asked](const std::optional<fetch::WebLogin>& login) {
-        if (asked != m_asked)
-            return;
-        m_isFindingLogin = false;
-        m_login = login;
-        m_loginOrigin = from;
-        runCompare();
-    });
-}
-
-ShareWindow::Compared ShareWindow::compared(const share::ShareRequest& request,
-                                            const share::ShareSteps& steps) {
-    try {
-        return {.survey =
-                    std::make_shared<share::ShareSurvey>(share::compareFolder(request, steps))};
-    } catch (const share::ShareStopped&) {
-        return {};
-    } catch (const share::ShareError& error) {
-        return {.reason = qtText(error.what()), .wantsLogin = error.wantsLogin()};
-    } catch (const std::exception& error) {
-        return {.reason = qtText(error.what())};
-    }
-}
-
-void ShareWindow::runCompare() {
-    m_stop = std::stop_source();
-    tellStatus(tr("Both sides are looked at…"));
-    const std::shared_ptr<ShareReports> reports(new ShareReports,
-                                                [](ShareReports* one) { one->deleteLater(); });
-    connect(reports.get(), &ShareReports::compared, this,
-            [this, asked = m_asked](const QString& what, qint64 done, qint64 all) {
-                if (asked != m_asked || !isBusy())
-                    return;
+void ShareWindow::connectRun() {
+    connect(&m_run, &ShareRun::comparing, this,
+            [this](const QString& what, qint64 done, qint64 all) {
                 tellStatus(all > 0 ? tr("%1: %2 of %3").arg(what).arg(done).arg(all)
                                    : tr("%1: %2 files").arg(what).arg(done));
             });
-    m_work.run(
-        [place = request(), reports, stop = m_stop.get_token()] {
-            return compared(place, {.stop = stop,
-                                    .progress = [&](const std::string& what, std::int64_t done,
-                                                    std::int64_t all) {
-                                        emit reports->compared(qtText(what), done, all);
-                                    }});
-        },
-        [this, asked = m_asked](const Compared& found) {
-            if (asked == m_asked)
-                takeCompared(found);
-            else
-                showState();
-        });
-    showState();
+    connect(&m_run, &ShareRun::compared, this, &ShareWindow::takeCompared);
+    connect(&m_run, &ShareRun::stopped, this, &ShareWindow::showState);
+    connect(&m_run, &ShareRun::shared, this, &ShareWindow::endShare);
 }
 
-void ShareWindow::takeCompared(const Compared& found) {
+void ShareWindow::takeCompared(const ShareComparison& found) {
     tellStatus({});
     m_fault->tell(found.reason);
     m_survey = found.survey;
@@ -393,41 +260,17 @@ void ShareWindow::start() {
         row.isWaiting = row.isTicked;
         row.done = row.all = 0;
     }
-    m_isSharing = true;
-    runShare();
+    std::vector<ShareRun::Wanted> wanted;
+    for (std::size_t place = 0; place < m_rows.size(); ++place)
+        if (m_rows[place].isTicked)
+            wanted.emplace_back(static_cast<int>(place), m_rows[place].row);
+    tellStatus(tr("Files are being shared…"));
+    m_run.share(request(), m_survey, std::move(wanted));
     showRows();
     showState();
 }
 
-void ShareWindow::runShare() {
-    m_stop = std::stop_source();
-    tellStatus(tr("Files are being shared…"));
-    std::vector<std::pair<int, share::ShareRow>> wanted;
-    for (std::size_t place = 0; place < m_rows.size(); ++place)
-        if (m_rows[place].isTicked)
-            wanted.emplace_back(static_cast<int>(place), m_rows[place].row);
-    const std::shared_ptr<ShareReports> reports(new ShareReports,
-                                                [](ShareReports* one) { one->deleteLater(); });
-    listen(*reports);
-    m_work.run(
-        [wanted = std::move(wanted), survey = m_survey, place = request(), reports,
-         stop = m_stop.get_token()] {
-            share::FolderExchange exchange(place, *survey, {.stop = stop});
-            int running = 0;
-            exchange.setMoved(bytesReport(*reports, running));
-            for (const auto& [row, file] : wanted) {
-                running = row;
-                emit reports->begun(row);
-                emit reports->ended(row, exchange.carryOut(file));
-            }
-        },
-        [this] { endShare(); }, {.failed = [this](const std::exception_ptr& fault) {
-            m_fault->tell(qtText(messageOf(fault)));
-            endShare();
-        }});
-}
-
-void ShareWindow::listen(ShareReports& reports) {
+void ShareWindow::connectRows() {
     const auto row = [this](int place) -> SharedRow& {
         return m_rows.at(static_cast<std::size_t>(place));
     };
@@ -435,31 +278,31 @@ void ShareWindow::listen(ShareReports& reports) {
         if (!m_refresh.isActive())
             m_refresh.start();
     };
-    connect(&reports, &ShareReports::begun, this, [=](int place) {
+    connect(&m_run, &ShareRun::begun, this, [=](int place) {
         row(place).isWaiting = false;
         row(place).isRunning = true;
         showSoon();
     });
-    connect(&reports, &ShareReports::moved, this, [=](int place, qint64 done, qint64 all) {
+    connect(&m_run, &ShareRun::moved, this, [=](int place, qint64 done, qint64 all) {
         row(place).done = done;
         row(place).all = all;
         showSoon();
     });
-    connect(&reports, &ShareReports::ended, this,
-            [=, this](int place, const share::ShareResult& result) {
-                SharedRow& file = row(place);
-                file.isRunning = false;
-                file.isWaiting = false;
-                file.result = result;
-                // What failed stays ticked: starting again tries it again.
-                file.isTicked = file.canBeTicked();
-                showSoon();
-                showState();
-            });
+    connect(&m_run, &ShareRun::ended, this, [=, this](int place, const share::ShareResult& result) {
+        SharedRow& file = row(place);
+        file.isRunning = false;
+        file.isWaiting = false;
+        file.result = result;
+        // What failed stays ticked: starting again tries it again.
+        file.isTicked = file.canBeTicked();
+        showSoon();
+        showState();
+    });
 }
 
-void ShareWindow::endShare() {
-    m_isSharing = false;
+void ShareWindow::endShare(const QString& fault) {
+    if (!fault.isEmpty())
+        m_fault->tell(fault);
     m_refresh.stop();
     for (SharedRow& row : m_rows)
         row.isRunning = row.isWaiting = false;
@@ -472,45 +315,38 @@ void ShareWindow::endShare() {
 }
 
 void ShareWindow::cancel() {
-    m_stop.request_stop();
-    if (m_isSharing)
+    m_run.cancel();
+    if (isSharing())
         return; // what became of the rows is told
-    ++m_asked;
-    m_isFindingLogin = false;
+    m_logins.giveUp();
     tellStatus({});
     showState();
 }
 
 void ShareWindow::signIn() {
-    if (findChild<LoginDialog*>() || isBusy() || !commit())
+    if (m_logins.isAsking() || isBusy() || !commit())
         return;
-    if (const auto fault = share::faultOfPlace(m_place.address)) {
-        m_fault->tell(qtText(*fault));
-        return;
-    }
-    auto* const dialog = new LoginDialog(qtText(origin().site()), m_login, this);
-    connect(dialog, &QDialog::accepted, this, [this, dialog] { takeLogin(*dialog); });
-    dialog->open();
+    if (const QString fault = m_place->faultOfAddress(); !fault.isEmpty())
+        m_fault->tell(fault);
+    else
+        m_logins.ask(m_place->address());
 }
 
-void ShareWindow::takeLogin(const LoginDialog& dialog) {
-    m_login = dialog.login();
-    m_loginOrigin = origin();
-    if (dialog.isToKeep())
-        m_store->keep(*m_loginOrigin, *m_login, [this](bool isKept) {
-            if (!isKept)
-                m_fault->tell(tr("This computer has no password store that is open. The password "
-                                 "holds until this window is closed."));
-        });
-    if (m_rows.empty())
-        compare();
+void ShareWindow::connectLogins() {
+    connect(&m_logins, &ServerLogins::signedIn, this, [this] {
+        if (m_rows.empty())
+            compare();
+    });
+    connect(&m_logins, &ServerLogins::notKept, this, [this] {
+        m_fault->tell(tr("This computer has no password store that is open. The password "
+                         "holds until this window is closed."));
+    });
 }
 
 void ShareWindow::forgetLogin() {
-    m_login.reset();
-    m_loginOrigin = origin();
-    m_store->forget(*m_loginOrigin);
-    tellStatus(tr("The password of %1 was forgotten.").arg(qtText(m_loginOrigin->site())));
+    const fetch::Address server = m_place->address();
+    m_logins.forget(server);
+    tellStatus(tr("The password of %1 was forgotten.").arg(qtText(server.site())));
 }
 
 void ShareWindow::showRows(bool isOther) {
@@ -519,7 +355,7 @@ void ShareWindow::showRows(bool isOther) {
 
 void ShareWindow::showState() {
     const bool isFree = !isBusy();
-    m_placePart->setEnabled(isFree);
+    m_place->setEnabled(isFree);
     m_compareButton->setEnabled(isFree);
     m_startButton->setEnabled(isFree && hasTicked());
     m_cancelButton->setEnabled(!isFree);
@@ -528,7 +364,7 @@ void ShareWindow::showState() {
         m_rows, [](const SharedRow& row) { return row.isWaiting || row.isRunning; });
     const auto ended =
         std::ranges::count_if(m_rows, [](const SharedRow& row) { return row.result.has_value(); });
-    m_progress->setRange(0, m_isSharing ? static_cast<int>(waiting + ended) : 0);
+    m_progress->setRange(0, isSharing() ? static_cast<int>(waiting + ended) : 0);
     m_progress->setValue(static_cast<int>(ended));
     m_progress->setFormat(tr("%v of %m files"));
     m_actions->refresh();

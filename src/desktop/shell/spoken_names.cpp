@@ -58,6 +58,9 @@ const QHash<QString, const char*>& namesOfParts() {
         {"filmList", QT_TRANSLATE_NOOP("SpokenNames", "Films")},
         {"films", QT_TRANSLATE_NOOP("SpokenNames", "Films")},
         {"files", QT_TRANSLATE_NOOP("SpokenNames", "Files")},
+        {"namingPattern", QT_TRANSLATE_NOOP("SpokenNames", "Pattern of the names")},
+        {"plannedNames", QT_TRANSLATE_NOOP("SpokenNames", "Names now and then")},
+        {"renderJobs", QT_TRANSLATE_NOOP("SpokenNames", "Films being composed")},
         {"recentFiles", QT_TRANSLATE_NOOP("SpokenNames", "Recent files")},
         {"keptWork", QT_TRANSLATE_NOOP("SpokenNames", "Work kept")},
     };

@@ -2,6 +2,7 @@
 
 #include "common/json_decode.h"
 #include "common/json_encode.h"
+#include "common/record_equality.h"
 
 #include <algorithm>
 #include <ranges>
@@ -78,6 +79,16 @@ void takeStarts(TakingState& state, const JsonDocument& kept) {
 int startsWithoutSplit(const TakingState& state) {
     return static_cast<int>(std::ranges::count_if(state.runs, hasStartAlone)) +
            static_cast<int>(state.trialStarts.size());
+}
+
+std::optional<std::size_t> firstOtherRun(const TakingState& state, const TakingState& other) {
+    const auto isUntouched = [](const TakenRun& a, const TakenRun& b) {
+        return isSame(*a.record, *b.record);
+    };
+    const auto changed = std::ranges::mismatch(state.runs, other.runs, isUntouched).in1;
+    if (changed == state.runs.end())
+        return std::nullopt;
+    return static_cast<std::size_t>(changed - state.runs.begin());
 }
 
 } // namespace kavela::desktop

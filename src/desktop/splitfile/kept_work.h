@@ -2,6 +2,8 @@
 
 #include "desktop/splitfile/taking_state.h"
 
+#include <cstddef>
+#include <optional>
 #include <string>
 
 namespace kavela {
@@ -20,5 +22,10 @@ void takeStarts(TakingState& state, const JsonDocument& kept);
 
 /// How many runs and time trials have a start mark and no split.
 [[nodiscard]] int startsWithoutSplit(const TakingState& state);
+
+/// The first run that is not as it is in the other state, which work went on with; nothing where
+/// all are the same.
+[[nodiscard]] std::optional<std::size_t> firstOtherRun(const TakingState& state,
+                                                       const TakingState& other);
 
 } // namespace kavela::desktop

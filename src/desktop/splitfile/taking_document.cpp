@@ -1,13 +1,13 @@
 #include "desktop/splitfile/taking_document.h"
 
 #include "common/json_encode.h"
-#include "common/record_equality.h"
 #include "common/safe_file.h"
 #include "desktop/shell/disk_worker.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/film_places.h"
+#include "desktop/splitfile/film_runs.h"
 #include "desktop/splitfile/kept_work.h"
 #include "desktop/splitfile/taking_edits.h"
 #include "desktop/splitfile/taking_files.h"
@@ -15,7 +15,6 @@
 #include "splitdata/loader.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/messages.h"
-#include "splittaking/penalties.h"
 #include "splittaking/perfect_time.h"
 #include "splittaking/training_collection.h"
 #include "splittaking/video_names.h"
@@ -36,14 +35,6 @@ namespace {
 
 constexpr const char* FilmPatternKey = "filmNames";
 
-/// What the name of a run's first film tells.
-void takeFilmName(athletedata031& run, const std::string& pattern) {
-    FilmFacts facts = filmFacts(run.videoname.front(), pattern);
-    run.names = std::move(facts.names);
-    run.phase = std::move(facts.phase);
-    run.cat = std::move(facts.category);
-}
-
 } // namespace
 
 TakingDocument::TakingDocument(Workspace& workspace, Autosave autosave, QObject* parent)
@@ -60,8 +51,9 @@ bool TakingDocument::openFolder(const QString& folder, QWidget* over) {
     const QString absolute = QDir(folder).absolutePath();
     if (const QString file = splitFileIn(absolute); !file.isEmpty())
         return openFile(file, over);
-    splittakerdata031 document = newDocument(absolute);
-    document.athletes = runsOf(filmsIn(absolute), document.info.gates);
+    splittakerdata031 document = newRaceIn(absolute, workspace());
+    document.athletes =
+        runsOfFilms(filmsIn(absolute), filmPattern().toStdString(), document.info.gates);
     const QString file = absolute + '/' + QFileInfo(absolute).fileName() + ".kvx";
     TakingState state = stateOf(std::move(document));
     state.day = m_days.read(file, over);
@@ -123,24 +115,11 @@ bool TakingDocument::recover(const std::string& content) {
     auto state = recoveredState(content, path(), workspace());
     if (!state)
         return false;
-    const auto isUntouched = [](const TakenRun& a, const TakenRun& b) {
-        return isSame(*a.record, *b.record);
-    };
-    const auto changed = std::ranges::mismatch(state->runs, value().runs, isUntouched).in1;
-    if (changed != state->runs.end())
-        m_workedOn = static_cast<int>(changed - state->runs.begin());
+    if (const auto changed = firstOtherRun(*state, value()))
+        m_workedOn = static_cast<int>(*changed);
     state->day = value().day; // which was kept apart from this
     startFrom(std::move(*state));
     return true;
-}
-
-splittakerdata031 TakingDocument::newDocument(const QString& folder) const {
-    splittakerdata031 document;
-    document.info.date = workspace().clock()();
-    document.info.session = "Race";
-    document.info.title = QFileInfo(folder).fileName().toStdString();
-    document.info.totalsplits = workspace().preferences().integer("predeterminatedsplits");
-    return document;
 }
 
 QString TakingDocument::filmPattern() const {
@@ -152,28 +131,7 @@ QString TakingDocument::filmPattern() const {
 
 void TakingDocument::readFilmNames(const QString& pattern) {
     workspace().remember(FilmPatternKey, {pattern});
-    TakingState after = value();
-    for (TakenRun& run : after.runs) {
-        if (run.record->videoname.empty())
-            continue;
-        auto read = std::make_shared<athletedata031>(*run.record);
-        takeFilmName(*read, pattern.toStdString());
-        run.record = std::move(read);
-    }
-    put(tr("names of the films"), std::move(after));
-}
-
-std::vector<athletedata031> TakingDocument::runsOf(const QStringList& films,
-                                                   std::int64_t gates) const {
-    std::vector<athletedata031> runs;
-    for (const QString& film : films) {
-        athletedata031 run;
-        run.videoname = {film.toStdString()};
-        takeFilmName(run, filmPattern().toStdString());
-        (void)fitPenalties(run, gates);
-        runs.push_back(std::move(run));
-    }
-    return runs;
+    put(tr("names of the films"), withFilmNames(value(), pattern.toStdString()));
 }
 
 const athletedata031& TakingDocument::run(int index) const {
@@ -303,37 +261,23 @@ void TakingDocument::addRun(const QString& what, athletedata031 run) {
 }
 
 void TakingDocument::removeRun(int index) {
-    if (index < 0 || index >= runCount())
-        return;
-    TakingState after = value();
-    after.runs.erase(after.runs.begin() + index);
-    put(tr("run removed"), std::move(after));
+    if (index >= 0 && index < runCount())
+        put(tr("run removed"), withoutRun(value(), static_cast<std::size_t>(index)));
 }
 
 void TakingDocument::moveRun(int index, int to) {
     const auto isRun = [this](int place) { return place >= 0 && place < runCount(); };
-    if (!isRun(index) || !isRun(to) || to == index)
-        return;
-    TakingState after = value();
-    auto moved = std::move(after.runs[static_cast<std::size_t>(index)]);
-    after.runs.erase(after.runs.begin() + index);
-    after.runs.insert(after.runs.begin() + to, std::move(moved));
-    put(tr("run moved"), std::move(after));
+    if (isRun(index) && isRun(to) && to != index)
+        put(tr("run moved"),
+            withRunMoved(value(), static_cast<std::size_t>(index), static_cast<std::size_t>(to)));
 }
 
 int TakingDocument::addFilms(const QStringList& names) {
-    QStringList fresh;
-    for (const QString& name : names) {
-        const bool isKnown = std::ranges::any_of(value().runs, [&](const TakenRun& run) {
-            const std::vector<std::string>& films = run.record->videoname;
-            return std::ranges::find(films, name.toStdString()) != films.end();
-        });
-        if (!isKnown)
-            fresh.append(name);
-    }
+    const QStringList fresh = filmsOfNoRun(value(), names);
     if (fresh.isEmpty())
         return 0;
-    put(tr("videos imported"), withMoreRuns(value(), runsOf(fresh, info().gates)));
+    put(tr("videos imported"),
+        withMoreRuns(value(), runsOfFilms(fresh, filmPattern().toStdString(), info().gates)));
     return static_cast<int>(fresh.size());
 }
 
@@ -342,21 +286,14 @@ void TakingDocument::importSplitFile(const QString& file, QWidget* over) {
     if (!document)
         return;
     TakingState imported = stateOf(std::move(*document));
-    TakingState after = value();
-    if (imported.runs.empty() && !after.runs.empty()) {
+    if (imported.runs.empty() && !value().runs.empty()) {
         workspace().showAlert({"", tr("“%1” holds no runs. Nothing was imported.")
                                        .arg(QFileInfo(file).fileName())
                                        .toStdString()},
                               over);
         return;
     }
-    if (after.runs.empty()) {
-        imported.day = after.day;
-        after = std::move(imported);
-    } else {
-        after.runs.insert(after.runs.end(), imported.runs.begin(), imported.runs.end());
-    }
-    put(tr("split file imported"), std::move(after));
+    put(tr("split file imported"), withRace(value(), std::move(imported)));
 }
 
 void TakingDocument::takeResults(const ResultsList& list, const std::vector<ResultOfRun>& runs) {
@@ -385,7 +322,7 @@ void TakingDocument::reset(QWidget* over) {
              messages::AskToDeleteAll + std::string("\n\n") + what.toStdString()},
             tr(messages::ResetButton), over))
         return;
-    TakingState emptied = stateOf(newDocument(folder()));
+    TakingState emptied = stateOf(newRaceIn(folder(), workspace()));
     emptied.day = value().day; // the start list is no data of a run
     put(tr("reset"), std::move(emptied));
     logPerfectTime();

@@ -135,9 +135,6 @@ private:
     [[nodiscard]] bool openCopy(const RecognisedSplitFile& older, const QString& file,
                                 QWidget* over);
     void startCopy(splittakerdata031 document, const QString& copy, QWidget* over);
-    [[nodiscard]] splittakerdata031 newDocument(const QString& folder) const;
-    [[nodiscard]] std::vector<athletedata031> runsOf(const QStringList& films,
-                                                     std::int64_t gates) const;
     [[nodiscard]] splittakerdata031 countedTimes() const;
     void put(const QString& what, TakingState after);
     [[nodiscard]] bool holdsNothing() const;

@@ -78,6 +78,32 @@ TakingState withMoreRuns(const TakingState& before, std::vector<athletedata031> 
     return after;
 }
 
+TakingState withoutRun(const TakingState& before, std::size_t run) {
+    TakingState after = before;
+    (void)after.runs.at(run);
+    after.runs.erase(after.runs.begin() + static_cast<std::ptrdiff_t>(run));
+    return after;
+}
+
+TakingState withRunMoved(const TakingState& before, std::size_t run, std::size_t to) {
+    TakingState after = before;
+    TakenRun moved = std::move(after.runs.at(run));
+    (void)after.runs.at(to);
+    after.runs.erase(after.runs.begin() + static_cast<std::ptrdiff_t>(run));
+    after.runs.insert(after.runs.begin() + static_cast<std::ptrdiff_t>(to), std::move(moved));
+    return after;
+}
+
+TakingState withRace(const TakingState& before, TakingState race) {
+    TakingState after = before;
+    if (after.runs.empty()) {
+        race.day = after.day;
+        return race;
+    }
+    after.runs.insert(after.runs.end(), race.runs.begin(), race.runs.end());
+    return after;
+}
+
 TakingState withResults(const TakingState& before, const ResultsList& list,
                         const std::vector<ResultOfRun>& runs) {
     TakingState after = before;

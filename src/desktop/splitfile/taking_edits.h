@@ -32,6 +32,14 @@ namespace kavela::desktop {
 /// With the runs at the end of the list, fitted to the gates of the course.
 [[nodiscard]] TakingState withMoreRuns(const TakingState& before, std::vector<athletedata031> runs);
 
+/// Throws std::out_of_range for a run that is not there.
+[[nodiscard]] TakingState withoutRun(const TakingState& before, std::size_t run);
+/// With a run at another place of the list. Throws std::out_of_range for places that are not there.
+[[nodiscard]] TakingState withRunMoved(const TakingState& before, std::size_t run, std::size_t to);
+/// With the runs of another race behind its own; a state without any becomes that race, and keeps
+/// its day.
+[[nodiscard]] TakingState withRace(const TakingState& before, TakingState race);
+
 /// Adds the lines of an official list to the race, and real time and penalty to the runs that have
 /// one of them. Throws std::out_of_range for a run or line that is not there.
 [[nodiscard]] TakingState withResults(const TakingState& before, const ResultsList& list,

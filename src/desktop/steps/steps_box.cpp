@@ -48,6 +48,9 @@ void StepsBox::showSteps() {
         const bool isDone = m_steps.isDone(static_cast<FirstSteps::Step>(step));
         m_lines[step]->setText((isDone ? QStringLiteral("✓  ") : QStringLiteral("○  ")) +
                                texts[step]);
+        // A sign in front of a line says nothing to those who hear it.
+        m_lines[step]->setAccessibleName(isDone ? tr("Done: %1").arg(texts[step])
+                                                : tr("To do: %1").arg(texts[step]));
         m_lines[step]->setForegroundRole(isDone ? QPalette::PlaceholderText : QPalette::WindowText);
     }
     m_title->setText(m_steps.isAllDone() ? tr("All first steps are done. F1 tells the rest.")

@@ -1,6 +1,7 @@
 #include "desktop/tables/offered_lists.h"
 
 #include "common/reference_date.h"
+#include "common/text.h"
 #include "common/text_file.h"
 #include "desktop/shell/qt_text.h"
 #include "performance/race_tables.h"
@@ -55,8 +56,8 @@ OfferedLists listsOfRace(const QString& path) {
         return offered;
     if (!offered.left.isEmpty())
         throw TableError(offered.left.join('\n').toStdString());
-    throw TableError("The race carries no results list. Open the list itself; \"Keep with the "
-                     "race\" puts it there.");
+    throw TableError(say("The race carries no results list. Open the list itself; \"Keep with the "
+                         "race\" puts it there."));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "desktop/tables/table_document.h"
 
 #include "common/error.h"
+#include "common/text.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
@@ -105,7 +106,7 @@ QString TableDocument::textOfPlace(const Place& place) const {
 
 void TableDocument::take(const TableStep& step) {
     if (!hasList())
-        throw TableError("No list is open.");
+        throw TableError(say("No list is open."));
     TableSteps steps = value().steps->with(step);
     edit(qtText(stepText(step)), [&](TableWork& work) { work.steps = std::move(steps); });
 }

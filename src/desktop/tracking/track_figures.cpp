@@ -26,10 +26,10 @@ std::optional<double> downOf(const std::optional<Place>& place) {
     return place ? std::optional(place->y) : std::nullopt;
 }
 
-Column<PathFigure> figureColumn(const char* title, const char* unit, int decimals,
+Column<PathFigure> figureColumn(const QString& title, const char* unit, int decimals,
                                 std::function<std::optional<double>(const PathFigure&)> figure) {
     Column<PathFigure> column =
-        numberColumn<PathFigure>(trackText(title), std::move(figure),
+        numberColumn<PathFigure>(title, std::move(figure),
                                  [decimals](double value) { return shownNumber(value, decimals); });
     column.unit = QString::fromUtf8(unit);
     return column;
@@ -42,38 +42,43 @@ QString speedSentence(const std::vector<PathFigure>& figures, bool isScaleOnly) 
             fastest = &figure;
     if (!fastest)
         return {};
-    QString sentence =
-        trackText("Fastest at %1 s of the film: %2 m/s")
-            .arg(shownHundredths(*fastest->seconds), shownNumber(*fastest->speed, 1));
+    const QString at = shownHundredths(*fastest->seconds);
+    QString speed = shownNumber(*fastest->speed, 1);
     if (fastest->speedError)
-        sentence += QStringLiteral(" ± ") + shownNumber(*fastest->speedError, 1);
-    if (isScaleOnly)
-        sentence += trackText(" (a scale only: it holds near the two points and along their line)");
-    return sentence + '.';
+        speed += QStringLiteral(" ± ") + shownNumber(*fastest->speedError, 1);
+    return (isScaleOnly ? trackText("Fastest at %1 s of the film: %2 m/s (a scale only: it holds "
+                                    "near the two points and along their line).")
+                        : trackText("Fastest at %1 s of the film: %2 m/s."))
+        .arg(at, speed);
 }
 
 } // namespace
 
 std::vector<Column<PathFigure>> pathColumns() {
-    return {
-        figureColumn("Frame", "", 0,
-                     [](const PathFigure& figure) {
-                         return std::optional(static_cast<double>(figure.frame));
-                     }),
-        figureColumn("Time", "s", 3, [](const PathFigure& figure) { return figure.seconds; }),
-        figureColumn("x", "px", 1, [](const PathFigure& figure) { return acrossOf(figure.place); }),
-        figureColumn("y", "px", 1, [](const PathFigure& figure) { return downOf(figure.place); }),
-        figureColumn("Steadied x", "px", 1,
-                     [](const PathFigure& figure) { return acrossOf(figure.steadied); }),
-        figureColumn("Steadied y", "px", 1,
-                     [](const PathFigure& figure) { return downOf(figure.steadied); }),
-        figureColumn("Across", "m", 2,
-                     [](const PathFigure& figure) { return acrossOf(figure.water); }),
-        figureColumn("Along", "m", 2,
-                     [](const PathFigure& figure) { return downOf(figure.water); }),
-        figureColumn("Speed", "m/s", 2, [](const PathFigure& figure) { return figure.speed; }),
-        figureColumn("±", "m/s", 2, [](const PathFigure& figure) { return figure.speedError; }),
-        figureColumn("Score", "", 2, [](const PathFigure& figure) { return figure.score; })};
+    return {figureColumn(trackText("Frame"), "", 0,
+                         [](const PathFigure& figure) {
+                             return std::optional(static_cast<double>(figure.frame));
+                         }),
+            figureColumn(trackText("Time"), "s", 3,
+                         [](const PathFigure& figure) { return figure.seconds; }),
+            figureColumn(QStringLiteral("x"), "px", 1,
+                         [](const PathFigure& figure) { return acrossOf(figure.place); }),
+            figureColumn(QStringLiteral("y"), "px", 1,
+                         [](const PathFigure& figure) { return downOf(figure.place); }),
+            figureColumn(trackText("Steadied x"), "px", 1,
+                         [](const PathFigure& figure) { return acrossOf(figure.steadied); }),
+            figureColumn(trackText("Steadied y"), "px", 1,
+                         [](const PathFigure& figure) { return downOf(figure.steadied); }),
+            figureColumn(trackText("Across"), "m", 2,
+                         [](const PathFigure& figure) { return acrossOf(figure.water); }),
+            figureColumn(trackText("Along"), "m", 2,
+                         [](const PathFigure& figure) { return downOf(figure.water); }),
+            figureColumn(trackText("Speed"), "m/s", 2,
+                         [](const PathFigure& figure) { return figure.speed; }),
+            figureColumn(QStringLiteral("±"), "m/s", 2,
+                         [](const PathFigure& figure) { return figure.speedError; }),
+            figureColumn(trackText("Score"), "", 2,
+                         [](const PathFigure& figure) { return figure.score; })};
 }
 
 ChartContent speedContent(const std::vector<PathFigure>& figures, bool hasPlane, bool isScaleOnly) {

@@ -5,6 +5,8 @@
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_memory.h"
 #include "desktop/film/film_view.h"
+#include "desktop/shell/background_work.h"
+#include "desktop/shell/disk_worker.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
@@ -426,19 +428,23 @@ void TrackingWindow::exportCsv() {
     const QString path = QFileDialog::getSaveFileName(
         this, tr("Export the path"),
         film.absolutePath() + '/' + film.completeBaseName() + ".path.csv", tr("Tables (*.csv)"));
-    if (path.isEmpty())
-        return;
-    try {
+    if (!path.isEmpty())
         writeCsv(path);
-        tell(tr("%1 is there.").arg(QFileInfo(path).fileName()));
-    } catch (const FileError& error) {
-        workspace().showAlert({tr("The path could not be exported").toStdString(), error.what()},
-                              this);
-    }
 }
 
-void TrackingWindow::writeCsv(const QString& path) const {
-    writeFileSafely(path.toStdString(), pathCsv(figures()));
+void TrackingWindow::writeCsv(const QString& path) {
+    disk::runAwaited(
+        *this,
+        [path = path.toStdString(), figures = figures()] {
+            writeFileSafely(path, pathCsv(figures));
+        },
+        [this, path](const std::exception_ptr& fault) {
+            if (fault)
+                workspace().showAlert(
+                    {tr("The path could not be exported").toStdString(), messageOf(fault)}, this);
+            else
+                tell(tr("%1 is there.").arg(QFileInfo(path).fileName()));
+        });
 }
 
 } // namespace kavela::desktop

@@ -61,8 +61,8 @@ public:
     void setTakesPoints(bool takesPoints);
     void forgetPoints();
     void exportCsv();
-    /// The same to a file. Throws FileError.
-    void writeCsv(const QString& path) const;
+    /// The same to a file, beside the window.
+    void writeCsv(const QString& path);
 
 signals:
     /// Other figures are shown.

@@ -40,6 +40,7 @@ constexpr std::array Markers{
     Marker{"countedText", '(', Texts::CountedWord},
     Marker{"seasonCounted", '(', Texts::CountedWord},
     Marker{"Rule", '{', Texts::RuleTexts},
+    Marker{"Label", '{', Texts::SecondAlone},
     Marker{"input", '(', Texts::FirstAlone},
     Marker{"note", '(', Texts::FirstAlone},
     Marker{"uncertain", '(', Texts::SecondAlone},

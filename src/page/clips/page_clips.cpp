@@ -2,6 +2,7 @@
 
 #include "common/error.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 #include "video/index.h"
 #include "video/thumbnail.h"
 #include "video/writing/film_cut.h"
@@ -30,14 +31,14 @@ void makeFolder(const fs::path& folder) {
 /// Beside its place first: a clip that is there stays until the new one can take it.
 std::optional<fs::path> cutAside(const ClipOrder& order, const std::stop_token& stop) {
     if (std::error_code none; !fs::exists(order.film, none))
-        throw std::runtime_error("The film is not there.");
+        throw std::runtime_error(say("The film is not there."));
     const auto film = readVideoIndex(order.film, stop);
     if (!film)
         return std::nullopt;
     const auto first = film->frameAt(order.from);
     const auto last = film->frameAt(order.to);
     if (!first || !last || *last <= *first)
-        throw std::runtime_error("The marks of the run lie behind the end of the film.");
+        throw std::runtime_error(say("The marks of the run lie behind the end of the film."));
     makeFolder(order.target.parent_path());
     fs::path aside = order.target;
     aside += " new.mp4"; // the end follows the film

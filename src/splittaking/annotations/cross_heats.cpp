@@ -1,5 +1,7 @@
 #include "splittaking/annotations/cross_heats.h"
 
+#include "common/text.h"
+
 #include <algorithm>
 #include <set>
 
@@ -24,9 +26,9 @@ std::optional<std::string> namedTwice(const Names& names) {
 std::optional<std::string> faultOfOrder(const rounddata030& heat, const Names& order) {
     for (const std::string& name : order)
         if (!contains(heat.athletes, name))
-            return name + " is not in this heat.";
+            return say("{} is not in this heat.", name);
     if (const auto name = namedTwice(order))
-        return *name + " stands twice in the order.";
+        return say("{} stands twice in the order.", *name);
     return std::nullopt;
 }
 
@@ -35,11 +37,12 @@ std::optional<std::string> faultOfAction(const rounddata030& heat, const actiond
     boats.push_back(action.attacker);
     for (const std::string& name : boats)
         if (!contains(heat.athletes, name))
-            return (name.empty() ? "An unnamed boat" : name) + " is not in this heat.";
+            return name.empty() ? say("An unnamed boat is not in this heat.")
+                                : say("{} is not in this heat.", name);
     if (contains(action.defenders, action.attacker))
-        return action.attacker + " cannot attack and defend at once.";
+        return say("{} cannot attack and defend at once.", action.attacker);
     if (const auto name = namedTwice(action.defenders))
-        return *name + " stands twice among the defenders.";
+        return say("{} stands twice among the defenders.", *name);
     return std::nullopt;
 }
 
@@ -78,9 +81,9 @@ std::size_t insertAction(rounddata030& heat, actiondata030 action) {
 
 std::size_t addHeat(crossdata030& cross, std::string videoname, Names athletes) {
     if (athletes.empty() || athletes.size() > BoatsInHeat)
-        throw std::invalid_argument("A heat has one to four boats.");
+        throw std::invalid_argument(say("A heat has one to four boats."));
     if (const auto name = namedTwice(athletes))
-        throw std::invalid_argument(*name + " stands twice in the heat.");
+        throw std::invalid_argument(say("{} stands twice in the heat.", *name));
     cross.eliphase.push_back({std::move(videoname), std::move(athletes), {}, {}});
     return cross.eliphase.size() - 1;
 }
@@ -93,7 +96,7 @@ void removeHeat(crossdata030& cross, std::size_t heat) {
 void renameBoat(rounddata030& heat, std::size_t boat, std::string name) {
     const std::string before = entryOf(heat.athletes, boat, "boat");
     if (name != before && contains(heat.athletes, name))
-        throw std::invalid_argument(name + " is already in this heat.");
+        throw std::invalid_argument(say("{} is already in this heat.", name));
     heat.athletes[boat] = name;
     for (generaldata030& general : heat.generals)
         rename(general.order, before, name);
@@ -167,15 +170,14 @@ void removeAction(rounddata030& heat, std::size_t place) {
 Names faultsOf(const rounddata030& heat, const crossinfodata030& course) {
     Names faults;
     if (heat.athletes.size() > BoatsInHeat)
-        faults.push_back("There are more than four boats in this heat.");
+        faults.push_back(say("There are more than four boats in this heat."));
     if (const auto name = namedTwice(heat.athletes))
-        faults.push_back(*name + " stands twice in the heat.");
+        faults.push_back(say("{} stands twice in the heat.", *name));
     for (const generaldata030& general : heat.generals) {
-        const std::string gate = "Gate " + std::to_string(general.gate) + ": ";
         if (placeOnCourse(course, general.gate) == course.gates.size())
-            faults.push_back(gate + "it is not on the cross course.");
+            faults.push_back(say("Gate {}: it is not on the cross course.", general.gate));
         if (const auto fault = faultOfOrder(heat, general.order))
-            faults.push_back(gate + *fault);
+            faults.push_back(say("Gate {}: {}", general.gate, *fault));
     }
     for (std::size_t k = 0; k < heat.actions.size(); ++k)
         if (const auto fault = faultOfAction(heat, heat.actions[k]))

@@ -1,5 +1,7 @@
 #include "splittaking/annotations/gate_marks.h"
 
+#include "common/text.h"
+
 #include <algorithm>
 
 namespace kavela {
@@ -74,11 +76,11 @@ GateTimes timesOf(std::span<const CMTime> marks) {
 std::optional<std::string> faultOfMarks(std::span<const CMTime> marks) {
     const GateTimes times = timesOf(marks);
     if (times.total < 0)
-        return "The exit is marked before the entrance.";
+        return say("The exit is marked before the entrance.");
     if (times.entrance < 0)
-        return "The middle is marked before the entrance.";
+        return say("The middle is marked before the entrance.");
     if (times.exit < 0)
-        return "The exit is marked before the middle.";
+        return say("The exit is marked before the middle.");
     return std::nullopt;
 }
 

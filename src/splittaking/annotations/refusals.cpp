@@ -1,5 +1,6 @@
 #include "splittaking/annotations/refusals.h"
 
+#include "common/text.h"
 #include "splittaking/annotations/camera_sync.h"
 #include "splittaking/annotations/custom_tags.h"
 #include "splittaking/mark_order.h"
@@ -26,7 +27,7 @@ Refusal microSplitAt(const athletedata031& run, const CMTime& moment,
                      std::optional<std::size_t> moved) {
     for (std::size_t k = 0; k < run.microsplits.size(); ++k)
         if (k != moved && isSame(run.microsplits[k].cmtime, moment))
-            return alreadyThere("a micro split");
+            return alreadyThere(say("a micro split"));
     return std::nullopt;
 }
 
@@ -36,7 +37,7 @@ Refusal strokeAt(const athletedata031& run, const CMTime& moment, std::size_t ca
         const strokessdata025& stroke = run.strokes[k];
         if (k != moved && stroke.hand == hand && camera < stroke.cmtimes.size() &&
             isSame(stroke.cmtimes[camera], moment))
-            return alreadyThere("a stroke of this hand");
+            return alreadyThere(say("a stroke of this hand"));
     }
     return std::nullopt;
 }
@@ -50,7 +51,7 @@ Refusal tagAt(const athletedata031& run, std::int64_t video, const std::string& 
                                                      tag.name == name && tag.moment &&
                                                      isSame(*tag.moment, moment);
                                           }),
-                      "the tag " + name);
+                      say("the tag {}", name));
 }
 
 /// A mark on one of several cameras: the others stay in step with the first.
@@ -120,7 +121,7 @@ Refusal refusalOfPenalty(const athletedata031& run, const PenaltyDetail& detail)
     const auto entries = penaltyEntries(run);
     if (std::ranges::none_of(entries, says))
         return std::nullopt;
-    return "Gate " + std::to_string(detail.gate) + " has this penalty already.";
+    return say("Gate {} has this penalty already.", detail.gate);
 }
 
 Refusal refusalOfSync(const athletedata031& run, std::size_t camera, const CMTime& own,
@@ -131,7 +132,7 @@ Refusal refusalOfSync(const athletedata031& run, std::size_t camera, const CMTim
                                               return isSame(mark.own, own) &&
                                                      isSame(mark.fixed, fixed);
                                           }),
-                      "this moment");
+                      say("this moment"));
 }
 
 Refusal refusalOfGateMark(std::span<const CMTime> marks, GateMark which, const CMTime& moment,
@@ -152,23 +153,23 @@ Refusal refusalOfGateMark(std::span<const CMTime> marks, GateMark which, const C
 }
 
 Refusal refusalOfLossMark(const timeloss031& loss, LossMark which, const CMTime& moment) {
-    const auto neighbour = [&](LossMark of, const char* name) {
+    const auto neighbour = [&](LossMark of, const std::string& name) {
         const auto taken = markOf(loss, of);
         return taken ? std::optional(Neighbour{name, *taken}) : std::nullopt;
     };
-    constexpr const char* Start = "the start of the stretch";
-    constexpr const char* End = "the end of the stretch";
+    const std::string start = say("the start of the stretch");
+    const std::string end = say("the end of the stretch");
     switch (which) {
     case LossMark::OwnStart:
-        return refusalBetween(std::nullopt, neighbour(LossMark::OwnEnd, End), moment);
+        return refusalBetween(std::nullopt, neighbour(LossMark::OwnEnd, end), moment);
     case LossMark::VersusStart:
-        return refusalBetween(std::nullopt, neighbour(LossMark::VersusEnd, End), moment);
+        return refusalBetween(std::nullopt, neighbour(LossMark::VersusEnd, end), moment);
     case LossMark::OwnEnd:
-        return refusalBetween(neighbour(LossMark::OwnStart, Start), std::nullopt, moment);
+        return refusalBetween(neighbour(LossMark::OwnStart, start), std::nullopt, moment);
     case LossMark::VersusEnd:
         break;
     }
-    return refusalBetween(neighbour(LossMark::VersusStart, Start), std::nullopt, moment);
+    return refusalBetween(neighbour(LossMark::VersusStart, start), std::nullopt, moment);
 }
 
 Refusal refusalOfMove(const athletedata031& run, const MarkHandle& handle, const CMTime& moment) {

@@ -1,5 +1,6 @@
 #include "splittaking/annotations/time_losses.h"
 
+#include "common/text.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/marking.h"
 
@@ -71,12 +72,17 @@ void recompute(timeloss031& loss) {
 
 std::optional<std::string> faultOfMarks(const timeloss031& loss) {
     for (const std::size_t side : {OwnSide, VersusSide}) {
-        const std::string film = side == OwnSide ? "this run" : "the run of " + loss.versus;
+        const bool isOwn = side == OwnSide;
         const auto seconds = stretchSeconds(loss, side);
         if (!seconds)
-            return "Start and end of the stretch are not both marked in " + film + ".";
+            return isOwn ? say("Start and end of the stretch are not both marked in this run.")
+                         : say("Start and end of the stretch are not both marked in the run of {}.",
+                               loss.versus);
         if (*seconds <= 0)
-            return "The end of the stretch is not marked after its start in " + film + ".";
+            return isOwn ? say("The end of the stretch is not marked after its start in this run.")
+                         : say("The end of the stretch is not marked after its start in the run of "
+                               "{}.",
+                               loss.versus);
     }
     return std::nullopt;
 }

@@ -1,6 +1,7 @@
 #include "splittaking/folder/film_naming.h"
 
 #include "common/folded_text.h"
+#include "common/text.h"
 #include "splittaking/film_words.h"
 #include "splittaking/video_names.h"
 
@@ -43,8 +44,8 @@ std::string valueFor(const ListedFilm& film, std::string_view placeholder) {
 
 std::string wordFor(std::string_view placeholder) {
     if (placeholder == "name")
-        return "no name is known";
-    return "no " + std::string(placeholder) + " is known";
+        return say("no name is known");
+    return say("no {} is known", translated(placeholder));
 }
 
 /// What some file system does not take in a name, or what would make another folder of it.
@@ -85,7 +86,7 @@ NamedFilm namedBy(std::string_view pattern, const ListedFilm& film) {
     }
     named.stem = asFileName(named.stem);
     if (named.stem.empty() && named.fault.empty())
-        named.fault = "nothing would be left of the name";
+        named.fault = say("nothing would be left of the name");
     return named;
 }
 
@@ -106,7 +107,7 @@ std::optional<std::string> faultOfNaming(std::string_view pattern) {
     for (std::size_t open = pattern.find('{'); open != std::string_view::npos;
          open = pattern.find('{', open + 1))
         if (plainPlaceholder(pattern.substr(open + 1, pattern.find('}', open) - open - 1)) == "any")
-            return "{any} does not say what is to stand there.";
+            return std::string(translated("{any} does not say what is to stand there."));
     return std::nullopt;
 }
 
@@ -126,7 +127,7 @@ std::vector<PlannedName> planNames(std::span<const ListedFilm> films, std::strin
         std::string to = freeName(named.stem, film.path.extension().string(), names);
         names.insert(folded(from)); // nobody else gets it, also where it becomes free
         if (named.fault.empty() && to.size() > LongestFilmName)
-            named.fault = "the name would be too long";
+            named.fault = say("the name would be too long");
         if (!named.fault.empty())
             to = from;
         if (to != from)

@@ -1,5 +1,7 @@
 #include "splittaking/race_day/day_lines.h"
 
+#include "common/text.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -77,10 +79,9 @@ std::string glanceText(std::span<const DayLine> lines, double now) {
         if (line.start.starttime >= now && line.state != StartState::NotStarted &&
             line.start.starttime < next.value_or(line.start.starttime + 1))
             next = line.start.starttime;
-    std::string text = waiting == 0   ? "No run waiting"
-                       : waiting == 1 ? "1 run waiting"
-                                      : std::to_string(waiting) + " runs waiting";
-    return next ? text + ", the next starts in " + waitText(*next - now) : text;
+    const std::string text = waiting == 0 ? say("No run waiting")
+                                          : sayCount(waiting, "{} run waiting", "{} runs waiting");
+    return next ? say("{}, the next starts in {}", text, waitText(*next - now)) : text;
 }
 
 } // namespace kavela

@@ -1,6 +1,7 @@
 #include "splittaking/race_day/film_matching.h"
 
 #include "common/folded_text.h"
+#include "common/text.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/video_names.h"
 
@@ -141,7 +142,7 @@ private:
         std::erase_if(films, [&](const SeenFilm* film) {
             const auto place = placeNamedBy(*film);
             if (place)
-                match(*place, *film, NamedConfidence, "by its name");
+                match(*place, *film, NamedConfidence, say("by its name"));
             return place.has_value();
         });
     }
@@ -320,8 +321,9 @@ private:
                      bool isOtherClock) {
         const double confidence = 1 - away / tolerance;
         match(place, film, isOtherClock ? std::min(confidence, OtherClockConfidence) : confidence,
-              std::to_string(std::lround(away)) + " s from its start" +
-                  (isOtherClock ? ", if the camera's clock is wrong" : ""));
+              isOtherClock
+                  ? say("{} s from its start, if the camera's clock is wrong", std::lround(away))
+                  : say("{} s from its start", std::lround(away)));
     }
 
     // By the order alone.
@@ -390,7 +392,7 @@ private:
                 continue;
             }
             match(place, *film, rhythm.gap > 0 ? ByOrderConfidence : ByLooseOrderConfidence,
-                  "by the order");
+                  say("by the order"));
             last = place;
             lastBegan = film->began;
         }
@@ -414,7 +416,8 @@ private:
                 continue;
             const double after = m_day.starts[*place + 1].starttime + m_offset - film->began;
             if (!m_areTimed || (after >= 0 && after + usual / 2 <= film->seconds))
-                match(*place + 1, *film, SecondBoatConfidence, "the second boat of a long film");
+                match(*place + 1, *film, SecondBoatConfidence,
+                      say("the second boat of a long film"));
         }
     }
 

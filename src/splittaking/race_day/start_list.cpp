@@ -2,6 +2,7 @@
 
 #include "common/delimited_text.h"
 #include "common/folded_text.h"
+#include "common/text.h"
 #include "splittaking/race_day/list_columns.h"
 
 #include <algorithm>
@@ -59,8 +60,9 @@ private:
         listed.start.name = m_columns.name(*m_line);
         listed.start.cat = text(ListColumn::Category);
         if (listed.start.name.empty())
-            m_reason = m_line->fields().size() < 2 ? "1 field where a bib and a name are needed"
-                                                   : "there is no name";
+            m_reason = m_line->fields().size() < 2
+                           ? say("1 field where a bib and a name are needed")
+                           : say("there is no name");
         else if (takeBib(listed.start) && takeStart(listed))
             m_starts.push_back(std::move(listed));
     }
@@ -70,11 +72,10 @@ private:
         if (typed.empty())
             return true;
         if (!parseField(typed, start.bib) || start.bib <= 0)
-            m_reason = "the bib \"" + typed + "\" is no number above 0";
+            m_reason = say("the bib \"{}\" is no number above 0", typed);
         else if (const auto [before, isNew] = m_bibs.try_emplace(start.bib, m_line->number());
                  !isNew)
-            m_reason =
-                "the bib " + typed + " is on line " + std::to_string(before->second) + " already";
+            m_reason = say("the bib {} is on line {} already", typed, before->second);
         return m_reason.empty();
     }
 
@@ -88,15 +89,17 @@ private:
         else if (!typed.empty() && parseField(std::string_view(typed), order))
             listed.order = order;
         else if (!typed.empty())
-            m_reason = "the start \"" + typed +
-                       "\" is neither a time of day such as 10:01:30 nor a number in an order";
+            m_reason =
+                say("the start \"{}\" is neither a time of day such as 10:01:30 nor a number in "
+                    "an order",
+                    typed);
         const Kind kind = listed.start.starttime >= 0 ? Kind::Time
                           : listed.order              ? Kind::Order
                                                       : Kind::Line;
         if (m_reason.empty() && m_kind.value_or(kind) != kind)
-            m_reason = *m_kind == Kind::Time    ? "there is no start time, which the others have"
-                       : *m_kind == Kind::Order ? "there is no number in the order"
-                                                : "the lines before have no start";
+            m_reason = *m_kind == Kind::Time ? say("there is no start time, which the others have")
+                       : *m_kind == Kind::Order ? say("there is no number in the order")
+                                                : say("the lines before have no start");
         if (m_reason.empty())
             m_kind = kind;
         else if (listed.start.bib > 0)

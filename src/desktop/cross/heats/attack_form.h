@@ -6,16 +6,17 @@
 #include <QWidget>
 
 #include <functional>
+#include <vector>
 
-class QCheckBox;
 class QComboBox;
 class QHBoxLayout;
 class QLabel;
-class QLineEdit;
 class QPushButton;
-class QToolButton;
 
 namespace kavela::desktop {
+
+class AttackFields;
+class DefenderButtons;
 
 /// One attack in words: who attacked whom, from which side, where, and how it ended. Names that are
 /// not of the heat are shown and stay until another is chosen.
@@ -25,8 +26,9 @@ class AttackForm : public QWidget {
 public:
     explicit AttackForm(QWidget* parent = nullptr);
 
-    /// Shows an attack, or none when it is null.
-    void show(const actiondata030* attack, const std::vector<BoatLook>& boats);
+    /// Shows an attack, or none when it is null. Another attack than before gives up what was typed
+    /// for that, which commit() takes.
+    void show(const actiondata030* attack, const std::vector<BoatLook>& boats, bool isOther);
     /// The texts that are offered.
     void offer(const std::vector<std::string>& sides, const std::vector<std::string>& places);
     /// Takes what is being typed.
@@ -41,24 +43,19 @@ signals:
     void removalWanted();
 
 private:
-    void makeNames(QHBoxLayout& row);
-    void makeWords(QHBoxLayout& row);
+    void makeBoats();
+    void makeWords();
     void makeMoments(QHBoxLayout& row);
-    void showDefenders();
-    void takeText(const QString& what, std::string actiondata030::*member, const QString& text);
+    void showBoats(const actiondata030* attack, const std::vector<BoatLook>& boats);
+    void showMoments(const actiondata030& attack);
 
     QComboBox* m_attacker;
-    QHBoxLayout* m_defenders;
-    std::vector<QToolButton*> m_defenderButtons;
-    QCheckBox* m_success;
-    QComboBox* m_side;
-    QComboBox* m_place;
-    QLineEdit* m_comment;
+    DefenderButtons* m_defenders;
+    AttackFields* m_boats; ///< who attacked whom, and how it ended
+    AttackFields* m_words; ///< from where, and what else there is to say
     QLabel* m_start;
     QLabel* m_end;
     QPushButton* m_noEnd;
-    std::vector<BoatLook> m_boats;
-    std::optional<actiondata030> m_attack;
 };
 
 /// Seconds of a moment to the hundredth; a dash for one that was not taken.

@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 namespace kavela::desktop {
 
@@ -187,6 +188,7 @@ void HeatAttacks::add(const std::optional<CMTime>& moment) {
 }
 
 void HeatAttacks::name(const std::string& boat) {
+    commit();
     if (!m_desk.attack()) {
         m_desk.setNaming(HeatFront::Naming::Nothing);
         return;
@@ -203,13 +205,16 @@ void HeatAttacks::name(const std::string& boat) {
     m_desk.setNaming(HeatFront::Naming::Defenders);
 }
 
+/// Which may bring another attack to its place in the list: what is typed belongs to this one.
 void HeatAttacks::setMoment(std::size_t entry, const CMTime& moment) {
+    commit();
     change(
         tr("moment of an attack"),
         [&](actiondata030& changed) { setPadded(changed.time, entry, moment); }, entry);
 }
 
 void HeatAttacks::removeMoment(std::size_t entry) {
+    commit();
     if (entry == 0)
         remove();
     else
@@ -218,6 +223,7 @@ void HeatAttacks::removeMoment(std::size_t entry) {
 }
 
 void HeatAttacks::remove() {
+    commit(); // so that undoing brings it back whole
     if (!m_desk.attack())
         return;
     m_desk.editHeat(tr("attack removed"), [&](rounddata030& heat, HeatFront& front) {
@@ -244,7 +250,14 @@ void HeatAttacks::refresh() {
             m_table->choose(selected, 0);
     }
     offerTexts();
-    m_form->show(m_desk.attack(), m_desk.looks());
+    const auto shown = placeInFront();
+    m_form->show(m_desk.attack(), m_desk.looks(), shown != std::exchange(m_shown, shown));
+}
+
+HeatAttacks::Place HeatAttacks::placeInFront() const {
+    if (!m_desk.attack())
+        return std::nullopt;
+    return std::pair{*m_desk.front().heat, m_desk.front().selected->record};
 }
 
 AttackRow HeatAttacks::rowOf(const actiondata030& attack) const {

@@ -5,6 +5,9 @@
 
 #include <QWidget>
 
+#include <optional>
+#include <utility>
+
 namespace kavela::desktop {
 
 class AttackForm;
@@ -52,6 +55,9 @@ private:
     void change(const QString& what, const std::function<void(actiondata030&)>& change,
                 std::size_t entry = 0);
     void remove();
+    /// The number of its heat, and its own there.
+    using Place = std::optional<std::pair<std::size_t, std::size_t>>;
+    [[nodiscard]] Place placeInFront() const;
     [[nodiscard]] AttackRow rowOf(const actiondata030& attack) const;
     void offerTexts();
 
@@ -59,6 +65,7 @@ private:
     ColumnModel<AttackRow> m_rows;
     ColumnTable* m_table;
     AttackForm* m_form;
+    Place m_shown; ///< in the form
 };
 
 } // namespace kavela::desktop

@@ -191,6 +191,7 @@ std::optional<std::size_t> HeatPage::selectedMark() const {
 }
 
 void HeatPage::selectMark(std::size_t mark) {
+    commit(); // for the mark that it was typed for
     const auto marks = m_front.marks();
     if (mark < marks.size())
         m_front.select(marks[mark]);

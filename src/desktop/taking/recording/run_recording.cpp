@@ -2,6 +2,7 @@
 
 #include "boatmotion/motion_cover.h"
 #include "common/folded_text.h"
+#include "common/text.h"
 
 #include <algorithm>
 #include <cctype>
@@ -136,9 +137,9 @@ std::vector<std::string> coverNotes(const bmrawdata_v5& recording, const ClockFi
         list += (list.empty() ? "" : ", ") + section.title;
     }
     if (!without.empty())
-        notes.push_back("Sections without strokes: " + without + '.');
+        notes.push_back(say("Sections without strokes: {}.", without));
     if (!inPart.empty())
-        notes.push_back("Sections recorded in part: " + inPart + '.');
+        notes.push_back(say("Sections recorded in part: {}.", inPart));
     return notes;
 }
 

@@ -1,6 +1,7 @@
 #include "desktop/team/takeover/take_over.h"
 
 #include "analysis/percent_behind.h"
+#include "common/text.h"
 #include "desktop/team/takeover/team_labels.h"
 #include "splitdata/athlete_keys.h"
 #include "splitdata/run_timing.h"
@@ -13,7 +14,10 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr const char* NotFinished = "the run was not finished";
+/// What is said of a run without a result.
+std::string notFinished() {
+    return say("the run was not finished");
+}
 
 /// A run as it becomes a record of the team, and what else is known of it.
 struct TakenRun {
@@ -51,13 +55,13 @@ TakenRun takenRun(const athletedata031& run, const infodata031& info) {
     phase.splits = timing.times;
     if (result.category.empty()) {
         result.category = category;
-        result.fault = "no category of the team is called \"" + category + "\"";
+        result.fault = say("no category of the team is called \"{}\"", category);
     } else if (phase.phase.empty()) {
         phase.phase = run.phase;
-        result.fault = "no phase of the team is called \"" + run.phase + "\"";
+        result.fault = say("no phase of the team is called \"{}\"", run.phase);
     } else if (!isTakenTime(phase.time) || (!isOfficial && !taken.isWhole) ||
                isRefused(info, run)) {
-        result.fault = NotFinished;
+        result.fault = notFinished();
     }
     return taken;
 }
@@ -105,7 +109,7 @@ std::vector<FoundResult> finalPositions(const std::vector<TakenRun>& runs) {
         if (result.fault.empty() && result.run->phase == "Final")
             hasFinal[result.category] = true;
         const FoundResult*& best = last[{result.category, result.crew}];
-        if (result.run->pos > 0 && (result.fault.empty() || result.fault == NotFinished) &&
+        if (result.run->pos > 0 && (result.fault.empty() || result.fault == notFinished()) &&
             (!best || phaseOrder(result.run->phase) > phaseOrder(best->run->phase)))
             best = &result;
     }
@@ -158,9 +162,9 @@ FoundRace foundInList(const ResultsList& list, const ListFacts& facts) {
         run.pen = line.pen;
         run.date = facts.date;
         if (line.time < 0 || line.pen < 0)
-            found.fault = "a time or a penalty is below 0";
+            found.fault = say("a time or a penalty is below 0");
         else if (run.time == 0 && line.pos <= 0)
-            found.fault = NotFinished;
+            found.fault = notFinished();
         race.results.push_back(found);
         if (facts.isFinalClassification && line.pos > 0)
             race.results.push_back({line.name, facts.category, std::nullopt, line.pos, true, {}});

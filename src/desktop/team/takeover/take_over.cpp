@@ -1,5 +1,6 @@
 #include "desktop/team/takeover/take_over.h"
 
+#include "common/text.h"
 #include "desktop/team/team_edits.h"
 #include "results/name_likeness.h"
 #include "results/phase_averages.h"
@@ -141,7 +142,7 @@ private:
         planned.whose = crew.whose;
         if (crew.whose.to == Belonging::To::Nobody) {
             planned.likely = crew.likely;
-            planned.reason = "is not in the team";
+            planned.reason = say("is not in the team");
             return planned;
         }
         if (!found.fault.empty()) {

@@ -1,4 +1,4 @@
-#include "desktop/fetch/fetch_logins.h"
+#include "desktop/shell/server_logins.h"
 
 #include "desktop/shell/login_dialog.h"
 #include "desktop/shell/qt_text.h"
@@ -9,16 +9,16 @@
 
 namespace kavela::desktop {
 
-FetchLogins::FetchLogins(std::unique_ptr<fetch::SecretStore> store, QWidget& over)
+ServerLogins::ServerLogins(std::unique_ptr<fetch::SecretStore> store, QWidget& over)
     : m_over(over), m_store(std::move(store)) {}
 
-FetchLogins::~FetchLogins() = default;
+ServerLogins::~ServerLogins() = default;
 
-std::optional<fetch::WebLogin> FetchLogins::loginFor(const fetch::Address& server) const {
+std::optional<fetch::WebLogin> ServerLogins::loginFor(const fetch::Address& server) const {
     return m_server && m_server->isSameOrigin(server) ? m_login : std::nullopt;
 }
 
-void FetchLogins::find(const fetch::Address& server, const std::function<void()>& found) {
+void ServerLogins::find(const fetch::Address& server, const std::function<void()>& found) {
     if (m_server && m_server->isSameOrigin(server)) {
         found();
         return;
@@ -35,16 +35,16 @@ void FetchLogins::find(const fetch::Address& server, const std::function<void()>
     });
 }
 
-void FetchLogins::giveUp() {
+void ServerLogins::giveUp() {
     ++m_asked;
     m_isFinding = false;
 }
 
-bool FetchLogins::isAsking() const {
+bool ServerLogins::isAsking() const {
     return m_over.findChild<LoginDialog*>() != nullptr;
 }
 
-void FetchLogins::ask(const fetch::Address& server) {
+void ServerLogins::ask(const fetch::Address& server) {
     if (isAsking())
         return;
     auto* const dialog = new LoginDialog(qtText(server.site()), m_login, &m_over);
@@ -52,7 +52,7 @@ void FetchLogins::ask(const fetch::Address& server) {
     dialog->open();
 }
 
-void FetchLogins::take(const LoginDialog& dialog, const fetch::Address& server) {
+void ServerLogins::take(const LoginDialog& dialog, const fetch::Address& server) {
     m_login = dialog.login();
     m_server = server;
     if (dialog.isToKeep())
@@ -63,7 +63,7 @@ void FetchLogins::take(const LoginDialog& dialog, const fetch::Address& server) 
     emit signedIn();
 }
 
-void FetchLogins::forget(const fetch::Address& server) {
+void ServerLogins::forget(const fetch::Address& server) {
     m_login.reset();
     m_server = server;
     m_store->forget(server);

@@ -15,15 +15,15 @@ namespace kavela::desktop {
 
 class LoginDialog;
 
-/// The password for the server of a source: asked of the store once, typed by the coach, kept and
-/// forgotten. It is given to no other server.
-class FetchLogins : public QObject {
+/// The password for a server that a window has to do with: asked of the store once, typed by the
+/// coach, kept and forgotten. It is given to no other server.
+class ServerLogins : public QObject {
     Q_OBJECT
 
 public:
     /// Questions are shown over a window.
-    FetchLogins(std::unique_ptr<fetch::SecretStore> store, QWidget& over);
-    ~FetchLogins() override;
+    ServerLogins(std::unique_ptr<fetch::SecretStore> store, QWidget& over);
+    ~ServerLogins() override;
 
     /// The password for a server; nothing where none is known for it.
     [[nodiscard]] std::optional<fetch::WebLogin> loginFor(const fetch::Address& server) const;
