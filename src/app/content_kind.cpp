@@ -27,7 +27,8 @@ constexpr std::array Kinds{KindOfMembers{"split file", {"info", "athletes"}},
                            KindOfMembers{"planning", {"coach", "athletes"}},
                            KindOfMembers{"test results", {"tests", "eights"}},
                            KindOfMembers{"comparison", {"films", "synchronise"}},
-                           KindOfMembers{"path", {"boxes", "cameras"}}};
+                           KindOfMembers{"path", {"boxes", "cameras"}},
+                           KindOfMembers{"table", {"sourcelist", "steps"}}};
 
 bool holdsAny(const Element& parent, std::string_view list) {
     simdjson::dom::array entries;

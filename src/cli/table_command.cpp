@@ -9,6 +9,7 @@
 #include "common/text.h"
 #include "common/text_file.h"
 #include "performance/race_tables.h"
+#include "performance/table_work.h"
 #include "results/team_file.h"
 #include "tables/list_source.h"
 #include "tables/table_error.h"
@@ -63,18 +64,29 @@ ListGrid listOfRace(const infodata031& info, const std::string& path, const std:
     return chosenList(raceTableLists(info, names.front()), sheet);
 }
 
+/// What was made of a list and saved, with all its steps.
+TableSteps savedSteps(std::string_view text) {
+    try {
+        return *readTableWork(text).steps;
+    } catch (const DecodeError& error) {
+        throw TableError(say("this table is damaged: {}", error.what()));
+    }
+}
+
 /// The list that a call means; nothing, after a message, when no release can have written the file.
-std::optional<ListGrid> listOfCall(const TableCall& call) {
-    if (std::filesystem::path(call.file).extension() != ".kvx")
-        return chosenList(readLists(readListBytes(call.file)), call.sheet);
+std::optional<TableSteps> listOfCall(const TableCall& call) {
+    if (std::filesystem::path(call.file).extension() != ".kvx") {
+        std::string bytes = readListBytes(call.file);
+        return isTableWork(bytes) ? savedSteps(bytes)
+                                  : TableSteps(chosenList(readLists(std::move(bytes)), call.sheet));
+    }
     const auto race = openedSplitFile(call.file);
     if (!race)
         return std::nullopt;
-    return listOfRace(race->document.info, call.file, call.sheet);
+    return TableSteps(listOfRace(race->document.info, call.file, call.sheet));
 }
 
-TableSteps stepsOfCall(const TableCall& call, ListGrid list) {
-    TableSteps steps(std::move(list));
+TableSteps stepsOfCall(const TableCall& call, TableSteps steps) {
     for (const std::string& text : call.derive)
         steps = steps.with(parsedDerivedColumn(text));
     if (!call.pivot.empty())
@@ -96,7 +108,7 @@ void tellUnsure(const ListTable& table, std::span<const KnownAthlete> athletes,
     }
 }
 
-int tellTable(const TableCall& call, ListGrid list) {
+int tellTable(const TableCall& call, TableSteps list) {
     const TableSteps steps = stepsOfCall(call, std::move(list));
     if (!call.why.empty())
         return tellReason(explainTable(steps, call.why, call.file), call.why);
@@ -151,8 +163,8 @@ void addTable(Command program, int& status) {
         program.command("table", "Shows any list of results as a table, with columns reckoned");
     command
         .option("FILE", call->file,
-                "A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), or a "
-                "split file (.kvx) that carries one")
+                "A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), a split "
+                "file (.kvx) that carries one, or a saved table (.kvtable)")
         .required();
     command
         .option("--derive", call->derive,

@@ -20,8 +20,8 @@
 
 namespace kavela::desktop {
 
-AnalysisWindows::AnalysisWindows(Desktop& program, Workspace& workspace)
-    : m_program(program), m_workspace(workspace) {}
+AnalysisWindows::AnalysisWindows(Desktop& program, Workspace& workspace, const Autosave& autosave)
+    : m_program(program), m_workspace(workspace), m_autosave(autosave) {}
 
 RaceWindow* AnalysisWindows::makeRaceWindow() {
     auto* window = new RaceWindow(m_workspace);
@@ -115,21 +115,22 @@ TablesWindow& AnalysisWindows::emptyTablesWindow() {
             bringToFront(*window);
             return *window;
         }
-    auto* const window = new TablesWindow(m_workspace);
-    QObject::connect(window, &TablesWindow::pathsChanged, &m_program, &Desktop::rememberSession);
-    QObject::connect(window, &TablesWindow::listsRequested, &m_program,
-                     [this](const QStringList& paths) { openTables(paths, {}); });
-    QObject::connect(window, &TablesWindow::clipboardRequested, &m_program,
-                     [this] { emptyTablesWindow().openClipboard(); });
+    auto* const window = new TablesWindow(m_workspace, m_autosave);
     m_program.show(window);
     return *window;
 }
 
+void AnalysisWindows::connectTables(TablesWindow& window) {
+    QObject::connect(&window, &TablesWindow::pathsChanged, &m_program, &Desktop::rememberSession);
+    QObject::connect(&window, &TablesWindow::listsRequested, &m_program,
+                     [this](const QStringList& paths) { openTables(paths, {}); });
+    QObject::connect(&window, &TablesWindow::clipboardRequested, &m_program,
+                     [this] { emptyTablesWindow().openClipboard(); });
+}
+
 void AnalysisWindows::openTable(const QString& path, const QString& list) {
     for (TablesWindow* const window : m_program.windowsOf<TablesWindow>())
-        if (const QString shown = window->paths().value(0);
-            !shown.isEmpty() && isSameFile(shown, path) &&
-            (list.isEmpty() || window->shownView() == list)) {
+        if (window->shows(path) && (list.isEmpty() || window->shownView() == list)) {
             bringToFront(*window);
             return;
         }

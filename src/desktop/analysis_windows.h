@@ -1,5 +1,7 @@
 #pragma once
 
+#include "desktop/shell/autosave.h"
+
 #include <QStringList>
 
 #include <cstddef>
@@ -22,7 +24,7 @@ class Workspace;
 /// The windows that look at races and change nothing in them: analyzer, search, penalties, losses.
 class AnalysisWindows {
 public:
-    AnalysisWindows(Desktop& program, Workspace& workspace);
+    AnalysisWindows(Desktop& program, Workspace& workspace, const Autosave& autosave);
 
     /// Opens races together, in a window of their own where none is given; those that a window
     /// shows already come to the front there.
@@ -34,6 +36,8 @@ public:
     void openFind(const QStringList& paths);
     void openPenalties(const QStringList& paths);
     void openLosses(const QStringList& paths, std::optional<std::size_t> run);
+    /// What a window of tables asks of the program.
+    void connectTables(TablesWindow& window);
     /// Each list in a window of its own, the window that shows it already in front; an empty
     /// window without any. `list` is which of the lists of a file is meant, empty for any.
     void openTables(const QStringList& paths, const QString& list);
@@ -64,6 +68,7 @@ private:
 
     Desktop& m_program;
     Workspace& m_workspace;
+    const Autosave& m_autosave;
 };
 
 } // namespace kavela::desktop

@@ -13,6 +13,7 @@
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/screen_fit.h"
 #include "desktop/shell/settings_window.h"
+#include "desktop/tables/tables_window.h"
 #include "desktop/taking/taking_window.h"
 #include "desktop/team/team_window.h"
 #include "desktop/tools.h"
@@ -66,7 +67,7 @@ Desktop::Desktop(Workspace& workspace, std::optional<Autosave> autosave)
       m_guide(m_workspace),
       m_home(*this, m_workspace, m_choice, m_earlierWork),
       m_plannings(*this, m_workspace, m_autosave),
-      m_analysis(*this, m_workspace),
+      m_analysis(*this, m_workspace, m_autosave),
       m_splitFiles(*this, m_workspace, m_autosave, m_analysis),
       m_films(*this, m_workspace, m_autosave, m_splitFiles),
       m_recordings(*this, m_workspace, m_autosave),
@@ -343,6 +344,8 @@ void Desktop::show(ToolWindow* window) {
                 [this](const QByteArray& content, const QString& name) {
                     m_plannings.showCopy(content, name);
                 });
+    if (auto* const tables = qobject_cast<TablesWindow*>(window))
+        m_analysis.connectTables(*tables);
     if (auto* const team = qobject_cast<TeamWindow*>(window))
         connect(team, &TeamWindow::lossesRequested, this,
                 [this](const QString& athlete, const QString& teamFile) {

@@ -105,7 +105,8 @@ std::optional<OpensAs> documentOpensAs(const ContentKind& document, const QStrin
                                                            {"smart session", OpensAs::Session},
                                                            {"test session", OpensAs::TestSession},
                                                            {"comparison", OpensAs::Comparison},
-                                                           {"path", OpensAs::Tracking}};
+                                                           {"path", OpensAs::Tracking},
+                                                           {"table", OpensAs::ResultsList}};
     if (document.kind == "split file")
         return splitFileOpensAs(document, path);
     const auto kind = Kinds.find(document.kind);

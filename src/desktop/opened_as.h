@@ -27,7 +27,7 @@ enum class OpensAs {
     PowerList,   ///< of a power meter: taken into the session that is open
     Find,        ///< the search, which opens no file of its own
     Losses,      ///< split files and folders, where the coach asks for it: none is known by content
-    ResultsList, ///< any list of results, as text or a spreadsheet
+    ResultsList, ///< any list of results, as text or a spreadsheet, or what was made of one
     Films,       ///< a folder, where the coach asks for it: by content it is to be timed
     Penalties,   ///< split files and folders, where the coach asks for it: none is known by content
     Season,      ///< a team with its races, where the coach asks for it

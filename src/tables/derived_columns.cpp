@@ -20,8 +20,8 @@ constexpr std::array<std::string_view, 6> DerivationNames{"total",   "rank",    
                                                           "percent", "percentile", "difference"};
 
 /// In the order of Derivation.
-constexpr std::array DerivationRules{TableRule::Total,   TableRule::Rank,
-                                     TableRule::Gap,     TableRule::Percent,
+constexpr std::array DerivationRules{TableRule::Total,      TableRule::Rank,
+                                     TableRule::Gap,        TableRule::Percent,
                                      TableRule::Percentile, TableRule::Difference};
 
 std::string_view trimmedWords(std::string_view text) {

@@ -22,9 +22,9 @@ constexpr std::array<std::string_view, 6> PivotNames{"count",  "sum",   "mean",
                                                      "median", "least", "most"};
 
 /// In the order of PivotFunction.
-constexpr std::array PivotRules{TableRule::PivotCount,  TableRule::PivotSum,
-                                TableRule::PivotMean,   TableRule::PivotMedian,
-                                TableRule::PivotLeast,  TableRule::PivotMost};
+constexpr std::array PivotRules{TableRule::PivotCount, TableRule::PivotSum,
+                                TableRule::PivotMean,  TableRule::PivotMedian,
+                                TableRule::PivotLeast, TableRule::PivotMost};
 
 /// More columns nobody reads: the wrong one was named.
 constexpr std::size_t MostPivotColumns = 250;
@@ -90,9 +90,8 @@ public:
             requireNumbers(valueColumn());
         m_rows = pivotKeys(table, table.columns[m_row]);
         if (pivot.column.empty())
-            m_columns = {
-                {std::string(pivotFunctionName(m_function)) + ' ' + valueColumn().name},
-                std::vector<std::size_t>(table.rows(), 0)};
+            m_columns = {{std::string(pivotFunctionName(m_function)) + ' ' + valueColumn().name},
+                         std::vector<std::size_t>(table.rows(), 0)};
         else
             m_columns = pivotKeys(table, table.columns[columnPlace(table, pivot.column)]);
         if (m_columns.texts.size() > MostPivotColumns ||

@@ -1,7 +1,9 @@
 #include "cli/program.h"
 #include "common/json_encode.h"
+#include "performance/table_work.h"
 #include "results/team_records.h"
 #include "splitdata/document.h"
+#include "tables/list_reader.h"
 
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
@@ -96,6 +98,20 @@ TEST_F(TableCalls, WritePivotsAndReadSplitFiles) {
     EXPECT_EQ(race.status, 0);
     EXPECT_THAT(race.output, HasSubstr("Anna Bell"));
     EXPECT_THAT(race.errors, HasSubstr("it carries officialresults too"));
+}
+
+TEST_F(TableCalls, GoOnWithASavedTable) {
+    TableWork work;
+    work.steps = TableSteps(readList("Name;Time\nAnna;92.5\nEva;91\n")).with(SortStep{"Time"});
+    (void)m_kavela.folder().add("made.kvtable", tableWorkText(work));
+    (void)m_kavela.folder().add("broken.kvtable", "{\"steps\": 3}");
+    const Ending ending =
+        m_kavela.call({"table", "made.kvtable", "--derive", "gap", "--csv", "out.csv"});
+    EXPECT_EQ(ending.status, 0) << ending.errors;
+    EXPECT_EQ(m_kavela.everything()["out.csv"], "Name;Time;gap\nEva;91;0\nAnna;92.5;1.5\n");
+    const Ending broken = m_kavela.call({"table", "broken.kvtable"});
+    EXPECT_EQ(broken.status, 1);
+    EXPECT_THAT(broken.errors, HasSubstr("damaged"));
 }
 
 TEST_F(TableCalls, ExplainANumberWithItsPlaces) {

@@ -191,6 +191,63 @@ TEST_F(TablesWindowTest, TellsWhyAReckonedNumberIsWhatItIs) {
     EXPECT_THAT(window.status().toStdString(), HasSubstr("90.75"));
 }
 
+TEST_F(TablesWindowTest, SavesWhatWasMadeBesideTheListAndGoesOnWithIt) {
+    TablesWindow& window = openFinal();
+    EXPECT_FALSE(window.document().isDirty()) << "looking at a list asks nothing";
+    window.take(parsedDerivedColumn("gap:Time"));
+    window.take(FilterStep{"Class", "K1W", true});
+    EXPECT_TRUE(window.document().isDirty());
+    EXPECT_TRUE(window.isWindowModified());
+    const QString file = QString::fromStdString((m_folder.path() / "made.kvtable").string());
+    bool isSaved = false;
+    window.saveToBeside(file, [&](bool written) { isSaved = written; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isSaved; }));
+    EXPECT_FALSE(window.document().isDirty());
+    EXPECT_EQ(window.paths(), QStringList(file)) << "the next start shows what was made";
+    EXPECT_EQ(readTextFile(m_folder.path() / "final.csv"), FinalList);
+
+    const std::string table = tableCsv(*window.document().table());
+    window.undo();
+    EXPECT_TRUE(window.document().isDirty());
+    fs::remove(m_folder.path() / "final.csv");
+    m_program.open(QString::fromStdString(
+        m_folder.add("sent.kvtable", readTextFile(file.toStdString())).string()));
+    ASSERT_THAT(m_program.windowsOf<TablesWindow>(), SizeIs(2)) << "known by what it holds";
+    await(last());
+    EXPECT_EQ(tableCsv(*last().document().table()), table) << "the list is in it";
+    EXPECT_FALSE(last().document().isDirty());
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+/// The list itself is never written, so what was made of it is kept under a name of its own.
+TEST_F(TablesWindowTest, OffersWhatWasMadeAndNeverSaved) {
+    TablesWindow& first = openFinal();
+    first.take(FilterStep{"Class", "K1W", true});
+    const std::string made = tableCsv(*first.document().table());
+    const QString kept = first.document().path();
+    EXPECT_THAT(kept.toStdString(), HasSubstr("final.kvtable"));
+    EXPECT_EQ(first.paths(), QStringList(kept));
+    first.document().keepWork();
+    const Autosave autosave(QString::fromStdString((m_folder.path() / "kept").string()));
+    const auto work = autosave.find(kept, true);
+    ASSERT_TRUE(work);
+    EXPECT_EQ(work->label.tool, "tables");
+
+    TablesWindow other(m_workspace,
+                       Autosave(QString::fromStdString((m_folder.path() / "others").string())));
+    other.setAttribute(Qt::WA_DeleteOnClose, false);
+    other.takeBack(work->content);
+    EXPECT_EQ(tableCsv(*other.document().table()), made);
+    EXPECT_TRUE(other.document().isDirty());
+    EXPECT_EQ(other.document().origin().title, "final.csv");
+
+    TablesWindow& second = *new TablesWindow(m_workspace, autosave);
+    second.openList(first.document().origin().path, {});
+    await(second);
+    EXPECT_NE(second.document().path(), kept) << "two windows never keep work under one name";
+    delete &second;
+}
+
 TEST_F(TablesWindowTest, SortsByAClickAndBackwardsByTheNext) {
     TablesWindow& window = openFinal();
     QHeaderView* const header = window.table().horizontalHeader();
@@ -412,7 +469,8 @@ TEST(TablesWindowStart, SaysWholeWhatCanBeOpenedInAnyFont) {
         QFont font = before;
         font.setPointSize(points);
         QApplication::setFont(font);
-        desktop::TablesWindow window(workspace);
+        desktop::TablesWindow window(
+            workspace, Autosave(QString::fromStdString((folder.path() / "kept").string())));
         window.setAttribute(Qt::WA_DeleteOnClose, false);
         window.show();
         QApplication::processEvents();

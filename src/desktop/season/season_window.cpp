@@ -167,9 +167,9 @@ QString SeasonWindow::shownView() const {
     if (!m_view.isEmpty())
         return m_view.join('\n'); // the team is not read yet
     const SeasonChoice choice = m_header->choice();
-    return QStringList{QString::number(page()), qtText(choice.category),
+    return QStringList{QString::number(page()),           qtText(choice.category),
                        QString::number(choice.firstYear), QString::number(choice.lastYear),
-                       m_header->athleteName(), m_header->isOwnStarts() ? "own" : "all"}
+                       m_header->athleteName(),           m_header->isOwnStarts() ? "own" : "all"}
         .join('\n');
 }
 

@@ -66,8 +66,20 @@ bool isRaceFile(const QString& path) {
     return QFileInfo(path).suffix().compare("kvx", Qt::CaseInsensitive) == 0;
 }
 
+bool isTableWorkFile(const QString& path) {
+    return QFileInfo(path).suffix().toLower() == QString::fromLatin1(TableWorkExtension);
+}
+
 OfferedLists offeredLists(const QString& path) {
-    return isRaceFile(path) ? listsOfRace(path) : offeredLists(readListBytes(path.toStdString()));
+    if (isRaceFile(path))
+        return listsOfRace(path);
+    std::string bytes = readListBytes(path.toStdString());
+    if (isTableWork(bytes)) {
+        OfferedLists saved;
+        saved.work = readTableWork(bytes);
+        return saved;
+    }
+    return offeredLists(std::move(bytes));
 }
 
 OfferedLists offeredLists(std::string bytes) {
@@ -80,11 +92,11 @@ OfferedLists offeredLists(std::string bytes) {
 }
 
 QString listFilter() {
-    return translatedList("Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;All files (*)");
+    return translatedList("Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;All files (*)");
 }
 
 bool isListFile(const QString& path) {
-    static const QStringList Suffixes{"csv", "tsv", "txt", "xlsx", "ods", "kvx"};
+    static const QStringList Suffixes{"csv", "tsv", "txt", "xlsx", "ods", "kvx", "kvtable"};
     return Suffixes.contains(QFileInfo(path).suffix().toLower());
 }
 

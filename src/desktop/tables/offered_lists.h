@@ -1,10 +1,12 @@
 #pragma once
 
+#include "performance/table_work.h"
 #include "tables/list_grid.h"
 
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,15 +21,20 @@ struct OfferedList {
 };
 
 struct OfferedLists {
-    std::vector<OfferedList> lists; ///< at least one
+    std::vector<OfferedList> lists; ///< at least one, or none beside saved work
     QStringList left;               ///< what a split file carries besides, and why it is no list
+    /// What was made of a list and saved, which has that list in it: no others are offered then.
+    std::optional<TableWork> work = {};
 };
+
+/// Whether a file is what was made of a list, by its name.
+[[nodiscard]] bool isTableWorkFile(const QString& path);
 
 /// Whether a file is a race, which may carry lists.
 [[nodiscard]] bool isRaceFile(const QString& path);
 
 /// Every list of a text, a spreadsheet or a split file, which is only read. Throws TableError where
-/// there is none, FileError for what cannot be read. For any thread.
+/// there is none, DecodeError for damaged work, FileError for what cannot be read. For any thread.
 [[nodiscard]] OfferedLists offeredLists(const QString& path);
 
 /// The same of a text, as it was copied.

@@ -48,14 +48,7 @@ void TablesActions::makeFileMenu() {
 }
 
 void TablesActions::makeEditMenu() {
-    QMenu* const menu = m_window.menuBar()->addMenu(tr("&Edit"));
-    QUndoStack& stack = m_window.document().undoStack();
-    QAction* const undo = stack.createUndoAction(&m_window, tr("&Undo"));
-    undo->setShortcut(QKeySequence::Undo);
-    QAction* const redo = stack.createRedoAction(&m_window, tr("&Redo"));
-    redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
-    menu->addActions({undo, redo});
-    menu->addSeparator();
+    QMenu* const menu = m_window.makeEditMenu();
     add(*menu, tr("The first line holds the &titles"), QKeySequence(Qt::CTRL | Qt::Key_T),
         [this] { m_window.take(TitlesStep{true}); });
     add(*menu, tr("The first line is a ro&w"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T),

@@ -34,8 +34,10 @@
 
 namespace kavela::desktop {
 
-TablesWindow::TablesWindow(Workspace& workspace)
-    : ToolWindow(workspace, nullptr, {"tables", tr("Tables"), "csv"}),
+TablesWindow::TablesWindow(Workspace& workspace, const Autosave& autosave)
+    : ToolWindow(workspace, &m_document,
+                 {"tables", tr("Tables"), QString::fromLatin1(TableWorkExtension)}),
+      m_document(workspace, autosave),
       m_keeping(new RaceKeeping(workspace, *this, this)) {
     makeParts();
     m_actions = new TablesActions(*this);
@@ -87,6 +89,7 @@ QWidget* TablesWindow::makeStartPage() {
 
 void TablesWindow::connectParts() {
     connect(&m_document, &TableDocument::changed, this, &TablesWindow::showTable);
+    connect(&m_document.undoStack(), &QUndoStack::cleanChanged, this, &TablesWindow::pathsChanged);
     connect(m_panel, &ListPanel::currentChanged, m_actions, &TablesActions::refresh);
     connect(m_panel, &ListPanel::sortRequested, this, &TablesWindow::sort);
     connect(m_panel, &ListPanel::menuRequested, this, &TablesWindow::showMenu);
@@ -113,7 +116,15 @@ bool TablesWindow::open(const QString& path) {
     return true;
 }
 
+void TablesWindow::startNew(const QString& path) {
+    goOn({}, path);
+}
+
 void TablesWindow::openList(const QString& path, const std::string& list) {
+    if (isTableWorkFile(path) && !QFileInfo::exists(path)) { // it was never saved
+        startNew(path);
+        return;
+    }
     m_reading = path;
     m_work.runOver(
         {this, tr("Reading %1…").arg(QFileInfo(path).fileName())},
@@ -145,6 +156,10 @@ void TablesWindow::openClipboard() {
 
 /// Asks which one where a file has several; the answer may be none of them.
 void TablesWindow::choose(OfferedLists offered, const QString& path, const std::string& wanted) {
+    if (offered.work) {
+        goOn(std::move(*offered.work), path);
+        return;
+    }
     auto chosen = std::ranges::find(offered.lists, wanted, &OfferedList::name);
     if (chosen == offered.lists.end() && offered.lists.size() == 1)
         chosen = offered.lists.begin();
@@ -170,7 +185,8 @@ void TablesWindow::start(OfferedList list, const QString& path) {
                       list.title};
     title.removeAll(QString());
     try {
-        m_document.start(std::move(list.grid), {path, list.name, title.join(QStringLiteral(", "))});
+        m_document.start(std::move(list.grid), {path, list.name, title.join(QStringLiteral(", "))},
+                         this);
     } catch (const TableError& error) {
         tell(title.front(), error.what());
         return;
@@ -181,9 +197,20 @@ void TablesWindow::start(OfferedList list, const QString& path) {
     emit pathsChanged();
 }
 
+void TablesWindow::goOn(TableWork work, const QString& path) {
+    m_left.clear();
+    m_document.goOn(std::move(work), path, this);
+    table().setFocus();
+    emit pathsChanged();
+}
+
 QStringList TablesWindow::paths() const {
-    const QString path = m_reading.isEmpty() ? m_document.origin().path : m_reading;
+    const QString path = m_reading.isEmpty() ? m_document.shownPath() : m_reading;
     return path.isEmpty() ? QStringList() : QStringList(path);
+}
+
+bool TablesWindow::shows(const QString& path) const {
+    return m_reading.isEmpty() ? m_document.isOf(path) : isSameFile(m_reading, path);
 }
 
 QString TablesWindow::shownView() const {
@@ -195,18 +222,12 @@ bool TablesWindow::showOwnPlace(const Place& place) {
         return false;
     if (m_panel->chooseLine(*place.line, place.column))
         return true;
-    const auto text = m_document.textAt(*place.line, place.column.value_or(0));
-    m_status->setText(text ? tr("Line %1, column %2 of the list says “%3”.")
-                                 .arg(*place.line)
-                                 .arg(*place.column)
-                                 .arg(*text)
-                           : tr("Line %1 of the list is no row of this table any more.")
-                                 .arg(*place.line));
+    m_status->setText(m_document.textOfPlace(place));
     return true;
 }
 
 bool TablesWindow::isEmpty() const {
-    return !m_document.hasList() && m_reading.isEmpty();
+    return !m_document.hasList() && m_reading.isEmpty() && m_document.path().isEmpty();
 }
 
 QString TablesWindow::status() const {
@@ -304,13 +325,10 @@ void TablesWindow::chooseOtherList() {
     const QString path = m_document.origin().path;
     if (path.isEmpty())
         return;
-    const bool isUntouched = m_document.steps().empty() && !m_document.isJoined();
-    if (isUntouched ||
-        workspace().askBeforeLoss(
-            {tr("Begin anew?").toStdString(),
-             tr("What you made of this list is given up; the file stays.").toStdString()},
-            tr("Begin anew"), this))
-        openList(path, {});
+    whenLeft([this, path](bool mayGo) {
+        if (mayGo)
+            openList(path, {});
+    });
 }
 
 void TablesWindow::takeFiles(const QStringList& files) {
@@ -434,8 +452,9 @@ void TablesWindow::showStatus() {
         parts << tr("%1 that only you can tell (F6)").arg(unsure);
     m_status->setText(parts.join(QStringLiteral(" · ")));
     setWindowTitle(
-        (m_document.hasList() ? m_document.origin().title + QStringLiteral(" – ") : QString()) +
+        (m_document.hasList() ? m_document.title() + QStringLiteral("[*] – ") : QString()) +
         tr("Tables") + QStringLiteral(" – Kavela"));
+    setWindowModified(m_document.hasList() && m_document.isDirty());
     m_actions->refresh();
 }
 

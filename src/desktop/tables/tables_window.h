@@ -23,12 +23,13 @@ class SeriesChart;
 class TablesActions;
 
 /// Any list of results as a table: sorted, tinted, grouped, with columns that are reckoned from
-/// others, put together, drawn and joined with the athletes we know. The list itself is only read.
+/// others, put together, drawn and joined with the athletes we know. The list itself is only read;
+/// what is made of it can be saved.
 class TablesWindow : public ToolWindow {
     Q_OBJECT
 
 public:
-    explicit TablesWindow(Workspace& workspace);
+    TablesWindow(Workspace& workspace, const Autosave& autosave);
     ~TablesWindow() override;
 
     /// Reads a file in place of what is shown; true, since it is told later what cannot be read.
@@ -39,11 +40,16 @@ public:
     /// Takes the list that was copied elsewhere: here where nothing is shown, else in another
     /// window.
     void openClipboard();
+    /// Begins under the name of work that was never saved, which is offered.
+    void startNew(const QString& path) override;
+    /// Of what was made of the list, where something was, else of the list.
     [[nodiscard]] QStringList paths() const override;
+    /// Whether a file is the list that is shown, or what was made of it.
+    [[nodiscard]] bool shows(const QString& path) const;
     [[nodiscard]] QString shownView() const override;
     /// A line of the list; where the table has no such row any more, what stands there is told.
     [[nodiscard]] bool showOwnPlace(const Place& place) override;
-    /// Nothing is shown and nothing is being read.
+    /// Nothing is shown, nothing is being read, and no earlier work is asked about.
     [[nodiscard]] bool isEmpty() const;
     [[nodiscard]] bool isReading() const { return m_work.isRunning(); }
 
@@ -102,6 +108,7 @@ private:
     void connectParts();
     void choose(OfferedLists offered, const QString& path, const std::string& wanted);
     void start(OfferedList list, const QString& path);
+    void goOn(TableWork work, const QString& path);
     void tell(const QString& title, const std::string& reason);
     void showTable();
     void showStatus();
