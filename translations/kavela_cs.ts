@@ -2545,10 +2545,6 @@
         <translation>Ukáže jakýkoli seznam výsledků jako tabulku s vypočtenými sloupci</translation>
     </message>
     <message>
-        <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), or a split file (.kvx) that carries one</source>
-        <translation>Seznam: text (CSV, tabulátory, sloupce z mezer), tabulkový sešit (.xlsx, .ods), nebo soubor mezičasů (.kvx) s listinou</translation>
-    </message>
-    <message>
         <source>A column to add: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; with &quot;by Category&quot; within each category, with &quot;down&quot; the highest first</source>
         <translation>Sloupec k přidání: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; s &quot;by Category&quot; v rámci každé kategorie, s &quot;down&quot; nejvyšší první</translation>
     </message>
@@ -7600,6 +7596,14 @@
         <source>Of {} rows the first {} are told.</source>
         <translation>Z {} řádků je uvedeno prvních {}.</translation>
     </message>
+    <message>
+        <source>this table is damaged: {}</source>
+        <translation>tato tabulka je poškozená: {}</translation>
+    </message>
+    <message>
+        <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), a split file (.kvx) that carries one, or a saved table (.kvtable)</source>
+        <translation>Seznam: text (CSV, tabulátory, sloupce z mezer), tabulkový sešit (.xlsx, .ods), soubor mezičasů (.kvx) s listinou, nebo uložená tabulka (.kvtable)</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -8760,10 +8764,6 @@
         <translation>Tabulka uchovaná u závodu</translation>
     </message>
     <message>
-        <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;All files (*)</source>
-        <translation>Seznamy (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;Všechny soubory (*)</translation>
-    </message>
-    <message>
         <source>The least is %1 (%2), the most %3 (%4), of %5 rows</source>
         <translation>Nejmenší je %1 (%2), největší %3 (%4), řádků: %5</translation>
     </message>
@@ -9514,6 +9514,10 @@
     <message>
         <source>Runs…</source>
         <translation>Probíhá…</translation>
+    </message>
+    <message>
+        <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;All files (*)</source>
+        <translation>Seznamy (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;Všechny soubory (*)</translation>
     </message>
 </context>
 <context>
@@ -22338,6 +22342,26 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
         <source>Say who line %1 is</source>
         <translation>Určit, kdo je řádek %1</translation>
     </message>
+    <message>
+        <source>Line %1 of the list is no row of this table any more.</source>
+        <translation>Řádek %1 listiny už není řádkem této tabulky.</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2 of the list says “%3”.</source>
+        <translation>Řádek %1, sloupec %2 listiny uvádí „%3“.</translation>
+    </message>
+    <message>
+        <source>1 row</source>
+        <translation>1 řádek</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows</source>
+        <translation>
+            <numerusform>%n řádek</numerusform>
+            <numerusform>%n řádky</numerusform>
+            <numerusform>%n řádků</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::TablesActions</name>
@@ -22364,18 +22388,6 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <message>
         <source>Save the c&amp;hart…</source>
         <translation>Uložit gr&amp;af…</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>Úprav&amp;y</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Zpět</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>Z&amp;novu</translation>
     </message>
     <message>
         <source>The first line holds the &amp;titles</source>
@@ -22565,18 +22577,6 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
         <translation>Otevřít seznamy</translation>
     </message>
     <message>
-        <source>Begin anew?</source>
-        <translation>Začít znovu?</translation>
-    </message>
-    <message>
-        <source>What you made of this list is given up; the file stays.</source>
-        <translation>Co jste z tohoto seznamu udělali, se zahodí; soubor zůstane.</translation>
-    </message>
-    <message>
-        <source>Begin anew</source>
-        <translation>Začít znovu</translation>
-    </message>
-    <message>
         <source>Join a team</source>
         <translation>Připojit tým</translation>
     </message>
@@ -22655,14 +22655,6 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
             <numerusform>%n sloupce</numerusform>
             <numerusform>%n sloupců</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Line %1, column %2 of the list says “%3”.</source>
-        <translation>Řádek %1, sloupec %2 seznamu říká „%3“.</translation>
-    </message>
-    <message>
-        <source>Line %1 of the list is no row of this table any more.</source>
-        <translation>Řádek %1 seznamu už není řádkem této tabulky.</translation>
     </message>
 </context>
 <context>

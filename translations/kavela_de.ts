@@ -2524,10 +2524,6 @@
         <translation>Zeigt jede Ergebnisliste als Tabelle, mit berechneten Spalten</translation>
     </message>
     <message>
-        <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), or a split file (.kvx) that carries one</source>
-        <translation>Eine Liste: Text (CSV, Tabs, Spalten aus Leerzeichen), eine Tabellendatei (.xlsx, .ods) oder eine Zwischenzeitdatei (.kvx), die eine enthält</translation>
-    </message>
-    <message>
         <source>A column to add: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; with &quot;by Category&quot; within each category, with &quot;down&quot; the highest first</source>
         <translation>Eine neue Spalte: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; mit &quot;by Category&quot; in jeder Kategorie, mit &quot;down&quot; das Höchste zuerst</translation>
     </message>
@@ -7563,6 +7559,14 @@
         <source>Of {} rows the first {} are told.</source>
         <translation>Von {} Zeilen werden die ersten {} genannt.</translation>
     </message>
+    <message>
+        <source>this table is damaged: {}</source>
+        <translation>diese Tabelle ist beschädigt: {}</translation>
+    </message>
+    <message>
+        <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), a split file (.kvx) that carries one, or a saved table (.kvtable)</source>
+        <translation>Eine Liste: Text (CSV, Tabs, Spalten aus Leerzeichen), eine Tabellendatei (.xlsx, .ods), eine Zwischenzeitdatei (.kvx), die eine enthält, oder eine gespeicherte Tabelle (.kvtable)</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -8723,10 +8727,6 @@
         <translation>Tabelle beim Rennen</translation>
     </message>
     <message>
-        <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;All files (*)</source>
-        <translation>Listen (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;Alle Dateien (*)</translation>
-    </message>
-    <message>
         <source>The least is %1 (%2), the most %3 (%4), of %5 rows</source>
         <translation>Am kleinsten ist %1 (%2), am größten %3 (%4), von %5 Zeilen</translation>
     </message>
@@ -9477,6 +9477,10 @@
     <message>
         <source>Runs…</source>
         <translation>Läuft…</translation>
+    </message>
+    <message>
+        <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;All files (*)</source>
+        <translation>Listen (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
@@ -22274,6 +22278,25 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
         <source>Say who line %1 is</source>
         <translation>Sagen, wer Zeile %1 ist</translation>
     </message>
+    <message>
+        <source>Line %1 of the list is no row of this table any more.</source>
+        <translation>Zeile %1 der Liste ist keine Zeile dieser Tabelle mehr.</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2 of the list says “%3”.</source>
+        <translation>Zeile %1, Spalte %2 der Liste sagt „%3“.</translation>
+    </message>
+    <message>
+        <source>1 row</source>
+        <translation>1 Zeile</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows</source>
+        <translation>
+            <numerusform>%n Zeile</numerusform>
+            <numerusform>%n Zeilen</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::TablesActions</name>
@@ -22300,18 +22323,6 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <message>
         <source>Save the c&amp;hart…</source>
         <translation>&amp;Diagramm speichern…</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Bearbeiten</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Wiederherstellen</translation>
     </message>
     <message>
         <source>The first line holds the &amp;titles</source>
@@ -22501,18 +22512,6 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
         <translation>Listen öffnen</translation>
     </message>
     <message>
-        <source>Begin anew?</source>
-        <translation>Von vorn beginnen?</translation>
-    </message>
-    <message>
-        <source>What you made of this list is given up; the file stays.</source>
-        <translation>Was aus dieser Liste gemacht wurde, ist dann verworfen; die Datei bleibt.</translation>
-    </message>
-    <message>
-        <source>Begin anew</source>
-        <translation>Von vorn beginnen</translation>
-    </message>
-    <message>
         <source>Join a team</source>
         <translation>Mit einem Team verbinden</translation>
     </message>
@@ -22589,14 +22588,6 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
             <numerusform>%n Spalte</numerusform>
             <numerusform>%n Spalten</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Line %1, column %2 of the list says “%3”.</source>
-        <translation>In Zeile %1, Spalte %2 der Liste steht „%3“.</translation>
-    </message>
-    <message>
-        <source>Line %1 of the list is no row of this table any more.</source>
-        <translation>Zeile %1 der Liste ist keine Zeile dieser Tabelle mehr.</translation>
     </message>
 </context>
 <context>

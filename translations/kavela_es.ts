@@ -2524,10 +2524,6 @@
         <translation>Muestra cualquier lista de resultados como tabla, con columnas calculadas</translation>
     </message>
     <message>
-        <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), or a split file (.kvx) that carries one</source>
-        <translation>Una lista: texto (CSV, tabuladores, columnas de espacios), una hoja de cálculo (.xlsx, .ods) o un archivo de parciales (.kvx) que lleve una</translation>
-    </message>
-    <message>
         <source>A column to add: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; with &quot;by Category&quot; within each category, with &quot;down&quot; the highest first</source>
         <translation>Una columna que añadir: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; con &quot;by Category&quot; dentro de cada categoría, con &quot;down&quot; lo más alto primero</translation>
     </message>
@@ -7563,6 +7559,14 @@
         <source>Of {} rows the first {} are told.</source>
         <translation>De {} filas se nombran las primeras {}.</translation>
     </message>
+    <message>
+        <source>this table is damaged: {}</source>
+        <translation>esta tabla está dañada: {}</translation>
+    </message>
+    <message>
+        <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), a split file (.kvx) that carries one, or a saved table (.kvtable)</source>
+        <translation>Una lista: texto (CSV, tabuladores, columnas de espacios), una hoja de cálculo (.xlsx, .ods), un archivo de parciales (.kvx) que lleve una o una tabla guardada (.kvtable)</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -8723,10 +8727,6 @@
         <translation>Tabla conservada con la carrera</translation>
     </message>
     <message>
-        <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;All files (*)</source>
-        <translation>Listas (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;Todos los archivos (*)</translation>
-    </message>
-    <message>
         <source>The least is %1 (%2), the most %3 (%4), of %5 rows</source>
         <translation>El menor es %1 (%2), el mayor %3 (%4), de %5 filas</translation>
     </message>
@@ -9477,6 +9477,10 @@
     <message>
         <source>Runs…</source>
         <translation>En curso…</translation>
+    </message>
+    <message>
+        <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;All files (*)</source>
+        <translation>Listas (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;Todos los archivos (*)</translation>
     </message>
 </context>
 <context>
@@ -22274,6 +22278,25 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
         <source>Say who line %1 is</source>
         <translation>Decir quién es la línea %1</translation>
     </message>
+    <message>
+        <source>Line %1 of the list is no row of this table any more.</source>
+        <translation>La línea %1 de la lista ya no es una fila de esta tabla.</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2 of the list says “%3”.</source>
+        <translation>La línea %1, columna %2 de la lista dice «%3».</translation>
+    </message>
+    <message>
+        <source>1 row</source>
+        <translation>1 fila</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows</source>
+        <translation>
+            <numerusform>%n fila</numerusform>
+            <numerusform>%n filas</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::TablesActions</name>
@@ -22300,18 +22323,6 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <message>
         <source>Save the c&amp;hart…</source>
         <translation>Guardar e&amp;l gráfico…</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Editar</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Deshacer</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Rehacer</translation>
     </message>
     <message>
         <source>The first line holds the &amp;titles</source>
@@ -22501,18 +22512,6 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
         <translation>Abrir listas</translation>
     </message>
     <message>
-        <source>Begin anew?</source>
-        <translation>¿Empezar de nuevo?</translation>
-    </message>
-    <message>
-        <source>What you made of this list is given up; the file stays.</source>
-        <translation>Se descarta lo que has hecho con esta lista; el archivo se queda.</translation>
-    </message>
-    <message>
-        <source>Begin anew</source>
-        <translation>Empezar de nuevo</translation>
-    </message>
-    <message>
         <source>Join a team</source>
         <translation>Unir un equipo</translation>
     </message>
@@ -22589,14 +22588,6 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
             <numerusform>%n columna</numerusform>
             <numerusform>%n columnas</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Line %1, column %2 of the list says “%3”.</source>
-        <translation>La línea %1, columna %2 de la lista dice «%3».</translation>
-    </message>
-    <message>
-        <source>Line %1 of the list is no row of this table any more.</source>
-        <translation>La línea %1 de la lista ya no es una fila de esta tabla.</translation>
     </message>
 </context>
 <context>

@@ -2524,10 +2524,6 @@
         <translation>Montre n’importe quelle liste de résultats en tableau, avec des colonnes calculées</translation>
     </message>
     <message>
-        <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), or a split file (.kvx) that carries one</source>
-        <translation>Une liste&#x202f;: texte (CSV, tabulations, colonnes séparées par des blancs), classeur (.xlsx, .ods), ou fichier d’intermédiaires (.kvx) qui en porte une</translation>
-    </message>
-    <message>
         <source>A column to add: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1; with &quot;by Category&quot; within each category, with &quot;down&quot; the highest first</source>
         <translation>Une colonne à ajouter&#x202f;: total:Time,Pen, rank:Total, gap, percent, percentile, difference:Run 2,Run 1&#x202f;; avec &quot;by Category&quot; au sein de chaque catégorie, avec &quot;down&quot; le plus grand d’abord</translation>
     </message>
@@ -7563,6 +7559,14 @@
         <source>Of {} rows the first {} are told.</source>
         <translation>Sur {} lignes, les {} premières sont citées.</translation>
     </message>
+    <message>
+        <source>this table is damaged: {}</source>
+        <translation>ce tableau est endommagé : {}</translation>
+    </message>
+    <message>
+        <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), a split file (.kvx) that carries one, or a saved table (.kvtable)</source>
+        <translation>Une liste : texte (CSV, tabulations, colonnes séparées par des blancs), classeur (.xlsx, .ods), fichier d’intermédiaires (.kvx) qui en porte une, ou tableau enregistré (.kvtable)</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -8723,10 +8727,6 @@
         <translation>Tableau conservé avec la course</translation>
     </message>
     <message>
-        <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;All files (*)</source>
-        <translation>Listes (*.csv *.tsv *.txt *.xlsx *.ods *.kvx);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
         <source>The least is %1 (%2), the most %3 (%4), of %5 rows</source>
         <translation>Le minimum est %1 (%2), le maximum %3 (%4), sur %5 lignes</translation>
     </message>
@@ -9477,6 +9477,10 @@
     <message>
         <source>Runs…</source>
         <translation>En cours…</translation>
+    </message>
+    <message>
+        <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;All files (*)</source>
+        <translation>Listes (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
@@ -22274,6 +22278,25 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
         <source>Say who line %1 is</source>
         <translation>Dire qui est la ligne %1</translation>
     </message>
+    <message>
+        <source>Line %1 of the list is no row of this table any more.</source>
+        <translation>La ligne %1 de la liste n’est plus une ligne de ce tableau.</translation>
+    </message>
+    <message>
+        <source>Line %1, column %2 of the list says “%3”.</source>
+        <translation>La ligne %1, colonne %2 de la liste dit « %3 ».</translation>
+    </message>
+    <message>
+        <source>1 row</source>
+        <translation>1 ligne</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rows</source>
+        <translation>
+            <numerusform>%n ligne</numerusform>
+            <numerusform>%n lignes</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::TablesActions</name>
@@ -22300,18 +22323,6 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     <message>
         <source>Save the c&amp;hart…</source>
         <translation>Enregistrer &amp;le graphique…</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>É&amp;dition</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Rétablir</translation>
     </message>
     <message>
         <source>The first line holds the &amp;titles</source>
@@ -22501,18 +22512,6 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
         <translation>Ouvrir des listes</translation>
     </message>
     <message>
-        <source>Begin anew?</source>
-        <translation>Tout recommencer&#x202f;?</translation>
-    </message>
-    <message>
-        <source>What you made of this list is given up; the file stays.</source>
-        <translation>Ce que vous avez fait de cette liste est abandonné&#x202f;; le fichier reste.</translation>
-    </message>
-    <message>
-        <source>Begin anew</source>
-        <translation>Tout recommencer</translation>
-    </message>
-    <message>
         <source>Join a team</source>
         <translation>Relier une équipe</translation>
     </message>
@@ -22589,14 +22588,6 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
             <numerusform>%n colonne</numerusform>
             <numerusform>%n colonnes</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Line %1, column %2 of the list says “%3”.</source>
-        <translation>La ligne %1, colonne %2 de la liste indique « %3 ».</translation>
-    </message>
-    <message>
-        <source>Line %1 of the list is no row of this table any more.</source>
-        <translation>La ligne %1 de la liste n’est plus une ligne de ce tableau.</translation>
     </message>
 </context>
 <context>
