@@ -9,6 +9,7 @@
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/tables/derived_dialog.h"
+#include "desktop/tables/empty_tables.h"
 #include "desktop/tables/list_panel.h"
 #include "desktop/tables/pivot_dialog.h"
 #include "desktop/tables/race_keeping.h"
@@ -53,38 +54,16 @@ TablesWindow::~TablesWindow() {
 
 void TablesWindow::makeParts() {
     m_pages = new QStackedWidget;
-    m_pages->addWidget(makeStartPage());
+    auto* const empty = new EmptyTables;
+    connect(empty, &EmptyTables::filesWanted, this, &TablesWindow::chooseFiles);
+    connect(empty, &EmptyTables::clipboardWanted, this, &TablesWindow::openClipboard);
+    m_pages->addWidget(empty);
     m_panel = new ListPanel(m_document, workspace());
     m_pages->addWidget(m_panel);
     setCentralWidget(m_pages);
     m_status = new QLabel;
     m_status->setObjectName("status");
     statusBar()->addWidget(m_status);
-}
-
-QWidget* TablesWindow::makeStartPage() {
-    auto* const page = new QWidget;
-    auto* const title = new QLabel(tr("Drop a list of results here"));
-    title->setFont(theme::titleFont(*this));
-    auto* const text = new QLabel(
-        tr("Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from "
-           "a page, or a race that carries a list. Lists are only read."));
-    text->setWordWrap(true);
-    text->setAlignment(Qt::AlignCenter);
-    text->setForegroundRole(QPalette::PlaceholderText);
-    auto* const files = new QPushButton(tr("Open a list…"));
-    auto* const copied = new QPushButton(tr("Open what was copied"));
-    connect(files, &QPushButton::clicked, this, &TablesWindow::chooseFiles);
-    connect(copied, &QPushButton::clicked, this, &TablesWindow::openClipboard);
-    auto* const column = new QVBoxLayout(page);
-    column->setSpacing(theme::LargeSpacing);
-    column->addStretch();
-    column->addWidget(title, 0, Qt::AlignHCenter);
-    column->addWidget(text); // over the whole width: how high it is follows from that
-    for (QPushButton* const button : {files, copied})
-        column->addWidget(button, 0, Qt::AlignHCenter);
-    column->addStretch();
-    return page;
 }
 
 void TablesWindow::connectParts() {

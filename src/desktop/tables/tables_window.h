@@ -104,7 +104,6 @@ protected:
 
 private:
     void makeParts();
-    [[nodiscard]] QWidget* makeStartPage();
     void connectParts();
     void choose(OfferedLists offered, const QString& path, const std::string& wanted);
     void start(OfferedList list, const QString& path);
