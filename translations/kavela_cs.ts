@@ -12680,6 +12680,25 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
 </context>
 <context>
+    <name>kavela::desktop::EmptyTables</name>
+    <message>
+        <source>Drop a list of results here</source>
+        <translation>Přetáhněte sem seznam výsledků</translation>
+    </message>
+    <message>
+        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
+        <translation>Text (CSV, tabulátory, sloupce z mezer), tabulkový sešit (.xlsx, .ods), zkopírované ze stránky, nebo závod s listinou. Seznamy se jen čtou.</translation>
+    </message>
+    <message>
+        <source>Open a list…</source>
+        <translation>Otevřít seznam…</translation>
+    </message>
+    <message>
+        <source>Open what was copied</source>
+        <translation>Otevřít zkopírované</translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::EntryTable</name>
     <message>
         <source>“%1” is a number from 0 to %2</source>
@@ -22503,22 +22522,6 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <message>
         <source>Tables</source>
         <translation>Tabulky</translation>
-    </message>
-    <message>
-        <source>Drop a list of results here</source>
-        <translation>Přetáhněte sem seznam výsledků</translation>
-    </message>
-    <message>
-        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
-        <translation>Text (CSV, tabulátory, sloupce z mezer), tabulkový sešit (.xlsx, .ods), zkopírované ze stránky, nebo závod s listinou. Seznamy se jen čtou.</translation>
-    </message>
-    <message>
-        <source>Open a list…</source>
-        <translation>Otevřít seznam…</translation>
-    </message>
-    <message>
-        <source>Open what was copied</source>
-        <translation>Otevřít zkopírované</translation>
     </message>
     <message>
         <source>Saved %1</source>

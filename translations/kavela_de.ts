@@ -12638,6 +12638,25 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
 </context>
 <context>
+    <name>kavela::desktop::EmptyTables</name>
+    <message>
+        <source>Drop a list of results here</source>
+        <translation>Eine Ergebnisliste hierher ziehen</translation>
+    </message>
+    <message>
+        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
+        <translation>Text (CSV, Tabs, Spalten aus Leerzeichen), eine Tabellendatei (.xlsx, .ods), aus einer Seite Kopiertes oder ein Rennen, das eine Liste enthält. Listen werden nur gelesen.</translation>
+    </message>
+    <message>
+        <source>Open a list…</source>
+        <translation>Liste öffnen…</translation>
+    </message>
+    <message>
+        <source>Open what was copied</source>
+        <translation>Kopiertes öffnen</translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::EntryTable</name>
     <message>
         <source>“%1” is a number from 0 to %2</source>
@@ -22438,22 +22457,6 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <message>
         <source>Tables</source>
         <translation>Tabellen</translation>
-    </message>
-    <message>
-        <source>Drop a list of results here</source>
-        <translation>Eine Ergebnisliste hierher ziehen</translation>
-    </message>
-    <message>
-        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
-        <translation>Text (CSV, Tabs, Spalten aus Leerzeichen), eine Tabellendatei (.xlsx, .ods), aus einer Seite Kopiertes oder ein Rennen, das eine Liste enthält. Listen werden nur gelesen.</translation>
-    </message>
-    <message>
-        <source>Open a list…</source>
-        <translation>Liste öffnen…</translation>
-    </message>
-    <message>
-        <source>Open what was copied</source>
-        <translation>Kopiertes öffnen</translation>
     </message>
     <message>
         <source>Saved %1</source>

@@ -12638,6 +12638,25 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
 </context>
 <context>
+    <name>kavela::desktop::EmptyTables</name>
+    <message>
+        <source>Drop a list of results here</source>
+        <translation>Suelta aquí una lista de resultados</translation>
+    </message>
+    <message>
+        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
+        <translation>Texto (CSV, tabuladores, columnas de espacios), una hoja de cálculo (.xlsx, .ods), lo copiado de una página o una carrera que lleve una lista. Las listas solo se leen.</translation>
+    </message>
+    <message>
+        <source>Open a list…</source>
+        <translation>Abrir una lista…</translation>
+    </message>
+    <message>
+        <source>Open what was copied</source>
+        <translation>Abrir lo copiado</translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::EntryTable</name>
     <message>
         <source>“%1” is a number from 0 to %2</source>
@@ -22438,22 +22457,6 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <message>
         <source>Tables</source>
         <translation>Tablas</translation>
-    </message>
-    <message>
-        <source>Drop a list of results here</source>
-        <translation>Suelta aquí una lista de resultados</translation>
-    </message>
-    <message>
-        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
-        <translation>Texto (CSV, tabuladores, columnas de espacios), una hoja de cálculo (.xlsx, .ods), lo copiado de una página o una carrera que lleve una lista. Las listas solo se leen.</translation>
-    </message>
-    <message>
-        <source>Open a list…</source>
-        <translation>Abrir una lista…</translation>
-    </message>
-    <message>
-        <source>Open what was copied</source>
-        <translation>Abrir lo copiado</translation>
     </message>
     <message>
         <source>Saved %1</source>

@@ -12638,6 +12638,25 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
 </context>
 <context>
+    <name>kavela::desktop::EmptyTables</name>
+    <message>
+        <source>Drop a list of results here</source>
+        <translation>Déposez ici une liste de résultats</translation>
+    </message>
+    <message>
+        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
+        <translation>Texte (CSV, tabulations, colonnes séparées par des blancs), classeur (.xlsx, .ods), ce qui a été copié d’une page, ou une course qui porte une liste. Les listes sont seulement lues.</translation>
+    </message>
+    <message>
+        <source>Open a list…</source>
+        <translation>Ouvrir une liste…</translation>
+    </message>
+    <message>
+        <source>Open what was copied</source>
+        <translation>Ouvrir ce qui a été copié</translation>
+    </message>
+</context>
+<context>
     <name>kavela::desktop::EntryTable</name>
     <message>
         <source>“%1” is a number from 0 to %2</source>
@@ -22438,22 +22457,6 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     <message>
         <source>Tables</source>
         <translation>Tableaux</translation>
-    </message>
-    <message>
-        <source>Drop a list of results here</source>
-        <translation>Déposez ici une liste de résultats</translation>
-    </message>
-    <message>
-        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
-        <translation>Texte (CSV, tabulations, colonnes séparées par des blancs), classeur (.xlsx, .ods), ce qui a été copié d’une page, ou une course qui porte une liste. Les listes sont seulement lues.</translation>
-    </message>
-    <message>
-        <source>Open a list…</source>
-        <translation>Ouvrir une liste…</translation>
-    </message>
-    <message>
-        <source>Open what was copied</source>
-        <translation>Ouvrir ce qui a été copié</translation>
     </message>
     <message>
         <source>Saved %1</source>
