@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <fmt/format.h>
+
 namespace kavela::test {
 
 namespace {
@@ -80,7 +82,7 @@ TEST_F(OpenRace, DoesNotTakeALinkToTheRaceForItsBackup) {
 
 TEST_F(OpenRace, OpensWithoutRewritingWhereNoBackupCanBeMade) {
     // A name as long as the disk allows leaves no room for the longer one of the backup.
-    const std::string name = std::string(251, 'r') + ".kvx";
+    const std::string name = fmt::format("{:r>251}.kvx", "");
     const fs::path path = m_folder.add(name, oldContent());
     fs::remove(m_race);
     const auto race = open(path);
