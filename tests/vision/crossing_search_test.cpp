@@ -51,12 +51,14 @@ private:
     std::vector<std::vector<std::int8_t>> m_bands;
 };
 
+/// This bow is blunt: what is reckoned for the thin tip of a real one comes too early here.
 TEST(CrossingSearch, FindsTheSlotAndTheSpeedOfABow) {
+    constexpr double Tip = 3;
     for (const double speed : {0.9, 1.4, 2.0}) {
         SCOPED_TRACE(speed);
         const auto found = DrawnBands(speed, 240.4).found();
         ASSERT_EQ(found.size(), 1U);
-        EXPECT_NEAR(found[0].slot, 240.4, 2);
+        EXPECT_NEAR(found[0].slot, 240.4, Tip);
         EXPECT_NEAR(found[0].speed / speed, 1, 0.15);
         EXPECT_GE(found[0].confidence, 0.5);
     }
