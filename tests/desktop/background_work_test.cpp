@@ -55,6 +55,28 @@ TEST(BackgroundWorkTest, BringsAResultThatOnlyMovesOnTheInterfaceThread) {
     EXPECT_FALSE(work.isRunning());
 }
 
+/// Nobody could answer it under a dialog that takes all clicks.
+TEST(BackgroundWorkTest, ShowsNothingOverAQuestionThatItsEndAsks) {
+    QWidget window;
+    window.show();
+    BackgroundWork work;
+    bool isAsked = false;
+    bool isCovered = true;
+    work.runOver(
+        {&window, "Reading…"}, [] { return 1; },
+        [&](int) {
+            isAsked = true;
+            isCovered = QTest::qWaitFor(
+                [&] {
+                    auto* const dialog = window.findChild<QProgressDialog*>();
+                    return dialog && dialog->isVisible();
+                },
+                1000);
+        });
+    QTRY_VERIFY(isAsked);
+    QTRY_VERIFY(!isCovered);
+}
+
 TEST(BackgroundWorkTest, TellsWhatAPieceThrew) {
     BackgroundWork work;
     std::string told;

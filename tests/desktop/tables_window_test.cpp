@@ -135,6 +135,16 @@ TEST_F(TablesWindowTest, TakesEveryStepBackAndLeavesTheListAlone) {
     EXPECT_FALSE(window.document().undoStack().canUndo()) << "what cannot be taken is no step";
 }
 
+/// The cursor stands on what was added last.
+TEST_F(TablesWindowTest, ReckonsWhatIsAddedNextFromTheSameColumn) {
+    TablesWindow& window = openFinal();
+    window.table().choose(0, TimeOfList);
+    window.sort(false);
+    window.derive(Derivation::Rank);
+    window.derive(Derivation::Gap);
+    EXPECT_EQ(column(window, 6).value(2).replace(',', '.'), "4.75") << "of the times";
+}
+
 TEST_F(TablesWindowTest, TellsWhatWasRefusedWithLineColumnAndReason) {
     TablesWindow& window = openFinal();
     const QAbstractItemModel& refused = *window.refused().model();

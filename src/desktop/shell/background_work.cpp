@@ -35,8 +35,7 @@ public:
     Cover& operator=(const Cover&) = delete;
     /// A window may be going, with the work that it owns: it is freed when that did not happen.
     ~Cover() {
-        if (m_dialog)
-            m_dialog->deleteLater();
+        delete m_dialog.data();
         if (m_window && m_isLocked)
             QMetaObject::invokeMethod(
                 m_window, [window = m_window] { window->setEnabled(true); }, Qt::QueuedConnection);
@@ -50,11 +49,9 @@ public:
     }
 
     void lift() {
-        if (m_dialog) {
-            m_dialog->hide();
-            m_dialog->deleteLater();
-            m_dialog = nullptr;
-        }
+        // At once: what the piece ends with may ask a question, and the dialog, which appears by
+        // itself after a while, would come over it.
+        delete m_dialog.data();
         if (!m_window || !std::exchange(m_isLocked, false))
             return;
         m_window->setEnabled(true);

@@ -243,7 +243,14 @@ void TablesWindow::derive(Derivation what) {
     derived.what = what;
     const auto column = currentColumn();
     const ListTable& table = *m_document.table();
-    if (what != Derivation::Total && column && isReckoned(table.columns[*column].kind))
+    const std::vector<TableStep> steps = m_document.steps();
+    const auto* const last = steps.empty() ? nullptr : std::get_if<DerivedColumn>(&steps.back());
+    const bool isOnStanding = last && column == table.columns.size() - 1 &&
+                              last->what != Derivation::Total &&
+                              last->what != Derivation::Difference;
+    if (isOnStanding && what != Derivation::Total) // nobody wants the percent of a rank
+        derived.columns = last->columns;
+    else if (what != Derivation::Total && column && isReckoned(table.columns[*column].kind))
         derived.columns.push_back(table.columns[*column].name);
     take(derived);
 }
