@@ -33,8 +33,8 @@ struct Place {
     std::size_t run = 0;
     std::optional<std::size_t> split;
     std::optional<std::size_t> gate;
-    std::optional<std::size_t> entry; ///< of a run's list of notes
-    std::optional<CMTime> moment;     ///< on the run's first film
+    std::optional<std::size_t> entry;        ///< of a run's list of notes
+    std::optional<CMTime> moment;            ///< on the run's first film
     std::optional<std::int64_t> line = {};   ///< of a list, which has no runs
     std::optional<std::int64_t> column = {}; ///< of a list
 

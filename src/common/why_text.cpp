@@ -122,8 +122,8 @@ std::string uncertaintyText(const Reason& reason) {
 
 std::string inputText(const Input& input) {
     constexpr double Largest = 1e15; // beyond it every number is whole
-    const bool isCount =
-        (!input.place || input.place->line) && std::abs(input.value) < Largest && input.value == std::floor(input.value);
+    const bool isCount = (!input.place || input.place->line) && std::abs(input.value) < Largest &&
+                         input.value == std::floor(input.value);
     return isCount ? plainText(input.value) : hundredthsText(input.value);
 }
 

@@ -19,8 +19,7 @@ void tellOne(const ListTable& table, std::size_t column, std::size_t row, Why& w
     std::string name = crewOfRow(table, row).value_or(std::string());
     if (name.empty())
         name = told.name;
-    const double number =
-        what == ToldOfCell::CountsAsOne ? 1 : told.cells[row].number.value_or(0);
+    const double number = what == ToldOfCell::CountsAsOne ? 1 : told.cells[row].number.value_or(0);
     why.input(std::move(name), number, placeOfCell(table, column, row));
 }
 

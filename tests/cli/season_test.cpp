@@ -88,9 +88,8 @@ TEST_F(SeasonCalls, PrintOneDocumentInItsOrder) {
     const Ending ending = call({"--json"});
     ASSERT_EQ(ending.status, 0) << ending.errors;
     const auto shown = ordered_json::parse(ending.output);
-    EXPECT_THAT(keysOf(shown),
-                ElementsAre("category", "spread", "athletes", "benchmarks", "simulation",
-                            "starter"));
+    EXPECT_THAT(keysOf(shown), ElementsAre("category", "spread", "athletes", "benchmarks",
+                                           "simulation", "starter"));
     EXPECT_TRUE(shown["starter"].is_null());
     EXPECT_THAT(keysOf(shown["spread"]),
                 ElementsAre("runs", "df", "cv", "low", "high", "worthwhile"));

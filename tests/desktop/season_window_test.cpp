@@ -238,9 +238,9 @@ TEST_F(SeasonWindowTest, KeepsToTheRacesInWhichTheAthleteStarts) {
     m_window.header().chooseAthlete(1);
     again.showAgain(m_window.shownView());
     again.setPaths(m_window.paths());
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return again.season() && !again.isBusy() && again.season()->season.spread.runs == 9; }))
-        << "also when the window comes back";
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        return again.season() && !again.isBusy() && again.season()->season.spread.runs == 9;
+    })) << "also when the window comes back";
 }
 
 TEST_F(SeasonWindowTest, FollowsTheTeamOnTheDiskAndKeepsWhoIsShown) {

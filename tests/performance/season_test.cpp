@@ -167,7 +167,8 @@ TEST_F(SeasonOfThree, RacesOfAStarterAreThoseWithAStartInAnyPhase) {
     ASSERT_EQ(cleo.members.size(), 2U) << "whoever did not start stays in the team";
     ASSERT_EQ(cleo.members[0].races.size(), 1U);
     EXPECT_EQ(cleo.members[0].races[0].location, "Mill");
-    const SeasonData anna = seasonData(m_team, m_facts, {.category = "K1W", .starter = "Anna Bell"});
+    const SeasonData anna =
+        seasonData(m_team, m_facts, {.category = "K1W", .starter = "Anna Bell"});
     EXPECT_EQ(anna.runs.size(), 11U) << "with the race that only the team has, without Rapid";
     EXPECT_EQ(anna.members[0].races.size(), 2U);
 

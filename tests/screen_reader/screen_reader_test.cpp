@@ -43,8 +43,8 @@ protected:
         until.exec();
         QStringList lines = QString::fromUtf8(reader.readAllStandardOutput()).trimmed().split('\n');
         const int heard = lines.takeLast().toInt();
-        ASSERT_GE(heard, FewestParts) << lines.join('\n').toStdString()
-                                      << reader.readAllStandardError().toStdString();
+        ASSERT_GE(heard, FewestParts)
+            << lines.join('\n').toStdString() << reader.readAllStandardError().toStdString();
         lines.removeDuplicates();
         for (const QString& line : lines)
             ADD_FAILURE() << window.metaObject()->className() << ": " << line.toStdString();

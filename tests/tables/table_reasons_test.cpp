@@ -122,8 +122,7 @@ TEST(TableReasons, OfPivotsNameEveryRowBehind) {
     for (const Input& input : count.inputs)
         EXPECT_EQ(input.value, 1);
     // Of what was reckoned from a pivot the pivot's own rows are behind.
-    const Reason rank =
-        reasonOf(steps.with(parsedDerivedColumn("rank:mean Time")), "cell/1/rank");
+    const Reason rank = reasonOf(steps.with(parsedDerivedColumn("rank:mean Time")), "cell/1/rank");
     EXPECT_EQ(rank.value, 2);
     ASSERT_THAT(rank.parts, SizeIs(1));
     EXPECT_THAT(placesIn(rank.parts[0]), ElementsAre("3:3"));

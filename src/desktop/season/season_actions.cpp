@@ -95,10 +95,9 @@ void SeasonActions::makeAthleteMenu() {
                << menu->addAction(tr("&Show the athlete of the row"),
                                   QKeySequence(Qt::CTRL | Qt::Key_Return), window,
                                   [window] { window->showChosenAthlete(); });
-    m_ownStarts = menu->addAction(tr("Only the athlete's &own races"),
-                                  QKeySequence(Qt::CTRL | Qt::Key_L), window, [window](bool isOn) {
-                                      window->header().setOwnStarts(isOn);
-                                  });
+    m_ownStarts =
+        menu->addAction(tr("Only the athlete's &own races"), QKeySequence(Qt::CTRL | Qt::Key_L),
+                        window, [window](bool isOn) { window->header().setOwnStarts(isOn); });
     m_ownStarts->setCheckable(true);
     m_ofSeason << m_ownStarts;
     menu->addSeparator();

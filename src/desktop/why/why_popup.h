@@ -18,8 +18,8 @@ namespace kavela::desktop {
 /// Shows beside a number how it came about: its rule, what went into it and where that stands, the
 /// full number behind the rounded one, and the numbers made on the way, which open. Can be copied
 /// as text; Escape or a click elsewhere closes it. A place that is activated is shown
-/// by the tool window that `over` belongs to, or goes out as its placeRequested(). `atGlobal` is where the number
-/// stands on the screen.
+/// by the tool window that `over` belongs to, or goes out as its placeRequested(). `atGlobal` is
+/// where the number stands on the screen.
 void showWhy(const Reason& reason, const QRect& atGlobal, QWidget* over);
 
 /// Answers for what stands at a point of a widget; nothing where no number stands that could.
