@@ -39,8 +39,11 @@ public:
                 m_runs.push_back(run);
                 m_filmed.push_back(filmedTotal(document, document.athletes[run]));
                 m_lineOf.emplace_back();
-                m_crewKeys.push_back(crewKey(document.athletes[run].names));
+                m_keys.push_back({crewKey(document.athletes[run].names),
+                                  categoryKey(categoryOf(document.athletes[run]))});
             }
+        for (const OfficialLine& line : lines)
+            m_lineKeys.push_back({crewKey(line.crew), categoryKey(line.category)});
         m_isUsed.resize(lines.size());
         match();
     }
@@ -56,6 +59,12 @@ public:
     }
 
 private:
+    /// By what runs and lines are matched.
+    struct Keys {
+        std::string crew;
+        std::string category;
+    };
+
     [[nodiscard]] std::string categoryOf(const athletedata031& run) const {
         return run.cat.empty() ? m_document.info.category : run.cat;
     }
@@ -74,12 +83,11 @@ private:
     }
 
     [[nodiscard]] bool fits(std::size_t i, std::size_t line) const {
-        const OfficialLine& official = m_lines[line];
-        const athletedata031& run = m_document.athletes[m_runs[i]];
-        const bool hasCategory = official.category.empty() ||
-                                 categoryKey(categoryOf(run)).empty() ||
-                                 categoryKey(official.category) == categoryKey(categoryOf(run));
-        return !m_crewKeys[i].empty() && hasCategory && crewKey(official.crew) == m_crewKeys[i];
+        const Keys& run = m_keys[i];
+        const Keys& official = m_lineKeys[line];
+        const bool hasCategory = m_lines[line].category.empty() || run.category.empty() ||
+                                 official.category == run.category;
+        return !run.crew.empty() && hasCategory && official.crew == run.crew;
     }
 
     /// How far apart a run and a line are; runs without a time go to lines without one.
@@ -260,9 +268,10 @@ private:
     /// Of the runs that are meant, alike in length.
     std::vector<std::size_t> m_runs;
     std::vector<std::optional<RunTotal>> m_filmed;
-    std::vector<std::string> m_crewKeys;
+    std::vector<Keys> m_keys;
     std::vector<std::optional<std::size_t>> m_lineOf;
     std::vector<std::optional<std::size_t>> m_swappedWith; ///< places in m_runs
+    std::vector<Keys> m_lineKeys;                          ///< by line
     std::vector<bool> m_isUsed;                            ///< by line
     std::vector<OfficialDifference> m_differences;
 };
