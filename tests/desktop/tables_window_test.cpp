@@ -25,7 +25,11 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QLabel>
+#include <QSemaphore>
 #include <QTest>
+#include <QThreadPool>
+
+#include <memory>
 
 /// Any list as a table, and official results beside the films, as a coach uses them.
 namespace kavela::test {
@@ -69,6 +73,22 @@ splittakerdata031 raceOnFilm() {
     return race;
 }
 
+/// Holds up whatever is to be computed beside the windows.
+class BusyThreads {
+public:
+    BusyThreads() {
+        QThreadPool& pool = *QThreadPool::globalInstance();
+        for (int i = 0; i < pool.maxThreadCount(); ++i)
+            pool.start([gate = m_gate] { gate->acquire(); });
+    }
+    BusyThreads(const BusyThreads&) = delete;
+    BusyThreads& operator=(const BusyThreads&) = delete;
+    ~BusyThreads() { m_gate->release(QThreadPool::globalInstance()->maxThreadCount()); }
+
+private:
+    std::shared_ptr<QSemaphore> m_gate = std::make_shared<QSemaphore>();
+};
+
 class TablesWindowTest : public ::testing::Test {
 protected:
     TablesWindowTest() { m_workspace.setAlerts(&m_recorder); }
@@ -81,6 +101,11 @@ protected:
 
     static void await(TablesWindow& window) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isReading(); }, 20000));
+    }
+
+    static void awaitCompared(OfficialDialog& dialog) {
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return !dialog.isReading() && !dialog.isComparing(); }, 20000));
     }
 
     TablesWindow& openTable(const QString& path, const QString& list = {}) {
@@ -408,21 +433,56 @@ TEST_F(TablesWindowTest, TakesOfficialResultsOverLineByLine) {
     TakingWindow& window = *m_program.windowsOf<TakingWindow>().front();
     OfficialDialog& dialog = showOfficialDifferences(window, m_workspace);
     EXPECT_THAT(window.findChildren<OfficialDialog*>(), SizeIs(1)) << "one for a window";
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog.isReading(); })) << "the race's own lists";
+    awaitCompared(dialog);
     ASSERT_THAT(dialog.differences(), SizeIs(1)) << "a touch that was not noted";
     EXPECT_EQ(dialog.differences().front().kind, OfficialDifferenceKind::MissingPenalty);
     dialog.openList(add("other.csv", "Name;Time;Pen\nBell Anna;90;0\nKos Eva;95;2\n"));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !dialog.isReading(); }));
+    awaitCompared(dialog);
     ASSERT_THAT(dialog.differences(), SizeIs(1));
     EXPECT_EQ(dialog.differences().front().kind, OfficialDifferenceKind::TimeOff);
     dialog.takeOverCurrent();
     EXPECT_EQ(window.document().run(1).sectioninfo.realtime, 95);
     EXPECT_EQ(window.document().run(1).sectioninfo.times, std::vector<double>({40, 51}));
+    awaitCompared(dialog);
     EXPECT_THAT(dialog.differences(), IsEmpty());
     EXPECT_EQ(window.document().undoStack().count(), 1);
     window.undo();
     EXPECT_EQ(window.document().run(1).sectioninfo.realtime, 0);
+    awaitCompared(dialog);
     EXPECT_THAT(dialog.differences(), SizeIs(1)) << "it follows what is taken back";
+}
+
+/// What is asked for while the race is compared waits for the differences as they are then.
+TEST_F(TablesWindowTest, ComparesOfficialResultsBesideTheWindow) {
+    m_program.openOfficialDifferences(add("race.kvx", encode(raceOnFilm())));
+    TakingWindow& window = *m_program.windowsOf<TakingWindow>().front();
+    TakingDocument& race = window.document();
+    OfficialDialog& dialog = showOfficialDifferences(window, m_workspace);
+    awaitCompared(dialog);
+    ASSERT_THAT(dialog.differences(), SizeIs(1));
+    {
+        const BusyThreads busy;
+        dialog.takeOverCurrent();
+        EXPECT_TRUE(dialog.isComparing());
+        EXPECT_THAT(dialog.differences(), SizeIs(1)) << "what is shown stays meanwhile";
+        dialog.takeOverCurrent();
+    }
+    awaitCompared(dialog);
+    EXPECT_THAT(dialog.differences(), IsEmpty());
+    EXPECT_EQ(race.undoStack().count(), 1) << "it was none any more";
+    window.undo();
+    awaitCompared(dialog);
+    ASSERT_THAT(dialog.differences(), SizeIs(1));
+    {
+        const BusyThreads busy;
+        race.moveRun(0, 1); // Anna's run, which it is about
+        dialog.takeOverCurrent();
+        EXPECT_EQ(race.undoStack().count(), 1);
+    }
+    awaitCompared(dialog);
+    EXPECT_EQ(race.undoStack().count(), 2);
+    EXPECT_EQ(race.run(1).sectioninfo.realpen, 2);
+    EXPECT_EQ(race.run(0).sectioninfo.realtime, 0);
 }
 
 /// As an office program writes them: 84.90 is 84.9 in the file.

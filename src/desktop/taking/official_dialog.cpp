@@ -78,6 +78,11 @@ ColumnModel<OfficialDifference>::Columns differenceColumns() {
     return columns;
 }
 
+/// The same difference of another comparison: its run may stand elsewhere by then.
+bool isSameDifference(const OfficialDifference& a, const OfficialDifference& b) {
+    return a.kind == b.kind && a.line == b.line && a.crew == b.crew && a.text == b.text;
+}
+
 /// The values that the runs have, each once, in the order of the runs.
 QStringList runWords(const TakingDocument& document, std::string athletedata031::*word) {
     QStringList words;
@@ -104,7 +109,7 @@ OfficialDialog::OfficialDialog(TakingDocument& document, Workspace& workspace, Q
     makeParts();
     connect(&m_document, &EditedFile::changed, this, &OfficialDialog::followDocument);
     for (QComboBox* const box : {m_list, m_category, m_phase})
-        connect(box, &QComboBox::currentIndexChanged, this, &OfficialDialog::compare);
+        connect(box, &QComboBox::currentIndexChanged, this, &OfficialDialog::compareOther);
     connect(m_table, &ColumnTable::chosen, this, &OfficialDialog::enable);
     followDocument();
     resize(860, 460);
@@ -128,8 +133,10 @@ void OfficialDialog::makeParts() {
     m_takeOver =
         &m_table->addCommand(tr("&Take over"), Qt::Key_Return, [this] { takeOverCurrent(); });
     m_goToRun = &m_table->addCommand(tr("&Show the run"), Qt::Key_Space, [this] {
-        if (const int place = m_table->currentPlace(); place >= 0 && m_rows.row(place).run)
-            emit runRequested(static_cast<int>(*m_rows.row(place).run));
+        withCurrent([this](const OfficialDifference& difference) {
+            if (difference.run)
+                emit runRequested(static_cast<int>(*difference.run));
+        });
     });
     auto* const file = new QPushButton(tr("A &file…"));
     file->setAutoDefault(false);
@@ -161,7 +168,7 @@ OfficialDialog::Source OfficialDialog::sourceOf(const OfferedList& list, const Q
     title.removeAll(QString());
     Source source{title.join(QStringLiteral(", ")), {}, {}};
     try {
-        source.lines = officialLines(tableOf(list.grid));
+        source.lines = std::make_shared<const Lines>(officialLines(tableOf(list.grid)));
     } catch (const TableError& error) {
         source.fault = QString::fromStdString(error.what());
     }
@@ -171,7 +178,9 @@ OfficialDialog::Source OfficialDialog::sourceOf(const OfferedList& list, const Q
 std::vector<OfficialDialog::Source> OfficialDialog::ownSources(const infodata031& info) {
     std::vector<Source> sources;
     if (!info.resultsCSVdata.empty())
-        sources.push_back({tr("Results list"), officialLines(info.resultsCSVdata), {}});
+        sources.push_back({tr("Results list"),
+                           std::make_shared<const Lines>(officialLines(info.resultsCSVdata)),
+                           {}});
     for (const std::string& name : raceTableNames(info)) {
         if (name == "resultsCSVdata")
             continue;
@@ -272,33 +281,64 @@ void OfficialDialog::openList(const QString& path) {
         }});
 }
 
+/// What was asked of the differences of before means nothing among others.
+void OfficialDialog::compareOther() {
+    m_waiting.reset();
+    compare();
+}
+
+/// Beside the window: a long list and many runs take their time, at every edit of the race. What is
+/// shown stays until then.
 void OfficialDialog::compare() {
+    m_matching.cancel();
     const int chosen = m_list->currentIndex();
     if (chosen < 0) {
-        m_rows.show({}, true);
-        m_told->setText(!m_isOwnRead
-                            ? QString()
-                            : tr("The race carries no results list. Open one with “A file…”."));
-        enable();
+        showNone(!m_isOwnRead ? QString()
+                              : tr("The race carries no results list. Open one with “A file…”."),
+                 true);
         return;
     }
     const auto place = static_cast<std::size_t>(chosen);
     const Source& source = place < m_own.size() ? m_own[place] : m_opened.at(place - m_own.size());
+    if (!source.lines) {
+        showNone(source.fault, false);
+        return;
+    }
     OfficialScope scope;
     scope.category = m_category->currentData().toString().toStdString();
     scope.phase = m_phase->currentData().toString().toStdString();
-    std::vector<OfficialDifference> differences;
-    if (source.fault.isEmpty())
-        differences = officialDifferences(timesOf(m_document.value()), source.lines, scope);
+    m_matching.run(
+        [state = m_document.value(), lines = source.lines, scope] {
+            return officialDifferences(timesOf(state), *lines, scope);
+        },
+        [this](std::vector<OfficialDifference> differences) { take(std::move(differences)); });
+}
+
+void OfficialDialog::take(std::vector<OfficialDifference> differences) {
     const auto open = std::ranges::count(differences, true, &OfficialDifference::isOpen);
-    m_told->setText(!source.fault.isEmpty() ? source.fault
-                    : differences.empty()
+    m_told->setText(differences.empty()
                         ? tr("The films and this list say the same.")
                         : tr("%1 differences, %2 of them to take over. The films' own times stay; "
                              "Ctrl+Z in split taking takes a step back.")
                               .arg(differences.size())
                               .arg(open));
     m_rows.show(std::move(differences));
+    enable();
+    const auto waiting = std::exchange(m_waiting, std::nullopt);
+    if (!waiting)
+        return;
+    const auto found =
+        std::ranges::find_if(m_rows.rows(), [&](const OfficialDifference& difference) {
+            return isSameDifference(difference, waiting->difference);
+        });
+    if (found != m_rows.rows().end())
+        waiting->act(OfficialDifference(*found)); // the rows may be others afterwards
+}
+
+void OfficialDialog::showNone(const QString& why, bool isOther) {
+    m_waiting.reset();
+    m_told->setText(why);
+    m_rows.show({}, isOther);
     enable();
 }
 
@@ -308,13 +348,24 @@ void OfficialDialog::enable() {
     m_goToRun->setEnabled(place >= 0 && m_rows.row(place).run.has_value());
 }
 
-void OfficialDialog::takeOverCurrent() {
+/// Where the race is being compared, the difference may be none any more, and its run may stand
+/// elsewhere: that is waited for.
+void OfficialDialog::withCurrent(Act act) {
     const int place = m_table->currentPlace();
-    if (place < 0 || !m_rows.row(place).isOpen)
+    if (place < 0)
         return;
-    const OfficialDifference difference = m_rows.row(place); // the rows are others afterwards
-    if (!m_document.takeOfficial(difference))
-        compare();
+    OfficialDifference difference = m_rows.row(place); // the rows are others afterwards
+    if (isComparing())
+        m_waiting = Waiting{std::move(difference), std::move(act)};
+    else
+        act(difference);
+}
+
+void OfficialDialog::takeOverCurrent() {
+    withCurrent([this](const OfficialDifference& difference) {
+        if (difference.isOpen && !m_document.takeOfficial(difference))
+            compare();
+    });
 }
 
 /// Not modal: films are looked at beside it. What is typed in the window is taken over first, so

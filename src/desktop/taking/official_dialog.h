@@ -7,7 +7,9 @@
 
 #include <QDialog>
 
+#include <functional>
 #include <memory>
+#include <optional>
 
 class QComboBox;
 class QLabel;
@@ -34,23 +36,33 @@ public:
 
     /// Reads the lists of a file and compares with the first; what cannot be read is told.
     void openList(const QString& path);
+    /// What is chosen, once it is known whether it still is a difference.
     void takeOverCurrent();
     [[nodiscard]] const std::vector<OfficialDifference>& differences() const {
         return m_rows.rows();
     }
     [[nodiscard]] ColumnTable& table() const { return *m_table; }
     [[nodiscard]] bool isReading() const { return m_work.isRunning() || !m_isOwnRead; }
+    /// The differences are still those of before.
+    [[nodiscard]] bool isComparing() const { return m_matching.isRunning(); }
 
 signals:
     /// A run of the document, counted from 0, is to be looked at.
     void runRequested(int run);
 
 private:
+    using Lines = std::vector<OfficialLine>;
     /// A list to compare with, or why it cannot be.
     struct Source {
         QString title;
-        std::vector<OfficialLine> lines;
+        std::shared_ptr<const Lines> lines; ///< null where there is a fault
         QString fault;
+    };
+    using Act = std::function<void(const OfficialDifference&)>;
+    /// What is to be done with a difference that was chosen while it was compared.
+    struct Waiting {
+        OfficialDifference difference;
+        Act act;
     };
 
     void makeParts();
@@ -62,7 +74,11 @@ private:
     void fillChoices();
     void fillScope(QComboBox& box, const QStringList& texts, const QString& all);
     void chooseFile();
+    void compareOther();
     void compare();
+    void take(std::vector<OfficialDifference> differences);
+    void showNone(const QString& why, bool isOther);
+    void withCurrent(Act act);
     void enable();
 
     TakingDocument& m_document;
@@ -80,6 +96,8 @@ private:
     QAction* m_goToRun = nullptr;
     BackgroundWork m_work;
     BackgroundWork m_ownWork; ///< reads the race's lists
+    BackgroundWork m_matching;
+    std::optional<Waiting> m_waiting;
     bool m_isOwnRead = false;
 };
 
