@@ -1,11 +1,13 @@
 #include "facts/found_reasons.h"
 
 #include "common/cell_id.h"
+#include "common/text.h"
 #include "facts/found_text.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -75,8 +77,8 @@ void tellMembers(const QueryAnswer& groups, std::size_t group, const QueryColumn
     const QueryAnswer members = rowsOfGroup(groups, group);
     const std::size_t at = columnOf(members, column);
     std::size_t told = 0;
-    std::size_t left = 0;
-    std::size_t without = 0;
+    std::int64_t left = 0;
+    std::int64_t without = 0;
     for (std::size_t row = 0; row < members.size(); ++row) {
         const bool hasColumn = column && at < members.columns().size();
         const double value = hasColumn ? members.value(row, at).number : 1;
@@ -90,10 +92,9 @@ void tellMembers(const QueryAnswer& groups, std::size_t group, const QueryColumn
         }
     }
     if (left > 0)
-        why.note("And " + std::to_string(left) + " more.");
+        why.note(sayCount(left, "{} more row is not told.", "{} more rows are not told."));
     if (without > 0)
-        why.note(std::to_string(without) + (without == 1 ? " row has" : " rows have") +
-                 " no such value.");
+        why.note(sayCount(without, "{} row has no such value.", "{} rows have no such value."));
 }
 
 /// Which of the figures of a group a column is.

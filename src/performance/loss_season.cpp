@@ -148,7 +148,8 @@ LossVerdict verdictOf(const std::optional<Interval>& interval) {
 
 void tellUncertain(Why& why, const std::optional<Interval>& interval, std::size_t runs) {
     if (interval)
-        why.uncertain(*interval, "90 % interval, " + std::to_string(runs) + " runs");
+        why.uncertain(*interval, sayCount(static_cast<std::int64_t>(runs), "90 % interval, {} run",
+                                          "90 % interval, {} runs"));
     else
         why.note("Too few runs for an interval.");
 }
