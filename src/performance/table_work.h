@@ -86,7 +86,7 @@ struct TableWork {
     std::map<std::int64_t, std::optional<std::size_t>> answers;
 };
 
-/// As text, of work with a list. Steps that were taken back are left out.
+/// As text, of work with a list.
 [[nodiscard]] std::string tableWorkText(const TableWork& work);
 
 /// Whether bytes are such a text rather than a list.

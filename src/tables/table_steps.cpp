@@ -133,23 +133,24 @@ std::string stepText(const TableStep& step) {
 }
 
 TableSteps::TableSteps(ListGrid source)
-    : m_source(std::make_shared<const ListGrid>(std::move(source))) {
+    : TableSteps(std::make_shared<const ListGrid>(std::move(source)), {}) {}
+
+TableSteps::TableSteps(std::shared_ptr<const ListGrid> source, std::vector<TableStep> steps)
+    : m_source(std::move(source)), m_steps(std::move(steps)) {
     makeTable();
 }
 
 void TableSteps::makeTable() {
-    const auto steps = std::span(m_steps).first(m_taken);
-    ListTable table = tableOf(*m_source, readingOf(*m_source, steps));
-    for (const TableStep& step : steps)
+    ListTable table = tableOf(*m_source, readingOf(*m_source, m_steps));
+    for (const TableStep& step : m_steps)
         std::visit(StepTaker{table}, step);
     m_table = std::make_shared<const ListTable>(std::move(table));
 }
 
 std::vector<ListTable> TableSteps::tables() const {
-    const auto steps = std::span(m_steps).first(m_taken);
-    std::vector<ListTable> tables{tableOf(*m_source, readingOf(*m_source, steps))};
-    tables.reserve(steps.size() + 1);
-    for (const TableStep& step : steps) {
+    std::vector<ListTable> tables{tableOf(*m_source, readingOf(*m_source, m_steps))};
+    tables.reserve(m_steps.size() + 1);
+    for (const TableStep& step : m_steps) {
         ListTable table = tables.back();
         std::visit(StepTaker{table}, step);
         tables.push_back(std::move(table));
@@ -159,9 +160,7 @@ std::vector<ListTable> TableSteps::tables() const {
 
 TableSteps TableSteps::with(TableStep step) const {
     TableSteps more = *this;
-    more.m_steps.resize(m_taken);
     more.m_steps.push_back(std::move(step));
-    ++more.m_taken;
     if (isAboutReading(more.m_steps.back())) {
         more.makeTable();
         return more;
@@ -170,36 +169,6 @@ TableSteps TableSteps::with(TableStep step) const {
     std::visit(StepTaker{table}, more.m_steps.back());
     more.m_table = std::make_shared<const ListTable>(std::move(table));
     return more;
-}
-
-TableSteps TableSteps::undone() const {
-    TableSteps fewer = *this;
-    if (canUndo()) {
-        --fewer.m_taken;
-        fewer.makeTable();
-    }
-    return fewer;
-}
-
-TableSteps TableSteps::redone() const {
-    TableSteps more = *this;
-    if (canRedo()) {
-        ++more.m_taken;
-        more.makeTable();
-    }
-    return more;
-}
-
-std::vector<TableStep> TableSteps::steps() const {
-    return {m_steps.begin(), m_steps.begin() + static_cast<std::ptrdiff_t>(m_taken)};
-}
-
-std::string TableSteps::undoText() const {
-    return canUndo() ? stepText(m_steps[m_taken - 1]) : std::string();
-}
-
-std::string TableSteps::redoText() const {
-    return canRedo() ? stepText(m_steps[m_taken]) : std::string();
 }
 
 } // namespace kavela

@@ -9,8 +9,8 @@
 #include <variant>
 #include <vector>
 
-/// What a coach makes of a list, step by step. The list itself is never changed: each table is made
-/// of it anew, so that every step can be taken back.
+/// What a coach makes of a list, step by step. The list itself is never changed: a table can be
+/// made of it anew at any time, so that every step can be taken back.
 namespace kavela {
 
 /// Whether the first line holds the titles.
@@ -59,31 +59,25 @@ using TableStep = std::variant<TitlesStep, KindStep, RemoveStep, FilterStep, Sor
 /// What a step does, for a menu: "Sort by Time".
 [[nodiscard]] std::string stepText(const TableStep& step);
 
-/// A list, the steps that were taken, and those that were taken back. A value: copies share the
-/// list and the table.
+/// A list and the steps that were taken. A value: copies share the list and the table.
 class TableSteps {
 public:
     explicit TableSteps(ListGrid source);
+    /// Takes steps that were taken of a list before. Throws TableError for one that cannot be.
+    TableSteps(std::shared_ptr<const ListGrid> source, std::vector<TableStep> steps);
 
     [[nodiscard]] const ListGrid& source() const { return *m_source; }
-    /// The table after the steps that are not taken back.
+    [[nodiscard]] const std::shared_ptr<const ListGrid>& sharedSource() const { return m_source; }
+    /// The table after the steps.
     [[nodiscard]] const ListTable& table() const { return *m_table; }
+    [[nodiscard]] const std::shared_ptr<const ListTable>& sharedTable() const { return m_table; }
 
-    /// With one more step; those that were taken back are forgotten. Throws TableError for a step
-    /// that cannot be taken, or with which a later one no longer can.
+    /// With one more step. Throws TableError for a step that cannot be taken, or with which a later
+    /// one no longer can.
     [[nodiscard]] TableSteps with(TableStep step) const;
-    [[nodiscard]] bool canUndo() const { return m_taken > 0; }
-    [[nodiscard]] bool canRedo() const { return m_taken < m_steps.size(); }
-    /// Without the last step; the same where there is none.
-    [[nodiscard]] TableSteps undone() const;
-    [[nodiscard]] TableSteps redone() const;
-    /// The steps that are not taken back.
-    [[nodiscard]] std::vector<TableStep> steps() const;
-    /// The table as the list is read, then as it stands after each of them.
+    [[nodiscard]] const std::vector<TableStep>& steps() const { return m_steps; }
+    /// The table as the list is read, then as it stands after each step.
     [[nodiscard]] std::vector<ListTable> tables() const;
-    /// What undone() takes back and redone() takes again; empty where there is none.
-    [[nodiscard]] std::string undoText() const;
-    [[nodiscard]] std::string redoText() const;
 
 private:
     void makeTable();
@@ -91,7 +85,6 @@ private:
     std::shared_ptr<const ListGrid> m_source;
     std::shared_ptr<const ListTable> m_table;
     std::vector<TableStep> m_steps;
-    std::size_t m_taken = 0;
 };
 
 } // namespace kavela

@@ -160,6 +160,21 @@ TEST_F(TablesWindowTest, TakesEveryStepBackAndLeavesTheListAlone) {
     EXPECT_FALSE(window.document().undoStack().canUndo()) << "what cannot be taken is no step";
 }
 
+TEST_F(TablesWindowTest, KeepsStepsAndNoTablesToTakeBack) {
+    TablesWindow& window = openFinal();
+    window.take(SortStep{"Name", false});
+    window.take(KindStep{"Pen", ListColumnKind::Decimal});
+    const std::string before = tableCsv(*window.document().table());
+    const std::weak_ptr<const ListTable> table = window.document().table();
+    window.take(FilterStep{"Class", "K1W", true});
+    const std::string after = tableCsv(*window.document().table());
+    EXPECT_TRUE(table.expired());
+    window.undo();
+    EXPECT_EQ(tableCsv(*window.document().table()), before);
+    window.redo();
+    EXPECT_EQ(tableCsv(*window.document().table()), after);
+}
+
 /// The cursor stands on what was added last.
 TEST_F(TablesWindowTest, ReckonsWhatIsAddedNextFromTheSameColumn) {
     TablesWindow& window = openFinal();

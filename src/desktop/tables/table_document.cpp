@@ -52,6 +52,23 @@ QString freeWorkPath(const ListGrid& list, const ListOrigin& origin, IsTaken isT
 
 } // namespace
 
+PackedValue<TableWork>::PackedValue(const std::shared_ptr<const TableWork>& value,
+                                    const PackedValue* /*before*/)
+    : m_rest(*value) {
+    if (!m_rest.steps)
+        return;
+    m_source = m_rest.steps->sharedSource();
+    m_steps = m_rest.steps->steps();
+    m_rest.steps.reset();
+}
+
+std::shared_ptr<const TableWork> PackedValue<TableWork>::value() const {
+    auto value = std::make_shared<TableWork>(m_rest);
+    if (m_source)
+        value->steps.emplace(m_source, m_steps);
+    return value;
+}
+
 void TableDocument::start(ListGrid list, const ListOrigin& origin, QWidget* over) {
     const QString path = freeWorkPath(list, origin, [this](const QString& wanted) {
         const EditedFile* const holder = workspace().openFiles().holderOf(wanted);
@@ -156,7 +173,7 @@ bool TableDocument::recover(const std::string& content) {
 /// A pivot, or a table whose names were left out, is about nobody any more: it can be joined again
 /// when that step is taken back.
 void TableDocument::follow() {
-    m_table = std::make_shared<const ListTable>(hasList() ? value().steps->table() : ListTable());
+    m_table = hasList() ? value().steps->sharedTable() : std::make_shared<const ListTable>();
     m_joined.clear();
     if (!value().athletes)
         return;

@@ -20,6 +20,21 @@ struct ListOrigin {
     QString title;    ///< how the coach calls it
 };
 
+/// A step of the undo stack holds the list, which all share, and what was done to it. The table is
+/// made of them anew: one for each step would cost far more than the step.
+template <>
+class PackedValue<TableWork> {
+public:
+    PackedValue(const std::shared_ptr<const TableWork>& value, const PackedValue* before);
+
+    [[nodiscard]] std::shared_ptr<const TableWork> value() const;
+
+private:
+    TableWork m_rest;                         ///< without its steps
+    std::shared_ptr<const ListGrid> m_source; ///< null before a list was opened
+    std::vector<TableStep> m_steps;
+};
+
 /// A list and what is made of it: every step can be taken back, and the list's file is never
 /// written. What was made is a file of its own, with the list in it, under a name beside the list's
 /// that is free.
