@@ -6,6 +6,7 @@
 #include "report/page_frame.h"
 #include "report/said.h"
 #include "report/season_drawing.h"
+#include "report/season_scope.h"
 #include "report/sheet_report.h"
 #include "report/small_lists.h"
 #include "report/wrapped_text.h"
@@ -47,6 +48,7 @@ public:
 
     [[nodiscard]] std::unique_ptr<PagedReport> report() {
         putShortTitle(m_pages, m_heading, m_typeface);
+        putSeasonScope(m_pages, m_season.data, m_typeface);
         putProgression();
         putRates();
         putChanges();

@@ -15,6 +15,7 @@ namespace {
 using testing::AllOf;
 using testing::Each;
 using testing::HasSubstr;
+using testing::Not;
 using testing::SizeIs;
 
 class SeasonPages : public testing::Test {
@@ -23,9 +24,11 @@ protected:
         (void)m_kavela.folder().add("team.kvteam", encode(sample::sampleTeam()));
         std::filesystem::create_directory(m_kavela.folder().path() / "pages");
     }
-    [[nodiscard]] Ending write() const {
-        return m_kavela.call(
-            {"season", "team.kvteam", "round.kvx", "--category", "MK1", "--pdf", "pages"});
+    [[nodiscard]] Ending write(const std::vector<std::string>& more = {}) const {
+        std::vector<std::string> call{"season", "team.kvteam", "round.kvx", "--category",
+                                      "MK1",    "--pdf",       "pages"};
+        call.insert(call.end(), more.begin(), more.end());
+        return m_kavela.call(call);
     }
     [[nodiscard]] std::vector<std::string> pages(const char* file) const {
         return pagesOf(m_kavela.folder().path() / "pages" / file);
@@ -51,6 +54,12 @@ TEST_F(SeasonPages, SayWhatTheCommandSays) {
     EXPECT_THAT(team, Each(HasSubstr("Season MK1")));
     EXPECT_THAT(team.front(), AllOf(HasSubstr("DUNBROOK Harvey"), HasSubstr("3 of 22")));
     EXPECT_THAT(team.back(), HasSubstr("Expected places"));
+    EXPECT_THAT(team.front(), Not(HasSubstr("Only races")));
+
+    ASSERT_EQ(write({"--starter", "Callum Thornwick"}).status, 0);
+    for (const char* const file : {"THORNWICK Callum - season MK1.pdf", "Season MK1.pdf"})
+        EXPECT_THAT(pages(file).front(), HasSubstr("Only races in which THORNWICK Callum starts."))
+            << file;
 }
 
 TEST_F(SeasonPages, ReplaceTheirOwnAndNothingElse) {
