@@ -118,7 +118,9 @@ std::optional<struct ::stat> statusOf(const fs::path& path) {
     throw systemFileError(path);
 }
 
-void writeBehindLinks(const fs::path& target, std::string_view content) {
+using Content = std::function<void(const PieceWriter& write)>;
+
+void writeBehindLinks(const fs::path& target, const Content& content) {
     const auto status = statusOf(target);
     if (status && S_ISDIR(status->st_mode))
         throw FileError(target, say("this is a folder, not a file"));
@@ -127,7 +129,7 @@ void writeBehindLinks(const fs::path& target, std::string_view content) {
     if (status && ::access(target.c_str(), W_OK) != 0)
         throw systemFileError(target);
     TemporaryFile temporary(target, status ? status->st_mode & 0777 : NewFileMode);
-    temporary.write(content);
+    content([&temporary](std::string_view piece) { temporary.write(piece); });
     if (status)
         temporary.takeModeOf(*status);
     temporary.flush();
@@ -141,9 +143,8 @@ void writeBehindLinks(const fs::path& target, std::string_view content) {
     }
 }
 
-std::string presentContentOf(const fs::path& path) {
+void copyPieces(const fs::path& path, const PieceWriter& write) {
     const PosixFile file(path, O_RDONLY);
-    std::string content;
     std::array<char, 1 << 16> chunk; // NOLINT(cppcoreguidelines-pro-type-member-init): filled below
     for (;;) {
         const ssize_t got = ::read(file.descriptor(), chunk.data(), chunk.size());
@@ -152,8 +153,8 @@ std::string presentContentOf(const fs::path& path) {
         if (got < 0)
             throw systemFileError(path);
         if (got == 0)
-            return content;
-        content.append(chunk.data(), static_cast<std::size_t>(got));
+            return;
+        write({chunk.data(), static_cast<std::size_t>(got)});
     }
 }
 
@@ -170,13 +171,17 @@ bool linkExclusively(const fs::path& path, const fs::path& name) {
 bool copyExclusively(const fs::path& path, const fs::path& name) {
     if (fs::exists(fs::symlink_status(name)))
         return false;
-    writeBehindLinks(name, presentContentOf(path));
+    writeBehindLinks(name, [&path](const PieceWriter& write) { copyPieces(path, write); });
     return true;
 }
 
 } // namespace
 
 void writeFileSafely(const fs::path& path, std::string_view content) {
+    writeFileSafely(path, [content](const PieceWriter& write) { write(content); });
+}
+
+void writeFileSafely(const fs::path& path, const Content& content) {
     try {
         writeBehindLinks(behindLinks(path), content);
     } catch (const fs::filesystem_error& error) {

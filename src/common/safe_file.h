@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string_view>
 
 namespace kavela {
@@ -11,6 +12,14 @@ namespace kavela {
 /// existing file are kept. Throws FileError; the old file is then untouched and no temporary is
 /// left (a crash can leave one, named ".NAME.XXXXXX.tmp").
 void writeFileSafely(const std::filesystem::path& path, std::string_view content);
+
+/// Takes the next piece of a content.
+using PieceWriter = std::function<void(std::string_view piece)>;
+
+/// The same of a content that is handed over piece by piece, and is never in memory as a whole.
+/// What `content` throws leaves the old file untouched too.
+void writeFileSafely(const std::filesystem::path& path,
+                     const std::function<void(const PieceWriter& write)>& content);
 
 /// Gives a file's present content a second name that must not exist yet: by a hard link, or where
 /// the disk knows none by a flushed copy. Returns false when the name is taken; throws FileError.

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "common/safe_file.h"
+
 #include <cstdint>
 #include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 /// Plain values one behind the other, as they stand in memory.
@@ -13,29 +16,48 @@ namespace kavela {
 
 class ByteWriter {
 public:
+    /// Hands the bytes on piece by piece; the last of them by finish().
+    explicit ByteWriter(PieceWriter write) : m_write(std::move(write)) {
+        m_waiting.reserve(WaitingBytes);
+    }
+
     template <class Value>
     void put(const Value& value) {
         static_assert(std::is_trivially_copyable_v<Value>);
-        m_bytes.append(reinterpret_cast<const char*>(&value), sizeof value);
+        putBytes({reinterpret_cast<const char*>(&value), sizeof value});
     }
 
     template <class Row>
     void putRows(const std::vector<Row>& rows) {
         static_assert(std::is_trivially_copyable_v<Row>);
         put(static_cast<std::uint64_t>(rows.size()));
-        m_bytes.append(reinterpret_cast<const char*>(rows.data()), rows.size() * sizeof(Row));
+        putBytes({reinterpret_cast<const char*>(rows.data()), rows.size() * sizeof(Row)});
     }
 
     void putText(std::string_view text) {
         put(static_cast<std::uint64_t>(text.size()));
-        m_bytes.append(text);
+        putBytes(text);
     }
 
-    void reserve(std::size_t bytes) { m_bytes.reserve(bytes); }
-    [[nodiscard]] std::string& bytes() { return m_bytes; }
+    void finish() {
+        m_write(m_waiting);
+        m_waiting.clear();
+    }
 
 private:
-    std::string m_bytes;
+    static constexpr std::size_t WaitingBytes = 1U << 16;
+
+    void putBytes(std::string_view bytes) {
+        if (m_waiting.size() + bytes.size() > WaitingBytes)
+            finish();
+        if (bytes.size() > WaitingBytes)
+            m_write(bytes);
+        else
+            m_waiting.append(bytes);
+    }
+
+    PieceWriter m_write;
+    std::string m_waiting; ///< many small values make one piece
 };
 
 /// Reads what the writer wrote. Each call says whether the bytes reach so far.

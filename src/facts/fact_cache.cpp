@@ -97,6 +97,29 @@ std::optional<FileBytes> bytesOf(const fs::path& path) {
     return bytes;
 }
 
+/// Hands on all that follows the head.
+void putBody(const FactCache& cache, const PieceWriter& write) {
+    ByteWriter bytes(write);
+    bytes.putText(cache.folder);
+    bytes.put(cache.scanned);
+    bytes.put(static_cast<std::uint64_t>(cache.files.size()));
+    for (const KnownFile& file : cache.files)
+        writeKnown(file, bytes);
+    FactTables::write(cache.facts, bytes);
+    bytes.finish();
+}
+
+/// Twice through the tables, since the head tells the checksum of what follows: a second copy of
+/// them in memory would cost as much as they do.
+void putCache(const FactCache& cache, const PieceWriter& write) {
+    ContentHash hash;
+    putBody(cache, [&hash](std::string_view piece) { hash.add(piece); });
+    Head head;
+    head.checksum = hash.value();
+    write({reinterpret_cast<const char*>(&head), sizeof head});
+    putBody(cache, write);
+}
+
 /// Makes the folder of the caches, which say who paddles where: for nobody else to read.
 void makePrivateFolder(const fs::path& folder) {
     if (fs::create_directories(folder))
@@ -104,21 +127,6 @@ void makePrivateFolder(const fs::path& folder) {
 }
 
 } // namespace
-
-std::string encodedCache(const FactCache& cache) {
-    ByteWriter bytes;
-    bytes.put(Head{});
-    bytes.putText(cache.folder);
-    bytes.put(cache.scanned);
-    bytes.put(static_cast<std::uint64_t>(cache.files.size()));
-    for (const KnownFile& file : cache.files)
-        writeKnown(file, bytes);
-    FactTables::write(cache.facts, bytes);
-    Head head;
-    head.checksum = contentHash(std::string_view(bytes.bytes()).substr(sizeof head));
-    std::memcpy(bytes.bytes().data(), &head, sizeof head);
-    return std::move(bytes.bytes());
-}
 
 std::optional<FactCache> decodedCache(std::string_view text) {
     ByteReader bytes(text);
@@ -176,7 +184,8 @@ void writeCache(const fs::path& cacheFolder, const FactCache& cache) {
         return;
     try {
         makePrivateFolder(cacheFolder);
-        writeFileSafely(cachePath(cacheFolder, cache.folder), encodedCache(cache));
+        writeFileSafely(cachePath(cacheFolder, cache.folder),
+                        [&cache](const PieceWriter& write) { putCache(cache, write); });
     } catch (const FileError&) {
         return;
     } catch (const fs::filesystem_error&) {

@@ -47,10 +47,8 @@ struct FactCache {
     FactStore facts;
 };
 
-/// The bytes of a cache file.
-[[nodiscard]] std::string encodedCache(const FactCache& cache);
-
-/// What the bytes say; nothing when they are not, to the last bit, what encodedCache wrote.
+/// What the bytes of a cache file say; nothing when they are not, to the last bit, what writeCache
+/// wrote.
 [[nodiscard]] std::optional<FactCache> decodedCache(std::string_view bytes);
 
 /// Whose caches are to be found in the user's cache folder: XDG_CACHE_HOME, else ~/.cache. Empty

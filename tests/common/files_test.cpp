@@ -9,6 +9,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <stdexcept>
+
 namespace kavela::test {
 
 namespace {
@@ -140,6 +142,22 @@ TEST_F(SafeFile, LeavesTheOldFileWholeWhenTheDiskDoesNotTakeTheNew) {
     const FileSizeLimit limit(100);
     expectRefused(m_file, std::string(1000, 'x'));
     EXPECT_EQ(contentOf(m_file), "old");
+}
+
+TEST_F(SafeFile, TakesAContentInPiecesWhollyOrNotAtAll) {
+    writeFileSafely(m_file, [](const PieceWriter& write) {
+        for (const char* piece : {"in ", "", "pieces"})
+            write(piece);
+    });
+    EXPECT_EQ(contentOf(m_file), "in pieces");
+    EXPECT_THROW(writeFileSafely(m_file,
+                                 [](const PieceWriter& write) {
+                                     write("half");
+                                     throw std::runtime_error("no more");
+                                 }),
+                 std::runtime_error);
+    EXPECT_EQ(contentOf(m_file), "in pieces");
+    EXPECT_THAT(m_folder.names(), ElementsAre("race.kvx"));
 }
 
 TEST_F(SafeFile, FindsANameForItsTemporaryFile) {

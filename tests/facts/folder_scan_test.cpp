@@ -1,11 +1,14 @@
 #include "common/json_encode.h"
 #include "common/temp_folder.h"
+#include "facts/cache_bytes.h"
+#include "facts/fact_cache.h"
 #include "facts/folder_scan.h"
 #include "facts/small_season.h"
 
 #include <gmock/gmock.h>
 
 #include <chrono>
+#include <numeric>
 
 namespace kavela::test {
 
@@ -117,6 +120,29 @@ TEST_F(Scans, ACopyIsNoSecondRaceUntilItIsChanged) {
     EXPECT_THAT(placesOf(scanPaths(apart)), ElementsAre("Adam", "Brno"));
     write("backup/a.kvx", "Aosta");
     EXPECT_THAT(placesOf(scan()), ElementsAre("Adam", "Brno", "Aosta"));
+}
+
+TEST(CacheBytes, ComeBackFromPiecesOfAnySize) {
+    for (const std::size_t count : {0U, 1U, 8190U, 8191U, 8192U, 8193U, 100000U}) {
+        std::vector<std::uint64_t> rows(count);
+        std::iota(rows.begin(), rows.end(), 1);
+        const std::string text(count, 't');
+        std::string bytes;
+        ByteWriter writer([&bytes](std::string_view piece) { bytes.append(piece); });
+        writer.putRows(rows);
+        writer.putText(text);
+        writer.put(count);
+        writer.finish();
+        ByteReader reader(bytes);
+        std::vector<std::uint64_t> rowsAgain;
+        std::string_view textAgain;
+        std::size_t countAgain = 0;
+        ASSERT_TRUE(reader.getRows(rowsAgain) && reader.getText(textAgain) &&
+                    reader.get(countAgain) && reader.isAtEnd());
+        EXPECT_EQ(rowsAgain, rows);
+        EXPECT_EQ(textAgain, text);
+        EXPECT_EQ(countAgain, count);
+    }
 }
 
 TEST_F(Scans, ADamagedCacheCountsAsNone) {
