@@ -2,7 +2,6 @@
 
 #include "desktop/facts/failed_files.h"
 #include "desktop/facts/reading_progress.h"
-#include "desktop/find/empty_search.h"
 #include "desktop/find/find_actions.h"
 #include "desktop/find/found_saving.h"
 #include "desktop/find/kept_queries.h"
@@ -11,6 +10,7 @@
 #include "desktop/find/query_form.h"
 #include "desktop/find/search_places.h"
 #include "desktop/find/unknown_names.h"
+#include "desktop/shell/empty_page.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/growth.h"
 #include "desktop/shell/qt_text.h"
@@ -123,9 +123,10 @@ QWidget* FindWindow::makeMain() {
     tables->addWidget(m_results);
     tables->addWidget(m_members);
     m_pages = new QStackedWidget;
-    auto* const empty = new EmptySearch;
-    connect(empty, &EmptySearch::folderRequested, m_places, &SearchPlaces::chooseFolder);
-    m_pages->addWidget(empty);
+    m_pages->addWidget(
+        new EmptyPage(tr("Drop a folder of split files (.kvx) here"),
+                      tr("All races below it are searched. They are only read."),
+                      {{tr("Search a folder…"), [this] { m_places->chooseFolder(); }}}));
     m_pages->addWidget(tables);
     auto* const main = new QWidget;
     auto* const column = new QVBoxLayout(main);

@@ -7,6 +7,7 @@
 #include "desktop/motion/recording_list.h"
 #include "desktop/motion/recording_panel.h"
 #include "desktop/shell/dropped_files.h"
+#include "desktop/shell/empty_page.h"
 #include "desktop/shell/growth.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
@@ -48,7 +49,11 @@ MotionWindow::~MotionWindow() {
 void MotionWindow::makeParts() {
     m_charts = new MotionCharts(m_recordings);
     m_pages = new QStackedWidget;
-    m_pages->addWidget(makeEmptyPage());
+    m_pages->addWidget(
+        new EmptyPage(tr("Drop raw recordings (.kvb) here"),
+                      tr("Several are laid over each other. They are only read: converting "
+                         "writes a new file."),
+                      {{tr("Open recordings…"), [this] { chooseFiles(); }}}));
     m_pages->addWidget(m_charts);
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
@@ -100,25 +105,6 @@ QWidget* MotionWindow::makeSide() {
     column->addWidget(m_values, 4);
     side->setMinimumWidth(grown(*this, 280));
     return side;
-}
-
-QWidget* MotionWindow::makeEmptyPage() {
-    auto* page = new QWidget;
-    auto* title = new QLabel(tr("Drop raw recordings (.kvb) here"));
-    title->setFont(theme::titleFont(*this));
-    auto* text = new QLabel(tr("Several are laid over each other. They are only read: converting "
-                               "writes a new file."));
-    text->setForegroundRole(QPalette::PlaceholderText);
-    auto* open = new QPushButton(tr("Open recordings…"));
-    connect(open, &QPushButton::clicked, this, &MotionWindow::chooseFiles);
-    auto* column = new QVBoxLayout(page);
-    column->setSpacing(theme::LargeSpacing);
-    column->addStretch();
-    for (QWidget* part :
-         {static_cast<QWidget*>(title), static_cast<QWidget*>(text), static_cast<QWidget*>(open)})
-        column->addWidget(part, 0, Qt::AlignHCenter);
-    column->addStretch();
-    return page;
 }
 
 void MotionWindow::connectParts() {

@@ -75,7 +75,6 @@ protected:
 private:
     void makeParts();
     [[nodiscard]] QWidget* makeSide();
-    [[nodiscard]] QWidget* makeEmptyPage();
     void connectParts();
     [[nodiscard]] std::vector<MotionRecordings::Recording> ticked() const;
     void showChoice();

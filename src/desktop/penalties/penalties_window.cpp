@@ -12,6 +12,7 @@
 #include "desktop/penalties/penalty_filter.h"
 #include "desktop/penalties/rates_panel.h"
 #include "desktop/penalties/trade_off_panel.h"
+#include "desktop/shell/empty_page.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
@@ -23,7 +24,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
-#include <QPushButton>
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -61,35 +61,14 @@ PenaltiesWindow::~PenaltiesWindow() {
 
 void PenaltiesWindow::makeParts() {
     m_pages = new QStackedWidget;
-    m_pages->addWidget(makeEmptyPage());
+    m_empty = new EmptyPage(tr("Drop split files (.kvx) or a folder of them here"), {},
+                            {{tr("Open split files…"), [this] { chooseFiles(); }},
+                             {tr("Open a folder…"), [this] { chooseFolder(); }}});
+    m_pages->addWidget(m_empty);
     m_pages->addWidget(makeContent());
     setCentralWidget(m_pages);
     m_status = new FactsStatus(m_facts);
     statusBar()->addWidget(m_status);
-}
-
-QWidget* PenaltiesWindow::makeEmptyPage() {
-    auto* page = new QWidget;
-    auto* title = new QLabel(tr("Drop split files (.kvx) or a folder of them here"));
-    title->setFont(theme::titleFont(*this));
-    m_emptyText = new QLabel;
-    m_emptyText->setObjectName("emptyText");
-    m_emptyText->setWordWrap(true);
-    m_emptyText->setAlignment(Qt::AlignCenter);
-    m_emptyText->setMaximumWidth(width() * 2 / 3);
-    m_emptyText->setForegroundRole(QPalette::PlaceholderText);
-    auto* files = new QPushButton(tr("Open split files…"));
-    auto* folder = new QPushButton(tr("Open a folder…"));
-    connect(files, &QPushButton::clicked, this, &PenaltiesWindow::chooseFiles);
-    connect(folder, &QPushButton::clicked, this, &PenaltiesWindow::chooseFolder);
-    auto* column = new QVBoxLayout(page);
-    column->setSpacing(theme::LargeSpacing);
-    column->addStretch();
-    for (QWidget* part : {static_cast<QWidget*>(title), static_cast<QWidget*>(m_emptyText),
-                          static_cast<QWidget*>(files), static_cast<QWidget*>(folder)})
-        column->addWidget(part, 0, Qt::AlignHCenter);
-    column->addStretch();
-    return page;
 }
 
 QWidget* PenaltiesWindow::makeContent() {
@@ -285,16 +264,15 @@ void PenaltiesWindow::showStatus() {
     const std::size_t files = m_figures ? m_figures->facts->files().size() : 0;
     m_pages->setCurrentIndex(files > 0 ? 1 : 0);
     if (paths().isEmpty())
-        m_emptyText->setText(
-            tr("Which gates are touched and missed, by whom, and what it cost: of "
-               "one race, of several, or of a whole season. Files are only read."));
+        m_empty->tell(tr("Which gates are touched and missed, by whom, and what it cost: of "
+                         "one race, of several, or of a whole season. Files are only read."));
     else if (m_facts.isReading())
-        m_emptyText->setText(tr("Reading…"));
+        m_empty->tell(tr("Reading…"));
     else if (!m_facts.failed().empty())
-        m_emptyText->setText(qtText(m_facts.failed().front().path.string()) + ": " +
-                             qtText(m_facts.failed().front().reason));
+        m_empty->tell(qtText(m_facts.failed().front().path.string()) + ": " +
+                      qtText(m_facts.failed().front().reason));
     else
-        m_emptyText->setText(tr("There is no split file (.kvx) here."));
+        m_empty->tell(tr("There is no split file (.kvx) here."));
     QStringList parts;
     if (files > 0) {
         const PenaltyRates& rates = m_figures->rates;

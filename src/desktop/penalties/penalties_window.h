@@ -16,6 +16,7 @@ class ColumnTable;
 class CostPanel;
 class CoursePanel;
 class DetailsPanel;
+class EmptyPage;
 class FactsStatus;
 class PenaltiesActions;
 class PenaltyFilter;
@@ -83,7 +84,6 @@ protected:
 
 private:
     void makeParts();
-    [[nodiscard]] QWidget* makeEmptyPage();
     [[nodiscard]] QWidget* makeContent();
     void connectParts();
     void takeFacts();
@@ -98,7 +98,7 @@ private:
     bool m_isComputing = false;
 
     QStackedWidget* m_pages = nullptr;
-    QLabel* m_emptyText = nullptr;
+    EmptyPage* m_empty = nullptr;
     PenaltyFilter* m_filter = nullptr;
     QLabel* m_clean = nullptr;
     QTabWidget* m_tabs = nullptr;

@@ -6,7 +6,6 @@
 #include "desktop/facts/facts_status.h"
 #include "desktop/page/phone_pages.h"
 #include "desktop/season/comparison_panel.h"
-#include "desktop/season/empty_season.h"
 #include "desktop/season/figures_panel.h"
 #include "desktop/season/progression_panel.h"
 #include "desktop/season/season_actions.h"
@@ -14,6 +13,7 @@
 #include "desktop/season/season_notes.h"
 #include "desktop/season/season_pages.h"
 #include "desktop/season/season_reports.h"
+#include "desktop/shell/empty_page.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_table.h"
@@ -68,7 +68,9 @@ SeasonWindow::~SeasonWindow() {
 
 void SeasonWindow::makeParts() {
     m_pages = new QStackedWidget;
-    m_empty = new EmptySeason;
+    m_empty = new EmptyPage(tr("Drop a team (.kvteam) and the folder of its races here"), {},
+                            {{tr("Open a team…"), [this] { chooseTeam(); }},
+                             {tr("Add a folder of races…"), [this] { chooseFolder(); }}});
     m_pages->addWidget(m_empty);
     m_pages->addWidget(makeContent());
     setCentralWidget(m_pages);
@@ -89,8 +91,6 @@ QWidget* SeasonWindow::makeContent() {
 }
 
 void SeasonWindow::connectParts() {
-    connect(m_empty, &EmptySeason::teamWanted, this, &SeasonWindow::chooseTeam);
-    connect(m_empty, &EmptySeason::folderWanted, this, &SeasonWindow::chooseFolder);
     connect(&m_team, &WatchedTeam::changed, this, &SeasonWindow::takeTeam);
     connect(&m_facts, &WatchedFacts::changed, this, &SeasonWindow::compute);
     connect(&m_facts, &WatchedFacts::readingChanged, this, &SeasonWindow::showStatus);

@@ -19,7 +19,7 @@ namespace kavela::desktop {
 class ChartFrame;
 class ColumnTable;
 class ComparisonPanel;
-class EmptySeason;
+class EmptyPage;
 class FactsStatus;
 class FiguresPanel;
 class PhonePages;
@@ -130,7 +130,7 @@ private:
     bool m_isComputing = false;
 
     QStackedWidget* m_pages = nullptr;
-    EmptySeason* m_empty = nullptr;
+    EmptyPage* m_empty = nullptr;
     SeasonHeader* m_header = nullptr;
     SeasonPages* m_figures = nullptr;
     FactsStatus* m_status = nullptr;

@@ -3,13 +3,13 @@
 #include "common/safe_file.h"
 #include "desktop/charts/plot_interaction.h"
 #include "desktop/charts/series_chart.h"
+#include "desktop/shell/empty_page.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/tables/derived_dialog.h"
-#include "desktop/tables/empty_tables.h"
 #include "desktop/tables/list_panel.h"
 #include "desktop/tables/pivot_dialog.h"
 #include "desktop/tables/race_keeping.h"
@@ -25,10 +25,8 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMenu>
-#include <QPushButton>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -54,10 +52,12 @@ TablesWindow::~TablesWindow() {
 
 void TablesWindow::makeParts() {
     m_pages = new QStackedWidget;
-    auto* const empty = new EmptyTables;
-    connect(empty, &EmptyTables::filesWanted, this, &TablesWindow::chooseFiles);
-    connect(empty, &EmptyTables::clipboardWanted, this, &TablesWindow::openClipboard);
-    m_pages->addWidget(empty);
+    m_pages->addWidget(new EmptyPage(
+        tr("Drop a list of results here"),
+        tr("Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from "
+           "a page, or a race that carries a list. Lists are only read."),
+        {{tr("Open a list…"), [this] { chooseFiles(); }},
+         {tr("Open what was copied"), [this] { openClipboard(); }}}));
     m_panel = new ListPanel(m_document, workspace());
     m_pages->addWidget(m_panel);
     setCentralWidget(m_pages);
