@@ -1,10 +1,12 @@
 #include "desktop/slit_fixture.h"
+#include "desktop/slow_disk.h"
 
 namespace kavela::test {
 namespace {
 
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using ::testing::SizeIs;
 
 TEST_F(SlitWindowTest, EnterMarksTheFrameUnderTheHairLine) {
@@ -178,11 +180,33 @@ TEST_F(SlitWindowTest, SavesWhatIsSeenAsAPicture) {
     SlitWindow& window = openWithRace();
     const auto file = QString::fromStdString((m_folder.path() / "slit.png").string());
     window.view().showWhole();
-    EXPECT_EQ(window.exportTo(file), QString());
+    {
+        const SlowDisk slow;
+        window.exportTo(file);
+        EXPECT_FALSE(fs::exists(file.toStdString())) << "the window waits for no disk";
+    }
+    // Under its name stands a whole picture or none.
+    ASSERT_TRUE(QTest::qWaitFor([&] { return fs::exists(file.toStdString()); }, SlitPatience));
     const QImage picture(file);
     EXPECT_EQ(picture.width(), window.loader().picture(0).columns);
     EXPECT_GT(picture.height(), window.loader().picture(0).height) << "with the scale below";
-    EXPECT_FALSE(window.exportTo("/nowhere/at all/slit.png").isEmpty());
+    EXPECT_THAT(window.told().toStdString(), Not(HasSubstr("could not be saved")));
+    window.exportTo("/nowhere/at all/slit.png");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.told().contains("could not be saved"); },
+                                SlitPatience));
+}
+
+TEST_F(SlitWindowTest, SavesThePictureThoughTheWindowIsClosed) {
+    SlitWindow& window = openWithRace();
+    const fs::path file = m_folder.path() / "slit.png";
+    {
+        const SlowDisk slow;
+        window.view().showWhole();
+        window.exportTo(QString::fromStdString(file.string()));
+        m_slit.reset();
+    }
+    disk::waitForAll();
+    EXPECT_FALSE(QImage(QString::fromStdString(file.string())).isNull());
 }
 
 TEST_F(SlitWindowTest, SplitTakingShowsTheStripAndAClickSeeks) {

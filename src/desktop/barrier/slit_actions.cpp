@@ -73,8 +73,7 @@ void SlitActions::exportPicture() {
                                     QStringLiteral(".png"), tr("Pictures (*.png)"));
     if (file.isEmpty())
         return;
-    const QString why = m_window.exportTo(file);
-    m_window.tell(why.isEmpty() ? QString() : tr("The picture could not be saved: %1").arg(why));
+    m_window.exportTo(file);
 }
 
 void SlitActions::saveBands() {

@@ -1,6 +1,6 @@
 #include "desktop/barrier/slit_saving.h"
 
-#include "common/error.h"
+#include "desktop/shell/disk_worker.h"
 #include "desktop/shell/qt_text.h"
 
 #include <QFileInfo>
@@ -18,14 +18,23 @@ SlitSheet sheetOf(const SlitPicture& picture, FrameNumber first, FrameNumber las
     return sheet;
 }
 
-QString SlitSaving::writePicture(const QString& file, const SlitPicture& picture,
-                                 const VideoIndex& index, const SlitSheet& sheet) {
-    try {
-        writePng(paintSlitSheet(picture, index, sheet), file.toStdString());
-    } catch (const FileError& error) {
-        return qtText(error.reason());
-    }
-    return {};
+/// The picture shares its tiles, which never change: reading on adds to the window's own one.
+void SlitSaving::writePicture(const QString& file, const SlitPicture& picture,
+                              const std::shared_ptr<const VideoIndex>& index,
+                              const SlitSheet& sheet) {
+    disk::run(
+        *this,
+        [path = file.toStdString(), picture, index, sheet] {
+            writePng(paintSlitSheet(picture, *index, sheet), path);
+        },
+        [this](const std::exception_ptr& fault) {
+            if (fault)
+                emit told(pictureNotSaved(qtText(causeOf(fault))));
+        });
+}
+
+QString SlitSaving::pictureNotSaved(const QString& why) {
+    return tr("The picture could not be saved: %1").arg(why);
 }
 
 void SlitSaving::writeBands(const QString& file, const std::shared_ptr<const VideoIndex>& index,

@@ -26,16 +26,18 @@ class SlitSaving : public QObject {
 public:
     using QObject::QObject;
 
-    /// Writes a part of a picture as PNG with its time scale. Returns why not; empty when it is
-    /// written.
-    [[nodiscard]] static QString writePicture(const QString& file, const SlitPicture& picture,
-                                              const VideoIndex& index, const SlitSheet& sheet);
+    /// Writes a part of a picture as PNG with its time scale, beside the window and also when that
+    /// is closed meanwhile. Only what goes wrong is told; what stood there then stays.
+    void writePicture(const QString& file, const SlitPicture& picture,
+                      const std::shared_ptr<const VideoIndex>& index, const SlitSheet& sheet);
+    /// That there is no picture in a file, and why.
+    [[nodiscard]] static QString pictureNotSaved(const QString& why);
     /// Writes the water beside a line round each place that was judged, beside the window.
     void writeBands(const QString& file, const std::shared_ptr<const VideoIndex>& index,
                     const slitline001& line, const std::vector<BandJudgement>& judgements);
 
 signals:
-    void told(const QString& text); ///< how it ended
+    void told(const QString& text); ///< how writing ended
 
 private:
     BackgroundWork m_work;

@@ -417,17 +417,18 @@ void SlitWindow::acceptAll() {
         tell(m_marking.acceptAll(m_isFiner));
 }
 
-QString SlitWindow::exportTo(const QString& file) {
+void SlitWindow::exportTo(const QString& file) {
     const SlitPicture& picture = m_loader.picture(lineNumber());
     const auto index = m_loader.index();
     if (!index || picture.tiles.empty())
-        return tr("There is no slit picture yet.");
+        return tell(SlitSaving::pictureNotSaved(tr("There is no slit picture yet.")));
     const SlitSheet sheet =
         sheetOf(picture, slitFrameAt(*index, 0, view().columnAt(0)),
                 slitFrameAt(*index, 0, view().columnAt(view().width())), m_panel->runs());
     if (sheet.last < sheet.first)
-        return tr("That part is not read yet.");
-    return SlitSaving::writePicture(file, picture, *index, sheet);
+        return tell(SlitSaving::pictureNotSaved(tr("That part is not read yet.")));
+    tell(QString()); // what was told is of an earlier one
+    m_saving.writePicture(file, picture, index, sheet);
 }
 
 QString SlitWindow::saveBandsTo(const QString& file) {

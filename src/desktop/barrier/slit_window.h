@@ -88,9 +88,8 @@ public:
     [[nodiscard]] QString lockOfAcceptAll() const { return SlitMarking::lock(); }
     void acceptAll();
 
-    /// The part of the picture that is seen as PNG, with a time scale. Returns why not; empty when
-    /// it is written.
-    [[nodiscard]] QString exportTo(const QString& file);
+    /// Saves the part of the picture that is seen as PNG, with a time scale; why not is told.
+    void exportTo(const QString& file);
 
     /// Keeps the water round the marks and refusals in a file, which teaches the search; what
     /// becomes of it is told. Returns why not where there is none.
