@@ -2,6 +2,7 @@
 
 #include "common/recorders.h"
 #include "common/temp_folder.h"
+#include "desktop/busy_threads.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_stage.h"
 #include "desktop/film/film_view.h"
@@ -96,7 +97,11 @@ protected:
     }
 
     DayDesk& desk() const { return m_window->day(); }
-    const std::vector<DayLine>& lines() const { return desk().lines(); }
+    /// With the films that are matched by then.
+    const std::vector<DayLine>& lines() const {
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !desk().isMatching(); }, Patience));
+        return desk().lines();
+    }
 
     bool isFilmed(std::size_t count) const {
         return QTest::qWaitFor([&] { return filmed() == count; }, Patience);
@@ -107,9 +112,10 @@ protected:
     }
 
     /// "7 a.mp4" for each start, without a film the bib alone.
-    std::vector<std::string> matched() const {
+    std::vector<std::string> matched() const { return shown(lines()); }
+    std::vector<std::string> shown(const std::vector<DayLine>& lines) const {
         std::vector<std::string> told;
-        for (const DayLine& line : lines())
+        for (const DayLine& line : lines)
             told.push_back(std::to_string(line.start.bib) +
                            (line.match ? ' ' + desk().nameOfFilm(line.match->from) : ""));
         return told;
@@ -251,6 +257,30 @@ TEST_F(RaceDayTest, MovesFilmsByOneKeyWithTheRunsThatWereOpened) {
     EXPECT_THAT(runs(), ElementsAre(": a.mp4", "Typed: b.mp4"));
     press(Qt::CTRL | Qt::Key_Z);
     EXPECT_THAT(runs(), ElementsAre("Ann Lee: a.mp4", "Typed: b.mp4"));
+}
+
+TEST_F(RaceDayTest, MatchesBesideTheWindowAndActsOnWhatIsThere) {
+    addFilm(folder() / "a.mp4", 0);
+    addFilm(folder() / "b.mp4", 90);
+    ASSERT_NO_FATAL_FAILURE(openRace(2, ThreeBoats));
+    ASSERT_TRUE(isFilmed(2));
+    const std::int64_t first = lines()[0].start.id;
+    {
+        const BusyThreads busy;
+        desk().editStart(first, [](DayStart& start) { start.out = "DNS"; });
+        EXPECT_TRUE(desk().isMatching());
+        EXPECT_THAT(shown(desk().lines()), ElementsAre("7 a.mp4", "8 b.mp4", "9"))
+            << "what is shown stays meanwhile";
+        EXPECT_EQ(desk().lines()[0].state, StartState::NotStarted) << "the list is as it was typed";
+        m_window->undo();
+        press(Qt::ALT | Qt::Key_Down);
+        EXPECT_FALSE(desk().isMatching());
+        EXPECT_THAT(shown(desk().lines()), ElementsAre("7", "8 a.mp4", "9 b.mp4"));
+    }
+    EXPECT_TRUE(QThreadPool::globalInstance()->waitForDone(Patience));
+    QApplication::processEvents();
+    EXPECT_THAT(matched(), ElementsAre("7", "8 a.mp4", "9 b.mp4")) << "older answers count no more";
+    m_window->document().discard();
 }
 
 TEST_F(RaceDayTest, KeepsTheDayWithoutSavingTheRace) {

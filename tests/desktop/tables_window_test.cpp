@@ -5,6 +5,7 @@
 #include "common/safe_file.h"
 #include "common/temp_folder.h"
 #include "common/text_file.h"
+#include "desktop/busy_threads.h"
 #include "desktop/charts/series_chart.h"
 #include "desktop/desktop.h"
 #include "desktop/shell/tables/column_table.h"
@@ -25,9 +26,7 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QLabel>
-#include <QSemaphore>
 #include <QTest>
-#include <QThreadPool>
 
 #include <memory>
 
@@ -72,22 +71,6 @@ splittakerdata031 raceOnFilm() {
                                 {2, 5, "Eva Kos", "CZE", 91, 2, 93}};
     return race;
 }
-
-/// Holds up whatever is to be computed beside the windows.
-class BusyThreads {
-public:
-    BusyThreads() {
-        QThreadPool& pool = *QThreadPool::globalInstance();
-        for (int i = 0; i < pool.maxThreadCount(); ++i)
-            pool.start([gate = m_gate] { gate->acquire(); });
-    }
-    BusyThreads(const BusyThreads&) = delete;
-    BusyThreads& operator=(const BusyThreads&) = delete;
-    ~BusyThreads() { m_gate->release(QThreadPool::globalInstance()->maxThreadCount()); }
-
-private:
-    std::shared_ptr<QSemaphore> m_gate = std::make_shared<QSemaphore>();
-};
 
 class TablesWindowTest : public ::testing::Test {
 protected:

@@ -7,17 +7,14 @@
 #include "desktop/splitfile/taking_document.h"
 #include "desktop/splitfile/taking_edits.h"
 #include "desktop/taking/day/day_runs.h"
-#include "splitdata/run_timing.h"
 #include "splittaking/race_day/day_edits.h"
 #include "splittaking/race_day/film_naming.h"
-#include "splittaking/video_names.h"
 
 #include <QDate>
 #include <QDateTime>
 #include <QLabel>
 
 #include <algorithm>
-#include <set>
 #include <string>
 #include <utility>
 
@@ -43,6 +40,7 @@ DayDesk::DayDesk(Parts parts)
     : QObject(&parts.stage),
       m_parts(std::move(parts)),
       m_films(m_parts.document, this),
+      m_matches(m_parts.document, m_films, this),
       m_glance(new QLabel) {
     m_glance->setObjectName("dayGlance");
     m_glance->setTextFormat(Qt::PlainText);
@@ -52,10 +50,11 @@ DayDesk::DayDesk(Parts parts)
     connect(&m_clock, &QTimer::timeout, this, &DayDesk::showGlance);
     // The films hear of every change of the document first.
     connect(&m_films, &DayFilms::changed, this, [this] {
-        m_day.reset(); // they are matched anew
+        m_matches.forget();
         follow();
     });
     connect(&m_parts.document, &TakingDocument::changed, this, &DayDesk::follow);
+    connect(&m_matches, &DayMatches::matched, this, &DayDesk::takeMatches);
     connect(&m_films, &DayFilms::failed, &m_parts.stage, &FilmStage::refuse);
     connect(&m_parts.document, &TakingDocument::dayNotKept, &m_parts.stage,
             [this](const QString& why) {
@@ -85,72 +84,37 @@ const DayLine* DayDesk::line(std::int64_t start) const {
     return at ? &m_lines[*at] : nullptr;
 }
 
-/// In the order of their runs.
-std::vector<std::int64_t> DayDesk::boatsOn(const std::string& from) const {
-    if (const DayFilm* const film = findFilmFrom(m_parts.document.day(), from))
-        return film->starts;
-    std::vector<std::int64_t> boats;
-    for (const DayMatch& match : m_matching.matches)
-        if (match.from == from)
-            boats.push_back(match.start);
-    return boats;
-}
-
-std::optional<int> DayDesk::runOfStart(std::int64_t start) const {
-    const auto match = std::ranges::find(m_matching.matches, start, &DayMatch::start);
-    if (match == m_matching.matches.end())
-        return std::nullopt;
-    const std::vector<std::int64_t> boats = boatsOn(match->from);
-    const auto boat = static_cast<std::size_t>(std::ranges::find(boats, start) - boats.begin());
-    const std::vector<std::size_t> runs =
-        runsOfFilm(m_parts.document.value(), nameOfFilm(match->from));
-    return boat < boats.size() && boat < runs.size() ? std::optional(static_cast<int>(runs[boat]))
-                                                     : std::nullopt;
-}
-
-std::set<std::int64_t> DayDesk::timed() const {
-    std::set<std::int64_t> timed;
-    for (const DayMatch& match : m_matching.matches)
-        if (const auto run = runOfStart(match.start);
-            run && m_parts.document.run(*run).sectioninfo.isfullrun)
-            timed.insert(match.start);
-    // Runs that were timed before there was a list have no start of it.
-    const TakingDocument& document = m_parts.document;
-    std::set<std::pair<std::string, std::string>> crews;
-    for (int run = 0; run < document.runCount(); ++run)
-        if (const athletedata031& record = document.run(run); record.sectioninfo.isfullrun)
-            crews.insert({crewText(record.names), record.phase});
-    for (const DayStart& start : document.day().starts)
-        if (std::ranges::find(m_matching.matches, start.id, &DayMatch::start) ==
-                m_matching.matches.end() &&
-            crews.contains({crewText(crewIn(start.name)), start.phase}))
-            timed.insert(start.id);
-    return timed;
-}
-
 /// A mark that was taken changes what is timed, and no match.
 void DayDesk::follow() {
-    const RaceDay& day = m_parts.document.day();
-    if (day.starts.empty() && m_lines.empty())
+    if (m_parts.document.day().starts.empty() && m_lines.empty())
         return; // no race day: it costs nothing
-    if (m_day != m_parts.document.value().day) {
-        m_day = m_parts.document.value().day;
-        m_matching = matchFilms(day, m_films.seen());
-    }
-    m_lines = dayLines(day, m_matching, timed());
+    m_matches.follow();
+    showLines();
+    if (!isMatching())
+        bringFilms();
+}
+
+void DayDesk::takeMatches() {
+    showLines();
+    bringFilms();
+    if (std::exchange(m_isRunToFollow, false))
+        followRun();
+}
+
+void DayDesk::showLines() {
+    m_lines = dayLines(m_parts.document.day(), matching(), m_matches.timed());
     if (!line(m_front))
         m_front = m_lines.empty() ? 0 : m_lines.front().start.id;
     m_lines.empty() ? m_clock.stop() : m_clock.start();
     showGlance();
     emit changed();
-    bringFilms();
 }
 
 /// Films of the card come by themselves as soon as they probably show a boat: the card is pulled
 /// out again in a moment.
 void DayDesk::bringFilms() {
     std::vector<std::string> wanted;
-    for (const DayMatch& match : m_matching.matches)
+    for (const DayMatch& match : matching().matches)
         if (match.confidence >= LikelyConfidence)
             if (const DaySource* const film = m_films.source(match.from); film && !film->isHere)
                 wanted.push_back(match.from);
@@ -171,6 +135,7 @@ void DayDesk::showGlance() {
 }
 
 void DayDesk::setFront(std::int64_t start) {
+    m_isRunToFollow = false;
     if (start == m_front || !line(start))
         return;
     m_front = start;
@@ -179,6 +144,7 @@ void DayDesk::setFront(std::int64_t start) {
 }
 
 void DayDesk::stepFront(int step) {
+    m_matches.settle(); // the start of the run in front may only then be known
     const auto at = place(m_front);
     if (refusesWithoutFront() || !at)
         return;
@@ -190,9 +156,12 @@ void DayDesk::stepFront(int step) {
 }
 
 void DayDesk::followRun() {
+    m_isRunToFollow = isMatching();
+    if (m_isRunToFollow) // its start is known only then
+        return;
     const int run = m_parts.run();
     for (const DayLine& each : m_lines)
-        if (run >= 0 && runOfStart(each.start.id) == run)
+        if (run >= 0 && m_matches.runOfStart(each.start.id) == run)
             return setFront(each.start.id);
 }
 
@@ -227,7 +196,7 @@ void DayDesk::editStart(std::int64_t start, const std::function<void(DayStart&)>
 }
 
 void DayDesk::removeFront() {
-    if (!refusesWithoutFront() && m_parts.commit())
+    if (isReady())
         edit(tr("start removed"), withoutStart(m_parts.document.day(), m_front));
 }
 
@@ -237,17 +206,25 @@ bool DayDesk::refusesWithoutFront() {
     return m_lines.empty();
 }
 
+/// What is typed is taken over before the films are matched to it.
+bool DayDesk::isReady() {
+    if (refusesWithoutFront() || !m_parts.commit())
+        return false;
+    m_matches.settle();
+    return true;
+}
+
 /// The start in front itself, where its film waits and is not the one that is seen.
 std::optional<std::int64_t> DayDesk::next() const {
     const DayLine* const here = line(m_front);
-    if (here && here->state == StartState::Filmed && runOfStart(m_front) != m_parts.run())
+    if (here && here->state == StartState::Filmed && m_matches.runOfStart(m_front) != m_parts.run())
         return m_front;
     const auto behind = nextUntimed(m_lines, m_front);
     return behind ? std::optional(m_lines[*behind].start.id) : std::nullopt;
 }
 
 void DayDesk::goToNext() {
-    if (refusesWithoutFront() || !m_parts.commit())
+    if (!isReady())
         return;
     if (const auto start = next())
         open(*start);
@@ -256,7 +233,7 @@ void DayDesk::goToNext() {
 }
 
 void DayDesk::openFront() {
-    if (!refusesWithoutFront() && m_parts.commit())
+    if (isReady())
         open(m_front);
 }
 
@@ -274,7 +251,7 @@ void DayDesk::open(std::int64_t start) {
     }
     const bool isUnsure = wanted->match->confidence < LikelyConfidence;
     makeRun(start, from);
-    if (const auto run = runOfStart(start))
+    if (const auto run = m_matches.runOfStart(start))
         m_parts.selectRun(*run);
     setFront(start);
     m_parts.stage.deck().play(1);
@@ -284,23 +261,25 @@ void DayDesk::open(std::int64_t start) {
 /// The run is there when its film is opened, with its crew; what is opened stays with its boat.
 void DayDesk::makeRun(std::int64_t start, const std::string& from) {
     const RaceDay& before = m_parts.document.day();
-    if (findFilmFrom(before, from) && runOfStart(start))
+    if (findFilmFrom(before, from) && m_matches.runOfStart(start))
         return;
-    const std::vector<std::int64_t> boats = boatsOn(from);
+    const std::vector<std::int64_t> boats = m_matches.boatsOn(from);
     const auto needed =
         static_cast<std::size_t>(std::ranges::find(boats, start) - boats.begin()) + 1;
     m_parts.document.edit(
         tr("film of %1").arg(startText(*findStart(before, start))), [&](TakingState& state) {
             const std::string name = presentName(*state.day, from);
-            setDay(state, withKept(*state.day, m_matching, from));
+            setDay(state, withKept(*state.day, matching(), from));
             for (auto count = runsOfFilm(state, name).size(); count < needed; ++count)
                 state = withMoreRuns(state, {runOf(*findStart(*state.day, boats[count]), name)});
         });
 }
 
 void DayDesk::agree() {
+    if (!isReady())
+        return;
     const DayLine* const wanted = line(m_front);
-    if (refusesWithoutFront() || !wanted || !m_parts.commit())
+    if (!wanted)
         return;
     if (!wanted->match)
         m_parts.stage.refuse(tr("There is no film of %1 yet.").arg(startText(wanted->start)));
@@ -309,7 +288,7 @@ void DayDesk::agree() {
 }
 
 void DayDesk::agreeToAllSure() {
-    if (refusesWithoutFront() || !m_parts.commit())
+    if (!isReady())
         return;
     std::vector<std::string> sure;
     for (const DayLine& each : m_lines)
@@ -353,7 +332,7 @@ bool DayDesk::nameFilm(RaceDay& day, const std::string& from) {
     const DaySource* const source = m_films.source(from);
     if (!source || !source->isHere)
         return false;
-    day = withKept(std::move(day), m_matching, from);
+    day = withKept(std::move(day), matching(), from);
     DayFilm& film = filmFrom(day, from);
     if (film.starts.size() == 1) {
         const std::int64_t start = film.starts.front();
@@ -370,10 +349,11 @@ bool DayDesk::nameFilm(RaceDay& day, const std::string& from) {
 }
 
 void DayDesk::shift(int step) {
-    if (refusesWithoutFront() || !m_parts.commit())
+    if (!isReady())
         return;
     edit(step > 0 ? tr("films one start later") : tr("films one start earlier"),
-         withShift(m_parts.document.day(), m_matching, m_front, step));
+         withShift(m_parts.document.day(), matching(), m_front, step));
+    m_matches.settle(); // what came of it is told
     const DayLine* const now = line(m_front);
     m_parts.stage.flash(
         now && now->match
@@ -382,6 +362,7 @@ void DayDesk::shift(int step) {
 }
 
 void DayDesk::assign(std::int64_t start, const QString& film) {
+    m_matches.settle();
     const DayLine* const wanted = line(start);
     if (!wanted)
         return;
@@ -390,20 +371,22 @@ void DayDesk::assign(std::int64_t start, const QString& film) {
         if (!wanted->match)
             return;
         const std::string from = wanted->match->from;
-        std::vector<std::int64_t> left = boatsOn(from);
+        std::vector<std::int64_t> left = m_matches.boatsOn(from);
         std::erase(left, start);
         return edit(tr("film of another boat"), withFilm(day, from, left));
     }
     for (const SeenFilm& each : m_films.seen())
         if (qtText(each.from) == film || qtText(nameOfFilm(each.from)) == film)
             return edit(tr("film given to a boat"),
-                        withFilmToo(withKept(day, m_matching, each.from), each.from, start));
+                        withFilmToo(withKept(day, matching(), each.from), each.from, start));
     throw RefusedEntry(tr("There is no film %1").arg(film));
 }
 
 void DayDesk::setOut(const char* out) {
+    if (!isReady())
+        return;
     const DayLine* const wanted = line(m_front);
-    if (refusesWithoutFront() || !wanted || !m_parts.commit())
+    if (!wanted)
         return;
     const QString who = startText(wanted->start);
     if (wanted->state == StartState::Timed)
@@ -416,11 +399,14 @@ void DayDesk::setOut(const char* out) {
 }
 
 void DayDesk::takeOffset() {
-    if (!m_matching.offeredOffset)
-        return m_parts.stage.refuse(tr("The clocks of camera and start list go together."));
-    if (m_parts.commit())
+    if (!m_parts.commit())
+        return;
+    m_matches.settle();
+    if (!matching().offeredOffset)
+        m_parts.stage.refuse(tr("The clocks of camera and start list go together."));
+    else
         edit(tr("clock of the camera"),
-             withOffset(m_parts.document.day(), *m_matching.offeredOffset));
+             withOffset(m_parts.document.day(), *matching().offeredOffset));
 }
 
 } // namespace kavela::desktop

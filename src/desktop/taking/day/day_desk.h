@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/taking/day/day_films.h"
+#include "desktop/taking/day/day_matches.h"
 #include "splittaking/race_day/day_lines.h"
 #include "splittaking/race_day/start_list.h"
 
@@ -9,9 +10,7 @@
 #include <QTimer>
 
 #include <functional>
-#include <memory>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -44,7 +43,11 @@ public:
     explicit DayDesk(Parts parts);
 
     [[nodiscard]] const std::vector<DayLine>& lines() const { return m_lines; }
-    [[nodiscard]] const DayMatching& matching() const { return m_matching; }
+    /// The films of the starts, as they were last matched.
+    [[nodiscard]] const DayMatching& matching() const { return m_matches.matching(); }
+    /// The films are being matched anew; what is shown is of before. A key that acts on them has
+    /// them matched first.
+    [[nodiscard]] bool isMatching() const { return m_matches.isMatching(); }
     [[nodiscard]] DayFilms& films() { return m_films; }
     /// The name of a film in the folder of the race.
     [[nodiscard]] std::string nameOfFilm(const std::string& from) const;
@@ -97,11 +100,10 @@ signals:
 private:
     [[nodiscard]] const DayLine* line(std::int64_t start) const;
     [[nodiscard]] std::optional<std::size_t> place(std::int64_t start) const;
-    [[nodiscard]] std::vector<std::int64_t> boatsOn(const std::string& from) const;
-    [[nodiscard]] std::optional<int> runOfStart(std::int64_t start) const;
-    [[nodiscard]] std::set<std::int64_t> timed() const;
     [[nodiscard]] std::optional<std::int64_t> next() const;
     void follow();
+    void takeMatches();
+    void showLines();
     void bringFilms();
     void showGlance();
     [[nodiscard]] double nowOfDay() const;
@@ -110,16 +112,17 @@ private:
     void makeRun(std::int64_t start, const std::string& from);
     bool nameFilm(RaceDay& day, const std::string& from);
     bool refusesWithoutFront();
+    [[nodiscard]] bool isReady();
     void agreeTo(const std::vector<std::string>& films);
 
     Parts m_parts;
     DayFilms m_films;
-    std::shared_ptr<const RaceDay> m_day; ///< whose films are matched; null before they are
-    DayMatching m_matching;
+    DayMatches m_matches;
     std::vector<DayLine> m_lines;
     std::int64_t m_front = 0;
     QLabel* m_glance;
     QTimer m_clock;
+    bool m_isRunToFollow = false; ///< another run is in front since films are being matched
 };
 
 /// "12 Ann Lee"
