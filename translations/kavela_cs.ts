@@ -12665,40 +12665,6 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     </message>
 </context>
 <context>
-    <name>kavela::desktop::EmptySearch</name>
-    <message>
-        <source>Drop a folder of split files (.kvx) here</source>
-        <translation>Přetáhněte sem složku souborů mezičasů (.kvx)</translation>
-    </message>
-    <message>
-        <source>All races below it are searched. They are only read.</source>
-        <translation>Prohledají se všechny závody v ní a pod ní. Jen se čtou.</translation>
-    </message>
-    <message>
-        <source>Search a folder…</source>
-        <translation>Prohledat složku…</translation>
-    </message>
-</context>
-<context>
-    <name>kavela::desktop::EmptyTables</name>
-    <message>
-        <source>Drop a list of results here</source>
-        <translation>Přetáhněte sem seznam výsledků</translation>
-    </message>
-    <message>
-        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
-        <translation>Text (CSV, tabulátory, sloupce z mezer), tabulkový sešit (.xlsx, .ods), zkopírované ze stránky, nebo závod s listinou. Seznamy se jen čtou.</translation>
-    </message>
-    <message>
-        <source>Open a list…</source>
-        <translation>Otevřít seznam…</translation>
-    </message>
-    <message>
-        <source>Open what was copied</source>
-        <translation>Otevřít zkopírované</translation>
-    </message>
-</context>
-<context>
     <name>kavela::desktop::EntryTable</name>
     <message>
         <source>“%1” is a number from 0 to %2</source>
@@ -13662,6 +13628,18 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
             <numerusform>%n jízdy</numerusform>
             <numerusform>%n jízd</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Drop a folder of split files (.kvx) here</source>
+        <translation>Přetáhněte sem složku souborů mezičasů (.kvx)</translation>
+    </message>
+    <message>
+        <source>All races below it are searched. They are only read.</source>
+        <translation>Prohledají se všechny závody v ní a pod ní. Jen se čtou.</translation>
+    </message>
+    <message>
+        <source>Search a folder…</source>
+        <translation>Prohledat složku…</translation>
     </message>
 </context>
 <context>
@@ -21725,6 +21703,10 @@ a dalších %1</translation>
         <source>The water round the marks could not be saved: %1</source>
         <translation>Vodu kolem značek nelze uložit: %1</translation>
     </message>
+    <message>
+        <source>The picture could not be saved: %1</source>
+        <translation>Obrázek nelze uložit: %1</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SlitStrip</name>
@@ -22658,6 +22640,22 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
             <numerusform>%n sloupce</numerusform>
             <numerusform>%n sloupců</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Drop a list of results here</source>
+        <translation>Přetáhněte sem seznam výsledků</translation>
+    </message>
+    <message>
+        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
+        <translation>Text (CSV, tabulátory, sloupce z mezer), tabulkový sešit (.xlsx, .ods), zkopírované ze stránky, nebo závod s listinou. Seznamy se jen čtou.</translation>
+    </message>
+    <message>
+        <source>Open a list…</source>
+        <translation>Otevřít seznam…</translation>
+    </message>
+    <message>
+        <source>Open what was copied</source>
+        <translation>Otevřít zkopírované</translation>
     </message>
 </context>
 <context>

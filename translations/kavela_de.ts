@@ -12623,40 +12623,6 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     </message>
 </context>
 <context>
-    <name>kavela::desktop::EmptySearch</name>
-    <message>
-        <source>Drop a folder of split files (.kvx) here</source>
-        <translation>Einen Ordner mit Zwischenzeitdateien (.kvx) hierher ziehen</translation>
-    </message>
-    <message>
-        <source>All races below it are searched. They are only read.</source>
-        <translation>Alle Rennen darunter werden durchsucht. Sie werden nur gelesen.</translation>
-    </message>
-    <message>
-        <source>Search a folder…</source>
-        <translation>Ordner durchsuchen…</translation>
-    </message>
-</context>
-<context>
-    <name>kavela::desktop::EmptyTables</name>
-    <message>
-        <source>Drop a list of results here</source>
-        <translation>Eine Ergebnisliste hierher ziehen</translation>
-    </message>
-    <message>
-        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
-        <translation>Text (CSV, Tabs, Spalten aus Leerzeichen), eine Tabellendatei (.xlsx, .ods), aus einer Seite Kopiertes oder ein Rennen, das eine Liste enthält. Listen werden nur gelesen.</translation>
-    </message>
-    <message>
-        <source>Open a list…</source>
-        <translation>Liste öffnen…</translation>
-    </message>
-    <message>
-        <source>Open what was copied</source>
-        <translation>Kopiertes öffnen</translation>
-    </message>
-</context>
-<context>
     <name>kavela::desktop::EntryTable</name>
     <message>
         <source>“%1” is a number from 0 to %2</source>
@@ -13614,6 +13580,18 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
             <numerusform>%n Lauf</numerusform>
             <numerusform>%n Läufe</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Drop a folder of split files (.kvx) here</source>
+        <translation>Einen Ordner mit Zwischenzeitdateien (.kvx) hierher ziehen</translation>
+    </message>
+    <message>
+        <source>All races below it are searched. They are only read.</source>
+        <translation>Alle Rennen darunter werden durchsucht. Sie werden nur gelesen.</translation>
+    </message>
+    <message>
+        <source>Search a folder…</source>
+        <translation>Ordner durchsuchen…</translation>
     </message>
 </context>
 <context>
@@ -21661,6 +21639,10 @@ und %1 weitere</translation>
         <source>The water round the marks could not be saved: %1</source>
         <translation>Das Wasser um die Marken konnte nicht gespeichert werden: %1</translation>
     </message>
+    <message>
+        <source>The picture could not be saved: %1</source>
+        <translation>Das Bild konnte nicht gespeichert werden: %1</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SlitStrip</name>
@@ -22591,6 +22573,22 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
             <numerusform>%n Spalte</numerusform>
             <numerusform>%n Spalten</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Drop a list of results here</source>
+        <translation>Eine Ergebnisliste hierher ziehen</translation>
+    </message>
+    <message>
+        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
+        <translation>Text (CSV, Tabs, Spalten aus Leerzeichen), eine Tabellendatei (.xlsx, .ods), aus einer Seite Kopiertes oder ein Rennen, das eine Liste enthält. Listen werden nur gelesen.</translation>
+    </message>
+    <message>
+        <source>Open a list…</source>
+        <translation>Liste öffnen…</translation>
+    </message>
+    <message>
+        <source>Open what was copied</source>
+        <translation>Kopiertes öffnen</translation>
     </message>
 </context>
 <context>

@@ -12623,40 +12623,6 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     </message>
 </context>
 <context>
-    <name>kavela::desktop::EmptySearch</name>
-    <message>
-        <source>Drop a folder of split files (.kvx) here</source>
-        <translation>Suelta aquí una carpeta de archivos de parciales (.kvx)</translation>
-    </message>
-    <message>
-        <source>All races below it are searched. They are only read.</source>
-        <translation>Se busca en todas las carreras que contiene. Solo se leen.</translation>
-    </message>
-    <message>
-        <source>Search a folder…</source>
-        <translation>Buscar en una carpeta…</translation>
-    </message>
-</context>
-<context>
-    <name>kavela::desktop::EmptyTables</name>
-    <message>
-        <source>Drop a list of results here</source>
-        <translation>Suelta aquí una lista de resultados</translation>
-    </message>
-    <message>
-        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
-        <translation>Texto (CSV, tabuladores, columnas de espacios), una hoja de cálculo (.xlsx, .ods), lo copiado de una página o una carrera que lleve una lista. Las listas solo se leen.</translation>
-    </message>
-    <message>
-        <source>Open a list…</source>
-        <translation>Abrir una lista…</translation>
-    </message>
-    <message>
-        <source>Open what was copied</source>
-        <translation>Abrir lo copiado</translation>
-    </message>
-</context>
-<context>
     <name>kavela::desktop::EntryTable</name>
     <message>
         <source>“%1” is a number from 0 to %2</source>
@@ -13614,6 +13580,18 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
             <numerusform>%n manga</numerusform>
             <numerusform>%n mangas</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Drop a folder of split files (.kvx) here</source>
+        <translation>Suelta aquí una carpeta de archivos de parciales (.kvx)</translation>
+    </message>
+    <message>
+        <source>All races below it are searched. They are only read.</source>
+        <translation>Se busca en todas las carreras que contiene. Solo se leen.</translation>
+    </message>
+    <message>
+        <source>Search a folder…</source>
+        <translation>Buscar en una carpeta…</translation>
     </message>
 </context>
 <context>
@@ -21661,6 +21639,10 @@ y %1 más</translation>
         <source>The water round the marks could not be saved: %1</source>
         <translation>No se pudo guardar el agua en torno a las marcas: %1</translation>
     </message>
+    <message>
+        <source>The picture could not be saved: %1</source>
+        <translation>No se pudo guardar la imagen: %1</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SlitStrip</name>
@@ -22591,6 +22573,22 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
             <numerusform>%n columna</numerusform>
             <numerusform>%n columnas</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Drop a list of results here</source>
+        <translation>Suelta aquí una lista de resultados</translation>
+    </message>
+    <message>
+        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
+        <translation>Texto (CSV, tabuladores, columnas de espacios), una hoja de cálculo (.xlsx, .ods), lo copiado de una página o una carrera que lleve una lista. Las listas solo se leen.</translation>
+    </message>
+    <message>
+        <source>Open a list…</source>
+        <translation>Abrir una lista…</translation>
+    </message>
+    <message>
+        <source>Open what was copied</source>
+        <translation>Abrir lo copiado</translation>
     </message>
 </context>
 <context>

@@ -12623,40 +12623,6 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     </message>
 </context>
 <context>
-    <name>kavela::desktop::EmptySearch</name>
-    <message>
-        <source>Drop a folder of split files (.kvx) here</source>
-        <translation>Déposez ici un dossier de fichiers d’intermédiaires (.kvx)</translation>
-    </message>
-    <message>
-        <source>All races below it are searched. They are only read.</source>
-        <translation>On cherche dans toutes les courses qu’il contient. Elles sont seulement lues.</translation>
-    </message>
-    <message>
-        <source>Search a folder…</source>
-        <translation>Chercher dans un dossier…</translation>
-    </message>
-</context>
-<context>
-    <name>kavela::desktop::EmptyTables</name>
-    <message>
-        <source>Drop a list of results here</source>
-        <translation>Déposez ici une liste de résultats</translation>
-    </message>
-    <message>
-        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
-        <translation>Texte (CSV, tabulations, colonnes séparées par des blancs), classeur (.xlsx, .ods), ce qui a été copié d’une page, ou une course qui porte une liste. Les listes sont seulement lues.</translation>
-    </message>
-    <message>
-        <source>Open a list…</source>
-        <translation>Ouvrir une liste…</translation>
-    </message>
-    <message>
-        <source>Open what was copied</source>
-        <translation>Ouvrir ce qui a été copié</translation>
-    </message>
-</context>
-<context>
     <name>kavela::desktop::EntryTable</name>
     <message>
         <source>“%1” is a number from 0 to %2</source>
@@ -13614,6 +13580,18 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
             <numerusform>%n manche</numerusform>
             <numerusform>%n manches</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Drop a folder of split files (.kvx) here</source>
+        <translation>Déposez ici un dossier de fichiers d’intermédiaires (.kvx)</translation>
+    </message>
+    <message>
+        <source>All races below it are searched. They are only read.</source>
+        <translation>On cherche dans toutes les courses qu’il contient. Elles sont seulement lues.</translation>
+    </message>
+    <message>
+        <source>Search a folder…</source>
+        <translation>Chercher dans un dossier…</translation>
     </message>
 </context>
 <context>
@@ -21661,6 +21639,10 @@ et %1 autres</translation>
         <source>The water round the marks could not be saved: %1</source>
         <translation>L’eau autour des marques n’a pas pu être enregistrée&#x202f;: %1</translation>
     </message>
+    <message>
+        <source>The picture could not be saved: %1</source>
+        <translation>L’image n’a pas pu être enregistrée : %1</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SlitStrip</name>
@@ -22591,6 +22573,22 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
             <numerusform>%n colonne</numerusform>
             <numerusform>%n colonnes</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Drop a list of results here</source>
+        <translation>Déposez ici une liste de résultats</translation>
+    </message>
+    <message>
+        <source>Text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), what was copied from a page, or a race that carries a list. Lists are only read.</source>
+        <translation>Texte (CSV, tabulations, colonnes séparées par des blancs), classeur (.xlsx, .ods), ce qui a été copié d’une page, ou une course qui porte une liste. Les listes sont seulement lues.</translation>
+    </message>
+    <message>
+        <source>Open a list…</source>
+        <translation>Ouvrir une liste…</translation>
+    </message>
+    <message>
+        <source>Open what was copied</source>
+        <translation>Ouvrir ce qui a été copié</translation>
     </message>
 </context>
 <context>
