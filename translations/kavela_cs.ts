@@ -7604,6 +7604,30 @@
         <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), a split file (.kvx) that carries one, or a saved table (.kvtable)</source>
         <translation>Seznam: text (CSV, tabulátory, sloupce z mezer), tabulkový sešit (.xlsx, .ods), soubor mezičasů (.kvx) s listinou, nebo uložená tabulka (.kvtable)</translation>
     </message>
+    <message numerus="yes">
+        <source>{} more rows are not told.</source>
+        <translation>
+            <numerusform>{} další řádek není uveden.</numerusform>
+            <numerusform>{} další řádky nejsou uvedeny.</numerusform>
+            <numerusform>{} dalších řádků není uvedeno.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} rows have no such value.</source>
+        <translation>
+            <numerusform>{} řádek takovou hodnotu nemá.</numerusform>
+            <numerusform>{} řádky takovou hodnotu nemají.</numerusform>
+            <numerusform>{} řádků takovou hodnotu nemá.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>90 % interval, {} runs</source>
+        <translation>
+            <numerusform>90% interval, {} jízda</numerusform>
+            <numerusform>90% interval, {} jízdy</numerusform>
+            <numerusform>90% interval, {} jízd</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -21431,10 +21455,6 @@ a dalších %1</translation>
     <message>
         <source>Pictures (*.png)</source>
         <translation>Obrázky (*.png)</translation>
-    </message>
-    <message>
-        <source>The picture could not be saved: %1</source>
-        <translation>Obrázek nelze uložit: %1</translation>
     </message>
     <message>
         <source>Save the water round the marks</source>

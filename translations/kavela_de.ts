@@ -7567,6 +7567,27 @@
         <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), a split file (.kvx) that carries one, or a saved table (.kvtable)</source>
         <translation>Eine Liste: Text (CSV, Tabs, Spalten aus Leerzeichen), eine Tabellendatei (.xlsx, .ods), eine Zwischenzeitdatei (.kvx), die eine enthält, oder eine gespeicherte Tabelle (.kvtable)</translation>
     </message>
+    <message numerus="yes">
+        <source>{} more rows are not told.</source>
+        <translation>
+            <numerusform>{} weitere Zeile ist nicht genannt.</numerusform>
+            <numerusform>{} weitere Zeilen sind nicht genannt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} rows have no such value.</source>
+        <translation>
+            <numerusform>{} Zeile hat keinen solchen Wert.</numerusform>
+            <numerusform>{} Zeilen haben keinen solchen Wert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>90 % interval, {} runs</source>
+        <translation>
+            <numerusform>90-%-Intervall, {} Lauf</numerusform>
+            <numerusform>90-%-Intervall, {} Läufe</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -21367,10 +21388,6 @@ und %1 weitere</translation>
     <message>
         <source>Pictures (*.png)</source>
         <translation>Bilder (*.png)</translation>
-    </message>
-    <message>
-        <source>The picture could not be saved: %1</source>
-        <translation>Das Bild konnte nicht gespeichert werden: %1</translation>
     </message>
     <message>
         <source>Save the water round the marks</source>

@@ -7567,6 +7567,27 @@
         <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), a split file (.kvx) that carries one, or a saved table (.kvtable)</source>
         <translation>Una lista: texto (CSV, tabuladores, columnas de espacios), una hoja de cálculo (.xlsx, .ods), un archivo de parciales (.kvx) que lleve una o una tabla guardada (.kvtable)</translation>
     </message>
+    <message numerus="yes">
+        <source>{} more rows are not told.</source>
+        <translation>
+            <numerusform>No se muestra {} fila más.</numerusform>
+            <numerusform>No se muestran {} filas más.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} rows have no such value.</source>
+        <translation>
+            <numerusform>{} fila no tiene ese valor.</numerusform>
+            <numerusform>{} filas no tienen ese valor.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>90 % interval, {} runs</source>
+        <translation>
+            <numerusform>intervalo del 90 %, {} manga</numerusform>
+            <numerusform>intervalo del 90 %, {} mangas</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -21367,10 +21388,6 @@ y %1 más</translation>
     <message>
         <source>Pictures (*.png)</source>
         <translation>Imágenes (*.png)</translation>
-    </message>
-    <message>
-        <source>The picture could not be saved: %1</source>
-        <translation>No se pudo guardar la imagen: %1</translation>
     </message>
     <message>
         <source>Save the water round the marks</source>

@@ -7567,6 +7567,27 @@
         <source>A list: text (CSV, tabs, columns of blanks), a spreadsheet (.xlsx, .ods), a split file (.kvx) that carries one, or a saved table (.kvtable)</source>
         <translation>Une liste : texte (CSV, tabulations, colonnes séparées par des blancs), classeur (.xlsx, .ods), fichier d’intermédiaires (.kvx) qui en porte une, ou tableau enregistré (.kvtable)</translation>
     </message>
+    <message numerus="yes">
+        <source>{} more rows are not told.</source>
+        <translation>
+            <numerusform>{} autre ligne n’est pas indiquée.</numerusform>
+            <numerusform>{} autres lignes ne sont pas indiquées.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>{} rows have no such value.</source>
+        <translation>
+            <numerusform>{} ligne n’a pas cette valeur.</numerusform>
+            <numerusform>{} lignes n’ont pas cette valeur.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>90 % interval, {} runs</source>
+        <translation>
+            <numerusform>intervalle à 90 %, {} manche</numerusform>
+            <numerusform>intervalle à 90 %, {} manches</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -21369,10 +21390,6 @@ et %1 autres</translation>
         <translation>Images (*.png)</translation>
     </message>
     <message>
-        <source>The picture could not be saved: %1</source>
-        <translation>L’image n’a pas pu être enregistrée&#x202f;: %1</translation>
-    </message>
-    <message>
         <source>Save the water round the marks</source>
         <translation>Enregistrer l’eau autour des marques</translation>
     </message>
@@ -21641,7 +21658,7 @@ et %1 autres</translation>
     </message>
     <message>
         <source>The picture could not be saved: %1</source>
-        <translation>L’image n’a pas pu être enregistrée : %1</translation>
+        <translation>L’image n’a pas pu être enregistrée&#x202f;: %1</translation>
     </message>
 </context>
 <context>
