@@ -38,7 +38,33 @@ Ended runProgram(const char* program, const std::vector<std::string>& arguments)
             process.readAllStandardError().toStdString()};
 }
 
-/// What who gives a version out has at hand: a build, a key, and notes.
+/// A working tree of git with one commit, which has a tag.
+class CommittedSources {
+public:
+    CommittedSources() {
+        (void)folder.add("main.cpp", "int main() {}\n");
+        git({"init", "--quiet"});
+        git({"add", "."});
+        commit();
+        git({"tag", "v0.32.0"});
+    }
+
+    void git(std::vector<std::string> arguments) const {
+        arguments.insert(arguments.begin(),
+                         {"-C", path(), "-c", "user.name=A", "-c", "user.email=a@localhost", "-c",
+                          "commit.gpgsign=false"});
+        const Ended ended = runProgram("git", arguments);
+        ASSERT_EQ(ended.status, 0) << ended.errors;
+    }
+
+    void commit() const { git({"commit", "--quiet", "--allow-empty", "--message", "A step"}); }
+
+    [[nodiscard]] std::string path() const { return folder.path().string(); }
+
+    TempFolder folder;
+};
+
+/// What who gives a version out has at hand: sources, a build, a key, and notes.
 class ReleaseTest : public ::testing::Test {
 protected:
     ReleaseTest() {
@@ -51,8 +77,9 @@ protected:
 
     void setBuiltInKey(const std::string& digits) const {
         (void)folder.add("CMakeCache.txt", "CMAKE_PROJECT_VERSION:STATIC=0.32.0\n"
-                                           "KAVELA_UPDATE_KEY:STRING=" +
-                                               digits + '\n');
+                                           "CMAKE_HOME_DIRECTORY:INTERNAL=" +
+                                               sources.path() +
+                                               "\nKAVELA_UPDATE_KEY:STRING=" + digits + '\n');
     }
 
     [[nodiscard]] Ended release() const {
@@ -71,6 +98,7 @@ protected:
         }
     }
 
+    CommittedSources sources;
     TempFolder folder;
     fs::path key = folder.path() / "secret.key";
     fs::path out = folder.path() / "out";
@@ -129,6 +157,19 @@ TEST_F(ReleaseTest, IsNotMadeWhereNobodyWouldBelieveIt) {
     EXPECT_NE(old.status, 0);
     EXPECT_THAT(old.errors, HasSubstr("kavela_0.31.0_amd64.deb"));
     EXPECT_FALSE(fs::exists(out / "newest.json"));
+}
+
+TEST_F(ReleaseTest, IsMadeOfTheCommitThatItsTagNamesAlone) {
+    const fs::path stray = sources.folder.add("stray.cpp", "");
+    EXPECT_THAT(release().errors, HasSubstr("stray.cpp"));
+    fs::remove(stray);
+    sources.commit();
+    EXPECT_THAT(release().errors, HasSubstr("The tag v0.32.0 belongs to another commit"));
+    sources.git({"tag", "--delete", "v0.32.0"});
+    EXPECT_THAT(release().errors, HasSubstr("There is no tag v0.32.0"));
+    EXPECT_FALSE(fs::exists(out));
+    sources.git({"tag", "--annotate", "--message", "As given out", "v0.32.0"});
+    EXPECT_EQ(release().status, 0);
 }
 
 } // namespace kavela::test
