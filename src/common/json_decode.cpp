@@ -1,8 +1,24 @@
 #include "common/json_decode.h"
 
+#include "common/text.h"
+
+#include <array>
+
 namespace kavela::json_detail {
 
 namespace {
+
+/// In the order of `Expected`: a whole text each, since what is expected and what was found agree
+/// with their verbs in some languages.
+constexpr std::array<std::string_view, 7> Refusals{
+    KAVELA_TEXT("a number was expected, found {}"),
+    KAVELA_TEXT("an integer was expected, found {}"),
+    KAVELA_TEXT("a boolean was expected, found {}"),
+    KAVELA_TEXT("a string was expected, found {}"),
+    KAVELA_TEXT("a base64 string was expected, found {}"),
+    KAVELA_TEXT("an array was expected, found {}"),
+    KAVELA_TEXT("an object was expected, found {}"),
+};
 
 template <class Narrow>
 bool readNarrow(simdjson::dom::element element, Narrow& value, Fault& fault) {
@@ -10,38 +26,45 @@ bool readNarrow(simdjson::dom::element element, Narrow& value, Fault& fault) {
     if (!read(element, wide, fault))
         return false;
     if (!std::in_range<Narrow>(wide)) {
-        fault = {{}, "the integer " + std::to_string(wide) + " is out of range"};
+        fault = {{}, say("the integer {} is out of range", wide)};
         return false;
     }
     value = static_cast<Narrow>(wide);
     return true;
 }
 
-} // namespace
-
-std::string kindOf(simdjson::dom::element element) {
+/// What a JSON value is, in the words of a message.
+std::string_view kindOf(simdjson::dom::element element) {
     switch (element.type()) {
     case simdjson::dom::element_type::ARRAY:
-        return "an array";
+        return translated("an array");
     case simdjson::dom::element_type::OBJECT:
-        return "an object";
+        return translated("an object");
     case simdjson::dom::element_type::INT64:
     case simdjson::dom::element_type::UINT64:
-        return "an integer";
+        return translated("an integer");
     case simdjson::dom::element_type::DOUBLE:
-        return "a number that is no 64-bit integer";
+        return translated("a number that is no 64-bit integer");
     case simdjson::dom::element_type::STRING:
-        return "a string";
+        return translated("a string");
     case simdjson::dom::element_type::BOOL:
-        return "a boolean";
+        return translated("a boolean");
     case simdjson::dom::element_type::NULL_VALUE:
         return "null";
     }
-    return "something else";
+    return translated("something else");
 }
 
-bool refuse(Fault& fault, std::string_view expected, simdjson::dom::element found) {
-    fault = {{}, std::string(expected) + " was expected, found " + kindOf(found)};
+} // namespace
+
+bool refuse(Fault& fault, Expected expected, simdjson::dom::element found) {
+    const std::string_view text = Refusals.at(static_cast<std::size_t>(expected));
+    fault = {{}, sayMarked(text, kindOf(found))};
+    return false;
+}
+
+bool refuseMissing(Fault& fault, std::string_view key) {
+    fault = {std::string(key), say("the key is missing")};
     return false;
 }
 
@@ -49,10 +72,10 @@ bool read(simdjson::dom::element element, std::int64_t& value, Fault& fault) {
     if (element.get(value) == simdjson::SUCCESS)
         return true;
     if (std::uint64_t large = 0; element.get(large) == simdjson::SUCCESS) {
-        fault = {{}, "the integer " + std::to_string(large) + " is out of range"};
+        fault = {{}, say("the integer {} is out of range", large)};
         return false;
     }
-    return refuse(fault, "an integer", element);
+    return refuse(fault, Expected::Integer, element);
 }
 
 bool read(simdjson::dom::element element, std::int32_t& value, Fault& fault) {
@@ -64,13 +87,13 @@ bool read(simdjson::dom::element element, std::uint32_t& value, Fault& fault) {
 }
 
 bool read(simdjson::dom::element element, bool& value, Fault& fault) {
-    return element.get(value) == simdjson::SUCCESS || refuse(fault, "a boolean", element);
+    return element.get(value) == simdjson::SUCCESS || refuse(fault, Expected::Boolean, element);
 }
 
 bool read(simdjson::dom::element element, std::string& value, Fault& fault) {
     std::string_view text;
     if (element.get(text) != simdjson::SUCCESS)
-        return refuse(fault, "a string", element);
+        return refuse(fault, Expected::String, element);
     value = text;
     return true;
 }
@@ -78,10 +101,10 @@ bool read(simdjson::dom::element element, std::string& value, Fault& fault) {
 bool read(simdjson::dom::element element, Blob& value, Fault& fault) {
     std::string_view text;
     if (element.get(text) != simdjson::SUCCESS)
-        return refuse(fault, "a base64 string", element);
+        return refuse(fault, Expected::Base64, element);
     auto blob = blobFromBase64(text);
     if (!blob) {
-        fault = {{}, "a base64 string was expected, found other text"};
+        fault = {{}, say("a base64 string was expected, found other text")};
         return false;
     }
     value = std::move(*blob);

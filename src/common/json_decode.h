@@ -11,6 +11,7 @@
 #include <simdjson.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <string>
 #include <utility>
@@ -24,15 +25,18 @@ namespace kavela {
 
 namespace json_detail {
 
-/// What a JSON value is, in the words of a message.
-[[nodiscard]] std::string kindOf(simdjson::dom::element element);
+/// The kinds of values that members have.
+enum class Expected : std::uint8_t { Number, Integer, Boolean, String, Base64, Array, Object };
 
-/// Fills `fault` with "… was expected, found …".
-bool refuse(Fault& fault, std::string_view expected, simdjson::dom::element found);
+/// Fills `fault` with "… was expected, found …". False.
+bool refuse(Fault& fault, Expected expected, simdjson::dom::element found);
+
+/// Tells that a record's key is missing. False.
+bool refuseMissing(Fault& fault, std::string_view key);
 
 /// Defined here, since a recording is little else than such numbers.
 inline bool read(simdjson::dom::element element, double& value, Fault& fault) {
-    return element.get(value) == simdjson::SUCCESS || refuse(fault, "a number", element);
+    return element.get(value) == simdjson::SUCCESS || refuse(fault, Expected::Number, element);
 }
 bool read(simdjson::dom::element element, std::int64_t& value, Fault& fault);
 bool read(simdjson::dom::element element, std::int32_t& value, Fault& fault);
@@ -80,10 +84,8 @@ private:
 template <class Member, class T>
 bool readMember(ObjectCursor& cursor, T& value, Fault& fault) {
     simdjson::dom::element element;
-    if (!cursor.find<Member>(element)) {
-        fault = {Member::name, "the key is missing"};
-        return false;
-    }
+    if (!cursor.find<Member>(element))
+        return refuseMissing(fault, Member::name);
     if (read(element, value, fault))
         return true;
     fault.prependMember(Member::name);
@@ -94,7 +96,7 @@ template <class T>
 bool read(simdjson::dom::element element, std::vector<T>& values, Fault& fault) {
     simdjson::dom::array array;
     if (element.get(array) != simdjson::SUCCESS)
-        return refuse(fault, "an array", element);
+        return refuse(fault, Expected::Array, element);
     values.clear();
     // A damaged file can hold a million numbers where records are due: no more room than this is
     // made before what was made is filled.
@@ -118,7 +120,7 @@ template <Record T>
 bool read(simdjson::dom::element element, T& record, Fault& fault) {
     simdjson::dom::object object;
     if (element.get(object) != simdjson::SUCCESS)
-        return refuse(fault, "an object", element);
+        return refuse(fault, Expected::Object, element);
     ObjectCursor cursor(object);
     return [&]<class... Member>(boost::mp11::mp_list<Member...>) {
         return (readMember<Member>(cursor, record.*Member::pointer, fault) && ...);

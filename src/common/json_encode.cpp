@@ -1,5 +1,6 @@
 #include "common/json_encode.h"
 
+#include "common/text.h"
 #include "common/utf8.h"
 
 #include "common/large_pages.h"
@@ -63,7 +64,7 @@ void makeRoomForRest(std::string& json, std::size_t firstEntry, std::size_t coun
 
 bool write(std::string& json, double value, Fault& fault) {
     if (!std::isfinite(value)) {
-        fault = {{}, "a number that is not finite cannot be written"};
+        fault = {{}, say("a number that is not finite cannot be written")};
         return false;
     }
     if (value == 0 && std::signbit(value)) {
@@ -92,7 +93,7 @@ bool write(std::string& json, bool value, Fault&) {
 
 bool write(std::string& json, const std::string& value, Fault& fault) {
     if (!isUtf8(value)) {
-        fault = {{}, "a text that is not valid UTF-8 cannot be written"};
+        fault = {{}, say("a text that is not valid UTF-8 cannot be written")};
         return false;
     }
     json += '"';

@@ -73,6 +73,11 @@ struct SaidReal {
 template <class... Arguments>
 [[nodiscard]] std::string say(fmt::format_string<Arguments...> source, Arguments&&... arguments);
 
+/// The same for a text of a table, which is marked by KAVELA_TEXT and whose places are known to
+/// fit.
+template <class... Arguments>
+[[nodiscard]] std::string sayMarked(std::string_view source, const Arguments&... arguments);
+
 /// So many of something: `one` for 1, `many` for every other number, each with {} for the number.
 /// Languages with more forms have theirs as forms of `many`.
 [[nodiscard]] std::string sayCount(std::int64_t count, std::string_view one, std::string_view many);
@@ -106,13 +111,17 @@ template <class Argument>
 }
 
 template <class... Arguments>
-std::string say(fmt::format_string<Arguments...> source, Arguments&&... arguments) {
-    const fmt::string_view text = source;
-    const std::string_view own(text.data(), text.size());
+std::string sayMarked(std::string_view source, const Arguments&... arguments) {
     // The arguments live until the call returns: what is made of a number lives as long.
     return [&](auto&&... said) {
-        return filledText(own, translated(own), fmt::make_format_args(said...));
+        return filledText(source, translated(source), fmt::make_format_args(said...));
     }(saidArgument(arguments)...);
+}
+
+template <class... Arguments>
+std::string say(fmt::format_string<Arguments...> source, Arguments&&... arguments) {
+    const fmt::string_view text = source;
+    return sayMarked(std::string_view(text.data(), text.size()), arguments...);
 }
 
 } // namespace kavela
