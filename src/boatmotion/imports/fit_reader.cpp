@@ -1,6 +1,7 @@
 #include "boatmotion/imports/fit_reader.h"
 
 #include "common/error.h"
+#include "common/text.h"
 
 #include <string>
 
@@ -11,9 +12,11 @@ namespace {
 constexpr std::uint8_t TimeField = 253;
 constexpr std::size_t ShortHeader = 12;
 constexpr std::size_t LongHeader = 14;
+constexpr std::string_view EndsInDefinition = KAVELA_TEXT("the messages end within a definition");
+constexpr std::string_view EndsInMessage = KAVELA_TEXT("the messages end within a message");
 
 DecodeError fault(std::size_t place, const std::string& text) {
-    return DecodeError({"byte " + std::to_string(place), text});
+    return DecodeError({say("byte {}", place), text});
 }
 
 std::uint64_t number(std::string_view bytes, bool isBigEndian) {
@@ -100,16 +103,16 @@ std::optional<std::int64_t> FitMessage::value(std::uint8_t field) const {
     return std::nullopt;
 }
 
-std::string_view FitReader::bytes(std::size_t count, const char* within) {
+std::string_view FitReader::bytes(std::size_t count, std::string_view lack) {
     if (count > m_end - m_place)
-        throw fault(m_place, std::string("the messages end within ") + within);
+        throw fault(m_place, std::string(translated(lack)));
     const std::string_view taken = m_content.substr(m_place, count);
     m_place += count;
     return taken;
 }
 
-std::uint8_t FitReader::byte(const char* within) {
-    return static_cast<std::uint8_t>(bytes(1, within).front());
+std::uint8_t FitReader::byte(std::string_view lack) {
+    return static_cast<std::uint8_t>(bytes(1, lack).front());
 }
 
 void FitReader::checkSums(std::size_t headerSize) {
@@ -118,27 +121,26 @@ void FitReader::checkSums(std::size_t headerSize) {
     };
     if (headerSize == LongHeader && sumAt(m_place + ShortHeader) != 0 &&
         sumAt(m_place + ShortHeader) != fitCrc(m_content.substr(m_place, ShortHeader)))
-        throw fault(m_place + ShortHeader, "the header's check sum does not agree");
+        throw fault(m_place + ShortHeader, say("the header's check sum does not agree"));
     if (sumAt(m_end) != fitCrc(m_content.substr(m_place, m_end - m_place)))
-        throw fault(m_end, "the file's check sum does not agree: bytes of it are damaged");
+        throw fault(m_end, say("the file's check sum does not agree: bytes of it are damaged"));
 }
 
 void FitReader::beginFile() {
     const std::size_t left = m_content.size() - m_place;
     if (left < ShortHeader)
-        throw fault(m_content.size(), "the file ends within a header");
+        throw fault(m_content.size(), say("the file ends within a header"));
     const auto headerSize = static_cast<std::uint8_t>(m_content[m_place]);
     if (headerSize != ShortHeader && headerSize != LongHeader)
-        throw fault(m_place, "a header of " + std::to_string(headerSize) +
-                                 " bytes: it has to have 12 or 14");
+        throw fault(m_place, say("a header of {} bytes: it has to have 12 or 14", headerSize));
     if (m_content.substr(m_place + 8, 4) != ".FIT")
-        throw fault(m_place + 8, "the header does not say that this is a FIT file");
+        throw fault(m_place + 8, say("the header does not say that this is a FIT file"));
     const std::uint64_t size = number(m_content.substr(m_place + 4, 4), false);
     if (size == 0)
-        throw fault(m_place + 4, "the recording was not finished by its device: it is empty");
+        throw fault(m_place + 4, say("the recording was not finished by its device: it is empty"));
     if (left < headerSize + size + 2)
-        throw fault(m_content.size(), "the file ends here, but its header announces " +
-                                          std::to_string(headerSize + size + 2) + " bytes");
+        throw fault(m_content.size(), say("the file ends here, but its header announces {} bytes",
+                                          headerSize + size + 2));
     m_end = m_place + headerSize + static_cast<std::size_t>(size);
     checkSums(headerSize);
     m_place += headerSize;
@@ -147,27 +149,27 @@ void FitReader::beginFile() {
 }
 
 std::size_t FitReader::developerBytes() {
-    const std::uint8_t count = byte("a definition");
+    const std::uint8_t count = byte(EndsInDefinition);
     std::size_t sum = 0;
     for (std::uint8_t i = 0; i < count; ++i)
-        sum += static_cast<std::uint8_t>(bytes(3, "a definition")[1]);
+        sum += static_cast<std::uint8_t>(bytes(3, EndsInDefinition)[1]);
     return sum;
 }
 
 void FitReader::readDefinition(std::uint8_t header) {
     FitDefinition definition;
-    (void)byte("a definition");
+    (void)byte(EndsInDefinition);
     const std::size_t orderPlace = m_place;
-    const std::uint8_t order = byte("a definition");
+    const std::uint8_t order = byte(EndsInDefinition);
     if (order > 1)
-        throw fault(orderPlace, "a byte order of " + std::to_string(order) + ": it is 0 or 1");
+        throw fault(orderPlace, say("a byte order of {}: it is 0 or 1", order));
     definition.isBigEndian = order == 1;
     definition.message =
-        static_cast<std::uint16_t>(number(bytes(2, "a definition"), definition.isBigEndian));
-    const std::uint8_t count = byte("a definition");
+        static_cast<std::uint16_t>(number(bytes(2, EndsInDefinition), definition.isBigEndian));
+    const std::uint8_t count = byte(EndsInDefinition);
     definition.fields.reserve(count);
     for (std::uint8_t i = 0; i < count; ++i) {
-        const std::string_view field = bytes(3, "a definition");
+        const std::string_view field = bytes(3, EndsInDefinition);
         definition.fields.push_back({static_cast<std::uint8_t>(field[0]),
                                      static_cast<std::uint8_t>(field[1]),
                                      static_cast<std::uint8_t>(field[2])});
@@ -183,10 +185,9 @@ void FitReader::readDefinition(std::uint8_t header) {
 FitMessage FitReader::readData(std::uint8_t local, std::optional<std::uint8_t> offset) {
     const auto& definition = m_definitions[local];
     if (!definition)
-        throw fault(m_place - 1,
-                    "a message of type " + std::to_string(local) + ", which is not defined");
-    const std::string_view fields = bytes(definition->fieldBytes, "a message");
-    (void)bytes(definition->developerBytes, "a message");
+        throw fault(m_place - 1, say("a message of type {}, which is not defined", local));
+    const std::string_view fields = bytes(definition->fieldBytes, EndsInMessage);
+    (void)bytes(definition->developerBytes, EndsInMessage);
     if (offset && m_time)
         m_time = *m_time + ((*offset - *m_time) & 0x1FU);
     const auto own = FitMessage(*definition, fields, std::nullopt).value(TimeField);
@@ -203,7 +204,7 @@ std::optional<FitMessage> FitReader::next() {
                 return std::nullopt;
             beginFile();
         }
-        const std::uint8_t header = byte("a message");
+        const std::uint8_t header = byte(EndsInMessage);
         if (header & 0x80U)
             return readData(header >> 5U & 0x03U, static_cast<std::uint8_t>(header & 0x1FU));
         if (!(header & 0x40U))

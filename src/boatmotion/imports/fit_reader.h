@@ -66,8 +66,8 @@ private:
     void checkSums(std::size_t headerSize);
     void readDefinition(std::uint8_t header);
     [[nodiscard]] FitMessage readData(std::uint8_t local, std::optional<std::uint8_t> offset);
-    [[nodiscard]] std::uint8_t byte(const char* within);
-    [[nodiscard]] std::string_view bytes(std::size_t count, const char* within);
+    [[nodiscard]] std::uint8_t byte(std::string_view lack);
+    [[nodiscard]] std::string_view bytes(std::size_t count, std::string_view lack);
     [[nodiscard]] std::size_t developerBytes();
 
     std::string_view m_content;

@@ -3,6 +3,7 @@
 #include "boatmotion/imports/fit_reader.h"
 #include "boatmotion/imports/track_builder.h"
 #include "common/reference_date.h"
+#include "common/text.h"
 
 namespace kavela::imports {
 
@@ -81,11 +82,14 @@ ImportedTrack fitTrack(std::string_view content) {
         }
     }
     if (isOther)
-        builder.note("The file is not an activity, but something else of the device.");
+        builder.note(say("The file is not an activity, but something else of the device."));
     if (sessions > 1)
-        builder.note("The file holds " + std::to_string(sessions) + " sessions; all were taken.");
+        builder.note(sayCount(static_cast<std::int64_t>(sessions),
+                              "The file holds {} session; all were taken.",
+                              "The file holds {} sessions; all were taken."));
     if (stops > 1) // every recording is stopped once, at its end
-        builder.note("The watch was stopped " + std::to_string(stops) + " times.");
+        builder.note(sayCount(static_cast<std::int64_t>(stops), "The watch was stopped {} time.",
+                              "The watch was stopped {} times."));
     return std::move(builder).finish();
 }
 

@@ -1,8 +1,7 @@
 #include "boatmotion/imports/join_recording.h"
 
 #include "boatmotion/strokes/clocks.h"
-
-#include <fmt/format.h>
+#include "common/text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -32,39 +31,66 @@ void join(std::vector<Sample>& present, const std::vector<Sample>& track, const 
 std::string durationText(double seconds) {
     const auto whole = static_cast<long long>(std::min(std::abs(seconds), 1e12));
     if (whole >= 86400)
-        return fmt::format("{} d {} h", whole / 86400, whole / 3600 % 24);
+        return say("{} d {} h", whole / 86400, whole / 3600 % 24);
     if (whole >= 3600)
-        return fmt::format("{} h {} min", whole / 3600, whole / 60 % 60);
-    return fmt::format("{} min {} s", whole / 60, whole % 60);
+        return say("{} h {} min", whole / 3600, whole / 60 % 60);
+    return say("{} min {} s", whole / 60, whole % 60);
 }
+
+/// What there is to say of samples of one kind.
+struct SampleTexts {
+    std::string_view stay;   ///< those of the recording
+    std::string_view after;  ///< the track's begin so much after the recording
+    std::string_view before; ///< or before it
+    std::string_view afterByZone;
+    std::string_view beforeByZone;
+};
+
+constexpr SampleTexts Positions{
+    .stay = KAVELA_TEXT("The recording has positions of its own, which stay."),
+    .after = KAVELA_TEXT("The track's positions begin {} after the recording."),
+    .before = KAVELA_TEXT("The track's positions begin {} before the recording."),
+    .afterByZone = KAVELA_TEXT("The track's positions begin {} after the recording; perhaps an "
+                               "offset of {} h is missing."),
+    .beforeByZone = KAVELA_TEXT("The track's positions begin {} before the recording; perhaps an "
+                                "offset of {} h is missing.")};
+
+constexpr SampleTexts HeartRates{
+    .stay = KAVELA_TEXT("The recording has heart rates of its own, which stay."),
+    .after = KAVELA_TEXT("The track's heart rates begin {} after the recording."),
+    .before = KAVELA_TEXT("The track's heart rates begin {} before the recording."),
+    .afterByZone = KAVELA_TEXT("The track's heart rates begin {} after the recording; perhaps an "
+                               "offset of {} h is missing."),
+    .beforeByZone = KAVELA_TEXT("The track's heart rates begin {} before the recording; perhaps "
+                                "an offset of {} h is missing.")};
 
 /// Why a track does not meet the recording; a clock on the time of another zone is often why.
 template <class Sample>
 std::string apartText(const std::vector<Sample>& track, const DateSpan& dates, double offset,
-                      const char* what) {
+                      const SampleTexts& texts) {
     const double ahead = track.front().date.seconds + offset - dates.first;
-    std::string text = fmt::format("The track's {} begin {} {} the recording", what,
-                                   durationText(ahead), ahead > 0 ? "after" : "before");
+    const bool isAfter = ahead > 0;
     const double hours = std::round(ahead / 3600);
     if (hours != 0 && std::abs(hours) <= 14)
-        text += fmt::format("; perhaps an offset of {} h is missing", -hours);
-    return text + '.';
+        return sayMarked(isAfter ? texts.afterByZone : texts.beforeByZone, durationText(ahead),
+                         -hours);
+    return sayMarked(isAfter ? texts.after : texts.before, durationText(ahead));
 }
 
 template <class Sample>
 std::size_t countWhereMissing(const std::vector<Sample>& present, const std::vector<Sample>& track,
-                              const DateSpan& dates, double offset, const char* what,
+                              const DateSpan& dates, double offset, const SampleTexts& texts,
                               std::vector<std::string>& notes) {
     if (track.empty())
         return 0;
     if (!present.empty()) {
-        notes.push_back(fmt::format("The recording has {} of its own, which stay.", what));
+        notes.emplace_back(translated(texts.stay));
         return 0;
     }
     const auto taken = std::ranges::count_if(
         track, [&](const Sample& sample) { return isRecordedWithin(sample, dates, offset); });
     if (taken == 0)
-        notes.push_back(apartText(track, dates, offset, what));
+        notes.push_back(apartText(track, dates, offset, texts));
     return static_cast<std::size_t>(taken);
 }
 
@@ -97,14 +123,14 @@ DateSpan spanOf(const ImportedTrack& track) {
 JoinedTrack joinable(const bmrawdata_v5& session, const ImportedTrack& track, double offset) {
     JoinedTrack joined;
     if (session.boatmotion.empty()) {
-        joined.notes.push_back("The recording has no motion samples to join the track to.");
+        joined.notes.push_back(say("The recording has no motion samples to join the track to."));
         return joined;
     }
     const DateSpan dates = spanOf(session);
     joined.fixes =
-        countWhereMissing(session.gps, track.gps, dates, offset, "positions", joined.notes);
+        countWhereMissing(session.gps, track.gps, dates, offset, Positions, joined.notes);
     joined.heart =
-        countWhereMissing(session.heart, track.heart, dates, offset, "heart rates", joined.notes);
+        countWhereMissing(session.heart, track.heart, dates, offset, HeartRates, joined.notes);
     return joined;
 }
 

@@ -6,6 +6,7 @@
 #include "boatmotion/imports/source_file.h"
 #include "common/delimited_text.h"
 #include "common/display_text.h"
+#include "common/text.h"
 
 #include <algorithm>
 #include <array>
@@ -31,15 +32,11 @@ bool has(const CsvMapping& mapping, CsvQuantity quantity) {
     return std::ranges::find(mapping.columns, quantity) != mapping.columns.end();
 }
 
-std::string quotedQuantity(CsvQuantity quantity) {
-    return "“" + std::string(textOf(quantity)) + "”";
-}
-
 std::optional<std::string> repeatedQuantity(const CsvMapping& mapping) {
     for (std::size_t q = 1; q < CsvQuantities; ++q) {
         const auto quantity = static_cast<CsvQuantity>(q);
         if (std::ranges::count(mapping.columns, quantity) > 1)
-            return quotedQuantity(quantity) + " stands over two columns.";
+            return say("“{}” stands over two columns.", textOf(quantity));
     }
     return std::nullopt;
 }
@@ -47,61 +44,66 @@ std::optional<std::string> repeatedQuantity(const CsvMapping& mapping) {
 std::optional<std::string> tornGroup(const CsvMapping& mapping) {
     struct Group {
         CsvQuantity first;
-        const char* name;
+        std::string_view fault;
     };
-    constexpr std::array<Group, 4> Groups{{{CsvQuantity::TotalX, "acceleration with gravity"},
-                                           {CsvQuantity::UserX, "acceleration without gravity"},
-                                           {CsvQuantity::RotationX, "rotation"},
-                                           {CsvQuantity::GravityX, "gravity"}}};
+    constexpr std::array<Group, 4> Groups{
+        {{CsvQuantity::TotalX,
+          KAVELA_TEXT("Of the acceleration with gravity all of x, y and z are needed.")},
+         {CsvQuantity::UserX,
+          KAVELA_TEXT("Of the acceleration without gravity all of x, y and z are needed.")},
+         {CsvQuantity::RotationX, KAVELA_TEXT("Of the rotation all of x, y and z are needed.")},
+         {CsvQuantity::GravityX, KAVELA_TEXT("Of the gravity all of x, y and z are needed.")}}};
     for (const Group& group : Groups)
         if (isTorn(mapping, group.first, 3))
-            return std::string("Of the ") + group.name + " all of x, y and z are needed.";
+            return std::string(translated(group.fault));
     if (isTorn(mapping, CsvQuantity::Latitude, 2))
-        return "Latitude and longitude go together.";
+        return say("Latitude and longitude go together.");
     return std::nullopt;
 }
 
 } // namespace
 
 std::string_view textOf(CsvQuantity quantity) {
-    constexpr std::array<std::string_view, CsvQuantities> Texts = {"–",
-                                                                   "Time",
-                                                                   "Acc. x with gravity",
-                                                                   "Acc. y with gravity",
-                                                                   "Acc. z with gravity",
-                                                                   "Acc. x without gravity",
-                                                                   "Acc. y without gravity",
-                                                                   "Acc. z without gravity",
-                                                                   "Rotation x",
-                                                                   "Rotation y",
-                                                                   "Rotation z",
-                                                                   "Gravity x",
-                                                                   "Gravity y",
-                                                                   "Gravity z",
-                                                                   "Pitch",
-                                                                   "Roll",
-                                                                   "Yaw",
-                                                                   "Latitude",
-                                                                   "Longitude",
-                                                                   "Speed",
-                                                                   "Heart rate"};
-    return Texts.at(static_cast<std::size_t>(quantity));
+    constexpr std::array<std::string_view, CsvQuantities> Texts{
+        "–",
+        KAVELA_TEXT("Time"),
+        KAVELA_TEXT("Acc. x with gravity"),
+        KAVELA_TEXT("Acc. y with gravity"),
+        KAVELA_TEXT("Acc. z with gravity"),
+        KAVELA_TEXT("Acc. x without gravity"),
+        KAVELA_TEXT("Acc. y without gravity"),
+        KAVELA_TEXT("Acc. z without gravity"),
+        KAVELA_TEXT("Rotation x"),
+        KAVELA_TEXT("Rotation y"),
+        KAVELA_TEXT("Rotation z"),
+        KAVELA_TEXT("Gravity x"),
+        KAVELA_TEXT("Gravity y"),
+        KAVELA_TEXT("Gravity z"),
+        KAVELA_TEXT("Pitch"),
+        KAVELA_TEXT("Roll"),
+        KAVELA_TEXT("Yaw"),
+        KAVELA_TEXT("Latitude"),
+        KAVELA_TEXT("Longitude"),
+        KAVELA_TEXT("Speed"),
+        KAVELA_TEXT("Heart rate"),
+    };
+    return translated(Texts.at(static_cast<std::size_t>(quantity)));
 }
 
 std::optional<std::string> faultOf(const CsvMapping& mapping) {
     if (!has(mapping, CsvQuantity::Time))
-        return "No column is the time.";
+        return say("No column is the time.");
     if (auto fault = repeatedQuantity(mapping))
         return fault;
     if (auto fault = tornGroup(mapping))
         return fault;
     if (mapping.hasDecimalComma && mapping.separator == ',')
-        return "Commas cannot be in numbers and between columns.";
+        return say("Commas cannot be in numbers and between columns.");
     const auto isThere = [&](CsvQuantity quantity) { return has(mapping, quantity); };
     constexpr std::array Worthwhile = {CsvQuantity::TotalX, CsvQuantity::UserX,
                                        CsvQuantity::Latitude, CsvQuantity::HeartRate};
     if (std::ranges::none_of(Worthwhile, isThere))
-        return "No column is acceleration, position or heart rate.";
+        return say("No column is acceleration, position or heart rate.");
     return std::nullopt;
 }
 
@@ -121,16 +123,16 @@ SensorCsv::SensorCsv(std::filesystem::path path) : m_path(std::move(path)) {
     while (m_lines.size() < BeginningLines && lines.next(line)) {
         if (line.find('\0') != line.npos || line.starts_with("\xFF\xFE") ||
             line.starts_with("\xFE\xFF"))
-            throw DecodeError({"line " + std::to_string(m_lines.size() + 1),
-                               "this is no plain text; a list has to be saved as UTF-8"});
+            throw DecodeError({say("line {}", m_lines.size() + 1),
+                               say("this is no plain text; a list has to be saved as UTF-8")});
         m_lines.emplace_back(line);
     }
     const CsvMapping likely = guess();
     if (likely.firstSample >= m_lines.size())
         throw DecodeError({{},
-                           "this is no list of samples: in its first " +
-                               std::to_string(m_lines.size()) +
-                               " lines there is none with numbers in columns"});
+                           say("this is no list of samples: in its first {} lines there is none "
+                               "with numbers in columns",
+                               m_lines.size())});
 }
 
 CsvMapping SensorCsv::guess() const {
@@ -165,8 +167,7 @@ CsvImport SensorCsv::read(const CsvMapping& mapping, const std::stop_token& stop
     std::string_view line;
     for (std::size_t number = 1; !stop.stop_requested() && lines.next(line); ++number) {
         if (number > MostLines)
-            throw DecodeError(
-                {{}, "the list has more than " + std::to_string(MostLines) + " lines"});
+            throw DecodeError({{}, say("the list has more than {} lines", MostLines)});
         if (number > mapping.firstSample)
             rows.take(line, number);
     }

@@ -90,15 +90,15 @@ bool LineReader::next(std::string_view& line) {
 std::string readWhole(const std::filesystem::path& path, std::size_t most) {
     SourceFile file(path);
     const auto tooLarge = [&] {
-        return FileError(path, "the file is too large to be imported (over " +
-                                   std::to_string(most >> 20U) + " MB)");
+        return FileError(path,
+                         say("the file is too large to be imported (over {} MB)", most >> 20U));
     };
     if (file.size() > most)
         throw tooLarge();
     std::string content(static_cast<std::size_t>(file.size()) + 1, '\0');
     const std::size_t got = file.read(content.data(), content.size());
     if (got > file.size())
-        throw FileError(path, "the file grew while it was read");
+        throw FileError(path, say("the file grew while it was read"));
     content.resize(got);
     return content;
 }

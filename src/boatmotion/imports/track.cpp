@@ -3,6 +3,7 @@
 #include "boatmotion/imports/fit_track.h"
 #include "boatmotion/imports/source_file.h"
 #include "boatmotion/imports/xml_track.h"
+#include "common/text.h"
 
 namespace kavela {
 
@@ -30,7 +31,7 @@ ImportedTrack trackFromContent(std::string content) {
         return imports::fitTrack(content);
     if (looksLikeXml(content))
         return imports::xmlTrack(std::move(content));
-    throw DecodeError({{}, "this is no track: neither GPX nor TCX nor FIT"});
+    throw DecodeError({{}, say("this is no track: neither GPX nor TCX nor FIT")});
 }
 
 ImportedTrack importTrack(const std::filesystem::path& path) {

@@ -1,5 +1,7 @@
 #include "boatmotion/imports/track_builder.h"
 
+#include "common/text.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -55,7 +57,40 @@ bool isBetween(double value, double least, double most) {
     return value >= least && value <= most;
 }
 
+std::string leftOutText(LeftOut what, std::int64_t count) {
+    switch (what) {
+    case LeftOut::OutsideGlobe:
+        return sayCount(count, "Left out: {} positions outside the globe.",
+                        "Left out: {} positions outside the globe.");
+    case LeftOut::WildSpeed:
+        return sayCount(count, "Left out: {} speeds that no boat has.",
+                        "Left out: {} speeds that no boat has.");
+    case LeftOut::Undated:
+        return sayCount(count, "Left out: {} points without a date.",
+                        "Left out: {} points without a date.");
+    case LeftOut::WildHeartRate:
+        return sayCount(count, "Left out: {} heart rates that are none.",
+                        "Left out: {} heart rates that are none.");
+    case LeftOut::SameMoment:
+        return sayCount(count, "Left out: {} positions at the moment of another.",
+                        "Left out: {} positions at the moment of another.");
+    case LeftOut::SameHeartMoment:
+        return sayCount(count, "Left out: {} heart rates at the moment of another.",
+                        "Left out: {} heart rates at the moment of another.");
+    case LeftOut::RoutePoint:
+        return sayCount(count, "Left out: {} way points and points of routes.",
+                        "Left out: {} way points and points of routes.");
+    }
+    return {};
+}
+
 } // namespace
+
+std::string computedSpeedsText(std::size_t count) {
+    return sayCount(static_cast<std::int64_t>(count),
+                    "The speed of {} positions was computed from the positions around them.",
+                    "The speed of {} positions was computed from the positions around them.");
+}
 
 std::size_t completeFixes(std::vector<gpsrawdata>& fixes) {
     (void)orderByDate(fixes);
@@ -69,7 +104,7 @@ std::size_t completeFixes(std::vector<gpsrawdata>& fixes) {
     return computed;
 }
 
-void TrackBuilder::leaveOut(const char* what, std::size_t count) {
+void TrackBuilder::leaveOut(LeftOut what, std::size_t count) {
     if (count == 0)
         return;
     const auto known =
@@ -85,10 +120,10 @@ void TrackBuilder::addFix(const TrackPoint& point, ReferenceDate date) {
         return;
     if (!point.latitude || !point.longitude || !isBetween(*point.latitude, -90, 90) ||
         !isBetween(*point.longitude, -180, 180))
-        return leaveOut("positions outside the globe");
+        return leaveOut(LeftOut::OutsideGlobe);
     double speed = point.speed.value_or(-1);
     if (point.speed && !isBetween(speed, 0, GreatestTrackSpeed)) {
-        leaveOut("speeds that no boat has");
+        leaveOut(LeftOut::WildSpeed);
         speed = -1;
     }
     m_track.gps.push_back({date, speed, *point.latitude, *point.longitude});
@@ -96,10 +131,9 @@ void TrackBuilder::addFix(const TrackPoint& point, ReferenceDate date) {
 
 void TrackBuilder::add(const TrackPoint& point) {
     if (++m_points > MostTrackPoints)
-        throw DecodeError(
-            {{}, "the track has more than " + std::to_string(MostTrackPoints) + " points"});
+        throw DecodeError({{}, say("the track has more than {} points", MostTrackPoints)});
     if (!point.date || !isBetween(*point.date, -GreatestTrackDate, GreatestTrackDate))
-        return leaveOut("points without a date");
+        return leaveOut(LeftOut::Undated);
     const ReferenceDate date{*point.date};
     addFix(point, date);
     if (!point.heartRate)
@@ -107,20 +141,19 @@ void TrackBuilder::add(const TrackPoint& point) {
     if (isBetween(*point.heartRate, 1, 300))
         m_track.heart.push_back({date, *point.heartRate});
     else
-        leaveOut("heart rates that are none");
+        leaveOut(LeftOut::WildHeartRate);
 }
 
 ImportedTrack TrackBuilder::finish() && {
-    leaveOut("positions at the moment of another", orderByDate(m_track.gps));
-    leaveOut("heart rates at the moment of another", orderByDate(m_track.heart));
+    leaveOut(LeftOut::SameMoment, orderByDate(m_track.gps));
+    leaveOut(LeftOut::SameHeartMoment, orderByDate(m_track.heart));
     const std::size_t computed = completeFixes(m_track.gps);
     for (const auto& [what, count] : m_leftOut)
-        note("Left out: " + std::to_string(count) + ' ' + what + '.');
+        note(leftOutText(what, static_cast<std::int64_t>(count)));
     if (computed > 0)
-        note("The speed of " + std::to_string(computed) +
-             " positions was computed from the positions around them.");
+        note(computedSpeedsText(computed));
     if (m_points == 0)
-        note("There are no points in the file.");
+        note(say("There are no points in the file."));
     return std::move(m_track);
 }
 

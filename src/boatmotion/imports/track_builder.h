@@ -2,6 +2,7 @@
 
 #include "boatmotion/imports/track.h"
 
+#include <cstdint>
 #include <optional>
 #include <utility>
 
@@ -20,13 +21,27 @@ struct TrackPoint {
 /// were computed. A speed below 0 is one that is lacking.
 std::size_t completeFixes(std::vector<gpsrawdata>& fixes);
 
+/// The note that so many speeds were computed.
+[[nodiscard]] std::string computedSpeedsText(std::size_t count);
+
+/// What is left out of a track.
+enum class LeftOut : std::uint8_t {
+    OutsideGlobe,
+    WildSpeed,
+    Undated,
+    WildHeartRate,
+    SameMoment,
+    SameHeartMoment,
+    RoutePoint
+};
+
 /// Collects the points of a track and keeps account of what is left out.
 class TrackBuilder {
 public:
     /// Throws DecodeError when there are too many points.
     void add(const TrackPoint& point);
-    /// Counts something that is left out; `what` continues "12 ".
-    void leaveOut(const char* what, std::size_t count = 1);
+    /// Counts something that is left out.
+    void leaveOut(LeftOut what, std::size_t count = 1);
     void note(std::string text) { m_track.notes.push_back(std::move(text)); }
 
     [[nodiscard]] ImportedTrack finish() &&;
@@ -35,7 +50,7 @@ private:
     void addFix(const TrackPoint& point, ReferenceDate date);
 
     ImportedTrack m_track;
-    std::vector<std::pair<std::string, std::size_t>> m_leftOut;
+    std::vector<std::pair<LeftOut, std::size_t>> m_leftOut; ///< in the order of their first
     std::size_t m_points = 0;
 };
 

@@ -2,6 +2,7 @@
 
 #include "boatmotion/imports/iso_date.h"
 #include "boatmotion/imports/track_builder.h"
+#include "common/text.h"
 
 #include <pugixml.hpp>
 
@@ -83,7 +84,7 @@ ImportedTrack trackOf(const pugi::xml_document& document) {
         if (isPoint)
             builder.add(pointOf(node));
         else if (name == "wpt" || name == "rtept")
-            builder.leaveOut("way points and points of routes");
+            builder.leaveOut(LeftOut::RoutePoint);
         node = nodeAfter(node, document, !isPoint);
     }
     return std::move(builder).finish();
@@ -95,11 +96,11 @@ ImportedTrack xmlTrack(std::string content) {
     pugi::xml_document document;
     const auto result = document.load_buffer_inplace(content.data(), content.size());
     if (!result)
-        throw DecodeError({"byte " + std::to_string(result.offset),
-                           std::string("the XML is damaged: ") + result.description()});
+        throw DecodeError(
+            {say("byte {}", result.offset), say("the XML is damaged: {}", result.description())});
     const std::string_view root = localName(document.document_element());
     if (root != "gpx" && root != "TrainingCenterDatabase")
-        throw DecodeError({{}, "this XML is no track: neither GPX nor TCX"});
+        throw DecodeError({{}, say("this XML is no track: neither GPX nor TCX")});
     return trackOf(document);
 }
 

@@ -6,6 +6,7 @@
 #include "boatmotion/imports/track_builder.h"
 #include "common/delimited_text.h"
 #include "common/display_text.h"
+#include "common/text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -99,9 +100,9 @@ void CsvRows::skipField(std::size_t number, std::size_t column) {
     constexpr std::size_t Shown = 40;
     const bool isDate =
         m_mapping.columns[column] == CsvQuantity::Time && m_mapping.time == CsvTime::Date;
-    skip(number, "column " + std::to_string(column + 1) + ": “" +
-                     printable(validUtf8(m_fields[column].substr(0, Shown))) +
-                     (isDate ? "” is no date" : "” is no number"));
+    const std::string text = printable(validUtf8(m_fields[column].substr(0, Shown)));
+    skip(number, isDate ? say("column {}: “{}” is no date", column + 1, text)
+                        : say("column {}: “{}” is no number", column + 1, text));
 }
 
 CsvRows::Reading CsvRows::readTime(std::string_view field) {
@@ -155,7 +156,7 @@ bool CsvRows::readFields(std::size_t number) {
         hasTime = hasTime || quantity == CsvQuantity::Time;
     }
     if (!hasTime)
-        skip(number, "the line ends before its time");
+        skip(number, say("the line ends before its time"));
     return hasTime;
 }
 
@@ -174,7 +175,7 @@ void CsvRows::take(std::string_view line, std::size_t number) {
         }
         // A line of another sensor has no acceleration; one that is torn has a part of it.
         if (found > 0 && found < wanted && found % 3 != 0)
-            return skip(number, "an axis of the acceleration is missing");
+            return skip(number, say("an axis of the acceleration is missing"));
         if (found > 0)
             addSample();
     }
@@ -257,7 +258,7 @@ void CsvRows::orderSamples() {
     if (std::ranges::is_sorted(samples, isEarlier))
         return;
     std::stable_sort(samples.begin(), samples.end(), isEarlier);
-    m_import.notes.push_back("Some lines were not in order of time and were put in order.");
+    m_import.notes.push_back(say("Some lines were not in order of time and were put in order."));
 }
 
 void CsvRows::separateGravity() {
@@ -265,10 +266,11 @@ void CsvRows::separateGravity() {
                          !isMapped(CsvQuantity::GravityX);
     if (isAlone) {
         splitOffGravity(m_import.session.boatmotion);
-        m_import.notes.push_back("Gravity was split off the acceleration by a low-pass of 0.3 Hz.");
+        m_import.notes.push_back(
+            say("Gravity was split off the acceleration by a low-pass of 0.3 Hz."));
     } else if (isMapped(CsvQuantity::UserX) && !isMapped(CsvQuantity::GravityX) &&
                !isMapped(CsvQuantity::TotalX)) {
-        m_import.notes.push_back("There is no gravity in the list.");
+        m_import.notes.push_back(say("There is no gravity in the list."));
     }
 }
 
@@ -278,13 +280,12 @@ CsvImport CsvRows::finish() && {
     bmrawdata_v5& session = m_import.session;
     const std::size_t computed = completeFixes(session.gps);
     if (computed > 0)
-        m_import.notes.push_back("The speed of " + std::to_string(computed) +
-                                 " positions was computed from the positions around them.");
+        m_import.notes.push_back(computedSpeedsText(computed));
     std::stable_sort(session.heart.begin(), session.heart.end(),
                      [](const auto& a, const auto& b) { return a.date < b.date; });
     if (!isMapped(CsvQuantity::RotationX) && !session.boatmotion.empty())
-        m_import.notes.push_back("There is no rotation in the list: hands and turns cannot be "
-                                 "found.");
+        m_import.notes.push_back(
+            say("There is no rotation in the list: hands and turns cannot be found."));
     if (m_firstStamp) {
         const auto& samples = session.boatmotion;
         session.info.date = date(samples.empty() ? *m_firstStamp : samples.front().timestamp);
