@@ -35,7 +35,7 @@ public:
         for (const QueryColumn& column : columns) {
             Texts& texts = m_texts.emplace_back();
             texts.id = "found." + std::string(column.name) + '.' + std::to_string(m_texts.size());
-            texts.sentence = std::string(column.name) + ": " + std::string(column.meaning) + '.';
+            texts.sentence = say("{}: {}.", column.name, translated(column.meaning));
             if (const char first = texts.sentence.front(); first >= 'a' && first <= 'z')
                 texts.sentence.front() = static_cast<char>(first - 'a' + 'A');
             m_rules.push_back({texts.id, texts.sentence, column.name, ""});

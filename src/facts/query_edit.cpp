@@ -1,5 +1,6 @@
 #include "facts/query_edit.h"
 
+#include "common/text.h"
 #include "facts/query_completion.h"
 #include "facts/query_tokens.h"
 
@@ -88,8 +89,8 @@ Query withPossibleSort(Query query) {
 Query clause(const Query& query, const std::string& word, std::string_view text) {
     Query part = parsedPart(query.what, word + ' ' + std::string(text), word.size() + 1);
     if (!part.conditions.empty())
-        throw QueryError("Behind \"" + word + "\" stands \"" + part.conditions.front().value +
-                             "\", which is a condition.",
+        throw QueryError(say("Behind \"{}\" stands \"{}\", which is a condition.", word,
+                             part.conditions.front().value),
                          0, text.size());
     return part;
 }
@@ -112,7 +113,7 @@ Query withAsked(const Query& query, std::string_view column, std::string_view te
     std::vector<Condition> conditions;
     for (const QueryToken& token : queryTokens(text)) {
         if (token.kind != Kind::Word && token.kind != Kind::Quoted)
-            throw QueryError("Only values can stand here.", token.place, token.length);
+            throw QueryError(say("Only values can stand here."), token.place, token.length);
         const std::string name = std::string(column) + ' ';
         const std::string value(text.substr(token.place, token.length));
         try {
@@ -147,8 +148,7 @@ Query withLimit(const Query& query, std::string_view column, Limit limit, std::s
     words += isSigned ? "" : std::string(1, sign) + '=';
     Query part = parsedPart(query.what, words + std::string(text), words.size());
     if (part.conditions.size() != 1 || !isLimit(part.conditions.front(), column, limit))
-        throw QueryError("One limit stands here, such as 4 or " + std::string(1, sign) + "4.", 0,
-                         text.size());
+        throw QueryError(say("One limit stands here, such as 4 or {}4.", sign), 0, text.size());
     return replaced(query, isIt, std::move(part.conditions));
 }
 

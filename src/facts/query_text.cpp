@@ -1,6 +1,7 @@
 #include "facts/query_text.h"
 
 #include "common/folded_text.h"
+#include "common/text.h"
 #include "common/typed_number.h"
 #include "facts/query_tokens.h"
 
@@ -22,8 +23,8 @@ bool isClause(std::string_view word) {
     return std::ranges::count(Clauses, word) > 0;
 }
 
-std::string quotedName(std::string_view word) {
-    return '"' + std::string(word) + '"';
+std::string columnNeeded(std::string_view taker) {
+    return say("\"{}\" needs the name of a column.", taker);
 }
 
 /// The words for the codes of a column.
@@ -106,8 +107,8 @@ private:
         const QueryToken& token = m_tokens[m_at++];
         if (token.kind != Kind::Word)
             fail(token.kind == Kind::Quoted
-                     ? "Before a value stands the name of its column, such as athlete or text."
-                     : "Before " + quotedName(token.text) + " stands the name of a column.",
+                     ? say("Before a value stands the name of its column, such as athlete or text.")
+                     : say("Before \"{}\" stands the name of a column.", token.text),
                  token);
         const std::string word = folded(token.text);
         if (word == "by")
@@ -143,23 +144,23 @@ private:
         return m_at < m_tokens.size() && m_tokens[m_at].kind == kind;
     }
 
-    const QueryToken& takeValue(const std::string& needs) {
+    const QueryToken& takeValue(std::string_view taker) {
         if (m_at == m_tokens.size())
-            failAtEnd(needs + " needs a value.");
+            failAtEnd(say("\"{}\" needs a value.", taker));
         const QueryToken& token = m_tokens[m_at++];
         const bool isValue = token.kind == Kind::Quoted ||
                              (token.kind == Kind::Word && !isClause(folded(token.text)));
         if (!isValue)
-            fail(needs + " needs a value; one of our own words stands in quotes.", token);
+            fail(say("\"{}\" needs a value; one of our own words stands in quotes.", taker), token);
         return token;
     }
 
-    const QueryColumn& takeColumn(const std::string& needs) {
+    const QueryColumn& takeColumn(std::string_view taker) {
         if (m_at == m_tokens.size())
-            failAtEnd(needs + " needs the name of a column.");
+            failAtEnd(columnNeeded(taker));
         const QueryToken& token = m_tokens[m_at++];
         if (token.kind != Kind::Word)
-            fail(needs + " needs the name of a column.", token);
+            fail(columnNeeded(taker), token);
         const QueryColumn* const column =
             columnNamed(m_query.what, nameOfColumn(folded(token.text)));
         if (!column)
@@ -192,13 +193,13 @@ private:
     void takeName(Condition& condition, const QueryToken& name) {
         condition.comparison = takeComparison();
         if (condition.comparison > Comparison::NotEqual)
-            fail(quotedName(name.text) + " is a text: it is compared by = and != alone.",
+            fail(say("\"{}\" is a text: it is compared by = and != alone.", name.text),
                  m_tokens[m_at - 1]);
-        const QueryToken& value = takeValue(quotedName(name.text));
+        const QueryToken& value = takeValue(name.text);
         condition.value = value.text;
         condition.isQuoted = value.kind == Kind::Quoted;
         if (value.text.find_first_not_of(" \t\r\n") == std::string::npos)
-            fail("There is nothing in the quotes.", value);
+            fail(say("There is nothing in the quotes."), value);
     }
 
     void parseColumn(const QueryColumn& column, const QueryToken& name) {
@@ -208,10 +209,10 @@ private:
         } else {
             condition.comparison = takeComparison();
             if (hasWords(column) && condition.comparison > Comparison::NotEqual)
-                fail(quotedName(name.text) + " has words for values: it is compared by = and != "
-                                             "alone.",
+                fail(say("\"{}\" has words for values: it is compared by = and != alone.",
+                         name.text),
                      m_tokens[m_at - 1]);
-            const QueryToken& value = takeValue(quotedName(name.text));
+            const QueryToken& value = takeValue(name.text);
             condition.value = value.text;
             condition.isQuoted = value.kind == Kind::Quoted;
             takeNumber(condition.choices.front(), value);
@@ -224,7 +225,7 @@ private:
         if (column.kind == ColumnKind::Day) {
             const auto days = daysOf(value.text);
             if (!days)
-                fail(quotedName(value.text) + " is no day: write 2026-05-11, or 2026-05, or 2026.",
+                fail(say("\"{}\" is no day: write 2026-05-11, or 2026-05, or 2026.", value.text),
                      value);
             choice.from = days->first;
             choice.to = days->second;
@@ -235,10 +236,10 @@ private:
             if (const auto code = typedWhole(value.text))
                 number = static_cast<double>(*code);
         if (!number && hasWords(column))
-            fail(quotedName(value.text) + " is no " + std::string(column.name) + ".", value,
+            fail(say("\"{}\" is no {}.", value.text, column.name), value,
                  nearestOr(value.text, valueWords(column)));
         if (!number)
-            fail(quotedName(value.text) + " is no number.", value);
+            fail(say("\"{}\" is no number.", value.text), value);
         choice.from = choice.to = *number;
     }
 
@@ -272,8 +273,7 @@ private:
                 homes += (homes.empty() ? "" : ", ") + std::string(wordOf(what));
         const std::string rows(wordOf(m_query.what));
         if (!homes.empty())
-            fail(quotedName(token.text) + " is not told of " + rows + ", but of " + homes + ".",
-                 token);
+            fail(say("\"{}\" is not told of {}, but of {}.", token.text, rows, homes), token);
         if (m_query.what == What::Runs && m_at == 1)
             for (std::size_t i = 0; i < WhatCount; ++i)
                 words.emplace_back(wordOf(static_cast<What>(i)));
@@ -281,9 +281,9 @@ private:
                                   m_tokens[m_at - 2].kind == Kind::Word &&
                                   m_query.conditions.back().value == m_tokens[m_at - 2].text &&
                                   !m_query.conditions.back().isBare;
-        std::string text = quotedName(token.text) + " means nothing in a query about " + rows + '.';
+        std::string text = say("\"{}\" means nothing in a query about {}.", token.text, rows);
         if (isBehindName)
-            text += " A value of several words stands in quotes.";
+            text += ' ' + say("A value of several words stands in quotes.");
         fail(text, token, nearestWords(token.text, words));
     }
 
@@ -296,12 +296,11 @@ private:
     void parseBy() {
         do {
             const std::size_t at = m_at;
-            const QueryColumn& column = takeColumn("\"by\"");
+            const QueryColumn& column = takeColumn("by");
             if (column.kind == ColumnKind::Measure)
-                fail("Nearly every row has a " + std::string(column.name) + " of its own.",
-                     m_tokens[at]);
+                fail(say("Nearly every row has a {} of its own.", column.name), m_tokens[at]);
             if (m_query.by.size() == MostGroupColumns)
-                fail("Groups are made by three columns at most.", m_tokens[at]);
+                fail(say("Groups are made by three columns at most."), m_tokens[at]);
             if (std::ranges::count(m_query.by, &column) == 0)
                 m_query.by.push_back(&column);
         } while (isNext(Kind::Comma) && ++m_at > 0);
@@ -309,20 +308,20 @@ private:
 
     void parseBest(const QueryToken& token) {
         if (m_query.best)
-            fail("There is one \"best\" already.", token);
+            fail(say("There is one \"best\" already."), token);
         const std::size_t at = m_at;
-        const QueryColumn& column = takeColumn("\"best\"");
+        const QueryColumn& column = takeColumn("best");
         if (column.kind != ColumnKind::Measure && column.kind != ColumnKind::Number)
-            fail(quotedName(column.name) + " is no number, of which one could be the best.",
+            fail(say("\"{}\" is no number, of which one could be the best.", column.name),
                  m_tokens[at]);
         m_query.best = &column;
     }
 
     void parseSort(const QueryToken& token) {
         if (m_sortAt)
-            fail("There is one \"sort\" already.", token);
+            fail(say("There is one \"sort\" already."), token);
         if (m_at == m_tokens.size())
-            failAtEnd("\"sort\" needs the name of a column.");
+            failAtEnd(columnNeeded("sort"));
         m_sortAt = m_at++;
         m_query.sort.emplace();
         if (isNext(Kind::Word)) {
@@ -346,8 +345,8 @@ private:
         else if (token.kind != Kind::Word || !m_query.sort->column)
             failUnknown(token, m_query.by.empty() ? columnNames() : groupNames());
         else if (!m_query.by.empty() && std::ranges::count(m_query.by, m_query.sort->column) == 0)
-            fail("Groups are sorted by what makes them, or by count, best, mean or median.", token,
-                 groupNames());
+            fail(say("Groups are sorted by what makes them, or by count, best, mean or median."),
+                 token, groupNames());
     }
 
     [[nodiscard]] std::vector<std::string> groupNames() const {
@@ -361,7 +360,7 @@ private:
         const QueryToken& value = takeValue("\"first\"");
         const auto count = typedWhole(value.text);
         if (!count || *count < 1)
-            fail(quotedName(value.text) + " is no number of rows.", value);
+            fail(say("\"{}\" is no number of rows.", value.text), value);
         m_query.first = static_cast<std::size_t>(*count);
     }
 

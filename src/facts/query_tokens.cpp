@@ -1,6 +1,7 @@
 #include "facts/query_tokens.h"
 
 #include "common/folded_text.h"
+#include "common/text.h"
 #include "facts/query_text.h"
 
 #include <algorithm>
@@ -40,14 +41,14 @@ QueryToken quotedToken(std::string_view text, std::size_t begin) {
             return token;
         }
     }
-    throw QueryError("The quote is not closed.", begin, text.size() - begin);
+    throw QueryError(say("The quote is not closed."), begin, text.size() - begin);
 }
 
 QueryToken comparisonToken(std::string_view text, std::size_t begin) {
     const bool isLonger = begin + 1 < text.size() && text[begin + 1] == '=' && text[begin] != '=';
     const std::size_t length = isLonger ? 2 : 1;
     if (text[begin] == '!' && !isLonger)
-        throw QueryError("\"!\" stands only in \"!=\".", begin, 1, {"!="});
+        throw QueryError(say("\"!\" stands only in \"!=\"."), begin, 1, {"!="});
     return {QueryToken::Kind::Comparison, std::string(text.substr(begin, length)), begin, length};
 }
 

@@ -1,6 +1,7 @@
 #include "facts/split_file_reading.h"
 
 #include "common/posix_file.h"
+#include "common/text.h"
 #include "facts/content_hash.h"
 #include "splitdata/loader.h"
 
@@ -83,7 +84,7 @@ FileReading readSplitFacts(const fs::path& path, const FoundFile& file) {
         reading.reason = error.reason();
     } catch (const std::bad_alloc&) {
         reading.outcome = FileReading::Outcome::Failed;
-        reading.reason = "there is not enough memory for it";
+        reading.reason = say("there is not enough memory for it");
     }
     return reading;
 }

@@ -1,5 +1,6 @@
 #include "desktop/find/found_table.h"
 
+#include "common/text.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "desktop/shell/tables/column_table.h"
@@ -57,7 +58,7 @@ ColumnModel<AnswerLine>::Columns columnsFor(const QueryAnswer& answer) {
         const bool isRight = isNumber(column);
         columns.push_back({.title = qtText(column.name),
                            .unit = column.column && isRight ? qtText(column.unit) : QString(),
-                           .tip = column.column ? qtText(column.column->meaning)
+                           .tip = column.column ? qtText(translated(column.column->meaning))
                                                 : FoundTable::tr("rows of the group"),
                            .kind = isRight ? ColumnKind::Number : ColumnKind::Text,
                            .show = [at](const AnswerLine& line) {
