@@ -1,5 +1,6 @@
 #include "video/decoder.h"
 
+#include "common/text.h"
 #include "video/video_error.h"
 
 #include <algorithm>
@@ -37,7 +38,7 @@ Decoder::Decoder(const AVStream& stream, const std::filesystem::path& path) {
     const AVCodecID format = stream.codecpar->codec_id;
     const AVCodec* const codec = avcodec_find_decoder(format);
     if (codec == nullptr)
-        throw VideoError(path, std::string("no decoder for ") + avcodec_get_name(format));
+        throw VideoError(path, say("no decoder for {}", avcodec_get_name(format)));
     m_context = contextFor(stream, codec);
     if (const int code = avcodec_open2(m_context.get(), codec, nullptr); code < 0)
         throw VideoError(path, avErrorText(code));

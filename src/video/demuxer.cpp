@@ -1,5 +1,6 @@
 #include "video/demuxer.h"
 
+#include "common/text.h"
 #include "video/video_error.h"
 
 #include <algorithm>
@@ -30,15 +31,15 @@ std::string openingFault(const std::filesystem::path& path, int code) {
     if (code != AVERROR_INVALIDDATA)
         return avErrorText(code);
     if (keepsIndexApart(path))
-        return "the film is cut off or damaged: the list of its frames is missing";
-    return "this is no video that can be read, or it is damaged";
+        return say("the film is cut off or damaged: the list of its frames is missing");
+    return say("this is no video that can be read, or it is damaged");
 }
 
 void requireFile(const std::filesystem::path& path) {
     if (!std::filesystem::exists(path))
-        throw VideoError(path, "No such file or directory");
+        throw VideoError(path, say("No such file or directory"));
     if (std::filesystem::is_directory(path))
-        throw VideoError(path, "Is a directory");
+        throw VideoError(path, say("Is a directory"));
 }
 
 /// A path is never taken for an address on the network or a device, also not one within the file.
@@ -96,14 +97,15 @@ AVMediaType Demuxer::mediaType() const {
 void Demuxer::chooseStream() {
     const int best = av_find_best_stream(m_container.get(), mediaType(), -1, -1, nullptr, 0);
     if (best < 0)
-        throw VideoError(m_path, m_kind == StreamKind::Video ? "there is no video in this file"
-                                                             : "there is no sound in this film");
+        throw VideoError(m_path, m_kind == StreamKind::Video
+                                     ? say("there is no video in this file")
+                                     : say("there is no sound in this film"));
     m_stream = static_cast<unsigned>(best);
     if ((stream().disposition & AV_DISPOSITION_ATTACHED_PIC) != 0)
-        throw VideoError(m_path, "there is no video in this file, only a picture");
+        throw VideoError(m_path, say("there is no video in this file, only a picture"));
     const AVRational base = stream().time_base;
     if (base.num <= 0 || base.den <= 0)
-        throw VideoError(m_path, "the film has no clock");
+        throw VideoError(m_path, say("the film has no clock"));
     for (unsigned i = 0; i < m_container->nb_streams; ++i)
         m_container->streams[i]->discard = i == m_stream ? AVDISCARD_DEFAULT : AVDISCARD_ALL;
 }

@@ -1,5 +1,6 @@
 #include "video/frame_source.h"
 
+#include "common/text.h"
 #include "video/frame_run.h"
 #include "video/video_error.h"
 
@@ -172,7 +173,7 @@ bool FrameSource::decodeAgain(Stretch stretch, Take& take, const Interrupt& inte
     if (!m_run->run({stretch.first, stretch.last, true}, interrupt, keep))
         return false;
     if (m_run->endedBefore(stretch.last))
-        throw VideoError(m_index->facts().path, "the film could not be read any further");
+        throw VideoError(m_index->facts().path, say("the film could not be read any further"));
     for (FrameNumber number = stretch.first; number < behind; ++number)
         if (isMissing(number))
             m_damaged.insert(number);

@@ -1,8 +1,7 @@
 #include "video/health.h"
 
 #include "common/number_text.h"
-
-#include <fmt/format.h>
+#include "common/text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -35,15 +34,11 @@ bool isGap(std::int64_t interval, std::int64_t usual) {
 
 std::string rateText(double rate) {
     constexpr double Hundredths = 100;
-    return plainText(std::round(rate * Hundredths) / Hundredths);
+    return saidNumber(plainText(std::round(rate * Hundredths) / Hundredths));
 }
 
 std::string secondsText(double seconds) {
-    return fmt::format("{:.3f} s", seconds);
-}
-
-std::string framesText(std::int64_t count) {
-    return count == 1 ? "1 frame" : fmt::format("{} frames", count);
+    return say("{:.3f} s", seconds);
 }
 
 class HealthCheck {
@@ -73,18 +68,20 @@ private:
 
     void noteDamage() {
         if (m_facts.isCutOff && m_facts.missingFrames > 0)
-            note(Oddity::CutOff, fmt::format("The file is cut off: {} missing at its end.",
-                                             framesText(m_facts.missingFrames)));
+            note(Oddity::CutOff, sayCount(m_facts.missingFrames,
+                                          "The file is cut off: {} frame missing at its end.",
+                                          "The file is cut off: {} frames missing at its end."));
         else if (m_facts.isCutOff)
-            note(Oddity::CutOff, "The file is cut off or damaged: its end is missing.");
+            note(Oddity::CutOff, say("The file is cut off or damaged: its end is missing."));
         if (m_facts.hasEstimatedStamps)
             note(Oddity::EstimatedStamps,
-                 "The file does not say when each frame was shown: times are estimated from its "
-                 "frame rate.");
+                 say("The file does not say when each frame was shown: times are estimated from "
+                     "its frame rate."));
         if (m_facts.sharedStamps > 0)
             note(Oddity::SharedStamps,
-                 fmt::format("{} left out that had the time of another frame.",
-                             framesText(m_facts.sharedStamps)));
+                 sayCount(m_facts.sharedStamps,
+                          "{} frame left out that had the time of another frame.",
+                          "{} frames left out that had the time of another frame."));
     }
 
     /// A few gaps in a constant rate are gaps; a rate that wanders is variable.
@@ -106,9 +103,8 @@ private:
             return seconds(
                 m_intervals.sorted[static_cast<std::size_t>((total - 1) * percent / 100)]);
         };
-        note(Oddity::VariableRate,
-             fmt::format("The frame rate varies, from {} to {} frames a second.",
-                         rateText(1 / at(99)), rateText(1 / at(1))));
+        note(Oddity::VariableRate, say("The frame rate varies, from {} to {} frames a second.",
+                                       rateText(1 / at(99)), rateText(1 / at(1))));
     }
 
     void noteGaps() {
@@ -121,11 +117,9 @@ private:
         if (gaps == 0)
             return;
         const auto longest = std::ranges::max_element(intervals);
-        note(Oddity::Gaps,
-             fmt::format("{} where frames are missing, the longest of {} at {}.",
-                         gaps == 1 ? "1 gap" : fmt::format("{} gaps", gaps),
-                         secondsText(seconds(*longest)),
-                         secondsText(m_index.secondsOf(longest - intervals.begin()))));
+        note(Oddity::Gaps, say("{} where frames are missing, the longest of {} at {}.",
+                               sayCount(gaps, "{} gap", "{} gaps"), secondsText(seconds(*longest)),
+                               secondsText(m_index.secondsOf(longest - intervals.begin()))));
     }
 
     /// A frame that repeats the one before takes next to nothing, which a camera's noise never
@@ -143,8 +137,8 @@ private:
         const std::int64_t upper = sizes[sizes.size() * 9 / 10];
         if (repeats * 50 > std::ssize(sizes) && upper > 8 * nothing)
             note(Oddity::RepeatedFrames,
-                 fmt::format("About {} of {} repeat the picture before them.", repeats,
-                             framesText(std::ssize(sizes))));
+                 say("About {} of {} frames repeat the picture before them.", repeats,
+                     std::ssize(sizes)));
     }
 
     void noteSlowMotion() {
@@ -154,9 +148,9 @@ private:
             return;
         const double factor = *m_facts.captureRate / played;
         note(Oddity::FlattenedSlowMotion,
-             fmt::format("Slow motion: recorded at {} frames a second, plays at {}. Times taken "
-                         "from it are {} times too long.",
-                         rateText(*m_facts.captureRate), rateText(played), rateText(factor)));
+             say("Slow motion: recorded at {} frames a second, plays at {}. Times taken from it "
+                 "are {} times too long.",
+                 rateText(*m_facts.captureRate), rateText(played), rateText(factor)));
     }
 
     [[nodiscard]] double playedRate() const {
@@ -168,23 +162,21 @@ private:
     void notePlace() {
         const double first = m_index.secondsOf(0);
         if (first != 0)
-            note(Oddity::FirstStamp,
-                 fmt::format("The film starts at {}, not at 0.", secondsText(first)));
+            note(Oddity::FirstStamp, say("The film starts at {}, not at 0.", secondsText(first)));
         if (!m_facts.hasStoredIndex)
             note(Oddity::NoStoredIndex,
-                 "The file has no list of its frames: it had to be read from end to end.");
+                 say("The file has no list of its frames: it had to be read from end to end."));
     }
 
     void notePicture() {
         if (m_facts.rotation != 0)
             note(Oddity::Rotation,
-                 fmt::format("Recorded turned by {}°, and shown upright.", m_facts.rotation));
+                 say("Recorded turned by {}°, and shown upright.", m_facts.rotation));
         if (m_facts.isInterlaced)
             note(Oddity::Interlaced,
-                 "Interlaced: each frame holds two moments half a frame apart.");
+                 say("Interlaced: each frame holds two moments half a frame apart."));
         if (m_facts.bitDepth > 8)
-            note(Oddity::DeepColour,
-                 fmt::format("{} bits a colour, shown with 8.", m_facts.bitDepth));
+            note(Oddity::DeepColour, say("{} bits a colour, shown with 8.", m_facts.bitDepth));
     }
 
     const VideoIndex& m_index;

@@ -1,3 +1,4 @@
+#include "common/text.h"
 #include "video/index.h"
 
 #include "video/presentation_order.h"
@@ -51,7 +52,7 @@ public:
             return nullptr;
         auto index = std::make_shared<const VideoIndex>(m_facts, std::move(m_packets), true);
         if (index->frameCount() == 0)
-            throw VideoError(m_facts.path, "no frame of the video can be read");
+            throw VideoError(m_facts.path, say("no frame of the video can be read"));
         return index;
     }
 

@@ -1,5 +1,6 @@
 #include "video/threaded_player.h"
 
+#include "common/text.h"
 #include "video/video_error.h"
 
 #include <algorithm>
@@ -256,7 +257,7 @@ void ThreadedPlayer::showNearest(FrameSource& source, const Task& task,
             return;
         }
     }
-    fail(VideoError(m_path, "no frame of the video can be decoded").what());
+    fail(VideoError(m_path, say("no frame of the video can be decoded")).what());
 }
 
 void ThreadedPlayer::deliver(const Task& task, const VideoFrame& frame, bool isPreview) {

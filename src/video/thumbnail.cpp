@@ -1,5 +1,6 @@
 #include "video/thumbnail.h"
 
+#include "common/text.h"
 #include "video/decoder.h"
 #include "video/demuxer.h"
 #include "video/video_error.h"
@@ -107,7 +108,7 @@ Thumbnail readThumbnail(const std::filesystem::path& film, VideoSize box,
     const auto picture =
         frame ? PictureMaker(videoFacts(demuxer, film)).make(*frame, box) : nullptr;
     if (!picture)
-        throw VideoError(film, "no frame of the video can be read");
+        throw VideoError(film, say("no frame of the video can be read"));
     thumbnail.picture = *picture;
     return thumbnail;
 }

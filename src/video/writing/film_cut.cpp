@@ -1,5 +1,6 @@
 #include "video/writing/film_cut.h"
 
+#include "common/text.h"
 #include "video/frame_source.h"
 #include "video/sound_source.h"
 #include "video/video_error.h"
@@ -85,7 +86,7 @@ void encodePiece(std::shared_ptr<const VideoIndex> film, const FilmCut& cut,
         // In place of a damaged frame the one before goes on.
         if (result.outcome == FrameSource::Outcome::Found &&
             !scaler.scale(*result.frame.samples, writer.picture()))
-            throw VideoError(film->facts().path, "its pictures are in a format of no use");
+            throw VideoError(film->facts().path, say("its pictures are in a format of no use"));
         writer.add(film->frame(i).stamp - film->frame(cut.first).stamp, film->frame(i).duration);
         writer.addSound(sound.upTo(endOf(*film, i)));
         if (onProgress)

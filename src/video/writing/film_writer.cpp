@@ -1,5 +1,6 @@
 #include "video/writing/film_writer.h"
 
+#include "common/text.h"
 #include "video/av_handles.h"
 #include "video/sound_source.h"
 #include "video/writing/muxer.h"
@@ -28,24 +29,28 @@ T* requiredPart(T* pointer) {
     return pointer;
 }
 
-void checkEncoding(int code, const char* what) {
+constexpr std::string_view NotEncoded = KAVELA_TEXT("The film could not be encoded: {}");
+constexpr std::string_view NotMade = KAVELA_TEXT("A picture could not be made: {}");
+
+/// `fault` is a text with a place for what the library says.
+void checkEncoding(int code, std::string_view fault) {
     if (code < 0)
-        throw FilmError(std::string(what) + ": " + avErrorText(code));
+        throw FilmError(sayMarked(fault, avErrorText(code)));
 }
 
 const AVCodec& pictureEncoder() {
     const AVCodec* const codec = avcodec_find_encoder_by_name("libx264");
     if (codec == nullptr)
-        throw FilmError("Films cannot be made on this computer: the installed libavcodec has no "
-                        "encoder for H.264 (libx264).");
+        throw FilmError(say("Films cannot be made on this computer: the installed libavcodec has "
+                            "no encoder for H.264 (libx264)."));
     return *codec;
 }
 
 const AVCodec& soundEncoder() {
     const AVCodec* const codec = avcodec_find_encoder(AV_CODEC_ID_AAC);
     if (codec == nullptr)
-        throw FilmError("Films with sound cannot be made on this computer: the installed "
-                        "libavcodec has no encoder for AAC.");
+        throw FilmError(say("Films with sound cannot be made on this computer: the installed "
+                            "libavcodec has no encoder for AAC."));
     return *codec;
 }
 
@@ -53,12 +58,12 @@ const AVCodec& soundEncoder() {
 template <class Prepare>
 void encodeInto(Muxer& muxer, AVCodecContext& codec, const AVStream& stream, AVPacket& packet,
                 const AVFrame* frame, const Prepare& prepare) {
-    checkEncoding(avcodec_send_frame(&codec, frame), "The film could not be encoded");
+    checkEncoding(avcodec_send_frame(&codec, frame), NotEncoded);
     for (;;) {
         const int code = avcodec_receive_packet(&codec, &packet);
         if (code == AVERROR(EAGAIN) || code == AVERROR_EOF)
             return;
-        checkEncoding(code, "The film could not be encoded");
+        checkEncoding(code, NotEncoded);
         prepare(packet);
         packet.stream_index = stream.index;
         av_packet_rescale_ts(&packet, codec.time_base, stream.time_base);
@@ -91,7 +96,7 @@ public:
     Pictures(const FilmFormat& format, Muxer& muxer) : m_muxer(muxer), m_stream(muxer.addStream()) {
         open(format);
         checkEncoding(avcodec_parameters_from_context(m_stream.codecpar, m_codec.get()),
-                      "The film could not be begun");
+                      FilmNotBegun);
         m_stream.avg_frame_rate = m_codec->framerate;
         m_stream.sample_aspect_ratio = m_codec->sample_aspect_ratio;
         m_stream.time_base = m_codec->time_base;
@@ -107,7 +112,7 @@ public:
 
     AVFrame& frame() {
         // The encoder may still hold the samples of the picture before.
-        checkEncoding(av_frame_make_writable(m_frame.get()), "A picture could not be made");
+        checkEncoding(av_frame_make_writable(m_frame.get()), NotMade);
         return *m_frame;
     }
 
@@ -143,7 +148,7 @@ private:
             av_dict_set(&options, "profile", "high", 0);
         const int code = avcodec_open2(m_codec.get(), &coding, &options);
         av_dict_free(&options);
-        checkEncoding(code, "The encoder for H.264 could not be started");
+        checkEncoding(code, KAVELA_TEXT("The encoder for H.264 could not be started: {}"));
     }
 
     void makeFrame() {
@@ -152,7 +157,7 @@ private:
         m_frame->format = m_codec->pix_fmt;
         m_frame->width = m_codec->width;
         m_frame->height = m_codec->height;
-        checkEncoding(av_frame_get_buffer(m_frame.get(), 0), "A picture could not be made");
+        checkEncoding(av_frame_get_buffer(m_frame.get(), 0), NotMade);
     }
 
     void encode(const AVFrame* frame) {
@@ -182,9 +187,9 @@ public:
         m_codec->flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
         av_channel_layout_default(&m_codec->ch_layout, SoundChannels);
         checkEncoding(avcodec_open2(m_codec.get(), &coding, nullptr),
-                      "The encoder for sound could not be started");
+                      KAVELA_TEXT("The encoder for sound could not be started: {}"));
         checkEncoding(avcodec_parameters_from_context(m_stream.codecpar, m_codec.get()),
-                      "The film could not be begun");
+                      FilmNotBegun);
         m_stream.time_base = m_codec->time_base;
         m_packet.reset(requiredPart(av_packet_alloc()));
     }
@@ -211,7 +216,8 @@ private:
         frame->sample_rate = SoundRate;
         frame->nb_samples = static_cast<int>(samples.size()) / SoundChannels;
         av_channel_layout_copy(&frame->ch_layout, &m_codec->ch_layout);
-        checkEncoding(av_frame_get_buffer(frame.get(), 0), "Sound could not be encoded");
+        checkEncoding(av_frame_get_buffer(frame.get(), 0),
+                      KAVELA_TEXT("Sound could not be encoded: {}"));
         for (int channel = 0; channel < SoundChannels; ++channel) {
             auto* const plane = reinterpret_cast<float*>(frame->extended_data[channel]);
             for (int i = 0; i < frame->nb_samples; ++i)

@@ -1,5 +1,7 @@
 #include "video/writing/muxer.h"
 
+#include "common/text.h"
+
 #include <algorithm>
 #include <new>
 #include <utility>
@@ -8,12 +10,13 @@ namespace kavela {
 
 namespace {
 constexpr int SinkBufferBytes = 1 << 18;
+constexpr std::string_view NotEnded = KAVELA_TEXT("The film could not be ended: {}");
 } // namespace
 
 Muxer::Muxer(const std::string& container, FilmSink& sink) : m_sink(sink) {
     av_log_set_level(AV_LOG_QUIET); // what goes wrong comes as an exception
     check(avformat_alloc_output_context2(&m_context, nullptr, container.c_str(), nullptr),
-          "Films cannot be written on this computer");
+          KAVELA_TEXT("Films cannot be written on this computer: {}"));
     auto* const buffer = static_cast<std::uint8_t*>(av_malloc(SinkBufferBytes));
     m_context->pb = buffer == nullptr ? nullptr
                                       : avio_alloc_context(buffer, SinkBufferBytes, 1, this,
@@ -69,11 +72,11 @@ std::int64_t Muxer::takePlace(void* self, std::int64_t offset, int whence) {
     return muxer.m_place = from + offset;
 }
 
-void Muxer::check(int code, const char* what) {
+void Muxer::check(int code, std::string_view fault) {
     if (m_failure)
         std::rethrow_exception(std::exchange(m_failure, nullptr));
     if (code < 0)
-        throw FilmError(std::string(what) + ": " + avErrorText(code));
+        throw FilmError(sayMarked(fault, avErrorText(code)));
 }
 
 AVStream& Muxer::addStream() {
@@ -88,18 +91,19 @@ void Muxer::setOption(const char* name, const std::string& value) {
 }
 
 void Muxer::begin() {
-    check(avformat_write_header(m_context, &m_options), "The film could not be begun");
+    check(avformat_write_header(m_context, &m_options), FilmNotBegun);
 }
 
 void Muxer::write(AVPacket& packet) {
-    check(av_interleaved_write_frame(m_context, &packet), "The film could not be put together");
+    check(av_interleaved_write_frame(m_context, &packet),
+          KAVELA_TEXT("The film could not be put together: {}"));
 }
 
 void Muxer::finish() {
     const int code = av_write_trailer(m_context);
     avio_flush(m_context->pb);
-    check(code, "The film could not be ended");
-    check(m_context->pb->error, "The film could not be ended");
+    check(code, NotEnded);
+    check(m_context->pb->error, NotEnded);
 }
 
 } // namespace kavela

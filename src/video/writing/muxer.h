@@ -1,13 +1,18 @@
 #pragma once
 
+#include "common/text.h"
 #include "video/av_handles.h"
 #include "video/writing/film_sink.h"
 
 #include <exception>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace kavela {
+
+/// Of a stream or a head that the library refuses, with a place for what it says.
+inline constexpr std::string_view FilmNotBegun = KAVELA_TEXT("The film could not be begun: {}");
 
 /// Puts packets together into the container of a film.
 class Muxer {
@@ -36,7 +41,7 @@ public:
 private:
     static int takeBytes(void* self, std::uint8_t* bytes, int size);
     static std::int64_t takePlace(void* self, std::int64_t offset, int whence);
-    void check(int code, const char* what);
+    void check(int code, std::string_view fault);
 
     FilmSink& m_sink;
     std::exception_ptr m_failure; ///< that the sink threw below the library, which knows none

@@ -1,5 +1,6 @@
 #include "video/writing/packet_copy.h"
 
+#include "common/text.h"
 #include "video/demuxer.h"
 #include "video/video_error.h"
 #include "video/writing/muxer.h"
@@ -93,7 +94,7 @@ private:
         m_demuxer.rewind();
         m_byCount = 0;
         if (!readsUpToKey())
-            throw VideoError(m_film.facts().path, "the piece could not be found in the film");
+            throw VideoError(m_film.facts().path, say("the piece could not be found in the film"));
     }
 
     bool readsUpToKey() {
