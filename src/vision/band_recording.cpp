@@ -3,6 +3,7 @@
 #include "common/json_decode.h"
 #include "common/json_encode.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 
 #include <zip.h>
 
@@ -33,20 +34,21 @@ std::size_t bytesPerBand(const bandscene001& scene) {
 /// Throws DecodeError with the place of what does not fit together.
 void checkBandScene(const bandscene001& scene) {
     constexpr std::int64_t MostSide = 2'000;
-    const auto refuse = [](const std::string& place, const char* text) {
+    const auto refuse = [](const std::string& place, const std::string& text) {
         throw DecodeError({place, text});
     };
     if (scene.bandversion != BandVersion)
-        refuse("bandversion", "it was written by a newer release");
+        refuse("bandversion", say("it was written by a newer release"));
     if (scene.rows < 1 || scene.rows > MostSide || scene.columns < 1 || scene.columns > MostSide)
-        refuse("rows", "rows and columns from 1 to 2000 were expected");
+        refuse("rows", say("rows and columns from 1 to 2000 were expected"));
     for (std::size_t i = 0; i < scene.moments.size(); ++i) {
         const std::string place = "moments[" + std::to_string(i) + "].";
         const std::string& judged = scene.moments[i].judged;
         if (judged != "accepted" && judged != "moved" && judged != "refused" && judged != "missed")
-            refuse(place + "judged", "\"accepted\", \"moved\", \"refused\" or \"missed\" expected");
+            refuse(place + "judged",
+                   say("\"accepted\", \"moved\", \"refused\" or \"missed\" expected"));
         if (scene.moments[i].seconds.size() > MostBandBytes / bytesPerBand(scene))
-            refuse(place + "seconds", "there are more bands than a recording holds");
+            refuse(place + "seconds", say("there are more bands than a recording holds"));
     }
 }
 
@@ -68,7 +70,7 @@ public:
         const std::string reason = m_archive ? std::string() : zip_error_strerror(&fault);
         zip_error_fini(&fault);
         if (!m_archive)
-            throw FileError(path, "it is no recording of bands, or damaged: " + reason);
+            throw FileError(path, say("it is no recording of bands, or damaged: {}", reason));
     }
     BandArchive(const BandArchive&) = delete;
     BandArchive& operator=(const BandArchive&) = delete;
@@ -93,12 +95,12 @@ public:
         zip_stat_t facts;
         zip_stat_init(&facts);
         if (zip_source_open(m_source) != 0 || zip_source_stat(m_source, &facts) != 0)
-            throw FileError(m_path, "the recording could not be put together");
+            throw FileError(m_path, say("the recording could not be put together"));
         std::string bytes(static_cast<std::size_t>(facts.size), '\0');
         const zip_int64_t got = zip_source_read(m_source, bytes.data(), bytes.size());
         zip_source_close(m_source);
         if (got != static_cast<zip_int64_t>(bytes.size()))
-            throw FileError(m_path, "the recording could not be put together");
+            throw FileError(m_path, say("the recording could not be put together"));
         return bytes;
     }
     /// A part of at most `most` bytes.
@@ -107,21 +109,21 @@ public:
         zip_stat_init(&facts);
         if (zip_stat(m_archive, name.c_str(), 0, &facts) != 0 ||
             (facts.valid & ZIP_STAT_SIZE) == 0 || facts.size > most)
-            throw FileError(m_path, "it is no recording of bands: " + name + " is missing");
+            throw FileError(m_path, say("it is no recording of bands: {} is missing", name));
         std::string bytes(static_cast<std::size_t>(facts.size), '\0');
         zip_file_t* const file = zip_fopen(m_archive, name.c_str(), 0);
         const zip_int64_t got = file ? zip_fread(file, bytes.data(), bytes.size()) : -1;
         if (file)
             zip_fclose(file);
         if (got != static_cast<zip_int64_t>(bytes.size()))
-            throw FileError(m_path, "the recording is damaged: " + name + " cannot be read");
+            throw FileError(m_path, say("the recording is damaged: {} cannot be read", name));
         return bytes;
     }
 
 private:
     [[noreturn]] void fail() {
-        throw FileError(m_path, std::string("the recording could not be put together: ") +
-                                    zip_strerror(m_archive));
+        throw FileError(
+            m_path, say("the recording could not be put together: {}", zip_strerror(m_archive)));
     }
 
     const fs::path& m_path;
@@ -132,7 +134,7 @@ private:
 std::string bytesOfFile(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
     if (!file)
-        throw FileError(path, "it cannot be opened");
+        throw FileError(path, say("it cannot be opened"));
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
@@ -142,11 +144,11 @@ void writeBandRecording(const BandRecording& recording, const fs::path& path) {
     const bandscene001& scene = recording.scene;
     checkBandScene(scene);
     if (recording.bands.size() != scene.moments.size())
-        throw EncodeError({"moments", "each needs its bands"});
+        throw EncodeError({"moments", say("each needs its bands")});
     for (std::size_t i = 0; i < recording.bands.size(); ++i)
         if (recording.bands[i].size() != scene.moments[i].seconds.size() * bytesPerBand(scene))
             throw EncodeError({"moments[" + std::to_string(i) + "].seconds",
-                               "their number is not that of the bands"});
+                               say("their number is not that of the bands")});
     const std::string json = encode(scene);
     BandArchive archive(path, nullptr);
     archive.add(SceneName, json.data(), json.size());
@@ -169,11 +171,11 @@ BandRecording readBandRecording(const fs::path& path) {
             recording.scene.moments[i].seconds.size() * bytesPerBand(recording.scene);
         all += expected;
         if (all > MostBandBytes)
-            throw FileError(path, "the recording is larger than any that is written");
+            throw FileError(path, say("the recording is larger than any that is written"));
         const std::string samples = archive.part(bandName(i), expected);
         if (samples.size() != expected)
             throw DecodeError({"moments[" + std::to_string(i) + "].seconds",
-                               "their number is not that of the bands"});
+                               say("their number is not that of the bands")});
         recording.bands.emplace_back(samples.begin(), samples.end());
     }
     return recording;

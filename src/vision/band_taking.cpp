@@ -1,3 +1,4 @@
+#include "common/text.h"
 #include "vision/band_recording.h"
 
 #include "vision/band.h"
@@ -76,7 +77,7 @@ recordBands(const std::shared_ptr<const VideoIndex>& index, const BarrierRequest
             onProgress({static_cast<std::int64_t>(i + 1), static_cast<std::int64_t>(count)});
     }
     if (recording.bands.empty())
-        throw VideoError(facts.path, "there is no proposal or correction to be saved");
+        throw VideoError(facts.path, say("there is no proposal or correction to be saved"));
     return recording;
 }
 

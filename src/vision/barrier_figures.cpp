@@ -1,6 +1,6 @@
 #include "vision/barrier_figures.h"
 
-#include <fmt/format.h>
+#include "common/text.h"
 
 namespace kavela {
 
@@ -25,15 +25,20 @@ bool reachesTargets(const BarrierFigures& figures, const BarrierTargets& targets
 
 std::string tellFigures(const BarrierFigures& figures, const BarrierTargets& targets) {
     if (figures.runs == 0)
-        return "The search for boats was not measured.";
-    return fmt::format(
-        "Measured on {} scenes of {} ({} runs, {:.0f} minutes): {:.1f} % of the runs found "
-        "(asked: {:.0f} %), {:.1f} false proposals an hour (asked: at most {:g}), an error of at "
-        "most {:.1f} frames for 95 of 100 (asked: {:g}).",
-        figures.scenes, figures.isOnRealWater ? "real water" : "rendered water", figures.runs,
-        figures.minutes, 100 * figures.foundShare, 100 * targets.leastFoundShare,
-        figures.falsePerHour, targets.mostFalsePerHour, figures.p95ErrorFrames,
-        targets.mostP95ErrorFrames);
+        return say("The search for boats was not measured.");
+    constexpr std::string_view OnRealWater =
+        KAVELA_TEXT("Measured on {} scenes of real water ({} runs, {:.0f} minutes): {:.1f} % of "
+                    "the runs found (asked: {:.0f} %), {:.1f} false proposals an hour (asked: at "
+                    "most {:g}), an error of at most {:.1f} frames for 95 of 100 (asked: {:g}).");
+    constexpr std::string_view OnRenderedWater =
+        KAVELA_TEXT("Measured on {} scenes of rendered water ({} runs, {:.0f} minutes): {:.1f} % "
+                    "of the runs found (asked: {:.0f} %), {:.1f} false proposals an hour (asked: "
+                    "at most {:g}), an error of at most {:.1f} frames for 95 of 100 (asked: "
+                    "{:g}).");
+    return sayMarked(figures.isOnRealWater ? OnRealWater : OnRenderedWater, figures.scenes,
+                     figures.runs, figures.minutes, 100 * figures.foundShare,
+                     100 * targets.leastFoundShare, figures.falsePerHour, targets.mostFalsePerHour,
+                     figures.p95ErrorFrames, targets.mostP95ErrorFrames);
 }
 
 } // namespace kavela

@@ -1,5 +1,6 @@
 #include "vision/film_track.h"
 
+#include "common/text.h"
 #include "vision/camera_motion.h"
 #include "vision/patch_tracker.h"
 #include "vision/track_error.h"
@@ -25,7 +26,7 @@ std::shared_ptr<const AVFrame> planesAt(FilmPlanes& film, FrameNumber frame,
 PatchTracker trackerAt(FilmPlanes& film, const TrackKey& key, const std::stop_token& stop) {
     const auto planes = planesAt(film, key.frame, stop);
     if (!planes)
-        throw TrackError("The frame of the box cannot be shown.");
+        throw TrackError(say("The frame of the box cannot be shown."));
     return {trackPictureOf(*planes), key.box};
 }
 

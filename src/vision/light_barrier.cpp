@@ -1,10 +1,9 @@
 #include "vision/light_barrier.h"
 
+#include "common/text.h"
 #include "vision/film_stream.h"
 
 #include "video/video_error.h"
-
-#include <fmt/format.h>
 
 #include <utility>
 
@@ -16,9 +15,9 @@ using Progress = std::function<void(const BarrierProgress&)>;
 
 void checkBoatBox(const BoatBox& box, const VideoFacts& facts) {
     if (!(box.width > 0 && box.height > 0))
-        throw VideoError(facts.path, "the box round a boat has no size");
+        throw VideoError(facts.path, say("the box round a boat has no size"));
     if (box.width > facts.shownSize.width || box.height > facts.shownSize.height)
-        throw VideoError(facts.path, "the box round a boat is larger than the picture");
+        throw VideoError(facts.path, say("the box round a boat is larger than the picture"));
 }
 
 /// The frames from one moment to another, the last one excluded. Throws VideoError without any.
@@ -31,7 +30,7 @@ std::pair<FrameNumber, FrameNumber> framesBetween(const VideoIndex& index, doubl
         ++last;
     if (last <= first)
         throw VideoError(index.facts().path,
-                         fmt::format("the film has no frames from {:.2f} s to {:.2f} s", from, to));
+                         say("the film has no frames from {:.2f} s to {:.2f} s", from, to));
     return {first, last};
 }
 
@@ -54,7 +53,7 @@ std::optional<Crossings> findCrossings(const std::shared_ptr<const VideoIndex>& 
     auto found = findCrossings(stream, first, last, line, storedHalfBox(request.boat, facts), stop,
                                onProgress);
     if (found && (stream.endedEarly() || facts.isCutOff))
-        found->notes.emplace_back("The film ends early: the file is cut off.");
+        found->notes.push_back(say("The film ends early: the file is cut off."));
     return found;
 }
 

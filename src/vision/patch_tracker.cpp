@@ -1,5 +1,6 @@
 #include "vision/patch_tracker.h"
 
+#include "common/text.h"
 #include "vision/track_error.h"
 
 #include <algorithm>
@@ -32,12 +33,11 @@ bool liesInPicture(const TrackPicture& picture, const PicturePlace& place) {
 
 void checkBox(const TrackPicture& picture, const TrackBox& box) {
     if (!(box.width >= PatchTracker::LeastSide && box.height >= PatchTracker::LeastSide))
-        throw TrackError("The box is too small: it needs 8 pixels each way at least.");
+        throw TrackError(say("The box is too small: it needs 8 pixels each way at least."));
     if (box.x < 0 || box.y < 0 || box.x + box.width > picture.width() ||
         box.y + box.height > picture.height())
-        throw TrackError("The box does not lie within the picture, which has " +
-                         std::to_string(picture.width()) + " × " +
-                         std::to_string(picture.height()) + " pixels.");
+        throw TrackError(say("The box does not lie within the picture, which has {} × {} pixels.",
+                             picture.width(), picture.height()));
 }
 
 } // namespace
@@ -52,8 +52,8 @@ PatchTracker::PatchTracker(const TrackPicture& picture, const TrackBox& box)
     samplePatch(picture, m_place, m_step, m_width, m_height, patch);
     m_first.emplace(patch);
     if (m_first->contrast() < LeastContrast)
-        throw TrackError("There is nothing in the box that could be known again: it has one colour "
-                         "all over.");
+        throw TrackError(say("There is nothing in the box that could be known again: it has one "
+                             "colour all over."));
     m_renewed = m_first;
 }
 

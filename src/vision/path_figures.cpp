@@ -1,5 +1,6 @@
 #include "vision/path_figures.h"
 
+#include "common/text.h"
 #include "vision/track_error.h"
 
 #include <algorithm>
@@ -113,8 +114,8 @@ void addSpeedErrors(std::vector<PathFigure>& figures, const std::vector<PlanePoi
 std::vector<PlanePoint> planeInFirstFrame(const FilmTrack& track, const KnownPlane& plane) {
     const TrackCamera* const camera = track.cameraAt(plane.frame);
     if (!camera)
-        throw TrackError("It is not known how the camera moved between the path and the frame of "
-                         "the known points. Click them in a frame of the path.");
+        throw TrackError(say("It is not known how the camera moved between the path and the frame "
+                             "of the known points. Click them in a frame of the path."));
     std::vector<PlanePoint> points = plane.points;
     for (PlanePoint& point : points)
         point.place = camera->toFirst(point.place);

@@ -4,6 +4,7 @@
 #include "common/json_decode.h"
 #include "common/json_encode.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -33,8 +34,7 @@ std::optional<slitfile001> readSlitFile(const fs::path& path) {
         return std::nullopt;
     auto file = decode<slitfile001>(JsonDocument::fromFile(path));
     if (file.kavelaSlit != 1)
-        throw DecodeError({"kavelaSlit", "version " + std::to_string(file.kavelaSlit) +
-                                             " is of a later release"});
+        throw DecodeError({"kavelaSlit", say("version {} is of a later release", file.kavelaSlit)});
     return file;
 }
 

@@ -1,5 +1,6 @@
 #include "vision/slit_line.h"
 
+#include "common/text.h"
 #include "video/video_error.h"
 
 #include <cmath>
@@ -11,10 +12,6 @@ namespace {
 
 bool isOnPicture(const SlitPoint& point, VideoSize shown) {
     return point.x >= 0 && point.y >= 0 && point.x <= shown.width && point.y <= shown.height;
-}
-
-std::string placeText(const SlitPoint& point) {
-    return std::to_string(std::lround(point.x)) + ", " + std::to_string(std::lround(point.y));
 }
 
 } // namespace
@@ -33,13 +30,12 @@ SlitPoint crossingDirection(const SlitLine& line) {
 void checkSlitLine(const SlitLine& line, VideoSize shown, const std::filesystem::path& film) {
     for (const SlitPoint& end : {line.first, line.second})
         if (!isOnPicture(end, shown))
-            throw VideoError(film, "the line's end at " + placeText(end) +
-                                       " lies outside the picture of " +
-                                       std::to_string(shown.width) + " × " +
-                                       std::to_string(shown.height) + " pixels");
+            throw VideoError(
+                film, say("the line's end at {}, {} lies outside the picture of {} × {} pixels",
+                          std::lround(end.x), std::lround(end.y), shown.width, shown.height));
     if (!(lengthOf(line) >= ShortestSlit))
-        throw VideoError(film, "the line is shorter than " +
-                                   std::to_string(std::lround(ShortestSlit)) + " pixels");
+        throw VideoError(film,
+                         say("the line is shorter than {} pixels", std::lround(ShortestSlit)));
 }
 
 } // namespace kavela

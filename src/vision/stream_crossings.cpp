@@ -1,3 +1,4 @@
+#include "common/text.h"
 #include "vision/picture_stream.h"
 
 #include "vision/band.h"
@@ -148,8 +149,9 @@ void StreamSearch::search(double from, double to, const std::stop_token& stop) {
 
 void StreamSearch::tellHandHeld() {
     m_found.isHandHeld = true;
-    m_found.notes.emplace_back("The camera was held in the hand, or nothing in the picture stands "
-                               "still: the search for boats needs a camera on a tripod.");
+    m_found.notes.emplace_back(
+        say("The camera was held in the hand, or nothing in the picture stands still: the search "
+            "for boats needs a camera on a tripod."));
 }
 
 std::optional<Crossings>
@@ -191,8 +193,9 @@ StreamSearch::run(const std::stop_token& stop,
     if (stop.stop_requested())
         return std::nullopt;
     if (missing > 0)
-        m_found.notes.push_back(std::to_string(missing) +
-                                " frames could not be read and were passed over.");
+        m_found.notes.push_back(sayCount(missing,
+                                         "{} frames could not be read and were passed over.",
+                                         "{} frames could not be read and were passed over."));
     return std::move(m_found);
 }
 

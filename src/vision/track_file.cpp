@@ -4,6 +4,7 @@
 #include "common/json_decode.h"
 #include "common/json_encode.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 
 #include <cmath>
 #include <initializer_list>
@@ -29,27 +30,28 @@ void checkFrames(const Entries& entries, const std::string& name) {
     for (std::size_t i = 0; i < entries.size(); ++i) {
         if (entries[i].frame <= before)
             refuseTrack(name + '[' + std::to_string(i) + "].frame",
-                        i == 0 ? "a frame from 0 on was expected"
-                               : "it does not lie behind the frame before");
+                        i == 0 ? say("a frame from 0 on was expected")
+                               : say("it does not lie behind the frame before"));
         before = entries[i].frame;
     }
     if (before >= MostTrackFrames)
         refuseTrack(name + '[' + std::to_string(entries.size() - 1) + "].frame",
-                    "no film has so many frames");
+                    say("no film has so many frames"));
 }
 
 void checkPlaces(std::initializer_list<double> values, const std::string& place) {
     for (const double value : values)
         if (!(std::abs(value) <= FarthestPlace))
-            refuseTrack(place, "it lies beyond all pictures");
+            refuseTrack(place, say("it lies beyond all pictures"));
 }
 
 KnownPlane knownPlaneOf(const trackplane001& record, const std::string& place) {
     constexpr std::size_t Most = 4;
     if (record.points.empty() || record.points.size() > Most)
-        refuseTrack(place + "points", "four known points were expected, or two for a scale only");
+        refuseTrack(place + "points",
+                    say("four known points were expected, or two for a scale only"));
     if (record.frame < 0)
-        refuseTrack(place + "frame", "a frame from 0 on was expected");
+        refuseTrack(place + "frame", say("a frame from 0 on was expected"));
     KnownPlane plane{record.frame, {}};
     for (std::size_t i = 0; i < record.points.size(); ++i) {
         const trackplanepoint001& point = record.points[i];
@@ -70,14 +72,15 @@ FilmTrack trackOf(const track001& record) {
     for (std::size_t i = 0; i < record.boxes.size(); ++i) {
         const trackbox001& box = record.boxes[i];
         if (!(box.width > 0 && box.height > 0))
-            refuseTrack("boxes[" + std::to_string(i) + ']', "the box has no size");
+            refuseTrack("boxes[" + std::to_string(i) + ']', say("the box has no size"));
         checkPlaces({box.x, box.y, box.width, box.height}, "boxes[" + std::to_string(i) + ']');
         track.keys.push_back({box.frame, {box.x, box.y, box.width, box.height}});
     }
     for (std::size_t i = 0; i < record.points.size(); ++i) {
         const trackpoint001& point = record.points[i];
         if (!(point.size > 0))
-            refuseTrack("points[" + std::to_string(i) + "].size", "a size above 0 was expected");
+            refuseTrack("points[" + std::to_string(i) + "].size",
+                        say("a size above 0 was expected"));
         checkPlaces({point.seconds, point.x, point.y, point.size},
                     "points[" + std::to_string(i) + ']');
         track.points.push_back(
@@ -87,7 +90,7 @@ FilmTrack trackOf(const track001& record) {
         const trackcamera001& camera = record.cameras[i];
         const PictureMotion motion{camera.a, camera.b, camera.dx, camera.dy};
         if (!(motion.scale() >= 1 / LargestScale && motion.scale() <= LargestScale))
-            refuseTrack("cameras[" + std::to_string(i) + ']', "it makes the picture vanish");
+            refuseTrack("cameras[" + std::to_string(i) + ']', say("it makes the picture vanish"));
         checkPlaces({motion.dx, motion.dy}, "cameras[" + std::to_string(i) + ']');
         track.cameras.push_back({camera.frame, motion});
     }

@@ -1,5 +1,6 @@
 #include "vision/water_plane.h"
 
+#include "common/text.h"
 #include "vision/track_error.h"
 
 #include <algorithm>
@@ -56,8 +57,9 @@ void checkSpread(const std::vector<PlanePoint>& points) {
         if (areaOf(a.place.x, a.place.y, b.place.x, b.place.y, c.place.x, c.place.y) <
                 LeastPixels ||
             areaOf(a.x, a.y, b.x, b.y, c.x, c.y) < LeastMetres)
-            throw TrackError("Three of the four known points lie on a line: they have to be the "
-                             "corners of a field, such as the poles of two gates.");
+            throw TrackError(
+                say("Three of the four known points lie on a line: they have to be the corners of "
+                    "a field, such as the poles of two gates."));
     }
 }
 
@@ -69,9 +71,9 @@ WaterPlane::WaterPlane(const std::vector<PlanePoint>& points) {
                std::isfinite(point.x) && std::isfinite(point.y);
     });
     if (!isFinite || (points.size() != 2 && points.size() != 4))
-        throw TrackError("Metres need four known points on the water, or two for a scale only; "
-                         "there are " +
-                         std::to_string(points.size()) + ".");
+        throw TrackError(say("Metres need four known points on the water, or two for a scale only; "
+                             "there are {}.",
+                             points.size()));
     if (points.size() == 2)
         takeScale(points);
     else
@@ -84,7 +86,7 @@ void WaterPlane::takeScale(const std::vector<PlanePoint>& points) {
         std::hypot(points[1].place.x - from.place.x, points[1].place.y - from.place.y);
     const double metres = std::hypot(points[1].x - from.x, points[1].y - from.y);
     if (pixels < 1 || metres <= 0)
-        throw TrackError("The two known points lie on one spot.");
+        throw TrackError(say("The two known points lie on one spot."));
     m_isScaleOnly = true;
     const double scale = metres / pixels;
     m_matrix = {scale, 0, from.x - scale * from.place.x, 0, scale, from.y - scale * from.place.y, 0,
@@ -107,8 +109,8 @@ void WaterPlane::takePerspective(const std::vector<PlanePoint>& points) {
     }
     const auto unknowns = solved(rows);
     if (!unknowns)
-        throw TrackError("The four known points do not fit together: no view of flat water shows "
-                         "them so.");
+        throw TrackError(say("The four known points do not fit together: no view of flat water "
+                             "shows them so."));
     for (std::size_t i = 0; i < 8; ++i)
         m_matrix[i] = (*unknowns)[i] / (i % 3 == 2 ? 1 : Thousand);
     m_matrix[8] = 1;
@@ -118,8 +120,8 @@ void WaterPlane::takePerspective(const std::vector<PlanePoint>& points) {
     m_side = depth(points[0]) > 0 ? 1 : -1;
     if (std::ranges::any_of(points,
                             [&](const PlanePoint& point) { return depth(point) * m_side <= 0; }))
-        throw TrackError("The four known points do not fit together: no view of flat water shows "
-                         "them so. Were two of them exchanged?");
+        throw TrackError(say("The four known points do not fit together: no view of flat water "
+                             "shows them so. Were two of them exchanged?"));
 }
 
 std::optional<WaterPlace> WaterPlane::at(const PicturePlace& place) const {
