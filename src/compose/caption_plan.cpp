@@ -1,6 +1,7 @@
 #include "compose/caption_plan.h"
 
 #include "common/number_text.h"
+#include "common/text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -120,7 +121,7 @@ void CaptionPlan::addTempo(std::vector<Caption>& captions, std::size_t film, dou
     const TimePiece& piece = m_map.pieceAt(film, common);
     if (piece.rate == 0)
         captions.push_back(
-            {CaptionKind::Waits, film, "waits " + hundredthsText(piece.waits) + " s"});
+            {CaptionKind::Waits, film, say("waits {} s", hundredthsText(piece.waits))});
     else if (piece.rate != 1 && common + PassingSlack >= piece.common)
         captions.push_back({CaptionKind::Stretch, film, "×" + hundredthsText(piece.rate)});
 }
@@ -149,7 +150,7 @@ std::string CaptionPlan::clockText(std::size_t film, double common) const {
 }
 
 std::string CaptionPlan::splitText(std::size_t film, std::size_t split) const {
-    const std::string name = "Split " + std::to_string(split) + "  ";
+    const std::string name = say("Split {}", split) + "  ";
     const auto time = timeAt(m_runs[film], split);
     const bool isMarked = split < m_runs[film].marks.size() && m_runs[film].marks[split];
     if (!time || !isMarked)
@@ -170,7 +171,7 @@ std::string CaptionPlan::sectionText(double common) const {
         return {};
     if (passed < m_titles.size() && !m_titles[passed].empty())
         return m_titles[passed];
-    return "Section " + std::to_string(passed + 1);
+    return say("Section {}", passed + 1);
 }
 
 /// Penalty seconds of the sections that lie behind.

@@ -4,6 +4,7 @@
 #include "common/json_encode.h"
 #include "common/record_convert.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 #include "splitdata/loader.h"
 #include "vision/track_file.h"
 
@@ -78,15 +79,14 @@ auto kindOf(const Words& words, const std::string& word, const char* path) {
             return kind;
         known += (known.empty() ? "\"" : ", \"") + std::string(name) + '"';
     }
-    refuse(path, '"' + word + "\" is none of " + known);
+    refuse(path, say("\"{}\" is none of {}", word, known));
 }
 
 /// Whole numbers that count something.
 std::size_t countedFrom(std::int64_t least, std::int64_t value, const std::string& path) {
     constexpr std::int64_t Most = 10'000;
     if (value < least || value > Most)
-        refuse(path,
-               std::to_string(value) + " is not a number from " + std::to_string(least) + " on");
+        refuse(path, say("{} is not a number from {} on", value, least));
     return static_cast<std::size_t>(value);
 }
 
@@ -109,7 +109,7 @@ public:
             path, [](std::string_view) {}, &noMoment);
         if (!found.version)
             refuse(place, path.string() + ": " +
-                              (found.failures.empty() ? "it could not be read"
+                              (found.failures.empty() ? say("it could not be read")
                                                       : found.failures.front().fault.message()));
         return m_documents.emplace_back(path, std::move(found.document)).second;
     }
@@ -124,24 +124,24 @@ std::optional<PointPair> pointsOf(const composefilm002& film, const std::string&
     if (film.points.empty())
         return std::nullopt;
     if (film.points.size() != 2)
-        refuse(place + ".points", "either two points or none are needed");
+        refuse(place + ".points", say("either two points or none are needed"));
     return PointPair{{{film.points[0].x, film.points[0].y}, {film.points[1].x, film.points[1].y}}};
 }
 
 std::shared_ptr<const PathView> pathOf(const composefilm002& film, const std::string& place,
                                        const fs::path& folder) {
     if (!(film.zoom >= 1 && film.zoom <= PathView::MostZoom))
-        refuse(place + ".zoom", "a number from 1 to 2 was expected");
+        refuse(place + ".zoom", say("a number from 1 to 2 was expected"));
     if (film.track.empty()) {
         if (film.zoom > 1 || film.drawsPath)
-            refuse(place + ".track", "no path is named that could be drawn or followed");
+            refuse(place + ".track", say("no path is named that could be drawn or followed"));
         return nullptr;
     }
     const fs::path path = folder / film.track;
     try {
         const track001 record = readTrack(path);
         if (record.width <= 0 || record.height <= 0)
-            refuse(place + ".track", path.string() + ": the size of its picture is missing");
+            refuse(place + ".track", say("{}: the size of its picture is missing", path.string()));
         return std::make_shared<const PathView>(
             trackOf(record),
             VideoSize{static_cast<int>(record.width), static_cast<int>(record.height)}, film.zoom,
@@ -174,19 +174,20 @@ ComposedFilm filmOf(const composefilm002& film, const std::string& place, const 
         const std::size_t number = countedFrom(1, film.run, place + ".run") - 1;
         if (number >= document.athletes.size())
             refuse(place + ".run",
-                   "the split file has " + std::to_string(document.athletes.size()) + " runs");
+                   sayCount(std::ssize(document.athletes), "the split file has {} runs",
+                            "the split file has {} runs"));
         const std::size_t camera = countedFrom(1, film.camera, place + ".camera") - 1;
         const athletedata031& run = document.athletes[number];
         composed.run = captionedRun(document.info, run, camera);
         if (titles.empty())
             titles = document.info.splitTitles;
         if (composed.path.empty() && camera >= run.videoname.size())
-            refuse(place + ".camera", "the run has no film of this camera");
+            refuse(place + ".camera", say("the run has no film of this camera"));
         if (composed.path.empty())
             composed.path = (folder / film.splitFile).parent_path() / run.videoname[camera];
     }
     if (composed.path.empty())
-        refuse(place + ".film", "neither a film nor a split file is named");
+        refuse(place + ".film", say("neither a film nor a split file is named"));
     composed.points = pointsOf(film, place);
     composed.view = pathOf(film, place, folder);
     takeOwnWords(film, composed);
@@ -198,19 +199,21 @@ LayoutChoice layoutOf(const composejob002& job) {
     layout.kind = kindOf(LayoutWords, job.layout, "layout");
     layout.wipe = job.wipe;
     if (!(job.wipe >= 0 && job.wipe <= 1))
-        refuse("wipe", "a share from 0 to 1 was expected");
+        refuse("wipe", say("a share from 0 to 1 was expected"));
     if (job.films.size() < 2 || job.films.size() > mostFilms(layout.kind))
-        refuse("films", std::to_string(job.films.size()) + " films; this layout takes 2" +
-                            (mostFilms(layout.kind) > 2 ? " to 4" : ""));
+        refuse("films", mostFilms(layout.kind) > 2
+                            ? say("{} films; this layout takes 2 to 4", job.films.size())
+                            : say("{} films; this layout takes 2", job.films.size()));
     constexpr std::int64_t Least = 160;
     constexpr std::int64_t Most = 4096;
     for (const auto& [side, name] : {std::pair(job.output.width, "output.width"),
                                      std::pair(job.output.height, "output.height")})
         if (side < Least || side > Most || side % 2 != 0)
-            refuse(name, "an even number from 160 to 4096 was expected");
+            refuse(name, say("an even number from 160 to 4096 was expected"));
     layout.size = {static_cast<int>(job.output.width), static_cast<int>(job.output.height)};
     if (!isWithinLevel(layout.size, {1, 1}))
-        refuse("output", "the picture is larger than 1920 × 1080 and would not play everywhere");
+        refuse("output",
+               say("the picture is larger than 1920 × 1080 and would not play everywhere"));
     return layout;
 }
 
@@ -222,9 +225,9 @@ RangeChoice rangeChoiceOf(const composejob002& job) {
     range.from = job.range.from;
     range.to = job.range.to;
     if (range.kind == RangeKind::Splits && range.toSplit <= range.fromSplit)
-        refuse("range.toSplit", "it does not lie behind range.fromSplit");
+        refuse("range.toSplit", say("it does not lie behind {}", "range.fromSplit"));
     if (range.kind == RangeKind::Free && !(range.to > range.from))
-        refuse("range.to", "it does not lie behind range.from");
+        refuse("range.to", say("it does not lie behind {}", "range.from"));
     return range;
 }
 
@@ -278,12 +281,12 @@ Composition compositionOf(const composejob002& job, const fs::path& folder) {
     composition.speed = job.speed;
     constexpr double Slowest = 0.125;
     if (!(job.speed >= Slowest && job.speed <= 1))
-        refuse("speed", "a number from 0.125 to 1 was expected");
+        refuse("speed", say("a number from 0.125 to 1 was expected"));
     const composecaptions001& words = job.captions;
     composition.captions = {words.names,   words.clock,     words.splits,
                             words.section, words.penalties, words.gap};
     if (const std::size_t sound = countedFrom(0, job.sound, "sound"); sound > job.films.size())
-        refuse("sound", "there is no film of this number; 0 is no sound");
+        refuse("sound", say("there is no film of this number; 0 is no sound"));
     else if (sound > 0)
         composition.sound = sound - 1;
     composition.isSmall = job.output.small;
@@ -296,7 +299,7 @@ Composition compositionOf(const composejob002& job, const fs::path& folder) {
     for (std::size_t i = 0; isOverlaid && i < job.films.size(); ++i)
         if (job.films[i].zoom > 1)
             refuse("films[" + std::to_string(i) + "].zoom",
-                   "films that lie over each other cannot follow a path");
+                   say("films that lie over each other cannot follow a path"));
     static_cast<void>(rangeOf(composition, timeMapOf(composition)));
     return composition;
 }

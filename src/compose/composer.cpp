@@ -1,6 +1,7 @@
 #include "compose/composer.h"
 
 #include "common/number_text.h"
+#include "common/text.h"
 #include "compose/film_feed.h"
 #include "compose/frame_mixer.h"
 #include "compose/sound_track.h"
@@ -32,6 +33,12 @@ VideoSize sizeOf(const Composition& composition) {
 /// Stands where the beginning of the word is needed.
 std::string filmNumber(std::size_t film, const Composition& composition) {
     return composition.films[film].path.filename().string();
+}
+
+/// `seconds` on the film, in hundredths.
+std::string outsideText(const std::string& film, std::size_t mark, const std::string& seconds) {
+    return mark == 0 ? say("{}: the start lies outside the film, at {} s.", film, seconds)
+                     : say("{}: split {} lies outside the film, at {} s.", film, mark, seconds);
 }
 
 /// One film being made.
@@ -84,8 +91,9 @@ private:
                 rates.push_back(film.index->facts().nominalRate);
         m_rate = composedRate(rates);
         if (!isWithinLevel(m_mixer.size(), m_rate))
-            throw DecodeError({"output", "so large a picture would not play everywhere at " +
-                                             plainText(m_rate.perSecond()) + " frames a second"});
+            throw DecodeError(
+                {"output", say("so large a picture would not play everywhere at {} frames a second",
+                               saidNumber(plainText(m_rate.perSecond())))});
         constexpr double Slack = 1e-6; // frames
         m_frames = std::max<std::int64_t>(
             std::llround(std::ceil(m_mixer.length() * m_rate.perSecond() - Slack)), 1);
@@ -136,7 +144,7 @@ private:
         for (std::size_t film = 0; film < m_films.size(); ++film) {
             const std::string name = filmNumber(film, m_composition);
             if (!m_films[film].index) {
-                m_notes.push_back(name + " is not shown: " + m_films[film].fault + '.');
+                m_notes.push_back(say("{} is not shown: {}.", name, m_films[film].fault));
                 continue;
             }
             noteMarks(film, name);
@@ -150,20 +158,20 @@ private:
         const FilmMarks& marks = m_composition.films[film].run.marks;
         for (std::size_t mark = 0; mark < marks.size(); ++mark)
             if (marks[mark] && (*marks[mark] < index.secondsOf(0) || *marks[mark] > end))
-                m_notes.push_back(
-                    name + ": " + (mark == 0 ? "the start" : "split " + std::to_string(mark)) +
-                    " lies outside the film, at " + hundredthsText(*marks[mark]) + " s.");
+                m_notes.push_back(outsideText(name, mark, hundredthsText(*marks[mark])));
         if (index.facts().isCutOff)
-            m_notes.push_back(name + " is cut off or damaged; it is shown as far as it goes.");
+            m_notes.push_back(
+                say("{} is cut off or damaged; it is shown as far as it goes.", name));
     }
 
     void noteFaults() {
         for (std::size_t film = 0; film < m_feeds.size(); ++film)
             if (const auto* const feed = m_feeds[film].get(); feed != nullptr && feed->fault())
-                m_notes.push_back(filmNumber(film, m_composition) + ": at " +
-                                  hundredthsText(feed->index().secondsOf(feed->fault()->frame)) +
-                                  " s a frame cannot be shown (" + feed->fault()->reason +
-                                  "); the last good one stays.");
+                m_notes.push_back(
+                    say("{}: at {} s a frame cannot be shown ({}); the last good one stays.",
+                        filmNumber(film, m_composition),
+                        hundredthsText(feed->index().secondsOf(feed->fault()->frame)),
+                        feed->fault()->reason));
     }
 
     const Composition& m_composition;

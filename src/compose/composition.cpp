@@ -1,6 +1,7 @@
 #include "compose/composition.h"
 
 #include "common/error.h"
+#include "common/text.h"
 #include "splitdata/film_marks.h"
 #include "splitdata/run_marks.h"
 #include "splitdata/run_timing.h"
@@ -88,9 +89,9 @@ CommonRange rangeBetweenSplits(const Composition& composition, const TimeMap& ma
     const Reach from = reachOf(composition, map, at(range.fromSplit));
     const Reach to = reachOf(composition, map, at(range.toSplit));
     if (!std::isfinite(from.from))
-        throw DecodeError({"range.fromSplit", "no film has a mark at this split"});
+        throw DecodeError({"range.fromSplit", say("no film has a mark at this split")});
     if (!std::isfinite(to.to))
-        throw DecodeError({"range.toSplit", "no film has a mark at this split"});
+        throw DecodeError({"range.toSplit", say("no film has a mark at this split")});
     return {from.from, to.to + TailSeconds};
 }
 
@@ -100,8 +101,8 @@ CommonRange rangeOfRuns(const Composition& composition, const TimeMap& map,
     const Reach start =
         reachOf(composition, map, [](const FilmMarks&) { return std::optional<std::size_t>(0); });
     if (!std::isfinite(start.from))
-        throw DecodeError({"range.kind", "no run is marked at its start, so the range has to be "
-                                         "given in seconds"});
+        throw DecodeError({"range.kind", say("no run is marked at its start, so the range has to "
+                                             "be given in seconds")});
     const Reach end = reachOf(composition, map, lastMark);
     if (end.to > start.from)
         return {start.from, end.to + TailSeconds};
@@ -130,7 +131,7 @@ CommonRange rangeOf(const Composition& composition, const TimeMap& map,
         range = rangeOfRuns(composition, map, lengths);
     }
     if (!(range.from < range.to) || !std::isfinite(range.from) || !std::isfinite(range.to))
-        throw DecodeError({"range", "its end does not lie behind its beginning"});
+        throw DecodeError({"range", say("its end does not lie behind its beginning")});
     return range;
 }
 

@@ -1,5 +1,6 @@
 #include "compose/film_pictures.h"
 
+#include "common/text.h"
 #include "video/video_error.h"
 
 #include <algorithm>
@@ -34,11 +35,11 @@ PlanesPtr FilmPictures::at(FrameNumber number, const Interrupt& interrupt) {
         return nullptr;
     m_number = number;
     if (result.outcome == FrameSource::Outcome::Damaged)
-        noteFault(number, "it cannot be decoded");
+        noteFault(number, say("it cannot be decoded"));
     else if (PlanesPtr picture = made(*result.frame.samples))
         m_picture = std::move(picture);
     else
-        noteFault(number, "its pictures are in a format of no use");
+        noteFault(number, say("its pictures are in a format of no use"));
     return m_picture;
 }
 

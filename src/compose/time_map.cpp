@@ -1,6 +1,7 @@
 #include "compose/time_map.h"
 
 #include "common/error.h"
+#include "common/text.h"
 
 #include <algorithm>
 #include <string>
@@ -19,9 +20,10 @@ std::optional<double> markOf(const FilmMarks& marks, std::size_t mark) {
 double requiredMark(const std::vector<FilmMarks>& films, std::size_t film, std::size_t mark) {
     if (const auto seconds = markOf(films[film], mark))
         return *seconds;
-    const std::string what = mark == 0 ? "the start" : "split " + std::to_string(mark);
-    throw DecodeError({"films[" + std::to_string(film) + "]",
-                       what + " is not marked on this film, so it cannot be held there"});
+    throw DecodeError(
+        {"films[" + std::to_string(film) + "]",
+         mark == 0 ? say("the start is not marked on this film, so it cannot be held there")
+                   : say("split {} is not marked on this film, so it cannot be held there", mark)});
 }
 
 /// Seconds of the first film's run at one of its marks.
