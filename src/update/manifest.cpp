@@ -1,6 +1,7 @@
 #include "update/manifest.h"
 
 #include "common/json_decode.h"
+#include "common/text.h"
 #include "update/version.h"
 
 #include <algorithm>
@@ -68,33 +69,34 @@ void requireField(bool isGood, const std::string& path, const std::string& text)
 
 void checkUpdateFile(const updatefile001& file, const std::string& path) {
     requireField(isMadeOf(file.platform, PlatformLetters), path + ".platform",
-                 "a name of small letters, digits and dashes was expected");
+                 say("a name of small letters, digits and dashes was expected"));
     const auto address = safeAddress(file.address);
-    requireField(address.has_value(), path + ".address", "an https address was expected");
+    requireField(address.has_value(), path + ".address", say("an https address was expected"));
     requireField(!fileNameOf(*address).empty(), path + ".address",
-                 "it does not end in the plain name of a file");
+                 say("it does not end in the plain name of a file"));
     requireField(file.size > 0 && file.size <= MostFileBytes, path + ".size",
-                 "1 to " + std::to_string(MostFileBytes) + " bytes were expected");
+                 say("1 to {} bytes were expected", MostFileBytes));
     requireField(file.sha256.size() == Sha256Digits && isMadeOf(file.sha256, "0123456789abcdef"),
-                 path + ".sha256", "64 small hexadecimal digits were expected");
+                 path + ".sha256", say("64 small hexadecimal digits were expected"));
 }
 
 } // namespace
 
 updatemanifest001 readManifest(std::string_view text) {
-    requireField(text.size() <= MostManifestBytes, {}, "it is longer than any manifest is");
+    requireField(text.size() <= MostManifestBytes, {}, say("it is longer than any manifest is"));
     updatemanifest001 manifest = decodeText<updatemanifest001>(text);
     requireField(parsedVersion(manifest.version).has_value(), "version",
-                 "three numbers such as 0.32.0 were expected");
-    requireField(isCalendarDate(manifest.date), "date", "a date such as 2026-11-22 was expected");
+                 say("three numbers such as 0.32.0 were expected"));
+    requireField(isCalendarDate(manifest.date), "date",
+                 say("a date such as 2026-11-22 was expected"));
     requireField(manifest.notes.size() <= MostNoteBytes && isPlainText(manifest.notes), "notes",
-                 "a plain text of at most 100,000 bytes was expected");
+                 say("a plain text of at most 100,000 bytes was expected"));
     std::set<std::string> platforms;
     for (std::size_t i = 0; i < manifest.files.size(); ++i) {
         const std::string path = "files[" + std::to_string(i) + ']';
         checkUpdateFile(manifest.files[i], path);
         requireField(platforms.insert(manifest.files[i].platform).second, path + ".platform",
-                     "there is a file for it already");
+                     say("there is a file for it already"));
     }
     return manifest;
 }

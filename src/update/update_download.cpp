@@ -2,6 +2,7 @@
 
 #include "common/error.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 #include "update/update_look.h"
 
 #include <QDateTime>
@@ -52,7 +53,7 @@ void UpdateDownload::start(const updatefile001& file, const fs::path& folder) {
         const auto address = safeAddress(m_wanted.address);
         const std::string name = address ? fileNameOf(*address) : std::string();
         if (name.empty()) {
-            fail("The address of the file is none that is asked.");
+            fail(say("The address of the file is none that is asked."));
             return;
         }
         m_rules.source = *address;
@@ -60,7 +61,7 @@ void UpdateDownload::start(const updatefile001& file, const fs::path& folder) {
         if (m_part.open(QIODevice::WriteOnly | QIODevice::Truncate))
             tryNow();
         else
-            fail("The folder takes no file: " + m_part.errorString().toStdString() + '.');
+            fail(say("The folder takes no file: {}.", m_part.errorString().toStdString()));
     });
 }
 
@@ -88,7 +89,7 @@ void UpdateDownload::takeHead(const fetch::AnswerHead& head) {
         const auto range = fetch::parsedContentRange(head.contentRange);
         const bool isRest = m_held > 0 && range && range->first == m_held;
         if (!isRest || range->size.value_or(m_wanted.size) != m_wanted.size)
-            fail("The server sent another part of the file than it was asked for.");
+            fail(say("The server sent another part of the file than it was asked for."));
         return;
     }
     using Step = fetch::AnswerPlan::Step;
@@ -100,33 +101,34 @@ void UpdateDownload::takeHead(const fetch::AnswerHead& head) {
     } else if (plan.step == Step::Wait) {
         retry(plan.reason, plan.retryAfter);
     } else {
-        fail(updateReason("The file", {.reason = plan.reason,
-                                       .isNotThere = plan.step == Step::NotThere,
-                                       .wantsLogin = head.status == 401 || head.status == 403}));
+        fail(updateReason(Asked::File, {.reason = plan.reason,
+                                        .isNotThere = plan.step == Step::NotThere,
+                                        .wantsLogin = head.status == 401 || head.status == 403}));
     }
 }
 
 /// A whole file comes, from its beginning: also where only its rest was asked for.
 bool UpdateDownload::mayGoOn(const fetch::AnswerHead& head) {
     if (!head.contentLength.empty() && head.contentLength != std::to_string(m_wanted.size)) {
-        fail("The file on the server is not as long as the list of versions says.");
+        fail(say("The file on the server is not as long as the list of versions says."));
         return false;
     }
     m_held = 0;
     m_hash.reset();
     if (m_part.resize(0) && m_part.seek(0))
         return true;
-    fail("The disk does not take the file: " + m_part.errorString().toStdString() + '.');
+    fail(say("The disk does not take the file: {}.", m_part.errorString().toStdString()));
     return false;
 }
 
 void UpdateDownload::takeBytes(const QByteArray& bytes) {
     if (m_held + bytes.size() > m_wanted.size) {
-        fail("The file on the server is longer than the list of versions says. It was deleted.");
+        fail(say(
+            "The file on the server is longer than the list of versions says. It was deleted."));
         return;
     }
     if (m_part.write(bytes) != bytes.size() || !m_part.flush()) {
-        fail("The disk does not take the file: " + m_part.errorString().toStdString() + '.');
+        fail(say("The disk does not take the file: {}.", m_part.errorString().toStdString()));
         return;
     }
     m_hash.addData(bytes);
@@ -137,18 +139,18 @@ void UpdateDownload::takeBytes(const QByteArray& bytes) {
 void UpdateDownload::takeEnd(const fetch::WebEnd& end) {
     using Kind = fetch::WebEnd::Kind;
     if (end.kind == Kind::Final)
-        fail(updateReason("The file", {.reason = end.reason, .otherSite = end.otherSite}));
+        fail(updateReason(Asked::File, {.reason = end.reason, .otherSite = end.otherSite}));
     else if (m_held == m_wanted.size)
         finishFile();
     else
-        retry(end.kind == Kind::Broken ? end.reason : "The file broke off before its end.");
+        retry(end.kind == Kind::Broken ? end.reason : say("The file broke off before its end."));
 }
 
 void UpdateDownload::finishFile() {
     endExchange();
     if (m_hash.result().toHex().toStdString() != m_wanted.sha256) {
-        fail("The file is not the one of the list of versions: it is damaged, or was changed. It "
-             "was deleted.");
+        fail(say("The file is not the one of the list of versions: it is damaged, or was changed. "
+                 "It was deleted."));
         return;
     }
     const bool isFlushed = m_part.flush() && ::fsync(m_part.handle()) == 0;
@@ -158,7 +160,7 @@ void UpdateDownload::finishFile() {
     if (isFlushed)
         fs::rename(QFile::encodeName(m_part.fileName()).toStdString(), target, error);
     if (!isFlushed || error) {
-        fail("The disk does not take the file.");
+        fail(say("The disk does not take the file."));
         return;
     }
     m_isRunning = false;
@@ -170,7 +172,9 @@ void UpdateDownload::retry(const std::string& reason,
     endExchange();
     const auto wait = fetch::waitBeforeTry(++m_tries, retryAfter);
     if (!wait) {
-        fail(reason + " It was given up after " + std::to_string(m_tries) + " tries.");
+        fail(reason + ' ' +
+             sayCount(m_tries, "It was given up after {} tries.",
+                      "It was given up after {} tries."));
         return;
     }
     QTimer::singleShot(static_cast<int>(wait->count()) * m_rules.pace.secondMilliseconds, this,

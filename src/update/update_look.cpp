@@ -1,7 +1,10 @@
 #include "update/update_look.h"
 
 #include "common/error.h"
+#include "common/text.h"
 
+#include <array>
+#include <string_view>
 #include <utility>
 
 namespace kavela::update {
@@ -14,6 +17,33 @@ fetch::Address signatureAddress(fetch::Address manifest) {
     manifest.path += ".sig";
     return manifest;
 }
+
+/// Why something that was asked for did not come.
+struct AskedTexts {
+    std::string_view tooLong;
+    std::string_view notThere;
+    std::string_view elsewhere; ///< with a place for the server
+    std::string_view notGiven;
+};
+
+/// In the order of `Asked`.
+constexpr std::array<AskedTexts, 3> TextsOfAsked{{
+    {.tooLong = KAVELA_TEXT("The list of versions is longer than it may be."),
+     .notThere = KAVELA_TEXT("The list of versions is not on the server."),
+     .elsewhere =
+         KAVELA_TEXT("The list of versions lies on another server, {}, which is not asked."),
+     .notGiven = KAVELA_TEXT("The list of versions is not given out by the server.")},
+    {.tooLong = KAVELA_TEXT("The signature of the list of versions is longer than it may be."),
+     .notThere = KAVELA_TEXT("The signature of the list of versions is not on the server."),
+     .elsewhere = KAVELA_TEXT("The signature of the list of versions lies on another server, {}, "
+                              "which is not asked."),
+     .notGiven = KAVELA_TEXT("The signature of the list of versions is not given out by the "
+                             "server.")},
+    {.tooLong = KAVELA_TEXT("The file is longer than it may be."),
+     .notThere = KAVELA_TEXT("The file is not on the server."),
+     .elsewhere = KAVELA_TEXT("The file lies on another server, {}, which is not asked."),
+     .notGiven = KAVELA_TEXT("The file is not given out by the server.")},
+}};
 
 } // namespace
 
@@ -31,15 +61,16 @@ std::vector<std::pair<QByteArray, QByteArray>> updateHeaders(const Version& own)
             {"Accept-Language", "*"}};
 }
 
-std::string updateReason(const std::string& what, const fetch::SmallAnswer& answer) {
+std::string updateReason(Asked what, const fetch::SmallAnswer& answer) {
+    const AskedTexts& texts = TextsOfAsked.at(static_cast<std::size_t>(what));
     if (answer.isTooLong)
-        return what + " is longer than it may be.";
+        return std::string(translated(texts.tooLong));
     if (answer.isNotThere)
-        return what + " is not on the server.";
+        return std::string(translated(texts.notThere));
     if (!answer.otherSite.empty())
-        return what + " lies on another server, " + answer.otherSite + ", which is not asked.";
+        return sayMarked(texts.elsewhere, answer.otherSite);
     if (answer.wantsLogin)
-        return what + " is not given out by the server.";
+        return std::string(translated(texts.notGiven));
     return answer.reason;
 }
 
@@ -71,7 +102,7 @@ void UpdateLook::ask(const fetch::Address& address, std::size_t mostBytes,
 
 void UpdateLook::takeManifest(const fetch::SmallAnswer& answer) {
     if (!answer.isThere) {
-        give({.reason = updateReason("The list of versions", answer),
+        give({.reason = updateReason(Asked::List, answer),
               .isRefused = answer.isTooLong || !answer.otherSite.empty()});
         return;
     }
@@ -84,25 +115,25 @@ void UpdateLook::takeManifest(const fetch::SmallAnswer& answer) {
 void UpdateLook::takeSignature(const fetch::SmallAnswer& answer) {
     const bool isMissing = answer.isNotThere || answer.isTooLong;
     if (!answer.isThere && !isMissing) {
-        give({.reason = updateReason("The signature of the list of versions", answer),
+        give({.reason = updateReason(Asked::Signature, answer),
               .isRefused = !answer.otherSite.empty()});
         return;
     }
     if (isMissing) {
-        give({.reason = "The list of versions is not signed. It is not used.", .isRefused = true});
+        give({.reason = say("The list of versions is not signed. It is not used."),
+              .isRefused = true});
         return;
     }
     if (!isSignedBy(m_source.key, m_manifest, answer.body)) {
-        give({.reason = "The list of versions is not signed by who makes Kavela: it is damaged, or "
-                        "somebody else's. It is not used.",
+        give({.reason = say("The list of versions is not signed by who makes Kavela: it is "
+                            "damaged, or somebody else's. It is not used."),
               .isRefused = true});
         return;
     }
     try {
         give({.manifest = readManifest(m_manifest)});
     } catch (const DecodeError& error) {
-        give({.reason = std::string("The list of versions is damaged and not used: ") +
-                        error.what() + '.',
+        give({.reason = say("The list of versions is damaged and not used: {}.", error.what()),
               .isRefused = true});
     }
 }

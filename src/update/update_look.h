@@ -8,6 +8,7 @@
 #include <QNetworkAccessManager>
 #include <QObject>
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -59,8 +60,10 @@ private:
     Looked m_looked;
 };
 
-/// Why a short question brought nothing, for whom the words of fetching films do not fit. `what` is
-/// the thing that was asked for, such as "The list of versions".
-[[nodiscard]] std::string updateReason(const std::string& what, const fetch::SmallAnswer& answer);
+/// What a server of versions is asked for.
+enum class Asked : std::uint8_t { List, Signature, File };
+
+/// Why a short question brought nothing, for whom the words of fetching films do not fit.
+[[nodiscard]] std::string updateReason(Asked what, const fetch::SmallAnswer& answer);
 
 } // namespace kavela::update

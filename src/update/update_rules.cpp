@@ -1,5 +1,7 @@
 #include "update/update_rules.h"
 
+#include "common/text.h"
+
 #include <algorithm>
 
 namespace kavela::update {
@@ -31,21 +33,25 @@ Verdict verdictOn(const updatemanifest001& manifest, const KnownVersions& known,
     const Version newest = std::max(known.own, known.newestSeen.value_or(known.own));
     if (version < newest) {
         verdict.kind = Verdict::Kind::Older;
-        verdict.sentence = "The server offers version " + version.text() +
-                           ", which is older than " + newest.text() +
-                           (newest == known.own ? ", the one you have" : ", which it had before") +
-                           ". It is not used.";
+        verdict.sentence =
+            newest == known.own
+                ? say("The server offers version {}, which is older than {}, the one you have. It "
+                      "is not used.",
+                      version.text(), newest.text())
+                : say("The server offers version {}, which is older than {}, which it had before. "
+                      "It is not used.",
+                      version.text(), newest.text());
         return verdict;
     }
     if (version == known.own) {
-        verdict.sentence = "Version " + version.text() + " is the newest one.";
+        verdict.sentence = say("Version {} is the newest one.", version.text());
         return verdict;
     }
     const auto file = std::ranges::find(manifest.files, platform, &updatefile001::platform);
     if (file == manifest.files.end()) {
         verdict.kind = Verdict::Kind::NoFile;
-        verdict.sentence = "There is a version " + version.text() +
-                           ", but no file of it for this computer (" + platform + ").";
+        verdict.sentence = say("There is a version {}, but no file of it for this computer ({}).",
+                               version.text(), platform);
         return verdict;
     }
     const bool isSkipped = known.skipped == version && !isAskedFor;
