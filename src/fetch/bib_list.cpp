@@ -1,6 +1,7 @@
 #include "fetch/bib_list.h"
 
 #include "common/delimited_text.h"
+#include "common/text.h"
 #include "common/text_file.h"
 #include "common/typed_number.h"
 #include "splitdata/loader.h"
@@ -57,8 +58,8 @@ BibList bibsOfList(std::string_view text) {
         const std::optional<std::int64_t> bib = typedWhole(field);
         if (!bib || *bib <= 0) {
             list.skipped.push_back({reader.number(), field.empty()
-                                                         ? "There is no bib."
-                                                         : "\"" + field + "\" is no bib."});
+                                                         ? say("There is no bib.")
+                                                         : say("\"{}\" is no bib.", field)});
             continue;
         }
         FetchRun run = runOfLine(reader, columns);
@@ -81,8 +82,9 @@ BibList bibsOfSplitFile(const splittakerdata031& document) {
             addOnce(list, {results[*found.line].bib, run.names, run.cat, run.phase,
                            runInPhase(run.phase)});
         else
-            list.skipped.push_back({static_cast<std::int64_t>(found.run) + 1,
-                                    "The official results of the file have no bib for this crew."});
+            list.skipped.push_back(
+                {static_cast<std::int64_t>(found.run) + 1,
+                 say("The official results of the file have no bib for this crew.")});
     }
     return list;
 }
@@ -99,9 +101,10 @@ BibList bibsIn(const std::filesystem::path& path) {
         list = bibsOfList(readListText(path).text);
     }
     if (list.runs.empty())
-        throw std::runtime_error("No bib was found in " + path.filename().string() +
-                                 ". A list needs a column called \"bib\"; a split file needs its "
-                                 "official results.");
+        throw std::runtime_error(
+            say("No bib was found in {}. A list needs a column called \"bib\"; a split file needs "
+                "its official results.",
+                path.filename().string()));
     return list;
 }
 

@@ -1,5 +1,6 @@
 #include "fetch/dav_listing.h"
 
+#include "common/text.h"
 #include "fetch/listing.h"
 #include "fetch/resume_rules.h"
 
@@ -98,8 +99,9 @@ std::vector<DavEntry> entriesOfDav(std::string_view body, const Address& base) {
     const auto result = document.load_buffer(body.data(), body.size());
     const pugi::xml_node root = document.document_element();
     if (!result || davName(root) != "multistatus")
-        throw ListingError("The answer is no WebDAV folder" +
-                           (result ? std::string(".") : std::string(": ") + result.description()));
+        throw ListingError(result
+                               ? say("The answer is no WebDAV folder.")
+                               : say("The answer is no WebDAV folder: {}", result.description()));
     std::vector<DavEntry> entries;
     for (const pugi::xml_node response : root)
         if (davName(response) == "response")

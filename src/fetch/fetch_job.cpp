@@ -1,5 +1,7 @@
 #include "fetch/fetch_job.h"
 
+#include "common/text.h"
+
 #include <utility>
 
 namespace kavela::fetch {
@@ -70,7 +72,7 @@ void FetchJob::cancel() {
         return;
     const auto running = std::exchange(m_running, {});
     const auto waiting = std::exchange(m_waiting, {});
-    const FilmResult cancelled{.kind = FilmResult::Kind::Cancelled, .reason = "Cancelled."};
+    const FilmResult cancelled{.kind = FilmResult::Kind::Cancelled, .reason = say("Cancelled.")};
     for (const auto& [place, film] : running) {
         film->stop();
         film->deleteLater();

@@ -1,5 +1,6 @@
 #include "fetch/file_transfer.h"
 
+#include "common/text.h"
 #include "fetch/beside.h"
 
 #include <QDateTime>
@@ -123,18 +124,18 @@ void FileTransfer::openFor(const AnswerPlan& plan) {
                if (fault.empty())
                    countTaken(0);
                else
-                   fail({.reason = "The folder takes no file: " + fault, .isOfDisk = true});
+                   fail({.reason = say("The folder takes no file: {}", fault), .isOfDisk = true});
            });
 }
 
 /// Bytes are held as soon as the disk has taken them, and not before.
 void FileTransfer::takeBytes(const QByteArray& bytes) {
     if (m_held.note.size > 0 && m_held.bytes + bytes.size() > m_held.note.size) {
-        startAnew("The server sends more than it announced.");
+        startAnew(say("The server sends more than it announced."));
         return;
     }
     if (!m_mayTake(bytes.size())) {
-        fail({"The job has brought 20 GB, which is the most in one go."});
+        fail({say("The job has brought 20 GB, which is the most in one go.")});
         return;
     }
     m_exchange->hold();
@@ -143,7 +144,8 @@ void FileTransfer::takeBytes(const QByteArray& bytes) {
                if (fault.empty())
                    countTaken(count);
                else
-                   fail({.reason = "The disk does not take the file: " + fault, .isOfDisk = true});
+                   fail({.reason = say("The disk does not take the file: {}", fault),
+                         .isOfDisk = true});
            });
 }
 
@@ -160,7 +162,7 @@ void FileTransfer::takeEnd(const WebEnd& end) {
     else if (end.kind == WebEnd::Kind::Broken)
         retry(end.reason);
     else if (m_held.note.size > 0 && m_held.bytes < m_held.note.size)
-        retry("The file broke off before its end.");
+        retry(say("The file broke off before its end."));
     else
         finishFile();
 }
@@ -168,7 +170,7 @@ void FileTransfer::takeEnd(const WebEnd& end) {
 void FileTransfer::finishFile() {
     endExchange();
     if (m_held.bytes == 0) {
-        startAnew("The server sent nothing.");
+        startAnew(say("The server sent nothing."));
         return;
     }
     // A disk may take its time, and a film in pieces has thousands of ends: in no order with
@@ -181,7 +183,7 @@ void FileTransfer::finishFile() {
             if (isKept)
                 emit whole();
             else
-                fail({.reason = "The disk does not take the file.", .isOfDisk = true});
+                fail({.reason = say("The disk does not take the file."), .isOfDisk = true});
         });
 }
 
@@ -191,8 +193,9 @@ void FileTransfer::retry(const std::string& reason,
     const auto wait = waitBeforeTry(++m_tries, retryAfter);
     if (!wait) {
         letGo();
-        emit failed({reason + " After " + std::to_string(m_tries) +
-                     (m_tries == 1 ? " try" : " tries") + " it was given up for now."});
+        emit failed({reason + ' ' +
+                     sayCount(m_tries, "After {} try it was given up for now.",
+                              "After {} tries it was given up for now.")});
         return;
     }
     QTimer::singleShot(static_cast<int>(wait->count()) * m_rules.pace.secondMilliseconds, this,

@@ -2,6 +2,7 @@
 
 #include "common/error.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 #include "video/av_handles.h"
 
 #include <QCryptographicHash>
@@ -61,7 +62,7 @@ OpenedFilm openFilm(const fs::path& path, const char* protocols, const char* for
     if (const int found = avformat_find_stream_info(context, nullptr); found < 0)
         film.fault = avErrorText(found);
     else if (av_find_best_stream(context, AVMEDIA_TYPE_VIDEO, -1, -1, nullptr, 0) < 0)
-        film.fault = "it has no pictures";
+        film.fault = say("it has no pictures");
     return film;
 }
 
@@ -142,7 +143,7 @@ std::optional<std::string> faultOfFilm(const fs::path& path) {
     const OpenedFilm film = openFilm(path, OwnFileOnly, nullptr, nullptr);
     if (film.fault.empty())
         return std::nullopt;
-    return "What the server sent is no film: " + film.fault + '.';
+    return say("What the server sent is no film: {}.", film.fault);
 }
 
 std::string sha256OfFilm(const fs::path& path) {
@@ -157,9 +158,9 @@ std::optional<std::string> joinPieces(const fs::path& playlist, const fs::path& 
                                       const StopFlag& stop) {
     const OpenedFilm film = openFilm(playlist, PiecesOnly, "hls", stop);
     if (!film.fault.empty())
-        return "The pieces of the film do not fit together: " + film.fault + '.';
+        return say("The pieces of the film do not fit together: {}.", film.fault);
     if (const int code = writeJoined(*film.context, target, stop); code < 0)
-        return "The pieces of the film could not be put together: " + avErrorText(code) + '.';
+        return say("The pieces of the film could not be put together: {}.", avErrorText(code));
     return std::nullopt;
 }
 

@@ -1,5 +1,6 @@
 #include "common/error.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 #include "common/text_file.h"
 #include "fetch/beside.h"
 #include "fetch/listing.h"
@@ -85,7 +86,7 @@ void FilmInPieces::readPlaylist(const SmallAnswer& answer) {
         return;
     }
     if (list.better && ++m_levels >= MostPlaylistLevels) {
-        fail({"The playlists lead from one to the other without an end."});
+        fail({say("The playlists lead from one to the other without an end.")});
         return;
     }
     if (list.better) {
@@ -104,7 +105,7 @@ void FilmInPieces::prepare() {
     for (const Address& piece : m_pieces) {
         known += piece.text() + '\n';
         if (!way().rules->isAllowed(piece.site())) {
-            fail({"Pieces of the film lie on " + piece.site() + ", which is not ticked.",
+            fail({say("Pieces of the film lie on {}, which is not ticked.", piece.site()),
                   piece.site()});
             return;
         }
@@ -118,7 +119,7 @@ void FilmInPieces::prepare() {
             if (*stop)
                 return;
             if (!ready.fault.empty()) {
-                fail({"The folder takes no file: " + ready.fault});
+                fail({say("The folder takes no file: {}", ready.fault)});
                 return;
             }
             m_held = ready.held;
@@ -138,7 +139,7 @@ void FilmInPieces::fetchNext() {
     m_piece = new FileTransfer(*way().network, *way().rules, way().mayTake, this);
     connect(m_piece, &FileTransfer::failed, this, [this](const TransferFault& fault) {
         // A film whose list is there has its pieces: one that is missing is no film of later.
-        fail({.reason = "A piece of the film is missing: " + fault.reason,
+        fail({.reason = say("A piece of the film is missing: {}", fault.reason),
               .otherSite = fault.otherSite,
               .wantsLogin = fault.wantsLogin});
     });
@@ -161,7 +162,7 @@ void FilmInPieces::takePiece(const fs::path& piece) {
             if (*stop)
                 return;
             if (!fault.empty()) {
-                fail({"The folder takes no file: " + fault});
+                fail({say("The folder takes no file: {}", fault)});
                 return;
             }
             ++m_next;

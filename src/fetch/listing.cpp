@@ -2,6 +2,7 @@
 
 #include "common/folded_text.h"
 #include "common/json_document.h"
+#include "common/text.h"
 #include "fetch/dav_listing.h"
 #include "fetch/html_links.h"
 #include "fetch/playlist.h"
@@ -83,7 +84,7 @@ void readJsonListing(std::string_view body, FoundFilms& found) {
         const JsonDocument document = JsonDocument::fromText(body);
         takeFromJson(document.root(), std::nullopt, found);
     } catch (const DecodeError& error) {
-        throw ListingError(std::string("The list is no JSON: ") + error.what());
+        throw ListingError(say("The list is no JSON: {}", error.what()));
     }
 }
 
@@ -146,8 +147,9 @@ std::vector<ListedFilm> filmsInListing(ListingKind kind, std::string_view body,
         return found.films;
     }
     if (kind == ListingKind::M3u8 && isFilmInPieces(body))
-        throw ListingError("This playlist is one film in pieces and no list of films. Give its "
-                           "address with {bib} in it.");
+        throw ListingError(std::string(
+            translated("This playlist is one film in pieces and no list of films. Give its address "
+                       "with {bib} in it.")));
     FoundFilms found(base);
     if (kind == ListingKind::Json)
         readJsonListing(body, found);

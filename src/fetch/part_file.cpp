@@ -4,6 +4,7 @@
 #include "common/json_decode.h"
 #include "common/json_encode.h"
 #include "common/safe_file.h"
+#include "common/text.h"
 
 #include <QThreadPool>
 
@@ -71,7 +72,7 @@ std::string PartFile::open(const HeldPart& held) {
     struct stat facts {};
     if (m_file < 0 || ::fstat(m_file, &facts) != 0)
         return reasonOf(errno);
-    return facts.st_size == held.bytes ? std::string() : "Another program has changed it.";
+    return facts.st_size == held.bytes ? std::string() : say("Another program has changed it.");
 }
 
 /// What a full disk took of it in part stays: the next one to open it measures it.

@@ -1,6 +1,7 @@
 #include "fetch/plan_maker.h"
 
 #include "common/safe_file.h"
+#include "common/text.h"
 #include "fetch/listing.h"
 
 #include <utility>
@@ -93,7 +94,7 @@ void PlanMaker::read(const SmallAnswer& answer) {
     m_fetch->deleteLater();
     m_fetch = nullptr;
     if (!answer.isThere) {
-        give({.reason = answer.isNotThere ? "The server has no such list." : answer.reason,
+        give({.reason = answer.isNotThere ? say("The server has no such list.") : answer.reason,
               .otherSite = answer.otherSite,
               .wantsLogin = answer.wantsLogin});
         return;
@@ -102,7 +103,7 @@ void PlanMaker::read(const SmallAnswer& answer) {
         const std::vector<ListedFilm> films =
             filmsInListing(listingKind(answer.contentType, answer.body), answer.body, answer.from);
         if (films.empty())
-            give({.reason = "The address is there and names no film."});
+            give({.reason = say("The address is there and names no film.")});
         else
             give({.films = planByListing(films, m_runs, planRules())});
     } catch (const ListingError& error) {

@@ -1,6 +1,7 @@
 #include "fetch/playlist.h"
 
 #include "common/delimited_text.h"
+#include "common/text.h"
 #include "fetch/listing.h"
 
 #include <algorithm>
@@ -67,9 +68,9 @@ public:
         if (m_list.better)
             return {m_list.better, {}, {}};
         if (m_list.pieces.empty())
-            throw ListingError("The playlist has no piece of a film.");
+            throw ListingError(say("The playlist has no piece of a film."));
         if (!m_isEnded)
-            throw ListingError("The film is still growing: its playlist has no end yet.");
+            throw ListingError(say("The film is still growing: its playlist has no end yet."));
         return std::move(m_list);
     }
 
@@ -82,22 +83,23 @@ private:
     std::string localNameOf(std::string_view link) {
         const std::optional<Address> address = resolved(m_base, link);
         if (!address)
-            throw ListingError("The playlist leads to something else than a server: " +
-                               std::string(link.substr(0, 80)));
+            throw ListingError(
+                say("The playlist leads to something else than a server: {}", link.substr(0, 80)));
         const auto [known, isNew] = m_names.emplace(address->text(), m_list.pieces.size());
         if (isNew)
             m_list.pieces.push_back(*address);
         if (m_list.pieces.size() > MostPieces)
-            throw ListingError("The playlist does not end: it has more than " +
-                               std::to_string(MostPieces) + " pieces.");
+            throw ListingError(
+                say("The playlist does not end: it has more than {} pieces.", MostPieces));
         return localNameOfPiece(known->second);
     }
 
     void takeWithAddress(std::string_view line) {
         const std::string_view method = valueIn(line, "METHOD");
         if (line.starts_with("#EXT-X-KEY:") && method != "NONE" && method != "AES-128")
-            throw ListingError("The film is protected by \"" + std::string(method.substr(0, 40)) +
-                               "\", which only its maker's programs open.");
+            throw ListingError(
+                say("The film is protected by \"{}\", which only its maker's programs open.",
+                    method.substr(0, 40)));
         std::string local(line);
         if (const auto place = valuePlace(line, "URI"))
             local.replace(place->begin, place->length,

@@ -1,6 +1,7 @@
 #include "fetch/resume_rules.h"
 
 #include "common/delimited_text.h"
+#include "common/text.h"
 
 #include <algorithm>
 #include <array>
@@ -83,14 +84,15 @@ AnswerPlan planOfRest(const HeldPart& held, bool wasRest, const AnswerHead& head
     using Step = AnswerPlan::Step;
     const std::optional<ContentRange> range = parsedContentRange(head.contentRange);
     if (!wasRest || !range)
-        return {.step = Step::AskWhole, .reason = "The server sent a part that nobody asked for."};
+        return {.step = Step::AskWhole,
+                .reason = say("The server sent a part that nobody asked for.")};
     const bool isOther = isOtherState(head, held.note.validator);
     const bool hasOtherSize = range->size && held.note.size > 0 && *range->size != held.note.size;
     if (isOther || hasOtherSize)
-        return {.step = Step::AskWhole, .reason = "The file was changed meanwhile."};
+        return {.step = Step::AskWhole, .reason = say("The file was changed meanwhile.")};
     if (range->first != held.bytes)
         return {.step = Step::AskWhole,
-                .reason = "The server went on from another place than it was asked to."};
+                .reason = say("The server went on from another place than it was asked to.")};
     AnswerPlan plan{.step = Step::Append, .note = held.note};
     if (range->size)
         plan.note.size = *range->size;
@@ -100,7 +102,7 @@ AnswerPlan planOfRest(const HeldPart& held, bool wasRest, const AnswerHead& head
 AnswerPlan planOfWhole(const Address& address, const AnswerHead& head) {
     if (!head.contentEncoding.empty() && head.contentEncoding != "identity")
         return {.step = AnswerPlan::Step::Refuse,
-                .reason = "The server packs the file in a way that was not asked for."};
+                .reason = say("The server packs the file in a way that was not asked for.")};
     return {.step = AnswerPlan::Step::Start,
             .note = {address.text(), strongValidator(head), announcedSize(head)}};
 }
@@ -117,7 +119,7 @@ std::optional<RestQuestion> restQuestion(const HeldPart& held, const Address& ad
 AnswerPlan planOfAnswer(const HeldPart& held, bool wasRest, const Address& address,
                         const AnswerHead& head, std::int64_t now) {
     using Step = AnswerPlan::Step;
-    const std::string answered = "The server answered with status " + std::to_string(head.status);
+    const std::string answered = say("The server answered with status {}.", head.status);
     switch (head.status) {
     case 200:
         return planOfWhole(address, head);
@@ -125,14 +127,14 @@ AnswerPlan planOfAnswer(const HeldPart& held, bool wasRest, const Address& addre
         return planOfRest(held, wasRest, head);
     case 416:
         if (wasRest)
-            return {.step = Step::AskWhole, .reason = "The server has no more of the file."};
-        return {.reason = answered + '.'};
+            return {.step = Step::AskWhole, .reason = say("The server has no more of the file.")};
+        return {.reason = answered};
     case 404:
     case 410:
-        return {.step = Step::NotThere, .reason = "Not there yet."};
+        return {.step = Step::NotThere, .reason = say("Not there yet.")};
     case 401:
     case 403:
-        return {.reason = "The server does not accept the user name or the password."};
+        return {.reason = say("The server does not accept the user name or the password.")};
     case 408:
     case 425:
     case 429:
@@ -142,10 +144,10 @@ AnswerPlan planOfAnswer(const HeldPart& held, bool wasRest, const Address& addre
     case 504:
         return {.step = Step::Wait,
                 .reason =
-                    head.status == 429 ? "The server asks for fewer questions." : answered + '.',
+                    head.status == 429 ? say("The server asks for fewer questions.") : answered,
                 .retryAfter = parsedRetryAfter(head.retryAfter, now)};
     default:
-        return {.reason = answered + '.'};
+        return {.reason = answered};
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/text.h"
 #include "fetch/address.h"
 
 #include <boost/describe.hpp>
@@ -115,15 +116,16 @@ template <class IsAllowed>
 [[nodiscard]] RedirectPlan planOfRedirect(const Address& from, std::string_view location,
                                           int followed, IsAllowed isAllowed) {
     if (followed >= MostRedirects)
-        return {{}, "The server leads in a circle.", {}};
+        return {{}, say("The server leads in a circle."), {}};
     const std::optional<Address> to = resolved(from, location);
     if (location.empty() || !to)
-        return {{}, "The server leads to an address that is none.", {}};
+        return {{}, say("The server leads to an address that is none."), {}};
     if (from.scheme == "https" && to->scheme == "http")
-        return {{}, "The server leads from https to http, which anybody can read and change.", {}};
+        return {
+            {}, say("The server leads from https to http, which anybody can read and change."), {}};
     if (!isAllowed(to->site()))
         return {{},
-                "The server leads to another one, " + to->site() + ", which is not ticked.",
+                say("The server leads to another one, {}, which is not ticked.", to->site()),
                 to->site()};
     return {to, {}, {}};
 }

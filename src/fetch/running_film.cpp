@@ -1,6 +1,7 @@
 #include "fetch/running_film.h"
 
 #include "common/error.h"
+#include "common/text.h"
 #include "fetch/beside.h"
 
 namespace kavela::fetch {
@@ -58,7 +59,7 @@ void RunningFilm::takeName() {
         },
         [this](const NamedFilm& named) {
             if (!named.fault.empty()) {
-                fail({"The film could not be given its name: " + named.fault});
+                fail({say("The film could not be given its name: {}", named.fault)});
                 return;
             }
             emit ended({.name = named.name});
@@ -115,7 +116,7 @@ void PlainFilm::check(const std::string& expected) {
             if (found == expected)
                 checkFilm();
             else
-                m_transfer.startAnew("The film is not what its checksum says.");
+                m_transfer.startAnew(say("The film is not what its checksum says."));
         });
 }
 

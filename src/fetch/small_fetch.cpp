@@ -1,5 +1,7 @@
 #include "fetch/small_fetch.h"
 
+#include "common/text.h"
+
 #include <QDateTime>
 #include <QTimer>
 
@@ -55,7 +57,7 @@ void SmallFetch::takeBytes(const QByteArray& bytes) {
     if (m_answer.body.size() <= m_most)
         return;
     m_exchange->stop();
-    give({.reason = "The answer is longer than any list is.", .isTooLong = true});
+    give({.reason = say("The answer is longer than any list is."), .isTooLong = true});
 }
 
 void SmallFetch::takeEnd(const WebEnd& end) {

@@ -89,7 +89,7 @@ FolderExchange::~FolderExchange() {
 fs::path FolderExchange::place(const std::string& path) const {
     const auto found = placeIn(m_place.folder, path);
     if (!found)
-        throw ShareError("A link in the folder leads out of it, and is not followed.");
+        throw ShareError(say("A link in the folder leads out of it, and is not followed."));
     return *found;
 }
 
@@ -189,8 +189,9 @@ void FolderExchange::makeFoldersFor(const std::string& path) {
             m_web.ask({.address = folderAt(m_web.address(), folder), .verb = "MKCOL"});
         constexpr int IsThereAlready = 405;
         if (!answer.isDone() && answer.status() != IsThereAlready)
-            throw ShareError("The folder could not be made on the server: " + refusalOf(answer),
-                             answer.status() == 401);
+            throw ShareError(
+                say("The folder could not be made on the server: {}", refusalOf(answer)),
+                answer.status() == 401);
         m_survey.foldersThere.insert(folder);
     }
 }
@@ -216,7 +217,7 @@ DavAnswer FolderExchange::boundTo(const std::string& path, const std::function<D
         if (answer.status() != 412 || !isThereAsSeen(path))
             return answer;
         if (tries == MostRefusedMarks)
-            return {.reason = "The server does not know its own mark of this file again."};
+            return {.reason = say("The server does not know its own mark of this file again.")};
         m_web.pause(fetch::waitBeforeTry(tries, {}).value_or(std::chrono::seconds(1)));
     }
 }

@@ -1,6 +1,7 @@
 #include "share/web_folder.h"
 
 #include "common/error.h"
+#include "common/text.h"
 #include "fetch/listing.h"
 
 #include <QDateTime>
@@ -137,8 +138,8 @@ WebFolder::Brought WebFolder::bring(const fetch::Address& file, const std::files
         if (!fault)
             return brought;
         if (!fault->otherSite.empty())
-            throw ShareError("The server leads to another one, " + fault->otherSite +
-                             ", which is not followed.");
+            throw ShareError(say("The server leads to another one, {}, which is not followed.",
+                                 fault->otherSite));
         if (fault->isOfDisk)
             throw FileError(part, fault->reason);
         if (fault->isNotThere || fault->wantsLogin || sizeOnDisk(part) <= before)
