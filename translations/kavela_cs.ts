@@ -8277,7 +8277,7 @@
     </message>
     <message>
         <source>Share</source>
-        <translation>Sdílet</translation>
+        <translation>Podíl</translation>
     </message>
     <message>
         <source>Most of one kind: %1 %2, %3 of %4 noted.</source>

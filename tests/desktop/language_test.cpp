@@ -1,5 +1,7 @@
 #include "desktop/shell/language.h"
 
+#include "boatmotion/imports/sensor_csv.h"
+#include "common/json_decode.h"
 #include "common/temp_folder.h"
 #include "common/text.h"
 #include "desktop/shell/autosave.h"
@@ -9,7 +11,12 @@
 #include "desktop/shell/tool_window.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/tools.h"
+#include "facts/query_text.h"
+#include "fetch/resume_rules.h"
 #include "language/languages.h"
+#include "update/update_rules.h"
+#include "vision/slit_file.h"
+#include "vision/water_plane.h"
 
 #include <gmock/gmock.h>
 
@@ -27,8 +34,11 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include <array>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 
 namespace kavela::test {
 namespace {
@@ -117,6 +127,43 @@ TEST_F(LanguageTest, ReachesEveryKindOfText) {
     EXPECT_EQ(desktop::SettingsWindow::tr("As the system"), "As the system");
     EXPECT_EQ(translated("Hull speed"), "Hull speed");
     EXPECT_EQ(QLocale(), before);
+}
+
+std::string faultOfDoing(const std::function<void()>& what) {
+    try {
+        what();
+    } catch (const std::exception& error) {
+        return error.what();
+    }
+    return {};
+}
+
+/// A sentence of every library that refuses what a coach gave it.
+std::array<std::string, 7> faultsOfLibraries() {
+    return {faultOfDoing([] { (void)decodeText<slitfile001>("{}"); }),
+            faultOfDoing([] { (void)decodeText<slitfile001>("[]"); }),
+            faultOfDoing([] { (void)parsedQuery("gates time"); }),
+            faultOfDoing([] { (void)WaterPlane(std::vector<PlanePoint>()); }),
+            faultOf(CsvMapping()).value_or(""),
+            fetch::planOfAnswer({}, false, {}, {.status = 404}, 0).reason,
+            update::verdictOn({}, {}, "deb-amd64", false).sentence};
+}
+
+TEST_F(LanguageTest, ReachesTheFaultsOfEveryLibrary) {
+    const auto english = faultsOfLibraries();
+    const SpokenLanguage pseudo("pseudo", false);
+    const auto said = faultsOfLibraries();
+    for (std::size_t i = 0; i < english.size(); ++i) {
+        EXPECT_NE(english[i], "") << i;
+        EXPECT_GT(said[i].size(), english[i].size()) << english[i];
+    }
+}
+
+/// The column of files to be shared, and a proportion.
+TEST_F(LanguageTest, PartsTheMeaningsOfAWord) {
+    const SpokenLanguage german("de", false);
+    EXPECT_EQ(QCoreApplication::translate("kavela::desktop::SharedRows", "Share"), "Teilen");
+    EXPECT_EQ(QCoreApplication::translate("Penalties", "Share"), "Anteil");
 }
 
 /// Texts of a window that do not have the room they ask for.

@@ -40,6 +40,7 @@ TEST(Text, IsSaidAsItStandsWhereNoCatalogueIsInstalled) {
 TEST(Text, TakesTheOrderAndTheFormsOfTheLanguage) {
     const FewWords words;
     EXPECT_EQ(say("{} of {:.1f}", "Ana", 2.5), "2,5 von Ana");
+    EXPECT_EQ(sayMarked(KAVELA_TEXT("{} of {:.1f}"), "Ana", 2.5), "2,5 von Ana");
     EXPECT_EQ(translated("Save"), "Uložit");
     EXPECT_EQ(countedWords(1, "run", "runs"), "1 jízda");
     EXPECT_EQ(countedWords(3, "run", "runs"), "3 jízdy");

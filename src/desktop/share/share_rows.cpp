@@ -120,7 +120,8 @@ bool SharedRow::canBeTicked() const {
 
 ColumnModel<SharedRow>::Columns sharedColumns(const TickShared& tick) {
     return {
-        {.title = shareTr("Share"),
+        // With a context of its own: elsewhere the word is a proportion.
+        {.title = QCoreApplication::translate("kavela::desktop::SharedRows", "Share"),
          .show =
              [](const SharedRow& row) {
                  return Cell{.isTicked = row.isTicked,
