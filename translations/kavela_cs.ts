@@ -7628,6 +7628,1578 @@
             <numerusform>90% interval, {} jízd</numerusform>
         </translation>
     </message>
+    <message>
+        <source>column {}: “{}” is no date</source>
+        <translation>sloupec {}: „{}“ není datum</translation>
+    </message>
+    <message>
+        <source>column {}: “{}” is no number</source>
+        <translation>sloupec {}: „{}“ není číslo</translation>
+    </message>
+    <message>
+        <source>the line ends before its time</source>
+        <translation>řádek končí před svým časem</translation>
+    </message>
+    <message>
+        <source>an axis of the acceleration is missing</source>
+        <translation>chybí jedna osa zrychlení</translation>
+    </message>
+    <message>
+        <source>Some lines were not in order of time and were put in order.</source>
+        <translation>Některé řádky nebyly seřazeny podle času a byly seřazeny.</translation>
+    </message>
+    <message>
+        <source>Gravity was split off the acceleration by a low-pass of 0.3 Hz.</source>
+        <translation>Tíže byla od zrychlení oddělena dolní propustí 0,3 Hz.</translation>
+    </message>
+    <message>
+        <source>There is no gravity in the list.</source>
+        <translation>V seznamu není tíže.</translation>
+    </message>
+    <message>
+        <source>There is no rotation in the list: hands and turns cannot be found.</source>
+        <translation>V seznamu není otáčení: strany záběrů a obraty nelze najít.</translation>
+    </message>
+    <message>
+        <source>the messages end within a definition</source>
+        <translation>zprávy končí uprostřed definice</translation>
+    </message>
+    <message>
+        <source>the messages end within a message</source>
+        <translation>zprávy končí uprostřed zprávy</translation>
+    </message>
+    <message>
+        <source>byte {}</source>
+        <translation>bajt {}</translation>
+    </message>
+    <message>
+        <source>the header&apos;s check sum does not agree</source>
+        <translation>kontrolní součet hlavičky nesouhlasí</translation>
+    </message>
+    <message>
+        <source>the file&apos;s check sum does not agree: bytes of it are damaged</source>
+        <translation>kontrolní součet souboru nesouhlasí: některé bajty jsou poškozené</translation>
+    </message>
+    <message>
+        <source>the file ends within a header</source>
+        <translation>soubor končí uprostřed hlavičky</translation>
+    </message>
+    <message>
+        <source>a header of {} bytes: it has to have 12 or 14</source>
+        <translation>hlavička o délce {} B: musí mít 12 nebo 14 bajtů</translation>
+    </message>
+    <message>
+        <source>the header does not say that this is a FIT file</source>
+        <translation>hlavička neříká, že jde o soubor FIT</translation>
+    </message>
+    <message>
+        <source>the recording was not finished by its device: it is empty</source>
+        <translation>přístroj záznam nedokončil: je prázdný</translation>
+    </message>
+    <message>
+        <source>the file ends here, but its header announces {} bytes</source>
+        <translation>soubor zde končí, ale jeho hlavička udává {} B</translation>
+    </message>
+    <message>
+        <source>a byte order of {}: it is 0 or 1</source>
+        <translation>pořadí bajtů {}: musí být 0 nebo 1</translation>
+    </message>
+    <message>
+        <source>a message of type {}, which is not defined</source>
+        <translation>zpráva typu {}, který není definován</translation>
+    </message>
+    <message numerus="yes">
+        <source>The file holds {} sessions; all were taken.</source>
+        <translation>
+            <numerusform>Soubor obsahuje {} jednotku; byla převzata celá.</numerusform>
+            <numerusform>Soubor obsahuje {} jednotky; všechny byly převzaty.</numerusform>
+            <numerusform>Soubor obsahuje {} jednotek; všechny byly převzaty.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The watch was stopped {} times.</source>
+        <translation>
+            <numerusform>Hodinky byly {}krát zastaveny.</numerusform>
+            <numerusform>Hodinky byly {}krát zastaveny.</numerusform>
+            <numerusform>Hodinky byly {}krát zastaveny.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} d {} h</source>
+        <translation>{} d {} h</translation>
+    </message>
+    <message>
+        <source>{} h {} min</source>
+        <translation>{} h {} min</translation>
+    </message>
+    <message>
+        <source>{} min {} s</source>
+        <translation>{} min {} s</translation>
+    </message>
+    <message>
+        <source>The recording has positions of its own, which stay.</source>
+        <translation>Záznam má vlastní polohy, které zůstávají.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s positions begin {} after the recording.</source>
+        <translation>Polohy ze stopy začínají {} po záznamu.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s positions begin {} before the recording.</source>
+        <translation>Polohy ze stopy začínají {} před záznamem.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s positions begin {} after the recording; perhaps an offset of {} h is missing.</source>
+        <translation>Polohy ze stopy začínají {} po záznamu; možná chybí posun {} h.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s positions begin {} before the recording; perhaps an offset of {} h is missing.</source>
+        <translation>Polohy ze stopy začínají {} před záznamem; možná chybí posun {} h.</translation>
+    </message>
+    <message>
+        <source>The recording has heart rates of its own, which stay.</source>
+        <translation>Záznam má vlastní tepové frekvence, které zůstávají.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s heart rates begin {} after the recording.</source>
+        <translation>Tepové frekvence ze stopy začínají {} po záznamu.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s heart rates begin {} before the recording.</source>
+        <translation>Tepové frekvence ze stopy začínají {} před záznamem.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s heart rates begin {} after the recording; perhaps an offset of {} h is missing.</source>
+        <translation>Tepové frekvence ze stopy začínají {} po záznamu; možná chybí posun {} h.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s heart rates begin {} before the recording; perhaps an offset of {} h is missing.</source>
+        <translation>Tepové frekvence ze stopy začínají {} před záznamem; možná chybí posun {} h.</translation>
+    </message>
+    <message>
+        <source>The recording has no motion samples to join the track to.</source>
+        <translation>Záznam nemá vzorky pohybu, ke kterým by se stopa připojila.</translation>
+    </message>
+    <message>
+        <source>“{}” stands over two columns.</source>
+        <translation>„{}“ je nad dvěma sloupci.</translation>
+    </message>
+    <message>
+        <source>Of the acceleration with gravity all of x, y and z are needed.</source>
+        <translation>Ze zrychlení s tíží jsou potřeba x, y i z.</translation>
+    </message>
+    <message>
+        <source>Of the acceleration without gravity all of x, y and z are needed.</source>
+        <translation>Ze zrychlení bez tíže jsou potřeba x, y i z.</translation>
+    </message>
+    <message>
+        <source>Of the rotation all of x, y and z are needed.</source>
+        <translation>Z otáčení jsou potřeba x, y i z.</translation>
+    </message>
+    <message>
+        <source>Of the gravity all of x, y and z are needed.</source>
+        <translation>Z tíže jsou potřeba x, y i z.</translation>
+    </message>
+    <message>
+        <source>Latitude and longitude go together.</source>
+        <translation>Zeměpisná šířka a délka patří k sobě.</translation>
+    </message>
+    <message>
+        <source>Acc. x with gravity</source>
+        <translation>Zrychl. x s tíží</translation>
+    </message>
+    <message>
+        <source>Acc. y with gravity</source>
+        <translation>Zrychl. y s tíží</translation>
+    </message>
+    <message>
+        <source>Acc. z with gravity</source>
+        <translation>Zrychl. z s tíží</translation>
+    </message>
+    <message>
+        <source>Acc. x without gravity</source>
+        <translation>Zrychl. x bez tíže</translation>
+    </message>
+    <message>
+        <source>Acc. y without gravity</source>
+        <translation>Zrychl. y bez tíže</translation>
+    </message>
+    <message>
+        <source>Acc. z without gravity</source>
+        <translation>Zrychl. z bez tíže</translation>
+    </message>
+    <message>
+        <source>Gravity x</source>
+        <translation>Tíže x</translation>
+    </message>
+    <message>
+        <source>Gravity y</source>
+        <translation>Tíže y</translation>
+    </message>
+    <message>
+        <source>Gravity z</source>
+        <translation>Tíže z</translation>
+    </message>
+    <message>
+        <source>Yaw</source>
+        <translation>Vybočení</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Zeměpisná šířka</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Zeměpisná délka</translation>
+    </message>
+    <message>
+        <source>No column is the time.</source>
+        <translation>Žádný sloupec není čas.</translation>
+    </message>
+    <message>
+        <source>Commas cannot be in numbers and between columns.</source>
+        <translation>Čárky nemohou být zároveň v číslech i mezi sloupci.</translation>
+    </message>
+    <message>
+        <source>No column is acceleration, position or heart rate.</source>
+        <translation>Žádný sloupec není zrychlení, poloha ani tepová frekvence.</translation>
+    </message>
+    <message>
+        <source>this is no plain text; a list has to be saved as UTF-8</source>
+        <translation>to není prostý text; seznam musí být uložen jako UTF-8</translation>
+    </message>
+    <message>
+        <source>this is no list of samples: in its first {} lines there is none with numbers in columns</source>
+        <translation>to není seznam vzorků: mezi prvními řádky ({}) není žádný s čísly ve sloupcích</translation>
+    </message>
+    <message>
+        <source>the list has more than {} lines</source>
+        <translation>seznam má více než {} řádků</translation>
+    </message>
+    <message>
+        <source>the file is too large to be imported (over {} MB)</source>
+        <translation>soubor je pro import příliš velký (přes {} MB)</translation>
+    </message>
+    <message>
+        <source>the file grew while it was read</source>
+        <translation>soubor se během čtení zvětšil</translation>
+    </message>
+    <message>
+        <source>this is no track: neither GPX nor TCX nor FIT</source>
+        <translation>to není stopa: ani GPX, ani TCX, ani FIT</translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} positions outside the globe.</source>
+        <translation>
+            <numerusform>Vynechána {} poloha mimo zeměkouli.</numerusform>
+            <numerusform>Vynechány {} polohy mimo zeměkouli.</numerusform>
+            <numerusform>Vynecháno {} poloh mimo zeměkouli.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} speeds that no boat has.</source>
+        <translation>
+            <numerusform>Vynechána {} rychlost, jakou žádná loď nemá.</numerusform>
+            <numerusform>Vynechány {} rychlosti, jaké žádná loď nemá.</numerusform>
+            <numerusform>Vynecháno {} rychlostí, jaké žádná loď nemá.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} points without a date.</source>
+        <translation>
+            <numerusform>Vynechán {} bod bez data.</numerusform>
+            <numerusform>Vynechány {} body bez data.</numerusform>
+            <numerusform>Vynecháno {} bodů bez data.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} heart rates that are none.</source>
+        <translation>
+            <numerusform>Vynechána {} nemožná tepová frekvence.</numerusform>
+            <numerusform>Vynechány {} nemožné tepové frekvence.</numerusform>
+            <numerusform>Vynecháno {} nemožných tepových frekvencí.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} positions at the moment of another.</source>
+        <translation>
+            <numerusform>Vynechána {} poloha ve stejném okamžiku jako jiná.</numerusform>
+            <numerusform>Vynechány {} polohy ve stejném okamžiku jako jiná.</numerusform>
+            <numerusform>Vynecháno {} poloh ve stejném okamžiku jako jiná.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} heart rates at the moment of another.</source>
+        <translation>
+            <numerusform>Vynechána {} tepová frekvence ve stejném okamžiku jako jiná.</numerusform>
+            <numerusform>Vynechány {} tepové frekvence ve stejném okamžiku jako jiná.</numerusform>
+            <numerusform>Vynecháno {} tepových frekvencí ve stejném okamžiku jako jiná.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} way points and points of routes.</source>
+        <translation>
+            <numerusform>Vynechán {} bod trasy nebo navigační bod.</numerusform>
+            <numerusform>Vynechány {} body tras a navigační body.</numerusform>
+            <numerusform>Vynecháno {} bodů tras a navigačních bodů.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The speed of {} positions was computed from the positions around them.</source>
+        <translation>
+            <numerusform>Rychlost {} polohy byla vypočtena z okolních poloh.</numerusform>
+            <numerusform>Rychlost {} poloh byla vypočtena z okolních poloh.</numerusform>
+            <numerusform>Rychlost {} poloh byla vypočtena z okolních poloh.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the track has more than {} points</source>
+        <translation>stopa má více než {} bodů</translation>
+    </message>
+    <message>
+        <source>the XML is damaged: {}</source>
+        <translation>XML je poškozené: {}</translation>
+    </message>
+    <message>
+        <source>this XML is no track: neither GPX nor TCX</source>
+        <translation>toto XML není stopa: ani GPX, ani TCX</translation>
+    </message>
+    <message>
+        <source>a number was expected, found {}</source>
+        <translation>očekávalo se číslo, nalezeno: {}</translation>
+    </message>
+    <message>
+        <source>an integer was expected, found {}</source>
+        <translation>očekávalo se celé číslo, nalezeno: {}</translation>
+    </message>
+    <message>
+        <source>a boolean was expected, found {}</source>
+        <translation>očekávala se logická hodnota, nalezeno: {}</translation>
+    </message>
+    <message>
+        <source>a string was expected, found {}</source>
+        <translation>očekával se řetězec, nalezeno: {}</translation>
+    </message>
+    <message>
+        <source>a base64 string was expected, found {}</source>
+        <translation>očekával se řetězec v base64, nalezeno: {}</translation>
+    </message>
+    <message>
+        <source>an array was expected, found {}</source>
+        <translation>očekávalo se pole, nalezeno: {}</translation>
+    </message>
+    <message>
+        <source>an object was expected, found {}</source>
+        <translation>očekával se objekt, nalezeno: {}</translation>
+    </message>
+    <message>
+        <source>the integer {} is out of range</source>
+        <translation>celé číslo {} je mimo rozsah</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>pole</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>objekt</translation>
+    </message>
+    <message>
+        <source>an integer</source>
+        <translation>celé číslo</translation>
+    </message>
+    <message>
+        <source>a number that is no 64-bit integer</source>
+        <translation>číslo, které není celé 64bitové</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>řetězec</translation>
+    </message>
+    <message>
+        <source>a boolean</source>
+        <translation>logická hodnota</translation>
+    </message>
+    <message>
+        <source>something else</source>
+        <translation>něco jiného</translation>
+    </message>
+    <message>
+        <source>the key is missing</source>
+        <translation>klíč chybí</translation>
+    </message>
+    <message>
+        <source>a base64 string was expected, found other text</source>
+        <translation>očekával se řetězec v base64, nalezen jiný text</translation>
+    </message>
+    <message>
+        <source>a number that is not finite cannot be written</source>
+        <translation>číslo, které není konečné, nelze zapsat</translation>
+    </message>
+    <message>
+        <source>a text that is not valid UTF-8 cannot be written</source>
+        <translation>text, který není platné UTF-8, nelze zapsat</translation>
+    </message>
+    <message>
+        <source>waits {} s</source>
+        <translation>čeká {} s</translation>
+    </message>
+    <message>
+        <source>Section {}</source>
+        <translation>Úsek {}</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is none of {}</source>
+        <translation>„{}“ není žádné z {}</translation>
+    </message>
+    <message>
+        <source>{} is not a number from {} on</source>
+        <translation>{} není číslo od {} výš</translation>
+    </message>
+    <message>
+        <source>either two points or none are needed</source>
+        <translation>jsou potřeba buď dva body, nebo žádný</translation>
+    </message>
+    <message>
+        <source>a number from 1 to 2 was expected</source>
+        <translation>očekávalo se číslo od 1 do 2</translation>
+    </message>
+    <message>
+        <source>no path is named that could be drawn or followed</source>
+        <translation>není uvedena dráha, kterou by šlo nakreslit nebo sledovat</translation>
+    </message>
+    <message>
+        <source>{}: the size of its picture is missing</source>
+        <translation>{}: chybí velikost obrazu</translation>
+    </message>
+    <message numerus="yes">
+        <source>the split file has {} runs</source>
+        <translation>
+            <numerusform>soubor mezičasů má {} jízdu</numerusform>
+            <numerusform>soubor mezičasů má {} jízdy</numerusform>
+            <numerusform>soubor mezičasů má {} jízd</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the run has no film of this camera</source>
+        <translation>jízda nemá film z této kamery</translation>
+    </message>
+    <message>
+        <source>neither a film nor a split file is named</source>
+        <translation>není uveden ani film, ani soubor mezičasů</translation>
+    </message>
+    <message>
+        <source>a share from 0 to 1 was expected</source>
+        <translation>očekával se podíl od 0 do 1</translation>
+    </message>
+    <message>
+        <source>{} films; this layout takes 2 to 4</source>
+        <translation>filmů: {}; toto rozvržení bere 2 až 4</translation>
+    </message>
+    <message>
+        <source>{} films; this layout takes 2</source>
+        <translation>filmů: {}; toto rozvržení bere 2</translation>
+    </message>
+    <message>
+        <source>an even number from 160 to 4096 was expected</source>
+        <translation>očekávalo se sudé číslo od 160 do 4096</translation>
+    </message>
+    <message>
+        <source>the picture is larger than 1920 × 1080 and would not play everywhere</source>
+        <translation>obraz je větší než 1920 × 1080 a nepřehrál by se všude</translation>
+    </message>
+    <message>
+        <source>it does not lie behind {}</source>
+        <translation>neleží za {}</translation>
+    </message>
+    <message>
+        <source>a number from 0.125 to 1 was expected</source>
+        <translation>očekávalo se číslo od 0,125 do 1</translation>
+    </message>
+    <message>
+        <source>there is no film of this number; 0 is no sound</source>
+        <translation>film s tímto číslem není; 0 je bez zvuku</translation>
+    </message>
+    <message>
+        <source>films that lie over each other cannot follow a path</source>
+        <translation>filmy ležící přes sebe nemohou sledovat dráhu</translation>
+    </message>
+    <message>
+        <source>{}: the start lies outside the film, at {} s.</source>
+        <translation>{}: start leží mimo film, v čase {} s.</translation>
+    </message>
+    <message>
+        <source>{}: split {} lies outside the film, at {} s.</source>
+        <translation>{}: mezičas {} leží mimo film, v čase {} s.</translation>
+    </message>
+    <message>
+        <source>so large a picture would not play everywhere at {} frames a second</source>
+        <translation>tak velký obraz by se při {} snímcích za sekundu nepřehrál všude</translation>
+    </message>
+    <message>
+        <source>{} is not shown: {}.</source>
+        <translation>{} se nezobrazuje: {}.</translation>
+    </message>
+    <message>
+        <source>{} is cut off or damaged; it is shown as far as it goes.</source>
+        <translation>{}: useknuto nebo poškozeno; ukazuje se, kam až to jde.</translation>
+    </message>
+    <message>
+        <source>{}: at {} s a frame cannot be shown ({}); the last good one stays.</source>
+        <translation>{}: v čase {} s nelze snímek ukázat ({}); zůstává poslední dobrý.</translation>
+    </message>
+    <message>
+        <source>no film has a mark at this split</source>
+        <translation>žádný film nemá u tohoto mezičasu značku</translation>
+    </message>
+    <message>
+        <source>no run is marked at its start, so the range has to be given in seconds</source>
+        <translation>žádná jízda nemá označený start, rozsah je proto nutné zadat v sekundách</translation>
+    </message>
+    <message>
+        <source>its end does not lie behind its beginning</source>
+        <translation>jeho konec neleží za začátkem</translation>
+    </message>
+    <message>
+        <source>it cannot be decoded</source>
+        <translation>nelze ho dekódovat</translation>
+    </message>
+    <message>
+        <source>its pictures are in a format of no use</source>
+        <translation>obrazy jsou v nepoužitelném formátu</translation>
+    </message>
+    <message>
+        <source>the start is not marked on this film, so it cannot be held there</source>
+        <translation>start není v tomto filmu označen, nelze ho tam tedy pozdržet</translation>
+    </message>
+    <message>
+        <source>split {} is not marked on this film, so it cannot be held there</source>
+        <translation>mezičas {} není v tomto filmu označen, nelze ho tam tedy pozdržet</translation>
+    </message>
+    <message>
+        <source>{}: {}.</source>
+        <translation>{}: {}.</translation>
+    </message>
+    <message>
+        <source>the crew, in whatever order it is written</source>
+        <translation>posádka, ať je psána v jakémkoli pořadí</translation>
+    </message>
+    <message>
+        <source>category, however it is written (K1M, MK1)</source>
+        <translation>kategorie, ať je psána jakkoli (K1M, MK1)</translation>
+    </message>
+    <message>
+        <source>phase of the race</source>
+        <translation>fáze závodu</translation>
+    </message>
+    <message>
+        <source>side on which the athlete paddles</source>
+        <translation>strana, na které závodník pádluje</translation>
+    </message>
+    <message>
+        <source>place of the course</source>
+        <translation>místo trati</translation>
+    </message>
+    <message>
+        <source>title of the race</source>
+        <translation>název závodu</translation>
+    </message>
+    <message>
+        <source>event</source>
+        <translation>soutěž</translation>
+    </message>
+    <message>
+        <source>Race, Training or Test</source>
+        <translation>Race, Training nebo Test</translation>
+    </message>
+    <message>
+        <source>kind of water</source>
+        <translation>druh vody</translation>
+    </message>
+    <message>
+        <source>the file</source>
+        <translation>soubor</translation>
+    </message>
+    <message>
+        <source>2026-05-11; also 2026-05 or 2026</source>
+        <translation>2026-05-11; také 2026-05 nebo 2026</translation>
+    </message>
+    <message>
+        <source>year of the date</source>
+        <translation>rok data</translation>
+    </message>
+    <message>
+        <source>month of the date, 1 to 12</source>
+        <translation>měsíc data, 1 až 12</translation>
+    </message>
+    <message>
+        <source>of the run, with penalties</source>
+        <translation>jízdy, s penalizacemi</translation>
+    </message>
+    <message>
+        <source>of the run, without penalties</source>
+        <translation>jízdy, bez penalizací</translation>
+    </message>
+    <message>
+        <source>penalty seconds of the run</source>
+        <translation>trestné sekundy jízdy</translation>
+    </message>
+    <message>
+        <source>place among the runs that compete</source>
+        <translation>místo mezi soutěžícími jízdami</translation>
+    </message>
+    <message>
+        <source>position in the official list</source>
+        <translation>pozice v oficiálním seznamu</translation>
+    </message>
+    <message>
+        <source>number of the run in its file, from 0</source>
+        <translation>číslo jízdy v jejím souboru, od 0</translation>
+    </message>
+    <message>
+        <source>sprint time</source>
+        <translation>čas sprintu</translation>
+    </message>
+    <message>
+        <source>of the section, where both its marks were taken</source>
+        <translation>úseku, kde byly pořízeny obě značky</translation>
+    </message>
+    <message>
+        <source>from entrance to exit</source>
+        <translation>od nájezdu k výjezdu</translation>
+    </message>
+    <message>
+        <source>from entrance to the pole line</source>
+        <translation>od nájezdu k rovině branky</translation>
+    </message>
+    <message>
+        <source>from the pole line to the exit</source>
+        <translation>od roviny branky k výjezdu</translation>
+    </message>
+    <message>
+        <source>number of the gate</source>
+        <translation>číslo branky</translation>
+    </message>
+    <message>
+        <source>number of the section, from 1</source>
+        <translation>číslo úseku, od 1</translation>
+    </message>
+    <message>
+        <source>up for a section with an upstream gate, or down</source>
+        <translation>up pro úsek s protivodnou brankou, jinak down</translation>
+    </message>
+    <message>
+        <source>up: only upstream gates are timed by themselves</source>
+        <translation>up: samostatně se měří jen protivodné branky</translation>
+    </message>
+    <message>
+        <source>up for an upstream gate, or down</source>
+        <translation>up pro protivodnou branku, jinak down</translation>
+    </message>
+    <message>
+        <source>penalty seconds in the section</source>
+        <translation>trestné sekundy v úseku</translation>
+    </message>
+    <message>
+        <source>strokes on the left</source>
+        <translation>záběry vlevo</translation>
+    </message>
+    <message>
+        <source>strokes on the right</source>
+        <translation>záběry vpravo</translation>
+    </message>
+    <message>
+        <source>strokes marked in the section</source>
+        <translation>záběry označené v úseku</translation>
+    </message>
+    <message>
+        <source>side to which the boat turns</source>
+        <translation>strana, na kterou se loď otáčí</translation>
+    </message>
+    <message>
+        <source>how the gate is paddled</source>
+        <translation>jak se branka projíždí</translation>
+    </message>
+    <message>
+        <source>of the penalty</source>
+        <translation>penalizace</translation>
+    </message>
+    <message>
+        <source>touch, or how the gate was missed</source>
+        <translation>ťuk, nebo jak branka nebyla projeta</translation>
+    </message>
+    <message>
+        <source>kind of gate</source>
+        <translation>druh branky</translation>
+    </message>
+    <message>
+        <source>which pole</source>
+        <translation>která tyč</translation>
+    </message>
+    <message>
+        <source>what touched, or how the gate was missed</source>
+        <translation>čím byl ťuk, nebo jak branka nebyla projeta</translation>
+    </message>
+    <message>
+        <source>where in the gate</source>
+        <translation>kde v brance</translation>
+    </message>
+    <message>
+        <source>how the boat was moving</source>
+        <translation>jak se loď pohybovala</translation>
+    </message>
+    <message>
+        <source>how the gate was paddled</source>
+        <translation>jak se branka projela</translation>
+    </message>
+    <message>
+        <source>where the athlete looked</source>
+        <translation>kam se závodník díval</translation>
+    </message>
+    <message>
+        <source>below 0 for time gained</source>
+        <translation>pod 0 u získaného času</translation>
+    </message>
+    <message>
+        <source>of the other run&apos;s time</source>
+        <translation>z času druhé jízdy</translation>
+    </message>
+    <message>
+        <source>against whom</source>
+        <translation>proti komu</translation>
+    </message>
+    <message>
+        <source>reasons noted</source>
+        <translation>zapsané důvody</translation>
+    </message>
+    <message>
+        <source>combination of gates</source>
+        <translation>kombinace branek</translation>
+    </message>
+    <message>
+        <source>part of the gate</source>
+        <translation>část branky</translation>
+    </message>
+    <message>
+        <source>how the stretch was paddled</source>
+        <translation>jak se část projela</translation>
+    </message>
+    <message>
+        <source>the water there</source>
+        <translation>voda v tom místě</translation>
+    </message>
+    <message>
+        <source>the word of a mark</source>
+        <translation>slovo štítku</translation>
+    </message>
+    <message>
+        <source>Behind &quot;{}&quot; stands &quot;{}&quot;, which is a condition.</source>
+        <translation>Za „{}“ stojí „{}“, což je podmínka.</translation>
+    </message>
+    <message>
+        <source>Only values can stand here.</source>
+        <translation>Zde mohou být jen hodnoty.</translation>
+    </message>
+    <message>
+        <source>One limit stands here, such as 4 or {}4.</source>
+        <translation>Zde je jedna mez, například 4 nebo {}4.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; needs the name of a column.</source>
+        <translation>„{}“ potřebuje název sloupce.</translation>
+    </message>
+    <message>
+        <source>Before a value stands the name of its column, such as athlete or text.</source>
+        <translation>Před hodnotou je název jejího sloupce, například athlete nebo text.</translation>
+    </message>
+    <message>
+        <source>Before &quot;{}&quot; stands the name of a column.</source>
+        <translation>Před „{}“ je název sloupce.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; needs a value.</source>
+        <translation>„{}“ potřebuje hodnotu.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; needs a value; one of our own words stands in quotes.</source>
+        <translation>„{}“ potřebuje hodnotu; naše vlastní slovo se dává do uvozovek.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is a text: it is compared by = and != alone.</source>
+        <translation>„{}“ je text: porovnává se jen pomocí = a !=.</translation>
+    </message>
+    <message>
+        <source>There is nothing in the quotes.</source>
+        <translation>V uvozovkách nic není.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; has words for values: it is compared by = and != alone.</source>
+        <translation>„{}“ má za hodnoty slova: porovnává se jen pomocí = a !=.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no day: write 2026-05-11, or 2026-05, or 2026.</source>
+        <translation>„{}“ není den: napište 2026-05-11, nebo 2026-05, nebo 2026.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no {}.</source>
+        <translation>„{}“ není hodnota {}.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no number.</source>
+        <translation>„{}“ není číslo.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is not told of {}, but of {}.</source>
+        <translation>„{}“ se neuvádí u {}, ale u {}.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; means nothing in a query about {}.</source>
+        <translation>„{}“ v dotazu na {} nic neznamená.</translation>
+    </message>
+    <message>
+        <source>A value of several words stands in quotes.</source>
+        <translation>Hodnota z více slov se dává do uvozovek.</translation>
+    </message>
+    <message>
+        <source>Nearly every row has a {} of its own.</source>
+        <translation>Téměř každý řádek má vlastní hodnotu {}.</translation>
+    </message>
+    <message>
+        <source>Groups are made by three columns at most.</source>
+        <translation>Skupiny se tvoří nejvýše podle tří sloupců.</translation>
+    </message>
+    <message>
+        <source>There is one &quot;best&quot; already.</source>
+        <translation>Jedno „best“ už zde je.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no number, of which one could be the best.</source>
+        <translation>„{}“ není číslo, z něhož by jedno mohlo být nejlepší.</translation>
+    </message>
+    <message>
+        <source>There is one &quot;sort&quot; already.</source>
+        <translation>Jedno „sort“ už zde je.</translation>
+    </message>
+    <message>
+        <source>Groups are sorted by what makes them, or by count, best, mean or median.</source>
+        <translation>Skupiny se řadí podle toho, co je tvoří, nebo podle count, best, mean či median.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no number of rows.</source>
+        <translation>„{}“ není počet řádků.</translation>
+    </message>
+    <message>
+        <source>The quote is not closed.</source>
+        <translation>Uvozovky nejsou uzavřeny.</translation>
+    </message>
+    <message>
+        <source>&quot;!&quot; stands only in &quot;!=&quot;.</source>
+        <translation>„!“ je jen v „!=“.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>není na to dost paměti</translation>
+    </message>
+    <message>
+        <source>There is no bib.</source>
+        <translation>Chybí startovní číslo.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no bib.</source>
+        <translation>„{}“ není startovní číslo.</translation>
+    </message>
+    <message>
+        <source>The official results of the file have no bib for this crew.</source>
+        <translation>Oficiální výsledky v souboru nemají pro tuto posádku startovní číslo.</translation>
+    </message>
+    <message>
+        <source>No bib was found in {}. A list needs a column called &quot;bib&quot;; a split file needs its official results.</source>
+        <translation>V {} nebylo nalezeno žádné startovní číslo. Seznam potřebuje sloupec „bib“; soubor mezičasů potřebuje oficiální výsledky.</translation>
+    </message>
+    <message>
+        <source>The answer is no WebDAV folder.</source>
+        <translation>Odpověď není složka WebDAV.</translation>
+    </message>
+    <message>
+        <source>The answer is no WebDAV folder: {}</source>
+        <translation>Odpověď není složka WebDAV: {}</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Zrušeno.</translation>
+    </message>
+    <message>
+        <source>The folder takes no file: {}</source>
+        <translation>Složka nepřijímá soubory: {}</translation>
+    </message>
+    <message>
+        <source>The server sends more than it announced.</source>
+        <translation>Server posílá víc, než ohlásil.</translation>
+    </message>
+    <message>
+        <source>The job has brought 20 GB, which is the most in one go.</source>
+        <translation>Úloha přinesla 20 GB, což je najednou nejvíc.</translation>
+    </message>
+    <message>
+        <source>The disk does not take the file: {}</source>
+        <translation>Disk soubor nepřijímá: {}</translation>
+    </message>
+    <message>
+        <source>The file broke off before its end.</source>
+        <translation>Soubor se před koncem přerušil.</translation>
+    </message>
+    <message>
+        <source>The server sent nothing.</source>
+        <translation>Server nic neposlal.</translation>
+    </message>
+    <message>
+        <source>The disk does not take the file.</source>
+        <translation>Disk soubor nepřijímá.</translation>
+    </message>
+    <message numerus="yes">
+        <source>After {} tries it was given up for now.</source>
+        <translation>
+            <numerusform>Po {} pokusu bylo od toho prozatím upuštěno.</numerusform>
+            <numerusform>Po {} pokusech bylo od toho prozatím upuštěno.</numerusform>
+            <numerusform>Po {} pokusech bylo od toho prozatím upuštěno.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it has no pictures</source>
+        <translation>nemá obraz</translation>
+    </message>
+    <message>
+        <source>What the server sent is no film: {}.</source>
+        <translation>To, co server poslal, není film: {}.</translation>
+    </message>
+    <message>
+        <source>The pieces of the film do not fit together: {}.</source>
+        <translation>Kousky filmu k sobě nepasují: {}.</translation>
+    </message>
+    <message>
+        <source>The pieces of the film could not be put together: {}.</source>
+        <translation>Kousky filmu nebylo možné spojit: {}.</translation>
+    </message>
+    <message>
+        <source>The playlists lead from one to the other without an end.</source>
+        <translation>Seznamy přehrávání odkazují jeden na druhý bez konce.</translation>
+    </message>
+    <message>
+        <source>Pieces of the film lie on {}, which is not ticked.</source>
+        <translation>Kousky filmu leží na {}, což není zaškrtnuto.</translation>
+    </message>
+    <message>
+        <source>A piece of the film is missing: {}</source>
+        <translation>Chybí kousek filmu: {}</translation>
+    </message>
+    <message>
+        <source>The list is no JSON: {}</source>
+        <translation>Seznam není JSON: {}</translation>
+    </message>
+    <message>
+        <source>This playlist is one film in pieces and no list of films. Give its address with {bib} in it.</source>
+        <translation>Tento seznam přehrávání je jeden film v kouscích, ne seznam filmů. Zadejte jeho adresu s {bib} uvnitř.</translation>
+    </message>
+    <message>
+        <source>Another program has changed it.</source>
+        <translation>Změnil ho jiný program.</translation>
+    </message>
+    <message>
+        <source>The server has no such list.</source>
+        <translation>Server takový seznam nemá.</translation>
+    </message>
+    <message>
+        <source>The address is there and names no film.</source>
+        <translation>Adresa existuje, ale neuvádí žádný film.</translation>
+    </message>
+    <message>
+        <source>The playlist has no piece of a film.</source>
+        <translation>Seznam přehrávání nemá žádný kousek filmu.</translation>
+    </message>
+    <message>
+        <source>The film is still growing: its playlist has no end yet.</source>
+        <translation>Film ještě přibývá: jeho seznam přehrávání zatím nemá konec.</translation>
+    </message>
+    <message>
+        <source>The playlist leads to something else than a server: {}</source>
+        <translation>Seznam přehrávání odkazuje na něco jiného než server: {}</translation>
+    </message>
+    <message>
+        <source>The playlist does not end: it has more than {} pieces.</source>
+        <translation>Seznam přehrávání nekončí: má více než {} kousků.</translation>
+    </message>
+    <message>
+        <source>The film is protected by &quot;{}&quot;, which only its maker&apos;s programs open.</source>
+        <translation>Film je chráněn pomocí „{}“, což otevřou jen programy jeho tvůrce.</translation>
+    </message>
+    <message>
+        <source>The server sent a part that nobody asked for.</source>
+        <translation>Server poslal část, o kterou nikdo nežádal.</translation>
+    </message>
+    <message>
+        <source>The file was changed meanwhile.</source>
+        <translation>Soubor se mezitím změnil.</translation>
+    </message>
+    <message>
+        <source>The server went on from another place than it was asked to.</source>
+        <translation>Server pokračoval od jiného místa, než se žádalo.</translation>
+    </message>
+    <message>
+        <source>The server packs the file in a way that was not asked for.</source>
+        <translation>Server soubor balí způsobem, o který se nežádalo.</translation>
+    </message>
+    <message>
+        <source>The server has no more of the file.</source>
+        <translation>Server už ze souboru víc nemá.</translation>
+    </message>
+    <message>
+        <source>Not there yet.</source>
+        <translation>Zatím zde není.</translation>
+    </message>
+    <message>
+        <source>The server asks for fewer questions.</source>
+        <translation>Server žádá o méně dotazů.</translation>
+    </message>
+    <message>
+        <source>The server leads in a circle.</source>
+        <translation>Server odkazuje v kruhu.</translation>
+    </message>
+    <message>
+        <source>The server leads to an address that is none.</source>
+        <translation>Server odkazuje na neplatnou adresu.</translation>
+    </message>
+    <message>
+        <source>The server leads from https to http, which anybody can read and change.</source>
+        <translation>Server odkazuje z https na http, které může kdokoli číst a měnit.</translation>
+    </message>
+    <message>
+        <source>The server leads to another one, {}, which is not ticked.</source>
+        <translation>Server odkazuje na jiný, {}, který není zaškrtnut.</translation>
+    </message>
+    <message>
+        <source>The film could not be given its name: {}</source>
+        <translation>Filmu nebylo možné dát jeho jméno: {}</translation>
+    </message>
+    <message>
+        <source>The film is not what its checksum says.</source>
+        <translation>Film neodpovídá svému kontrolnímu součtu.</translation>
+    </message>
+    <message>
+        <source>The answer is longer than any list is.</source>
+        <translation>Odpověď je delší než jakýkoli seznam.</translation>
+    </message>
+    <message>
+        <source>A link in the folder leads out of it, and is not followed.</source>
+        <translation>Odkaz ve složce vede mimo ni a nepřechází se na něj.</translation>
+    </message>
+    <message>
+        <source>The folder could not be made on the server: {}</source>
+        <translation>Složku nebylo možné na serveru vytvořit: {}</translation>
+    </message>
+    <message>
+        <source>The server does not know its own mark of this file again.</source>
+        <translation>Server nepoznává vlastní značku tohoto souboru.</translation>
+    </message>
+    <message>
+        <source>a name of small letters, digits and dashes was expected</source>
+        <translation>očekávalo se jméno z malých písmen, číslic a pomlček</translation>
+    </message>
+    <message>
+        <source>an https address was expected</source>
+        <translation>očekávala se adresa https</translation>
+    </message>
+    <message>
+        <source>it does not end in the plain name of a file</source>
+        <translation>nekončí prostým jménem souboru</translation>
+    </message>
+    <message>
+        <source>1 to {} bytes were expected</source>
+        <translation>očekávalo se 1 až {} bajtů</translation>
+    </message>
+    <message>
+        <source>64 small hexadecimal digits were expected</source>
+        <translation>očekávalo se 64 malých šestnáctkových číslic</translation>
+    </message>
+    <message>
+        <source>it is longer than any manifest is</source>
+        <translation>je delší než jakýkoli seznam verzí</translation>
+    </message>
+    <message>
+        <source>three numbers such as 0.32.0 were expected</source>
+        <translation>očekávala se tři čísla, například 0.32.0</translation>
+    </message>
+    <message>
+        <source>a date such as 2026-11-22 was expected</source>
+        <translation>očekávalo se datum, například 2026-11-22</translation>
+    </message>
+    <message>
+        <source>a plain text of at most 100,000 bytes was expected</source>
+        <translation>očekával se prostý text o nejvýše 100&#xa0;000 bajtech</translation>
+    </message>
+    <message>
+        <source>there is a file for it already</source>
+        <translation>soubor pro ni už existuje</translation>
+    </message>
+    <message>
+        <source>The address of the file is none that is asked.</source>
+        <translation>Adresa souboru není z těch, na které se ptá.</translation>
+    </message>
+    <message>
+        <source>The folder takes no file: {}.</source>
+        <translation>Složka nepřijímá soubory: {}.</translation>
+    </message>
+    <message>
+        <source>The server sent another part of the file than it was asked for.</source>
+        <translation>Server poslal jinou část souboru, než se žádalo.</translation>
+    </message>
+    <message>
+        <source>The file on the server is not as long as the list of versions says.</source>
+        <translation>Soubor na serveru není tak dlouhý, jak uvádí seznam verzí.</translation>
+    </message>
+    <message>
+        <source>The disk does not take the file: {}.</source>
+        <translation>Disk soubor nepřijímá: {}.</translation>
+    </message>
+    <message>
+        <source>The file on the server is longer than the list of versions says. It was deleted.</source>
+        <translation>Soubor na serveru je delší, než uvádí seznam verzí. Byl smazán.</translation>
+    </message>
+    <message>
+        <source>The file is not the one of the list of versions: it is damaged, or was changed. It was deleted.</source>
+        <translation>Soubor není ten ze seznamu verzí: je poškozený nebo byl změněn. Byl smazán.</translation>
+    </message>
+    <message numerus="yes">
+        <source>It was given up after {} tries.</source>
+        <translation>
+            <numerusform>Po {} pokusu bylo od toho upuštěno.</numerusform>
+            <numerusform>Po {} pokusech bylo od toho upuštěno.</numerusform>
+            <numerusform>Po {} pokusech bylo od toho upuštěno.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The list of versions is longer than it may be.</source>
+        <translation>Seznam verzí je delší, než smí být.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not on the server.</source>
+        <translation>Seznam verzí na serveru není.</translation>
+    </message>
+    <message>
+        <source>The list of versions lies on another server, {}, which is not asked.</source>
+        <translation>Seznam verzí leží na jiném serveru, {}, kterého se program neptá.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not given out by the server.</source>
+        <translation>Seznam verzí server nevydává.</translation>
+    </message>
+    <message>
+        <source>The signature of the list of versions is longer than it may be.</source>
+        <translation>Podpis seznamu verzí je delší, než smí být.</translation>
+    </message>
+    <message>
+        <source>The signature of the list of versions is not on the server.</source>
+        <translation>Podpis seznamu verzí na serveru není.</translation>
+    </message>
+    <message>
+        <source>The signature of the list of versions lies on another server, {}, which is not asked.</source>
+        <translation>Podpis seznamu verzí leží na jiném serveru, {}, kterého se program neptá.</translation>
+    </message>
+    <message>
+        <source>The signature of the list of versions is not given out by the server.</source>
+        <translation>Podpis seznamu verzí server nevydává.</translation>
+    </message>
+    <message>
+        <source>The file is longer than it may be.</source>
+        <translation>Soubor je delší, než smí být.</translation>
+    </message>
+    <message>
+        <source>The file is not on the server.</source>
+        <translation>Soubor na serveru není.</translation>
+    </message>
+    <message>
+        <source>The file lies on another server, {}, which is not asked.</source>
+        <translation>Soubor leží na jiném serveru, {}, kterého se program neptá.</translation>
+    </message>
+    <message>
+        <source>The file is not given out by the server.</source>
+        <translation>Soubor server nevydává.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not signed. It is not used.</source>
+        <translation>Seznam verzí není podepsán. Nepoužije se.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not signed by who makes Kavela: it is damaged, or somebody else&apos;s. It is not used.</source>
+        <translation>Seznam verzí nepodepsali tvůrci programu Kavela: je poškozený nebo cizí. Nepoužije se.</translation>
+    </message>
+    <message>
+        <source>The list of versions is damaged and not used: {}.</source>
+        <translation>Seznam verzí je poškozený a nepoužije se: {}.</translation>
+    </message>
+    <message>
+        <source>The server offers version {}, which is older than {}, the one you have. It is not used.</source>
+        <translation>Server nabízí verzi {}, která je starší než {}, kterou máte. Nepoužije se.</translation>
+    </message>
+    <message>
+        <source>The server offers version {}, which is older than {}, which it had before. It is not used.</source>
+        <translation>Server nabízí verzi {}, která je starší než {}, kterou měl dříve. Nepoužije se.</translation>
+    </message>
+    <message>
+        <source>Version {} is the newest one.</source>
+        <translation>Verze {} je nejnovější.</translation>
+    </message>
+    <message>
+        <source>There is a version {}, but no file of it for this computer ({}).</source>
+        <translation>Existuje verze {}, ale není k ní soubor pro tento počítač ({}).</translation>
+    </message>
+    <message>
+        <source>no decoder for {}</source>
+        <translation>chybí dekodér pro {}</translation>
+    </message>
+    <message>
+        <source>the film is cut off or damaged: the list of its frames is missing</source>
+        <translation>film je useknutý nebo poškozený: chybí seznam jeho snímků</translation>
+    </message>
+    <message>
+        <source>this is no video that can be read, or it is damaged</source>
+        <translation>to není čitelné video, nebo je poškozené</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Takový soubor ani složka neexistuje</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>To je složka</translation>
+    </message>
+    <message>
+        <source>there is no video in this file</source>
+        <translation>v tomto souboru není video</translation>
+    </message>
+    <message>
+        <source>there is no sound in this film</source>
+        <translation>v tomto filmu není zvuk</translation>
+    </message>
+    <message>
+        <source>there is no video in this file, only a picture</source>
+        <translation>v tomto souboru není video, jen obrázek</translation>
+    </message>
+    <message>
+        <source>the film has no clock</source>
+        <translation>film nemá hodiny</translation>
+    </message>
+    <message>
+        <source>the film could not be read any further</source>
+        <translation>film nebylo možné číst dál</translation>
+    </message>
+    <message>
+        <source>{:.3f} s</source>
+        <translation>{:.3f} s</translation>
+    </message>
+    <message numerus="yes">
+        <source>The file is cut off: {} frames missing at its end.</source>
+        <translation>
+            <numerusform>Soubor je useknutý: na konci chybí {} snímek.</numerusform>
+            <numerusform>Soubor je useknutý: na konci chybí {} snímky.</numerusform>
+            <numerusform>Soubor je useknutý: na konci chybí {} snímků.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file is cut off or damaged: its end is missing.</source>
+        <translation>Soubor je useknutý nebo poškozený: chybí jeho konec.</translation>
+    </message>
+    <message>
+        <source>The file does not say when each frame was shown: times are estimated from its frame rate.</source>
+        <translation>Soubor neříká, kdy byl který snímek zobrazen: časy jsou odhadnuty ze snímkové frekvence.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} frames left out that had the time of another frame.</source>
+        <translation>
+            <numerusform>Vynechán {} snímek, který měl čas jiného snímku.</numerusform>
+            <numerusform>Vynechány {} snímky, které měly čas jiného snímku.</numerusform>
+            <numerusform>Vynecháno {} snímků, které měly čas jiného snímku.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The frame rate varies, from {} to {} frames a second.</source>
+        <translation>Snímková frekvence kolísá od {} do {} snímků za sekundu.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} gaps</source>
+        <translation>
+            <numerusform>{} mezera</numerusform>
+            <numerusform>{} mezery</numerusform>
+            <numerusform>{} mezer</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} where frames are missing, the longest of {} at {}.</source>
+        <translation>{}, kde chybějí snímky; nejdelší trvá {}, v čase {}.</translation>
+    </message>
+    <message>
+        <source>About {} of {} frames repeat the picture before them.</source>
+        <translation>Asi {} z {} snímků opakuje předchozí obraz.</translation>
+    </message>
+    <message>
+        <source>Slow motion: recorded at {} frames a second, plays at {}. Times taken from it are {} times too long.</source>
+        <translation>Zpomalený záběr: pořízen rychlostí {} snímků za sekundu, přehrává se rychlostí {}. Časy z něj jsou {}krát delší.</translation>
+    </message>
+    <message>
+        <source>The film starts at {}, not at 0.</source>
+        <translation>Film začíná v čase {}, ne v 0.</translation>
+    </message>
+    <message>
+        <source>The file has no list of its frames: it had to be read from end to end.</source>
+        <translation>Soubor nemá seznam svých snímků: bylo nutné ho přečíst celý.</translation>
+    </message>
+    <message>
+        <source>Recorded turned by {}°, and shown upright.</source>
+        <translation>Pořízeno otočené o {}°, zobrazuje se vzpřímeně.</translation>
+    </message>
+    <message>
+        <source>Interlaced: each frame holds two moments half a frame apart.</source>
+        <translation>Prokládané: každý snímek obsahuje dva okamžiky půl snímku od sebe.</translation>
+    </message>
+    <message>
+        <source>{} bits a colour, shown with 8.</source>
+        <translation>{} bitů na barvu, zobrazuje se s 8.</translation>
+    </message>
+    <message>
+        <source>no frame of the video can be read</source>
+        <translation>žádný snímek videa nelze přečíst</translation>
+    </message>
+    <message>
+        <source>no frame of the video can be decoded</source>
+        <translation>žádný snímek videa nelze dekódovat</translation>
+    </message>
+    <message>
+        <source>The film could not be encoded: {}</source>
+        <translation>Film nebylo možné zakódovat: {}</translation>
+    </message>
+    <message>
+        <source>A picture could not be made: {}</source>
+        <translation>Obraz nebylo možné vytvořit: {}</translation>
+    </message>
+    <message>
+        <source>Films cannot be made on this computer: the installed libavcodec has no encoder for H.264 (libx264).</source>
+        <translation>Na tomto počítači nelze tvořit filmy: nainstalovaná libavcodec nemá kodér pro H.264 (libx264).</translation>
+    </message>
+    <message>
+        <source>Films with sound cannot be made on this computer: the installed libavcodec has no encoder for AAC.</source>
+        <translation>Na tomto počítači nelze tvořit filmy se zvukem: nainstalovaná libavcodec nemá kodér pro AAC.</translation>
+    </message>
+    <message>
+        <source>The encoder for H.264 could not be started: {}</source>
+        <translation>Kodér pro H.264 nebylo možné spustit: {}</translation>
+    </message>
+    <message>
+        <source>The encoder for sound could not be started: {}</source>
+        <translation>Kodér zvuku nebylo možné spustit: {}</translation>
+    </message>
+    <message>
+        <source>Sound could not be encoded: {}</source>
+        <translation>Zvuk nebylo možné zakódovat: {}</translation>
+    </message>
+    <message>
+        <source>The film could not be ended: {}</source>
+        <translation>Film nebylo možné dokončit: {}</translation>
+    </message>
+    <message>
+        <source>Films cannot be written on this computer: {}</source>
+        <translation>Na tomto počítači nelze zapisovat filmy: {}</translation>
+    </message>
+    <message>
+        <source>The film could not be put together: {}</source>
+        <translation>Film nebylo možné sestavit: {}</translation>
+    </message>
+    <message>
+        <source>The film could not be begun: {}</source>
+        <translation>Film nebylo možné začít: {}</translation>
+    </message>
+    <message>
+        <source>the piece could not be found in the film</source>
+        <translation>kousek nebyl ve filmu nalezen</translation>
+    </message>
+    <message>
+        <source>it was written by a newer release</source>
+        <translation>zapsala to novější verze</translation>
+    </message>
+    <message>
+        <source>rows and columns from 1 to 2000 were expected</source>
+        <translation>očekávalo se 1 až 2000 řádků a sloupců</translation>
+    </message>
+    <message>
+        <source>&quot;accepted&quot;, &quot;moved&quot;, &quot;refused&quot; or &quot;missed&quot; expected</source>
+        <translation>očekávalo se „accepted“, „moved“, „refused“ nebo „missed“</translation>
+    </message>
+    <message>
+        <source>there are more bands than a recording holds</source>
+        <translation>pásů je víc, než záznam pojme</translation>
+    </message>
+    <message>
+        <source>it is no recording of bands, or damaged: {}</source>
+        <translation>to není záznam pásů, nebo je poškozený: {}</translation>
+    </message>
+    <message>
+        <source>the recording could not be put together</source>
+        <translation>záznam nebylo možné sestavit</translation>
+    </message>
+    <message>
+        <source>it is no recording of bands: {} is missing</source>
+        <translation>to není záznam pásů: chybí {}</translation>
+    </message>
+    <message>
+        <source>the recording is damaged: {} cannot be read</source>
+        <translation>záznam je poškozený: {} nelze přečíst</translation>
+    </message>
+    <message>
+        <source>the recording could not be put together: {}</source>
+        <translation>záznam nebylo možné sestavit: {}</translation>
+    </message>
+    <message>
+        <source>it cannot be opened</source>
+        <translation>nelze ho otevřít</translation>
+    </message>
+    <message>
+        <source>each needs its bands</source>
+        <translation>každý potřebuje své pásy</translation>
+    </message>
+    <message>
+        <source>their number is not that of the bands</source>
+        <translation>jejich počet není počtem pásů</translation>
+    </message>
+    <message>
+        <source>the recording is larger than any that is written</source>
+        <translation>záznam je větší než jakýkoli, který se zapisuje</translation>
+    </message>
+    <message>
+        <source>there is no proposal or correction to be saved</source>
+        <translation>není žádný návrh ani oprava k uložení</translation>
+    </message>
+    <message>
+        <source>The search for boats was not measured.</source>
+        <translation>Hledání lodí nebylo měřeno.</translation>
+    </message>
+    <message>
+        <source>Measured on {} scenes of real water ({} runs, {:.0f} minutes): {:.1f} % of the runs found (asked: {:.0f} %), {:.1f} false proposals an hour (asked: at most {:g}), an error of at most {:.1f} frames for 95 of 100 (asked: {:g}).</source>
+        <translation>Měřeno na scénách na skutečné vodě (scén: {}, jízd: {}, minut: {:.0f}): nalezeno {:.1f}&#xa0;% jízd (požadováno: {:.0f}&#xa0;%), falešných návrhů za hodinu: {:.1f} (požadováno: nejvýše {:g}), chyba nejvýše {:.1f} snímku u 95 ze 100 (požadováno: {:g}).</translation>
+    </message>
+    <message>
+        <source>Measured on {} scenes of rendered water ({} runs, {:.0f} minutes): {:.1f} % of the runs found (asked: {:.0f} %), {:.1f} false proposals an hour (asked: at most {:g}), an error of at most {:.1f} frames for 95 of 100 (asked: {:g}).</source>
+        <translation>Měřeno na scénách na vykreslené vodě (scén: {}, jízd: {}, minut: {:.0f}): nalezeno {:.1f}&#xa0;% jízd (požadováno: {:.0f}&#xa0;%), falešných návrhů za hodinu: {:.1f} (požadováno: nejvýše {:g}), chyba nejvýše {:.1f} snímku u 95 ze 100 (požadováno: {:g}).</translation>
+    </message>
+    <message>
+        <source>The frame of the box cannot be shown.</source>
+        <translation>Snímek s rámečkem nelze zobrazit.</translation>
+    </message>
+    <message>
+        <source>the box round a boat has no size</source>
+        <translation>rámeček kolem lodi nemá velikost</translation>
+    </message>
+    <message>
+        <source>the box round a boat is larger than the picture</source>
+        <translation>rámeček kolem lodi je větší než obraz</translation>
+    </message>
+    <message>
+        <source>the film has no frames from {:.2f} s to {:.2f} s</source>
+        <translation>film nemá od {:.2f} s do {:.2f} s žádné snímky</translation>
+    </message>
+    <message>
+        <source>The film ends early: the file is cut off.</source>
+        <translation>Film končí předčasně: soubor je useknutý.</translation>
+    </message>
+    <message>
+        <source>The box is too small: it needs 8 pixels each way at least.</source>
+        <translation>Rámeček je příliš malý: potřebuje na každou stranu aspoň 8 pixelů.</translation>
+    </message>
+    <message>
+        <source>The box does not lie within the picture, which has {} × {} pixels.</source>
+        <translation>Rámeček neleží v obraze, který má {} × {} pixelů.</translation>
+    </message>
+    <message>
+        <source>There is nothing in the box that could be known again: it has one colour all over.</source>
+        <translation>V rámečku není nic, co by šlo znovu poznat: celý má jednu barvu.</translation>
+    </message>
+    <message>
+        <source>It is not known how the camera moved between the path and the frame of the known points. Click them in a frame of the path.</source>
+        <translation>Není známo, jak se kamera pohnula mezi dráhou a snímkem známých bodů. Klikněte na ně ve snímku dráhy.</translation>
+    </message>
+    <message>
+        <source>version {} is of a later release</source>
+        <translation>verze {} je z pozdějšího vydání programu</translation>
+    </message>
+    <message>
+        <source>the line&apos;s end at {}, {} lies outside the picture of {} × {} pixels</source>
+        <translation>konec čáry v bodě {}, {} leží mimo obraz {} × {} pixelů</translation>
+    </message>
+    <message>
+        <source>the line is shorter than {} pixels</source>
+        <translation>čára je kratší než {} pixelů</translation>
+    </message>
+    <message>
+        <source>The camera was held in the hand, or nothing in the picture stands still: the search for boats needs a camera on a tripod.</source>
+        <translation>Kamera byla držena v ruce, nebo v obraze nic nestojí: hledání lodí potřebuje kameru na stativu.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} frames could not be read and were passed over.</source>
+        <translation>
+            <numerusform>{} snímek nebylo možné přečíst a byl přeskočen.</numerusform>
+            <numerusform>{} snímky nebylo možné přečíst a byly přeskočeny.</numerusform>
+            <numerusform>{} snímků nebylo možné přečíst a bylo přeskočeno.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>a frame from 0 on was expected</source>
+        <translation>očekával se snímek od 0 výš</translation>
+    </message>
+    <message>
+        <source>it does not lie behind the frame before</source>
+        <translation>neleží za předchozím snímkem</translation>
+    </message>
+    <message>
+        <source>no film has so many frames</source>
+        <translation>žádný film nemá tolik snímků</translation>
+    </message>
+    <message>
+        <source>it lies beyond all pictures</source>
+        <translation>leží mimo všechny obrazy</translation>
+    </message>
+    <message>
+        <source>four known points were expected, or two for a scale only</source>
+        <translation>očekávaly se čtyři známé body, nebo dva jen pro měřítko</translation>
+    </message>
+    <message>
+        <source>the box has no size</source>
+        <translation>rámeček nemá velikost</translation>
+    </message>
+    <message>
+        <source>a size above 0 was expected</source>
+        <translation>očekávala se velikost nad 0</translation>
+    </message>
+    <message>
+        <source>it makes the picture vanish</source>
+        <translation>obraz by tím zmizel</translation>
+    </message>
+    <message>
+        <source>Three of the four known points lie on a line: they have to be the corners of a field, such as the poles of two gates.</source>
+        <translation>Tři ze čtyř známých bodů leží v přímce: musí být rohy plochy, například tyče dvou branek.</translation>
+    </message>
+    <message>
+        <source>Metres need four known points on the water, or two for a scale only; there are {}.</source>
+        <translation>Metry potřebují čtyři známé body na vodě, nebo dva jen pro měřítko; bodů je {}.</translation>
+    </message>
+    <message>
+        <source>The two known points lie on one spot.</source>
+        <translation>Oba známé body leží na jednom místě.</translation>
+    </message>
+    <message>
+        <source>The four known points do not fit together: no view of flat water shows them so.</source>
+        <translation>Čtyři známé body k sobě nepasují: žádný pohled na rovnou vodu je tak neukáže.</translation>
+    </message>
+    <message>
+        <source>The four known points do not fit together: no view of flat water shows them so. Were two of them exchanged?</source>
+        <translation>Čtyři známé body k sobě nepasují: žádný pohled na rovnou vodu je tak neukáže. Nebyly dva z nich zaměněny?</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -21417,6 +22989,13 @@ a dalších %1</translation>
     <message>
         <source>Stop and close</source>
         <translation>Zastavit a zavřít</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SharedRows</name>
+    <message>
+        <source>Share</source>
+        <translation>Sdílet</translation>
     </message>
 </context>
 <context>

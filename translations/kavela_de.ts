@@ -7588,6 +7588,1561 @@
             <numerusform>90-%-Intervall, {} Läufe</numerusform>
         </translation>
     </message>
+    <message>
+        <source>column {}: “{}” is no date</source>
+        <translation>Spalte {}: „{}“ ist kein Datum</translation>
+    </message>
+    <message>
+        <source>column {}: “{}” is no number</source>
+        <translation>Spalte {}: „{}“ ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>the line ends before its time</source>
+        <translation>die Zeile endet vor ihrer Zeit</translation>
+    </message>
+    <message>
+        <source>an axis of the acceleration is missing</source>
+        <translation>eine Achse der Beschleunigung fehlt</translation>
+    </message>
+    <message>
+        <source>Some lines were not in order of time and were put in order.</source>
+        <translation>Einige Zeilen waren nicht nach der Zeit geordnet und wurden sortiert.</translation>
+    </message>
+    <message>
+        <source>Gravity was split off the acceleration by a low-pass of 0.3 Hz.</source>
+        <translation>Die Schwerkraft wurde mit einem Tiefpass von 0,3 Hz von der Beschleunigung getrennt.</translation>
+    </message>
+    <message>
+        <source>There is no gravity in the list.</source>
+        <translation>In der Liste ist keine Schwerkraft.</translation>
+    </message>
+    <message>
+        <source>There is no rotation in the list: hands and turns cannot be found.</source>
+        <translation>In der Liste ist keine Drehung: Hände und Drehungen können nicht gefunden werden.</translation>
+    </message>
+    <message>
+        <source>the messages end within a definition</source>
+        <translation>die Nachrichten enden mitten in einer Definition</translation>
+    </message>
+    <message>
+        <source>the messages end within a message</source>
+        <translation>die Nachrichten enden mitten in einer Nachricht</translation>
+    </message>
+    <message>
+        <source>byte {}</source>
+        <translation>Byte {}</translation>
+    </message>
+    <message>
+        <source>the header&apos;s check sum does not agree</source>
+        <translation>die Prüfsumme des Kopfes stimmt nicht</translation>
+    </message>
+    <message>
+        <source>the file&apos;s check sum does not agree: bytes of it are damaged</source>
+        <translation>die Prüfsumme der Datei stimmt nicht: Bytes darin sind beschädigt</translation>
+    </message>
+    <message>
+        <source>the file ends within a header</source>
+        <translation>die Datei endet mitten in einem Kopf</translation>
+    </message>
+    <message>
+        <source>a header of {} bytes: it has to have 12 or 14</source>
+        <translation>ein Kopf mit Länge {}: er muss 12 oder 14 Byte haben</translation>
+    </message>
+    <message>
+        <source>the header does not say that this is a FIT file</source>
+        <translation>der Kopf sagt nicht, dass dies eine FIT-Datei ist</translation>
+    </message>
+    <message>
+        <source>the recording was not finished by its device: it is empty</source>
+        <translation>das Gerät hat die Aufzeichnung nicht abgeschlossen: sie ist leer</translation>
+    </message>
+    <message>
+        <source>the file ends here, but its header announces {} bytes</source>
+        <translation>die Datei endet hier, aber ihr Kopf kündigt {} Byte an</translation>
+    </message>
+    <message>
+        <source>a byte order of {}: it is 0 or 1</source>
+        <translation>eine Bytereihenfolge {}: sie ist 0 oder 1</translation>
+    </message>
+    <message>
+        <source>a message of type {}, which is not defined</source>
+        <translation>eine Nachricht vom Typ {}, der nicht definiert ist</translation>
+    </message>
+    <message numerus="yes">
+        <source>The file holds {} sessions; all were taken.</source>
+        <translation>
+            <numerusform>Die Datei enthält {} Einheit; sie wurde ganz übernommen.</numerusform>
+            <numerusform>Die Datei enthält {} Einheiten; alle wurden übernommen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The watch was stopped {} times.</source>
+        <translation>
+            <numerusform>Die Uhr wurde {}-mal angehalten.</numerusform>
+            <numerusform>Die Uhr wurde {}-mal angehalten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} d {} h</source>
+        <translation>{} d {} h</translation>
+    </message>
+    <message>
+        <source>{} h {} min</source>
+        <translation>{} h {} min</translation>
+    </message>
+    <message>
+        <source>{} min {} s</source>
+        <translation>{} min {} s</translation>
+    </message>
+    <message>
+        <source>The recording has positions of its own, which stay.</source>
+        <translation>Die Aufzeichnung hat eigene Positionen, die bleiben.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s positions begin {} after the recording.</source>
+        <translation>Die Positionen des Tracks beginnen {} nach der Aufzeichnung.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s positions begin {} before the recording.</source>
+        <translation>Die Positionen des Tracks beginnen {} vor der Aufzeichnung.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s positions begin {} after the recording; perhaps an offset of {} h is missing.</source>
+        <translation>Die Positionen des Tracks beginnen {} nach der Aufzeichnung; vielleicht fehlt ein Versatz von {} h.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s positions begin {} before the recording; perhaps an offset of {} h is missing.</source>
+        <translation>Die Positionen des Tracks beginnen {} vor der Aufzeichnung; vielleicht fehlt ein Versatz von {} h.</translation>
+    </message>
+    <message>
+        <source>The recording has heart rates of its own, which stay.</source>
+        <translation>Die Aufzeichnung hat eigene Herzfrequenzen, die bleiben.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s heart rates begin {} after the recording.</source>
+        <translation>Die Herzfrequenzen des Tracks beginnen {} nach der Aufzeichnung.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s heart rates begin {} before the recording.</source>
+        <translation>Die Herzfrequenzen des Tracks beginnen {} vor der Aufzeichnung.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s heart rates begin {} after the recording; perhaps an offset of {} h is missing.</source>
+        <translation>Die Herzfrequenzen des Tracks beginnen {} nach der Aufzeichnung; vielleicht fehlt ein Versatz von {} h.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s heart rates begin {} before the recording; perhaps an offset of {} h is missing.</source>
+        <translation>Die Herzfrequenzen des Tracks beginnen {} vor der Aufzeichnung; vielleicht fehlt ein Versatz von {} h.</translation>
+    </message>
+    <message>
+        <source>The recording has no motion samples to join the track to.</source>
+        <translation>Die Aufzeichnung hat keine Bewegungswerte, zu denen der Track kommen könnte.</translation>
+    </message>
+    <message>
+        <source>“{}” stands over two columns.</source>
+        <translation>„{}“ steht über zwei Spalten.</translation>
+    </message>
+    <message>
+        <source>Of the acceleration with gravity all of x, y and z are needed.</source>
+        <translation>Von der Beschleunigung mit Schwerkraft werden x, y und z gebraucht.</translation>
+    </message>
+    <message>
+        <source>Of the acceleration without gravity all of x, y and z are needed.</source>
+        <translation>Von der Beschleunigung ohne Schwerkraft werden x, y und z gebraucht.</translation>
+    </message>
+    <message>
+        <source>Of the rotation all of x, y and z are needed.</source>
+        <translation>Von der Drehung werden x, y und z gebraucht.</translation>
+    </message>
+    <message>
+        <source>Of the gravity all of x, y and z are needed.</source>
+        <translation>Von der Schwerkraft werden x, y und z gebraucht.</translation>
+    </message>
+    <message>
+        <source>Latitude and longitude go together.</source>
+        <translation>Breite und Länge gehören zusammen.</translation>
+    </message>
+    <message>
+        <source>Acc. x with gravity</source>
+        <translation>Beschl. x mit Schwerkraft</translation>
+    </message>
+    <message>
+        <source>Acc. y with gravity</source>
+        <translation>Beschl. y mit Schwerkraft</translation>
+    </message>
+    <message>
+        <source>Acc. z with gravity</source>
+        <translation>Beschl. z mit Schwerkraft</translation>
+    </message>
+    <message>
+        <source>Acc. x without gravity</source>
+        <translation>Beschl. x ohne Schwerkraft</translation>
+    </message>
+    <message>
+        <source>Acc. y without gravity</source>
+        <translation>Beschl. y ohne Schwerkraft</translation>
+    </message>
+    <message>
+        <source>Acc. z without gravity</source>
+        <translation>Beschl. z ohne Schwerkraft</translation>
+    </message>
+    <message>
+        <source>Gravity x</source>
+        <translation>Schwerkraft x</translation>
+    </message>
+    <message>
+        <source>Gravity y</source>
+        <translation>Schwerkraft y</translation>
+    </message>
+    <message>
+        <source>Gravity z</source>
+        <translation>Schwerkraft z</translation>
+    </message>
+    <message>
+        <source>Yaw</source>
+        <translation>Gieren</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>No column is the time.</source>
+        <translation>Keine Spalte ist die Zeit.</translation>
+    </message>
+    <message>
+        <source>Commas cannot be in numbers and between columns.</source>
+        <translation>Kommas können nicht zugleich in Zahlen und zwischen Spalten stehen.</translation>
+    </message>
+    <message>
+        <source>No column is acceleration, position or heart rate.</source>
+        <translation>Keine Spalte ist Beschleunigung, Position oder Herzfrequenz.</translation>
+    </message>
+    <message>
+        <source>this is no plain text; a list has to be saved as UTF-8</source>
+        <translation>das ist kein reiner Text; eine Liste muss als UTF-8 gespeichert sein</translation>
+    </message>
+    <message>
+        <source>this is no list of samples: in its first {} lines there is none with numbers in columns</source>
+        <translation>das ist keine Liste von Messwerten: unter den ersten {} Zeilen ist keine mit Zahlen in Spalten</translation>
+    </message>
+    <message>
+        <source>the list has more than {} lines</source>
+        <translation>die Liste hat mehr als {} Zeilen</translation>
+    </message>
+    <message>
+        <source>the file is too large to be imported (over {} MB)</source>
+        <translation>die Datei ist zu groß zum Importieren (über {} MB)</translation>
+    </message>
+    <message>
+        <source>the file grew while it was read</source>
+        <translation>die Datei wuchs, während sie gelesen wurde</translation>
+    </message>
+    <message>
+        <source>this is no track: neither GPX nor TCX nor FIT</source>
+        <translation>das ist kein Track: weder GPX noch TCX noch FIT</translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} positions outside the globe.</source>
+        <translation>
+            <numerusform>Ausgelassen: {} Position außerhalb der Erde.</numerusform>
+            <numerusform>Ausgelassen: {} Positionen außerhalb der Erde.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} speeds that no boat has.</source>
+        <translation>
+            <numerusform>Ausgelassen: {} Tempowert, den kein Boot erreicht.</numerusform>
+            <numerusform>Ausgelassen: {} Tempowerte, die kein Boot erreicht.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} points without a date.</source>
+        <translation>
+            <numerusform>Ausgelassen: {} Punkt ohne Datum.</numerusform>
+            <numerusform>Ausgelassen: {} Punkte ohne Datum.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} heart rates that are none.</source>
+        <translation>
+            <numerusform>Ausgelassen: {} Herzfrequenz, die keine ist.</numerusform>
+            <numerusform>Ausgelassen: {} Herzfrequenzen, die keine sind.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} positions at the moment of another.</source>
+        <translation>
+            <numerusform>Ausgelassen: {} Position im selben Augenblick wie eine andere.</numerusform>
+            <numerusform>Ausgelassen: {} Positionen im selben Augenblick wie eine andere.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} heart rates at the moment of another.</source>
+        <translation>
+            <numerusform>Ausgelassen: {} Herzfrequenz im selben Augenblick wie eine andere.</numerusform>
+            <numerusform>Ausgelassen: {} Herzfrequenzen im selben Augenblick wie eine andere.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} way points and points of routes.</source>
+        <translation>
+            <numerusform>Ausgelassen: {} Wegpunkt oder Routenpunkt.</numerusform>
+            <numerusform>Ausgelassen: {} Wegpunkte und Routenpunkte.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The speed of {} positions was computed from the positions around them.</source>
+        <translation>
+            <numerusform>Das Tempo von {} Position wurde aus den Positionen ringsum berechnet.</numerusform>
+            <numerusform>Das Tempo von {} Positionen wurde aus den Positionen ringsum berechnet.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the track has more than {} points</source>
+        <translation>der Track hat mehr als {} Punkte</translation>
+    </message>
+    <message>
+        <source>the XML is damaged: {}</source>
+        <translation>das XML ist beschädigt: {}</translation>
+    </message>
+    <message>
+        <source>this XML is no track: neither GPX nor TCX</source>
+        <translation>dieses XML ist kein Track: weder GPX noch TCX</translation>
+    </message>
+    <message>
+        <source>a number was expected, found {}</source>
+        <translation>eine Zahl wurde erwartet, gefunden: {}</translation>
+    </message>
+    <message>
+        <source>an integer was expected, found {}</source>
+        <translation>eine ganze Zahl wurde erwartet, gefunden: {}</translation>
+    </message>
+    <message>
+        <source>a boolean was expected, found {}</source>
+        <translation>ein Wahrheitswert wurde erwartet, gefunden: {}</translation>
+    </message>
+    <message>
+        <source>a string was expected, found {}</source>
+        <translation>eine Zeichenkette wurde erwartet, gefunden: {}</translation>
+    </message>
+    <message>
+        <source>a base64 string was expected, found {}</source>
+        <translation>eine Zeichenkette in Base64 wurde erwartet, gefunden: {}</translation>
+    </message>
+    <message>
+        <source>an array was expected, found {}</source>
+        <translation>eine Liste wurde erwartet, gefunden: {}</translation>
+    </message>
+    <message>
+        <source>an object was expected, found {}</source>
+        <translation>ein Objekt wurde erwartet, gefunden: {}</translation>
+    </message>
+    <message>
+        <source>the integer {} is out of range</source>
+        <translation>die ganze Zahl {} liegt außerhalb des Bereichs</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>eine Liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>an integer</source>
+        <translation>eine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>a number that is no 64-bit integer</source>
+        <translation>eine Zahl, die keine ganze 64-Bit-Zahl ist</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>eine Zeichenkette</translation>
+    </message>
+    <message>
+        <source>a boolean</source>
+        <translation>ein Wahrheitswert</translation>
+    </message>
+    <message>
+        <source>something else</source>
+        <translation>etwas anderes</translation>
+    </message>
+    <message>
+        <source>the key is missing</source>
+        <translation>der Schlüssel fehlt</translation>
+    </message>
+    <message>
+        <source>a base64 string was expected, found other text</source>
+        <translation>eine Zeichenkette in Base64 wurde erwartet, gefunden: anderer Text</translation>
+    </message>
+    <message>
+        <source>a number that is not finite cannot be written</source>
+        <translation>eine Zahl, die nicht endlich ist, kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>a text that is not valid UTF-8 cannot be written</source>
+        <translation>ein Text, der kein gültiges UTF-8 ist, kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>waits {} s</source>
+        <translation>wartet {} s</translation>
+    </message>
+    <message>
+        <source>Section {}</source>
+        <translation>Abschnitt {}</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is none of {}</source>
+        <translation>„{}“ ist keines von {}</translation>
+    </message>
+    <message>
+        <source>{} is not a number from {} on</source>
+        <translation>{} ist keine Zahl ab {}</translation>
+    </message>
+    <message>
+        <source>either two points or none are needed</source>
+        <translation>entweder zwei Punkte oder keiner werden gebraucht</translation>
+    </message>
+    <message>
+        <source>a number from 1 to 2 was expected</source>
+        <translation>eine Zahl von 1 bis 2 wurde erwartet</translation>
+    </message>
+    <message>
+        <source>no path is named that could be drawn or followed</source>
+        <translation>keine Bahn ist genannt, die gezeichnet oder verfolgt werden könnte</translation>
+    </message>
+    <message>
+        <source>{}: the size of its picture is missing</source>
+        <translation>{}: die Größe des Bildes fehlt</translation>
+    </message>
+    <message numerus="yes">
+        <source>the split file has {} runs</source>
+        <translation>
+            <numerusform>die Zwischenzeitdatei hat {} Lauf</numerusform>
+            <numerusform>die Zwischenzeitdatei hat {} Läufe</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the run has no film of this camera</source>
+        <translation>der Lauf hat keinen Film dieser Kamera</translation>
+    </message>
+    <message>
+        <source>neither a film nor a split file is named</source>
+        <translation>weder ein Film noch eine Zwischenzeitdatei ist genannt</translation>
+    </message>
+    <message>
+        <source>a share from 0 to 1 was expected</source>
+        <translation>ein Anteil von 0 bis 1 wurde erwartet</translation>
+    </message>
+    <message>
+        <source>{} films; this layout takes 2 to 4</source>
+        <translation>Filme: {}; diese Anordnung nimmt 2 bis 4</translation>
+    </message>
+    <message>
+        <source>{} films; this layout takes 2</source>
+        <translation>Filme: {}; diese Anordnung nimmt 2</translation>
+    </message>
+    <message>
+        <source>an even number from 160 to 4096 was expected</source>
+        <translation>eine gerade Zahl von 160 bis 4096 wurde erwartet</translation>
+    </message>
+    <message>
+        <source>the picture is larger than 1920 × 1080 and would not play everywhere</source>
+        <translation>das Bild ist größer als 1920 × 1080 und würde nicht überall laufen</translation>
+    </message>
+    <message>
+        <source>it does not lie behind {}</source>
+        <translation>es liegt nicht hinter {}</translation>
+    </message>
+    <message>
+        <source>a number from 0.125 to 1 was expected</source>
+        <translation>eine Zahl von 0,125 bis 1 wurde erwartet</translation>
+    </message>
+    <message>
+        <source>there is no film of this number; 0 is no sound</source>
+        <translation>es gibt keinen Film dieser Nummer; 0 ist ohne Ton</translation>
+    </message>
+    <message>
+        <source>films that lie over each other cannot follow a path</source>
+        <translation>Filme, die übereinander liegen, können keiner Bahn folgen</translation>
+    </message>
+    <message>
+        <source>{}: the start lies outside the film, at {} s.</source>
+        <translation>{}: der Start liegt außerhalb des Films, bei {} s.</translation>
+    </message>
+    <message>
+        <source>{}: split {} lies outside the film, at {} s.</source>
+        <translation>{}: Zwischenzeit {} liegt außerhalb des Films, bei {} s.</translation>
+    </message>
+    <message>
+        <source>so large a picture would not play everywhere at {} frames a second</source>
+        <translation>ein so großes Bild würde mit {} Bildern je Sekunde nicht überall laufen</translation>
+    </message>
+    <message>
+        <source>{} is not shown: {}.</source>
+        <translation>{} wird nicht gezeigt: {}.</translation>
+    </message>
+    <message>
+        <source>{} is cut off or damaged; it is shown as far as it goes.</source>
+        <translation>{} ist abgeschnitten oder beschädigt; gezeigt wird, so weit es geht.</translation>
+    </message>
+    <message>
+        <source>{}: at {} s a frame cannot be shown ({}); the last good one stays.</source>
+        <translation>{}: bei {} s kann ein Bild nicht gezeigt werden ({}); das letzte gute bleibt stehen.</translation>
+    </message>
+    <message>
+        <source>no film has a mark at this split</source>
+        <translation>kein Film hat an dieser Zwischenzeit eine Marke</translation>
+    </message>
+    <message>
+        <source>no run is marked at its start, so the range has to be given in seconds</source>
+        <translation>kein Lauf ist an seinem Start markiert, also muss der Bereich in Sekunden angegeben werden</translation>
+    </message>
+    <message>
+        <source>its end does not lie behind its beginning</source>
+        <translation>sein Ende liegt nicht hinter seinem Anfang</translation>
+    </message>
+    <message>
+        <source>it cannot be decoded</source>
+        <translation>es kann nicht dekodiert werden</translation>
+    </message>
+    <message>
+        <source>its pictures are in a format of no use</source>
+        <translation>die Bilder haben ein unbrauchbares Format</translation>
+    </message>
+    <message>
+        <source>the start is not marked on this film, so it cannot be held there</source>
+        <translation>der Start ist in diesem Film nicht markiert, also kann er dort nicht angehalten werden</translation>
+    </message>
+    <message>
+        <source>split {} is not marked on this film, so it cannot be held there</source>
+        <translation>Zwischenzeit {} ist in diesem Film nicht markiert, also kann er dort nicht angehalten werden</translation>
+    </message>
+    <message>
+        <source>{}: {}.</source>
+        <translation>{}: {}.</translation>
+    </message>
+    <message>
+        <source>the crew, in whatever order it is written</source>
+        <translation>die Besatzung, in welcher Reihenfolge auch immer geschrieben</translation>
+    </message>
+    <message>
+        <source>category, however it is written (K1M, MK1)</source>
+        <translation>Kategorie, wie auch immer geschrieben (K1M, MK1)</translation>
+    </message>
+    <message>
+        <source>phase of the race</source>
+        <translation>Phase des Rennens</translation>
+    </message>
+    <message>
+        <source>side on which the athlete paddles</source>
+        <translation>Seite, auf der gepaddelt wird</translation>
+    </message>
+    <message>
+        <source>place of the course</source>
+        <translation>Ort der Strecke</translation>
+    </message>
+    <message>
+        <source>title of the race</source>
+        <translation>Titel des Rennens</translation>
+    </message>
+    <message>
+        <source>event</source>
+        <translation>Wettkampf</translation>
+    </message>
+    <message>
+        <source>Race, Training or Test</source>
+        <translation>Race, Training oder Test</translation>
+    </message>
+    <message>
+        <source>kind of water</source>
+        <translation>Art des Wassers</translation>
+    </message>
+    <message>
+        <source>the file</source>
+        <translation>die Datei</translation>
+    </message>
+    <message>
+        <source>2026-05-11; also 2026-05 or 2026</source>
+        <translation>2026-05-11; auch 2026-05 oder 2026</translation>
+    </message>
+    <message>
+        <source>year of the date</source>
+        <translation>Jahr des Datums</translation>
+    </message>
+    <message>
+        <source>month of the date, 1 to 12</source>
+        <translation>Monat des Datums, 1 bis 12</translation>
+    </message>
+    <message>
+        <source>of the run, with penalties</source>
+        <translation>des Laufs, mit Strafen</translation>
+    </message>
+    <message>
+        <source>of the run, without penalties</source>
+        <translation>des Laufs, ohne Strafen</translation>
+    </message>
+    <message>
+        <source>penalty seconds of the run</source>
+        <translation>Strafsekunden des Laufs</translation>
+    </message>
+    <message>
+        <source>place among the runs that compete</source>
+        <translation>Platz unter den Läufen, die gegeneinander zählen</translation>
+    </message>
+    <message>
+        <source>position in the official list</source>
+        <translation>Stelle in der offiziellen Liste</translation>
+    </message>
+    <message>
+        <source>number of the run in its file, from 0</source>
+        <translation>Nummer des Laufs in seiner Datei, ab 0</translation>
+    </message>
+    <message>
+        <source>sprint time</source>
+        <translation>Sprintzeit</translation>
+    </message>
+    <message>
+        <source>of the section, where both its marks were taken</source>
+        <translation>des Abschnitts, wo beide Marken genommen wurden</translation>
+    </message>
+    <message>
+        <source>from entrance to exit</source>
+        <translation>von der Einfahrt bis zur Ausfahrt</translation>
+    </message>
+    <message>
+        <source>from entrance to the pole line</source>
+        <translation>von der Einfahrt bis zur Torlinie</translation>
+    </message>
+    <message>
+        <source>from the pole line to the exit</source>
+        <translation>von der Torlinie bis zur Ausfahrt</translation>
+    </message>
+    <message>
+        <source>number of the gate</source>
+        <translation>Nummer des Tors</translation>
+    </message>
+    <message>
+        <source>number of the section, from 1</source>
+        <translation>Nummer des Abschnitts, ab 1</translation>
+    </message>
+    <message>
+        <source>up for a section with an upstream gate, or down</source>
+        <translation>up für einen Abschnitt mit einem Aufwärtstor, sonst down</translation>
+    </message>
+    <message>
+        <source>up: only upstream gates are timed by themselves</source>
+        <translation>up: nur Aufwärtstore werden einzeln gestoppt</translation>
+    </message>
+    <message>
+        <source>up for an upstream gate, or down</source>
+        <translation>up für ein Aufwärtstor, sonst down</translation>
+    </message>
+    <message>
+        <source>penalty seconds in the section</source>
+        <translation>Strafsekunden im Abschnitt</translation>
+    </message>
+    <message>
+        <source>strokes on the left</source>
+        <translation>Schläge links</translation>
+    </message>
+    <message>
+        <source>strokes on the right</source>
+        <translation>Schläge rechts</translation>
+    </message>
+    <message>
+        <source>strokes marked in the section</source>
+        <translation>im Abschnitt markierte Schläge</translation>
+    </message>
+    <message>
+        <source>side to which the boat turns</source>
+        <translation>Seite, zu der das Boot dreht</translation>
+    </message>
+    <message>
+        <source>how the gate is paddled</source>
+        <translation>wie das Tor gefahren wird</translation>
+    </message>
+    <message>
+        <source>of the penalty</source>
+        <translation>der Strafe</translation>
+    </message>
+    <message>
+        <source>touch, or how the gate was missed</source>
+        <translation>Berührung, oder wie es zum Torfehler kam</translation>
+    </message>
+    <message>
+        <source>kind of gate</source>
+        <translation>Art des Tors</translation>
+    </message>
+    <message>
+        <source>which pole</source>
+        <translation>welcher Torstab</translation>
+    </message>
+    <message>
+        <source>what touched, or how the gate was missed</source>
+        <translation>was berührte, oder wie es zum Torfehler kam</translation>
+    </message>
+    <message>
+        <source>where in the gate</source>
+        <translation>wo im Tor</translation>
+    </message>
+    <message>
+        <source>how the boat was moving</source>
+        <translation>wie sich das Boot bewegte</translation>
+    </message>
+    <message>
+        <source>how the gate was paddled</source>
+        <translation>wie das Tor gefahren wurde</translation>
+    </message>
+    <message>
+        <source>where the athlete looked</source>
+        <translation>wohin der Blick ging</translation>
+    </message>
+    <message>
+        <source>below 0 for time gained</source>
+        <translation>unter 0 bei gewonnener Zeit</translation>
+    </message>
+    <message>
+        <source>of the other run&apos;s time</source>
+        <translation>der Zeit des anderen Laufs</translation>
+    </message>
+    <message>
+        <source>against whom</source>
+        <translation>gegen wen</translation>
+    </message>
+    <message>
+        <source>reasons noted</source>
+        <translation>notierte Gründe</translation>
+    </message>
+    <message>
+        <source>combination of gates</source>
+        <translation>Torkombination</translation>
+    </message>
+    <message>
+        <source>part of the gate</source>
+        <translation>Teil des Tors</translation>
+    </message>
+    <message>
+        <source>how the stretch was paddled</source>
+        <translation>wie das Stück gefahren wurde</translation>
+    </message>
+    <message>
+        <source>the water there</source>
+        <translation>das Wasser dort</translation>
+    </message>
+    <message>
+        <source>the word of a mark</source>
+        <translation>das Wort einer Markierung</translation>
+    </message>
+    <message>
+        <source>Behind &quot;{}&quot; stands &quot;{}&quot;, which is a condition.</source>
+        <translation>Hinter „{}“ steht „{}“, das ist eine Bedingung.</translation>
+    </message>
+    <message>
+        <source>Only values can stand here.</source>
+        <translation>Hier können nur Werte stehen.</translation>
+    </message>
+    <message>
+        <source>One limit stands here, such as 4 or {}4.</source>
+        <translation>Hier steht eine Grenze, wie 4 oder {}4.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; needs the name of a column.</source>
+        <translation>„{}“ braucht den Namen einer Spalte.</translation>
+    </message>
+    <message>
+        <source>Before a value stands the name of its column, such as athlete or text.</source>
+        <translation>Vor einem Wert steht der Name seiner Spalte, wie athlete oder text.</translation>
+    </message>
+    <message>
+        <source>Before &quot;{}&quot; stands the name of a column.</source>
+        <translation>Vor „{}“ steht der Name einer Spalte.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; needs a value.</source>
+        <translation>„{}“ braucht einen Wert.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; needs a value; one of our own words stands in quotes.</source>
+        <translation>„{}“ braucht einen Wert; eines unserer eigenen Wörter steht in Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is a text: it is compared by = and != alone.</source>
+        <translation>„{}“ ist ein Text: verglichen wird nur mit = und !=.</translation>
+    </message>
+    <message>
+        <source>There is nothing in the quotes.</source>
+        <translation>In den Anführungszeichen steht nichts.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; has words for values: it is compared by = and != alone.</source>
+        <translation>„{}“ hat Wörter als Werte: verglichen wird nur mit = und !=.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no day: write 2026-05-11, or 2026-05, or 2026.</source>
+        <translation>„{}“ ist kein Tag: schreiben Sie 2026-05-11, 2026-05 oder 2026.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no {}.</source>
+        <translation>„{}“ ist kein Wert von {}.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no number.</source>
+        <translation>„{}“ ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is not told of {}, but of {}.</source>
+        <translation>„{}“ gibt es nicht bei {}, sondern bei {}.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; means nothing in a query about {}.</source>
+        <translation>„{}“ bedeutet in einer Abfrage über {} nichts.</translation>
+    </message>
+    <message>
+        <source>A value of several words stands in quotes.</source>
+        <translation>Ein Wert aus mehreren Wörtern steht in Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>Nearly every row has a {} of its own.</source>
+        <translation>Fast jede Zeile hat einen eigenen Wert von {}.</translation>
+    </message>
+    <message>
+        <source>Groups are made by three columns at most.</source>
+        <translation>Gruppen entstehen aus höchstens drei Spalten.</translation>
+    </message>
+    <message>
+        <source>There is one &quot;best&quot; already.</source>
+        <translation>Es gibt schon ein „best“.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no number, of which one could be the best.</source>
+        <translation>„{}“ ist keine Zahl, von der eine die beste sein könnte.</translation>
+    </message>
+    <message>
+        <source>There is one &quot;sort&quot; already.</source>
+        <translation>Es gibt schon ein „sort“.</translation>
+    </message>
+    <message>
+        <source>Groups are sorted by what makes them, or by count, best, mean or median.</source>
+        <translation>Gruppen werden danach sortiert, woraus sie entstehen, oder nach count, best, mean oder median.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no number of rows.</source>
+        <translation>„{}“ ist keine Anzahl von Zeilen.</translation>
+    </message>
+    <message>
+        <source>The quote is not closed.</source>
+        <translation>Das Anführungszeichen ist nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>&quot;!&quot; stands only in &quot;!=&quot;.</source>
+        <translation>„!“ steht nur in „!=“.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>der Speicher reicht dafür nicht</translation>
+    </message>
+    <message>
+        <source>There is no bib.</source>
+        <translation>Es gibt keine Startnummer.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no bib.</source>
+        <translation>„{}“ ist keine Startnummer.</translation>
+    </message>
+    <message>
+        <source>The official results of the file have no bib for this crew.</source>
+        <translation>Die offiziellen Ergebnisse der Datei haben für diese Besatzung keine Startnummer.</translation>
+    </message>
+    <message>
+        <source>No bib was found in {}. A list needs a column called &quot;bib&quot;; a split file needs its official results.</source>
+        <translation>In {} wurde keine Startnummer gefunden. Eine Liste braucht eine Spalte namens „bib“; eine Zwischenzeitdatei braucht ihre offiziellen Ergebnisse.</translation>
+    </message>
+    <message>
+        <source>The answer is no WebDAV folder.</source>
+        <translation>Die Antwort ist kein WebDAV-Ordner.</translation>
+    </message>
+    <message>
+        <source>The answer is no WebDAV folder: {}</source>
+        <translation>Die Antwort ist kein WebDAV-Ordner: {}</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The folder takes no file: {}</source>
+        <translation>Der Ordner nimmt keine Datei an: {}</translation>
+    </message>
+    <message>
+        <source>The server sends more than it announced.</source>
+        <translation>Der Server sendet mehr, als er ankündigte.</translation>
+    </message>
+    <message>
+        <source>The job has brought 20 GB, which is the most in one go.</source>
+        <translation>Der Auftrag hat 20 GB gebracht, mehr geht nicht auf einmal.</translation>
+    </message>
+    <message>
+        <source>The disk does not take the file: {}</source>
+        <translation>Das Laufwerk nimmt die Datei nicht an: {}</translation>
+    </message>
+    <message>
+        <source>The file broke off before its end.</source>
+        <translation>Die Datei brach vor ihrem Ende ab.</translation>
+    </message>
+    <message>
+        <source>The server sent nothing.</source>
+        <translation>Der Server sendete nichts.</translation>
+    </message>
+    <message>
+        <source>The disk does not take the file.</source>
+        <translation>Das Laufwerk nimmt die Datei nicht an.</translation>
+    </message>
+    <message numerus="yes">
+        <source>After {} tries it was given up for now.</source>
+        <translation>
+            <numerusform>Nach {} Versuch wurde es vorerst aufgegeben.</numerusform>
+            <numerusform>Nach {} Versuchen wurde es vorerst aufgegeben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it has no pictures</source>
+        <translation>er hat keine Bilder</translation>
+    </message>
+    <message>
+        <source>What the server sent is no film: {}.</source>
+        <translation>Was der Server sendete, ist kein Film: {}.</translation>
+    </message>
+    <message>
+        <source>The pieces of the film do not fit together: {}.</source>
+        <translation>Die Stücke des Films passen nicht zusammen: {}.</translation>
+    </message>
+    <message>
+        <source>The pieces of the film could not be put together: {}.</source>
+        <translation>Die Stücke des Films konnten nicht zusammengefügt werden: {}.</translation>
+    </message>
+    <message>
+        <source>The playlists lead from one to the other without an end.</source>
+        <translation>Die Wiedergabelisten führen endlos von einer zur anderen.</translation>
+    </message>
+    <message>
+        <source>Pieces of the film lie on {}, which is not ticked.</source>
+        <translation>Stücke des Films liegen auf {}, das nicht abgehakt ist.</translation>
+    </message>
+    <message>
+        <source>A piece of the film is missing: {}</source>
+        <translation>Ein Stück des Films fehlt: {}</translation>
+    </message>
+    <message>
+        <source>The list is no JSON: {}</source>
+        <translation>Die Liste ist kein JSON: {}</translation>
+    </message>
+    <message>
+        <source>This playlist is one film in pieces and no list of films. Give its address with {bib} in it.</source>
+        <translation>Diese Wiedergabeliste ist ein Film in Stücken und keine Liste von Filmen. Geben Sie ihre Adresse mit {bib} darin an.</translation>
+    </message>
+    <message>
+        <source>Another program has changed it.</source>
+        <translation>Ein anderes Programm hat sie geändert.</translation>
+    </message>
+    <message>
+        <source>The server has no such list.</source>
+        <translation>Der Server hat diese Liste nicht.</translation>
+    </message>
+    <message>
+        <source>The address is there and names no film.</source>
+        <translation>Die Adresse gibt es, sie nennt aber keinen Film.</translation>
+    </message>
+    <message>
+        <source>The playlist has no piece of a film.</source>
+        <translation>Die Wiedergabeliste hat kein Stück eines Films.</translation>
+    </message>
+    <message>
+        <source>The film is still growing: its playlist has no end yet.</source>
+        <translation>Der Film wächst noch: seine Wiedergabeliste hat noch kein Ende.</translation>
+    </message>
+    <message>
+        <source>The playlist leads to something else than a server: {}</source>
+        <translation>Die Wiedergabeliste führt zu etwas anderem als einem Server: {}</translation>
+    </message>
+    <message>
+        <source>The playlist does not end: it has more than {} pieces.</source>
+        <translation>Die Wiedergabeliste endet nicht: sie hat mehr als {} Stücke.</translation>
+    </message>
+    <message>
+        <source>The film is protected by &quot;{}&quot;, which only its maker&apos;s programs open.</source>
+        <translation>Der Film ist durch „{}“ geschützt, was nur Programme des Herstellers öffnen.</translation>
+    </message>
+    <message>
+        <source>The server sent a part that nobody asked for.</source>
+        <translation>Der Server sendete einen Teil, den niemand wollte.</translation>
+    </message>
+    <message>
+        <source>The file was changed meanwhile.</source>
+        <translation>Die Datei wurde inzwischen geändert.</translation>
+    </message>
+    <message>
+        <source>The server went on from another place than it was asked to.</source>
+        <translation>Der Server machte an einer anderen Stelle weiter als verlangt.</translation>
+    </message>
+    <message>
+        <source>The server packs the file in a way that was not asked for.</source>
+        <translation>Der Server packt die Datei auf eine Weise, die nicht verlangt war.</translation>
+    </message>
+    <message>
+        <source>The server has no more of the file.</source>
+        <translation>Der Server hat nicht mehr von der Datei.</translation>
+    </message>
+    <message>
+        <source>Not there yet.</source>
+        <translation>Noch nicht da.</translation>
+    </message>
+    <message>
+        <source>The server asks for fewer questions.</source>
+        <translation>Der Server bittet um weniger Anfragen.</translation>
+    </message>
+    <message>
+        <source>The server leads in a circle.</source>
+        <translation>Der Server führt im Kreis.</translation>
+    </message>
+    <message>
+        <source>The server leads to an address that is none.</source>
+        <translation>Der Server verweist auf eine Adresse, die keine ist.</translation>
+    </message>
+    <message>
+        <source>The server leads from https to http, which anybody can read and change.</source>
+        <translation>Der Server verweist von https auf http, was jeder lesen und ändern kann.</translation>
+    </message>
+    <message>
+        <source>The server leads to another one, {}, which is not ticked.</source>
+        <translation>Der Server verweist auf einen anderen, {}, der nicht abgehakt ist.</translation>
+    </message>
+    <message>
+        <source>The film could not be given its name: {}</source>
+        <translation>Der Film konnte seinen Namen nicht bekommen: {}</translation>
+    </message>
+    <message>
+        <source>The film is not what its checksum says.</source>
+        <translation>Der Film ist nicht, was seine Prüfsumme sagt.</translation>
+    </message>
+    <message>
+        <source>The answer is longer than any list is.</source>
+        <translation>Die Antwort ist länger als jede Liste.</translation>
+    </message>
+    <message>
+        <source>A link in the folder leads out of it, and is not followed.</source>
+        <translation>Eine Verknüpfung im Ordner führt aus ihm hinaus; ihr wird nicht gefolgt.</translation>
+    </message>
+    <message>
+        <source>The folder could not be made on the server: {}</source>
+        <translation>Der Ordner konnte auf dem Server nicht angelegt werden: {}</translation>
+    </message>
+    <message>
+        <source>The server does not know its own mark of this file again.</source>
+        <translation>Der Server erkennt sein eigenes Kennzeichen dieser Datei nicht wieder.</translation>
+    </message>
+    <message>
+        <source>a name of small letters, digits and dashes was expected</source>
+        <translation>ein Name aus Kleinbuchstaben, Ziffern und Strichen wurde erwartet</translation>
+    </message>
+    <message>
+        <source>an https address was expected</source>
+        <translation>eine https-Adresse wurde erwartet</translation>
+    </message>
+    <message>
+        <source>it does not end in the plain name of a file</source>
+        <translation>sie endet nicht mit dem schlichten Namen einer Datei</translation>
+    </message>
+    <message>
+        <source>1 to {} bytes were expected</source>
+        <translation>1 bis {} Byte wurden erwartet</translation>
+    </message>
+    <message>
+        <source>64 small hexadecimal digits were expected</source>
+        <translation>64 kleine hexadezimale Ziffern wurden erwartet</translation>
+    </message>
+    <message>
+        <source>it is longer than any manifest is</source>
+        <translation>sie ist länger als jede Liste von Versionen</translation>
+    </message>
+    <message>
+        <source>three numbers such as 0.32.0 were expected</source>
+        <translation>drei Zahlen wie 0.32.0 wurden erwartet</translation>
+    </message>
+    <message>
+        <source>a date such as 2026-11-22 was expected</source>
+        <translation>ein Datum wie 2026-11-22 wurde erwartet</translation>
+    </message>
+    <message>
+        <source>a plain text of at most 100,000 bytes was expected</source>
+        <translation>ein reiner Text von höchstens 100&#xa0;000 Byte wurde erwartet</translation>
+    </message>
+    <message>
+        <source>there is a file for it already</source>
+        <translation>dafür gibt es schon eine Datei</translation>
+    </message>
+    <message>
+        <source>The address of the file is none that is asked.</source>
+        <translation>Die Adresse der Datei ist keine, die gefragt wird.</translation>
+    </message>
+    <message>
+        <source>The folder takes no file: {}.</source>
+        <translation>Der Ordner nimmt keine Datei an: {}.</translation>
+    </message>
+    <message>
+        <source>The server sent another part of the file than it was asked for.</source>
+        <translation>Der Server sendete einen anderen Teil der Datei als verlangt.</translation>
+    </message>
+    <message>
+        <source>The file on the server is not as long as the list of versions says.</source>
+        <translation>Die Datei auf dem Server ist nicht so lang, wie die Liste der Versionen sagt.</translation>
+    </message>
+    <message>
+        <source>The disk does not take the file: {}.</source>
+        <translation>Das Laufwerk nimmt die Datei nicht an: {}.</translation>
+    </message>
+    <message>
+        <source>The file on the server is longer than the list of versions says. It was deleted.</source>
+        <translation>Die Datei auf dem Server ist länger, als die Liste der Versionen sagt. Sie wurde gelöscht.</translation>
+    </message>
+    <message>
+        <source>The file is not the one of the list of versions: it is damaged, or was changed. It was deleted.</source>
+        <translation>Die Datei ist nicht die der Liste der Versionen: sie ist beschädigt oder wurde geändert. Sie wurde gelöscht.</translation>
+    </message>
+    <message numerus="yes">
+        <source>It was given up after {} tries.</source>
+        <translation>
+            <numerusform>Nach {} Versuch wurde es aufgegeben.</numerusform>
+            <numerusform>Nach {} Versuchen wurde es aufgegeben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The list of versions is longer than it may be.</source>
+        <translation>Die Liste der Versionen ist länger als erlaubt.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not on the server.</source>
+        <translation>Die Liste der Versionen ist nicht auf dem Server.</translation>
+    </message>
+    <message>
+        <source>The list of versions lies on another server, {}, which is not asked.</source>
+        <translation>Die Liste der Versionen liegt auf einem anderen Server, {}, der nicht gefragt wird.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not given out by the server.</source>
+        <translation>Die Liste der Versionen wird vom Server nicht herausgegeben.</translation>
+    </message>
+    <message>
+        <source>The signature of the list of versions is longer than it may be.</source>
+        <translation>Die Signatur der Liste der Versionen ist länger als erlaubt.</translation>
+    </message>
+    <message>
+        <source>The signature of the list of versions is not on the server.</source>
+        <translation>Die Signatur der Liste der Versionen ist nicht auf dem Server.</translation>
+    </message>
+    <message>
+        <source>The signature of the list of versions lies on another server, {}, which is not asked.</source>
+        <translation>Die Signatur der Liste der Versionen liegt auf einem anderen Server, {}, der nicht gefragt wird.</translation>
+    </message>
+    <message>
+        <source>The signature of the list of versions is not given out by the server.</source>
+        <translation>Die Signatur der Liste der Versionen wird vom Server nicht herausgegeben.</translation>
+    </message>
+    <message>
+        <source>The file is longer than it may be.</source>
+        <translation>Die Datei ist länger als erlaubt.</translation>
+    </message>
+    <message>
+        <source>The file is not on the server.</source>
+        <translation>Die Datei ist nicht auf dem Server.</translation>
+    </message>
+    <message>
+        <source>The file lies on another server, {}, which is not asked.</source>
+        <translation>Die Datei liegt auf einem anderen Server, {}, der nicht gefragt wird.</translation>
+    </message>
+    <message>
+        <source>The file is not given out by the server.</source>
+        <translation>Die Datei wird vom Server nicht herausgegeben.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not signed. It is not used.</source>
+        <translation>Die Liste der Versionen ist nicht signiert. Sie wird nicht benutzt.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not signed by who makes Kavela: it is damaged, or somebody else&apos;s. It is not used.</source>
+        <translation>Die Liste der Versionen ist nicht von den Machern von Kavela signiert: sie ist beschädigt oder von jemand anderem. Sie wird nicht benutzt.</translation>
+    </message>
+    <message>
+        <source>The list of versions is damaged and not used: {}.</source>
+        <translation>Die Liste der Versionen ist beschädigt und wird nicht benutzt: {}.</translation>
+    </message>
+    <message>
+        <source>The server offers version {}, which is older than {}, the one you have. It is not used.</source>
+        <translation>Der Server bietet Version {} an, die älter ist als die installierte {}. Sie wird nicht benutzt.</translation>
+    </message>
+    <message>
+        <source>The server offers version {}, which is older than {}, which it had before. It is not used.</source>
+        <translation>Der Server bietet Version {} an, die älter ist als {}, die er vorher hatte. Sie wird nicht benutzt.</translation>
+    </message>
+    <message>
+        <source>Version {} is the newest one.</source>
+        <translation>Version {} ist die neueste.</translation>
+    </message>
+    <message>
+        <source>There is a version {}, but no file of it for this computer ({}).</source>
+        <translation>Es gibt eine Version {}, aber keine Datei davon für diesen Computer ({}).</translation>
+    </message>
+    <message>
+        <source>no decoder for {}</source>
+        <translation>kein Dekoder für {}</translation>
+    </message>
+    <message>
+        <source>the film is cut off or damaged: the list of its frames is missing</source>
+        <translation>der Film ist abgeschnitten oder beschädigt: die Liste seiner Bilder fehlt</translation>
+    </message>
+    <message>
+        <source>this is no video that can be read, or it is damaged</source>
+        <translation>das ist kein lesbares Video, oder es ist beschädigt</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Ordner gibt es nicht</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>Das ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>there is no video in this file</source>
+        <translation>in dieser Datei ist kein Video</translation>
+    </message>
+    <message>
+        <source>there is no sound in this film</source>
+        <translation>in diesem Film ist kein Ton</translation>
+    </message>
+    <message>
+        <source>there is no video in this file, only a picture</source>
+        <translation>in dieser Datei ist kein Video, nur ein Bild</translation>
+    </message>
+    <message>
+        <source>the film has no clock</source>
+        <translation>der Film hat keine Uhr</translation>
+    </message>
+    <message>
+        <source>the film could not be read any further</source>
+        <translation>der Film konnte nicht weiter gelesen werden</translation>
+    </message>
+    <message>
+        <source>{:.3f} s</source>
+        <translation>{:.3f} s</translation>
+    </message>
+    <message numerus="yes">
+        <source>The file is cut off: {} frames missing at its end.</source>
+        <translation>
+            <numerusform>Die Datei ist abgeschnitten: am Ende fehlt {} Bild.</numerusform>
+            <numerusform>Die Datei ist abgeschnitten: am Ende fehlen {} Bilder.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file is cut off or damaged: its end is missing.</source>
+        <translation>Die Datei ist abgeschnitten oder beschädigt: ihr Ende fehlt.</translation>
+    </message>
+    <message>
+        <source>The file does not say when each frame was shown: times are estimated from its frame rate.</source>
+        <translation>Die Datei sagt nicht, wann jedes Bild gezeigt wurde: die Zeiten sind aus der Bildrate geschätzt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} frames left out that had the time of another frame.</source>
+        <translation>
+            <numerusform>{} Bild mit der Zeit eines anderen ausgelassen.</numerusform>
+            <numerusform>{} Bilder mit der Zeit eines anderen ausgelassen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The frame rate varies, from {} to {} frames a second.</source>
+        <translation>Die Bildrate schwankt, von {} bis {} Bildern je Sekunde.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} gaps</source>
+        <translation>
+            <numerusform>{} Lücke</numerusform>
+            <numerusform>{} Lücken</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} where frames are missing, the longest of {} at {}.</source>
+        <translation>{}, wo Bilder fehlen, die längste von {} bei {}.</translation>
+    </message>
+    <message>
+        <source>About {} of {} frames repeat the picture before them.</source>
+        <translation>Etwa {} von {} Bildern wiederholen das Bild davor.</translation>
+    </message>
+    <message>
+        <source>Slow motion: recorded at {} frames a second, plays at {}. Times taken from it are {} times too long.</source>
+        <translation>Zeitlupe: aufgenommen mit {} Bildern je Sekunde, abgespielt mit {}. Zeiten daraus sind um das {}-Fache zu lang.</translation>
+    </message>
+    <message>
+        <source>The film starts at {}, not at 0.</source>
+        <translation>Der Film beginnt bei {}, nicht bei 0.</translation>
+    </message>
+    <message>
+        <source>The file has no list of its frames: it had to be read from end to end.</source>
+        <translation>Die Datei hat keine Liste ihrer Bilder: sie musste ganz gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Recorded turned by {}°, and shown upright.</source>
+        <translation>Um {}° gedreht aufgenommen, und aufrecht gezeigt.</translation>
+    </message>
+    <message>
+        <source>Interlaced: each frame holds two moments half a frame apart.</source>
+        <translation>Zeilensprung: jedes Bild enthält zwei Augenblicke, ein halbes Bild auseinander.</translation>
+    </message>
+    <message>
+        <source>{} bits a colour, shown with 8.</source>
+        <translation>{} Bit je Farbe, gezeigt mit 8.</translation>
+    </message>
+    <message>
+        <source>no frame of the video can be read</source>
+        <translation>kein Bild des Videos kann gelesen werden</translation>
+    </message>
+    <message>
+        <source>no frame of the video can be decoded</source>
+        <translation>kein Bild des Videos kann dekodiert werden</translation>
+    </message>
+    <message>
+        <source>The film could not be encoded: {}</source>
+        <translation>Der Film konnte nicht kodiert werden: {}</translation>
+    </message>
+    <message>
+        <source>A picture could not be made: {}</source>
+        <translation>Ein Bild konnte nicht gemacht werden: {}</translation>
+    </message>
+    <message>
+        <source>Films cannot be made on this computer: the installed libavcodec has no encoder for H.264 (libx264).</source>
+        <translation>Auf diesem Computer können keine Filme gemacht werden: die installierte libavcodec hat keinen Kodierer für H.264 (libx264).</translation>
+    </message>
+    <message>
+        <source>Films with sound cannot be made on this computer: the installed libavcodec has no encoder for AAC.</source>
+        <translation>Auf diesem Computer können keine Filme mit Ton gemacht werden: die installierte libavcodec hat keinen Kodierer für AAC.</translation>
+    </message>
+    <message>
+        <source>The encoder for H.264 could not be started: {}</source>
+        <translation>Der Kodierer für H.264 konnte nicht gestartet werden: {}</translation>
+    </message>
+    <message>
+        <source>The encoder for sound could not be started: {}</source>
+        <translation>Der Kodierer für den Ton konnte nicht gestartet werden: {}</translation>
+    </message>
+    <message>
+        <source>Sound could not be encoded: {}</source>
+        <translation>Der Ton konnte nicht kodiert werden: {}</translation>
+    </message>
+    <message>
+        <source>The film could not be ended: {}</source>
+        <translation>Der Film konnte nicht abgeschlossen werden: {}</translation>
+    </message>
+    <message>
+        <source>Films cannot be written on this computer: {}</source>
+        <translation>Auf diesem Computer können keine Filme geschrieben werden: {}</translation>
+    </message>
+    <message>
+        <source>The film could not be put together: {}</source>
+        <translation>Der Film konnte nicht zusammengefügt werden: {}</translation>
+    </message>
+    <message>
+        <source>The film could not be begun: {}</source>
+        <translation>Der Film konnte nicht begonnen werden: {}</translation>
+    </message>
+    <message>
+        <source>the piece could not be found in the film</source>
+        <translation>das Stück wurde im Film nicht gefunden</translation>
+    </message>
+    <message>
+        <source>it was written by a newer release</source>
+        <translation>das schrieb eine neuere Version</translation>
+    </message>
+    <message>
+        <source>rows and columns from 1 to 2000 were expected</source>
+        <translation>1 bis 2000 Zeilen und Spalten wurden erwartet</translation>
+    </message>
+    <message>
+        <source>&quot;accepted&quot;, &quot;moved&quot;, &quot;refused&quot; or &quot;missed&quot; expected</source>
+        <translation>„accepted“, „moved“, „refused“ oder „missed“ wurde erwartet</translation>
+    </message>
+    <message>
+        <source>there are more bands than a recording holds</source>
+        <translation>es sind mehr Streifen, als eine Aufzeichnung fasst</translation>
+    </message>
+    <message>
+        <source>it is no recording of bands, or damaged: {}</source>
+        <translation>das ist keine Aufzeichnung von Streifen, oder eine beschädigte: {}</translation>
+    </message>
+    <message>
+        <source>the recording could not be put together</source>
+        <translation>die Aufzeichnung konnte nicht zusammengefügt werden</translation>
+    </message>
+    <message>
+        <source>it is no recording of bands: {} is missing</source>
+        <translation>das ist keine Aufzeichnung von Streifen: {} fehlt</translation>
+    </message>
+    <message>
+        <source>the recording is damaged: {} cannot be read</source>
+        <translation>die Aufzeichnung ist beschädigt: {} kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>the recording could not be put together: {}</source>
+        <translation>die Aufzeichnung konnte nicht zusammengefügt werden: {}</translation>
+    </message>
+    <message>
+        <source>it cannot be opened</source>
+        <translation>sie kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>each needs its bands</source>
+        <translation>jeder braucht seine Streifen</translation>
+    </message>
+    <message>
+        <source>their number is not that of the bands</source>
+        <translation>ihre Zahl ist nicht die der Streifen</translation>
+    </message>
+    <message>
+        <source>the recording is larger than any that is written</source>
+        <translation>die Aufzeichnung ist größer als jede, die geschrieben wird</translation>
+    </message>
+    <message>
+        <source>there is no proposal or correction to be saved</source>
+        <translation>es gibt keinen Vorschlag und keine Korrektur zu speichern</translation>
+    </message>
+    <message>
+        <source>The search for boats was not measured.</source>
+        <translation>Die Suche nach Booten wurde nicht gemessen.</translation>
+    </message>
+    <message>
+        <source>Measured on {} scenes of real water ({} runs, {:.0f} minutes): {:.1f} % of the runs found (asked: {:.0f} %), {:.1f} false proposals an hour (asked: at most {:g}), an error of at most {:.1f} frames for 95 of 100 (asked: {:g}).</source>
+        <translation>Gemessen an {} Szenen auf echtem Wasser (Läufe: {}, Minuten: {:.0f}): {:.1f}&#xa0;% der Läufe gefunden (verlangt: {:.0f}&#xa0;%), {:.1f} falsche Vorschläge je Stunde (verlangt: höchstens {:g}), ein Fehler von höchstens {:.1f} Bildern bei 95 von 100 (verlangt: {:g}).</translation>
+    </message>
+    <message>
+        <source>Measured on {} scenes of rendered water ({} runs, {:.0f} minutes): {:.1f} % of the runs found (asked: {:.0f} %), {:.1f} false proposals an hour (asked: at most {:g}), an error of at most {:.1f} frames for 95 of 100 (asked: {:g}).</source>
+        <translation>Gemessen an {} Szenen auf berechnetem Wasser (Läufe: {}, Minuten: {:.0f}): {:.1f}&#xa0;% der Läufe gefunden (verlangt: {:.0f}&#xa0;%), {:.1f} falsche Vorschläge je Stunde (verlangt: höchstens {:g}), ein Fehler von höchstens {:.1f} Bildern bei 95 von 100 (verlangt: {:g}).</translation>
+    </message>
+    <message>
+        <source>The frame of the box cannot be shown.</source>
+        <translation>Das Bild des Kastens kann nicht gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>the box round a boat has no size</source>
+        <translation>der Kasten um ein Boot hat keine Größe</translation>
+    </message>
+    <message>
+        <source>the box round a boat is larger than the picture</source>
+        <translation>der Kasten um ein Boot ist größer als das Bild</translation>
+    </message>
+    <message>
+        <source>the film has no frames from {:.2f} s to {:.2f} s</source>
+        <translation>der Film hat von {:.2f} s bis {:.2f} s keine Bilder</translation>
+    </message>
+    <message>
+        <source>The film ends early: the file is cut off.</source>
+        <translation>Der Film endet zu früh: die Datei ist abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>The box is too small: it needs 8 pixels each way at least.</source>
+        <translation>Der Kasten ist zu klein: er braucht in jeder Richtung mindestens 8 Pixel.</translation>
+    </message>
+    <message>
+        <source>The box does not lie within the picture, which has {} × {} pixels.</source>
+        <translation>Der Kasten liegt nicht im Bild, das {} × {} Pixel hat.</translation>
+    </message>
+    <message>
+        <source>There is nothing in the box that could be known again: it has one colour all over.</source>
+        <translation>Im Kasten ist nichts, was wiederzuerkennen wäre: er hat überall eine Farbe.</translation>
+    </message>
+    <message>
+        <source>It is not known how the camera moved between the path and the frame of the known points. Click them in a frame of the path.</source>
+        <translation>Es ist nicht bekannt, wie sich die Kamera zwischen der Bahn und dem Bild der bekannten Punkte bewegte. Klicken Sie sie in einem Bild der Bahn an.</translation>
+    </message>
+    <message>
+        <source>version {} is of a later release</source>
+        <translation>Version {} gehört zu einer späteren Programmversion</translation>
+    </message>
+    <message>
+        <source>the line&apos;s end at {}, {} lies outside the picture of {} × {} pixels</source>
+        <translation>das Ende der Linie bei {}, {} liegt außerhalb des Bildes von {} × {} Pixeln</translation>
+    </message>
+    <message>
+        <source>the line is shorter than {} pixels</source>
+        <translation>die Linie ist kürzer als {} Pixel</translation>
+    </message>
+    <message>
+        <source>The camera was held in the hand, or nothing in the picture stands still: the search for boats needs a camera on a tripod.</source>
+        <translation>Die Kamera wurde in der Hand gehalten, oder nichts im Bild steht still: die Suche nach Booten braucht eine Kamera auf einem Stativ.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} frames could not be read and were passed over.</source>
+        <translation>
+            <numerusform>{} Bild konnte nicht gelesen werden und wurde übergangen.</numerusform>
+            <numerusform>{} Bilder konnten nicht gelesen werden und wurden übergangen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>a frame from 0 on was expected</source>
+        <translation>ein Bild ab 0 wurde erwartet</translation>
+    </message>
+    <message>
+        <source>it does not lie behind the frame before</source>
+        <translation>es liegt nicht hinter dem vorigen Bild</translation>
+    </message>
+    <message>
+        <source>no film has so many frames</source>
+        <translation>kein Film hat so viele Bilder</translation>
+    </message>
+    <message>
+        <source>it lies beyond all pictures</source>
+        <translation>es liegt jenseits aller Bilder</translation>
+    </message>
+    <message>
+        <source>four known points were expected, or two for a scale only</source>
+        <translation>vier bekannte Punkte wurden erwartet, oder zwei nur für einen Maßstab</translation>
+    </message>
+    <message>
+        <source>the box has no size</source>
+        <translation>der Kasten hat keine Größe</translation>
+    </message>
+    <message>
+        <source>a size above 0 was expected</source>
+        <translation>eine Größe über 0 wurde erwartet</translation>
+    </message>
+    <message>
+        <source>it makes the picture vanish</source>
+        <translation>es lässt das Bild verschwinden</translation>
+    </message>
+    <message>
+        <source>Three of the four known points lie on a line: they have to be the corners of a field, such as the poles of two gates.</source>
+        <translation>Drei der vier bekannten Punkte liegen auf einer Linie: sie müssen die Ecken eines Feldes sein, wie die Stäbe zweier Tore.</translation>
+    </message>
+    <message>
+        <source>Metres need four known points on the water, or two for a scale only; there are {}.</source>
+        <translation>Meter brauchen vier bekannte Punkte auf dem Wasser, oder zwei nur für einen Maßstab; vorhanden: {}.</translation>
+    </message>
+    <message>
+        <source>The two known points lie on one spot.</source>
+        <translation>Die zwei bekannten Punkte liegen auf einer Stelle.</translation>
+    </message>
+    <message>
+        <source>The four known points do not fit together: no view of flat water shows them so.</source>
+        <translation>Die vier bekannten Punkte passen nicht zusammen: kein Blick auf ebenes Wasser zeigt sie so.</translation>
+    </message>
+    <message>
+        <source>The four known points do not fit together: no view of flat water shows them so. Were two of them exchanged?</source>
+        <translation>Die vier bekannten Punkte passen nicht zusammen: kein Blick auf ebenes Wasser zeigt sie so. Wurden zwei vertauscht?</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -21350,6 +22905,13 @@ und %1 weitere</translation>
     <message>
         <source>Stop and close</source>
         <translation>Anhalten und schließen</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SharedRows</name>
+    <message>
+        <source>Share</source>
+        <translation>Teilen</translation>
     </message>
 </context>
 <context>

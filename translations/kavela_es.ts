@@ -7588,6 +7588,1561 @@
             <numerusform>intervalo del 90 %, {} mangas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>column {}: “{}” is no date</source>
+        <translation>columna {}: «{}» no es una fecha</translation>
+    </message>
+    <message>
+        <source>column {}: “{}” is no number</source>
+        <translation>columna {}: «{}» no es un número</translation>
+    </message>
+    <message>
+        <source>the line ends before its time</source>
+        <translation>la línea acaba antes de su tiempo</translation>
+    </message>
+    <message>
+        <source>an axis of the acceleration is missing</source>
+        <translation>falta un eje de la aceleración</translation>
+    </message>
+    <message>
+        <source>Some lines were not in order of time and were put in order.</source>
+        <translation>Algunas líneas no estaban en orden de tiempo y se ordenaron.</translation>
+    </message>
+    <message>
+        <source>Gravity was split off the acceleration by a low-pass of 0.3 Hz.</source>
+        <translation>La gravedad se separó de la aceleración con un filtro de paso bajo de 0,3 Hz.</translation>
+    </message>
+    <message>
+        <source>There is no gravity in the list.</source>
+        <translation>En la lista no está la gravedad.</translation>
+    </message>
+    <message>
+        <source>There is no rotation in the list: hands and turns cannot be found.</source>
+        <translation>En la lista no está la rotación: no se pueden encontrar ni los lados de palada ni los giros.</translation>
+    </message>
+    <message>
+        <source>the messages end within a definition</source>
+        <translation>los mensajes acaban dentro de una definición</translation>
+    </message>
+    <message>
+        <source>the messages end within a message</source>
+        <translation>los mensajes acaban dentro de un mensaje</translation>
+    </message>
+    <message>
+        <source>byte {}</source>
+        <translation>byte {}</translation>
+    </message>
+    <message>
+        <source>the header&apos;s check sum does not agree</source>
+        <translation>la suma de control de la cabecera no coincide</translation>
+    </message>
+    <message>
+        <source>the file&apos;s check sum does not agree: bytes of it are damaged</source>
+        <translation>la suma de control del archivo no coincide: tiene bytes dañados</translation>
+    </message>
+    <message>
+        <source>the file ends within a header</source>
+        <translation>el archivo acaba dentro de una cabecera</translation>
+    </message>
+    <message>
+        <source>a header of {} bytes: it has to have 12 or 14</source>
+        <translation>una cabecera de {} bytes: tiene que tener 12 o 14</translation>
+    </message>
+    <message>
+        <source>the header does not say that this is a FIT file</source>
+        <translation>la cabecera no dice que esto sea un archivo FIT</translation>
+    </message>
+    <message>
+        <source>the recording was not finished by its device: it is empty</source>
+        <translation>el dispositivo no terminó la grabación: está vacía</translation>
+    </message>
+    <message>
+        <source>the file ends here, but its header announces {} bytes</source>
+        <translation>el archivo acaba aquí, pero su cabecera anuncia {} bytes</translation>
+    </message>
+    <message>
+        <source>a byte order of {}: it is 0 or 1</source>
+        <translation>un orden de bytes {}: es 0 o 1</translation>
+    </message>
+    <message>
+        <source>a message of type {}, which is not defined</source>
+        <translation>un mensaje de tipo {}, que no está definido</translation>
+    </message>
+    <message numerus="yes">
+        <source>The file holds {} sessions; all were taken.</source>
+        <translation>
+            <numerusform>El archivo contiene {} sesión; se ha tomado entera.</numerusform>
+            <numerusform>El archivo contiene {} sesiones; se han tomado todas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The watch was stopped {} times.</source>
+        <translation>
+            <numerusform>El reloj se paró {} vez.</numerusform>
+            <numerusform>El reloj se paró {} veces.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} d {} h</source>
+        <translation>{} d {} h</translation>
+    </message>
+    <message>
+        <source>{} h {} min</source>
+        <translation>{} h {} min</translation>
+    </message>
+    <message>
+        <source>{} min {} s</source>
+        <translation>{} min {} s</translation>
+    </message>
+    <message>
+        <source>The recording has positions of its own, which stay.</source>
+        <translation>La grabación tiene posiciones propias, que se conservan.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s positions begin {} after the recording.</source>
+        <translation>Las posiciones del track empiezan {} después de la grabación.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s positions begin {} before the recording.</source>
+        <translation>Las posiciones del track empiezan {} antes que la grabación.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s positions begin {} after the recording; perhaps an offset of {} h is missing.</source>
+        <translation>Las posiciones del track empiezan {} después de la grabación; quizá falta un desfase de {} h.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s positions begin {} before the recording; perhaps an offset of {} h is missing.</source>
+        <translation>Las posiciones del track empiezan {} antes que la grabación; quizá falta un desfase de {} h.</translation>
+    </message>
+    <message>
+        <source>The recording has heart rates of its own, which stay.</source>
+        <translation>La grabación tiene frecuencias cardiacas propias, que se conservan.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s heart rates begin {} after the recording.</source>
+        <translation>Las frecuencias cardiacas del track empiezan {} después de la grabación.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s heart rates begin {} before the recording.</source>
+        <translation>Las frecuencias cardiacas del track empiezan {} antes que la grabación.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s heart rates begin {} after the recording; perhaps an offset of {} h is missing.</source>
+        <translation>Las frecuencias cardiacas del track empiezan {} después de la grabación; quizá falta un desfase de {} h.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s heart rates begin {} before the recording; perhaps an offset of {} h is missing.</source>
+        <translation>Las frecuencias cardiacas del track empiezan {} antes que la grabación; quizá falta un desfase de {} h.</translation>
+    </message>
+    <message>
+        <source>The recording has no motion samples to join the track to.</source>
+        <translation>La grabación no tiene muestras de movimiento a las que unir el track.</translation>
+    </message>
+    <message>
+        <source>“{}” stands over two columns.</source>
+        <translation>«{}» está sobre dos columnas.</translation>
+    </message>
+    <message>
+        <source>Of the acceleration with gravity all of x, y and z are needed.</source>
+        <translation>De la aceleración con gravedad hacen falta x, y y z.</translation>
+    </message>
+    <message>
+        <source>Of the acceleration without gravity all of x, y and z are needed.</source>
+        <translation>De la aceleración sin gravedad hacen falta x, y y z.</translation>
+    </message>
+    <message>
+        <source>Of the rotation all of x, y and z are needed.</source>
+        <translation>De la rotación hacen falta x, y y z.</translation>
+    </message>
+    <message>
+        <source>Of the gravity all of x, y and z are needed.</source>
+        <translation>De la gravedad hacen falta x, y y z.</translation>
+    </message>
+    <message>
+        <source>Latitude and longitude go together.</source>
+        <translation>La latitud y la longitud van juntas.</translation>
+    </message>
+    <message>
+        <source>Acc. x with gravity</source>
+        <translation>Acel. x con gravedad</translation>
+    </message>
+    <message>
+        <source>Acc. y with gravity</source>
+        <translation>Acel. y con gravedad</translation>
+    </message>
+    <message>
+        <source>Acc. z with gravity</source>
+        <translation>Acel. z con gravedad</translation>
+    </message>
+    <message>
+        <source>Acc. x without gravity</source>
+        <translation>Acel. x sin gravedad</translation>
+    </message>
+    <message>
+        <source>Acc. y without gravity</source>
+        <translation>Acel. y sin gravedad</translation>
+    </message>
+    <message>
+        <source>Acc. z without gravity</source>
+        <translation>Acel. z sin gravedad</translation>
+    </message>
+    <message>
+        <source>Gravity x</source>
+        <translation>Gravedad x</translation>
+    </message>
+    <message>
+        <source>Gravity y</source>
+        <translation>Gravedad y</translation>
+    </message>
+    <message>
+        <source>Gravity z</source>
+        <translation>Gravedad z</translation>
+    </message>
+    <message>
+        <source>Yaw</source>
+        <translation>Guiñada</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitud</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitud</translation>
+    </message>
+    <message>
+        <source>No column is the time.</source>
+        <translation>Ninguna columna es el tiempo.</translation>
+    </message>
+    <message>
+        <source>Commas cannot be in numbers and between columns.</source>
+        <translation>No puede haber comas en los números y entre las columnas a la vez.</translation>
+    </message>
+    <message>
+        <source>No column is acceleration, position or heart rate.</source>
+        <translation>Ninguna columna es aceleración, posición o frecuencia cardiaca.</translation>
+    </message>
+    <message>
+        <source>this is no plain text; a list has to be saved as UTF-8</source>
+        <translation>no es texto sin formato; una lista tiene que guardarse como UTF-8</translation>
+    </message>
+    <message>
+        <source>this is no list of samples: in its first {} lines there is none with numbers in columns</source>
+        <translation>no es una lista de muestras: en sus primeras {} líneas no hay ninguna con números en columnas</translation>
+    </message>
+    <message>
+        <source>the list has more than {} lines</source>
+        <translation>la lista tiene más de {} líneas</translation>
+    </message>
+    <message>
+        <source>the file is too large to be imported (over {} MB)</source>
+        <translation>el archivo es demasiado grande para importarlo (más de {} MB)</translation>
+    </message>
+    <message>
+        <source>the file grew while it was read</source>
+        <translation>el archivo creció mientras se leía</translation>
+    </message>
+    <message>
+        <source>this is no track: neither GPX nor TCX nor FIT</source>
+        <translation>no es un track: ni GPX ni TCX ni FIT</translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} positions outside the globe.</source>
+        <translation>
+            <numerusform>Omitida: {} posición fuera del globo.</numerusform>
+            <numerusform>Omitidas: {} posiciones fuera del globo.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} speeds that no boat has.</source>
+        <translation>
+            <numerusform>Omitida: {} velocidad que no tiene ningún barco.</numerusform>
+            <numerusform>Omitidas: {} velocidades que no tiene ningún barco.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} points without a date.</source>
+        <translation>
+            <numerusform>Omitido: {} punto sin fecha.</numerusform>
+            <numerusform>Omitidos: {} puntos sin fecha.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} heart rates that are none.</source>
+        <translation>
+            <numerusform>Omitida: {} frecuencia cardiaca que no lo es.</numerusform>
+            <numerusform>Omitidas: {} frecuencias cardiacas que no lo son.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} positions at the moment of another.</source>
+        <translation>
+            <numerusform>Omitida: {} posición en el mismo instante que otra.</numerusform>
+            <numerusform>Omitidas: {} posiciones en el mismo instante que otra.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} heart rates at the moment of another.</source>
+        <translation>
+            <numerusform>Omitida: {} frecuencia cardiaca en el mismo instante que otra.</numerusform>
+            <numerusform>Omitidas: {} frecuencias cardiacas en el mismo instante que otra.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} way points and points of routes.</source>
+        <translation>
+            <numerusform>Omitido: {} punto de paso o de ruta.</numerusform>
+            <numerusform>Omitidos: {} puntos de paso y de rutas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The speed of {} positions was computed from the positions around them.</source>
+        <translation>
+            <numerusform>La velocidad de {} posición se calculó a partir de las posiciones vecinas.</numerusform>
+            <numerusform>La velocidad de {} posiciones se calculó a partir de las posiciones vecinas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the track has more than {} points</source>
+        <translation>el track tiene más de {} puntos</translation>
+    </message>
+    <message>
+        <source>the XML is damaged: {}</source>
+        <translation>el XML está dañado: {}</translation>
+    </message>
+    <message>
+        <source>this XML is no track: neither GPX nor TCX</source>
+        <translation>este XML no es un track: ni GPX ni TCX</translation>
+    </message>
+    <message>
+        <source>a number was expected, found {}</source>
+        <translation>se esperaba un número, hay {}</translation>
+    </message>
+    <message>
+        <source>an integer was expected, found {}</source>
+        <translation>se esperaba un entero, hay {}</translation>
+    </message>
+    <message>
+        <source>a boolean was expected, found {}</source>
+        <translation>se esperaba un booleano, hay {}</translation>
+    </message>
+    <message>
+        <source>a string was expected, found {}</source>
+        <translation>se esperaba una cadena de texto, hay {}</translation>
+    </message>
+    <message>
+        <source>a base64 string was expected, found {}</source>
+        <translation>se esperaba una cadena en base64, hay {}</translation>
+    </message>
+    <message>
+        <source>an array was expected, found {}</source>
+        <translation>se esperaba una lista, hay {}</translation>
+    </message>
+    <message>
+        <source>an object was expected, found {}</source>
+        <translation>se esperaba un objeto, hay {}</translation>
+    </message>
+    <message>
+        <source>the integer {} is out of range</source>
+        <translation>el entero {} está fuera de rango</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>una lista</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>un objeto</translation>
+    </message>
+    <message>
+        <source>an integer</source>
+        <translation>un entero</translation>
+    </message>
+    <message>
+        <source>a number that is no 64-bit integer</source>
+        <translation>un número que no es un entero de 64 bits</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>una cadena de texto</translation>
+    </message>
+    <message>
+        <source>a boolean</source>
+        <translation>un booleano</translation>
+    </message>
+    <message>
+        <source>something else</source>
+        <translation>otra cosa</translation>
+    </message>
+    <message>
+        <source>the key is missing</source>
+        <translation>falta la clave</translation>
+    </message>
+    <message>
+        <source>a base64 string was expected, found other text</source>
+        <translation>se esperaba una cadena en base64, hay otro texto</translation>
+    </message>
+    <message>
+        <source>a number that is not finite cannot be written</source>
+        <translation>un número que no es finito no se puede escribir</translation>
+    </message>
+    <message>
+        <source>a text that is not valid UTF-8 cannot be written</source>
+        <translation>un texto que no es UTF-8 válido no se puede escribir</translation>
+    </message>
+    <message>
+        <source>waits {} s</source>
+        <translation>espera {} s</translation>
+    </message>
+    <message>
+        <source>Section {}</source>
+        <translation>Tramo {}</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is none of {}</source>
+        <translation>«{}» no es ninguno de {}</translation>
+    </message>
+    <message>
+        <source>{} is not a number from {} on</source>
+        <translation>{} no es un número a partir de {}</translation>
+    </message>
+    <message>
+        <source>either two points or none are needed</source>
+        <translation>hacen falta dos puntos o ninguno</translation>
+    </message>
+    <message>
+        <source>a number from 1 to 2 was expected</source>
+        <translation>se esperaba un número de 1 a 2</translation>
+    </message>
+    <message>
+        <source>no path is named that could be drawn or followed</source>
+        <translation>no se indica ninguna trayectoria que se pueda dibujar o seguir</translation>
+    </message>
+    <message>
+        <source>{}: the size of its picture is missing</source>
+        <translation>{}: falta el tamaño de su imagen</translation>
+    </message>
+    <message numerus="yes">
+        <source>the split file has {} runs</source>
+        <translation>
+            <numerusform>el archivo de parciales tiene {} manga</numerusform>
+            <numerusform>el archivo de parciales tiene {} mangas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the run has no film of this camera</source>
+        <translation>la manga no tiene vídeo de esta cámara</translation>
+    </message>
+    <message>
+        <source>neither a film nor a split file is named</source>
+        <translation>no se indica ni un vídeo ni un archivo de parciales</translation>
+    </message>
+    <message>
+        <source>a share from 0 to 1 was expected</source>
+        <translation>se esperaba una proporción de 0 a 1</translation>
+    </message>
+    <message>
+        <source>{} films; this layout takes 2 to 4</source>
+        <translation>vídeos: {}; esta disposición admite de 2 a 4</translation>
+    </message>
+    <message>
+        <source>{} films; this layout takes 2</source>
+        <translation>vídeos: {}; esta disposición admite 2</translation>
+    </message>
+    <message>
+        <source>an even number from 160 to 4096 was expected</source>
+        <translation>se esperaba un número par de 160 a 4096</translation>
+    </message>
+    <message>
+        <source>the picture is larger than 1920 × 1080 and would not play everywhere</source>
+        <translation>la imagen es mayor que 1920 × 1080 y no se reproduciría en todas partes</translation>
+    </message>
+    <message>
+        <source>it does not lie behind {}</source>
+        <translation>no está después de {}</translation>
+    </message>
+    <message>
+        <source>a number from 0.125 to 1 was expected</source>
+        <translation>se esperaba un número de 0,125 a 1</translation>
+    </message>
+    <message>
+        <source>there is no film of this number; 0 is no sound</source>
+        <translation>no hay ningún vídeo con este número; 0 es sin sonido</translation>
+    </message>
+    <message>
+        <source>films that lie over each other cannot follow a path</source>
+        <translation>los vídeos superpuestos no pueden seguir una trayectoria</translation>
+    </message>
+    <message>
+        <source>{}: the start lies outside the film, at {} s.</source>
+        <translation>{}: la salida está fuera del vídeo, en {} s.</translation>
+    </message>
+    <message>
+        <source>{}: split {} lies outside the film, at {} s.</source>
+        <translation>{}: el parcial {} está fuera del vídeo, en {} s.</translation>
+    </message>
+    <message>
+        <source>so large a picture would not play everywhere at {} frames a second</source>
+        <translation>una imagen tan grande no se reproduciría en todas partes a {} fotogramas por segundo</translation>
+    </message>
+    <message>
+        <source>{} is not shown: {}.</source>
+        <translation>{} no se muestra: {}.</translation>
+    </message>
+    <message>
+        <source>{} is cut off or damaged; it is shown as far as it goes.</source>
+        <translation>{} está cortado o dañado; se muestra hasta donde llega.</translation>
+    </message>
+    <message>
+        <source>{}: at {} s a frame cannot be shown ({}); the last good one stays.</source>
+        <translation>{}: en {} s no se puede mostrar un fotograma ({}); se queda el último bueno.</translation>
+    </message>
+    <message>
+        <source>no film has a mark at this split</source>
+        <translation>ningún vídeo tiene una marca en este parcial</translation>
+    </message>
+    <message>
+        <source>no run is marked at its start, so the range has to be given in seconds</source>
+        <translation>ninguna manga está marcada en su salida, así que el intervalo hay que darlo en segundos</translation>
+    </message>
+    <message>
+        <source>its end does not lie behind its beginning</source>
+        <translation>su final no está después de su principio</translation>
+    </message>
+    <message>
+        <source>it cannot be decoded</source>
+        <translation>no se puede decodificar</translation>
+    </message>
+    <message>
+        <source>its pictures are in a format of no use</source>
+        <translation>sus imágenes están en un formato que no sirve</translation>
+    </message>
+    <message>
+        <source>the start is not marked on this film, so it cannot be held there</source>
+        <translation>la salida no está marcada en este vídeo, así que no se puede detener ahí</translation>
+    </message>
+    <message>
+        <source>split {} is not marked on this film, so it cannot be held there</source>
+        <translation>el parcial {} no está marcado en este vídeo, así que no se puede detener ahí</translation>
+    </message>
+    <message>
+        <source>{}: {}.</source>
+        <translation>{}: {}.</translation>
+    </message>
+    <message>
+        <source>the crew, in whatever order it is written</source>
+        <translation>la tripulación, se escriba en el orden que se escriba</translation>
+    </message>
+    <message>
+        <source>category, however it is written (K1M, MK1)</source>
+        <translation>categoría, se escriba como se escriba (K1M, MK1)</translation>
+    </message>
+    <message>
+        <source>phase of the race</source>
+        <translation>fase de la carrera</translation>
+    </message>
+    <message>
+        <source>side on which the athlete paddles</source>
+        <translation>lado por el que palea el deportista</translation>
+    </message>
+    <message>
+        <source>place of the course</source>
+        <translation>lugar del recorrido</translation>
+    </message>
+    <message>
+        <source>title of the race</source>
+        <translation>título de la carrera</translation>
+    </message>
+    <message>
+        <source>event</source>
+        <translation>competición</translation>
+    </message>
+    <message>
+        <source>Race, Training or Test</source>
+        <translation>Race, Training o Test</translation>
+    </message>
+    <message>
+        <source>kind of water</source>
+        <translation>tipo de agua</translation>
+    </message>
+    <message>
+        <source>the file</source>
+        <translation>el archivo</translation>
+    </message>
+    <message>
+        <source>2026-05-11; also 2026-05 or 2026</source>
+        <translation>2026-05-11; también 2026-05 o 2026</translation>
+    </message>
+    <message>
+        <source>year of the date</source>
+        <translation>año de la fecha</translation>
+    </message>
+    <message>
+        <source>month of the date, 1 to 12</source>
+        <translation>mes de la fecha, de 1 a 12</translation>
+    </message>
+    <message>
+        <source>of the run, with penalties</source>
+        <translation>de la manga, con penalizaciones</translation>
+    </message>
+    <message>
+        <source>of the run, without penalties</source>
+        <translation>de la manga, sin penalizaciones</translation>
+    </message>
+    <message>
+        <source>penalty seconds of the run</source>
+        <translation>segundos de penalización de la manga</translation>
+    </message>
+    <message>
+        <source>place among the runs that compete</source>
+        <translation>puesto entre las mangas que compiten</translation>
+    </message>
+    <message>
+        <source>position in the official list</source>
+        <translation>posición en la lista oficial</translation>
+    </message>
+    <message>
+        <source>number of the run in its file, from 0</source>
+        <translation>número de la manga en su archivo, desde 0</translation>
+    </message>
+    <message>
+        <source>sprint time</source>
+        <translation>tiempo de esprint</translation>
+    </message>
+    <message>
+        <source>of the section, where both its marks were taken</source>
+        <translation>del tramo, donde se tomaron sus dos marcas</translation>
+    </message>
+    <message>
+        <source>from entrance to exit</source>
+        <translation>de la entrada a la salida</translation>
+    </message>
+    <message>
+        <source>from entrance to the pole line</source>
+        <translation>de la entrada a la línea de la puerta</translation>
+    </message>
+    <message>
+        <source>from the pole line to the exit</source>
+        <translation>de la línea de la puerta a la salida</translation>
+    </message>
+    <message>
+        <source>number of the gate</source>
+        <translation>número de la puerta</translation>
+    </message>
+    <message>
+        <source>number of the section, from 1</source>
+        <translation>número del tramo, desde 1</translation>
+    </message>
+    <message>
+        <source>up for a section with an upstream gate, or down</source>
+        <translation>up para un tramo con un remonte, o down</translation>
+    </message>
+    <message>
+        <source>up: only upstream gates are timed by themselves</source>
+        <translation>up: solo los remontes se cronometran por sí solos</translation>
+    </message>
+    <message>
+        <source>up for an upstream gate, or down</source>
+        <translation>up para un remonte, o down</translation>
+    </message>
+    <message>
+        <source>penalty seconds in the section</source>
+        <translation>segundos de penalización en el tramo</translation>
+    </message>
+    <message>
+        <source>strokes on the left</source>
+        <translation>paladas por la izquierda</translation>
+    </message>
+    <message>
+        <source>strokes on the right</source>
+        <translation>paladas por la derecha</translation>
+    </message>
+    <message>
+        <source>strokes marked in the section</source>
+        <translation>paladas marcadas en el tramo</translation>
+    </message>
+    <message>
+        <source>side to which the boat turns</source>
+        <translation>lado hacia el que gira el barco</translation>
+    </message>
+    <message>
+        <source>how the gate is paddled</source>
+        <translation>cómo se pasa la puerta</translation>
+    </message>
+    <message>
+        <source>of the penalty</source>
+        <translation>de la penalización</translation>
+    </message>
+    <message>
+        <source>touch, or how the gate was missed</source>
+        <translation>toque, o cómo se saltó la puerta</translation>
+    </message>
+    <message>
+        <source>kind of gate</source>
+        <translation>tipo de puerta</translation>
+    </message>
+    <message>
+        <source>which pole</source>
+        <translation>qué palo</translation>
+    </message>
+    <message>
+        <source>what touched, or how the gate was missed</source>
+        <translation>qué tocó, o cómo se saltó la puerta</translation>
+    </message>
+    <message>
+        <source>where in the gate</source>
+        <translation>en qué parte de la puerta</translation>
+    </message>
+    <message>
+        <source>how the boat was moving</source>
+        <translation>cómo se movía el barco</translation>
+    </message>
+    <message>
+        <source>how the gate was paddled</source>
+        <translation>cómo se pasó la puerta</translation>
+    </message>
+    <message>
+        <source>where the athlete looked</source>
+        <translation>adónde miraba el deportista</translation>
+    </message>
+    <message>
+        <source>below 0 for time gained</source>
+        <translation>por debajo de 0 si se ganó tiempo</translation>
+    </message>
+    <message>
+        <source>of the other run&apos;s time</source>
+        <translation>del tiempo de la otra manga</translation>
+    </message>
+    <message>
+        <source>against whom</source>
+        <translation>contra quién</translation>
+    </message>
+    <message>
+        <source>reasons noted</source>
+        <translation>motivos anotados</translation>
+    </message>
+    <message>
+        <source>combination of gates</source>
+        <translation>combinación de puertas</translation>
+    </message>
+    <message>
+        <source>part of the gate</source>
+        <translation>parte de la puerta</translation>
+    </message>
+    <message>
+        <source>how the stretch was paddled</source>
+        <translation>cómo se pasó el trecho</translation>
+    </message>
+    <message>
+        <source>the water there</source>
+        <translation>el agua en ese lugar</translation>
+    </message>
+    <message>
+        <source>the word of a mark</source>
+        <translation>la palabra de una etiqueta</translation>
+    </message>
+    <message>
+        <source>Behind &quot;{}&quot; stands &quot;{}&quot;, which is a condition.</source>
+        <translation>Detrás de «{}» está «{}», que es una condición.</translation>
+    </message>
+    <message>
+        <source>Only values can stand here.</source>
+        <translation>Aquí solo puede haber valores.</translation>
+    </message>
+    <message>
+        <source>One limit stands here, such as 4 or {}4.</source>
+        <translation>Aquí va un solo límite, como 4 o {}4.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; needs the name of a column.</source>
+        <translation>«{}» necesita el nombre de una columna.</translation>
+    </message>
+    <message>
+        <source>Before a value stands the name of its column, such as athlete or text.</source>
+        <translation>Delante de un valor va el nombre de su columna, como athlete o text.</translation>
+    </message>
+    <message>
+        <source>Before &quot;{}&quot; stands the name of a column.</source>
+        <translation>Delante de «{}» va el nombre de una columna.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; needs a value.</source>
+        <translation>«{}» necesita un valor.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; needs a value; one of our own words stands in quotes.</source>
+        <translation>«{}» necesita un valor; una de nuestras propias palabras va entre comillas.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is a text: it is compared by = and != alone.</source>
+        <translation>«{}» es un texto: solo se compara con = y !=.</translation>
+    </message>
+    <message>
+        <source>There is nothing in the quotes.</source>
+        <translation>No hay nada entre las comillas.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; has words for values: it is compared by = and != alone.</source>
+        <translation>«{}» tiene palabras como valores: solo se compara con = y !=.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no day: write 2026-05-11, or 2026-05, or 2026.</source>
+        <translation>«{}» no es un día: escribe 2026-05-11, o 2026-05, o 2026.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no {}.</source>
+        <translation>«{}» no es un valor de {}.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no number.</source>
+        <translation>«{}» no es un número.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is not told of {}, but of {}.</source>
+        <translation>«{}» no se dice de {}, sino de {}.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; means nothing in a query about {}.</source>
+        <translation>«{}» no significa nada en una consulta sobre {}.</translation>
+    </message>
+    <message>
+        <source>A value of several words stands in quotes.</source>
+        <translation>Un valor de varias palabras va entre comillas.</translation>
+    </message>
+    <message>
+        <source>Nearly every row has a {} of its own.</source>
+        <translation>Casi cada fila tiene su propio valor de {}.</translation>
+    </message>
+    <message>
+        <source>Groups are made by three columns at most.</source>
+        <translation>Los grupos se forman con tres columnas como máximo.</translation>
+    </message>
+    <message>
+        <source>There is one &quot;best&quot; already.</source>
+        <translation>Ya hay un «best».</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no number, of which one could be the best.</source>
+        <translation>«{}» no es un número del que uno pueda ser el mejor.</translation>
+    </message>
+    <message>
+        <source>There is one &quot;sort&quot; already.</source>
+        <translation>Ya hay un «sort».</translation>
+    </message>
+    <message>
+        <source>Groups are sorted by what makes them, or by count, best, mean or median.</source>
+        <translation>Los grupos se ordenan por lo que los forma, o por count, best, mean o median.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no number of rows.</source>
+        <translation>«{}» no es un número de filas.</translation>
+    </message>
+    <message>
+        <source>The quote is not closed.</source>
+        <translation>Las comillas no se cierran.</translation>
+    </message>
+    <message>
+        <source>&quot;!&quot; stands only in &quot;!=&quot;.</source>
+        <translation>«!» solo va en «!=».</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>no hay memoria suficiente para él</translation>
+    </message>
+    <message>
+        <source>There is no bib.</source>
+        <translation>No hay dorsal.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no bib.</source>
+        <translation>«{}» no es un dorsal.</translation>
+    </message>
+    <message>
+        <source>The official results of the file have no bib for this crew.</source>
+        <translation>Los resultados oficiales del archivo no tienen dorsal para esta tripulación.</translation>
+    </message>
+    <message>
+        <source>No bib was found in {}. A list needs a column called &quot;bib&quot;; a split file needs its official results.</source>
+        <translation>No se encontró ningún dorsal en {}. Una lista necesita una columna llamada «bib»; un archivo de parciales, sus resultados oficiales.</translation>
+    </message>
+    <message>
+        <source>The answer is no WebDAV folder.</source>
+        <translation>La respuesta no es una carpeta WebDAV.</translation>
+    </message>
+    <message>
+        <source>The answer is no WebDAV folder: {}</source>
+        <translation>La respuesta no es una carpeta WebDAV: {}</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Cancelado.</translation>
+    </message>
+    <message>
+        <source>The folder takes no file: {}</source>
+        <translation>La carpeta no admite archivos: {}</translation>
+    </message>
+    <message>
+        <source>The server sends more than it announced.</source>
+        <translation>El servidor envía más de lo que anunció.</translation>
+    </message>
+    <message>
+        <source>The job has brought 20 GB, which is the most in one go.</source>
+        <translation>El trabajo ha traído 20 GB, que es el máximo de una vez.</translation>
+    </message>
+    <message>
+        <source>The disk does not take the file: {}</source>
+        <translation>El disco no admite el archivo: {}</translation>
+    </message>
+    <message>
+        <source>The file broke off before its end.</source>
+        <translation>El archivo se cortó antes de su final.</translation>
+    </message>
+    <message>
+        <source>The server sent nothing.</source>
+        <translation>El servidor no envió nada.</translation>
+    </message>
+    <message>
+        <source>The disk does not take the file.</source>
+        <translation>El disco no admite el archivo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>After {} tries it was given up for now.</source>
+        <translation>
+            <numerusform>Tras {} intento se ha dejado por ahora.</numerusform>
+            <numerusform>Tras {} intentos se ha dejado por ahora.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it has no pictures</source>
+        <translation>no tiene imágenes</translation>
+    </message>
+    <message>
+        <source>What the server sent is no film: {}.</source>
+        <translation>Lo que envió el servidor no es un vídeo: {}.</translation>
+    </message>
+    <message>
+        <source>The pieces of the film do not fit together: {}.</source>
+        <translation>Las partes del vídeo no encajan: {}.</translation>
+    </message>
+    <message>
+        <source>The pieces of the film could not be put together: {}.</source>
+        <translation>No se pudieron unir las partes del vídeo: {}.</translation>
+    </message>
+    <message>
+        <source>The playlists lead from one to the other without an end.</source>
+        <translation>Las listas de reproducción llevan de una a otra sin fin.</translation>
+    </message>
+    <message>
+        <source>Pieces of the film lie on {}, which is not ticked.</source>
+        <translation>Hay partes del vídeo en {}, que no está marcado.</translation>
+    </message>
+    <message>
+        <source>A piece of the film is missing: {}</source>
+        <translation>Falta una parte del vídeo: {}</translation>
+    </message>
+    <message>
+        <source>The list is no JSON: {}</source>
+        <translation>La lista no es JSON: {}</translation>
+    </message>
+    <message>
+        <source>This playlist is one film in pieces and no list of films. Give its address with {bib} in it.</source>
+        <translation>Esta lista de reproducción es un solo vídeo en partes y no una lista de vídeos. Da su dirección con {bib} dentro.</translation>
+    </message>
+    <message>
+        <source>Another program has changed it.</source>
+        <translation>Otro programa lo ha cambiado.</translation>
+    </message>
+    <message>
+        <source>The server has no such list.</source>
+        <translation>El servidor no tiene esa lista.</translation>
+    </message>
+    <message>
+        <source>The address is there and names no film.</source>
+        <translation>La dirección existe y no indica ningún vídeo.</translation>
+    </message>
+    <message>
+        <source>The playlist has no piece of a film.</source>
+        <translation>La lista de reproducción no tiene ninguna parte de un vídeo.</translation>
+    </message>
+    <message>
+        <source>The film is still growing: its playlist has no end yet.</source>
+        <translation>El vídeo sigue creciendo: su lista de reproducción aún no tiene final.</translation>
+    </message>
+    <message>
+        <source>The playlist leads to something else than a server: {}</source>
+        <translation>La lista de reproducción lleva a algo que no es un servidor: {}</translation>
+    </message>
+    <message>
+        <source>The playlist does not end: it has more than {} pieces.</source>
+        <translation>La lista de reproducción no acaba: tiene más de {} partes.</translation>
+    </message>
+    <message>
+        <source>The film is protected by &quot;{}&quot;, which only its maker&apos;s programs open.</source>
+        <translation>El vídeo está protegido con «{}», que solo abren los programas de quien lo hizo.</translation>
+    </message>
+    <message>
+        <source>The server sent a part that nobody asked for.</source>
+        <translation>El servidor envió una parte que nadie pidió.</translation>
+    </message>
+    <message>
+        <source>The file was changed meanwhile.</source>
+        <translation>El archivo cambió mientras tanto.</translation>
+    </message>
+    <message>
+        <source>The server went on from another place than it was asked to.</source>
+        <translation>El servidor continuó desde un punto distinto del pedido.</translation>
+    </message>
+    <message>
+        <source>The server packs the file in a way that was not asked for.</source>
+        <translation>El servidor comprime el archivo de un modo que no se pidió.</translation>
+    </message>
+    <message>
+        <source>The server has no more of the file.</source>
+        <translation>El servidor no tiene más del archivo.</translation>
+    </message>
+    <message>
+        <source>Not there yet.</source>
+        <translation>Aún no está.</translation>
+    </message>
+    <message>
+        <source>The server asks for fewer questions.</source>
+        <translation>El servidor pide menos consultas.</translation>
+    </message>
+    <message>
+        <source>The server leads in a circle.</source>
+        <translation>El servidor lleva en círculo.</translation>
+    </message>
+    <message>
+        <source>The server leads to an address that is none.</source>
+        <translation>El servidor lleva a una dirección que no lo es.</translation>
+    </message>
+    <message>
+        <source>The server leads from https to http, which anybody can read and change.</source>
+        <translation>El servidor lleva de https a http, que cualquiera puede leer y cambiar.</translation>
+    </message>
+    <message>
+        <source>The server leads to another one, {}, which is not ticked.</source>
+        <translation>El servidor lleva a otro, {}, que no está marcado.</translation>
+    </message>
+    <message>
+        <source>The film could not be given its name: {}</source>
+        <translation>No se pudo dar su nombre al vídeo: {}</translation>
+    </message>
+    <message>
+        <source>The film is not what its checksum says.</source>
+        <translation>El vídeo no es el que dice su suma de control.</translation>
+    </message>
+    <message>
+        <source>The answer is longer than any list is.</source>
+        <translation>La respuesta es más larga que cualquier lista.</translation>
+    </message>
+    <message>
+        <source>A link in the folder leads out of it, and is not followed.</source>
+        <translation>Un enlace de la carpeta lleva fuera de ella, y no se sigue.</translation>
+    </message>
+    <message>
+        <source>The folder could not be made on the server: {}</source>
+        <translation>No se pudo crear la carpeta en el servidor: {}</translation>
+    </message>
+    <message>
+        <source>The server does not know its own mark of this file again.</source>
+        <translation>El servidor no reconoce su propia marca de este archivo.</translation>
+    </message>
+    <message>
+        <source>a name of small letters, digits and dashes was expected</source>
+        <translation>se esperaba un nombre de minúsculas, cifras y guiones</translation>
+    </message>
+    <message>
+        <source>an https address was expected</source>
+        <translation>se esperaba una dirección https</translation>
+    </message>
+    <message>
+        <source>it does not end in the plain name of a file</source>
+        <translation>no acaba en un simple nombre de archivo</translation>
+    </message>
+    <message>
+        <source>1 to {} bytes were expected</source>
+        <translation>se esperaban de 1 a {} bytes</translation>
+    </message>
+    <message>
+        <source>64 small hexadecimal digits were expected</source>
+        <translation>se esperaban 64 cifras hexadecimales en minúscula</translation>
+    </message>
+    <message>
+        <source>it is longer than any manifest is</source>
+        <translation>es más larga que cualquier lista de versiones</translation>
+    </message>
+    <message>
+        <source>three numbers such as 0.32.0 were expected</source>
+        <translation>se esperaban tres números como 0.32.0</translation>
+    </message>
+    <message>
+        <source>a date such as 2026-11-22 was expected</source>
+        <translation>se esperaba una fecha como 2026-11-22</translation>
+    </message>
+    <message>
+        <source>a plain text of at most 100,000 bytes was expected</source>
+        <translation>se esperaba un texto sin formato de 100&#xa0;000 bytes como máximo</translation>
+    </message>
+    <message>
+        <source>there is a file for it already</source>
+        <translation>ya hay un archivo para ella</translation>
+    </message>
+    <message>
+        <source>The address of the file is none that is asked.</source>
+        <translation>La dirección del archivo no es de las que se consultan.</translation>
+    </message>
+    <message>
+        <source>The folder takes no file: {}.</source>
+        <translation>La carpeta no admite archivos: {}.</translation>
+    </message>
+    <message>
+        <source>The server sent another part of the file than it was asked for.</source>
+        <translation>El servidor envió una parte del archivo distinta de la pedida.</translation>
+    </message>
+    <message>
+        <source>The file on the server is not as long as the list of versions says.</source>
+        <translation>El archivo del servidor no es tan largo como dice la lista de versiones.</translation>
+    </message>
+    <message>
+        <source>The disk does not take the file: {}.</source>
+        <translation>El disco no admite el archivo: {}.</translation>
+    </message>
+    <message>
+        <source>The file on the server is longer than the list of versions says. It was deleted.</source>
+        <translation>El archivo del servidor es más largo de lo que dice la lista de versiones. Se ha borrado.</translation>
+    </message>
+    <message>
+        <source>The file is not the one of the list of versions: it is damaged, or was changed. It was deleted.</source>
+        <translation>El archivo no es el de la lista de versiones: está dañado o se cambió. Se ha borrado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>It was given up after {} tries.</source>
+        <translation>
+            <numerusform>Se dejó tras {} intento.</numerusform>
+            <numerusform>Se dejó tras {} intentos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The list of versions is longer than it may be.</source>
+        <translation>La lista de versiones es más larga de lo permitido.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not on the server.</source>
+        <translation>La lista de versiones no está en el servidor.</translation>
+    </message>
+    <message>
+        <source>The list of versions lies on another server, {}, which is not asked.</source>
+        <translation>La lista de versiones está en otro servidor, {}, que no se consulta.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not given out by the server.</source>
+        <translation>La lista de versiones no la entrega el servidor.</translation>
+    </message>
+    <message>
+        <source>The signature of the list of versions is longer than it may be.</source>
+        <translation>La firma de la lista de versiones es más larga de lo permitido.</translation>
+    </message>
+    <message>
+        <source>The signature of the list of versions is not on the server.</source>
+        <translation>La firma de la lista de versiones no está en el servidor.</translation>
+    </message>
+    <message>
+        <source>The signature of the list of versions lies on another server, {}, which is not asked.</source>
+        <translation>La firma de la lista de versiones está en otro servidor, {}, que no se consulta.</translation>
+    </message>
+    <message>
+        <source>The signature of the list of versions is not given out by the server.</source>
+        <translation>La firma de la lista de versiones no la entrega el servidor.</translation>
+    </message>
+    <message>
+        <source>The file is longer than it may be.</source>
+        <translation>El archivo es más largo de lo permitido.</translation>
+    </message>
+    <message>
+        <source>The file is not on the server.</source>
+        <translation>El archivo no está en el servidor.</translation>
+    </message>
+    <message>
+        <source>The file lies on another server, {}, which is not asked.</source>
+        <translation>El archivo está en otro servidor, {}, que no se consulta.</translation>
+    </message>
+    <message>
+        <source>The file is not given out by the server.</source>
+        <translation>El archivo no lo entrega el servidor.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not signed. It is not used.</source>
+        <translation>La lista de versiones no está firmada. No se usa.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not signed by who makes Kavela: it is damaged, or somebody else&apos;s. It is not used.</source>
+        <translation>La lista de versiones no está firmada por quien hace Kavela: está dañada o es de otra persona. No se usa.</translation>
+    </message>
+    <message>
+        <source>The list of versions is damaged and not used: {}.</source>
+        <translation>La lista de versiones está dañada y no se usa: {}.</translation>
+    </message>
+    <message>
+        <source>The server offers version {}, which is older than {}, the one you have. It is not used.</source>
+        <translation>El servidor ofrece la versión {}, más antigua que la {}, la que tienes. No se usa.</translation>
+    </message>
+    <message>
+        <source>The server offers version {}, which is older than {}, which it had before. It is not used.</source>
+        <translation>El servidor ofrece la versión {}, más antigua que la {}, que tuvo antes. No se usa.</translation>
+    </message>
+    <message>
+        <source>Version {} is the newest one.</source>
+        <translation>La versión {} es la más nueva.</translation>
+    </message>
+    <message>
+        <source>There is a version {}, but no file of it for this computer ({}).</source>
+        <translation>Hay una versión {}, pero ningún archivo de ella para este ordenador ({}).</translation>
+    </message>
+    <message>
+        <source>no decoder for {}</source>
+        <translation>no hay decodificador para {}</translation>
+    </message>
+    <message>
+        <source>the film is cut off or damaged: the list of its frames is missing</source>
+        <translation>el vídeo está cortado o dañado: falta la lista de sus fotogramas</translation>
+    </message>
+    <message>
+        <source>this is no video that can be read, or it is damaged</source>
+        <translation>no es un vídeo que se pueda leer, o está dañado</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>No existe el archivo o la carpeta</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>Es una carpeta</translation>
+    </message>
+    <message>
+        <source>there is no video in this file</source>
+        <translation>en este archivo no hay vídeo</translation>
+    </message>
+    <message>
+        <source>there is no sound in this film</source>
+        <translation>en este vídeo no hay sonido</translation>
+    </message>
+    <message>
+        <source>there is no video in this file, only a picture</source>
+        <translation>en este archivo no hay vídeo, solo una imagen</translation>
+    </message>
+    <message>
+        <source>the film has no clock</source>
+        <translation>el vídeo no tiene reloj</translation>
+    </message>
+    <message>
+        <source>the film could not be read any further</source>
+        <translation>no se pudo seguir leyendo el vídeo</translation>
+    </message>
+    <message>
+        <source>{:.3f} s</source>
+        <translation>{:.3f} s</translation>
+    </message>
+    <message numerus="yes">
+        <source>The file is cut off: {} frames missing at its end.</source>
+        <translation>
+            <numerusform>El archivo está cortado: falta {} fotograma al final.</numerusform>
+            <numerusform>El archivo está cortado: faltan {} fotogramas al final.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file is cut off or damaged: its end is missing.</source>
+        <translation>El archivo está cortado o dañado: falta su final.</translation>
+    </message>
+    <message>
+        <source>The file does not say when each frame was shown: times are estimated from its frame rate.</source>
+        <translation>El archivo no dice cuándo se mostró cada fotograma: los tiempos se estiman por los fotogramas por segundo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} frames left out that had the time of another frame.</source>
+        <translation>
+            <numerusform>Se omitió {} fotograma que tenía el tiempo de otro.</numerusform>
+            <numerusform>Se omitieron {} fotogramas que tenían el tiempo de otro.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The frame rate varies, from {} to {} frames a second.</source>
+        <translation>La frecuencia varía, de {} a {} fotogramas por segundo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} gaps</source>
+        <translation>
+            <numerusform>{} hueco</numerusform>
+            <numerusform>{} huecos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} where frames are missing, the longest of {} at {}.</source>
+        <translation>{} donde faltan fotogramas; el mayor, de {}, en {}.</translation>
+    </message>
+    <message>
+        <source>About {} of {} frames repeat the picture before them.</source>
+        <translation>Unos {} de {} fotogramas repiten la imagen anterior.</translation>
+    </message>
+    <message>
+        <source>Slow motion: recorded at {} frames a second, plays at {}. Times taken from it are {} times too long.</source>
+        <translation>Cámara lenta: grabado a {} fotogramas por segundo, se reproduce a {}. Los tiempos tomados de él son {} veces demasiado largos.</translation>
+    </message>
+    <message>
+        <source>The film starts at {}, not at 0.</source>
+        <translation>El vídeo empieza en {}, no en 0.</translation>
+    </message>
+    <message>
+        <source>The file has no list of its frames: it had to be read from end to end.</source>
+        <translation>El archivo no tiene lista de sus fotogramas: hubo que leerlo de principio a fin.</translation>
+    </message>
+    <message>
+        <source>Recorded turned by {}°, and shown upright.</source>
+        <translation>Grabado con un giro de {}°, y se muestra derecho.</translation>
+    </message>
+    <message>
+        <source>Interlaced: each frame holds two moments half a frame apart.</source>
+        <translation>Entrelazado: cada fotograma contiene dos instantes separados medio fotograma.</translation>
+    </message>
+    <message>
+        <source>{} bits a colour, shown with 8.</source>
+        <translation>{} bits por color, se muestra con 8.</translation>
+    </message>
+    <message>
+        <source>no frame of the video can be read</source>
+        <translation>no se puede leer ningún fotograma del vídeo</translation>
+    </message>
+    <message>
+        <source>no frame of the video can be decoded</source>
+        <translation>no se puede decodificar ningún fotograma del vídeo</translation>
+    </message>
+    <message>
+        <source>The film could not be encoded: {}</source>
+        <translation>No se pudo codificar el vídeo: {}</translation>
+    </message>
+    <message>
+        <source>A picture could not be made: {}</source>
+        <translation>No se pudo crear una imagen: {}</translation>
+    </message>
+    <message>
+        <source>Films cannot be made on this computer: the installed libavcodec has no encoder for H.264 (libx264).</source>
+        <translation>En este ordenador no se pueden crear vídeos: la libavcodec instalada no tiene codificador de H.264 (libx264).</translation>
+    </message>
+    <message>
+        <source>Films with sound cannot be made on this computer: the installed libavcodec has no encoder for AAC.</source>
+        <translation>En este ordenador no se pueden crear vídeos con sonido: la libavcodec instalada no tiene codificador de AAC.</translation>
+    </message>
+    <message>
+        <source>The encoder for H.264 could not be started: {}</source>
+        <translation>No se pudo iniciar el codificador de H.264: {}</translation>
+    </message>
+    <message>
+        <source>The encoder for sound could not be started: {}</source>
+        <translation>No se pudo iniciar el codificador de sonido: {}</translation>
+    </message>
+    <message>
+        <source>Sound could not be encoded: {}</source>
+        <translation>No se pudo codificar el sonido: {}</translation>
+    </message>
+    <message>
+        <source>The film could not be ended: {}</source>
+        <translation>No se pudo terminar el vídeo: {}</translation>
+    </message>
+    <message>
+        <source>Films cannot be written on this computer: {}</source>
+        <translation>En este ordenador no se pueden escribir vídeos: {}</translation>
+    </message>
+    <message>
+        <source>The film could not be put together: {}</source>
+        <translation>No se pudo montar el vídeo: {}</translation>
+    </message>
+    <message>
+        <source>The film could not be begun: {}</source>
+        <translation>No se pudo empezar el vídeo: {}</translation>
+    </message>
+    <message>
+        <source>the piece could not be found in the film</source>
+        <translation>no se encontró la parte en el vídeo</translation>
+    </message>
+    <message>
+        <source>it was written by a newer release</source>
+        <translation>lo escribió una versión más nueva</translation>
+    </message>
+    <message>
+        <source>rows and columns from 1 to 2000 were expected</source>
+        <translation>se esperaban de 1 a 2000 filas y columnas</translation>
+    </message>
+    <message>
+        <source>&quot;accepted&quot;, &quot;moved&quot;, &quot;refused&quot; or &quot;missed&quot; expected</source>
+        <translation>se esperaba «accepted», «moved», «refused» o «missed»</translation>
+    </message>
+    <message>
+        <source>there are more bands than a recording holds</source>
+        <translation>hay más franjas de las que caben en una grabación</translation>
+    </message>
+    <message>
+        <source>it is no recording of bands, or damaged: {}</source>
+        <translation>no es una grabación de franjas, o está dañada: {}</translation>
+    </message>
+    <message>
+        <source>the recording could not be put together</source>
+        <translation>no se pudo montar la grabación</translation>
+    </message>
+    <message>
+        <source>it is no recording of bands: {} is missing</source>
+        <translation>no es una grabación de franjas: falta {}</translation>
+    </message>
+    <message>
+        <source>the recording is damaged: {} cannot be read</source>
+        <translation>la grabación está dañada: no se puede leer {}</translation>
+    </message>
+    <message>
+        <source>the recording could not be put together: {}</source>
+        <translation>no se pudo montar la grabación: {}</translation>
+    </message>
+    <message>
+        <source>it cannot be opened</source>
+        <translation>no se puede abrir</translation>
+    </message>
+    <message>
+        <source>each needs its bands</source>
+        <translation>cada uno necesita sus franjas</translation>
+    </message>
+    <message>
+        <source>their number is not that of the bands</source>
+        <translation>su número no es el de las franjas</translation>
+    </message>
+    <message>
+        <source>the recording is larger than any that is written</source>
+        <translation>la grabación es mayor que cualquiera que se escriba</translation>
+    </message>
+    <message>
+        <source>there is no proposal or correction to be saved</source>
+        <translation>no hay ninguna propuesta ni corrección que guardar</translation>
+    </message>
+    <message>
+        <source>The search for boats was not measured.</source>
+        <translation>La búsqueda de barcos no se ha medido.</translation>
+    </message>
+    <message>
+        <source>Measured on {} scenes of real water ({} runs, {:.0f} minutes): {:.1f} % of the runs found (asked: {:.0f} %), {:.1f} false proposals an hour (asked: at most {:g}), an error of at most {:.1f} frames for 95 of 100 (asked: {:g}).</source>
+        <translation>Medido en {} escenas de agua real (mangas: {}, minutos: {:.0f}): {:.1f}&#xa0;% de las mangas encontradas (se pide: {:.0f}&#xa0;%), {:.1f} propuestas falsas por hora (se pide: {:g} como máximo), un error de {:.1f} fotogramas como máximo en 95 de cada 100 (se pide: {:g}).</translation>
+    </message>
+    <message>
+        <source>Measured on {} scenes of rendered water ({} runs, {:.0f} minutes): {:.1f} % of the runs found (asked: {:.0f} %), {:.1f} false proposals an hour (asked: at most {:g}), an error of at most {:.1f} frames for 95 of 100 (asked: {:g}).</source>
+        <translation>Medido en {} escenas de agua simulada (mangas: {}, minutos: {:.0f}): {:.1f}&#xa0;% de las mangas encontradas (se pide: {:.0f}&#xa0;%), {:.1f} propuestas falsas por hora (se pide: {:g} como máximo), un error de {:.1f} fotogramas como máximo en 95 de cada 100 (se pide: {:g}).</translation>
+    </message>
+    <message>
+        <source>The frame of the box cannot be shown.</source>
+        <translation>No se puede mostrar el fotograma del recuadro.</translation>
+    </message>
+    <message>
+        <source>the box round a boat has no size</source>
+        <translation>el recuadro alrededor de un barco no tiene tamaño</translation>
+    </message>
+    <message>
+        <source>the box round a boat is larger than the picture</source>
+        <translation>el recuadro alrededor de un barco es mayor que la imagen</translation>
+    </message>
+    <message>
+        <source>the film has no frames from {:.2f} s to {:.2f} s</source>
+        <translation>el vídeo no tiene fotogramas de {:.2f} s a {:.2f} s</translation>
+    </message>
+    <message>
+        <source>The film ends early: the file is cut off.</source>
+        <translation>El vídeo acaba antes de tiempo: el archivo está cortado.</translation>
+    </message>
+    <message>
+        <source>The box is too small: it needs 8 pixels each way at least.</source>
+        <translation>El recuadro es demasiado pequeño: necesita al menos 8 píxeles por lado.</translation>
+    </message>
+    <message>
+        <source>The box does not lie within the picture, which has {} × {} pixels.</source>
+        <translation>El recuadro no está dentro de la imagen, que tiene {} × {} píxeles.</translation>
+    </message>
+    <message>
+        <source>There is nothing in the box that could be known again: it has one colour all over.</source>
+        <translation>En el recuadro no hay nada que se pueda reconocer: todo es de un solo color.</translation>
+    </message>
+    <message>
+        <source>It is not known how the camera moved between the path and the frame of the known points. Click them in a frame of the path.</source>
+        <translation>No se sabe cómo se movió la cámara entre la trayectoria y el fotograma de los puntos conocidos. Márcalos en un fotograma de la trayectoria.</translation>
+    </message>
+    <message>
+        <source>version {} is of a later release</source>
+        <translation>la versión {} es de una edición posterior del programa</translation>
+    </message>
+    <message>
+        <source>the line&apos;s end at {}, {} lies outside the picture of {} × {} pixels</source>
+        <translation>el extremo de la línea en {}, {} está fuera de la imagen de {} × {} píxeles</translation>
+    </message>
+    <message>
+        <source>the line is shorter than {} pixels</source>
+        <translation>la línea es más corta que {} píxeles</translation>
+    </message>
+    <message>
+        <source>The camera was held in the hand, or nothing in the picture stands still: the search for boats needs a camera on a tripod.</source>
+        <translation>La cámara se sostuvo con la mano, o nada en la imagen está quieto: la búsqueda de barcos necesita una cámara en trípode.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} frames could not be read and were passed over.</source>
+        <translation>
+            <numerusform>{} fotograma no se pudo leer y se saltó.</numerusform>
+            <numerusform>{} fotogramas no se pudieron leer y se saltaron.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>a frame from 0 on was expected</source>
+        <translation>se esperaba un fotograma a partir de 0</translation>
+    </message>
+    <message>
+        <source>it does not lie behind the frame before</source>
+        <translation>no está después del fotograma anterior</translation>
+    </message>
+    <message>
+        <source>no film has so many frames</source>
+        <translation>ningún vídeo tiene tantos fotogramas</translation>
+    </message>
+    <message>
+        <source>it lies beyond all pictures</source>
+        <translation>está más allá de toda imagen</translation>
+    </message>
+    <message>
+        <source>four known points were expected, or two for a scale only</source>
+        <translation>se esperaban cuatro puntos conocidos, o dos si solo es una escala</translation>
+    </message>
+    <message>
+        <source>the box has no size</source>
+        <translation>el recuadro no tiene tamaño</translation>
+    </message>
+    <message>
+        <source>a size above 0 was expected</source>
+        <translation>se esperaba un tamaño mayor que 0</translation>
+    </message>
+    <message>
+        <source>it makes the picture vanish</source>
+        <translation>hace desaparecer la imagen</translation>
+    </message>
+    <message>
+        <source>Three of the four known points lie on a line: they have to be the corners of a field, such as the poles of two gates.</source>
+        <translation>Tres de los cuatro puntos conocidos están en línea: tienen que ser las esquinas de un campo, como los palos de dos puertas.</translation>
+    </message>
+    <message>
+        <source>Metres need four known points on the water, or two for a scale only; there are {}.</source>
+        <translation>Los metros necesitan cuatro puntos conocidos en el agua, o dos si solo es una escala; hay {}.</translation>
+    </message>
+    <message>
+        <source>The two known points lie on one spot.</source>
+        <translation>Los dos puntos conocidos están en el mismo sitio.</translation>
+    </message>
+    <message>
+        <source>The four known points do not fit together: no view of flat water shows them so.</source>
+        <translation>Los cuatro puntos conocidos no encajan: ninguna vista de agua plana los muestra así.</translation>
+    </message>
+    <message>
+        <source>The four known points do not fit together: no view of flat water shows them so. Were two of them exchanged?</source>
+        <translation>Los cuatro puntos conocidos no encajan: ninguna vista de agua plana los muestra así. ¿Se han intercambiado dos?</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -21350,6 +22905,13 @@ y %1 más</translation>
     <message>
         <source>Stop and close</source>
         <translation>Detener y cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SharedRows</name>
+    <message>
+        <source>Share</source>
+        <translation>Compartir</translation>
     </message>
 </context>
 <context>

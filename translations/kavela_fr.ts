@@ -7588,6 +7588,1561 @@
             <numerusform>intervalle à 90 %, {} manches</numerusform>
         </translation>
     </message>
+    <message>
+        <source>column {}: “{}” is no date</source>
+        <translation>colonne {}&#x202f;: «&#xa0;{}&#xa0;» n’est pas une date</translation>
+    </message>
+    <message>
+        <source>column {}: “{}” is no number</source>
+        <translation>colonne {}&#x202f;: «&#xa0;{}&#xa0;» n’est pas un nombre</translation>
+    </message>
+    <message>
+        <source>the line ends before its time</source>
+        <translation>la ligne s’arrête avant son temps</translation>
+    </message>
+    <message>
+        <source>an axis of the acceleration is missing</source>
+        <translation>il manque un axe de l’accélération</translation>
+    </message>
+    <message>
+        <source>Some lines were not in order of time and were put in order.</source>
+        <translation>Certaines lignes n’étaient pas dans l’ordre du temps et ont été remises en ordre.</translation>
+    </message>
+    <message>
+        <source>Gravity was split off the acceleration by a low-pass of 0.3 Hz.</source>
+        <translation>La pesanteur a été séparée de l’accélération par un filtre passe-bas à 0,3 Hz.</translation>
+    </message>
+    <message>
+        <source>There is no gravity in the list.</source>
+        <translation>La liste ne contient pas la pesanteur.</translation>
+    </message>
+    <message>
+        <source>There is no rotation in the list: hands and turns cannot be found.</source>
+        <translation>La liste ne contient pas la rotation&#x202f;: les côtés des coups et les virages ne peuvent pas être trouvés.</translation>
+    </message>
+    <message>
+        <source>the messages end within a definition</source>
+        <translation>les messages s’arrêtent au milieu d’une définition</translation>
+    </message>
+    <message>
+        <source>the messages end within a message</source>
+        <translation>les messages s’arrêtent au milieu d’un message</translation>
+    </message>
+    <message>
+        <source>byte {}</source>
+        <translation>octet {}</translation>
+    </message>
+    <message>
+        <source>the header&apos;s check sum does not agree</source>
+        <translation>la somme de contrôle de l’en-tête ne concorde pas</translation>
+    </message>
+    <message>
+        <source>the file&apos;s check sum does not agree: bytes of it are damaged</source>
+        <translation>la somme de contrôle du fichier ne concorde pas&#x202f;: il contient des octets abîmés</translation>
+    </message>
+    <message>
+        <source>the file ends within a header</source>
+        <translation>le fichier s’arrête au milieu d’un en-tête</translation>
+    </message>
+    <message>
+        <source>a header of {} bytes: it has to have 12 or 14</source>
+        <translation>un en-tête de {} octets&#x202f;: il doit en avoir 12 ou 14</translation>
+    </message>
+    <message>
+        <source>the header does not say that this is a FIT file</source>
+        <translation>l’en-tête ne dit pas que c’est un fichier FIT</translation>
+    </message>
+    <message>
+        <source>the recording was not finished by its device: it is empty</source>
+        <translation>l’enregistrement n’a pas été terminé par son appareil&#x202f;: il est vide</translation>
+    </message>
+    <message>
+        <source>the file ends here, but its header announces {} bytes</source>
+        <translation>le fichier s’arrête ici, mais son en-tête annonce {} octets</translation>
+    </message>
+    <message>
+        <source>a byte order of {}: it is 0 or 1</source>
+        <translation>un ordre des octets {}&#x202f;: c’est 0 ou 1</translation>
+    </message>
+    <message>
+        <source>a message of type {}, which is not defined</source>
+        <translation>un message de type {}, qui n’est pas défini</translation>
+    </message>
+    <message numerus="yes">
+        <source>The file holds {} sessions; all were taken.</source>
+        <translation>
+            <numerusform>Le fichier contient {} séance&#x202f;; elle a été reprise en entier.</numerusform>
+            <numerusform>Le fichier contient {} séances&#x202f;; toutes ont été reprises.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The watch was stopped {} times.</source>
+        <translation>
+            <numerusform>La montre a été arrêtée {} fois.</numerusform>
+            <numerusform>La montre a été arrêtée {} fois.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} d {} h</source>
+        <translation>{} j {} h</translation>
+    </message>
+    <message>
+        <source>{} h {} min</source>
+        <translation>{} h {} min</translation>
+    </message>
+    <message>
+        <source>{} min {} s</source>
+        <translation>{} min {} s</translation>
+    </message>
+    <message>
+        <source>The recording has positions of its own, which stay.</source>
+        <translation>L’enregistrement a ses propres positions, qui sont gardées.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s positions begin {} after the recording.</source>
+        <translation>Les positions de la trace commencent {} après l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s positions begin {} before the recording.</source>
+        <translation>Les positions de la trace commencent {} avant l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s positions begin {} after the recording; perhaps an offset of {} h is missing.</source>
+        <translation>Les positions de la trace commencent {} après l’enregistrement&#x202f;; il manque peut-être un décalage de {} h.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s positions begin {} before the recording; perhaps an offset of {} h is missing.</source>
+        <translation>Les positions de la trace commencent {} avant l’enregistrement&#x202f;; il manque peut-être un décalage de {} h.</translation>
+    </message>
+    <message>
+        <source>The recording has heart rates of its own, which stay.</source>
+        <translation>L’enregistrement a ses propres fréquences cardiaques, qui sont gardées.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s heart rates begin {} after the recording.</source>
+        <translation>Les fréquences cardiaques de la trace commencent {} après l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s heart rates begin {} before the recording.</source>
+        <translation>Les fréquences cardiaques de la trace commencent {} avant l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s heart rates begin {} after the recording; perhaps an offset of {} h is missing.</source>
+        <translation>Les fréquences cardiaques de la trace commencent {} après l’enregistrement&#x202f;; il manque peut-être un décalage de {} h.</translation>
+    </message>
+    <message>
+        <source>The track&apos;s heart rates begin {} before the recording; perhaps an offset of {} h is missing.</source>
+        <translation>Les fréquences cardiaques de la trace commencent {} avant l’enregistrement&#x202f;; il manque peut-être un décalage de {} h.</translation>
+    </message>
+    <message>
+        <source>The recording has no motion samples to join the track to.</source>
+        <translation>L’enregistrement n’a pas d’échantillons de mouvement auxquels joindre la trace.</translation>
+    </message>
+    <message>
+        <source>“{}” stands over two columns.</source>
+        <translation>«&#xa0;{}&#xa0;» est au-dessus de deux colonnes.</translation>
+    </message>
+    <message>
+        <source>Of the acceleration with gravity all of x, y and z are needed.</source>
+        <translation>De l’accélération avec pesanteur, il faut x, y et z.</translation>
+    </message>
+    <message>
+        <source>Of the acceleration without gravity all of x, y and z are needed.</source>
+        <translation>De l’accélération sans pesanteur, il faut x, y et z.</translation>
+    </message>
+    <message>
+        <source>Of the rotation all of x, y and z are needed.</source>
+        <translation>De la rotation, il faut x, y et z.</translation>
+    </message>
+    <message>
+        <source>Of the gravity all of x, y and z are needed.</source>
+        <translation>De la pesanteur, il faut x, y et z.</translation>
+    </message>
+    <message>
+        <source>Latitude and longitude go together.</source>
+        <translation>La latitude et la longitude vont ensemble.</translation>
+    </message>
+    <message>
+        <source>Acc. x with gravity</source>
+        <translation>Accél. x avec pesanteur</translation>
+    </message>
+    <message>
+        <source>Acc. y with gravity</source>
+        <translation>Accél. y avec pesanteur</translation>
+    </message>
+    <message>
+        <source>Acc. z with gravity</source>
+        <translation>Accél. z avec pesanteur</translation>
+    </message>
+    <message>
+        <source>Acc. x without gravity</source>
+        <translation>Accél. x sans pesanteur</translation>
+    </message>
+    <message>
+        <source>Acc. y without gravity</source>
+        <translation>Accél. y sans pesanteur</translation>
+    </message>
+    <message>
+        <source>Acc. z without gravity</source>
+        <translation>Accél. z sans pesanteur</translation>
+    </message>
+    <message>
+        <source>Gravity x</source>
+        <translation>Pesanteur x</translation>
+    </message>
+    <message>
+        <source>Gravity y</source>
+        <translation>Pesanteur y</translation>
+    </message>
+    <message>
+        <source>Gravity z</source>
+        <translation>Pesanteur z</translation>
+    </message>
+    <message>
+        <source>Yaw</source>
+        <translation>Lacet</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitude</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitude</translation>
+    </message>
+    <message>
+        <source>No column is the time.</source>
+        <translation>Aucune colonne n’est le temps.</translation>
+    </message>
+    <message>
+        <source>Commas cannot be in numbers and between columns.</source>
+        <translation>Les virgules ne peuvent pas être à la fois dans les nombres et entre les colonnes.</translation>
+    </message>
+    <message>
+        <source>No column is acceleration, position or heart rate.</source>
+        <translation>Aucune colonne n’est une accélération, une position ou une fréquence cardiaque.</translation>
+    </message>
+    <message>
+        <source>this is no plain text; a list has to be saved as UTF-8</source>
+        <translation>ce n’est pas du texte brut&#x202f;; une liste doit être enregistrée en UTF-8</translation>
+    </message>
+    <message>
+        <source>this is no list of samples: in its first {} lines there is none with numbers in columns</source>
+        <translation>ce n’est pas une liste d’échantillons&#x202f;: dans ses {} premières lignes, aucune n’a de nombres en colonnes</translation>
+    </message>
+    <message>
+        <source>the list has more than {} lines</source>
+        <translation>la liste a plus de {} lignes</translation>
+    </message>
+    <message>
+        <source>the file is too large to be imported (over {} MB)</source>
+        <translation>le fichier est trop grand pour être importé (plus de {} Mo)</translation>
+    </message>
+    <message>
+        <source>the file grew while it was read</source>
+        <translation>le fichier a grandi pendant la lecture</translation>
+    </message>
+    <message>
+        <source>this is no track: neither GPX nor TCX nor FIT</source>
+        <translation>ce n’est pas une trace&#x202f;: ni GPX, ni TCX, ni FIT</translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} positions outside the globe.</source>
+        <translation>
+            <numerusform>Laissée de côté&#x202f;: {} position hors du globe.</numerusform>
+            <numerusform>Laissées de côté&#x202f;: {} positions hors du globe.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} speeds that no boat has.</source>
+        <translation>
+            <numerusform>Laissée de côté&#x202f;: {} vitesse qu’aucun bateau n’atteint.</numerusform>
+            <numerusform>Laissées de côté&#x202f;: {} vitesses qu’aucun bateau n’atteint.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} points without a date.</source>
+        <translation>
+            <numerusform>Laissé de côté&#x202f;: {} point sans date.</numerusform>
+            <numerusform>Laissés de côté&#x202f;: {} points sans date.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} heart rates that are none.</source>
+        <translation>
+            <numerusform>Laissée de côté&#x202f;: {} fréquence cardiaque qui n’en est pas une.</numerusform>
+            <numerusform>Laissées de côté&#x202f;: {} fréquences cardiaques qui n’en sont pas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} positions at the moment of another.</source>
+        <translation>
+            <numerusform>Laissée de côté&#x202f;: {} position au même instant qu’une autre.</numerusform>
+            <numerusform>Laissées de côté&#x202f;: {} positions au même instant qu’une autre.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} heart rates at the moment of another.</source>
+        <translation>
+            <numerusform>Laissée de côté&#x202f;: {} fréquence cardiaque au même instant qu’une autre.</numerusform>
+            <numerusform>Laissées de côté&#x202f;: {} fréquences cardiaques au même instant qu’une autre.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Left out: {} way points and points of routes.</source>
+        <translation>
+            <numerusform>Laissé de côté&#x202f;: {} point de passage ou d’itinéraire.</numerusform>
+            <numerusform>Laissés de côté&#x202f;: {} points de passage et d’itinéraires.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The speed of {} positions was computed from the positions around them.</source>
+        <translation>
+            <numerusform>La vitesse de {} position a été calculée d’après les positions voisines.</numerusform>
+            <numerusform>La vitesse de {} positions a été calculée d’après les positions voisines.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the track has more than {} points</source>
+        <translation>la trace a plus de {} points</translation>
+    </message>
+    <message>
+        <source>the XML is damaged: {}</source>
+        <translation>le XML est abîmé&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>this XML is no track: neither GPX nor TCX</source>
+        <translation>ce XML n’est pas une trace&#x202f;: ni GPX, ni TCX</translation>
+    </message>
+    <message>
+        <source>a number was expected, found {}</source>
+        <translation>un nombre était attendu, trouvé&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>an integer was expected, found {}</source>
+        <translation>un entier était attendu, trouvé&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>a boolean was expected, found {}</source>
+        <translation>un booléen était attendu, trouvé&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>a string was expected, found {}</source>
+        <translation>une chaîne de texte était attendue, trouvé&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>a base64 string was expected, found {}</source>
+        <translation>une chaîne en base64 était attendue, trouvé&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>an array was expected, found {}</source>
+        <translation>une liste était attendue, trouvé&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>an object was expected, found {}</source>
+        <translation>un objet était attendu, trouvé&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>the integer {} is out of range</source>
+        <translation>l’entier {} est hors limites</translation>
+    </message>
+    <message>
+        <source>an array</source>
+        <translation>une liste</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>un objet</translation>
+    </message>
+    <message>
+        <source>an integer</source>
+        <translation>un entier</translation>
+    </message>
+    <message>
+        <source>a number that is no 64-bit integer</source>
+        <translation>un nombre qui n’est pas un entier de 64 bits</translation>
+    </message>
+    <message>
+        <source>a string</source>
+        <translation>une chaîne de texte</translation>
+    </message>
+    <message>
+        <source>a boolean</source>
+        <translation>un booléen</translation>
+    </message>
+    <message>
+        <source>something else</source>
+        <translation>autre chose</translation>
+    </message>
+    <message>
+        <source>the key is missing</source>
+        <translation>la clé manque</translation>
+    </message>
+    <message>
+        <source>a base64 string was expected, found other text</source>
+        <translation>une chaîne en base64 était attendue, trouvé&#x202f;: un autre texte</translation>
+    </message>
+    <message>
+        <source>a number that is not finite cannot be written</source>
+        <translation>un nombre qui n’est pas fini ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>a text that is not valid UTF-8 cannot be written</source>
+        <translation>un texte qui n’est pas de l’UTF-8 valide ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>waits {} s</source>
+        <translation>attend {} s</translation>
+    </message>
+    <message>
+        <source>Section {}</source>
+        <translation>Secteur {}</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is none of {}</source>
+        <translation>«&#xa0;{}&#xa0;» n’est aucun de {}</translation>
+    </message>
+    <message>
+        <source>{} is not a number from {} on</source>
+        <translation>{} n’est pas un nombre à partir de {}</translation>
+    </message>
+    <message>
+        <source>either two points or none are needed</source>
+        <translation>il faut deux points ou aucun</translation>
+    </message>
+    <message>
+        <source>a number from 1 to 2 was expected</source>
+        <translation>un nombre de 1 à 2 était attendu</translation>
+    </message>
+    <message>
+        <source>no path is named that could be drawn or followed</source>
+        <translation>aucune trajectoire n’est indiquée qui puisse être dessinée ou suivie</translation>
+    </message>
+    <message>
+        <source>{}: the size of its picture is missing</source>
+        <translation>{}&#x202f;: la taille de son image manque</translation>
+    </message>
+    <message numerus="yes">
+        <source>the split file has {} runs</source>
+        <translation>
+            <numerusform>le fichier d’intermédiaires a {} manche</numerusform>
+            <numerusform>le fichier d’intermédiaires a {} manches</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>the run has no film of this camera</source>
+        <translation>la manche n’a pas de film de cette caméra</translation>
+    </message>
+    <message>
+        <source>neither a film nor a split file is named</source>
+        <translation>ni un film ni un fichier d’intermédiaires n’est indiqué</translation>
+    </message>
+    <message>
+        <source>a share from 0 to 1 was expected</source>
+        <translation>une part de 0 à 1 était attendue</translation>
+    </message>
+    <message>
+        <source>{} films; this layout takes 2 to 4</source>
+        <translation>films&#x202f;: {}&#x202f;; cette disposition en prend 2 à 4</translation>
+    </message>
+    <message>
+        <source>{} films; this layout takes 2</source>
+        <translation>films&#x202f;: {}&#x202f;; cette disposition en prend 2</translation>
+    </message>
+    <message>
+        <source>an even number from 160 to 4096 was expected</source>
+        <translation>un nombre pair de 160 à 4096 était attendu</translation>
+    </message>
+    <message>
+        <source>the picture is larger than 1920 × 1080 and would not play everywhere</source>
+        <translation>l’image dépasse 1920 × 1080 et ne serait pas lue partout</translation>
+    </message>
+    <message>
+        <source>it does not lie behind {}</source>
+        <translation>il n’est pas après {}</translation>
+    </message>
+    <message>
+        <source>a number from 0.125 to 1 was expected</source>
+        <translation>un nombre de 0,125 à 1 était attendu</translation>
+    </message>
+    <message>
+        <source>there is no film of this number; 0 is no sound</source>
+        <translation>aucun film n’a ce numéro&#x202f;; 0 veut dire sans son</translation>
+    </message>
+    <message>
+        <source>films that lie over each other cannot follow a path</source>
+        <translation>des films superposés ne peuvent pas suivre une trajectoire</translation>
+    </message>
+    <message>
+        <source>{}: the start lies outside the film, at {} s.</source>
+        <translation>{}&#x202f;: le départ est hors du film, à {} s.</translation>
+    </message>
+    <message>
+        <source>{}: split {} lies outside the film, at {} s.</source>
+        <translation>{}&#x202f;: l’intermédiaire {} est hors du film, à {} s.</translation>
+    </message>
+    <message>
+        <source>so large a picture would not play everywhere at {} frames a second</source>
+        <translation>une image aussi grande ne serait pas lue partout à {} images par seconde</translation>
+    </message>
+    <message>
+        <source>{} is not shown: {}.</source>
+        <translation>{} n’est pas montré&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>{} is cut off or damaged; it is shown as far as it goes.</source>
+        <translation>{} est coupé ou abîmé&#x202f;; il est montré aussi loin qu’il va.</translation>
+    </message>
+    <message>
+        <source>{}: at {} s a frame cannot be shown ({}); the last good one stays.</source>
+        <translation>{}&#x202f;: à {} s, une image ne peut pas être montrée ({})&#x202f;; la dernière bonne reste.</translation>
+    </message>
+    <message>
+        <source>no film has a mark at this split</source>
+        <translation>aucun film n’a de marque à cet intermédiaire</translation>
+    </message>
+    <message>
+        <source>no run is marked at its start, so the range has to be given in seconds</source>
+        <translation>aucune manche n’est marquée à son départ, la plage doit donc être donnée en secondes</translation>
+    </message>
+    <message>
+        <source>its end does not lie behind its beginning</source>
+        <translation>sa fin n’est pas après son début</translation>
+    </message>
+    <message>
+        <source>it cannot be decoded</source>
+        <translation>elle ne peut pas être décodée</translation>
+    </message>
+    <message>
+        <source>its pictures are in a format of no use</source>
+        <translation>ses images sont dans un format inutilisable</translation>
+    </message>
+    <message>
+        <source>the start is not marked on this film, so it cannot be held there</source>
+        <translation>le départ n’est pas marqué sur ce film, il ne peut donc pas y être arrêté</translation>
+    </message>
+    <message>
+        <source>split {} is not marked on this film, so it cannot be held there</source>
+        <translation>l’intermédiaire {} n’est pas marqué sur ce film, il ne peut donc pas y être arrêté</translation>
+    </message>
+    <message>
+        <source>{}: {}.</source>
+        <translation>{}&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>the crew, in whatever order it is written</source>
+        <translation>l’équipage, quel que soit l’ordre d’écriture</translation>
+    </message>
+    <message>
+        <source>category, however it is written (K1M, MK1)</source>
+        <translation>catégorie, quelle que soit son écriture (K1M, MK1)</translation>
+    </message>
+    <message>
+        <source>phase of the race</source>
+        <translation>phase de la course</translation>
+    </message>
+    <message>
+        <source>side on which the athlete paddles</source>
+        <translation>côté où pagaie l’athlète</translation>
+    </message>
+    <message>
+        <source>place of the course</source>
+        <translation>lieu du parcours</translation>
+    </message>
+    <message>
+        <source>title of the race</source>
+        <translation>titre de la course</translation>
+    </message>
+    <message>
+        <source>event</source>
+        <translation>compétition</translation>
+    </message>
+    <message>
+        <source>Race, Training or Test</source>
+        <translation>Race, Training ou Test</translation>
+    </message>
+    <message>
+        <source>kind of water</source>
+        <translation>type d’eau</translation>
+    </message>
+    <message>
+        <source>the file</source>
+        <translation>le fichier</translation>
+    </message>
+    <message>
+        <source>2026-05-11; also 2026-05 or 2026</source>
+        <translation>2026-05-11&#x202f;; aussi 2026-05 ou 2026</translation>
+    </message>
+    <message>
+        <source>year of the date</source>
+        <translation>année de la date</translation>
+    </message>
+    <message>
+        <source>month of the date, 1 to 12</source>
+        <translation>mois de la date, 1 à 12</translation>
+    </message>
+    <message>
+        <source>of the run, with penalties</source>
+        <translation>de la manche, avec pénalités</translation>
+    </message>
+    <message>
+        <source>of the run, without penalties</source>
+        <translation>de la manche, sans pénalités</translation>
+    </message>
+    <message>
+        <source>penalty seconds of the run</source>
+        <translation>secondes de pénalité de la manche</translation>
+    </message>
+    <message>
+        <source>place among the runs that compete</source>
+        <translation>place parmi les manches en concurrence</translation>
+    </message>
+    <message>
+        <source>position in the official list</source>
+        <translation>position dans la liste officielle</translation>
+    </message>
+    <message>
+        <source>number of the run in its file, from 0</source>
+        <translation>numéro de la manche dans son fichier, à partir de 0</translation>
+    </message>
+    <message>
+        <source>sprint time</source>
+        <translation>temps de sprint</translation>
+    </message>
+    <message>
+        <source>of the section, where both its marks were taken</source>
+        <translation>du secteur, là où ses deux marques ont été prises</translation>
+    </message>
+    <message>
+        <source>from entrance to exit</source>
+        <translation>de l’entrée à la sortie</translation>
+    </message>
+    <message>
+        <source>from entrance to the pole line</source>
+        <translation>de l’entrée à la ligne de porte</translation>
+    </message>
+    <message>
+        <source>from the pole line to the exit</source>
+        <translation>de la ligne de porte à la sortie</translation>
+    </message>
+    <message>
+        <source>number of the gate</source>
+        <translation>numéro de la porte</translation>
+    </message>
+    <message>
+        <source>number of the section, from 1</source>
+        <translation>numéro du secteur, à partir de 1</translation>
+    </message>
+    <message>
+        <source>up for a section with an upstream gate, or down</source>
+        <translation>up pour un secteur avec une remontée, sinon down</translation>
+    </message>
+    <message>
+        <source>up: only upstream gates are timed by themselves</source>
+        <translation>up&#x202f;: seules les remontées sont chronométrées à part</translation>
+    </message>
+    <message>
+        <source>up for an upstream gate, or down</source>
+        <translation>up pour une remontée, sinon down</translation>
+    </message>
+    <message>
+        <source>penalty seconds in the section</source>
+        <translation>secondes de pénalité dans le secteur</translation>
+    </message>
+    <message>
+        <source>strokes on the left</source>
+        <translation>coups de pagaie à gauche</translation>
+    </message>
+    <message>
+        <source>strokes on the right</source>
+        <translation>coups de pagaie à droite</translation>
+    </message>
+    <message>
+        <source>strokes marked in the section</source>
+        <translation>coups de pagaie marqués dans le secteur</translation>
+    </message>
+    <message>
+        <source>side to which the boat turns</source>
+        <translation>côté vers lequel tourne le bateau</translation>
+    </message>
+    <message>
+        <source>how the gate is paddled</source>
+        <translation>façon de passer la porte</translation>
+    </message>
+    <message>
+        <source>of the penalty</source>
+        <translation>de la pénalité</translation>
+    </message>
+    <message>
+        <source>touch, or how the gate was missed</source>
+        <translation>touche, ou façon dont la porte a été manquée</translation>
+    </message>
+    <message>
+        <source>kind of gate</source>
+        <translation>type de porte</translation>
+    </message>
+    <message>
+        <source>which pole</source>
+        <translation>quelle fiche</translation>
+    </message>
+    <message>
+        <source>what touched, or how the gate was missed</source>
+        <translation>ce qui a touché, ou façon dont la porte a été manquée</translation>
+    </message>
+    <message>
+        <source>where in the gate</source>
+        <translation>à quel endroit de la porte</translation>
+    </message>
+    <message>
+        <source>how the boat was moving</source>
+        <translation>comment se déplaçait le bateau</translation>
+    </message>
+    <message>
+        <source>how the gate was paddled</source>
+        <translation>façon dont la porte a été passée</translation>
+    </message>
+    <message>
+        <source>where the athlete looked</source>
+        <translation>où regardait l’athlète</translation>
+    </message>
+    <message>
+        <source>below 0 for time gained</source>
+        <translation>en dessous de 0 pour du temps gagné</translation>
+    </message>
+    <message>
+        <source>of the other run&apos;s time</source>
+        <translation>du temps de l’autre manche</translation>
+    </message>
+    <message>
+        <source>against whom</source>
+        <translation>contre qui</translation>
+    </message>
+    <message>
+        <source>reasons noted</source>
+        <translation>raisons notées</translation>
+    </message>
+    <message>
+        <source>combination of gates</source>
+        <translation>combinaison de portes</translation>
+    </message>
+    <message>
+        <source>part of the gate</source>
+        <translation>partie de la porte</translation>
+    </message>
+    <message>
+        <source>how the stretch was paddled</source>
+        <translation>façon dont le tronçon a été passé</translation>
+    </message>
+    <message>
+        <source>the water there</source>
+        <translation>l’eau à cet endroit</translation>
+    </message>
+    <message>
+        <source>the word of a mark</source>
+        <translation>le mot d’une étiquette</translation>
+    </message>
+    <message>
+        <source>Behind &quot;{}&quot; stands &quot;{}&quot;, which is a condition.</source>
+        <translation>Derrière «&#xa0;{}&#xa0;» se trouve «&#xa0;{}&#xa0;», qui est une condition.</translation>
+    </message>
+    <message>
+        <source>Only values can stand here.</source>
+        <translation>Ici, il ne peut y avoir que des valeurs.</translation>
+    </message>
+    <message>
+        <source>One limit stands here, such as 4 or {}4.</source>
+        <translation>Ici se met une seule limite, comme 4 ou {}4.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; needs the name of a column.</source>
+        <translation>«&#xa0;{}&#xa0;» demande le nom d’une colonne.</translation>
+    </message>
+    <message>
+        <source>Before a value stands the name of its column, such as athlete or text.</source>
+        <translation>Devant une valeur se met le nom de sa colonne, comme athlete ou text.</translation>
+    </message>
+    <message>
+        <source>Before &quot;{}&quot; stands the name of a column.</source>
+        <translation>Devant «&#xa0;{}&#xa0;» se met le nom d’une colonne.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; needs a value.</source>
+        <translation>«&#xa0;{}&#xa0;» demande une valeur.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; needs a value; one of our own words stands in quotes.</source>
+        <translation>«&#xa0;{}&#xa0;» demande une valeur&#x202f;; un de nos propres mots se met entre guillemets.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is a text: it is compared by = and != alone.</source>
+        <translation>«&#xa0;{}&#xa0;» est un texte&#x202f;: il ne se compare que par = et !=.</translation>
+    </message>
+    <message>
+        <source>There is nothing in the quotes.</source>
+        <translation>Il n’y a rien entre les guillemets.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; has words for values: it is compared by = and != alone.</source>
+        <translation>«&#xa0;{}&#xa0;» a des mots pour valeurs&#x202f;: il ne se compare que par = et !=.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no day: write 2026-05-11, or 2026-05, or 2026.</source>
+        <translation>«&#xa0;{}&#xa0;» n’est pas un jour&#x202f;: écrivez 2026-05-11, ou 2026-05, ou 2026.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no {}.</source>
+        <translation>«&#xa0;{}&#xa0;» n’est pas une valeur de {}.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no number.</source>
+        <translation>«&#xa0;{}&#xa0;» n’est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is not told of {}, but of {}.</source>
+        <translation>«&#xa0;{}&#xa0;» ne se dit pas de {}, mais de {}.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; means nothing in a query about {}.</source>
+        <translation>«&#xa0;{}&#xa0;» ne veut rien dire dans une requête sur {}.</translation>
+    </message>
+    <message>
+        <source>A value of several words stands in quotes.</source>
+        <translation>Une valeur de plusieurs mots se met entre guillemets.</translation>
+    </message>
+    <message>
+        <source>Nearly every row has a {} of its own.</source>
+        <translation>Presque chaque ligne a sa propre valeur de {}.</translation>
+    </message>
+    <message>
+        <source>Groups are made by three columns at most.</source>
+        <translation>Les groupes se font par trois colonnes au plus.</translation>
+    </message>
+    <message>
+        <source>There is one &quot;best&quot; already.</source>
+        <translation>Il y a déjà un «&#xa0;best&#xa0;».</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no number, of which one could be the best.</source>
+        <translation>«&#xa0;{}&#xa0;» n’est pas un nombre, dont l’un pourrait être le meilleur.</translation>
+    </message>
+    <message>
+        <source>There is one &quot;sort&quot; already.</source>
+        <translation>Il y a déjà un «&#xa0;sort&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Groups are sorted by what makes them, or by count, best, mean or median.</source>
+        <translation>Les groupes se trient par ce qui les forme, ou par count, best, mean ou median.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no number of rows.</source>
+        <translation>«&#xa0;{}&#xa0;» n’est pas un nombre de lignes.</translation>
+    </message>
+    <message>
+        <source>The quote is not closed.</source>
+        <translation>Le guillemet n’est pas fermé.</translation>
+    </message>
+    <message>
+        <source>&quot;!&quot; stands only in &quot;!=&quot;.</source>
+        <translation>«&#xa0;!&#xa0;» ne se met que dans «&#xa0;!=&#xa0;».</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>il n’y a pas assez de mémoire pour lui</translation>
+    </message>
+    <message>
+        <source>There is no bib.</source>
+        <translation>Il n’y a pas de dossard.</translation>
+    </message>
+    <message>
+        <source>&quot;{}&quot; is no bib.</source>
+        <translation>«&#xa0;{}&#xa0;» n’est pas un dossard.</translation>
+    </message>
+    <message>
+        <source>The official results of the file have no bib for this crew.</source>
+        <translation>Les résultats officiels du fichier n’ont pas de dossard pour cet équipage.</translation>
+    </message>
+    <message>
+        <source>No bib was found in {}. A list needs a column called &quot;bib&quot;; a split file needs its official results.</source>
+        <translation>Aucun dossard n’a été trouvé dans {}. Une liste demande une colonne nommée «&#xa0;bib&#xa0;»&#x202f;; un fichier d’intermédiaires, ses résultats officiels.</translation>
+    </message>
+    <message>
+        <source>The answer is no WebDAV folder.</source>
+        <translation>La réponse n’est pas un dossier WebDAV.</translation>
+    </message>
+    <message>
+        <source>The answer is no WebDAV folder: {}</source>
+        <translation>La réponse n’est pas un dossier WebDAV&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Annulé.</translation>
+    </message>
+    <message>
+        <source>The folder takes no file: {}</source>
+        <translation>Le dossier n’accepte pas de fichier&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>The server sends more than it announced.</source>
+        <translation>Le serveur envoie plus qu’il n’avait annoncé.</translation>
+    </message>
+    <message>
+        <source>The job has brought 20 GB, which is the most in one go.</source>
+        <translation>La tâche a apporté 20 Go, ce qui est le maximum d’un coup.</translation>
+    </message>
+    <message>
+        <source>The disk does not take the file: {}</source>
+        <translation>Le disque n’accepte pas le fichier&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>The file broke off before its end.</source>
+        <translation>Le fichier s’est interrompu avant sa fin.</translation>
+    </message>
+    <message>
+        <source>The server sent nothing.</source>
+        <translation>Le serveur n’a rien envoyé.</translation>
+    </message>
+    <message>
+        <source>The disk does not take the file.</source>
+        <translation>Le disque n’accepte pas le fichier.</translation>
+    </message>
+    <message numerus="yes">
+        <source>After {} tries it was given up for now.</source>
+        <translation>
+            <numerusform>Après {} essai, c’est abandonné pour l’instant.</numerusform>
+            <numerusform>Après {} essais, c’est abandonné pour l’instant.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>it has no pictures</source>
+        <translation>il n’a pas d’images</translation>
+    </message>
+    <message>
+        <source>What the server sent is no film: {}.</source>
+        <translation>Ce que le serveur a envoyé n’est pas un film&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>The pieces of the film do not fit together: {}.</source>
+        <translation>Les morceaux du film ne vont pas ensemble&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>The pieces of the film could not be put together: {}.</source>
+        <translation>Les morceaux du film n’ont pas pu être réunis&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>The playlists lead from one to the other without an end.</source>
+        <translation>Les listes de lecture renvoient de l’une à l’autre sans fin.</translation>
+    </message>
+    <message>
+        <source>Pieces of the film lie on {}, which is not ticked.</source>
+        <translation>Des morceaux du film se trouvent sur {}, qui n’est pas coché.</translation>
+    </message>
+    <message>
+        <source>A piece of the film is missing: {}</source>
+        <translation>Un morceau du film manque&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>The list is no JSON: {}</source>
+        <translation>La liste n’est pas du JSON&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>This playlist is one film in pieces and no list of films. Give its address with {bib} in it.</source>
+        <translation>Cette liste de lecture est un seul film en morceaux et non une liste de films. Donnez son adresse avec {bib} dedans.</translation>
+    </message>
+    <message>
+        <source>Another program has changed it.</source>
+        <translation>Un autre programme l’a modifié.</translation>
+    </message>
+    <message>
+        <source>The server has no such list.</source>
+        <translation>Le serveur n’a pas cette liste.</translation>
+    </message>
+    <message>
+        <source>The address is there and names no film.</source>
+        <translation>L’adresse existe et n’indique aucun film.</translation>
+    </message>
+    <message>
+        <source>The playlist has no piece of a film.</source>
+        <translation>La liste de lecture n’a aucun morceau de film.</translation>
+    </message>
+    <message>
+        <source>The film is still growing: its playlist has no end yet.</source>
+        <translation>Le film grandit encore&#x202f;: sa liste de lecture n’a pas encore de fin.</translation>
+    </message>
+    <message>
+        <source>The playlist leads to something else than a server: {}</source>
+        <translation>La liste de lecture renvoie vers autre chose qu’un serveur&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>The playlist does not end: it has more than {} pieces.</source>
+        <translation>La liste de lecture ne finit pas&#x202f;: elle a plus de {} morceaux.</translation>
+    </message>
+    <message>
+        <source>The film is protected by &quot;{}&quot;, which only its maker&apos;s programs open.</source>
+        <translation>Le film est protégé par «&#xa0;{}&#xa0;», que seuls les programmes de son auteur ouvrent.</translation>
+    </message>
+    <message>
+        <source>The server sent a part that nobody asked for.</source>
+        <translation>Le serveur a envoyé une partie que personne n’a demandée.</translation>
+    </message>
+    <message>
+        <source>The file was changed meanwhile.</source>
+        <translation>Le fichier a été modifié entre-temps.</translation>
+    </message>
+    <message>
+        <source>The server went on from another place than it was asked to.</source>
+        <translation>Le serveur a continué à un autre endroit que celui demandé.</translation>
+    </message>
+    <message>
+        <source>The server packs the file in a way that was not asked for.</source>
+        <translation>Le serveur compresse le fichier d’une façon qui n’a pas été demandée.</translation>
+    </message>
+    <message>
+        <source>The server has no more of the file.</source>
+        <translation>Le serveur n’a rien de plus du fichier.</translation>
+    </message>
+    <message>
+        <source>Not there yet.</source>
+        <translation>Pas encore là.</translation>
+    </message>
+    <message>
+        <source>The server asks for fewer questions.</source>
+        <translation>Le serveur demande moins de requêtes.</translation>
+    </message>
+    <message>
+        <source>The server leads in a circle.</source>
+        <translation>Le serveur renvoie en boucle.</translation>
+    </message>
+    <message>
+        <source>The server leads to an address that is none.</source>
+        <translation>Le serveur renvoie vers une adresse qui n’en est pas une.</translation>
+    </message>
+    <message>
+        <source>The server leads from https to http, which anybody can read and change.</source>
+        <translation>Le serveur renvoie de https vers http, que n’importe qui peut lire et modifier.</translation>
+    </message>
+    <message>
+        <source>The server leads to another one, {}, which is not ticked.</source>
+        <translation>Le serveur renvoie vers un autre, {}, qui n’est pas coché.</translation>
+    </message>
+    <message>
+        <source>The film could not be given its name: {}</source>
+        <translation>Le film n’a pas pu recevoir son nom&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>The film is not what its checksum says.</source>
+        <translation>Le film n’est pas celui que dit sa somme de contrôle.</translation>
+    </message>
+    <message>
+        <source>The answer is longer than any list is.</source>
+        <translation>La réponse est plus longue qu’aucune liste.</translation>
+    </message>
+    <message>
+        <source>A link in the folder leads out of it, and is not followed.</source>
+        <translation>Un lien du dossier mène hors de celui-ci, et n’est pas suivi.</translation>
+    </message>
+    <message>
+        <source>The folder could not be made on the server: {}</source>
+        <translation>Le dossier n’a pas pu être créé sur le serveur&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>The server does not know its own mark of this file again.</source>
+        <translation>Le serveur ne reconnaît pas sa propre marque de ce fichier.</translation>
+    </message>
+    <message>
+        <source>a name of small letters, digits and dashes was expected</source>
+        <translation>un nom en minuscules, chiffres et tirets était attendu</translation>
+    </message>
+    <message>
+        <source>an https address was expected</source>
+        <translation>une adresse https était attendue</translation>
+    </message>
+    <message>
+        <source>it does not end in the plain name of a file</source>
+        <translation>elle ne finit pas par un simple nom de fichier</translation>
+    </message>
+    <message>
+        <source>1 to {} bytes were expected</source>
+        <translation>1 à {} octets étaient attendus</translation>
+    </message>
+    <message>
+        <source>64 small hexadecimal digits were expected</source>
+        <translation>64 chiffres hexadécimaux en minuscules étaient attendus</translation>
+    </message>
+    <message>
+        <source>it is longer than any manifest is</source>
+        <translation>elle est plus longue qu’aucune liste de versions</translation>
+    </message>
+    <message>
+        <source>three numbers such as 0.32.0 were expected</source>
+        <translation>trois nombres comme 0.32.0 étaient attendus</translation>
+    </message>
+    <message>
+        <source>a date such as 2026-11-22 was expected</source>
+        <translation>une date comme 2026-11-22 était attendue</translation>
+    </message>
+    <message>
+        <source>a plain text of at most 100,000 bytes was expected</source>
+        <translation>un texte brut d’au plus 100&#x202f;000 octets était attendu</translation>
+    </message>
+    <message>
+        <source>there is a file for it already</source>
+        <translation>il y a déjà un fichier pour elle</translation>
+    </message>
+    <message>
+        <source>The address of the file is none that is asked.</source>
+        <translation>L’adresse du fichier n’est pas de celles qui sont interrogées.</translation>
+    </message>
+    <message>
+        <source>The folder takes no file: {}.</source>
+        <translation>Le dossier n’accepte pas de fichier&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>The server sent another part of the file than it was asked for.</source>
+        <translation>Le serveur a envoyé une autre partie du fichier que celle demandée.</translation>
+    </message>
+    <message>
+        <source>The file on the server is not as long as the list of versions says.</source>
+        <translation>Le fichier du serveur n’a pas la longueur que dit la liste des versions.</translation>
+    </message>
+    <message>
+        <source>The disk does not take the file: {}.</source>
+        <translation>Le disque n’accepte pas le fichier&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>The file on the server is longer than the list of versions says. It was deleted.</source>
+        <translation>Le fichier du serveur est plus long que ne le dit la liste des versions. Il a été supprimé.</translation>
+    </message>
+    <message>
+        <source>The file is not the one of the list of versions: it is damaged, or was changed. It was deleted.</source>
+        <translation>Le fichier n’est pas celui de la liste des versions&#x202f;: il est abîmé ou a été modifié. Il a été supprimé.</translation>
+    </message>
+    <message numerus="yes">
+        <source>It was given up after {} tries.</source>
+        <translation>
+            <numerusform>C’est abandonné après {} essai.</numerusform>
+            <numerusform>C’est abandonné après {} essais.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The list of versions is longer than it may be.</source>
+        <translation>La liste des versions est plus longue que permis.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not on the server.</source>
+        <translation>La liste des versions n’est pas sur le serveur.</translation>
+    </message>
+    <message>
+        <source>The list of versions lies on another server, {}, which is not asked.</source>
+        <translation>La liste des versions se trouve sur un autre serveur, {}, qui n’est pas interrogé.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not given out by the server.</source>
+        <translation>La liste des versions n’est pas délivrée par le serveur.</translation>
+    </message>
+    <message>
+        <source>The signature of the list of versions is longer than it may be.</source>
+        <translation>La signature de la liste des versions est plus longue que permis.</translation>
+    </message>
+    <message>
+        <source>The signature of the list of versions is not on the server.</source>
+        <translation>La signature de la liste des versions n’est pas sur le serveur.</translation>
+    </message>
+    <message>
+        <source>The signature of the list of versions lies on another server, {}, which is not asked.</source>
+        <translation>La signature de la liste des versions se trouve sur un autre serveur, {}, qui n’est pas interrogé.</translation>
+    </message>
+    <message>
+        <source>The signature of the list of versions is not given out by the server.</source>
+        <translation>La signature de la liste des versions n’est pas délivrée par le serveur.</translation>
+    </message>
+    <message>
+        <source>The file is longer than it may be.</source>
+        <translation>Le fichier est plus long que permis.</translation>
+    </message>
+    <message>
+        <source>The file is not on the server.</source>
+        <translation>Le fichier n’est pas sur le serveur.</translation>
+    </message>
+    <message>
+        <source>The file lies on another server, {}, which is not asked.</source>
+        <translation>Le fichier se trouve sur un autre serveur, {}, qui n’est pas interrogé.</translation>
+    </message>
+    <message>
+        <source>The file is not given out by the server.</source>
+        <translation>Le fichier n’est pas délivré par le serveur.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not signed. It is not used.</source>
+        <translation>La liste des versions n’est pas signée. Elle n’est pas utilisée.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not signed by who makes Kavela: it is damaged, or somebody else&apos;s. It is not used.</source>
+        <translation>La liste des versions n’est pas signée par qui fait Kavela&#x202f;: elle est abîmée, ou de quelqu’un d’autre. Elle n’est pas utilisée.</translation>
+    </message>
+    <message>
+        <source>The list of versions is damaged and not used: {}.</source>
+        <translation>La liste des versions est abîmée et n’est pas utilisée&#x202f;: {}.</translation>
+    </message>
+    <message>
+        <source>The server offers version {}, which is older than {}, the one you have. It is not used.</source>
+        <translation>Le serveur propose la version {}, plus ancienne que la {}, celle que vous avez. Elle n’est pas utilisée.</translation>
+    </message>
+    <message>
+        <source>The server offers version {}, which is older than {}, which it had before. It is not used.</source>
+        <translation>Le serveur propose la version {}, plus ancienne que la {}, qu’il avait auparavant. Elle n’est pas utilisée.</translation>
+    </message>
+    <message>
+        <source>Version {} is the newest one.</source>
+        <translation>La version {} est la plus récente.</translation>
+    </message>
+    <message>
+        <source>There is a version {}, but no file of it for this computer ({}).</source>
+        <translation>Il y a une version {}, mais aucun fichier pour cet ordinateur ({}).</translation>
+    </message>
+    <message>
+        <source>no decoder for {}</source>
+        <translation>aucun décodeur pour {}</translation>
+    </message>
+    <message>
+        <source>the film is cut off or damaged: the list of its frames is missing</source>
+        <translation>le film est coupé ou abîmé&#x202f;: la liste de ses images manque</translation>
+    </message>
+    <message>
+        <source>this is no video that can be read, or it is damaged</source>
+        <translation>ce n’est pas une vidéo lisible, ou elle est abîmée</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Ce fichier ou ce dossier n’existe pas</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>C’est un dossier</translation>
+    </message>
+    <message>
+        <source>there is no video in this file</source>
+        <translation>il n’y a pas de vidéo dans ce fichier</translation>
+    </message>
+    <message>
+        <source>there is no sound in this film</source>
+        <translation>il n’y a pas de son dans ce film</translation>
+    </message>
+    <message>
+        <source>there is no video in this file, only a picture</source>
+        <translation>il n’y a pas de vidéo dans ce fichier, seulement une image</translation>
+    </message>
+    <message>
+        <source>the film has no clock</source>
+        <translation>le film n’a pas d’horloge</translation>
+    </message>
+    <message>
+        <source>the film could not be read any further</source>
+        <translation>le film n’a pas pu être lu plus loin</translation>
+    </message>
+    <message>
+        <source>{:.3f} s</source>
+        <translation>{:.3f} s</translation>
+    </message>
+    <message numerus="yes">
+        <source>The file is cut off: {} frames missing at its end.</source>
+        <translation>
+            <numerusform>Le fichier est coupé&#x202f;: il manque {} image à la fin.</numerusform>
+            <numerusform>Le fichier est coupé&#x202f;: il manque {} images à la fin.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file is cut off or damaged: its end is missing.</source>
+        <translation>Le fichier est coupé ou abîmé&#x202f;: sa fin manque.</translation>
+    </message>
+    <message>
+        <source>The file does not say when each frame was shown: times are estimated from its frame rate.</source>
+        <translation>Le fichier ne dit pas quand chaque image a été montrée&#x202f;: les temps sont estimés d’après sa cadence d’images.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} frames left out that had the time of another frame.</source>
+        <translation>
+            <numerusform>{} image laissée de côté, qui avait le temps d’une autre.</numerusform>
+            <numerusform>{} images laissées de côté, qui avaient le temps d’une autre.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The frame rate varies, from {} to {} frames a second.</source>
+        <translation>La cadence varie, de {} à {} images par seconde.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} gaps</source>
+        <translation>
+            <numerusform>{} trou</numerusform>
+            <numerusform>{} trous</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>{} where frames are missing, the longest of {} at {}.</source>
+        <translation>{} où des images manquent, le plus long de {} à {}.</translation>
+    </message>
+    <message>
+        <source>About {} of {} frames repeat the picture before them.</source>
+        <translation>Environ {} images sur {} répètent la précédente.</translation>
+    </message>
+    <message>
+        <source>Slow motion: recorded at {} frames a second, plays at {}. Times taken from it are {} times too long.</source>
+        <translation>Ralenti&#x202f;: enregistré à {} images par seconde, lu à {}. Les temps qui en sont tirés sont {} fois trop longs.</translation>
+    </message>
+    <message>
+        <source>The film starts at {}, not at 0.</source>
+        <translation>Le film commence à {}, pas à 0.</translation>
+    </message>
+    <message>
+        <source>The file has no list of its frames: it had to be read from end to end.</source>
+        <translation>Le fichier n’a pas de liste de ses images&#x202f;: il a fallu le lire d’un bout à l’autre.</translation>
+    </message>
+    <message>
+        <source>Recorded turned by {}°, and shown upright.</source>
+        <translation>Enregistré tourné de {}°, et montré droit.</translation>
+    </message>
+    <message>
+        <source>Interlaced: each frame holds two moments half a frame apart.</source>
+        <translation>Entrelacé&#x202f;: chaque image contient deux instants séparés d’une demi-image.</translation>
+    </message>
+    <message>
+        <source>{} bits a colour, shown with 8.</source>
+        <translation>{} bits par couleur, montré avec 8.</translation>
+    </message>
+    <message>
+        <source>no frame of the video can be read</source>
+        <translation>aucune image de la vidéo ne peut être lue</translation>
+    </message>
+    <message>
+        <source>no frame of the video can be decoded</source>
+        <translation>aucune image de la vidéo ne peut être décodée</translation>
+    </message>
+    <message>
+        <source>The film could not be encoded: {}</source>
+        <translation>Le film n’a pas pu être encodé&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>A picture could not be made: {}</source>
+        <translation>Une image n’a pas pu être faite&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>Films cannot be made on this computer: the installed libavcodec has no encoder for H.264 (libx264).</source>
+        <translation>Aucun film ne peut être fait sur cet ordinateur&#x202f;: la libavcodec installée n’a pas d’encodeur H.264 (libx264).</translation>
+    </message>
+    <message>
+        <source>Films with sound cannot be made on this computer: the installed libavcodec has no encoder for AAC.</source>
+        <translation>Aucun film avec du son ne peut être fait sur cet ordinateur&#x202f;: la libavcodec installée n’a pas d’encodeur AAC.</translation>
+    </message>
+    <message>
+        <source>The encoder for H.264 could not be started: {}</source>
+        <translation>L’encodeur H.264 n’a pas pu être démarré&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>The encoder for sound could not be started: {}</source>
+        <translation>L’encodeur du son n’a pas pu être démarré&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>Sound could not be encoded: {}</source>
+        <translation>Le son n’a pas pu être encodé&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>The film could not be ended: {}</source>
+        <translation>Le film n’a pas pu être terminé&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>Films cannot be written on this computer: {}</source>
+        <translation>Aucun film ne peut être écrit sur cet ordinateur&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>The film could not be put together: {}</source>
+        <translation>Le film n’a pas pu être assemblé&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>The film could not be begun: {}</source>
+        <translation>Le film n’a pas pu être commencé&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>the piece could not be found in the film</source>
+        <translation>le morceau n’a pas été trouvé dans le film</translation>
+    </message>
+    <message>
+        <source>it was written by a newer release</source>
+        <translation>il a été écrit par une version plus récente</translation>
+    </message>
+    <message>
+        <source>rows and columns from 1 to 2000 were expected</source>
+        <translation>1 à 2000 lignes et colonnes étaient attendues</translation>
+    </message>
+    <message>
+        <source>&quot;accepted&quot;, &quot;moved&quot;, &quot;refused&quot; or &quot;missed&quot; expected</source>
+        <translation>attendu&#x202f;: «&#xa0;accepted&#xa0;», «&#xa0;moved&#xa0;», «&#xa0;refused&#xa0;» ou «&#xa0;missed&#xa0;»</translation>
+    </message>
+    <message>
+        <source>there are more bands than a recording holds</source>
+        <translation>il y a plus de bandes qu’un enregistrement n’en contient</translation>
+    </message>
+    <message>
+        <source>it is no recording of bands, or damaged: {}</source>
+        <translation>ce n’est pas un enregistrement de bandes, ou il est abîmé&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>the recording could not be put together</source>
+        <translation>l’enregistrement n’a pas pu être assemblé</translation>
+    </message>
+    <message>
+        <source>it is no recording of bands: {} is missing</source>
+        <translation>ce n’est pas un enregistrement de bandes&#x202f;: {} manque</translation>
+    </message>
+    <message>
+        <source>the recording is damaged: {} cannot be read</source>
+        <translation>l’enregistrement est abîmé&#x202f;: {} ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>the recording could not be put together: {}</source>
+        <translation>l’enregistrement n’a pas pu être assemblé&#x202f;: {}</translation>
+    </message>
+    <message>
+        <source>it cannot be opened</source>
+        <translation>il ne peut pas être ouvert</translation>
+    </message>
+    <message>
+        <source>each needs its bands</source>
+        <translation>chacun a besoin de ses bandes</translation>
+    </message>
+    <message>
+        <source>their number is not that of the bands</source>
+        <translation>leur nombre n’est pas celui des bandes</translation>
+    </message>
+    <message>
+        <source>the recording is larger than any that is written</source>
+        <translation>l’enregistrement est plus grand que tous ceux qui sont écrits</translation>
+    </message>
+    <message>
+        <source>there is no proposal or correction to be saved</source>
+        <translation>il n’y a ni proposition ni correction à enregistrer</translation>
+    </message>
+    <message>
+        <source>The search for boats was not measured.</source>
+        <translation>La recherche de bateaux n’a pas été mesurée.</translation>
+    </message>
+    <message>
+        <source>Measured on {} scenes of real water ({} runs, {:.0f} minutes): {:.1f} % of the runs found (asked: {:.0f} %), {:.1f} false proposals an hour (asked: at most {:g}), an error of at most {:.1f} frames for 95 of 100 (asked: {:g}).</source>
+        <translation>Mesuré sur {} scènes en eau réelle (manches&#x202f;: {}, minutes&#x202f;: {:.0f})&#x202f;: {:.1f}&#x202f;% des manches trouvées (demandé&#x202f;: {:.0f}&#x202f;%), {:.1f} fausses propositions par heure (demandé&#x202f;: au plus {:g}), une erreur d’au plus {:.1f} images pour 95 sur 100 (demandé&#x202f;: {:g}).</translation>
+    </message>
+    <message>
+        <source>Measured on {} scenes of rendered water ({} runs, {:.0f} minutes): {:.1f} % of the runs found (asked: {:.0f} %), {:.1f} false proposals an hour (asked: at most {:g}), an error of at most {:.1f} frames for 95 of 100 (asked: {:g}).</source>
+        <translation>Mesuré sur {} scènes en eau de synthèse (manches&#x202f;: {}, minutes&#x202f;: {:.0f})&#x202f;: {:.1f}&#x202f;% des manches trouvées (demandé&#x202f;: {:.0f}&#x202f;%), {:.1f} fausses propositions par heure (demandé&#x202f;: au plus {:g}), une erreur d’au plus {:.1f} images pour 95 sur 100 (demandé&#x202f;: {:g}).</translation>
+    </message>
+    <message>
+        <source>The frame of the box cannot be shown.</source>
+        <translation>L’image du cadre ne peut pas être montrée.</translation>
+    </message>
+    <message>
+        <source>the box round a boat has no size</source>
+        <translation>le cadre autour d’un bateau n’a pas de taille</translation>
+    </message>
+    <message>
+        <source>the box round a boat is larger than the picture</source>
+        <translation>le cadre autour d’un bateau est plus grand que l’image</translation>
+    </message>
+    <message>
+        <source>the film has no frames from {:.2f} s to {:.2f} s</source>
+        <translation>le film n’a pas d’images de {:.2f} s à {:.2f} s</translation>
+    </message>
+    <message>
+        <source>The film ends early: the file is cut off.</source>
+        <translation>Le film finit trop tôt&#x202f;: le fichier est coupé.</translation>
+    </message>
+    <message>
+        <source>The box is too small: it needs 8 pixels each way at least.</source>
+        <translation>Le cadre est trop petit&#x202f;: il lui faut au moins 8 pixels dans chaque sens.</translation>
+    </message>
+    <message>
+        <source>The box does not lie within the picture, which has {} × {} pixels.</source>
+        <translation>Le cadre n’est pas à l’intérieur de l’image, qui a {} × {} pixels.</translation>
+    </message>
+    <message>
+        <source>There is nothing in the box that could be known again: it has one colour all over.</source>
+        <translation>Il n’y a rien dans le cadre qui puisse être reconnu&#x202f;: il est d’une seule couleur.</translation>
+    </message>
+    <message>
+        <source>It is not known how the camera moved between the path and the frame of the known points. Click them in a frame of the path.</source>
+        <translation>On ne sait pas comment la caméra a bougé entre la trajectoire et l’image des points connus. Cliquez-les dans une image de la trajectoire.</translation>
+    </message>
+    <message>
+        <source>version {} is of a later release</source>
+        <translation>la version {} vient d’une version ultérieure du programme</translation>
+    </message>
+    <message>
+        <source>the line&apos;s end at {}, {} lies outside the picture of {} × {} pixels</source>
+        <translation>le bout de la ligne en {}, {} est hors de l’image de {} × {} pixels</translation>
+    </message>
+    <message>
+        <source>the line is shorter than {} pixels</source>
+        <translation>la ligne fait moins de {} pixels</translation>
+    </message>
+    <message>
+        <source>The camera was held in the hand, or nothing in the picture stands still: the search for boats needs a camera on a tripod.</source>
+        <translation>La caméra était tenue à la main, ou rien dans l’image n’est immobile&#x202f;: la recherche de bateaux demande une caméra sur trépied.</translation>
+    </message>
+    <message numerus="yes">
+        <source>{} frames could not be read and were passed over.</source>
+        <translation>
+            <numerusform>{} image n’a pas pu être lue et a été sautée.</numerusform>
+            <numerusform>{} images n’ont pas pu être lues et ont été sautées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>a frame from 0 on was expected</source>
+        <translation>une image à partir de 0 était attendue</translation>
+    </message>
+    <message>
+        <source>it does not lie behind the frame before</source>
+        <translation>elle n’est pas après l’image précédente</translation>
+    </message>
+    <message>
+        <source>no film has so many frames</source>
+        <translation>aucun film n’a autant d’images</translation>
+    </message>
+    <message>
+        <source>it lies beyond all pictures</source>
+        <translation>il est au-delà de toute image</translation>
+    </message>
+    <message>
+        <source>four known points were expected, or two for a scale only</source>
+        <translation>quatre points connus étaient attendus, ou deux pour une simple échelle</translation>
+    </message>
+    <message>
+        <source>the box has no size</source>
+        <translation>le cadre n’a pas de taille</translation>
+    </message>
+    <message>
+        <source>a size above 0 was expected</source>
+        <translation>une taille supérieure à 0 était attendue</translation>
+    </message>
+    <message>
+        <source>it makes the picture vanish</source>
+        <translation>il fait disparaître l’image</translation>
+    </message>
+    <message>
+        <source>Three of the four known points lie on a line: they have to be the corners of a field, such as the poles of two gates.</source>
+        <translation>Trois des quatre points connus sont alignés&#x202f;: ils doivent être les coins d’un champ, comme les fiches de deux portes.</translation>
+    </message>
+    <message>
+        <source>Metres need four known points on the water, or two for a scale only; there are {}.</source>
+        <translation>Les mètres demandent quatre points connus sur l’eau, ou deux pour une simple échelle&#x202f;; il y en a {}.</translation>
+    </message>
+    <message>
+        <source>The two known points lie on one spot.</source>
+        <translation>Les deux points connus sont au même endroit.</translation>
+    </message>
+    <message>
+        <source>The four known points do not fit together: no view of flat water shows them so.</source>
+        <translation>Les quatre points connus ne vont pas ensemble&#x202f;: aucune vue d’une eau plane ne les montre ainsi.</translation>
+    </message>
+    <message>
+        <source>The four known points do not fit together: no view of flat water shows them so. Were two of them exchanged?</source>
+        <translation>Les quatre points connus ne vont pas ensemble&#x202f;: aucune vue d’une eau plane ne les montre ainsi. Deux d’entre eux ont-ils été échangés&#x202f;?</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -21350,6 +22905,13 @@ et %1 autres</translation>
     <message>
         <source>Stop and close</source>
         <translation>Arrêter et fermer</translation>
+    </message>
+</context>
+<context>
+    <name>kavela::desktop::SharedRows</name>
+    <message>
+        <source>Share</source>
+        <translation>Partager</translation>
     </message>
 </context>
 <context>
