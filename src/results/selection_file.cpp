@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 bool read(simdjson::dom::element element, std::vector<bool>& flags, Fault& fault) {
     simdjson::dom::array array;
     if (element.get(array) != simdjson::SUCCESS)
-        return json_detail::refuse(fault, "an array", element);
+        return json_detail::refuse(fault, json_detail::Expected::Array, element);
     flags.clear();
     for (const simdjson::dom::element entry : array) {
         bool flag = false;
