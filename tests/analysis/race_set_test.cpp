@@ -12,7 +12,7 @@ using testing::DoubleNear;
 using testing::ElementsAre;
 using testing::Pointwise;
 
-constexpr double Tolerance = 1e-9;
+constexpr double Precision = 1e-9;
 
 /// Two whole runs and one that never got a time.
 RaceSet threeRuns() {
@@ -58,7 +58,7 @@ TEST(RaceSet, GivesPercentBehindTheBestOfEachColumn) {
     const sectionmaindata& first = set.alldata[0].sectioninfo;
     const sectionmaindata& second = set.alldata[1].sectioninfo;
     const sectionmaindata& none = set.alldata[2].sectioninfo;
-    const auto near = DoubleNear(Tolerance);
+    const auto near = DoubleNear(Precision);
     EXPECT_THAT(first.pertimes, Pointwise(near, {0.0, 100.0 / 3}));
     EXPECT_THAT(second.pertimes, Pointwise(near, {25.0, 0.0}));
     EXPECT_THAT(first.pertimesandpen, Pointwise(near, {0.0, 0.0}));
@@ -67,11 +67,11 @@ TEST(RaceSet, GivesPercentBehindTheBestOfEachColumn) {
     EXPECT_THAT(second.peraccutimes, Pointwise(near, {25.0, 0.0}));
     EXPECT_THAT(second.accutimes, ElementsAre(12.5, 27.5));
     EXPECT_EQ(second.totaltime, 27.5);
-    EXPECT_NEAR(first.totalpertime, 100 * 2.5 / 27.5, Tolerance);
-    EXPECT_NEAR(second.totalpertimeandpen, 100 * (77.5 / 32 - 1), Tolerance);
-    EXPECT_NEAR(first.realpertime, 10, Tolerance);
-    EXPECT_NEAR(first.sprintpertime, 0, Tolerance);
-    EXPECT_NEAR(second.xPer, 20, Tolerance);
+    EXPECT_NEAR(first.totalpertime, 100 * 2.5 / 27.5, Precision);
+    EXPECT_NEAR(second.totalpertimeandpen, 100 * (77.5 / 32 - 1), Precision);
+    EXPECT_NEAR(first.realpertime, 10, Precision);
+    EXPECT_NEAR(first.sprintpertime, 0, Precision);
+    EXPECT_NEAR(second.xPer, 20, Precision);
     for (const double figure : {none.pertimes[1], none.pertimesandpen[0], none.peraccutimes[1],
                                 none.totalpertime, none.totalpertimeandpen, none.realpertime})
         EXPECT_EQ(figure, 0) << "without a time nothing is behind";

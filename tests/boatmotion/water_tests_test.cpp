@@ -16,7 +16,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-constexpr MotionProfile Profile{.mount = Mount::TopToBow};
+constexpr MotionProfile WaterProfile{.mount = Mount::TopToBow};
 constexpr double Pi = std::numbers::pi;
 
 /// Paddling with turns at moments, each of an angle within 3 s.
@@ -32,7 +32,7 @@ MotionAnalysis paddlingWithTurns(double seconds,
                                                   std::pow(std::sin(Pi * (time - at) / 3), 2);
                                       return motion;
                                   }),
-                         Profile);
+                         WaterProfile);
 }
 
 } // namespace
@@ -99,7 +99,7 @@ TEST(WaterTests, SprintIsTheHardestHalfMinute) {
                                                                    m.forward = 2 * m.forward;
                                                                return m;
                                                            }),
-                                                  Profile);
+                                                  WaterProfile);
     const auto sprint = bestSprint(analysis);
     ASSERT_TRUE(sprint);
     EXPECT_NEAR(sprint->figures.start, 1031, 1.6);
@@ -118,12 +118,12 @@ TEST(WaterTests, SprintIsTheHardestHalfMinute) {
 
 TEST(WaterTests, DragIsReadFromGlides) {
     const Simulation truth = simulate({.seed = 91, .seconds = 300, .mount = PhoneMount::Forward});
-    const MotionAnalysis analysis = analyseMotion(truth.session, Profile);
+    const MotionAnalysis analysis = analyseMotion(truth.session, WaterProfile);
     const auto calibration = calibrateDrag(analysis, truth.mass);
     ASSERT_TRUE(calibration);
     EXPECT_GE(calibration->glides, 4);
     EXPECT_NEAR(calibration->drag, truth.drag, 1);
-    EXPECT_FALSE(calibrateDrag(analyseMotion(handMade(60, steadyPaddling), Profile), 88))
+    EXPECT_FALSE(calibrateDrag(analyseMotion(handMade(60, steadyPaddling), WaterProfile), 88))
         << "who never glides";
 }
 

@@ -24,9 +24,6 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
-constexpr const char* Incompatible =
-    "The imported file is not compatible. Be sure you have the latest KV version.";
-
 std::string release(const std::string& label) {
     return contentOf(fs::path(KAVELA_TEST_DATA) / "split_versions" / (label + ".kvx"));
 }

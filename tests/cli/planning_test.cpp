@@ -14,9 +14,6 @@ using nlohmann::json;
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr const char* Incompatible =
-    "The imported file is not compatible. Be sure you have the latest KV version.";
-
 std::string data(const std::string& name) {
     return contentOf(fs::path(KAVELA_TEST_DATA) / "plannings" / name);
 }

@@ -11,6 +11,10 @@
 
 namespace kavela::test {
 
+/// What is said of a file that is none of ours.
+inline constexpr const char* Incompatible =
+    "The imported file is not compatible. Be sure you have the latest KV version.";
+
 /// How a call of the program ended.
 struct Ending {
     int status = -1; ///< -1 when it did not end by itself

@@ -5,6 +5,7 @@
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_view.h"
 #include "desktop/numbered_film.h"
+#include "desktop/patience.h"
 #include "desktop/shell/workspace.h"
 
 #include <gmock/gmock.h>
@@ -25,7 +26,6 @@ using desktop::ClipPair;
 using desktop::Workspace;
 using ::testing::HasSubstr;
 
-constexpr int Patience = 20000; // milliseconds
 using Numbers = std::pair<int, int>;
 
 class ClipPairTest : public ::testing::Test {

@@ -8,6 +8,7 @@
 #include "desktop/desktop.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_stage.h"
+#include "desktop/patience.h"
 #include "desktop/refusals.h"
 #include "desktop/saving.h"
 #include "desktop/shell/tables/column_table.h"
@@ -38,7 +39,6 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-constexpr int Patience = 20000; // milliseconds
 constexpr const char* FilmName = "ada.mov";
 
 /// A film of a run. It takes seconds to make: it is kept beside the program.

@@ -1,3 +1,4 @@
+#include "desktop/path_text.h"
 #include "desktop/shell/document_choice.h"
 
 #include "common/temp_folder.h"
@@ -20,10 +21,6 @@ using desktop::DocumentChoiceDialog;
 
 const desktop::DocumentKind Teams{"Team results", "Teams", "kvteam", "Team"};
 
-QString text(const std::filesystem::path& path) {
-    return QString::fromStdString(path.string());
-}
-
 TEST(DocumentChoice, OpensWithEnterWhatWasOpenLast) {
     DocumentChoiceDialog dialog(Teams, {"/races/B.kvteam", "/races/A.kvteam"}, nullptr);
     dialog.show();
@@ -35,19 +32,19 @@ TEST(DocumentChoice, OpensWithEnterWhatWasOpenLast) {
 
 TEST(DocumentChoice, NamesANewDocumentWhereItWillBeSaved) {
     const TempFolder folder;
-    DocumentChoiceDialog dialog(Teams, {text(folder.path() / "A.kvteam")}, nullptr);
+    DocumentChoiceDialog dialog(Teams, {pathText(folder.path() / "A.kvteam")}, nullptr);
     dialog.show();
     QTimer::singleShot(0, [&] {
         auto* const naming = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
         ASSERT_TRUE(naming);
         EXPECT_EQ(naming->acceptMode(), QFileDialog::AcceptSave) << "nothing is opened";
-        EXPECT_EQ(naming->directory().path(), text(folder.path()));
+        EXPECT_EQ(naming->directory().path(), pathText(folder.path()));
         naming->findChild<QLineEdit*>()->setText("Juniors");
         static_cast<QDialog*>(naming)->accept();
     });
     dialog.findChild<QPushButton*>("new")->click();
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
-    EXPECT_EQ(dialog.choice().path, text(folder.path() / "Juniors.kvteam"));
+    EXPECT_EQ(dialog.choice().path, pathText(folder.path() / "Juniors.kvteam"));
     EXPECT_TRUE(dialog.choice().isNew);
 }
 

@@ -13,6 +13,7 @@
 #include "desktop/slow_disk.h"
 #include "desktop/team/team_window.h"
 #include "desktop/tools.h"
+#include "desktop/path_text.h"
 
 #include <gmock/gmock.h>
 
@@ -69,10 +70,6 @@ using ::testing::SizeIs;
 
 namespace fs = std::filesystem;
 
-inline QString qtText(const fs::path& path) {
-    return QString::fromStdString(path.string());
-}
-
 /// A document of numbers, a line each.
 class Numbers : public desktop::Document<Counted> {
 public:
@@ -125,7 +122,7 @@ protected:
 
     [[nodiscard]] fs::path file(const char* name) const { return m_folder.path() / name; }
     [[nodiscard]] desktop::Autosave autosave() const {
-        return desktop::Autosave(qtText(file("kept")));
+        return desktop::Autosave(pathText(file("kept")));
     }
 
     TempFolder m_folder;

@@ -6,7 +6,7 @@ namespace {
 
 TEST_F(DocumentTest, SavesBesideTheWindowWhatItWasWhenItWasAsked) {
     Numbers document(m_workspace, autosave());
-    document.startAt(qtText(file("a.txt")));
+    document.startAt(pathText(file("a.txt")));
     document.add(1);
     std::vector<bool> answers;
     {
@@ -34,7 +34,7 @@ TEST_F(DocumentTest, SavesBesideTheWindowWhatItWasWhenItWasAsked) {
 
 TEST_F(DocumentTest, StaysUnsavedWhereWritingFails) {
     Numbers document(m_workspace, autosave());
-    document.startAt(qtText(file("gone") / "a.txt"));
+    document.startAt(pathText(file("gone") / "a.txt"));
     document.add(1);
     bool isSaved = true;
     document.saveBeside(nullptr, [&](bool answer) { isSaved = answer; });
@@ -48,11 +48,11 @@ TEST_F(DocumentTest, StaysUnsavedWhereWritingFails) {
 
 TEST_F(DocumentTest, SavesAgainUnderTheNameThatIsStillBeingWritten) {
     Numbers document(m_workspace, autosave());
-    document.startAt(qtText(file("a.txt")));
+    document.startAt(pathText(file("a.txt")));
     document.add(1);
     {
         const SlowDisk slow;
-        document.saveAsBeside(qtText(file("b.txt")), nullptr);
+        document.saveAsBeside(pathText(file("b.txt")), nullptr);
         document.add(2);
         document.saveBeside(nullptr);
     }
@@ -63,7 +63,7 @@ TEST_F(DocumentTest, SavesAgainUnderTheNameThatIsStillBeingWritten) {
 
 TEST_F(DocumentTest, WhatWaitsForAWriteThatFailsHearsOfItAndAsksNoSecondTime) {
     Numbers document(m_workspace, autosave());
-    document.startAt(qtText(file("gone") / "a.txt"));
+    document.startAt(pathText(file("gone") / "a.txt"));
     document.add(1);
     int asked = 0;
     m_workspace.setChoice([&](const Alert&, const QStringList&) {
@@ -77,7 +77,7 @@ TEST_F(DocumentTest, WhatWaitsForAWriteThatFailsHearsOfItAndAsksNoSecondTime) {
         document.saveBeside(nullptr, answer);
         document.saveBeside(nullptr, answer);
         document.whenWritten(answer);
-        document.saveAsBeside(qtText(file("b.txt")), nullptr, answer);
+        document.saveAsBeside(pathText(file("b.txt")), nullptr, answer);
     }
     QTRY_COMPARE(answers.size(), 4UL);
     EXPECT_THAT(answers, ElementsAre(false, false, false, true));
@@ -87,7 +87,7 @@ TEST_F(DocumentTest, WhatWaitsForAWriteThatFailsHearsOfItAndAsksNoSecondTime) {
 
 TEST_F(DocumentTest, LeavesAWayOutWhereItCannotBeSaved) {
     Numbers document(m_workspace, autosave());
-    document.startAt(qtText(file("gone") / "a.txt"));
+    document.startAt(pathText(file("gone") / "a.txt"));
     document.add(1);
     QStringList ways;
     std::string told;
@@ -99,7 +99,7 @@ TEST_F(DocumentTest, LeavesAWayOutWhereItCannotBeSaved) {
             fs::create_directory(file("gone"));
         return way;
     });
-    document.setAskPath([this] { return qtText(file("elsewhere.txt")); });
+    document.setAskPath([this] { return pathText(file("elsewhere.txt")); });
     way = 1;
     EXPECT_TRUE(saved(document));
     EXPECT_EQ(readTextFile(file("elsewhere.txt")), "1\n");
@@ -107,7 +107,7 @@ TEST_F(DocumentTest, LeavesAWayOutWhereItCannotBeSaved) {
     EXPECT_THAT(told, HasSubstr("kept apart, and offered"));
     EXPECT_EQ(ways, (QStringList{"Try again", "Save as…", "Later"}));
 
-    document.startAt(qtText(file("gone") / "b.txt"));
+    document.startAt(pathText(file("gone") / "b.txt"));
     document.add(2);
     way = 2;
     EXPECT_FALSE(saved(document));
@@ -122,7 +122,7 @@ TEST_F(DocumentTest, LeavesAWayOutWhereItCannotBeSaved) {
 
 TEST_F(DocumentTest, ShowsWhatAnotherProgramWroteBeforeItIsReplaced) {
     Numbers document(m_workspace, autosave());
-    document.startAt(qtText(file("a.txt")));
+    document.startAt(pathText(file("a.txt")));
     document.add(1);
     ASSERT_TRUE(saved(document));
     document.add(2);
@@ -141,7 +141,7 @@ TEST_F(DocumentTest, ShowsWhatAnotherProgramWroteBeforeItIsReplaced) {
     EXPECT_EQ(readTextFile(opened[0].toStdString()), "of another program");
     EXPECT_TRUE(document.isDirty());
     way = 2;
-    document.setAskPath([this] { return qtText(file("mine.txt")); });
+    document.setAskPath([this] { return pathText(file("mine.txt")); });
     EXPECT_TRUE(saved(document));
     EXPECT_EQ(readTextFile(file("a.txt")), "of another program");
     EXPECT_EQ(readTextFile(file("mine.txt")), "1\n2\n");
@@ -149,15 +149,15 @@ TEST_F(DocumentTest, ShowsWhatAnotherProgramWroteBeforeItIsReplaced) {
 
 TEST_F(DocumentTest, RefusesToWriteOverAFileOfAnotherWindow) {
     Numbers theirs(m_workspace, autosave());
-    theirs.startAt(qtText(file("theirs.txt")));
+    theirs.startAt(pathText(file("theirs.txt")));
     theirs.add(1);
     ASSERT_TRUE(saved(theirs));
     fs::create_symlink(file("theirs.txt"), file("link.txt"));
     Numbers mine(m_workspace, autosave());
-    mine.startAt(qtText(file("mine.txt")));
+    mine.startAt(pathText(file("mine.txt")));
     mine.add(2);
     for (const char* name : {"theirs.txt", "link.txt"})
-        EXPECT_FALSE(savedAs(mine, qtText(file(name)))) << name;
+        EXPECT_FALSE(savedAs(mine, pathText(file(name)))) << name;
     EXPECT_THAT(m_recorder.alerts, SizeIs(2));
     EXPECT_EQ(readTextFile(file("theirs.txt")), "1\n");
     EXPECT_TRUE(mine.isDirty());
@@ -167,7 +167,7 @@ TEST_F(DocumentTest, StepsOfUndoHoldOnlyWhatTheyChanged) {
     constexpr int Size = 200;
     constexpr int Edits = 50;
     Numbers document(m_workspace, autosave());
-    document.startAt(qtText(file("a.txt")));
+    document.startAt(pathText(file("a.txt")));
     document.edit("many", [](Counted& value) {
         for (int i = 0; i < Size; ++i)
             value.entries.emplace_back(i);

@@ -5,6 +5,7 @@
 #include "common/temp_folder.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_stage.h"
+#include "desktop/patience.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/taking_window.h"
 
@@ -28,7 +29,6 @@ using desktop::SoundOutput;
 using desktop::SoundSituation;
 using desktop::SoundStep;
 
-constexpr int Patience = 20000; // milliseconds
 constexpr SoundSituation Playing{.hasFilm = true, .isPlaying = true};
 
 TEST(SoundDecision, IsToPlayForwardAtNormalSpeedOnly) {

@@ -18,7 +18,7 @@ TEST_F(DocumentTest, BringsBackWhatWasPutOffOrGivenUp) {
         way = next;
         title.clear();
         auto document = std::make_unique<Numbers>(m_workspace, autosave());
-        document->startAt(qtText(file("a.txt")));
+        document->startAt(pathText(file("a.txt")));
         return document;
     };
     {
@@ -33,7 +33,7 @@ TEST_F(DocumentTest, BringsBackWhatWasPutOffOrGivenUp) {
     ASSERT_THAT(autosave().earlier(), SizeIs(1));
     EXPECT_THAT(opened(Load)->numbers(), IsEmpty());
     EXPECT_EQ(title, "") << "asked once in each start";
-    m_workspace.setPutOff(qtText(file("a.txt")), false); // as the next start has it
+    m_workspace.setPutOff(pathText(file("a.txt")), false); // as the next start has it
     EXPECT_THAT(opened(Load)->numbers(), ElementsAre(7, 8)) << "asked again with its document";
     EXPECT_THAT(opened(Discard)->numbers(), IsEmpty()) << "it was never saved";
     (void)opened(Load);
@@ -55,7 +55,7 @@ TEST_F(DocumentTest, BringsBackWhatWasPutOffOrGivenUp) {
 }
 
 TEST_F(DocumentTest, ListsAtHomeWhatWasPutOffAndBringsItBack) {
-    const QString path = qtText(file("New team"));
+    const QString path = pathText(file("New team"));
     {
         desktop::TeamWindow window(m_workspace, autosave());
         window.setAttribute(Qt::WA_DeleteOnClose, false);
@@ -91,8 +91,8 @@ TEST_F(DocumentTest, ListsAtHomeWhatWasPutOffAndBringsItBack) {
 
 TEST_F(DocumentTest, ProgramsBesideEachOtherKeepTheirWorkApart) {
     using Place = desktop::AutosavePlace;
-    const QString folder = qtText(file("kept"));
-    const QString path = qtText(file("a.txt"));
+    const QString folder = pathText(file("kept"));
+    const QString path = pathText(file("a.txt"));
     const auto keep = [&](const Place& place, int number) {
         Numbers document(m_workspace, desktop::Autosave(place.folder()));
         document.startAt(path);
@@ -121,7 +121,7 @@ TEST_F(DocumentTest, ProgramsBesideEachOtherKeepTheirWorkApart) {
 /// Who never pauses is not kept waiting for a pause.
 TEST_F(DocumentTest, KeepsTheFirstOfManyEditsWithinASecondOfIt) {
     Numbers document(m_workspace, autosave());
-    document.startAt(qtText(file("a.txt")));
+    document.startAt(pathText(file("a.txt")));
     int number = 0;
     QTimer edits;
     QObject::connect(&edits, &QTimer::timeout, &edits, [&] { document.add(++number); });
@@ -133,7 +133,7 @@ TEST_F(DocumentTest, KeepsTheFirstOfManyEditsWithinASecondOfIt) {
 
 /// A document that never had a file is recovered in its tool, which its path cannot tell.
 TEST_F(DocumentTest, IsRecoveredAsWhatItWasThoughItWasNeverSaved) {
-    const QString path = qtText(file("New team"));
+    const QString path = pathText(file("New team"));
     {
         auto program = std::make_unique<desktop::Desktop>(m_workspace, autosave());
         desktop::TeamWindow window(m_workspace, autosave());

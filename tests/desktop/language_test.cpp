@@ -1,3 +1,4 @@
+#include "common/environment_variable.h"
 #include "desktop/shell/language.h"
 
 #include "boatmotion/imports/sensor_csv.h"
@@ -45,28 +46,6 @@ namespace {
 
 using desktop::SpokenLanguage;
 
-/// A variable of the environment for the life of a test.
-class Variable {
-public:
-    Variable(const char* name, const QByteArray& value) : m_name(name) {
-        if (qEnvironmentVariableIsSet(name))
-            m_before = qgetenv(name);
-        qputenv(name, value);
-    }
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
-    ~Variable() {
-        if (m_before)
-            qputenv(m_name, *m_before);
-        else
-            qunsetenv(m_name);
-    }
-
-private:
-    const char* m_name;
-    std::optional<QByteArray> m_before;
-};
-
 class LanguageTest : public testing::Test {
 protected:
     const TempFolder m_folder;
@@ -75,8 +54,8 @@ protected:
 };
 
 TEST_F(LanguageTest, IsChosenInTheSettingsAndKeptForTheNextStart) {
-    const Variable undecided("KAVELA_LANGUAGE", "");
-    const Variable system("LC_ALL", "C.UTF-8");
+    const EnvironmentVariable undecided("KAVELA_LANGUAGE", "");
+    const EnvironmentVariable system("LC_ALL", "C.UTF-8");
     desktop::SettingsWindow settings(m_workspace);
     auto* const choice = settings.findChild<QComboBox*>("language");
     ASSERT_TRUE(choice);
@@ -94,14 +73,14 @@ TEST_F(LanguageTest, IsChosenInTheSettingsAndKeptForTheNextStart) {
 }
 
 TEST_F(LanguageTest, OfTheEnvironmentDecidesBeforeTheChosenOne) {
-    const Variable decided("KAVELA_LANGUAGE", "pseudo");
+    const EnvironmentVariable decided("KAVELA_LANGUAGE", "pseudo");
     desktop::chooseLanguage(m_workspace, "en");
     EXPECT_EQ(desktop::spokenLanguage(m_workspace), "pseudo");
 }
 
 TEST_F(LanguageTest, ThatIsUnknownGivesWayToTheSystems) {
-    const Variable undecided("KAVELA_LANGUAGE", "");
-    const Variable system("LC_ALL", "C.UTF-8");
+    const EnvironmentVariable undecided("KAVELA_LANGUAGE", "");
+    const EnvironmentVariable system("LC_ALL", "C.UTF-8");
     desktop::chooseLanguage(m_workspace, "tlh");
     EXPECT_EQ(desktop::spokenLanguage(m_workspace), "en");
 }
@@ -217,10 +196,10 @@ TEST_F(LanguageTest, ThatIsOfferedHasNoKeyTwiceAndFitsTheScreen) {
     const auto& tools = desktop::toolKinds(); // said once, in English here
     const desktop::Autosave kept(QString::fromStdString((m_folder.path() / "kept").string()));
     for (const Language& language : offeredLanguages()) {
-        const SpokenLanguage spoken(desktop::qtText(language.code), false);
+        const SpokenLanguage spoken(desktop::pathText(language.code), false);
         for (const desktop::ToolKind& tool : tools) {
             const std::unique_ptr<desktop::ToolWindow> window(tool.make(m_workspace, kept));
-            const QString where = desktop::qtText(language.code) + ' ' + tool.kind;
+            const QString where = desktop::pathText(language.code) + ' ' + tool.kind;
             EXPECT_EQ(doubledKeys(window->menuBar()->actions()).join('\n'), "")
                 << where.toStdString();
             EXPECT_LE(window->minimumSizeHint().width(), 1280) << where.toStdString();

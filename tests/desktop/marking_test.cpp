@@ -1,3 +1,4 @@
+#include "desktop/patience.h"
 #include "desktop/taking/taking_window.h"
 
 #include "common/recorders.h"
@@ -41,7 +42,6 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-constexpr int Patience = 20000; // milliseconds
 using Frames = std::vector<FrameNumber>;
 
 /// Runs of a race, each with its film of numbered frames.

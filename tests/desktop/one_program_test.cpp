@@ -1,8 +1,10 @@
+#include "common/environment_variable.h"
 #include "desktop/one_program.h"
 
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/desktop.h"
+#include "desktop/path_text.h"
 #include "desktop/start_options.h"
 #include "desktop/taking/taking_window.h"
 
@@ -44,32 +46,6 @@ using ::testing::SizeIs;
 
 constexpr std::chrono::milliseconds Long = 20s;
 
-QString text(const fs::path& path) {
-    return QString::fromStdString(path.string());
-}
-
-/// Sets a variable as long as it lives.
-class Variable {
-public:
-    Variable(const char* name, const QByteArray& value) : m_name(name), m_before(qgetenv(name)) {
-        m_wasSet = qEnvironmentVariableIsSet(name);
-        qputenv(name, value);
-    }
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
-    ~Variable() {
-        if (m_wasSet)
-            qputenv(m_name, m_before);
-        else
-            qunsetenv(m_name);
-    }
-
-private:
-    const char* m_name;
-    QByteArray m_before;
-    bool m_wasSet = false;
-};
-
 class OneProgramTest : public ::testing::Test {
 protected:
     /// A further start, as of another process, while this one answers.
@@ -94,7 +70,7 @@ protected:
     }
 
     TempFolder m_folder;
-    QString m_place = text(m_folder.path() / "one");
+    QString m_place = pathText(m_folder.path() / "one");
     QList<OneProgram::Call> m_calls;
 };
 
@@ -192,7 +168,7 @@ TEST_F(OneProgramTest, StartsItselfOnceTheOneThatEndsHasEnded) {
 
 TEST_F(OneProgramTest, StartsWithoutAFolderForItsSocketAndAsANewOneWhereNoneRuns) {
     EXPECT_EQ(OneProgram(QString()).start({}), Start::Unknown);
-    EXPECT_EQ(OneProgram(text(m_folder.path() / "gone" / "one")).start({}), Start::Unknown);
+    EXPECT_EQ(OneProgram(pathText(m_folder.path() / "gone" / "one")).start({}), Start::Unknown);
     OneProgram one(m_place, Long);
     EXPECT_EQ(one.startBeside(), Start::First);
     EXPECT_EQ(startWith({}), Start::HandedOver);
@@ -230,14 +206,14 @@ TEST_F(OneProgramTest, AnswersNothingThatIsNoCall) {
 
 TEST(MeetingPlace, BelongsToTheFoldersOfPreferencesAndKeptWork) {
     const TempFolder folder;
-    const QByteArray path = text(folder.path()).toUtf8();
-    const Variable runtime("XDG_RUNTIME_DIR", path);
+    const QByteArray path = pathText(folder.path()).toUtf8();
+    const EnvironmentVariable runtime("XDG_RUNTIME_DIR", path);
     const QString before = meetingPlace();
-    EXPECT_TRUE(before.startsWith(text(folder.path())));
+    EXPECT_TRUE(before.startsWith(pathText(folder.path())));
     EXPECT_EQ(before, meetingPlace());
-    const Variable config("XDG_CONFIG_HOME", path + "/config");
+    const EnvironmentVariable config("XDG_CONFIG_HOME", path + "/config");
     const QString otherPreferences = meetingPlace();
-    const Variable data("XDG_DATA_HOME", path + "/data");
+    const EnvironmentVariable data("XDG_DATA_HOME", path + "/data");
     EXPECT_NE(otherPreferences, before);
     EXPECT_NE(meetingPlace(), before);
     EXPECT_NE(meetingPlace(), otherPreferences);
@@ -258,7 +234,7 @@ protected:
     QString copied(const char* example) const {
         const fs::path from = fs::path(KAVELA_EXAMPLES) / example;
         fs::copy_file(from, m_folder.path() / from.filename());
-        return text(m_folder.path() / from.filename());
+        return pathText(m_folder.path() / from.filename());
     }
     [[nodiscard]] static bool isInFront(const QWidget* window) {
         return QTest::qWaitFor([&] { return QApplication::activeWindow() == window; });
@@ -268,7 +244,7 @@ protected:
     Recorder m_recorder;
     desktop::Workspace m_workspace{Preferences(m_folder.path() / "preferences.ini"),
                                    m_recorder.log(), [] { return ReferenceDate{8e8}; }};
-    Desktop m_program{m_workspace, desktop::Autosave(text(m_folder.path() / "kept"))};
+    Desktop m_program{m_workspace, desktop::Autosave(pathText(m_folder.path() / "kept"))};
 };
 
 TEST_F(ComeForwardTest, ShowsTheWindowOfAFileAlsoOneThatWasMadeAnIcon) {
@@ -329,8 +305,8 @@ protected:
         m_environment.insert("QT_QPA_PLATFORM", "offscreen");
         for (const char* const name :
              {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
-            m_environment.insert(name, text(m_folder.path()));
-        m_environment.insert("XDG_RUNTIME_DIR", text(m_folder.path() / "runtime"));
+            m_environment.insert(name, pathText(m_folder.path()));
+        m_environment.insert("XDG_RUNTIME_DIR", pathText(m_folder.path() / "runtime"));
     }
 
     /// Ends the processes that a test leaves.
@@ -354,7 +330,7 @@ protected:
     [[nodiscard]] bool hasOpened(const char* file) const {
         return QTest::qWaitFor(
             [&] {
-                QFile preferences(text(m_folder.path() / "Kavela" / "Kavela.conf"));
+                QFile preferences(pathText(m_folder.path() / "Kavela" / "Kavela.conf"));
                 if (!preferences.open(QIODevice::ReadOnly))
                     return false;
                 for (const QByteArray& line : preferences.readAll().split('\n'))

@@ -1,3 +1,4 @@
+#include "desktop/path_text.h"
 #include "desktop/penalties/penalties_window.h"
 
 #include "common/json_encode.h"
@@ -94,10 +95,6 @@ struct OwnCache {
     }
     ~OwnCache() { qunsetenv("XDG_CACHE_HOME"); }
 };
-
-QString pathText(const fs::path& path) {
-    return QString::fromStdString(path.string());
-}
 
 QString textIn(const ColumnTable& table, int row, const QString& title) {
     const QAbstractItemModel& model = *table.model();

@@ -69,7 +69,7 @@ sessioninmicro_v5 session(std::int64_t day, std::int64_t hour, const char* title
     return made;
 }
 
-planningdatac_v6 smallPlan() {
+planningdatac_v6 planOfThisWeek() {
     planningdatac_v6 plan;
     plan.coach = "Ida Strömland";
     athletesplanning_v6 athlete;
@@ -93,7 +93,7 @@ protected:
             m_questions.push_back(question.title);
             return m_answer;
         });
-        write(smallPlan());
+        write(planOfThisWeek());
     }
 
     fs::path file() const { return m_folder.path() / "season.planning"; }
@@ -158,7 +158,7 @@ TEST_F(PlanningWindowTest, OpensAtTheWeekOfToday) {
 }
 
 TEST_F(PlanningWindowTest, StaysAtAWeekWhoseFormHoldsWhatIsRefused) {
-    planningdatac_v6 two = smallPlan();
+    planningdatac_v6 two = planOfThisWeek();
     two.athletes.push_back(two.athletes.front());
     write(two);
     const auto window = openWindow();
@@ -233,7 +233,7 @@ TEST_F(PlanningWindowTest, DragsASessionToAnotherDayAndPart) {
 }
 
 TEST_F(PlanningWindowTest, KeepsWhatASessionDialogWasOnlyLookedAt) {
-    planningdatac_v6 plan = smallPlan();
+    planningdatac_v6 plan = planOfThisWeek();
     sessioninmicro_v5& odd = plan.athletes[0].year[0].micros[ThisWeek].sessions[0];
     odd.trainingtimezones = "Mars/Olympus";
     odd.titleanddes = {"Gates", "two\nlines", "third"};
@@ -256,7 +256,7 @@ TEST_F(PlanningWindowTest, CopiesAWeekAndRepeatsABlock) {
     EXPECT_THAT(weekAt(*window, ThisWeek + 5).sessions[1].dateinInts, ElementsAre(2026, 4, 16));
     press(*window, Qt::CTRL | Qt::Key_Z);
     press(*window, Qt::CTRL | Qt::Key_Z);
-    EXPECT_EQ(encode(window->document().value()), encode(smallPlan()));
+    EXPECT_EQ(encode(window->document().value()), encode(planOfThisWeek()));
 }
 
 TEST_F(PlanningWindowTest, WritesCyclesIntoAllChosenWeeksButEventsIntoOne) {
@@ -298,7 +298,7 @@ TEST_F(PlanningWindowTest, AsksBeforeItReplacesTheFile) {
     window->plan().clearWeek();
     m_answer = false;
     EXPECT_FALSE(saved(*window));
-    EXPECT_EQ(encode(stored()), encode(smallPlan()));
+    EXPECT_EQ(encode(stored()), encode(planOfThisWeek()));
     m_answer = true;
     EXPECT_TRUE(saved(*window));
     EXPECT_THAT(stored().athletes[0].year[0].micros[ThisWeek].sessions, IsEmpty());
@@ -306,7 +306,7 @@ TEST_F(PlanningWindowTest, AsksBeforeItReplacesTheFile) {
 }
 
 TEST_F(PlanningWindowTest, WhatIsTypedInACellIsInTheFileWhenTheWindowSavesAndCloses) {
-    planningdatac_v6 plan = smallPlan();
+    planningdatac_v6 plan = planOfThisWeek();
     plan.athletes[0].year[0].healthdata = {{midnightOf(2026y / 3 / 3), 71, 9}};
     write(plan);
     const auto weight = [this] { return stored().athletes[0].year[0].healthdata.at(0).weight; };
@@ -338,12 +338,12 @@ TEST_F(PlanningWindowTest, LeavesThePlanAsItWasWhenAFileDoesNotDecode) {
     writeFileSafely(other, R"({"coach": 3})");
     EXPECT_FALSE(window->open(QString::fromStdString(other.string())));
     EXPECT_THAT(m_recorder.alerts, SizeIs(1));
-    EXPECT_EQ(encode(window->document().value()), encode(smallPlan()));
+    EXPECT_EQ(encode(window->document().value()), encode(planOfThisWeek()));
     EXPECT_EQ(window->document().path().toStdString(), file().string());
 }
 
 TEST_F(PlanningWindowTest, ShowsOddWeeksAndLeavesThemAlone) {
-    planningdatac_v6 plan = smallPlan();
+    planningdatac_v6 plan = planOfThisWeek();
     std::vector<microsplanning_v5>& weeks = plan.athletes[0].year[0].micros;
     weeks[ThisWeek].percentaje = -12.345;
     weeks[ThisWeek].monday.seconds += 86400;
@@ -413,7 +413,7 @@ TEST_F(PlanningWindowTest, ReadsThePictureOfAnAthleteOnlyWhenItIsAnother) {
         EXPECT_TRUE(image.save(&buffer, "PNG"));
         return Blob{std::vector<unsigned char>(bytes.begin(), bytes.end())};
     };
-    planningdatac_v6 plan = smallPlan();
+    planningdatac_v6 plan = planOfThisWeek();
     plan.athletes.front().photo = picture(Qt::red);
     write(plan);
     const auto window = openWindow();

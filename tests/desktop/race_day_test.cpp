@@ -1,3 +1,4 @@
+#include "desktop/patience.h"
 #include "desktop/taking/day/day_desk.h"
 
 #include "common/recorders.h"
@@ -34,7 +35,6 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-constexpr int Patience = 20000; // milliseconds
 constexpr double RaceMoment = 7e8;
 constexpr const char* ThreeBoats = "7,Ann Lee,K1W,10:00:00\n8,Bo Kim,K1W,10:01:30\n"
                                    "9,Cy Ott,K1W,10:03:00\n";

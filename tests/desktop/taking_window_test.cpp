@@ -1,3 +1,4 @@
+#include "desktop/patience.h"
 #include "desktop/taking/taking_window.h"
 
 #include "common/recorders.h"
@@ -38,8 +39,6 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
-
-constexpr int Patience = 20000; // milliseconds
 
 /// Two runs of a race of the sample season, and their films.
 struct Evening {

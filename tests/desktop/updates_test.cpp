@@ -31,7 +31,7 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-constexpr double Day = 86'400;
+constexpr double SecondsADay = 86'400;
 
 class UpdatesTest : public ::testing::Test {
 protected:
@@ -92,7 +92,7 @@ protected:
         updates->offer()->findChild<QPushButton*>(button)->click();
     }
     void startNextDay() {
-        now += Day;
+        now += SecondsADay;
         startAgain();
         ASSERT_TRUE(start());
     }

@@ -15,7 +15,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
 /// Two laps of 10 and 6 seconds, a stroke every second from half a second on.
 testData twoLaps() {
@@ -57,7 +57,7 @@ TEST(TestSummary, TellsAverageAndChange) {
         {{4, 3},
          AccelerationLabels,
          "Average acceleration: 3.50\nAverage variation: -1.00\nTotal variation: -1.00"},
-        {{0.3, NoNumber, 0.4},
+        {{0.3, NotANumber, 0.4},
          WaterPhaseLabels,
          "Average water phase: 0.35\nVariation of the water phase: +0.10"},
         {{0.304, 0.3},
@@ -86,12 +86,12 @@ TEST(TestSections, TakeDatesAsTheyCome) {
     std::ranges::reverse(test.strokeDate);
     EXPECT_EQ(testSections(test)[0].strokeRate, std::nullopt) << "out of order";
     test = twoLaps();
-    test.splits = {NoNumber, -5, 1e300};
+    test.splits = {NotANumber, -5, 1e300};
     EXPECT_EQ(testSections(test).size(), 3U);
     test = twoLaps();
     test.strokeRate.resize(5);
     EXPECT_EQ(testSections(test)[0].strokeRate, 63) << "the series is shorter than its dates";
-    test.strokeDate.assign(3, {NoNumber});
+    test.strokeDate.assign(3, {NotANumber});
     EXPECT_EQ(testSections(test).size(), 2U);
 }
 
@@ -124,14 +124,14 @@ TEST(EightTest, ScoresTimesAndTurns) {
     run.sp3 = 11;
     run.sp4 = 12;
     run.sp5 = 10;
-    run.zrotation = {0.2, 2, 3, 1, -0.4, 0.5, -1, -2, 1.5, 2.5, NoNumber, -1.2};
+    run.zrotation = {0.2, 2, 3, 1, -0.4, 0.5, -1, -2, 1.5, 2.5, NotANumber, -1.2};
     scoreEightTest(run);
     EXPECT_EQ(run.totalsplit, 55);
     EXPECT_EQ(run.sdv, 1);
     EXPECT_THAT(run.zrotsubmaxL, ElementsAre(3, 2.5)) << "0.5 is but sway";
     EXPECT_THAT(run.zrotsubmaxR, ElementsAre(2, 1.2));
     EXPECT_THAT(turnPeaks({}, true), IsEmpty());
-    EXPECT_THAT(turnPeaks(std::vector{0.0, NoNumber}, true), IsEmpty());
+    EXPECT_THAT(turnPeaks(std::vector{0.0, NotANumber}, true), IsEmpty());
 }
 
 } // namespace kavela::test

@@ -1,3 +1,4 @@
+#include "statistics/close.h"
 #include "statistics/intervals.h"
 
 #include <gmock/gmock.h>
@@ -7,8 +8,6 @@
 namespace kavela::test {
 
 namespace {
-
-constexpr double Close = 1e-9;
 
 void expectClose(const Interval& interval, double low, double high, const std::string& name) {
     EXPECT_NEAR(interval.low, low, Close) << name;

@@ -1,3 +1,4 @@
+#include "statistics/close.h"
 #include "statistics/shrinkage.h"
 
 #include <gmock/gmock.h>
@@ -7,8 +8,6 @@
 namespace kavela::test {
 
 namespace {
-
-constexpr double Close = 1e-9;
 
 void expectShrunk(const ShrunkRate& shrunk, const std::vector<double>& expected) {
     EXPECT_NEAR(shrunk.rate, expected[0], Close);

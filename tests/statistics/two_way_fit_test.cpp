@@ -1,3 +1,4 @@
+#include "statistics/close.h"
 #include "statistics/two_way_fit.h"
 
 #include <gmock/gmock.h>
@@ -9,8 +10,6 @@
 namespace kavela::test {
 
 namespace {
-
-constexpr double Close = 1e-9;
 
 using testing::DoubleNear;
 using testing::ElementsAre;

@@ -1,5 +1,6 @@
 #include "common/temp_folder.h"
 #include "fetch/faulty_server.h"
+#include "update/fast_pace.h"
 #include "update/update_download.h"
 #include "update/update_look.h"
 #include "update/update_rules.h"
@@ -17,8 +18,6 @@ namespace {
 namespace fs = std::filesystem;
 using namespace kavela::update;
 using ::testing::HasSubstr;
-
-constexpr fetch::WebPace Fast{.silenceMilliseconds = 400, .secondMilliseconds = 2};
 
 struct Ended {
     int status = -1;

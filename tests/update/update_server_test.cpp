@@ -1,5 +1,6 @@
 #include "common/temp_folder.h"
 #include "fetch/faulty_server.h"
+#include "update/fast_pace.h"
 #include "update/secure_server.h"
 #include "update/update_download.h"
 #include "update/update_look.h"
@@ -21,7 +22,6 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-constexpr fetch::WebPace Fast{.silenceMilliseconds = 400, .secondMilliseconds = 2};
 constexpr Version Own{{0, 31, 0}};
 constexpr const char* ListPath = "/kavela/newest.json";
 constexpr const char* FilePath = "/kavela/kavela_0.32.0_amd64.deb";
