@@ -6,6 +6,7 @@
 #include "common/temp_folder.h"
 #include "common/text_file.h"
 #include "desktop/desktop.h"
+#include "desktop/path_text.h"
 #include "desktop/saving.h"
 #include "desktop/shell/autosave_place.h"
 #include "desktop/shell/disk_worker.h"
@@ -13,7 +14,6 @@
 #include "desktop/slow_disk.h"
 #include "desktop/team/team_window.h"
 #include "desktop/tools.h"
-#include "desktop/path_text.h"
 
 #include <gmock/gmock.h>
 
