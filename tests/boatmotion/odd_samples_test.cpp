@@ -16,7 +16,7 @@ using testing::HasSubstr;
 
 constexpr MotionProfile Profile{.mount = Mount::TopToBow};
 
-std::string refusal(const bmrawdata_v5& session, const MotionProfile& profile = Profile) {
+std::string refusalOf(const bmrawdata_v5& session, const MotionProfile& profile = Profile) {
     try {
         (void)analyseMotion(session, profile);
         return {};
@@ -62,27 +62,27 @@ void expectFinite(const MotionAnalysis& analysis) {
 } // namespace
 
 TEST(OddSamples, TooFewAreRefused) {
-    EXPECT_THAT(refusal({}), HasSubstr("0 can be used, 100 are needed"));
+    EXPECT_THAT(refusalOf({}), HasSubstr("0 can be used, 100 are needed"));
     bmrawdata_v5 session = handMade(10, steadyPaddling);
     session.boatmotion.resize(1);
-    EXPECT_THAT(refusal(session), HasSubstr("too few"));
+    EXPECT_THAT(refusalOf(session), HasSubstr("too few"));
     session = handMade(0.99, steadyPaddling);
-    EXPECT_THAT(refusal(session), HasSubstr("99 can be used"));
+    EXPECT_THAT(refusalOf(session), HasSubstr("99 can be used"));
     session = handMade(1.2, steadyPaddling);
-    EXPECT_EQ(refusal(session), "");
+    EXPECT_EQ(refusalOf(session), "");
     // Stamps that tell no time at all.
     for (boatmotionrawdata_v5& sample : session.boatmotion)
         sample.timestamp = 5;
-    EXPECT_THAT(refusal(session), HasSubstr("0 can be used"));
+    EXPECT_THAT(refusalOf(session), HasSubstr("0 can be used"));
 }
 
 TEST(OddSamples, ProfilesWithoutSenseAreRefused) {
     const bmrawdata_v5 session = handMade(5, steadyPaddling);
     const double none = std::numeric_limits<double>::quiet_NaN();
-    EXPECT_THAT(refusal(session, {.mass = 0}), HasSubstr("mass"));
-    EXPECT_THAT(refusal(session, {.mass = none}), HasSubstr("mass"));
-    EXPECT_THAT(refusal(session, {.drag = -1}), HasSubstr("drag"));
-    EXPECT_THAT(refusal(session, {.leastTurnPeak = none}), HasSubstr("turn"));
+    EXPECT_THAT(refusalOf(session, {.mass = 0}), HasSubstr("mass"));
+    EXPECT_THAT(refusalOf(session, {.mass = none}), HasSubstr("mass"));
+    EXPECT_THAT(refusalOf(session, {.drag = -1}), HasSubstr("drag"));
+    EXPECT_THAT(refusalOf(session, {.leastTurnPeak = none}), HasSubstr("turn"));
 }
 
 TEST_P(Spoiled, StaysSound) {
