@@ -61,6 +61,8 @@ void FilmStage::makeLabels(const Parts& parts) {
 
 void FilmStage::makeLayout() {
     auto* row = new QHBoxLayout;
+    row->setContentsMargins(0, 0, theme::SmallSpacing, 0);
+    row->setSpacing(theme::Spacing);
     row->addWidget(m_health, 1);
     if (m_typing)
         row->addWidget(m_typing, 0, Qt::AlignRight | Qt::AlignTop);

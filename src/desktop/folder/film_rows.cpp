@@ -54,8 +54,9 @@ QIcon unseenLook() {
     return empty;
 }
 
-Cell filmNameCell(const FilmRow& row) {
-    Cell cell{fileNameOf(row.film)};
+/// A film whose name tells nobody is known by its file's.
+Cell crewCell(const FilmRow& row) {
+    Cell cell{titleOf(row.film)};
     cell.badge = row.look.isNull() ? unseenLook() : row.look;
     if (!row.fault.isEmpty()) {
         cell.look = Cell::Look::Warning;
@@ -144,15 +145,16 @@ ColumnModel<FilmRow, QString>::Columns filmColumns() {
     length.kind = ColumnKind::Number;
     return {
         std::move(watched),
-        filmColumn(filmsText("Film"), filmNameCell),
-        filmColumn(filmsText("Name"), [](const FilmRow& row) { return Cell{crewOf(row.film)}; }),
+        filmColumn(filmsText("Name"), crewCell),
         std::move(bib),
         filmColumn(
             filmsText("Category"),
             [text](const FilmRow& row) { return Cell{text(row.film, &ListedFilm::category)}; }),
         filmColumn(filmsText("Phase"),
                    [text](const FilmRow& row) { return Cell{text(row.film, &ListedFilm::phase)}; }),
-        std::move(length)};
+        std::move(length),
+        filmColumn(filmsText("Film"),
+                   [](const FilmRow& row) { return Cell{fileNameOf(row.film)}; })};
 }
 
 ColumnModel<FilmTagRow, QString>::Columns tagColumns() {
