@@ -20,7 +20,7 @@ using testing::SizeIs;
 constexpr double RunStart = 20;  // seconds of the video, and of the recording but for the drift
 constexpr double Drift = 0.0006; // of the recorder's clock
 
-athletedata031 runOf(const std::vector<double>& times) {
+athletedata031 timedRun(const std::vector<double>& times) {
     athletedata031 run;
     run.names = {"A"};
     double at = RunStart;
@@ -54,7 +54,7 @@ TEST(RunMotions, PlaceSimulatedStrokesOnTheSections) {
     for (int i = 0; i < 150; ++i)
         session.heart.push_back(
             {{session.boatmotion.front().timestamp + simulation.clockOffset + i}, 100.0 + i});
-    athletedata031 run = runOf({30, 25.5, 28.25, 22});
+    athletedata031 run = timedRun({30, 25.5, 28.25, 22});
     run.cat = "K1W";
     const ClockFit fit = fitOf(session);
     const auto span = runSpan(run);
@@ -103,7 +103,7 @@ TEST(RunMotions, PlaceSimulatedStrokesOnTheSections) {
 /// A stroke at the very start of the run is there: the margin gives the filters a lead.
 TEST(RunMotions, StrokesLieWhereTheVideoShowsThem) {
     bmrawdata_v5 session = handMade(90, steadyPaddling);
-    athletedata031 run = runOf({20, 20});
+    athletedata031 run = timedRun({20, 20});
     attach(run, partOf(session, fitOf(session), RunStart, RunStart + 40));
     const RunMotion motion = runMotion(run, infodata031{});
     ASSERT_EQ(motion.reason, "");
@@ -122,7 +122,7 @@ TEST(RunMotions, StrokesLieWhereTheVideoShowsThem) {
 
 TEST(RunMotions, UntimedSectionsAreNotKnown) {
     bmrawdata_v5 session = handMade(90, steadyPaddling);
-    athletedata031 run = runOf({20, 0, 20, 0});
+    athletedata031 run = timedRun({20, 0, 20, 0});
     const auto span = runSpan(run);
     ASSERT_TRUE(span);
     attach(run, partOf(session, fitOf(session), span->start, span->end));
@@ -143,7 +143,7 @@ TEST(RunMotions, SectionsThatWereNotRecordedHaveNoCount) {
         const double moment = sample.timestamp - begin;
         return moment < RunStart + 30 || (moment > RunStart + 65 && moment < RunStart + 69);
     });
-    athletedata031 run = runOf({20, 20, 20, 20});
+    athletedata031 run = timedRun({20, 20, 20, 20});
     attach(run, partOf(session, {{0, begin}, 1}, RunStart, RunStart + 80));
     const RunMotion motion = runMotion(run, infodata031{});
     ASSERT_EQ(motion.reason, "");
@@ -168,7 +168,7 @@ TEST(RunMotions, OfATrackAloneTellSpeedAndHeartRate) {
     session.boatmotion.clear();
     for (int i = 0; i < 90; i += 5)
         session.heart.push_back({{date + i}, 150});
-    athletedata031 run = runOf({20, 20});
+    athletedata031 run = timedRun({20, 20});
     attach(run, partOf(session, {{0, date}, 1}, RunStart, RunStart + 40));
     const RunMotion motion = runMotion(run, infodata031{});
     EXPECT_THAT(motion.reason, HasSubstr("No motion of the boat"));
@@ -178,15 +178,15 @@ TEST(RunMotions, OfATrackAloneTellSpeedAndHeartRate) {
 }
 
 TEST(RunMotions, SayWhyNothingIsKnown) {
-    EXPECT_THAT(runMotion(runOf({20, 20}), infodata031{}).reason, HasSubstr("No motion"));
-    athletedata031 untimed = runOf({0, 0});
+    EXPECT_THAT(runMotion(timedRun({20, 20}), infodata031{}).reason, HasSubstr("No motion"));
+    athletedata031 untimed = timedRun({0, 0});
     untimed.bm = handMade(40, steadyPaddling).boatmotion;
     EXPECT_THAT(runMotion(untimed, infodata031{}).reason, HasSubstr("no times"));
     EXPECT_FALSE(runSpan(untimed));
-    athletedata031 other = runOf({20, 20});
+    athletedata031 other = timedRun({20, 20});
     other.bm = handMade(80, steadyPaddling).boatmotion;
     EXPECT_THAT(runMotion(other, infodata031{}).reason, HasSubstr("not as long as the run"));
-    athletedata031 few = runOf({20, 20});
+    athletedata031 few = timedRun({20, 20});
     few.bm = {{0, {}, {}, {}, {}}, {40, {}, {}, {}, {}}};
     EXPECT_THAT(runMotion(few, infodata031{}).reason, HasSubstr("too few"));
 }
@@ -198,7 +198,7 @@ TEST(RunMotions, BearAnyValues) {
                           -1e300, 1e-300,       40,
                           1e9,    std::nan(""), std::numeric_limits<double>::infinity()};
     for (int round = 0; round < 200; ++round) {
-        athletedata031 run = runOf({20, 20});
+        athletedata031 run = timedRun({20, 20});
         attach(run, partOf(handMade(60, steadyPaddling), {{0, 1000}, 1}, 10, 50));
         run.hr = {{{1}, 100}, {{41}, 100}};
         const auto spoil = [&](double& value) { value = odd[dice() % std::size(odd)]; };

@@ -18,9 +18,6 @@ using testing::AllOf;
 using testing::HasSubstr;
 using testing::SizeIs;
 
-constexpr const char* Incompatible =
-    "The imported file is not compatible. Be sure you have the latest KV version.";
-
 std::string race() {
     splittakerdata031 document;
     document.info.session = "Race";

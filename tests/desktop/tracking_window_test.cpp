@@ -1,5 +1,6 @@
 #include "desktop/tracking/tracking_window.h"
 
+#include "common/json_encode.h"
 #include "common/text_file.h"
 #include "desktop/film/film_deck.h"
 #include "desktop/race_fixture.h"
@@ -113,6 +114,17 @@ TEST_F(TrackingWindowTest, KeepsThePathBesideTheFilmAndOpensItWithTheFilm) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return m_desktop.windowsOf<TrackingWindow>().isEmpty(); },
                                 TrackingWait));
     EXPECT_EQ(openFilm().document().track(), track);
+}
+
+TEST_F(TrackingWindowTest, FindsTheFilmThatWasRenamedWithItsPath) {
+    track001 record;
+    record.film = "run.mp4";
+    const fs::path path = m_folder.add("Ann Heats.track.json", encode(record));
+    fs::rename(m_folder.path() / "run.mp4", m_folder.path() / "Ann Heats.mp4");
+    EXPECT_TRUE(
+        m_desktop.openIn(*desktop::toolOfKind("tracking"), QString::fromStdString(path.string())));
+    const TrackingWindow& window = *m_desktop.windowsOf<TrackingWindow>().back();
+    EXPECT_TRUE(isAt(window, 0));
 }
 
 TEST_F(TrackingWindowTest, MeasuresOnTheWaterFromPointsThatAreClicked) {

@@ -26,7 +26,7 @@ athletedata031 paddled(const char* name, double second, std::vector<std::int64_t
 }
 
 /// Four gates in two sections, the third one upstream.
-FactStore factsOf(std::vector<athletedata031> runs) {
+FactStore factsOfRuns(std::vector<athletedata031> runs) {
     splittakerdata031 document;
     document.info.session = "Race";
     document.info.gates = 4;
@@ -44,7 +44,7 @@ FactStore touchedAtThree(std::size_t touched) {
     std::vector<athletedata031> runs;
     for (std::size_t i = 0; i < 40; ++i)
         runs.push_back(paddled("Ada Brook", 41, {0, 0, i < touched ? 2 : 0, 0}));
-    return factsOf(std::move(runs));
+    return factsOfRuns(std::move(runs));
 }
 
 PenaltyCost costOf(std::int64_t seconds, int rank, int without) {
@@ -70,8 +70,8 @@ TEST(PenaltyWords, NameWhatStandsOutAndNothingElse) {
     EXPECT_EQ(ratesOf(touchedAtThree(30), RateBy::Crew),
               "Only one crew: there is nothing to compare it with.");
     const FactStore even =
-        factsOf({paddled("Ada Brook", 41, {2, 0, 2, 0}), paddled("Bea Croft", 42, {0, 2, 0, 2}),
-                 paddled("Cy Lock", 43, {0, 0, 0, 0})});
+        factsOfRuns({paddled("Ada Brook", 41, {2, 0, 2, 0}), paddled("Bea Croft", 42, {0, 2, 0, 2}),
+                     paddled("Cy Lock", 43, {0, 0, 0, 0})});
     EXPECT_THAT(ratesOf(even, RateBy::Gate), StartsWith("No gate stands out: the highest, gate "));
     const auto courses = coursesOfRates(even, penaltyRates(even, RateBy::Gate));
     ASSERT_EQ(courses.size(), 1U);
@@ -119,7 +119,7 @@ TEST(PenaltyChoices, ShowACrewAndAPhaseAmongTheOthers) {
         runs.push_back(
             paddled(i == 0 ? "Ada Brook" : "Bea Croft", 41 + i, {0, i == 0 ? 2 : 0, 0, 0}));
     runs.push_back(paddled("Ada Brook", 41, {2, 0, 0, 0}, "Semifinal"));
-    const FactStore facts = factsOf(std::move(runs));
+    const FactStore facts = factsOfRuns(std::move(runs));
     const std::string crew(facts.text(facts.runs()[0].crewKey));
     const std::string phase(facts.text(facts.runs()[0].phaseKey));
 

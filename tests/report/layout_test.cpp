@@ -15,7 +15,7 @@ using report::ListPart;
 
 constexpr FlowSizes Sizes{30, 10, 12, 400, 600};
 
-athletedata031 named(const char* name, const char* phase, std::vector<double> times) {
+athletedata031 runIn(const char* name, const char* phase, std::vector<double> times) {
     athletedata031 run = runOf(std::move(times));
     run.names = {name};
     run.phase = phase;
@@ -61,8 +61,8 @@ TEST(ListFlow, CutsNoListThatFitsAndEvensOutTheColumns) {
 }
 
 TEST(ReportTable, GroupsRunsAndCarriesTheColoursOfTheTable) {
-    const RaceSet set = makeRaceSet(raceOf(1, {named("A", "Heats", {10}), named("B", "Final", {11}),
-                                               named("C", "Heats", {12}), named("D", "", {0})}),
+    const RaceSet set = makeRaceSet(raceOf(1, {runIn("A", "Heats", {10}), runIn("B", "Final", {11}),
+                                               runIn("C", "Heats", {12}), runIn("D", "", {0})}),
                                     "a.kvx");
     TableSettings settings;
     const report::ReportTable race =

@@ -42,7 +42,7 @@ std::string labelOf(const Seasons& seasons) {
     return counted ? counted->label : "none";
 }
 
-mtPhaseStruct runOf(std::vector<double> splits, std::vector<double> pers, std::int64_t pen = 0) {
+mtPhaseStruct teamRun(std::vector<double> splits, std::vector<double> pers, std::int64_t pen = 0) {
     return {"Final", 1, 0, pen, std::move(splits), std::move(pers), {}};
 }
 
@@ -117,7 +117,8 @@ TEST(Categorization, BandsEndAtThreeSixNineAndFifteen) {
 
 TEST(PhaseAverages, WeighEachSplitOverTheRunsThatHaveIt) {
     std::vector<mtRaceStruct> races(1);
-    races[0].phases = {runOf({11, 20}, {10, 0}, 2), runOf({10, 30}, {0, 50}), runOf({}, {}, 52)};
+    races[0].phases = {teamRun({11, 20}, {10, 0}, 2), teamRun({10, 30}, {0, 50}),
+                       teamRun({}, {}, 52)};
     races[0].phases[2].phase = "Heats 1";
     const auto averages = phaseAverages(races);
     ASSERT_THAT(averages, SizeIs(2));
@@ -134,7 +135,7 @@ TEST(PhaseAverages, WeighEachSplitOverTheRunsThatHaveIt) {
 TEST(TeamFile, ReadsWhatItWrote) {
     const TempFolder folder;
     myTeamStruct athlete = athleteWith({{{"WCH", 1}}, {{"ICF", 2}}});
-    athlete.cats[0].seasons[0].races[0].phases = {runOf({10}, {1.5}, 2)};
+    athlete.cats[0].seasons[0].races[0].phases = {teamRun({10}, {1.5}, 2)};
     recomputeAverages(athlete);
     saveTeamFile({{athlete}}, folder.path() / "a.kvteam");
     const myTeamToSaveStruct team = readTeamFile(folder.path() / "a.kvteam");

@@ -17,14 +17,14 @@ extern "C" {
 namespace kavela {
 namespace {
 
-struct Case {
+struct ExactFilm {
     const char* clip;
     int frames;
     int firstNumber = 0; ///< in the blocks of frame 0
     bool isStamped = true;
 };
 
-class ExactFrames : public ::testing::TestWithParam<Case> {
+class ExactFrames : public ::testing::TestWithParam<ExactFilm> {
 protected:
     void SetUp() override {
         m_index = readVideoIndex(clip(GetParam().clip));
@@ -104,15 +104,17 @@ TEST_P(ExactFrames, StampsOfFramesLeadBackToThem) {
 
 INSTANTIATE_TEST_SUITE_P(
     Clips, ExactFrames,
-    ::testing::Values(Case{"h264_30.mp4", 120}, Case{"h264_50.mp4", 200}, Case{"h264_60.mov", 290},
-                      Case{"h264_120.mp4", 400}, Case{"h264_240.mp4", 800},
-                      Case{"variable.mp4", 200}, Case{"variable.mkv", 200},
-                      Case{"short_groups.mp4", 150}, Case{"open_h264.mkv", 160},
-                      Case{"intra.mov", 100}, Case{"open_hevc.mp4", 240}, Case{"rotated.mp4", 120},
-                      Case{"offset.mkv", 120}, Case{"stream.ts", 200},
-                      Case{"edit_list.mp4", 135, 65}, Case{"numbers.avi", 100},
-                      Case{"numbers_b.avi", 100, 0, false}, Case{"h264.avi", 150, 0, false},
-                      Case{"raw.h264", 150, 0, false}, Case{"interlaced.ts", 100}),
+    ::testing::Values(ExactFilm{"h264_30.mp4", 120}, ExactFilm{"h264_50.mp4", 200},
+                      ExactFilm{"h264_60.mov", 290}, ExactFilm{"h264_120.mp4", 400},
+                      ExactFilm{"h264_240.mp4", 800}, ExactFilm{"variable.mp4", 200},
+                      ExactFilm{"variable.mkv", 200}, ExactFilm{"short_groups.mp4", 150},
+                      ExactFilm{"open_h264.mkv", 160}, ExactFilm{"intra.mov", 100},
+                      ExactFilm{"open_hevc.mp4", 240}, ExactFilm{"rotated.mp4", 120},
+                      ExactFilm{"offset.mkv", 120}, ExactFilm{"stream.ts", 200},
+                      ExactFilm{"edit_list.mp4", 135, 65}, ExactFilm{"numbers.avi", 100},
+                      ExactFilm{"numbers_b.avi", 100, 0, false},
+                      ExactFilm{"h264.avi", 150, 0, false}, ExactFilm{"raw.h264", 150, 0, false},
+                      ExactFilm{"interlaced.ts", 100}),
     [](const auto& tested) {
         std::string name = tested.param.clip;
         std::ranges::replace(name, '.', '_');

@@ -4,6 +4,7 @@
 #include "common/json_decode.h"
 #include "common/json_encode.h"
 #include "desktop/shell/workspace.h"
+#include "splittaking/video_names.h"
 
 #include <QFileInfo>
 
@@ -11,12 +12,31 @@
 
 namespace kavela::desktop {
 
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The film that a path is of. Where it got another name with its path, it is still beside it.
+fs::path filmOf(const track001& record, const fs::path& file) {
+    const fs::path film = (file.parent_path() / record.film).lexically_normal();
+    std::error_code fault;
+    if (fs::exists(film, fault))
+        return film;
+    for (const auto& entry : fs::directory_iterator(file.parent_path(), fault))
+        if (isVideoFile(entry.path().filename().string()) &&
+            trackPathOf(entry.path()).filename() == file.filename())
+            return entry.path();
+    return film;
+}
+
+} // namespace
+
 bool TrackDocument::open(const QString& path, QWidget* over) {
     std::string reason;
     try {
         const std::filesystem::path file = QFileInfo(path).absoluteFilePath().toStdString();
         track001 record = readTrack(file);
-        record.film = (file.parent_path() / record.film).lexically_normal().string();
+        record.film = filmOf(record, file).string();
         start(std::move(record), path, over);
         return true;
     } catch (const FileError& error) {

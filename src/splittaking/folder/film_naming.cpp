@@ -85,9 +85,22 @@ NamedFilm namedBy(std::string_view pattern, const ListedFilm& film) {
         pattern.remove_prefix(close + 1);
     }
     named.stem = asFileName(named.stem);
+    if (!named.stem.empty() && cameraOf(named.stem).empty())
+        named.stem += cameraOf(film.path.filename().string());
     if (named.stem.empty() && named.fault.empty())
         named.fault = say("nothing would be left of the name");
     return named;
+}
+
+/// Which camera filmed, as the name ends with it: " cam 2". A pattern has no word for it, and the
+/// films of one run are told apart by nothing else.
+std::string cameraOf(std::string_view fileName) {
+    constexpr std::size_t MostWords = 3;
+    const auto words = wordsOf(plainFilmName(fileName));
+    for (std::size_t count = std::min(MostWords, words.size()); count > 0; --count)
+        if (std::string camera = joinedWords(words, words.size() - count, count); isCamera(camera))
+            return ' ' + camera;
+    return {};
 }
 
 /// The first name that is free: "Ann Heats.mp4", "Ann Heats 2.mp4".

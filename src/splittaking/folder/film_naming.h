@@ -26,7 +26,8 @@ struct PlannedName {
 
 /// Names films of one folder by a pattern that has no fault; the extension stays. `taken` are all
 /// names of the folder: a name is never given twice, whatever the case of its letters, nor one that
-/// stands there now; the next one gets " 2". A film that lacks what the pattern asks for stays.
+/// stands there now; the next one gets " 2". What tells at its end which camera filmed stays there.
+/// A film that lacks what the pattern asks for stays.
 [[nodiscard]] std::vector<PlannedName> planNames(std::span<const ListedFilm> films,
                                                  std::string_view pattern,
                                                  std::span<const std::string> taken);

@@ -36,7 +36,7 @@ BOOST_DESCRIBE_STRUCT(filmrenaming001, (), (films))
 using NewNames = std::map<std::string, std::string>;
 
 /// What other programs and ours keep beside a film under its name.
-constexpr std::array BesideFilms{".track.json", ".srt"};
+constexpr std::array BesideFilms{".slit.json", ".track.json", ".srt"};
 
 fs::path noteOf(const fs::path& folder) {
     return folder / ".kavela-renaming.json";

@@ -90,6 +90,16 @@ TEST(FilmNaming, NeverGivesANameTwiceOrOneThatIsTaken) {
     EXPECT_EQ(filmFacts(planned[0].to, "{name} {phase}").phase, "Semifinal") << "reads back";
 }
 
+TEST(FilmNaming, LeavesAtTheEndWhichCameraFilmed) {
+    const std::vector<ListedFilm> films{semifinalOf("ann semi Cam 2.MOV", {"Ann Lee"}),
+                                        semifinalOf("ann semi.MOV", {"Ann Lee"}),
+                                        semifinalOf("Ann Lee Semifinal GoPro.MOV", {"Ann Lee"})};
+    const auto planned = planNames(films, "{name} {phase}", {});
+    EXPECT_EQ(planned[0].to, "Ann Lee Semifinal Cam 2.MOV");
+    EXPECT_EQ(planned[1].to, "Ann Lee Semifinal.MOV");
+    EXPECT_FALSE(planned[2].isOther());
+}
+
 class FilmFolderTest : public ::testing::Test {
 protected:
     FilmFolderTest() {
@@ -153,7 +163,12 @@ TEST_F(FilmFolderTest, KnowsWhatSplitFileAndTagsTell) {
 }
 
 TEST_F(FilmFolderTest, RenamesWithAllThatKnowsTheFilmsAndBack) {
+    for (const char* const beside : {"a.slit.json", "a.track.json", "a.srt"})
+        (void)m_folder.add(beside, beside);
     renameFilms(m_folder.path(), m_names);
+    EXPECT_EQ(test::contentOf(path("Ann 1.slit.json")), "a.slit.json");
+    EXPECT_EQ(test::contentOf(path("Ann 1.track.json")), "a.track.json");
+    EXPECT_EQ(test::contentOf(path("Ann 1.srt")), "a.srt");
     EXPECT_THAT(films(), ElementsAre("Ann 1.mp4", "Ann 2.mp4", "c.mp4"));
     EXPECT_THAT(run().videoname, ElementsAre("Ann 1.mp4", "Ann 2.mp4"));
     EXPECT_EQ(readFilmTags(m_folder.path()).films.at(0).film, "Ann 1.mp4");
@@ -166,6 +181,7 @@ TEST_F(FilmFolderTest, RenamesWithAllThatKnowsTheFilmsAndBack) {
     EXPECT_THAT(films(), ElementsAre("a.mp4", "b.mp4", "c.mp4"));
     EXPECT_THAT(run().videoname, ElementsAre("a.mp4", "b.mp4"));
     EXPECT_EQ(test::contentOf(path("a.mp4")), "a.mp4") << "each its own again";
+    EXPECT_TRUE(fs::exists(path("a.slit.json")));
 }
 
 TEST_F(FilmFolderTest, RefusesNamesThatAreTakenAndTouchesNothing) {
