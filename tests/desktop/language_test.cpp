@@ -196,10 +196,10 @@ TEST_F(LanguageTest, ThatIsOfferedHasNoKeyTwiceAndFitsTheScreen) {
     const auto& tools = desktop::toolKinds(); // said once, in English here
     const desktop::Autosave kept(QString::fromStdString((m_folder.path() / "kept").string()));
     for (const Language& language : offeredLanguages()) {
-        const SpokenLanguage spoken(desktop::pathText(language.code), false);
+        const SpokenLanguage spoken(desktop::qtText(language.code), false);
         for (const desktop::ToolKind& tool : tools) {
             const std::unique_ptr<desktop::ToolWindow> window(tool.make(m_workspace, kept));
-            const QString where = desktop::pathText(language.code) + ' ' + tool.kind;
+            const QString where = desktop::qtText(language.code) + ' ' + tool.kind;
             EXPECT_EQ(doubledKeys(window->menuBar()->actions()).join('\n'), "")
                 << where.toStdString();
             EXPECT_LE(window->minimumSizeHint().width(), 1280) << where.toStdString();

@@ -4,6 +4,7 @@
 #include "common/safe_file.h"
 #include "common/temp_folder.h"
 #include "desktop/film/film_deck.h"
+#include "desktop/patience.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/gate_strip.h"
@@ -35,8 +36,6 @@ using desktop::TakingWindow;
 using desktop::Workspace;
 using ::testing::ElementsAre;
 using ::testing::SizeIs;
-
-inline constexpr int Patience = 20000; // milliseconds
 
 /// Two runs whose splits are taken and that have no notes yet.
 inline splittakerdata031 timedRace() {
