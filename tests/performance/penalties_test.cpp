@@ -49,7 +49,7 @@ TEST(PenaltyPassages, EndWhereAnUnfinishedRunWasLastTimedOrPenalized) {
     allresultsdata030 line;
     line.name = "LOCK Cy DSQ";
     document.info.resultsCSVdata = {line};
-    const FactStore facts = factsOf(document);
+    const FactStore facts = factsOfCup(document);
     EXPECT_THAT(gatesPassed(facts, 0), ElementsAre(1, 2, 3, 4));
     EXPECT_THAT(gatesPassed(facts, 1), ElementsAre(1, 2));
     EXPECT_THAT(gatesPassed(facts, 2), ElementsAre(1, 2, 4));
@@ -63,8 +63,8 @@ TEST(PenaltyPassages, EndWhereAnUnfinishedRunWasLastTimedOrPenalized) {
 
 TEST(PenaltyPassages, TellTouchesFromMissedGatesAndNeverAddThem) {
     const FactStore facts =
-        factsOf(race({paddled({40, 41}, {2, 50, 49, -2}), paddled({40, 41}, {2, 0, 52, 0}),
-                      paddled({40, 41}, {4, 50}), paddled({40, 41}, {})}));
+        factsOfCup(race({paddled({40, 41}, {2, 50, 49, -2}), paddled({40, 41}, {2, 0, 52, 0}),
+                         paddled({40, 41}, {4, 50}), paddled({40, 41}, {})}));
     const PenaltyRates rates = penaltyRates(facts, RateBy::Gate);
     EXPECT_EQ(rates.runs, 2U);
     EXPECT_EQ(rates.leftOut, 2U) << "known by section, and not at all";
@@ -81,13 +81,13 @@ TEST(PenaltyPassages, TellTouchesFromMissedGatesAndNeverAddThem) {
 
 TEST(PenaltyRates, HoldAtNothingOfManyAndAtNothingOfNothing) {
     std::vector<athletedata031> runs(28, paddled({40, 41}, {0, 0, 0, 0}));
-    const FactStore clean = factsOf(race(runs));
+    const FactStore clean = factsOfCup(race(runs));
     const RateRow row = rowOf(penaltyRates(clean, RateBy::Gate), "2");
     EXPECT_EQ(row.touches->rate, 0);
     EXPECT_NEAR(row.touches->interval.low, 0, Bound);
     EXPECT_NEAR(row.touches->interval.high, 0.08811254092083348, Bound);
 
-    const FactStore early = factsOf(race({paddled({40, 0}, {0, 2, 0, 0})}));
+    const FactStore early = factsOfCup(race({paddled({40, 0}, {0, 2, 0, 0})}));
     const PenaltyRates rates = penaltyRates(early, RateBy::Gate);
     EXPECT_EQ(rates.clean, std::nullopt);
     ASSERT_EQ(rates.rows.size(), 4U) << "every gate of the course has a row";
@@ -96,7 +96,7 @@ TEST(PenaltyRates, HoldAtNothingOfManyAndAtNothingOfNothing) {
     EXPECT_EQ(rowOf(rates, "1").touches->of, 1U);
 
     const PenaltyRates none =
-        penaltyRates(factsOf(race({paddled({40, 41}, {2, 0})})), RateBy::Crew);
+        penaltyRates(factsOfCup(race({paddled({40, 41}, {2, 0})})), RateBy::Crew);
     EXPECT_THAT(none.rows, IsEmpty());
     EXPECT_EQ(none.leftOut, 1U);
 }
@@ -107,7 +107,7 @@ TEST(PenaltyRates, AreDrawnTogetherByAFixedWeightBelowThreeRows) {
     document.info.gates = 2;
     document.info.upGates = {1};
     document.athletes[2].sectioninfo.pens = {2, 0};
-    const PenaltyRates rates = penaltyRates(factsOf(document), RateBy::Type);
+    const PenaltyRates rates = penaltyRates(factsOfCup(document), RateBy::Type);
     EXPECT_NEAR(rates.common.mean, 1.0 / 6, 1e-12);
     EXPECT_NEAR(rates.common.strength, 20, 1e-9);
     ASSERT_EQ(rates.rows.size(), 2U);
@@ -124,7 +124,7 @@ TEST(PenaltyRates, StandOutWhereTheyAreSurelyAboveTheRest) {
     document.info.gates = 3;
     for (std::size_t i = 0; i < 6; ++i)
         document.athletes[i].sectioninfo.pens = {0, i == 0 ? 2 : 0, 2};
-    const PenaltyRates rates = penaltyRates(factsOf(document), RateBy::Gate);
+    const PenaltyRates rates = penaltyRates(factsOfCup(document), RateBy::Gate);
     EXPECT_EQ(rates.rows[0].key, "3");
     EXPECT_NEAR(rates.rows[0].shrunk.rate, 0.5674486803519062, 1e-9);
     EXPECT_NEAR(rates.rows[0].shrunk.above, 0.9886910885094585, 1e-9);
@@ -141,7 +141,7 @@ TEST(PenaltyRates, AreGroupedByWhatIsTheSameHoweverItIsWritten) {
     document.athletes[1].cat = "WK1";
     document.info.date = referenceDate(std::chrono::year(2026) / 5 / 31, 86399);
     document.info.definedsections = {{1, 2}, {3}};
-    FactStore facts = factsOf(document);
+    FactStore facts = factsOfCup(document);
     EXPECT_THAT(keysOf(facts, RateBy::Gate), ElementsAre("1", "2", "3", "4"));
     EXPECT_THAT(keysOf(facts, RateBy::Type), ElementsAre("down", "up"));
     EXPECT_THAT(keysOf(facts, RateBy::Tenth), ElementsAre("3", "5", "8", "10"));
@@ -168,7 +168,7 @@ TEST(PenaltyCharts, DrawEveryGateOfACourseInItsOrder) {
     splittakerdata031 document = race(std::vector(10, paddled({40, 41}, {0, 0, 0, 0})));
     for (std::size_t i = 0; i < 6; ++i)
         document.athletes[i].sectioninfo.pens = {0, 0, 2, i == 0 ? 2 : 0};
-    const FactStore facts = factsOf(document);
+    const FactStore facts = factsOfCup(document);
     const PenaltyRates rates = penaltyRates(facts, RateBy::Gate);
     const std::vector<CourseOfRates> courses = coursesOfRates(facts, rates);
     ASSERT_EQ(courses.size(), 1U);

@@ -22,7 +22,7 @@ TEST(PenaltyCosts, CountThePlacesWithoutThePenaltyTiesShared) {
               paddled({40, 40}, {2, 2, 0, 0}), paddled({30, 30}, {0, 0, 0, 50}),
               paddled({40, 0}, {2, 0, 0, 0}), paddled({40, 40}, {4, 0})});
     document.athletes[7].phase = "Final"; // by section, and alone
-    const FactStore facts = factsOf(document);
+    const FactStore facts = factsOfCup(document);
     const std::vector<PenaltyCost> costs = penaltyCosts(facts);
     ASSERT_EQ(costs.size(), 3U) << "neither an unfinished run nor one known by section";
     // Totals: 80, 81, 82, 82, 84, 110. Without one touch the fifth ties with two thirds.
@@ -42,7 +42,7 @@ TEST(PenaltyCosts, CountThePlacesWithoutThePenaltyTiesShared) {
 }
 
 TEST(PenaltyCosts, CompareToTheHundredth) {
-    const FactStore facts = factsOf(
+    const FactStore facts = factsOfCup(
         race({paddled({40.1, 48.82}, {0, 0, 0, 0}), paddled({40.1, 48.8200000001}, {2, 0, 0, 0})}));
     const std::vector<PenaltyCost> costs = penaltyCosts(facts);
     ASSERT_EQ(costs.size(), 1U);
@@ -56,13 +56,13 @@ TEST(TradeOff, DividesGroupsOfSixAndNoneOfFive) {
         runs.push_back(paddled({40, time}, {0, 0, 0, 0}));
     runs[1].sectioninfo.pens = {2, 2, 50, 0};
     runs[1].sectioninfo.totalpen = 54;
-    EXPECT_THAT(tradeOff(factsOf(race(runs))).rows, IsEmpty());
-    EXPECT_EQ(tradeOff(factsOf(race(runs))).breakEven, std::nullopt);
+    EXPECT_THAT(tradeOff(factsOfCup(race(runs))).rows, IsEmpty());
+    EXPECT_EQ(tradeOff(factsOfCup(race(runs))).breakEven, std::nullopt);
 
     runs.push_back(paddled({40, 0}, {0, 0, 0, 0})); // unfinished: still five
-    EXPECT_THAT(tradeOff(factsOf(race(runs))).rows, IsEmpty());
+    EXPECT_THAT(tradeOff(factsOfCup(race(runs))).rows, IsEmpty());
     runs.push_back(paddled({40, 46}, {0, 0, 0, 0}));
-    const TradeOff divided = tradeOff(factsOf(race(runs)));
+    const TradeOff divided = tradeOff(factsOfCup(race(runs)));
     ASSERT_EQ(divided.rows.size(), 3U);
     // Paddling 80, 82 | 84, 86 | 88, 90 with the median 85; totals have the median 87.
     EXPECT_EQ(divided.rows[0].third, 1);
@@ -90,7 +90,7 @@ TEST(DetailShares, AreOfThePenaltiesNotedBesideThoseThatAreNot) {
     details.penkind = {0};
     details.polekind = {1, 1};
     document.athletes[0].sectioninfo.pendetails = {details};
-    const FactStore facts = factsOf(document);
+    const FactStore facts = factsOfCup(document);
     const DetailShares shares = detailShares(facts);
     EXPECT_EQ(shares.noted, 2U);
     const auto of = [&](std::string_view field) {

@@ -43,7 +43,7 @@ inline splittakerdata031 race(std::vector<athletedata031> runs) {
     return document;
 }
 
-inline FactStore factsOf(const splittakerdata031& document) {
+inline FactStore factsOfCup(const splittakerdata031& document) {
     FactStore facts;
     facts.add(document, "cup/a.kvx");
     return facts;

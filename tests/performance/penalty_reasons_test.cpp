@@ -105,8 +105,8 @@ TEST(PenaltyReasons, AreTheValuesOfTheTables) {
 }
 
 TEST(PenaltyReasons, NameThePassagesAndRefuseWhatIsNoNumber) {
-    const FactStore facts = factsOf(race({paddled({40, 41}, {0, 2, 0, 0}, "Ada Brook"),
-                                          paddled({40, 42}, {0, 50, 0, 0}, "Cy Lock")}));
+    const FactStore facts = factsOfCup(race({paddled({40, 41}, {0, 2, 0, 0}, "Ada Brook"),
+                                             paddled({40, 42}, {0, 50, 0, 0}, "Cy Lock")}));
     const auto reason = explainPenalty(facts, "touches/gate/2");
     ASSERT_TRUE(reason);
     EXPECT_EQ(reason->shown, "50.0 %");

@@ -68,6 +68,17 @@ struct NamedFilm {
     std::string fault;
 };
 
+/// Which camera filmed, as the name ends with it: " cam 2". A pattern has no word for it, and the
+/// films of one run are told apart by nothing else.
+std::string cameraOf(std::string_view fileName) {
+    constexpr std::size_t MostWords = 3;
+    const auto words = wordsOf(plainFilmName(fileName));
+    for (std::size_t count = std::min(MostWords, words.size()); count > 0; --count)
+        if (std::string camera = joinedWords(words, words.size() - count, count); isCamera(camera))
+            return ' ' + camera;
+    return {};
+}
+
 NamedFilm namedBy(std::string_view pattern, const ListedFilm& film) {
     NamedFilm named;
     while (!pattern.empty()) {
@@ -90,17 +101,6 @@ NamedFilm namedBy(std::string_view pattern, const ListedFilm& film) {
     if (named.stem.empty() && named.fault.empty())
         named.fault = say("nothing would be left of the name");
     return named;
-}
-
-/// Which camera filmed, as the name ends with it: " cam 2". A pattern has no word for it, and the
-/// films of one run are told apart by nothing else.
-std::string cameraOf(std::string_view fileName) {
-    constexpr std::size_t MostWords = 3;
-    const auto words = wordsOf(plainFilmName(fileName));
-    for (std::size_t count = std::min(MostWords, words.size()); count > 0; --count)
-        if (std::string camera = joinedWords(words, words.size() - count, count); isCamera(camera))
-            return ' ' + camera;
-    return {};
 }
 
 /// The first name that is free: "Ann Heats.mp4", "Ann Heats 2.mp4".
