@@ -24,7 +24,7 @@ CMTime at(double seconds) {
     return {static_cast<std::int64_t>(seconds * 600), 600, 1, 0};
 }
 
-athletedata031 runOf(std::string name, std::string category, std::vector<double> times) {
+athletedata031 sheetRun(std::string name, std::string category, std::vector<double> times) {
     athletedata031 run;
     run.names = {std::move(name)};
     run.cat = std::move(category);
@@ -43,9 +43,9 @@ splittakerdata031 smallRace() {
     race.info.totalsplits = 3;
     race.info.splitTitles = {"Weir", "Bridge", "Pool"};
     race.info.definedsections = {{1, 2}, {3, 4}, {5, 6}};
-    race.athletes = {runOf("TŮŇKOVÁ Eliška", "K1W", {30, 21, 40}),
-                     runOf("Other", "K1W", {30.5, 20.25, 41}),
-                     runOf("Faster elsewhere", "K1M", {25, 15, 30})};
+    race.athletes = {sheetRun("TŮŇKOVÁ Eliška", "K1W", {30, 21, 40}),
+                     sheetRun("Other", "K1W", {30.5, 20.25, 41}),
+                     sheetRun("Faster elsewhere", "K1M", {25, 15, 30})};
     race.athletes[0].pos = 7;
     race.athletes[0].sectioninfo.pens = {0, 2, 0, 50, 0, 0};
     race.athletes[0].sectioninfo.totalpen = 52;
