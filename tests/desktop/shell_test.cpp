@@ -1,6 +1,7 @@
 #include "desktop/shell/command_palette.h"
 
 #include "common/temp_folder.h"
+#include "desktop/shell/empty_page.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/key_bindings.h"
 #include "desktop/shell/scheme.h"
@@ -118,6 +119,18 @@ TEST_F(SchemeTest, IsChosenInTheSettingsAtOnceAndKept) {
     qunsetenv("KAVELA_SCHEME");
     QTest::keyClick(choice, Qt::Key_Home);
     EXPECT_EQ(desktop::chosenScheme(m_workspace), desktop::Scheme::System);
+}
+
+TEST(EmptyPage, TakesTheFirstWayByEnter) {
+    int taken = 0;
+    QMainWindow window;
+    window.setCentralWidget(new desktop::EmptyPage(
+        "Drop it here", {}, {{"First", [&] { taken += 1; }}, {"Second", [&] { taken += 10; }}}));
+    window.show();
+    QApplication::setActiveWindow(&window);
+    ASSERT_TRUE(window.focusWidget());
+    QTest::keyClick(window.focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(taken, 1);
 }
 
 TEST(Keys, AreChangedRememberedAndNeverTakenTwice) {

@@ -24,10 +24,19 @@ EmptyPage::EmptyPage(const QString& title, const QString& text, const std::vecto
     column->addWidget(m_text); // over the whole width: how high it is follows from that
     for (const Way& way : ways) {
         auto* const button = new QPushButton(way.title);
+        button->setAutoDefault(true); // Enter presses it here, too
         connect(button, &QPushButton::clicked, this, way.take);
         column->addWidget(button, 0, Qt::AlignHCenter);
     }
     column->addStretch();
+    setFocusProxy(findChild<QPushButton*>());
+}
+
+/// The first button is where the coach goes on.
+void EmptyPage::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (!window()->focusWidget())
+        setFocus();
 }
 
 void EmptyPage::tell(const QString& text) {

@@ -28,6 +28,9 @@ public:
     /// Another text below the title, such as why there is still nothing.
     void tell(const QString& text);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     QLabel* m_text;
 };
