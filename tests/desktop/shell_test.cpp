@@ -3,6 +3,7 @@
 #include "common/temp_folder.h"
 #include "desktop/shell/empty_page.h"
 #include "desktop/shell/file_names.h"
+#include "desktop/shell/focus_edge.h"
 #include "desktop/shell/key_bindings.h"
 #include "desktop/shell/scheme.h"
 #include "desktop/shell/settings_window.h"
@@ -18,8 +19,10 @@
 #include <QListWidget>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QSplitter>
 #include <QTest>
 
+#include <array>
 #include <optional>
 
 namespace kavela::test {
@@ -131,6 +134,28 @@ TEST(EmptyPage, TakesTheFirstWayByEnter) {
     ASSERT_TRUE(window.focusWidget());
     QTest::keyClick(window.focusWidget(), Qt::Key_Return);
     EXPECT_EQ(taken, 1);
+}
+
+TEST(FocusEdge, IsRoundTheListThatHasTheKeyboard) {
+    const desktop::FocusEdge edge;
+    QSplitter window;
+    std::array<QListWidget*, 2> lists{};
+    for (QListWidget*& list : lists)
+        window.addWidget(list = new QListWidget);
+    window.resize(400, 200);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    const auto isMarked = [&](const QListWidget& list) {
+        const QPoint onEdge = list.mapTo(&window, QPoint(0, list.height() / 2));
+        return window.grab().toImage().pixelColor(onEdge) ==
+               list.palette().color(QPalette::Highlight);
+    };
+    for (const std::size_t one : {0U, 1U, 0U}) {
+        lists[one]->setFocus();
+        QApplication::processEvents();
+        EXPECT_TRUE(isMarked(*lists[one]));
+        EXPECT_FALSE(isMarked(*lists[1 - one]));
+    }
 }
 
 TEST(Keys, AreChangedRememberedAndNeverTakenTwice) {

@@ -1,5 +1,6 @@
 #include "desktop/shell/focus_edge.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QEvent>
 #include <QFrame>
@@ -9,12 +10,21 @@ namespace kavela::desktop {
 
 namespace {
 
-constexpr int EdgeWidth = 2;
+/// In a painted widget it is inside of the picture; around lists, tables and texts it takes the
+/// place of the frame that they have.
+constexpr int PaintedEdge = 2;
+constexpr int FrameEdge = 1;
 
-/// Lies over all of its parent and lets the mouse through.
+bool isFramed(const QWidget& widget) {
+    const auto* const area = qobject_cast<const QAbstractScrollArea*>(&widget);
+    return area && area->frameWidth() > 0 && !area->window()->windowFlags().testFlag(Qt::Popup);
+}
+
+/// Lies over the edge of its parent and lets the mouse through.
 class DrawnEdge : public QWidget {
 public:
-    explicit DrawnEdge(QWidget* parent) : QWidget(parent) {
+    explicit DrawnEdge(QWidget* parent)
+        : QWidget(parent), m_width(isPainted(*parent) ? PaintedEdge : FrameEdge) {
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setAttribute(Qt::WA_NoSystemBackground);
         setFocusPolicy(Qt::NoFocus);
@@ -22,12 +32,19 @@ public:
     }
 
 protected:
+    /// What is inside of it scrolls as if nothing lay over it.
+    void resizeEvent(QResizeEvent*) override {
+        const QRect all = rect();
+        setMask(QRegion(all) - all.adjusted(m_width, m_width, -m_width, -m_width));
+    }
+
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), EdgeWidth));
-        constexpr double Half = EdgeWidth / 2.0;
-        painter.drawRect(QRectF(rect()).adjusted(Half, Half, -Half, -Half));
+        painter.fillRect(rect(), palette().color(QPalette::Highlight));
     }
+
+private:
+    int m_width;
 };
 
 } // namespace
@@ -56,7 +73,8 @@ void FocusEdge::follow(QWidget* focus) {
         m_edge->parentWidget()->removeEventFilter(this);
         delete m_edge;
     }
-    if (!focus || m_edge || focus->focusPolicy() == Qt::NoFocus || !isPainted(*focus))
+    if (!focus || m_edge || focus->focusPolicy() == Qt::NoFocus ||
+        !(isPainted(*focus) || isFramed(*focus)))
         return;
     m_edge = new DrawnEdge(focus);
     focus->installEventFilter(this);

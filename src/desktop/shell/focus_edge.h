@@ -10,7 +10,8 @@ namespace kavela::desktop {
 /// laid out: the toolkit neither says what it is nor marks the focus on it.
 [[nodiscard]] bool isPainted(const QWidget& widget);
 
-/// Draws an edge inside the painted widget that has the focus, as long as it lives.
+/// Draws an edge inside the painted widget that has the focus, or round the list, table or text of
+/// several lines, which the toolkit marks no more than what is without it. As long as it lives.
 class FocusEdge : public QObject {
     Q_OBJECT
 
