@@ -129,8 +129,8 @@ private:
     /// Where there are no others, the date of the camera may be wrong.
     void offerOtherDay() {
         m_result.ofOtherDays = m_others.size();
-        if (!m_free.empty() || m_others.empty() || m_day.hasclockoffset || !m_day.films.empty() ||
-            !m_result.matches.empty())
+        if (m_day.starts.empty() || !m_free.empty() || m_others.empty() || m_day.hasclockoffset ||
+            !m_day.films.empty() || !m_result.matches.empty())
             return;
         m_result.offeredOffset =
             m_areTimed ? bestOffset(m_others)
@@ -249,8 +249,8 @@ private:
         const bool follows = settled && filmsMeeting(*settled) >= filmsMeeting(offset);
         if (follows)
             offset = *settled;
-        const bool isOtherClock =
-            !follows && !m_day.hasclockoffset && std::abs(offset) > MostFromPlace;
+        const bool isOtherClock = !m_day.starts.empty() && !follows && !m_day.hasclockoffset &&
+                                  std::abs(offset) > MostFromPlace;
         if (isOtherClock)
             m_result.offeredOffset = offset;
         align(offset, isOtherClock);

@@ -156,9 +156,11 @@ std::optional<double> timeOfDay(std::string_view text) {
         isMore = colon < text.size();
         const std::string_view part = text.substr(0, colon);
         const bool isPlain = !part.empty() && part.find_first_not_of("0123456789.") == part.npos;
-        // Only seconds have a fraction.
-        if (count == parts.size() || !isPlain || (count < 2 && part.find('.') != part.npos) ||
-            !parseField(part, parts[count]))
+        // Only seconds have a fraction. A line break that was lost between two lines joins the
+        // seconds of one to the bib of the next.
+        const std::size_t digits = std::min(part.find('.'), part.size());
+        if (count == parts.size() || !isPlain || digits > 2 ||
+            (count < 2 && digits < part.size()) || !parseField(part, parts[count]))
             return std::nullopt;
         text.remove_prefix(std::min(colon + 1, text.size()));
     }

@@ -123,6 +123,8 @@ TEST(FilmMatching, LeavesFilmsOfOtherDaysAloneUntilTheDateIsAgreedTo) {
     EXPECT_EQ(matchedFilms(day, both), "A0");
     EXPECT_EQ(matchFilms(day, both).ofOtherDays, 1U);
     const auto early = filmsAt({-Week, 90 - Week});
+    for (const auto& films : {early, filmsAt({3603})})
+        EXPECT_FALSE(matchFilms(dayOf("", true), films).offeredOffset) << "of what list?";
     const DayMatching matching = matchFilms(day, early);
     EXPECT_THAT(matching.matches, IsEmpty());
     ASSERT_TRUE(matching.offeredOffset);

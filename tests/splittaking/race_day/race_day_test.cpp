@@ -57,7 +57,8 @@ TEST(StartList, TellsTheLineAndTheReasonOfWhatItCannotTake) {
     const StartList list = parseStartList("bib,name,cat,start\n1,Ann,K1W,10:00\n"
                                           "x,Bo,K1W,10:01\n-3,Bo,K1W,10:01\n1,Cy,K1W,10:02\n\n"
                                           "4,,K1W,10:03\n5,Di,K1W,25:00\n6,Ed,K1W\n"
-                                          "7,Flo,K1W,5\n5,Di,K1W,10:04\n");
+                                          "7,Flo,K1W,5\n5,Di,K1W,10:04\n"
+                                          "8,Gus,K1W,10:05:0042,Ida,K1W\n");
     EXPECT_EQ(toldStarts(list.starts), "1 Ann K1W 10:00:00\n5 Di K1W 10:04:00\n");
     EXPECT_THAT(
         list.refused,
@@ -68,7 +69,9 @@ TEST(StartList, TellsTheLineAndTheReasonOfWhatItCannotTake) {
                     RefusedLine{8, "the start \"25:00\" is neither a time of day such as 10:01:30 "
                                    "nor a number in an order"},
                     RefusedLine{9, "there is no start time, which the others have"},
-                    RefusedLine{10, "there is no start time, which the others have"}));
+                    RefusedLine{10, "there is no start time, which the others have"},
+                    RefusedLine{12, "the start \"10:05:0042\" is neither a time of day such as "
+                                    "10:01:30 nor a number in an order"}));
 }
 
 TEST(StartList, OfTheSampleIsTakenWhole) {
