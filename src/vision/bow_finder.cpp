@@ -61,12 +61,28 @@ PileMotion sharpestNear(const BandStretch& stretch, const PileMotion& start, con
     return best;
 }
 
+/// On calm water a boat stands out so much that what it smears along a way several times too slow
+/// makes a seed, too. Its edges are far duller there than along its own way.
+PileMotion muchSharper(const BandStretch& stretch, const PileMotion& start, const BowPart& part) {
+    constexpr double Much = 6;
+    PileMotion best = start;
+    double most = Much * sharpness(stretch, start, part);
+    for (const double factor : {1.5, 2.0, 2.7, 3.6, 4.8, 6.4}) {
+        const PileMotion motion{start.speed * factor, start.slant};
+        if (const double sharp = sharpness(stretch, motion, part); sharp > most) {
+            most = sharp;
+            best = motion;
+        }
+    }
+    return best;
+}
+
 /// The motion that shows the boat best. A seed can stand in what a fast boat smears ahead of itself
 /// along a slow way: then the sharpest is the fastest, and faster ones are tried.
 PileMotion settledMotion(const BandStretch& stretch, const BandBoat& boat, const BoatSeed& seed) {
     constexpr int MostTries = 5;
     const BowPart part = boatPart(stretch, boat, seed);
-    PileMotion motion = seed.motion;
+    PileMotion motion = muchSharper(stretch, seed.motion, part);
     for (int i = 0; i < MostTries; ++i) {
         const PileMotion best = sharpestNear(stretch, motion, part);
         const double factor = best.speed / motion.speed;
@@ -208,18 +224,65 @@ double beforeSlot(const BowGround& ground, int slot, const BowPart& hull, float 
                : 0.0;
 }
 
+constexpr double AheadPassage = 0.8; ///< of a boat's passage, that is looked at before its bow
+constexpr double BehindPassage = 1.1;
+constexpr double FrontPassage = 0.3;
+
+BowGround groundRound(const BandStretch& stretch, const BoatSeed& seed, const PileMotion& motion,
+                      double passage) {
+    return {pileUp(stretch, motion,
+                   {seed.slot - int(AheadPassage * passage),
+                    seed.slot + int(BehindPassage * passage), 1}),
+            *seed.spread};
+}
+
+int frontSlots(double passage) {
+    constexpr int Fewest = 3;
+    return std::max(static_cast<int>(FrontPassage * passage), Fewest);
+}
+
+/// Looks anew where a hull begins behind water, along a way much faster than that of the seed: it
+/// stood in what the boat smeared ahead of itself.
+BoatSeed seedAlong(const BandStretch& stretch, const BandBoat& boat, const BoatSeed& seed,
+                   const PileMotion& motion) {
+    const double reach = boat.length / seed.motion.speed;
+    const int length = frontSlots(boat.length / motion.speed);
+    const BowGround ground = groundRound(stretch, seed, motion, reach);
+    const auto mean = [&](int firstSlot, int row) {
+        float sum = 0;
+        for (int slot = firstSlot; slot < firstSlot + length; ++slot)
+            for (int i = row; i < row + seed.rows; ++i)
+                sum += ground.contains(slot, i) ? ground.at(slot, i) : 0;
+        return sum;
+    };
+    const int highest = std::max(seed.row - 2 * seed.rows, 0);
+    const int lowest = std::min(seed.row + 2 * seed.rows, stretch.shape.rows - seed.rows);
+    BoatSeed anew = seed;
+    anew.motion = motion;
+    float most = 0;
+    for (int slot = seed.slot; slot < seed.slot + int(reach); ++slot)
+        for (int row = highest; row <= lowest; ++row)
+            if (const float rise = mean(slot, row) - mean(slot - length, row); rise > most) {
+                most = rise;
+                anew.slot = slot;
+                anew.row = row;
+            }
+    return anew;
+}
+
 } // namespace
 
 std::optional<FoundBow> findBow(const BandStretch& stretch, const BandBoat& boat,
-                                const BoatSeed& seed) {
-    const PileMotion motion = settledMotion(stretch, boat, seed);
+                                const BoatSeed& found) {
+    constexpr double MuchFaster = 2;
+    const PileMotion motion = settledMotion(stretch, boat, found);
+    const BoatSeed seed = motion.speed > MuchFaster * found.motion.speed
+                              ? seedAlong(stretch, boat, found, motion)
+                              : found;
     const int passage = static_cast<int>(std::ceil(boat.length / motion.speed));
-    const BowGround ground(
-        pileUp(stretch, motion, {seed.slot - passage * 8 / 10, seed.slot + passage * 11 / 10, 1}),
-        *seed.spread);
+    const BowGround ground = groundRound(stretch, seed, motion, passage);
     const int rows = stretch.shape.rows;
-    const BowPart front{seed.slot, seed.slot + std::max(passage * 3 / 10, 3), seed.row,
-                        seed.row + seed.rows};
+    const BowPart front{seed.slot, seed.slot + frontSlots(passage), seed.row, seed.row + seed.rows};
     const BowPart hull{ground.first(), ground.last(), std::max(seed.row - seed.rows / 2, 0),
                        std::min(seed.row + seed.rows + seed.rows / 2, rows)};
     const int above = static_cast<int>(boat.height);
@@ -254,7 +317,7 @@ std::optional<FoundBow> findBow(const BandStretch& stretch, const BandBoat& boat
     if (lengthShare < PaddlerShare && places > 0)
         slot = moment / places - length / 2;
     return FoundBow{slot, motion.speed, lengthShare, tallest / boat.height,
-                    sharperThanOpposite(stretch, boat, seed, motion)};
+                    sharperThanOpposite(stretch, boat, found, motion)};
 }
 
 } // namespace kavela

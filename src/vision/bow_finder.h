@@ -26,8 +26,9 @@ struct FoundBow {
     double sharpness = 0;
 };
 
-/// Settles speed and slant over the whole boat and finds its foremost point: the first place of the
-/// connected piece that stands out. Nothing where no piece does.
+/// Settles speed and slant over the whole boat, also where the seed is along a way much too slow,
+/// and finds its foremost point: the first place of the connected piece that stands out. Nothing
+/// where no piece does.
 [[nodiscard]] std::optional<FoundBow> findBow(const BandStretch& stretch, const BandBoat& boat,
                                               const BoatSeed& seed);
 

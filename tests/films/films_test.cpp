@@ -4,8 +4,10 @@
 #include "common/temp_folder.h"
 #include "films/digits.h"
 #include "sample/races.h"
+#include "sample/sprint_camera.h"
 #include "sample/training.h"
 #include "video/frame_source.h"
+#include "vision/light_barrier.h"
 
 #include <gmock/gmock.h>
 
@@ -173,6 +175,25 @@ TEST_P(MadeFilm, GivesTheTimesOfItsSplitFile) {
     const FrameNumber last = m_index->frameCount() - 1;
     if (timing.isfullrun) { // the clock stands
         EXPECT_EQ(numberIn(*pictureOf(last), ClockRow), clock);
+    }
+}
+
+/// Its water is calm, and a coach draws the box round hull, paddler and blades.
+TEST(SprintFilm, HasItsCrossingsFoundByBoxesOfAnyHeight) {
+    const test::TempFolder folder;
+    const auto passages = sample::sprintPassages();
+    const fs::path film = folder.add("sprint.mov", makeFilm(FixedScene(passages)));
+    const SlitLine line{
+        {FixedScene::FinishColumn, 46}, {FixedScene::FinishColumn, 235}, BoatsFrom::Right};
+    for (const double height : {14.0, 33.0}) {
+        SCOPED_TRACE(height);
+        const auto crossings = findCrossings(film, {line, {0, 0, 56, height}});
+        ASSERT_TRUE(crossings);
+        ASSERT_EQ(crossings->proposals.size(), passages.size());
+        for (std::size_t i = 0; i < passages.size(); ++i) {
+            EXPECT_NEAR(crossings->proposals[i].frame, passages[i].finish, 3) << i;
+            EXPECT_GE(crossings->proposals[i].confidence, 0.5) << i;
+        }
     }
 }
 
