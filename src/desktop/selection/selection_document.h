@@ -1,7 +1,6 @@
 #pragma once
 
 #include "desktop/shell/document.h"
-#include "desktop/shell/file_reading.h"
 #include "results/selection_edit.h"
 #include "results/selection_ranking.h"
 #include "results/selection_records.h"
