@@ -303,7 +303,7 @@ void Desktop::openAll(const QStringList& paths, RaceWindow* into) {
 
 void Desktop::openRecognised(const Recognition::Found& found, RaceWindow* into) {
     if (const QStringList races = racesAmong(found); !races.isEmpty())
-        openRaces(races, into);
+        openRaces(races, into, found.held);
 }
 
 void Desktop::connectTool(ToolWindow& window) {
@@ -320,7 +320,8 @@ void Desktop::connectTool(ToolWindow& window) {
 }
 
 QList<OpenFile> Desktop::filesBetweenWindows() const {
-    QList<OpenFile> files = m_quitting.closedFiles() + m_opening.values();
+    QList<OpenFile> files =
+        m_quitting.closedFiles() + m_opening.values() + m_analysis.racesBeingRead();
     for (const QString& path : m_recognition.paths())
         files.append({QString(), path});
     return files;

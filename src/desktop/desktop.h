@@ -79,8 +79,9 @@ public:
     [[nodiscard]] bool raiseEditorOf(const QString& path);
     /// Opens races together, in a window of their own where none is given; those that a window
     /// shows already come to the front there.
-    void openRaces(const QStringList& paths, RaceWindow* into = nullptr) {
-        m_analysis.openRaces(paths, into);
+    void openRaces(const QStringList& paths, RaceWindow* into = nullptr,
+                   const std::shared_ptr<const HeldDocuments>& held = nullptr) {
+        m_analysis.openRaces(paths, into, held);
     }
     /// Opens raw recordings beside each other, in the window that has some where there is one.
     void openRecordings(const QStringList& paths) { m_recordings.openRecordings(paths); }
@@ -148,6 +149,9 @@ public:
     }
     /// What is open now is what the next start opens.
     void rememberSession();
+    /// Reading has ended after a while: the windows that came of it come to the front, all but
+    /// those of `before`.
+    void noteOpened(const QList<ToolWindow*>& before);
 
     [[nodiscard]] bool isHomeShown() const { return m_home.isShown(); }
     /// Over which dialogs open.
@@ -158,7 +162,8 @@ public:
     [[nodiscard]] bool hasWindows() const { return isOpening() || !windows().isEmpty(); }
     /// Whether a file is being read that is to be opened.
     [[nodiscard]] bool isOpening() const {
-        return !m_opening.isEmpty() || m_recognition.isRunning();
+        return !m_opening.isEmpty() || m_recognition.isRunning() ||
+               !m_analysis.racesBeingRead().isEmpty();
     }
     /// What the session is to remember beside the windows that are open: files that are being read,
     /// and those of windows that closed while the program is being left.
@@ -184,7 +189,6 @@ private:
                 const std::shared_ptr<const HeldDocuments>& held);
     /// A file was read for a window that is shown now, or goes.
     void endOpening(ToolWindow* window, const QString& path, bool isOpen);
-    void noteOpened(const QList<ToolWindow*>& before);
     void connectTool(ToolWindow& window);
     /// The windows of the same tool that are on the screen.
     [[nodiscard]] QList<QWidget*> othersLike(const ToolWindow& window) const;

@@ -10,7 +10,6 @@
 #include <QFileSystemWatcher>
 #include <QObject>
 
-#include <filesystem>
 #include <optional>
 
 class QWidget;
@@ -18,6 +17,7 @@ class QWidget;
 namespace kavela::desktop {
 
 class Workspace;
+struct ReadRace;
 
 /// Which runs of the race are shown. An empty text accepts every run.
 struct RunFilter {
@@ -54,9 +54,9 @@ class RaceDocument : public QObject {
 public:
     explicit RaceDocument(Workspace& workspace, QObject* parent = nullptr);
 
-    /// Opens a split file of any release, upgraded in place with its previous content kept. False,
-    /// after an alert, when it cannot be opened; the document is then as it was.
-    [[nodiscard]] bool open(const QString& path, QWidget* over);
+    /// Takes over a split file that was read. False, after an alert, where it could not be read;
+    /// the document is then as it was.
+    [[nodiscard]] bool open(ReadRace& race, QWidget* over);
     /// Reads the file again; comparisons stay, and the filter as far as there are runs for it.
     [[nodiscard]] bool reload(QWidget* over);
 
@@ -108,13 +108,13 @@ signals:
     void changedOnDisk();
 
 private:
-    [[nodiscard]] bool read(const std::filesystem::path& file, QWidget* over);
-    void takeOver(splittakerdata031 document, const std::filesystem::path& file);
+    [[nodiscard]] bool take(ReadRace& race, QWidget* over);
+    void takeOver(infodata031 info, RaceSet now);
     void keepFilterPossible();
     void chooseRuns();
     void rebuild();
     void rebuildComparisons();
-    void watch();
+    void watch(const FileStamp& read);
     void noticeDisk();
 
     Workspace& m_workspace;
