@@ -30,12 +30,16 @@ bool RaceDocument::open(ReadRace& race, QWidget* over) {
     return true;
 }
 
-bool RaceDocument::reload(QWidget* over) {
-    if (!take(*readRace(m_path, m_workspace.clock()), over))
-        return false;
-    keepFilterPossible();
-    chooseRuns();
-    return true;
+void RaceDocument::reload(QWidget* over, const std::function<void()>& done) {
+    m_work.runAwaited(
+        [path = m_path, clock = m_workspace.clock()] { return readRace(path, clock); },
+        [this, path = m_path, over, done](const std::shared_ptr<ReadRace>& race) {
+            if (path != m_path || !take(*race, over)) // it shows another one by now
+                return;
+            keepFilterPossible();
+            chooseRuns();
+            done();
+        });
 }
 
 /// A phase or category that no run has any more would leave an empty table behind.

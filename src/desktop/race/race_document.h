@@ -5,11 +5,13 @@
 #include "analysis/race_set.h"
 #include "analysis/split_table.h"
 #include "analysis/table_figures.h"
+#include "desktop/shell/background_work.h"
 #include "desktop/shell/file_stamp.h"
 
 #include <QFileSystemWatcher>
 #include <QObject>
 
+#include <functional>
 #include <optional>
 
 class QWidget;
@@ -57,8 +59,9 @@ public:
     /// Takes over a split file that was read. False, after an alert, where it could not be read;
     /// the document is then as it was.
     [[nodiscard]] bool open(ReadRace& race, QWidget* over);
-    /// Reads the file again; comparisons stay, and the filter as far as there are runs for it.
-    [[nodiscard]] bool reload(QWidget* over);
+    /// Reads the file again beside the window; comparisons stay, and the filter as far as there are
+    /// runs for it. `done` is called once it is shown; where it cannot be read, that is told.
+    void reload(QWidget* over, const std::function<void()>& done);
 
     /// Shows a document that is being edited elsewhere, as the file at a path would be shown.
     void show(splittakerdata031 document, const QString& path);
@@ -133,6 +136,7 @@ private:
     unsigned m_shownVersion = 0;
     SplitTable m_table;
     std::optional<TableFigures> m_figures;
+    BackgroundWork m_work;
 };
 
 } // namespace kavela::desktop

@@ -410,8 +410,7 @@ void RaceView::noticeChange() {
 }
 
 void RaceView::reload() {
-    if (m_document.reload(this))
-        showDocument();
+    m_document.reload(this, [this] { showDocument(); });
 }
 
 void RaceView::fillColumnMenu(QMenu& menu) {
