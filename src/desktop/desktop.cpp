@@ -181,7 +181,7 @@ void Desktop::openByContent(const Recognition::File& file,
     if (const ToolKind* const tool = toolFor(file.as)) {
         (void)openIn(*tool, file.path, held);
     } else if (file.as == OpensAs::Film) {
-        m_splitFiles.openFilm(file.path);
+        m_splitFiles.openFilm(file.path, file.splitFile);
     } else {
         m_workspace.showAlert(
             {"", "This feature is not ready yet.\n\nIt will come with a future update."}, front());

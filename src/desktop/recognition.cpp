@@ -1,6 +1,7 @@
 #include "desktop/recognition.h"
 
 #include "desktop/shell/file_names.h"
+#include "desktop/splitfile/taking_files.h"
 
 #include <QEventLoopLocker>
 
@@ -12,22 +13,24 @@ namespace kavela::desktop {
 
 namespace {
 
-/// What cannot even be looked at is told by the reader of races, as what cannot be read.
-Opening openingOrRace(const QString& path) {
-    try {
-        return opensAs(path);
-    } catch (const std::exception&) {
-        return {OpensAs::Race};
-    }
+/// The split files beside a film are read for its run.
+Recognition::File fileOf(const QString& path, HeldDocuments& held) {
+    Opening opening = opensAs(path);
+    held.hold(path, std::move(opening.document));
+    return {path, opening.as, opening.races,
+            opening.as == OpensAs::Film ? splitFileWith(path) : QString()};
 }
 
+/// What cannot even be looked at is told by the reader of races, as what cannot be read.
 Recognition::Found recognised(const QStringList& paths) {
     Recognition::Found found;
     const auto held = std::make_shared<HeldDocuments>();
     for (const QString& path : paths) {
-        Opening opening = openingOrRace(path);
-        held->hold(path, std::move(opening.document));
-        found.files.push_back({path, opening.as, opening.races});
+        try {
+            found.files.push_back(fileOf(path, *held));
+        } catch (const std::exception&) {
+            found.files.push_back({path, OpensAs::Race, {}});
+        }
     }
     found.held = held;
     return found;

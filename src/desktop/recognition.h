@@ -20,7 +20,8 @@ public:
     struct File {
         QString path;
         OpensAs as = OpensAs::NotReady;
-        QStringList races; ///< of a folder of races
+        QStringList races;      ///< of a folder of races
+        QString splitFile = {}; ///< of a film: the one beside it that has its run; empty for none
     };
     struct Found {
         std::vector<File> files; ///< in the order in which they were asked for

@@ -165,6 +165,16 @@ TEST_F(ReadingTest, AWindowThatWaitsForItsFileIsOneAndGoesWithTheProgram) {
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
 }
 
+TEST_F(ReadingTest, AFilmOpensThoughASplitFileBesideItIsDamaged) {
+    const QString race = copied("races/harbour_night.kvx");
+    (void)m_folder.add("damaged.kvx", R"({"info": )");
+    const char* const film = "harbour Dario Gorgazzi Heats.MOV";
+    Desktop program(m_workspace, autosave());
+    program.open(pathText(m_folder.add(film, "no film yet")));
+    ASSERT_THAT(program.windows(), SizeIs(1));
+    EXPECT_EQ(program.windows().front()->paths(), QStringList(race));
+}
+
 /// What is edited in it meanwhile would be lost.
 TEST_F(ReadingTest, AWindowThatIsShownIsLockedWhileItsFileIsReadAgain) {
     const QString path = copied("team/kavela_team.kvteam");
