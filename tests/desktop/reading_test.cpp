@@ -166,13 +166,14 @@ TEST_F(ReadingTest, AWindowThatWaitsForItsFileIsOneAndGoesWithTheProgram) {
 }
 
 TEST_F(ReadingTest, AFilmOpensThoughASplitFileBesideItIsDamaged) {
-    const QString race = copied("races/harbour_night.kvx");
+    (void)copied("races/harbour_night.kvx");
     (void)m_folder.add("damaged.kvx", R"({"info": )");
     const char* const film = "harbour Dario Gorgazzi Heats.MOV";
     Desktop program(m_workspace, autosave());
     program.open(pathText(m_folder.add(film, "no film yet")));
     ASSERT_THAT(program.windows(), SizeIs(1));
-    EXPECT_EQ(program.windows().front()->paths(), QStringList(race));
+    EXPECT_THAT(program.windows().front()->paths().value(0).toStdString(),
+                ::testing::EndsWith("harbour_night.kvx"));
 }
 
 /// What is edited in it meanwhile would be lost.
