@@ -6,6 +6,7 @@
 #include "desktop/penalties/penalties_window.h"
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
+#include "desktop/race/read_race.h"
 #include "desktop/season/season_window.h"
 #include "desktop/shell/bring_to_front.h"
 #include "desktop/shell/file_names.h"
@@ -13,10 +14,13 @@
 #include "desktop/splitfile/taking_document.h"
 #include "desktop/tables/tables_window.h"
 
+#include <QEventLoopLocker>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QPointer>
 
 #include <algorithm>
+#include <utility>
 
 namespace kavela::desktop {
 
@@ -64,19 +68,65 @@ QStringList AnalysisWindows::notShownAmong(const QStringList& races) {
     return others;
 }
 
-void AnalysisWindows::openRaces(const QStringList& races, RaceWindow* into) {
-    const QStringList paths = notShownAmong(races);
+bool AnalysisWindows::isBeingRead(const QString& race) const {
+    return std::ranges::any_of(racesBeingRead(),
+                               [&](const OpenFile& file) { return isSameFile(file.path, race); });
+}
+
+QList<OpenFile> AnalysisWindows::racesBeingRead() const {
+    QList<OpenFile> files;
+    for (const QStringList& races : m_reading)
+        for (const QString& race : races)
+            files.append({"race", race});
+    return files;
+}
+
+void AnalysisWindows::openRaces(const QStringList& races, RaceWindow* into,
+                                const std::shared_ptr<const HeldDocuments>& held) {
+    QStringList paths = notShownAmong(races);
+    paths.removeIf([this](const QString& path) { return isBeingRead(path); });
     if (paths.isEmpty())
         return;
-    RaceWindow* const window = into ? into : makeRaceWindow();
-    for (const QString& path : paths)
-        if (!window->open(path))
-            m_workspace.forgetRecentFile(path);
-    if (window->views().empty()) {
-        delete window;
-        return;
+    const int number = ++m_lastReading;
+    m_reading.insert(number, paths);
+    const auto isLater = std::make_shared<bool>(false);
+    m_work.runAwaited(
+        [paths, held, clock = m_workspace.clock()] {
+            std::vector<std::shared_ptr<ReadRace>> read;
+            for (const QString& path : paths)
+                read.push_back(readRace(path, clock));
+            return read;
+        },
+        [this, number, isLater, into = QPointer(into),
+         running = std::make_shared<QEventLoopLocker>()](
+            const std::vector<std::shared_ptr<ReadRace>>& read) {
+            m_reading.remove(number);
+            const QList<ToolWindow*> before = m_program.windows();
+            const bool isThere = into && !(*isLater && into->isHidden()); // it may have closed
+            showRead(read, isThere ? into : nullptr);
+            if (*isLater)
+                m_program.noteOpened(before);
+        });
+    *isLater = true;
+}
+
+/// One that a window shows since it began to be read is not shown a second time.
+void AnalysisWindows::showRead(const std::vector<std::shared_ptr<ReadRace>>& races,
+                               RaceWindow* into) {
+    RaceWindow* window = into;
+    for (const auto& race : races) {
+        if (notShownAmong({race->path}).isEmpty())
+            continue;
+        if (!window)
+            window = makeRaceWindow();
+        if (!window->openRead(*race))
+            m_workspace.forgetRecentFile(race->path);
     }
-    if (into)
+    if (!window)
+        return;
+    if (window->views().empty())
+        delete window;
+    else if (into)
         m_program.rememberSession();
     else
         m_program.show(window);

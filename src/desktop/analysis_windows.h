@@ -1,11 +1,16 @@
 #pragma once
 
+#include "desktop/open_session.h"
 #include "desktop/shell/autosave.h"
+#include "desktop/shell/background_work.h"
 
+#include <QMap>
 #include <QStringList>
 
 #include <cstddef>
+#include <memory>
 #include <optional>
+#include <vector>
 
 namespace kavela {
 struct RaceSet;
@@ -14,12 +19,14 @@ struct RaceSet;
 namespace kavela::desktop {
 
 class Desktop;
+class HeldDocuments;
 class LossesWindow;
 class RaceWindow;
 class SeasonWindow;
 class TablesWindow;
 class TakingDocument;
 class Workspace;
+struct ReadRace;
 
 /// The windows that look at races and change nothing in them: analyzer, search, penalties, losses.
 class AnalysisWindows {
@@ -27,8 +34,12 @@ public:
     AnalysisWindows(Desktop& program, Workspace& workspace, const Autosave& autosave);
 
     /// Opens races together, in a window of their own where none is given; those that a window
-    /// shows already come to the front there.
-    void openRaces(const QStringList& paths, RaceWindow* into);
+    /// shows already come to the front there. They are read beside the windows; what is parsed of
+    /// them is `held` until then.
+    void openRaces(const QStringList& paths, RaceWindow* into,
+                   const std::shared_ptr<const HeldDocuments>& held);
+    /// The races that are being read, which the session is to remember.
+    [[nodiscard]] QList<OpenFile> racesBeingRead() const;
     /// Shows a race as it is being edited, saved or not.
     void showEdited(const TakingDocument& document);
     /// The race as an analyzer shows it; null when none does.
@@ -60,6 +71,8 @@ private:
     /// The window that shows a race; null when none does.
     [[nodiscard]] RaceWindow* windowOfRace(const QString& path) const;
     [[nodiscard]] QStringList notShownAmong(const QStringList& races);
+    [[nodiscard]] bool isBeingRead(const QString& race) const;
+    void showRead(const std::vector<std::shared_ptr<ReadRace>>& races, RaceWindow* into);
     /// A window that shows no list yet, in front.
     TablesWindow& emptyTablesWindow();
     void openTable(const QString& path, const QString& list);
@@ -69,6 +82,9 @@ private:
     Desktop& m_program;
     Workspace& m_workspace;
     const Autosave& m_autosave;
+    QMap<int, QStringList> m_reading; ///< races that are read together, as they began
+    int m_lastReading = 0;
+    BackgroundWork m_work;
 };
 
 } // namespace kavela::desktop

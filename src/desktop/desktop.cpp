@@ -37,22 +37,7 @@ static void loadIcons() {
 
 namespace kavela::desktop {
 
-namespace {
-
 namespace fs = std::filesystem;
-
-/// Files a folder may hold before a coach is unlikely to want a tab for each.
-constexpr int MostRacesOfAFolder = 24;
-
-/// The split files of a folder in the order of their names.
-QStringList splitFilesIn(const QString& folder) {
-    QStringList files;
-    for (const QFileInfo& file : QDir(folder).entryInfoList({"*.kvx"}, QDir::Files, QDir::Name))
-        files.append(file.filePath());
-    return files.mid(0, MostRacesOfAFolder);
-}
-
-} // namespace
 
 QString autosaveFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/autosave";
@@ -151,39 +136,36 @@ ToolWindow* Desktop::make(const ToolKind& tool) {
     return tool.make(m_workspace, m_autosave);
 }
 
-QStringList Desktop::racesIn(const QString& folder) {
-    const QStringList races = splitFilesIn(folder);
-    if (races.isEmpty())
-        m_workspace.showAlert(
-            {tr("Nothing to open in “%1”").arg(QDir(folder).dirName()).toStdString(),
-             tr("There is no split file (.kvx) and no film in this folder.").toStdString()},
-            front());
-    return races;
+void Desktop::tellEmpty(const QString& folder) {
+    m_workspace.showAlert(
+        {tr("Nothing to open in “%1”").arg(QDir(folder).dirName()).toStdString(),
+         tr("There is no split file (.kvx) and no film in this folder.").toStdString()},
+        front());
 }
 
-QStringList Desktop::racesAmong(const QStringList& paths, HeldDocuments& held) {
+QStringList Desktop::racesAmong(const Recognition::Found& found) {
     QStringList races;
     QStringList recordings;
     QStringList imports;
-    for (const QString& path : paths) {
-        Opening opening = opensAs(path);
-        held.hold(path, std::move(opening.document));
-        switch (opening.as) {
+    for (const Recognition::File& file : found.files) {
+        switch (file.as) {
         case OpensAs::Race:
-            races.append(path);
+            races.append(file.path);
             break;
         case OpensAs::FolderOfRaces:
-            races += racesIn(path);
+            if (file.races.isEmpty())
+                tellEmpty(file.path);
+            races += file.races;
             break;
         case OpensAs::Recording:
-            recordings.append(path);
+            recordings.append(file.path);
             break;
         case OpensAs::Import:
         case OpensAs::PowerList:
-            imports.append(path);
+            imports.append(file.path);
             break;
         default:
-            openByContent(path, opening.as);
+            openByContent(file, found.held);
         }
     }
     if (!recordings.isEmpty())
@@ -194,11 +176,12 @@ QStringList Desktop::racesAmong(const QStringList& paths, HeldDocuments& held) {
 }
 
 /// What has a window of its own; each tells what is wrong with its file.
-void Desktop::openByContent(const QString& path, OpensAs kind) {
-    if (const ToolKind* const tool = toolFor(kind)) {
-        (void)openIn(*tool, path);
-    } else if (kind == OpensAs::Film) {
-        m_splitFiles.openFilm(path);
+void Desktop::openByContent(const Recognition::File& file,
+                            const std::shared_ptr<const HeldDocuments>& held) {
+    if (const ToolKind* const tool = toolFor(file.as)) {
+        (void)openIn(*tool, file.path, held);
+    } else if (file.as == OpensAs::Film) {
+        m_splitFiles.openFilm(file.path, file.splitFile);
     } else {
         m_workspace.showAlert(
             {"", "This feature is not ready yet.\n\nIt will come with a future update."}, front());
@@ -247,6 +230,11 @@ bool Desktop::openInOneOf(OpensAs kind, const QString& path) {
 }
 
 bool Desktop::openIn(const ToolKind& tool, const QString& path) {
+    return openIn(tool, path, nullptr);
+}
+
+bool Desktop::openIn(const ToolKind& tool, const QString& path,
+                     const std::shared_ptr<const HeldDocuments>& held) {
     if (tool.opens == OpensAs::FolderOfFilms)
         return openTaking(path) != nullptr;
     if (tool.opens == OpensAs::Cross)
@@ -261,13 +249,14 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
     m_windows.append(window);
     const auto isOpen = std::make_shared<std::optional<bool>>();
     const auto isLater = std::make_shared<bool>(false);
-    window->openBeside(path, [this, window, path, file, isOpen, isLater,
+    window->openBeside(path, [this, window, path, file, isOpen, isLater, held,
                               running = std::make_shared<QEventLoopLocker>()](bool answer) {
         *isOpen = answer;
         m_opening.remove(file);
+        const QList<ToolWindow*> before = windows();
         endOpening(window, path, answer);
         if (*isLater)
-            noteOpened(window, answer);
+            noteOpened(before);
     });
     *isLater = true;
     return isOpen->value_or(true);
@@ -282,21 +271,39 @@ void Desktop::endOpening(ToolWindow* window, const QString& path, bool isOpen) {
     m_workspace.forgetRecentFile(path);
 }
 
-/// Who asked for the window has gone on: it comes to the front by itself. A program without any
+/// Who asked for a window has gone on: it comes to the front by itself. A program without any
 /// window could not even be left.
-void Desktop::noteOpened(ToolWindow* window, bool isOpen) {
-    if (isOpen)
-        bringToFront(*window);
-    else if (hasWindows() || isHomeShown())
+void Desktop::noteOpened(const QList<ToolWindow*>& before) {
+    for (ToolWindow* const window : windows())
+        if (!before.contains(window))
+            bringToFront(*window);
+    if (hasWindows() || isHomeShown())
         rememberSession();
     else
         showHome();
 }
 
 void Desktop::openAll(const QStringList& paths, RaceWindow* into) {
-    HeldDocuments held;
-    if (const QStringList races = racesAmong(paths, held); !races.isEmpty())
-        openRaces(races, into);
+    QStringList others;
+    for (const QString& path : paths)
+        if (!m_recognition.isAt(path)) // it is being opened already
+            others.append(path);
+    if (others.isEmpty())
+        return;
+    const auto isLater = std::make_shared<bool>(false);
+    m_recognition.recognise(
+        others, [this, isLater, into = QPointer(into)](const Recognition::Found& found) {
+            const QList<ToolWindow*> before = windows();
+            openRecognised(found, into);
+            if (*isLater)
+                noteOpened(before);
+        });
+    *isLater = true;
+}
+
+void Desktop::openRecognised(const Recognition::Found& found, RaceWindow* into) {
+    if (const QStringList races = racesAmong(found); !races.isEmpty())
+        openRaces(races, into, found.held);
 }
 
 void Desktop::connectTool(ToolWindow& window) {
@@ -313,7 +320,11 @@ void Desktop::connectTool(ToolWindow& window) {
 }
 
 QList<OpenFile> Desktop::filesBetweenWindows() const {
-    return m_quitting.closedFiles() + m_opening.values();
+    QList<OpenFile> files =
+        m_quitting.closedFiles() + m_opening.values() + m_analysis.racesBeingRead();
+    for (const QString& path : m_recognition.paths())
+        files.append({QString(), path});
+    return files;
 }
 
 /// One that was closed is there until the event loop gets to it, but is open no more.
@@ -401,16 +412,20 @@ void Desktop::openAgain(const QString& path) {
 
 void Desktop::showPlace(const Place& place) {
     const QFileInfo file(QString::fromStdString(place.file.string()));
-    if (!file.exists())
+    if (!file.exists()) {
         m_workspace.showAlert({tr("“%1” is not where it was").arg(file.fileName()).toStdString(),
                                tr("It was in %1. Open it from where it is now, then ask again.")
                                    .arg(QDir::toNativeSeparators(file.absolutePath()))
                                    .toStdString()},
                               front());
-    else if (opensAs(file.filePath()).as == OpensAs::Race)
-        m_splitFiles.showPlace(place);
-    else
-        open(file.filePath());
+        return;
+    }
+    m_recognition.recognise({file.filePath()}, [this, place](const Recognition::Found& found) {
+        if (found.files.front().as == OpensAs::Race)
+            m_splitFiles.showPlace(place);
+        else
+            openRecognised(found, nullptr);
+    });
 }
 
 void Desktop::openSettings() {

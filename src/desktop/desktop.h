@@ -9,6 +9,7 @@
 #include "desktop/opened_as.h"
 #include "desktop/planning_windows.h"
 #include "desktop/quitting.h"
+#include "desktop/recognition.h"
 #include "desktop/recording_windows.h"
 #include "desktop/shell/autosave.h"
 #include "desktop/shell/focus_edge.h"
@@ -24,6 +25,7 @@
 #include <QPointer>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 class QWindow;
@@ -50,7 +52,8 @@ public:
     ~Desktop() override;
 
     void showHome() { m_home.show(); }
-    /// Opens a file in the tool it belongs to, by what it holds; every split file of a folder.
+    /// Opens a file in the tool it belongs to, by what it holds; every split file of a folder. What
+    /// takes long to read is read beside the windows, and comes to the front when it is there.
     void open(const QString& path) { openAll({path}); }
     /// The same for several: their races come into one window, which is `into` where it is given.
     void openAll(const QStringList& paths, RaceWindow* into = nullptr);
@@ -76,8 +79,9 @@ public:
     [[nodiscard]] bool raiseEditorOf(const QString& path);
     /// Opens races together, in a window of their own where none is given; those that a window
     /// shows already come to the front there.
-    void openRaces(const QStringList& paths, RaceWindow* into = nullptr) {
-        m_analysis.openRaces(paths, into);
+    void openRaces(const QStringList& paths, RaceWindow* into = nullptr,
+                   const std::shared_ptr<const HeldDocuments>& held = nullptr) {
+        m_analysis.openRaces(paths, into, held);
     }
     /// Opens raw recordings beside each other, in the window that has some where there is one.
     void openRecordings(const QStringList& paths) { m_recordings.openRecordings(paths); }
@@ -145,6 +149,9 @@ public:
     }
     /// What is open now is what the next start opens.
     void rememberSession();
+    /// Reading has ended after a while: the windows that came of it come to the front, all but
+    /// those of `before`.
+    void noteOpened(const QList<ToolWindow*>& before);
 
     [[nodiscard]] bool isHomeShown() const { return m_home.isShown(); }
     /// Over which dialogs open.
@@ -152,7 +159,12 @@ public:
     /// Its windows are being closed, one after the other.
     [[nodiscard]] bool isBeingLeft() const { return m_quitting.isLeaving(); }
     /// Whether a window is open, or a file is being read for one.
-    [[nodiscard]] bool hasWindows() const { return !m_opening.isEmpty() || !windows().isEmpty(); }
+    [[nodiscard]] bool hasWindows() const { return isOpening() || !windows().isEmpty(); }
+    /// Whether a file is being read that is to be opened.
+    [[nodiscard]] bool isOpening() const {
+        return !m_opening.isEmpty() || m_recognition.isRunning() ||
+               !m_analysis.racesBeingRead().isEmpty();
+    }
     /// What the session is to remember beside the windows that are open: files that are being read,
     /// and those of windows that closed while the program is being left.
     [[nodiscard]] QList<OpenFile> filesBetweenWindows() const;
@@ -172,21 +184,24 @@ private:
     /// Each tool, for the search of every window.
     [[nodiscard]] Commands toolCommands();
     [[nodiscard]] ToolWindow* make(const ToolKind& tool);
+    /// What is parsed of the file is `held` until its window has it.
+    bool openIn(const ToolKind& tool, const QString& path,
+                const std::shared_ptr<const HeldDocuments>& held);
     /// A file was read for a window that is shown now, or goes.
     void endOpening(ToolWindow* window, const QString& path, bool isOpen);
-    void noteOpened(ToolWindow* window, bool isOpen);
     void connectTool(ToolWindow& window);
     /// The windows of the same tool that are on the screen.
     [[nodiscard]] QList<QWidget*> othersLike(const ToolWindow& window) const;
     /// Where a number comes from: a split file at the run and frame, any other file as it opens.
     /// One that is not there any more is told.
     void showPlace(const Place& place);
-    /// The split files of a folder; told when there are none.
-    [[nodiscard]] QStringList racesIn(const QString& folder);
-    void openByContent(const QString& path, OpensAs kind);
+    void tellEmpty(const QString& folder);
+    void openRecognised(const Recognition::Found& found, RaceWindow* into);
+    void openByContent(const Recognition::File& file,
+                       const std::shared_ptr<const HeldDocuments>& held);
     [[nodiscard]] bool openInOneOf(OpensAs kind, const QString& path);
-    /// The races among files and folders; what is not one is told.
-    [[nodiscard]] QStringList racesAmong(const QStringList& paths, HeldDocuments& held);
+    /// The races among files and folders. All else is opened.
+    [[nodiscard]] QStringList racesAmong(const Recognition::Found& found);
     void noteFront(const QWindow* window);
 
     Workspace& m_workspace;
@@ -208,6 +223,7 @@ private:
     FilmWindows m_films;
     RecordingWindows m_recordings;
     Updates m_updates;
+    Recognition m_recognition;
 };
 
 } // namespace kavela::desktop

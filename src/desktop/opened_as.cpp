@@ -37,6 +37,21 @@ OpensAs folderOpensAs(const QDir& folder) {
                : OpensAs::FolderOfRaces;
 }
 
+/// Files a folder may hold before a coach is unlikely to want a tab for each.
+constexpr int MostRacesOfAFolder = 24;
+
+QStringList splitFilesIn(const QDir& folder) {
+    QStringList files;
+    for (const QFileInfo& file : folder.entryInfoList({"*.kvx"}, QDir::Files, QDir::Name))
+        files.append(file.filePath());
+    return files.mid(0, MostRacesOfAFolder);
+}
+
+Opening openingOf(const QDir& folder) {
+    const OpensAs as = folderOpensAs(folder);
+    return {.as = as, .races = as == OpensAs::FolderOfRaces ? splitFilesIn(folder) : QStringList()};
+}
+
 bool beginsWith(const QString& path, char first) {
     QFile file(path);
     constexpr qint64 Beginning = 64;
@@ -145,7 +160,7 @@ void HeldDocuments::hold(const QString& path, std::optional<JsonDocument> docume
 Opening opensAs(const QString& path) {
     const QFileInfo info(path);
     if (info.isDir())
-        return {folderOpensAs(QDir(path))};
+        return openingOf(QDir(path));
     if (isVideoFile(info.fileName().toStdString()))
         return {OpensAs::Film};
     // Documents begin with a brace, lists and tracks do not, whatever their names end with.

@@ -3,6 +3,7 @@
 #include "common/json_document.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -44,6 +45,7 @@ enum class OpensAs {
 struct Opening {
     OpensAs as = OpensAs::NotReady;
     std::optional<JsonDocument> document = {};
+    QStringList races = {}; ///< of a folder of races: its split files, in the order of their names
 };
 
 /// What was parsed to see what files are, until their windows have read them: not more of it than a
@@ -57,7 +59,7 @@ private:
     qint64 m_bytes = 0;
 };
 
-/// Decides by what a file holds; its name only helps where content cannot tell.
+/// Decides by what a file holds; its name only helps where content cannot tell. For any thread.
 [[nodiscard]] Opening opensAs(const QString& path);
 
 } // namespace kavela::desktop

@@ -88,9 +88,8 @@ SplitFileWindows::SplitFileWindows(Desktop& program, Workspace& workspace, const
 
 /// A film alone stands for the run that it shows: in the split file that has it, else among the
 /// films of its folder.
-void SplitFileWindows::openFilm(const QString& path) {
-    const QString file = splitFileWith(path);
-    (void)openTaking(file.isEmpty() ? QFileInfo(path).absolutePath() : file,
+void SplitFileWindows::openFilm(const QString& path, const QString& splitFile) {
+    (void)openTaking(splitFile.isEmpty() ? QFileInfo(path).absolutePath() : splitFile,
                      [path](TakingWindow& window) {
                          const std::string film = QFileInfo(path).fileName().toStdString();
                          const TakingDocument& document = window.document();

@@ -33,7 +33,7 @@ public:
     TakingWindow* openTaking(const QString& path, const Then& then = {});
     /// Opens the kayak cross of a split file, or of a folder of films; null as above.
     CrossWindow* openCross(const QString& path);
-    void openFilm(const QString& path);
+    void openFilm(const QString& path, const QString& splitFile);
     /// The moment behind a time of the analyzer, in the film it was taken from.
     void showMoment(const QString& path, int run, std::size_t split);
     /// Where the race and official results differ, over its split taking.

@@ -2,6 +2,7 @@
 
 #include "common/temp_folder.h"
 #include "common/text_file.h"
+#include "desktop/shell/disk_worker.h"
 #include "desktop/shell/file_copy.h"
 
 #include <gmock/gmock.h>
@@ -16,9 +17,11 @@
 #include <QThreadPool>
 
 #include <atomic>
+#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <stdexcept>
+#include <vector>
 
 namespace kavela::test {
 namespace {
@@ -53,6 +56,38 @@ TEST(BackgroundWorkTest, BringsAResultThatOnlyMovesOnTheInterfaceThread) {
     EXPECT_EQ(toldOn, QThread::currentThread());
     EXPECT_NE(workedOn, toldOn);
     EXPECT_FALSE(work.isRunning());
+}
+
+/// The windows wait once for a disk that does not answer, not for each of its files.
+TEST(BackgroundWorkTest, BringsWhatIsAwaitedAtOnceAndWaitsForNothingElseWhileItTakesLong) {
+    BackgroundWork work;
+    std::vector<int> got;
+    const auto take = [&](int result) { got.push_back(result); };
+    work.runAwaited([] { return 1; }, take);
+    EXPECT_THAT(got, ::testing::ElementsAre(1));
+    EXPECT_FALSE(work.isRunning());
+
+    const auto gate = std::make_shared<QSemaphore>();
+    const auto patience = desktop::disk::patience();
+    desktop::disk::setPatience(std::chrono::milliseconds(1));
+    work.runAwaited(
+        [gate] {
+            gate->acquire();
+            return 2;
+        },
+        take);
+    desktop::disk::setPatience(patience); // longer than any test
+    work.runAwaited(
+        [gate] {
+            gate->acquire();
+            return 3;
+        },
+        take);
+    EXPECT_THAT(got, ::testing::SizeIs(1));
+    gate->release(2);
+    QTRY_COMPARE(got.size(), 3UL);
+    QApplication::processEvents();
+    EXPECT_THAT(got, ::testing::UnorderedElementsAre(1, 2, 3)) << "each is told once";
 }
 
 /// Nobody could answer it under a dialog that takes all clicks.

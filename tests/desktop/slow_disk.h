@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/shell/background_work.h"
 #include "desktop/shell/disk_worker.h"
 
 #include <QSemaphore>
@@ -27,6 +28,36 @@ public:
 private:
     std::chrono::milliseconds m_patience = desktop::disk::patience();
     std::shared_ptr<QSemaphore> m_gate = std::make_shared<QSemaphore>();
+};
+
+/// Holds up the files that a coach waits for, as a share far away does.
+class SlowReading {
+public:
+    SlowReading() {
+        desktop::disk::setPatience(std::chrono::milliseconds(0));
+        for (int i = 0; i < MoreThanThreads; ++i)
+            m_work.runAwaited(
+                [gate = m_gate, ended = m_ended] {
+                    gate->acquire();
+                    ended->release();
+                },
+                [] {});
+    }
+    SlowReading(const SlowReading&) = delete;
+    SlowReading& operator=(const SlowReading&) = delete;
+    ~SlowReading() {
+        desktop::disk::setPatience(m_patience);
+        m_gate->release(MoreThanThreads);
+        m_ended->acquire(MoreThanThreads);
+    }
+
+private:
+    static constexpr int MoreThanThreads = 32;
+
+    std::chrono::milliseconds m_patience = desktop::disk::patience();
+    std::shared_ptr<QSemaphore> m_gate = std::make_shared<QSemaphore>();
+    std::shared_ptr<QSemaphore> m_ended = std::make_shared<QSemaphore>();
+    desktop::BackgroundWork m_work;
 };
 
 } // namespace kavela::test

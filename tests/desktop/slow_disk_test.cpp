@@ -251,6 +251,7 @@ TEST_F(SlowDiskTest, AFileThatIsAskedForTwiceHasOneWindow) {
         program.open(path("a.kvteam"));
         program.comeForward({path("a.kvteam")});
         program.open(path("a.kvteam"));
+        QTRY_VERIFY(!program.isOpening());
         EXPECT_THAT(program.windows(), SizeIs(1));
     }
     QTRY_COMPARE(m_questions.size(), 1UL);

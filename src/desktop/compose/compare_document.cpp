@@ -11,22 +11,10 @@
 
 namespace kavela::desktop {
 
-bool CompareDocument::open(const QString& path, QWidget* over) {
-    const QString file = QFileInfo(path).absoluteFilePath();
-    std::string reason;
-    try {
-        const std::filesystem::path place = file.toStdString();
-        start(withFullNames(readComposeJob(place), place.parent_path()), path, over);
-        return true;
-    } catch (const FileError& error) {
-        reason = error.reason();
-    } catch (const DecodeError& error) {
-        reason = tr("It is no comparison of films, or a damaged one: %1")
-                     .arg(QString::fromStdString(error.what()))
-                     .toStdString();
-    }
-    tellUnreadable(path, reason, over);
-    return false;
+FileReading CompareDocument::reading(const QString& path, QWidget* over) {
+    const std::filesystem::path file = QFileInfo(path).absoluteFilePath().toStdString();
+    return readingBy(path, over, tr("It is no comparison of films, or a damaged one: %1"),
+                     [file] { return withFullNames(readComposeJob(file), file.parent_path()); });
 }
 
 void CompareDocument::startNew(const QString& path, composejob002 job, QWidget* over) {

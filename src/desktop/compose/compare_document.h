@@ -14,9 +14,8 @@ public:
     using Document::Document;
     ~CompareDocument() override { keepPending(); }
 
-    /// False, after an alert that says what is wrong where, when it cannot be opened; the document
-    /// then stays as it is.
-    [[nodiscard]] bool open(const QString& path, QWidget* over);
+    /// What is wrong where is told in an alert.
+    [[nodiscard]] FileReading reading(const QString& path, QWidget* over);
     /// A new comparison of these films; the path is where saving will propose to put it. What it
     /// begins with needs no saving.
     void startNew(const QString& path, composejob002 job, QWidget* over);

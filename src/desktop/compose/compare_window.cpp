@@ -161,16 +161,19 @@ void CompareWindow::edit(const QString& what, const std::function<void(composejo
     m_document->edit(what, change);
 }
 
-bool CompareWindow::open(const QString& path) {
-    if (!m_document->open(path, this))
-        return false;
+FileReading CompareWindow::readingOf(const QString& path) {
+    return followedBy(m_document->reading(path, this), [this] {
+        addFilesOfFilms();
+        m_view->setFocus();
+    });
+}
+
+void CompareWindow::addFilesOfFilms() {
     QStringList files;
     for (const composefilm002& film : m_document->value().films)
         files.append(QString::fromStdString(film.splitFile.empty() ? film.film : film.splitFile));
     files.removeDuplicates();
     addFiles(files);
-    m_view->setFocus();
-    return true;
 }
 
 void CompareWindow::startNew(const QString& path) {

@@ -36,8 +36,6 @@ public:
     CompareWindow(Workspace& workspace, Autosave autosave);
     ~CompareWindow() override;
 
-    /// False, after an alert, when the file cannot be opened.
-    [[nodiscard]] bool open(const QString& path) override;
     /// A new comparison; the path is a folder, or a file that saving will propose.
     void startNew(const QString& path) override;
     /// A new comparison of what another window shows.
@@ -76,11 +74,13 @@ public:
     void showJobs();
 
 protected:
+    [[nodiscard]] FileReading readingOf(const QString& path) override;
     void takeFiles(const QStringList& paths) override;
     /// Asks what becomes of films that are still being composed.
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void addFilesOfFilms();
     CompareWindow(Workspace& workspace, std::unique_ptr<CompareDocument> document);
     void makeParts();
     [[nodiscard]] QWidget* makeStage();

@@ -8,17 +8,23 @@
 
 namespace kavela::desktop {
 
-bool PlanningDocument::open(const QString& path, QWidget* over) {
-    RecognisedPlanning found = recognisePlanningFile(path.toStdString(), workspace().log());
-    if (!found.version) {
-        WorkspaceAlerts alerts(workspace(), over);
-        reportIncompatible(found, workspace().log(), alerts);
-        return false;
-    }
-    setOlderLayout(found.isCurrent() ? std::string() : PlanningExtension);
-    m_withoutPlace = variabilityWithoutPlace(found);
-    start(std::move(found.document), path, over);
-    return true;
+FileReading PlanningDocument::reading(const QString& path, QWidget* over) {
+    return [this, path, over]() -> TakeIn {
+        const auto notes = std::make_shared<ReadingNotes>();
+        const auto found = std::make_shared<RecognisedPlanning>(
+            recognisePlanningFile(path.toStdString(), notes->log()));
+        if (!found->version)
+            reportIncompatible(*found, notes->log(), *notes);
+        return [this, path, over, notes, found] {
+            notes->tell(workspace(), over);
+            if (!found->version)
+                return false;
+            setOlderLayout(found->isCurrent() ? std::string() : PlanningExtension);
+            m_withoutPlace = variabilityWithoutPlace(*found);
+            start(std::move(found->document), path, over);
+            return true;
+        };
+    };
 }
 
 bool PlanningDocument::isPlanning(const std::string& text) const {

@@ -30,9 +30,9 @@ public:
     ~PlanningDocument() override { keepPending(); }
 
     /// Opens a file of any version; one of an older version is converted in memory, and saving it
-    /// first keeps the file as it was. False, after an alert, when no version decodes; the document
-    /// then stays as it is.
-    [[nodiscard]] bool open(const QString& path, QWidget* over);
+    /// first keeps the file as it was. It is told in an alert when no version decodes.
+    [[nodiscard]] FileReading reading(const QString& path, QWidget* over);
+    [[nodiscard]] bool open(const QString& path, QWidget* over) { return reading(path, over)()(); }
     /// Whether a text is a planning of any version.
     [[nodiscard]] bool isPlanning(const std::string& text) const;
     /// A planning that came from elsewhere as text, to be saved under a path; false when no version

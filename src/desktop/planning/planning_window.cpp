@@ -113,13 +113,20 @@ void PlanningWindow::connectParts() {
             Qt::QueuedConnection);
 }
 
-bool PlanningWindow::open(const QString& path) {
+FileReading PlanningWindow::readingOf(const QString& path) {
     statusBar()->showMessage(planning_messages::Importing);
-    if (!m_document->open(path, this)) {
-        statusBar()->clearMessage();
-        return false;
-    }
-    statusBar()->clearMessage();
+    return [this, reading = m_document->reading(path, this)]() -> TakeIn {
+        return [this, take = reading()] {
+            const bool isTaken = take();
+            statusBar()->clearMessage();
+            if (isTaken)
+                showOpened();
+            return isTaken;
+        };
+    };
+}
+
+void PlanningWindow::showOpened() {
     m_online->begin(m_document->path());
     if (const std::size_t count = m_document->withoutPlace())
         tell(tr("%1 measurements of heart-rate variability of this older file hold only a highest "
@@ -128,7 +135,6 @@ bool PlanningWindow::open(const QString& path) {
                 "one.")
                  .arg(count));
     m_athletes->list().setFocus();
-    return true;
 }
 
 void PlanningWindow::startNew(const QString& path) {

@@ -28,8 +28,6 @@ public:
     PlanningWindow(Workspace& workspace, Autosave autosave);
     ~PlanningWindow() override;
 
-    /// False, after an alert, when the file cannot be opened; what is shown then stays.
-    [[nodiscard]] bool open(const QString& path) override;
     /// A new planning; the path is where saving will propose to put it.
     void startNew(const QString& path) override;
 
@@ -52,10 +50,12 @@ public:
     void removeSeason();
 
 protected:
+    [[nodiscard]] FileReading readingOf(const QString& path) override;
     void takeFiles(const QStringList& paths) override;
     [[nodiscard]] bool takePending() override;
 
 private:
+    void showOpened();
     PlanningWindow(Workspace& workspace, std::unique_ptr<PlanningDocument> document);
     void makeParts();
     void connectParts();

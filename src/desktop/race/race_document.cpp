@@ -1,35 +1,16 @@
 #include "desktop/race/race_document.h"
 
 #include "analysis/followed_runs.h"
-#include "analysis/open_race.h"
+#include "desktop/race/read_race.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
 
 #include <QFileInfo>
+#include <QMetaObject>
 
 #include <algorithm>
 
 namespace kavela::desktop {
-
-namespace fs = std::filesystem;
-
-namespace {
-
-QString upgradeNote(const OpenedRace& race) {
-    if (race.foundAs == &documentVersions().front())
-        return {};
-    const QString version = QString::fromUtf8(race.foundAs->label.data(),
-                                              static_cast<qsizetype>(race.foundAs->label.size()));
-    if (race.backup.empty())
-        return RaceDocument::tr("A file of version %1. It could not be rewritten in the current "
-                                "version and stays as it is.")
-            .arg(version);
-    return RaceDocument::tr("A file of version %1, rewritten in the current one. The previous file "
-                            "is kept as %2.")
-        .arg(version, qtText(race.backup.filename().string()));
-}
-
-} // namespace
 
 RaceDocument::RaceDocument(Workspace& workspace, QObject* parent)
     : QObject(parent), m_workspace(workspace) {
@@ -40,8 +21,8 @@ RaceDocument::RaceDocument(Workspace& workspace, QObject* parent)
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &RaceDocument::noticeDisk);
 }
 
-bool RaceDocument::open(const QString& path, QWidget* over) {
-    if (!read(QFileInfo(path).absoluteFilePath().toStdString(), over))
+bool RaceDocument::open(ReadRace& race, QWidget* over) {
+    if (!take(race, over))
         return false;
     m_filter = {};
     m_workspace.addRecentFile(m_path);
@@ -49,12 +30,16 @@ bool RaceDocument::open(const QString& path, QWidget* over) {
     return true;
 }
 
-bool RaceDocument::reload(QWidget* over) {
-    if (!read(m_path.toStdString(), over))
-        return false;
-    keepFilterPossible();
-    chooseRuns();
-    return true;
+void RaceDocument::reload(QWidget* over, const std::function<void()>& done) {
+    m_work.runAwaited(
+        [path = m_path, clock = m_workspace.clock()] { return readRace(path, clock); },
+        [this, path = m_path, over, done](const std::shared_ptr<ReadRace>& race) {
+            if (path != m_path || !take(*race, over)) // it shows another one by now
+                return;
+            keepFilterPossible();
+            chooseRuns();
+            done();
+        });
 }
 
 /// A phase or category that no run has any more would leave an empty table behind.
@@ -68,28 +53,28 @@ void RaceDocument::keepFilterPossible() {
     drop(m_filter.category, &analyzerdata::category);
 }
 
-bool RaceDocument::read(const fs::path& file, QWidget* over) {
-    WorkspaceAlerts alerts(m_workspace, over);
-    auto race = openRace(file, m_workspace.log(), alerts, m_workspace.clock());
-    if (!race)
+bool RaceDocument::take(ReadRace& race, QWidget* over) {
+    race.notes.tell(m_workspace, over);
+    if (!race.isRead)
         return false;
-    m_upgradeNote = desktop::upgradeNote(*race);
-    takeOver(std::move(race->document), file);
-    watch();
+    m_upgradeNote = race.upgradeNote;
+    m_path = race.path;
+    takeOver(std::move(race.info), std::move(race.set));
+    watch(race.stamp);
     return true;
 }
 
-void RaceDocument::takeOver(splittakerdata031 document, const fs::path& file) {
-    m_path = qtText(file.string());
-    m_info = document.info;
-    RaceSet now = makeRaceSet(std::move(document), file);
+void RaceDocument::takeOver(infodata031 info, RaceSet now) {
+    m_info = std::move(info);
     const RunMoves moves = followedRuns(m_whole, now);
     m_whole = std::move(now);
     emit runsMoved(moves);
 }
 
 void RaceDocument::show(splittakerdata031 document, const QString& path) {
-    takeOver(std::move(document), path.toStdString());
+    m_path = path;
+    infodata031 info = document.info;
+    takeOver(std::move(info), makeRaceSet(std::move(document), path.toStdString()));
     keepFilterPossible();
     chooseRuns();
 }
@@ -210,11 +195,14 @@ std::vector<CourseReference> RaceDocument::courseReferences() const {
     return references;
 }
 
-void RaceDocument::watch() {
+/// What another program wrote since the file was read is noticed once it is shown.
+void RaceDocument::watch(const FileStamp& read) {
     if (!m_watcher.files().isEmpty())
         m_watcher.removePaths(m_watcher.files());
     m_watcher.addPath(m_path);
-    m_known = FileStamp(m_path);
+    m_known = read;
+    if (FileStamp(m_path) != read)
+        QMetaObject::invokeMethod(this, &RaceDocument::noticeDisk, Qt::QueuedConnection);
 }
 
 void RaceDocument::noticeDisk() {

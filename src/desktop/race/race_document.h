@@ -5,12 +5,13 @@
 #include "analysis/race_set.h"
 #include "analysis/split_table.h"
 #include "analysis/table_figures.h"
+#include "desktop/shell/background_work.h"
 #include "desktop/shell/file_stamp.h"
 
 #include <QFileSystemWatcher>
 #include <QObject>
 
-#include <filesystem>
+#include <functional>
 #include <optional>
 
 class QWidget;
@@ -18,6 +19,7 @@ class QWidget;
 namespace kavela::desktop {
 
 class Workspace;
+struct ReadRace;
 
 /// Which runs of the race are shown. An empty text accepts every run.
 struct RunFilter {
@@ -54,11 +56,12 @@ class RaceDocument : public QObject {
 public:
     explicit RaceDocument(Workspace& workspace, QObject* parent = nullptr);
 
-    /// Opens a split file of any release, upgraded in place with its previous content kept. False,
-    /// after an alert, when it cannot be opened; the document is then as it was.
-    [[nodiscard]] bool open(const QString& path, QWidget* over);
-    /// Reads the file again; comparisons stay, and the filter as far as there are runs for it.
-    [[nodiscard]] bool reload(QWidget* over);
+    /// Takes over a split file that was read. False, after an alert, where it could not be read;
+    /// the document is then as it was.
+    [[nodiscard]] bool open(ReadRace& race, QWidget* over);
+    /// Reads the file again beside the window; comparisons stay, and the filter as far as there are
+    /// runs for it. `done` is called once it is shown; where it cannot be read, that is told.
+    void reload(QWidget* over, const std::function<void()>& done);
 
     /// Shows a document that is being edited elsewhere, as the file at a path would be shown.
     void show(splittakerdata031 document, const QString& path);
@@ -108,13 +111,13 @@ signals:
     void changedOnDisk();
 
 private:
-    [[nodiscard]] bool read(const std::filesystem::path& file, QWidget* over);
-    void takeOver(splittakerdata031 document, const std::filesystem::path& file);
+    [[nodiscard]] bool take(ReadRace& race, QWidget* over);
+    void takeOver(infodata031 info, RaceSet now);
     void keepFilterPossible();
     void chooseRuns();
     void rebuild();
     void rebuildComparisons();
-    void watch();
+    void watch(const FileStamp& read);
     void noticeDisk();
 
     Workspace& m_workspace;
@@ -133,6 +136,7 @@ private:
     unsigned m_shownVersion = 0;
     SplitTable m_table;
     std::optional<TableFigures> m_figures;
+    BackgroundWork m_work;
 };
 
 } // namespace kavela::desktop

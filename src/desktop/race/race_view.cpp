@@ -63,8 +63,8 @@ RaceView::RaceView(Workspace& workspace, QWidget* parent)
     connect(m_selection, &KeptSelection::changed, this, &RaceView::showSelection);
 }
 
-bool RaceView::open(const QString& path) {
-    if (!m_document.open(path, this))
+bool RaceView::open(ReadRace& race) {
+    if (!m_document.open(race, this))
         return false;
     showDocument();
     return true;
@@ -410,8 +410,7 @@ void RaceView::noticeChange() {
 }
 
 void RaceView::reload() {
-    if (m_document.reload(this))
-        showDocument();
+    m_document.reload(this, [this] { showDocument(); });
 }
 
 void RaceView::fillColumnMenu(QMenu& menu) {

@@ -32,7 +32,7 @@ public:
     explicit RaceView(Workspace& workspace, QWidget* parent = nullptr);
 
     /// Opens a split file; false, after an alert, when that failed.
-    [[nodiscard]] bool open(const QString& path);
+    [[nodiscard]] bool open(ReadRace& race);
     /// Shows a race as it is being edited elsewhere; `note` says what its file does not hold.
     void showRace(splittakerdata031 race, const QString& path, const QString& note);
 

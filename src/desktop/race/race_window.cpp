@@ -3,10 +3,12 @@
 #include "desktop/race/frozen_table.h"
 #include "desktop/race/race_actions.h"
 #include "desktop/race/race_view.h"
+#include "desktop/race/read_race.h"
 #include "desktop/shell/dropped_files.h"
 #include "desktop/shell/file_names.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/window_place.h"
+#include "desktop/shell/workspace.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -55,10 +57,14 @@ RaceWindow::~RaceWindow() {
 }
 
 bool RaceWindow::open(const QString& path) {
-    if (showViewOf(path))
+    return showViewOf(path) || openRead(*readRace(path, workspace().clock()));
+}
+
+bool RaceWindow::openRead(ReadRace& race) {
+    if (showViewOf(race.path))
         return true;
     auto* view = new RaceView(workspace());
-    if (!view->open(path)) {
+    if (!view->open(race)) {
         delete view;
         return false;
     }

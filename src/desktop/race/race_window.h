@@ -17,6 +17,7 @@ class RaceDocument;
 class RaceView;
 class SplitTableModel;
 class Workspace;
+struct ReadRace;
 
 /// The race analyzer: one or several races, as tabs or side by side.
 class RaceWindow : public ToolWindow {
@@ -29,6 +30,8 @@ public:
     /// Opens a split file in a tab of its own and shows it; a file that is open already is shown.
     /// False, after an alert, when it cannot be opened.
     [[nodiscard]] bool open(const QString& path) override;
+    /// The same with a file that was read beside the windows.
+    [[nodiscard]] bool openRead(ReadRace& race);
     /// Shows a race as it is being edited elsewhere, in the tab of its file or in one of its own.
     void showRace(splittakerdata031 race, const QString& path, const QString& note);
 

@@ -6,16 +6,26 @@
 #include "results/messages.h"
 #include "results/selection_file.h"
 
+#include <memory>
+#include <optional>
+#include <utility>
+
 namespace kavela::desktop {
 
-bool SelectionDocument::open(const QString& path, QWidget* over) {
-    WorkspaceAlerts alerts(workspace(), over);
-    auto document = openSelectionFile(path.toStdString(), workspace().log(), alerts);
-    if (!document)
-        return false;
-    m_whatIf.reset();
-    start(std::move(*document), path, over);
-    return true;
+FileReading SelectionDocument::reading(const QString& path, QWidget* over) {
+    return [this, path, over]() -> TakeIn {
+        const auto notes = std::make_shared<ReadingNotes>();
+        const auto read = std::make_shared<std::optional<selectionracesStruct_v3>>(
+            openSelectionFile(path.toStdString(), notes->log(), *notes));
+        return [this, path, over, notes, read] {
+            notes->tell(workspace(), over);
+            if (!*read)
+                return false;
+            m_whatIf.reset();
+            start(std::move(**read), path, over);
+            return true;
+        };
+    };
 }
 
 void SelectionDocument::startNew(const QString& path, std::int64_t year, QWidget* over) {

@@ -25,8 +25,8 @@ public:
     ~SelectionDocument() override { keepPending(); }
 
     /// Opens a file of any layout; one of an older layout is rewritten, with its previous content
-    /// kept. False, after an alert, when it cannot be opened.
-    [[nodiscard]] bool open(const QString& path, QWidget* over);
+    /// kept.
+    [[nodiscard]] FileReading reading(const QString& path, QWidget* over);
     /// A new selection of a season; the path is where saving will propose to put it.
     void startNew(const QString& path, std::int64_t year, QWidget* over);
 

@@ -200,11 +200,8 @@ void SelectionWindow::startNew(const QString& path) {
     startNew(path, QDate::currentDate().year());
 }
 
-bool SelectionWindow::open(const QString& path) {
-    if (!m_document.open(path, this))
-        return false;
-    m_table->setFocus();
-    return true;
+FileReading SelectionWindow::readingOf(const QString& path) {
+    return followedBy(m_document.reading(path, this), [this] { m_table->setFocus(); });
 }
 
 void SelectionWindow::startNew(const QString& path, std::int64_t year) {

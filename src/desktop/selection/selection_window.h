@@ -27,7 +27,6 @@ public:
     SelectionWindow(Workspace& workspace, Autosave autosave);
     ~SelectionWindow() override;
 
-    [[nodiscard]] bool open(const QString& path) override;
     void startNew(const QString& path, std::int64_t year);
     /// Of the season that is on.
     void startNew(const QString& path) override;
@@ -47,6 +46,7 @@ public:
     void setWhatIf(bool isOn);
 
 protected:
+    [[nodiscard]] FileReading readingOf(const QString& path) override;
     void takeFiles(const QStringList& paths) override;
 
 private:

@@ -1,17 +1,21 @@
 #include "desktop/shell/background_work.h"
 
 #include "common/error.h"
+#include "desktop/shell/disk_worker.h"
 
+#include <QCoreApplication>
 #include <QFutureWatcher>
 #include <QMetaObject>
 #include <QProgressBar>
 #include <QProgressDialog>
 #include <QPromise>
+#include <QSemaphore>
 #include <QThreadPool>
 #include <QTimer>
 #include <QWidget>
 
 #include <algorithm>
+#include <atomic>
 
 namespace kavela::desktop {
 
@@ -89,7 +93,16 @@ private:
 struct Shared {
     std::stop_source stop;
     std::exception_ptr fault; ///< written before the promise is finished, read after it
+    bool isAwaited = false;
+    QSemaphore ended;
 };
+
+/// How many pieces that are awaited have yet to end: where one takes long, no other is waited for
+/// in its turn.
+std::atomic<int>& awaitedPieces() {
+    static std::atomic<int> pieces = 0;
+    return pieces;
+}
 
 /// A piece that has yet to come back. Without it, nobody hears of its end.
 class Piece : public QObject {
@@ -107,6 +120,16 @@ public:
 
     void cover(const ShownWork& shown) { m_cover.emplace(shown, m_shared->stop); }
     void cancel() { m_shared->stop.request_stop(); }
+
+    /// Tells the end where it comes within this time, in which the interface waits; false
+    /// otherwise.
+    bool endWithin(std::chrono::milliseconds time) {
+        if (!m_shared->ended.tryAcquire(1, static_cast<int>(time.count())))
+            return false;
+        m_watcher.disconnect(this);
+        end();
+        return true;
+    }
 
 private:
     /// The owner may go in what it is told: nothing of this is touched after that.
@@ -132,11 +155,30 @@ void work(WorkTask& task, QPromise<void>& promise, Shared& shared) {
         shared.fault = faultOf([&] { task(WorkSteps(promise, shared.stop.get_token())); });
     task = nullptr;
     promise.finish();
+    if (shared.isAwaited)
+        --awaitedPieces();
+    shared.ended.release();
 }
 
-Piece* startPiece(QThreadPool& pool, QObject& parent, WorkTask task, WorkEnded ended) {
+/// Files that a coach waits for are not read after whatever else takes minutes. They are read to
+/// their end before the program's objects go, since they may use those.
+QThreadPool& awaitedWork() {
+    static QThreadPool pool;
+    static const bool IsWaitedFor = [] {
+        constexpr int Threads = 4; // most of them wait for a disk
+        pool.setMaxThreadCount(Threads);
+        qAddPostRoutine([] { awaitedWork().waitForDone(); });
+        return true;
+    }();
+    (void)IsWaitedFor;
+    return pool;
+}
+
+Piece* startPiece(QThreadPool& pool, QObject& parent, WorkTask task, WorkEnded ended,
+                  bool isAwaited = false) {
     const auto promise = std::make_shared<QPromise<void>>();
     const auto shared = std::make_shared<Shared>();
+    shared->isAwaited = isAwaited;
     promise->setProgressRange(0, Whole);
     promise->start();
     auto* const piece = new Piece(parent, shared, promise->future(), std::move(ended));
@@ -208,11 +250,15 @@ bool BackgroundWork::isDone(const WorkEnd& end, const OtherEnds& otherwise) {
     return !end.isCancelled && !end.fault;
 }
 
-void BackgroundWork::start(const ShownWork* shown, WorkTask task, WorkEnded ended) {
+void BackgroundWork::start(const Way& way, WorkTask task, WorkEnded ended) {
+    QThreadPool& pool = way.isAwaited ? awaitedWork() : *QThreadPool::globalInstance();
+    const bool isFirst = way.isAwaited && awaitedPieces()++ == 0;
     Piece* const piece =
-        startPiece(*QThreadPool::globalInstance(), *m_pieces, std::move(task), std::move(ended));
-    if (shown && shown->over)
-        piece->cover(*shown);
+        startPiece(pool, *m_pieces, std::move(task), std::move(ended), way.isAwaited);
+    if (isFirst && piece->endWithin(disk::patience()))
+        return;
+    if (way.shown && way.shown->over)
+        piece->cover(*way.shown);
 }
 
 void runInPool(QThreadPool& pool, QObject& context, WorkTask task, WorkEnded ended) {

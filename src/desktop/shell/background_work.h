@@ -73,7 +73,8 @@ using WorkEnded = std::function<void(const WorkEnd& end)>;
 
 /// Runs work beside the interface and hands its result to the window that owns this, as long as it
 /// is there. For the interface thread. The functions that a piece ends with are called from the
-/// event loop, never from within the call that starts it; the window is free again by then.
+/// event loop, except by runAwaited() never from within the call that starts it; the window is free
+/// again by then.
 class BackgroundWork {
 public:
     BackgroundWork();
@@ -87,12 +88,21 @@ public:
     /// on for a moment when the window is gone.
     template <class Work, class Done>
     void run(Work work, Done done, OtherEnds otherwise = {}) {
-        begin(nullptr, std::move(work), std::move(done), std::move(otherwise));
+        begin({}, std::move(work), std::move(done), std::move(otherwise));
     }
     /// The same, shown over a window.
     template <class Work, class Done>
     void runOver(const ShownWork& shown, Work work, Done done, OtherEnds otherwise = {}) {
-        begin(&shown, std::move(work), std::move(done), std::move(otherwise));
+        begin({.shown = &shown}, std::move(work), std::move(done), std::move(otherwise));
+    }
+    /// The same for what a coach waits for, such as a file that is opened: no longer work keeps it
+    /// waiting, and the end is told before this returns where it comes within disk::patience(). So
+    /// a small file is there at once. What takes longer is shown over a window where one is given,
+    /// and none is waited for as long as it goes on.
+    template <class Work, class Done>
+    void runAwaited(Work work, Done done, OtherEnds otherwise = {}, const ShownWork& shown = {}) {
+        begin({.shown = &shown, .isAwaited = true}, std::move(work), std::move(done),
+              std::move(otherwise));
     }
 
     /// Asks what runs to stop; nothing of it is told.
@@ -101,6 +111,11 @@ public:
     [[nodiscard]] bool isRunning() const;
 
 private:
+    struct Way {
+        const ShownWork* shown = nullptr;
+        bool isAwaited = false;
+    };
+
     template <class Work>
     static decltype(auto) called(Work& work, const WorkSteps& steps) {
         if constexpr (std::is_invocable_v<Work&, const WorkSteps&>)
@@ -110,11 +125,11 @@ private:
     }
 
     template <class Work, class Done>
-    void begin(const ShownWork* shown, Work work, Done done, OtherEnds otherwise) {
+    void begin(const Way& way, Work work, Done done, OtherEnds otherwise) {
         using Result = decltype(called(std::declval<Work&>(), std::declval<const WorkSteps&>()));
         if constexpr (std::is_void_v<Result>) {
             start(
-                shown,
+                way,
                 [work = std::move(work)](const WorkSteps& steps) mutable { called(work, steps); },
                 [done = std::move(done),
                  otherwise = std::move(otherwise)](const WorkEnd& end) mutable {
@@ -124,7 +139,7 @@ private:
         } else {
             const auto result = std::make_shared<std::optional<std::decay_t<Result>>>();
             start(
-                shown,
+                way,
                 [work = std::move(work), result](const WorkSteps& steps) mutable {
                     result->emplace(called(work, steps));
                 },
@@ -138,7 +153,7 @@ private:
 
     /// Whether it brought a result; if not, the other end is told.
     [[nodiscard]] static bool isDone(const WorkEnd& end, const OtherEnds& otherwise);
-    void start(const ShownWork* shown, WorkTask task, WorkEnded ended);
+    void start(const Way& way, WorkTask task, WorkEnded ended);
 
     std::unique_ptr<QObject> m_pieces; ///< parent of what has yet to come back
 };

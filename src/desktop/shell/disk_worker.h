@@ -32,8 +32,8 @@ void runAwaited(QObject& context, std::function<void()> task,
 void writeAwaited(QObject& context, const std::filesystem::path& file, std::string content,
                   std::function<void(const std::exception_ptr& fault)> done);
 
-/// How long runAwaited() waits on the interface thread; so short at the start of the program that
-/// nobody notices. Another one is for tests. For the interface thread.
+/// How long this and BackgroundWork::runAwaited() wait on the interface thread; so short at the
+/// start of the program that nobody notices. Another one is for tests. For the interface thread.
 [[nodiscard]] std::chrono::milliseconds patience();
 void setPatience(std::chrono::milliseconds patience);
 

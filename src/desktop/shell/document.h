@@ -1,10 +1,14 @@
 #pragma once
 
+#include "common/error.h"
 #include "desktop/shell/edited_file.h"
+#include "desktop/shell/file_reading.h"
 #include "desktop/shell/packed_value.h"
 
 #include <functional>
 #include <memory>
+#include <string>
+#include <type_traits>
 #include <utility>
 
 namespace kavela::desktop {
@@ -45,6 +49,33 @@ protected:
         startFrom(std::move(value));
         begin(path, over);
         emit changed();
+    }
+
+    /// How a file is read and started from. `read` throws FileError or DecodeError; as it runs on
+    /// any thread, it touches nothing of the document. `valueOf` makes the value of what it gives.
+    /// `damaged` tells of a file that cannot be decoded, with a place for the fault.
+    template <class Read, class ValueOf = std::identity>
+    [[nodiscard]] FileReading readingBy(const QString& path, QWidget* over, const QString& damaged,
+                                        Read read, ValueOf valueOf = {}) {
+        return [this, path, over, damaged, read, valueOf]() -> TakeIn {
+            std::string reason;
+            try {
+                using Held = std::decay_t<std::invoke_result_t<const Read&>>;
+                const auto held = std::make_shared<Held>(read());
+                return [this, path, over, valueOf, held] {
+                    start(valueOf(std::move(*held)), path, over);
+                    return true;
+                };
+            } catch (const FileError& error) {
+                reason = error.reason();
+            } catch (const DecodeError& error) {
+                reason = damaged.arg(QString::fromStdString(error.what())).toStdString();
+            }
+            return [this, path, over, reason] {
+                tellUnreadable(path, reason, over);
+                return false;
+            };
+        };
     }
 
     /// No step of the undo stack leads behind this value.

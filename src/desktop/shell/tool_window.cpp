@@ -35,6 +35,23 @@ QStringList ToolWindow::paths() const {
     return m_file && !m_file->path().isEmpty() ? QStringList(m_file->path()) : QStringList();
 }
 
+/// What is edited while a file is read would be lost when it is taken over.
+void ToolWindow::openBeside(const QString& path, const Opened& opened) {
+    const FileReading reading = readingOf(path);
+    if (!reading) {
+        opened(open(path));
+        return;
+    }
+    OtherEnds otherwise;
+    otherwise.failed = [this, opened](const std::exception_ptr& fault) {
+        m_workspace.showAlert({"", messageOf(fault)}, this);
+        opened(false);
+    };
+    m_reading.runAwaited(
+        reading, [opened](const TakeIn& take) { opened(take()); }, std::move(otherwise),
+        {isVisible() ? this : nullptr, tr("Reading %1…").arg(QFileInfo(path).fileName())});
+}
+
 void ToolWindow::showTitle() {
     const QString tool = m_file->isSaving() ? tr("%1, saving…").arg(m_name.title) : m_name.title;
     setWindowTitle(m_file->title() + "[*] – " + tool + " – Kavela");

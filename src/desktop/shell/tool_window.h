@@ -1,7 +1,9 @@
 #pragma once
 
+#include "desktop/shell/background_work.h"
 #include "desktop/shell/command_palette.h"
 #include "desktop/shell/edited_file.h"
+#include "desktop/shell/file_reading.h"
 
 #include <QMainWindow>
 
@@ -48,12 +50,14 @@ public:
     /// What it shows of them, for the next start; empty where that is what it opens with.
     [[nodiscard]] virtual QString shownView() const { return {}; }
     /// Opens a file, in place of what is shown or beside it. False, after an alert, when it cannot
-    /// be opened; what is shown then stays.
-    [[nodiscard]] virtual bool open(const QString& path) = 0;
+    /// be opened; what is shown then stays. A window that opens what readingOf() reads has no other
+    /// way of its own.
+    [[nodiscard]] virtual bool open(const QString& path) { return readingOf(path)()(); }
     /// Hears whether it is open, maybe at once.
     using Opened = std::function<void(bool isOpen)>;
-    /// The same for whom reading a file may go on beside the window.
-    virtual void openBeside(const QString& path, const Opened& opened) { opened(open(path)); }
+    /// The same for whom reading a file may go on beside the window, which is locked meanwhile
+    /// where it is shown. Who has unsaved work in it was asked before.
+    virtual void openBeside(const QString& path, const Opened& opened);
     /// Shows where a number comes from, where that is something that the window shows itself; false
     /// where it is not.
     [[nodiscard]] virtual bool showOwnPlace(const Place& /*place*/) { return false; }
@@ -110,6 +114,8 @@ signals:
     void compareRequested(const kavela::desktop::CompareRequest& request);
 
 protected:
+    /// How a file is read and taken over; none where open() does it at once.
+    [[nodiscard]] virtual FileReading readingOf(const QString& /*path*/) { return {}; }
     /// Asks what becomes of unsaved work. Where it is to be saved, the window stays until it is
     /// written, says so, and closes then; what was edited meanwhile is asked for again.
     void closeEvent(QCloseEvent* event) override;
@@ -165,6 +171,7 @@ private:
     int m_leaving = 0;           ///< how much waits to take the place of what is being written
     bool m_isClosing = false;    ///< what is being written is waited for
     bool m_isSavedForIt = false; ///< it was written, and the window closes now
+    BackgroundWork m_reading;
 };
 
 } // namespace kavela::desktop

@@ -27,6 +27,8 @@ bool hasRunOf(const std::filesystem::path& splitFile, const std::string& film) {
         });
     } catch (const FileError&) {
         return false; // opening it will tell
+    } catch (const DecodeError&) {
+        return false;
     }
 }
 

@@ -11,20 +11,9 @@
 
 namespace kavela::desktop {
 
-bool TeamDocument::open(const QString& path, QWidget* over) {
-    std::string reason;
-    try {
-        start(readTeamFile(path.toStdString()), path, over);
-        return true;
-    } catch (const FileError& error) {
-        reason = error.reason();
-    } catch (const DecodeError& error) {
-        reason = tr("It is no team file, or a damaged one: %1")
-                     .arg(QString::fromStdString(error.what()))
-                     .toStdString();
-    }
-    tellUnreadable(path, reason, over);
-    return false;
+FileReading TeamDocument::reading(const QString& path, QWidget* over) {
+    return readingBy(path, over, tr("It is no team file, or a damaged one: %1"),
+                     [path] { return readTeamFile(path.toStdString()); });
 }
 
 void TeamDocument::startNew(const QString& path, QWidget* over) {

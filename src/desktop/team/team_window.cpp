@@ -83,11 +83,8 @@ void TeamWindow::connectParts() {
             [this](const SeasonPlace& race) { m_results->choose(race); });
 }
 
-bool TeamWindow::open(const QString& path) {
-    if (!m_document->open(path, this))
-        return false;
-    m_athletes->table().setFocus();
-    return true;
+FileReading TeamWindow::readingOf(const QString& path) {
+    return followedBy(m_document->reading(path, this), [this] { m_athletes->table().setFocus(); });
 }
 
 void TeamWindow::startNew(const QString& path) {

@@ -24,8 +24,6 @@ public:
     TeamWindow(Workspace& workspace, Autosave autosave);
     ~TeamWindow() override;
 
-    /// False, after an alert, when the file cannot be opened.
-    [[nodiscard]] bool open(const QString& path) override;
     /// A new team; the path is a folder, or a file that saving will propose.
     void startNew(const QString& path) override;
 
@@ -64,6 +62,7 @@ signals:
     void seasonRequested(const QString& athlete, const QString& category, const QString& teamFile);
 
 protected:
+    [[nodiscard]] FileReading readingOf(const QString& path) override;
     void takeFiles(const QStringList& paths) override;
 
 private:

@@ -31,23 +31,13 @@ fs::path filmOf(const track001& record, const fs::path& file) {
 
 } // namespace
 
-bool TrackDocument::open(const QString& path, QWidget* over) {
-    std::string reason;
-    try {
-        const std::filesystem::path file = QFileInfo(path).absoluteFilePath().toStdString();
+FileReading TrackDocument::reading(const QString& path, QWidget* over) {
+    const fs::path file = QFileInfo(path).absoluteFilePath().toStdString();
+    return readingBy(path, over, tr("It is no path on a film, or a damaged one: %1"), [file] {
         track001 record = readTrack(file);
         record.film = filmOf(record, file).string();
-        start(std::move(record), path, over);
-        return true;
-    } catch (const FileError& error) {
-        reason = error.reason();
-    } catch (const DecodeError& error) {
-        reason = tr("It is no path on a film, or a damaged one: %1")
-                     .arg(QString::fromStdString(error.what()))
-                     .toStdString();
-    }
-    tellUnreadable(path, reason, over);
-    return false;
+        return record;
+    });
 }
 
 void TrackDocument::startOn(const QString& film, QWidget* over) {

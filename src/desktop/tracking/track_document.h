@@ -14,9 +14,8 @@ public:
     using Document::Document;
     ~TrackDocument() override { keepPending(); }
 
-    /// False, after an alert that says what is wrong where, when it cannot be opened; the document
-    /// then stays as it is.
-    [[nodiscard]] bool open(const QString& path, QWidget* over);
+    /// What is wrong where is told in an alert.
+    [[nodiscard]] FileReading reading(const QString& path, QWidget* over);
     /// Begins a path on a film that has none; saving puts it beside the film.
     void startOn(const QString& film, QWidget* over);
 

@@ -172,17 +172,20 @@ void TrackingWindow::takeFailure(const QString& why) {
     tell(why);
 }
 
-bool TrackingWindow::open(const QString& path) {
+FileReading TrackingWindow::readingOf(const QString& path) {
     const bool isFilm = isVideoFile(QFileInfo(path).fileName().toStdString());
     const QString track =
         isFilm ? QString::fromStdString(
                      trackPathOf(QFileInfo(path).absoluteFilePath().toStdString()).string())
                : path;
-    if (isFilm && !QFileInfo::exists(track)) {
-        m_document->startOn(path, this);
-        return true;
-    }
-    return m_document->open(track, this);
+    if (!isFilm || QFileInfo::exists(track))
+        return m_document->reading(track, this);
+    return [this, path]() -> TakeIn {
+        return [this, path] {
+            m_document->startOn(path, this);
+            return true;
+        };
+    };
 }
 
 QStringList TrackingWindow::paths() const {

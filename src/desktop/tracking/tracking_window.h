@@ -33,9 +33,6 @@ public:
     TrackingWindow(Workspace& workspace, Autosave autosave);
     ~TrackingWindow() override;
 
-    /// A film, with the path that lies beside it, or a path. False, after an alert, when it cannot
-    /// be opened.
-    [[nodiscard]] bool open(const QString& path) override;
     /// The film as long as its path was never saved.
     [[nodiscard]] QStringList paths() const override;
 
@@ -69,6 +66,8 @@ signals:
     void figuresShown();
 
 protected:
+    /// Of a film, with the path that lies beside it, or of a path.
+    [[nodiscard]] FileReading readingOf(const QString& path) override;
     void takeFiles(const QStringList& paths) override;
 
 private:

@@ -12,20 +12,11 @@
 
 namespace kavela::desktop {
 
-bool TestsDocument::open(const QString& path, QWidget* over) {
-    std::string reason;
-    try {
-        start(listOf(readTestsFile(path.toStdString())), path, over);
-        return true;
-    } catch (const FileError& error) {
-        reason = error.reason();
-    } catch (const DecodeError& error) {
-        reason = tr("It is no file of tests, or a damaged one: %1")
-                     .arg(QString::fromStdString(error.what()))
-                     .toStdString();
-    }
-    tellUnreadable(path, reason, over);
-    return false;
+FileReading TestsDocument::reading(const QString& path, QWidget* over) {
+    return readingBy(
+        path, over, tr("It is no file of tests, or a damaged one: %1"),
+        [path] { return readTestsFile(path.toStdString()); },
+        [this](onWaterTests tests) { return listOf(std::move(tests)); });
 }
 
 void TestsDocument::startNew(const QString& path, QWidget* over) {

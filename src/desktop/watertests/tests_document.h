@@ -16,9 +16,8 @@ public:
     using Document::Document;
     ~TestsDocument() override { keepPending(); }
 
-    /// False, after an alert that says what is wrong where, when it cannot be opened; the document
-    /// then stays as it is.
-    [[nodiscard]] bool open(const QString& path, QWidget* over);
+    /// What is wrong where is told in an alert.
+    [[nodiscard]] FileReading reading(const QString& path, QWidget* over);
     /// A new file; the path is where saving will propose to put it.
     void startNew(const QString& path, QWidget* over);
     /// The same under a name that is free in a folder.

@@ -105,11 +105,8 @@ void TestsWindow::connectParts() {
     });
 }
 
-bool TestsWindow::open(const QString& path) {
-    if (!m_document->open(path, this))
-        return false;
-    m_list->table().setFocus();
-    return true;
+FileReading TestsWindow::readingOf(const QString& path) {
+    return followedBy(m_document->reading(path, this), [this] { m_list->table().setFocus(); });
 }
 
 void TestsWindow::startNew(const QString& path) {

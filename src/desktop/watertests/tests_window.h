@@ -24,8 +24,6 @@ public:
     TestsWindow(Workspace& workspace, Autosave autosave);
     ~TestsWindow() override;
 
-    /// False, after an alert, when the file cannot be opened.
-    [[nodiscard]] bool open(const QString& path) override;
     /// A new file; the path is a folder, or a file that saving will propose.
     void startNew(const QString& path) override;
 
@@ -55,6 +53,7 @@ public:
     void exportTable(const QString& path);
 
 protected:
+    [[nodiscard]] FileReading readingOf(const QString& path) override;
     void takeFiles(const QStringList& paths) override;
 
 private:
