@@ -25431,6 +25431,10 @@ hodnot záběrů %2, sprintu %3</translation>
         <source>Saving… What is to be opened follows when the file is written.</source>
         <translation>Ukládá se… Další se otevře, až bude soubor zapsán.</translation>
     </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Čte se %1…</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::TotalsChart</name>

@@ -25339,6 +25339,10 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
         <source>Saving… What is to be opened follows when the file is written.</source>
         <translation>Wird gespeichert… Was zu öffnen ist, folgt, wenn die Datei geschrieben ist.</translation>
     </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>%1 wird gelesen…</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::TotalsChart</name>

@@ -25339,6 +25339,10 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
         <source>Saving… What is to be opened follows when the file is written.</source>
         <translation>Guardando… Lo que se va a abrir viene cuando el archivo está escrito.</translation>
     </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Leyendo %1…</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::TotalsChart</name>

@@ -25339,6 +25339,10 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
         <source>Saving… What is to be opened follows when the file is written.</source>
         <translation>Enregistrement… Ce qui doit s’ouvrir suit quand le fichier est écrit.</translation>
     </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Lecture de %1…</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::TotalsChart</name>
