@@ -5,7 +5,6 @@
 #include "compose/composer.h"
 #include "compose/preview.h"
 #include "sample_files.h"
-#include "video/thumbnail.h"
 
 #include <benchmark/benchmark.h>
 
@@ -23,7 +22,6 @@ namespace kavela::bench {
 namespace {
 
 constexpr int ComposedSeconds = 4;
-constexpr int ThumbnailFilms = 200;
 
 std::vector<std::string> makingOf(const std::string& noise, const std::string& path) {
     return {KAVELA_FFMPEG, "-v",
@@ -131,28 +129,6 @@ void previewSecond(ComposedPair& pair) {
         benchmark::DoNotOptimize(preview.previewAt(double(i) / Pictures));
 }
 
-/// Films of a folder that is opened for the first time.
-void addThumbnails() {
-    benchmark::RegisterBenchmark(
-        "compose/thumbnails",
-        [](benchmark::State& state) {
-            static const ScratchFolder folder;
-            const auto first = folder.write("film 0.mp4", "");
-            static_cast<void>(outputOf(makingOf("4", first)));
-            for (int i = 1; i < ThumbnailFilms; ++i)
-                std::filesystem::copy_file(
-                    first, first.parent_path() / ("film " + std::to_string(i) + ".mp4"),
-                    std::filesystem::copy_options::overwrite_existing);
-            for ([[maybe_unused]] const auto iteration : state)
-                for (int i = 0; i < ThumbnailFilms; ++i)
-                    benchmark::DoNotOptimize(readThumbnail(
-                        first.parent_path() / ("film " + std::to_string(i) + ".mp4"), {320, 320}));
-        })
-        ->Iterations(1)
-        ->Repetitions(1)
-        ->UseRealTime();
-}
-
 } // namespace
 
 void addCompose() {
@@ -160,7 +136,6 @@ void addCompose() {
     addComposing("compose/side_by_side/ffmpeg", 3,
                  [](ComposedPair& pair) { pair.composeByPeer(); });
     addComposing("compose/preview_second", 3, previewSecond);
-    addThumbnails();
 }
 
 } // namespace kavela::bench

@@ -45,6 +45,7 @@ int main(int count, char** words) {
     addMotionAnalysis();
     addFacts(files);
     addCompose();
+    addFilmFolder();
     addTracking();
     ValueReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);

@@ -18,6 +18,7 @@ void addMotionAnalysis();
 /// Over so many split files, at least 20.
 void addFacts(std::size_t files);
 void addCompose();
+void addFilmFolder();
 void addTracking();
 
 } // namespace kavela::bench
