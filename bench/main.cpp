@@ -38,6 +38,7 @@ int main(int count, char** words) {
     addUpgrade();
     addMemory();
     addSeason();
+    addComparedSeason();
     addSplitTable();
     addShowCommand();
     addLosses();

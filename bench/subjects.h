@@ -10,6 +10,7 @@ void addSessionEncode();
 void addUpgrade();
 void addMemory();
 void addSeason();
+void addComparedSeason();
 void addSplitTable();
 void addShowCommand();
 void addLosses();
