@@ -125,6 +125,11 @@ QWidget* HomeWindow::tiles(const Tools& tools) {
     grid->addWidget(recentFiles(), free, std::max(0, columns - static_cast<int>(ColumnsOfRecent)),
                     std::max(RowsOfRecent, static_cast<int>(rows) + 1 - free),
                     static_cast<int>(ColumnsOfRecent));
+    QStringList purposes;
+    for (const ToolGroup& group : tools)
+        for (const Tool& tool : group.tools)
+            purposes.append(tool.purpose);
+    const int lines = Tile::linesFor(purposes, *this);
     int column = 0;
     for (const ToolGroup& group : tools) {
         auto* const heading = label(group.title, theme::titleFont(*this));
@@ -132,7 +137,7 @@ QWidget* HomeWindow::tiles(const Tools& tools) {
         grid->addWidget(heading, 0, column);
         int row = 1;
         for (const Tool& tool : group.tools)
-            grid->addWidget(new Tile(tool), row++, column);
+            grid->addWidget(new Tile(tool, lines), row++, column);
         ++column;
     }
     grid->setColumnStretch(column, 1);

@@ -17,16 +17,22 @@ constexpr int LeastWidth = 200; ///< four beside each other on a small screen
 constexpr int IconSize = 36;
 constexpr int Radius = 8;
 constexpr int Margin = 10;
-constexpr int PurposeLines = 2;
+constexpr int FewestLines = 2;
+constexpr int MostLines = 3; ///< some languages need more words
 
-/// The text in lines of that width, the last of them shortened where more would follow.
-QStringList linesOf(const QString& text, const QFont& font, int width) {
+/// Beside the icon, of a tile of that width.
+int wordsWidth(int width) {
+    return width - 2 * Margin - IconSize - Margin - theme::SmallSpacing;
+}
+
+/// The text in so many lines of that width, the last of them shortened where more would follow.
+QStringList linesOf(const QString& text, const QFont& font, int width, int most) {
     QTextLayout layout(text, font);
     QStringList lines;
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
-        if (lines.size() + 1 == PurposeLines) {
+        if (lines.size() + 1 == most) {
             lines.append(
                 QFontMetrics(font).elidedText(text.mid(line.textStart()), Qt::ElideRight, width));
             break;
@@ -39,7 +45,18 @@ QStringList linesOf(const QString& text, const QFont& font, int width) {
 
 } // namespace
 
-Tile::Tile(const Tool& tool, QWidget* parent) : QAbstractButton(parent), m_purpose(tool.purpose) {
+int Tile::linesFor(const QStringList& purposes, const QWidget& over) {
+    constexpr int UsualWidth = 250; // four beside each other on 1280 pixels
+    const QFont small = theme::captionFont(over);
+    const int width = wordsWidth(grown(over, UsualWidth));
+    qsizetype lines = FewestLines;
+    for (const QString& purpose : purposes)
+        lines = std::max(lines, linesOf(purpose, small, width, MostLines).size());
+    return static_cast<int>(lines);
+}
+
+Tile::Tile(const Tool& tool, int lines, QWidget* parent)
+    : QAbstractButton(parent), m_purpose(tool.purpose), m_lines(lines) {
     setText(tool.title);
     setIcon(tool.icon);
     setToolTip(tool.purpose);
@@ -54,7 +71,7 @@ Tile::Tile(const Tool& tool, QWidget* parent) : QAbstractButton(parent), m_purpo
 QSize Tile::sizeHint() const {
     const int title = QFontMetrics(theme::titleFont(*this)).height();
     const int line = QFontMetrics(theme::captionFont(*this)).height();
-    const int words = title + theme::SmallSpacing + PurposeLines * line;
+    const int words = title + theme::SmallSpacing + m_lines * line;
     return {grown(*this, TileWidth), std::max(words, IconSize) + 2 * Margin};
 }
 
@@ -85,7 +102,7 @@ void Tile::paintEvent(QPaintEvent*) {
     painter.setFont(small);
     painter.setPen(theme::quietText(palette()));
     painter.drawText(words, Qt::AlignLeft | Qt::AlignTop,
-                     linesOf(m_purpose, small, words.width()).join('\n'));
+                     linesOf(m_purpose, small, words.width(), m_lines).join('\n'));
 }
 
 void Tile::enterEvent(QEnterEvent* event) {

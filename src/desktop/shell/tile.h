@@ -6,12 +6,16 @@
 
 namespace kavela::desktop {
 
-/// A tool on the home screen: icon, title, and one line that says what it is for.
+/// A tool on the home screen: icon, title, and some lines that say what it is for.
 class Tile : public QAbstractButton {
     Q_OBJECT
 
 public:
-    explicit Tile(const Tool& tool, QWidget* parent = nullptr);
+    /// How many lines the longest of these takes: tiles beside each other are equally high. A third
+    /// one where two do not hold it.
+    [[nodiscard]] static int linesFor(const QStringList& purposes, const QWidget& over);
+
+    Tile(const Tool& tool, int lines, QWidget* parent = nullptr);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -23,6 +27,7 @@ protected:
 
 private:
     QString m_purpose;
+    int m_lines;
 };
 
 } // namespace kavela::desktop
