@@ -40,6 +40,7 @@ int main(int count, char** words) {
     addSeason();
     addComparedSeason();
     addSplitTable();
+    addSpreadsheet();
     addShowCommand();
     addLosses();
     addVideo();

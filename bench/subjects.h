@@ -12,6 +12,7 @@ void addMemory();
 void addSeason();
 void addComparedSeason();
 void addSplitTable();
+void addSpreadsheet();
 void addShowCommand();
 void addLosses();
 void addVideo();
