@@ -4,6 +4,7 @@
 #include "child_process.h"
 #include "compose/composer.h"
 #include "compose/preview.h"
+#include "made_film.h"
 #include "sample_files.h"
 
 #include <benchmark/benchmark.h>
@@ -23,26 +24,13 @@ namespace {
 
 constexpr int ComposedSeconds = 4;
 
-std::vector<std::string> makingOf(const std::string& noise, const std::string& path) {
-    return {KAVELA_FFMPEG, "-v",
-            "error",       "-y",
-            "-f",          "lavfi",
-            "-i",          "testsrc2=size=1920x1080:rate=50,noise=alls=" + noise + ":allf=t",
-            "-t",          std::to_string(ComposedSeconds),
-            "-c:v",        "libx264",
-            "-preset",     "superfast",
-            "-b:v",        "20M",
-            "-pix_fmt",    "yuv420p",
-            path};
-}
-
 class ComposedPair {
 public:
     ComposedPair() {
         for (const char* const name : {"first.mp4", "second.mp4"}) {
             ComposedFilm film;
             film.path = m_folder.write(name, "");
-            static_cast<void>(outputOf(makingOf(m_asked.films.empty() ? "6" : "8", film.path)));
+            makeFilm(film.path, ComposedSeconds, m_asked.films.empty() ? 6 : 8);
             film.run = {name, "K1M", {0.0, 1.0, 3.0}, {0.0, 1.0, 3.0}, {0, 2}};
             m_asked.films.push_back(film);
         }

@@ -1,6 +1,6 @@
 #include "subjects.h"
 
-#include "child_process.h"
+#include "made_film.h"
 #include "sample_files.h"
 #include "splittaking/folder/film_list.h"
 #include "splittaking/video_names.h"
@@ -22,6 +22,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int FolderFilms = 200;
+constexpr int FolderFilmSeconds = 10;
 constexpr int FilmsOnScreen = 16;
 constexpr std::size_t FolderCache = std::size_t{256} << 20;
 
@@ -29,10 +30,7 @@ constexpr std::size_t FolderCache = std::size_t{256} << 20;
 class FilmsOnDisk {
 public:
     FilmsOnDisk() : m_first(m_folder.write("Athlete 0 Heats.mp4", "")) {
-        static_cast<void>(outputOf({KAVELA_FFMPEG, "-v", "error", "-y", "-f", "lavfi", "-i",
-                                    "testsrc2=size=1920x1080:rate=50,noise=alls=4:allf=t", "-t",
-                                    "10", "-c:v", "libx264", "-preset", "superfast", "-b:v", "20M",
-                                    "-pix_fmt", "yuv420p", m_first.string()}));
+        makeFilm(m_first, FolderFilmSeconds, 4);
         for (int i = 1; i < FolderFilms; ++i) {
             fs::remove(film(i));
             fs::create_hard_link(m_first, film(i));
