@@ -49,6 +49,7 @@ int main(int count, char** words) {
     addCompose();
     addFilmFolder();
     addTracking();
+    addSlit();
     ValueReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return printRatios(reporter.values()) > 0 ? 1 : 0;

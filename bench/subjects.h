@@ -22,5 +22,6 @@ void addFacts(std::size_t files);
 void addCompose();
 void addFilmFolder();
 void addTracking();
+void addSlit();
 
 } // namespace kavela::bench
