@@ -1,12 +1,5 @@
 #include "desktop/taking/day/watched_films.h"
 
-#include "splittaking/video_names.h"
-#include "video/recording_date.h"
-
-#include <QDateTime>
-#include <QDir>
-#include <QFileInfo>
-
 #include <algorithm>
 #include <chrono>
 #include <utility>
@@ -18,67 +11,13 @@ namespace {
 constexpr int SoonMilliseconds = 200; ///< a program that copies changes a folder several times
 /// Cameras put their films into folders within folders; a whole disk is no answer.
 constexpr int DepthOfCards = 3;
-constexpr std::size_t MostFilms = 5000;
 
 double steadySeconds() {
     return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch())
         .count();
 }
 
-void addFilmsIn(const QDir& folder, const QString& within, int depth, QFileInfoList& found,
-                QStringList& names) {
-    for (const QFileInfo& file : folder.entryInfoList(QDir::Files, QDir::Name)) {
-        if (static_cast<std::size_t>(found.size()) >= MostFilms)
-            return;
-        if (isVideoFile(file.fileName().toStdString())) {
-            found.append(file);
-            names.append(within + file.fileName());
-        }
-    }
-    if (depth <= 0)
-        return;
-    for (const QFileInfo& inner :
-         folder.entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name))
-        addFilmsIn(QDir(inner.filePath()), within + inner.fileName() + '/', depth - 1, found,
-                   names);
-}
-
-RecordedFilm recordedFilm(const FilmRecording& read, const QFileInfo& file) {
-    const double written = static_cast<double>(file.lastModified().toMSecsSinceEpoch()) / 1000;
-    return {read.began, ReferenceDate{written - SecondsFrom1970To2001}, read.seconds};
-}
-
 } // namespace
-
-void WatchedFilms::Folder::look(double now, const WorkSteps& steps) {
-    if (folder.isEmpty())
-        return;
-    isThere = QFileInfo(folder).isDir();
-    QFileInfoList found;
-    QStringList names;
-    if (isThere)
-        addFilmsIn(QDir(folder), {}, depth, found, names);
-    std::map<std::string, GrowingFilms::Found> sizes;
-    std::map<std::string, QFileInfo> infos;
-    for (qsizetype i = 0; i < found.size(); ++i) {
-        const std::string name = names[i].toStdString();
-        sizes[name] = {static_cast<std::uintmax_t>(found[i].size()),
-                       found[i].lastModified().toMSecsSinceEpoch()};
-        infos[name] = found[i];
-    }
-    for (const std::string& rested : tracker.look(sizes, now)) {
-        if (steps.isCancelled())
-            return;
-        const auto read = recordingOf(infos[rested].filePath().toStdString());
-        tracker.noteRead(rested, read.has_value());
-        if (read)
-            recordings[rested] = recordedFilm(*read, infos[rested]);
-    }
-    files.clear();
-    for (const auto& [name, size] : sizes)
-        files.push_back({name, size.bytes, tracker.isWhole(name), tracker.isBroken(name)});
-    std::erase_if(recordings, [&](const auto& each) { return !tracker.isWhole(each.first); });
-}
 
 WatchedFilms::WatchedFilms(QObject* parent) : QObject(parent) {
     m_soon.setSingleShot(true);
@@ -94,7 +33,7 @@ WatchedFilms::~WatchedFilms() = default;
 void WatchedFilms::setPace(const Pace& pace) {
     m_pace = pace;
     m_regular.setInterval(pace.lookMilliseconds);
-    for (Folder* const folder : {&m_here, &m_card})
+    for (WatchedFolder* const folder : {&m_here, &m_card})
         folder->tracker = GrowingFilms(pace.restSeconds);
     ++m_watch; // a look that goes on has another pace
     m_isLooking = false;
@@ -117,7 +56,7 @@ void WatchedFilms::watch(const QString& here, const QString& card) {
 
 void WatchedFilms::watchFolders() {
     QStringList wanted;
-    for (const Folder* const folder : {&m_here, &m_card})
+    for (const WatchedFolder* const folder : {&m_here, &m_card})
         if (folder->isThere)
             wanted.append(folder->folder);
     const QStringList watched = m_watcher.directories();
@@ -134,11 +73,11 @@ void WatchedFilms::look() {
         return;
     m_isLooking = true;
     m_renamed.clear();
-    using Folders = std::pair<Folder, Folder>;
+    using Folders = std::pair<WatchedFolder, WatchedFolder>;
     m_work.run(
         [folders = Folders(m_here, m_card), now = steadySeconds()](const WorkSteps& steps) mutable {
-            folders.first.look(now, steps);
-            folders.second.look(now, steps);
+            folders.first.look(now, steps.stopToken());
+            folders.second.look(now, steps.stopToken());
             return std::move(folders);
         },
         [this, watch = m_watch](Folders folders) {
@@ -151,9 +90,9 @@ void WatchedFilms::look() {
         }});
 }
 
-void WatchedFilms::take(Folder here, Folder card) {
+void WatchedFilms::take(WatchedFolder here, WatchedFolder card) {
     m_isLooking = false;
-    const auto same = [](const Folder& a, const Folder& b) {
+    const auto same = [](const WatchedFolder& a, const WatchedFolder& b) {
         return a.isThere == b.isThere &&
                std::ranges::equal(a.files, b.files, [](const FilmFile& one, const FilmFile& two) {
                    return one.path == two.path && one.bytes == two.bytes &&

@@ -1,28 +1,18 @@
 #pragma once
 
-#include "common/reference_date.h"
 #include "desktop/shell/background_work.h"
-#include "splittaking/race_day/film_sources.h"
-#include "splittaking/race_day/growing_films.h"
+#include "desktop/taking/day/watched_folder.h"
 
 #include <QFileSystemWatcher>
 #include <QObject>
 #include <QStringList>
 #include <QTimer>
 
-#include <map>
-#include <memory>
-#include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace kavela::desktop {
-
-/// What the head of a film and its file say of its recording.
-struct RecordedFilm {
-    std::optional<ReferenceDate> byCamera; ///< when it began
-    ReferenceDate written;                 ///< its file, which is about when it ended
-    double seconds = 0;                    ///< 0 where that is not known
-};
 
 /// The films of a folder, looked at again and again beside the window: cards and synchronised
 /// folders do not always tell that something came.
@@ -62,25 +52,13 @@ signals:
     void changed();
 
 private:
-    /// A folder as it was found. A look works on a copy of it.
-    struct Folder {
-        QString folder;
-        int depth = 0; ///< of the folders within it that are looked through
-        bool isThere = false;
-        GrowingFilms tracker{0};
-        std::map<std::string, RecordedFilm> recordings = {}; ///< of the films that are whole
-        std::vector<FilmFile> files = {};
-
-        void look(double now, const WorkSteps& steps);
-    };
-
     void look();
-    void take(Folder here, Folder card);
+    void take(WatchedFolder here, WatchedFolder card);
     void watchFolders();
 
     Pace m_pace;
-    Folder m_here;
-    Folder m_card;
+    WatchedFolder m_here;
+    WatchedFolder m_card;
     std::vector<std::pair<std::string, std::string>> m_renamed; ///< while a look goes on
     bool m_isLooking = false;
     int m_watch = 0; ///< number of the folders that are watched now
