@@ -48,6 +48,7 @@ int main(int count, char** words) {
     addFacts(files);
     addCompose();
     addFilmFolder();
+    addRaceDay();
     addTracking();
     addSlit();
     ValueReporter reporter;

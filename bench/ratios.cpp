@@ -127,6 +127,8 @@ constexpr std::array Lines{
     Line{"200 thumbnails, 1080p", Milliseconds, "films/thumbnails_200"},
     Line{"The next film, not opened ahead", Milliseconds, "films/next", nullptr, Target::AtMost,
          300},
+    Line{"Race day of 300 films, read and matched", Milliseconds, "race_day/300_films/first_look"},
+    Line{"  … a later look at them", Milliseconds, "race_day/300_films/later_look"},
     Line{"Strokes of an hour at 100 samples a second", Milliseconds, "motion/analysis"},
     Line{"  … of the time to decode it", Times, "motion/analysis", "motion/decode", Target::AtMost,
          0.15},

@@ -21,6 +21,7 @@ void addMotionAnalysis();
 void addFacts(std::size_t files);
 void addCompose();
 void addFilmFolder();
+void addRaceDay();
 void addTracking();
 void addSlit();
 
