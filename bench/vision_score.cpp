@@ -111,7 +111,7 @@ std::vector<Proposal> proposalsOfPeer(const RiverScene& scene) {
         const double seconds = scene.secondsOf(frame);
         const bool isFree = proposals.empty() || seconds - proposals.back().seconds > 1;
         if (most * 4 >= hull * 3 && isFree && frame > 50)
-            proposals.push_back({frame, seconds, 1});
+            proposals.push_back({frame, seconds, 1, frame, seconds});
     }
     return proposals;
 }
@@ -119,6 +119,7 @@ std::vector<Proposal> proposalsOfPeer(const RiverScene& scene) {
 
 void scoreScenes(std::uint32_t seed, double seconds) {
     RiverScore ours;
+    RiverScore bodies;
     RiverScore peers;
     for (const ScoredScene& scored : scoredScenes(seed, seconds)) {
         const RiverScene scene(scored.recipe);
@@ -127,9 +128,14 @@ void scoreScenes(std::uint32_t seed, double seconds) {
             return (spent - drawing) / static_cast<double>(scene.frames()) * 1000;
         };
         double before = processorSeconds();
-        RiverScore score = scoreOf(scene, crossingsOf(scene).proposals);
-        print(scored.name, "kavela", score, perFrame(processorSeconds() - before));
+        const Crossings found = crossingsOf(scene);
+        const double spent = processorSeconds() - before;
+        RiverScore score = scoreOf(scene, found.proposals);
+        print(scored.name, "kavela", score, perFrame(spent));
         ours.add(score);
+        score = scoreOf(scene, found.proposals, TimingPoint::Body);
+        print(scored.name, "body", score, perFrame(spent));
+        bodies.add(score);
 #ifdef KAVELA_HAS_MOG2
         before = processorSeconds();
         score = scoreOf(scene, proposalsOfPeer(scene));
@@ -138,6 +144,7 @@ void scoreScenes(std::uint32_t seed, double seconds) {
 #endif
     }
     print("all", "kavela", ours, 0);
+    print("all", "body", bodies, 0);
     fmt::print("{:.1f} false an hour\n", ours.falseOnes / ours.minutes * 60);
     if (peers.boats > 0)
         print("all", "MOG2", peers, 0);

@@ -963,6 +963,42 @@
         <source>On this frame stands the mark of %1.</source>
         <translation>Na tomto snímku stojí značka: %1.</translation>
     </message>
+    <message>
+        <source>No other film of this folder has lines.</source>
+        <translation>Žádný jiný film v této složce nemá čáry.</translation>
+    </message>
+    <message>
+        <source>The lines of “%1” were drawn over a picture of %2 × %3 pixels; this film has %4 × %5.</source>
+        <translation>Čáry filmu „%1“ byly nakresleny přes obraz %2 × %3 pixelů; tento film má %4 × %5.</translation>
+    </message>
+    <message>
+        <source>Press N and draw a line across the water in the film above: what stands on it is shown here over time.</source>
+        <translation>Stiskněte N a nakreslete ve filmu nahoře čáru přes vodu: co je na ní vidět, se zde ukáže v čase.</translation>
+    </message>
+    <message>
+        <source>Or press L for the lines of “%1”.</source>
+        <translation>Nebo stiskněte L pro čáry filmu „%1“.</translation>
+    </message>
+    <message>
+        <source>“%1” is timed at the bow: one race needs one point.</source>
+        <translation>„%1“ se měří na špičce: závod potřebuje jeden bod.</translation>
+    </message>
+    <message>
+        <source>“%1” is timed at the body: one race needs one point.</source>
+        <translation>„%1“ se měří na těle: závod potřebuje jeden bod.</translation>
+    </message>
+    <message>
+        <source>A mark of this line was made before: look at it again.</source>
+        <translation>Jedna značka této čáry vznikla dříve: podívej se na ni znovu.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n marks of this line were made before: look at them again.</source>
+        <translation>
+            <numerusform>%n značka této čáry vznikla dříve: podívej se na ni znovu.</numerusform>
+            <numerusform>%n značky této čáry vznikly dříve: podívej se na ně znovu.</numerusform>
+            <numerusform>%n značek této čáry vzniklo dříve: podívej se na ně znovu.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>SplitStatistics</name>
@@ -9199,6 +9235,10 @@
     <message>
         <source>The four known points do not fit together: no view of flat water shows them so. Were two of them exchanged?</source>
         <translation>Čtyři známé body k sobě nepasují: žádný pohled na rovnou vodu je tak neukáže. Nebyly dva z nich zaměněny?</translation>
+    </message>
+    <message>
+        <source>“bow” or “body” was expected</source>
+        <translation>očekávalo se “bow” nebo “body”</translation>
     </message>
 </context>
 <context>
@@ -23040,8 +23080,8 @@ a dalších %1</translation>
         <translation>Uložit vodu kolem značek</translation>
     </message>
     <message>
-        <source>Bands (*.bands)</source>
-        <translation>Pásy (*.bands)</translation>
+        <source>Bands (*.kvband)</source>
+        <translation>Pásy (*.kvband)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -23187,6 +23227,10 @@ a dalších %1</translation>
         <source>&amp;Normal speed</source>
         <translation>&amp;Normální rychlost</translation>
     </message>
+    <message>
+        <source>Take &amp;over the lines of another film</source>
+        <translation>Pře&amp;vzít čáry jiného filmu</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SlitKeeping</name>
@@ -23256,6 +23300,26 @@ a dalších %1</translation>
         <source>The runs that are seen on this film are listed here.</source>
         <translation>Zde se vypíší jízdy, které jsou na tomto filmu vidět.</translation>
     </message>
+    <message>
+        <source>the bow</source>
+        <translation>špička</translation>
+    </message>
+    <message>
+        <source>the body</source>
+        <translation>tělo</translation>
+    </message>
+    <message>
+        <source>What is timed at the lines of this film: one point for a whole race. Proposals tell when it crosses.</source>
+        <translation>Co se na čarách tohoto filmu měří: jeden bod pro celý závod. Návrhy říkají, kdy čáru protne.</translation>
+    </message>
+    <message>
+        <source>Ti&amp;med is</source>
+        <translation>&amp;Měří se</translation>
+    </message>
+    <message>
+        <source>Look for boats (Ctrl+B): where they may have crossed is listed here.</source>
+        <translation>Vyhledejte lodě (Ctrl+B): kde mohly čáru protnout, se vypíše zde.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SlitRace</name>
@@ -23305,6 +23369,14 @@ a dalších %1</translation>
     <message>
         <source>The picture could not be saved: %1</source>
         <translation>Obrázek nelze uložit: %1</translation>
+    </message>
+    <message>
+        <source>There is no slit picture yet.</source>
+        <translation>Zatím zde není štěrbinový obraz.</translation>
+    </message>
+    <message>
+        <source>That part is not read yet.</source>
+        <translation>Tato část ještě není přečtena.</translation>
     </message>
 </context>
 <context>
@@ -23360,10 +23432,6 @@ a dalších %1</translation>
         <translation>Otevřete film z kamery na stativu (Ctrl+O).</translation>
     </message>
     <message>
-        <source>Press N and draw a line across the water in the film above: what stands on it is shown here over time.</source>
-        <translation>Stiskněte N a nakreslete ve filmu nahoře čáru přes vodu: co je na ní vidět, se zde ukáže v čase.</translation>
-    </message>
-    <message>
         <source>Reading the film…</source>
         <translation>Čte se film…</translation>
     </message>
@@ -23400,16 +23468,12 @@ a dalších %1</translation>
         <translation>Návrhy se přijímají jednotlivě</translation>
     </message>
     <message>
-        <source>There is no slit picture yet.</source>
-        <translation>Zatím zde není štěrbinový obraz.</translation>
-    </message>
-    <message>
-        <source>That part is not read yet.</source>
-        <translation>Tato část ještě není přečtena.</translation>
-    </message>
-    <message>
         <source>There is nothing to learn from yet: look for boats, then mark and refuse what was found.</source>
         <translation>Zatím není z čeho se učit: hledejte lodě, pak nalezené označte a odmítněte.</translation>
+    </message>
+    <message>
+        <source>The film is not read so far.</source>
+        <translation>Film ještě není načten.</translation>
     </message>
 </context>
 <context>

@@ -962,6 +962,41 @@
         <source>On this frame stands the mark of %1.</source>
         <translation>Auf diesem Bild steht die Marke von %1.</translation>
     </message>
+    <message>
+        <source>No other film of this folder has lines.</source>
+        <translation>Kein anderer Film dieses Ordners hat Linien.</translation>
+    </message>
+    <message>
+        <source>The lines of “%1” were drawn over a picture of %2 × %3 pixels; this film has %4 × %5.</source>
+        <translation>Die Linien von „%1“ wurden über ein Bild von %2 × %3 Pixeln gezogen; dieser Film hat %4 × %5.</translation>
+    </message>
+    <message>
+        <source>Press N and draw a line across the water in the film above: what stands on it is shown here over time.</source>
+        <translation>N drücken und im Film oben eine Linie übers Wasser ziehen: hier erscheint, was über die Zeit auf ihr steht.</translation>
+    </message>
+    <message>
+        <source>Or press L for the lines of “%1”.</source>
+        <translation>Oder L für die Linien von „%1“.</translation>
+    </message>
+    <message>
+        <source>“%1” is timed at the bow: one race needs one point.</source>
+        <translation>„%1“ ist am Bug gemessen: Ein Rennen braucht einen Punkt.</translation>
+    </message>
+    <message>
+        <source>“%1” is timed at the body: one race needs one point.</source>
+        <translation>„%1“ ist am Körper gemessen: Ein Rennen braucht einen Punkt.</translation>
+    </message>
+    <message>
+        <source>A mark of this line was made before: look at it again.</source>
+        <translation>Eine Marke dieser Linie ist älter: Sehen Sie sie noch einmal an.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n marks of this line were made before: look at them again.</source>
+        <translation>
+            <numerusform>Eine Marke dieser Linie ist älter: Sehen Sie sie noch einmal an.</numerusform>
+            <numerusform>%n Marken dieser Linie sind älter: Sehen Sie sie noch einmal an.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>SplitStatistics</name>
@@ -9142,6 +9177,10 @@
     <message>
         <source>The four known points do not fit together: no view of flat water shows them so. Were two of them exchanged?</source>
         <translation>Die vier bekannten Punkte passen nicht zusammen: kein Blick auf ebenes Wasser zeigt sie so. Wurden zwei vertauscht?</translation>
+    </message>
+    <message>
+        <source>“bow” or “body” was expected</source>
+        <translation>“bow” oder “body” wurde erwartet</translation>
     </message>
 </context>
 <context>
@@ -22956,8 +22995,8 @@ und %1 weitere</translation>
         <translation>Wasser um die Marken speichern</translation>
     </message>
     <message>
-        <source>Bands (*.bands)</source>
-        <translation>Streifen (*.bands)</translation>
+        <source>Bands (*.kvband)</source>
+        <translation>Streifen (*.kvband)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -23103,6 +23142,10 @@ und %1 weitere</translation>
         <source>&amp;Normal speed</source>
         <translation>&amp;Normales Tempo</translation>
     </message>
+    <message>
+        <source>Take &amp;over the lines of another film</source>
+        <translation>Linien eines anderen Films ü&amp;bernehmen</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SlitKeeping</name>
@@ -23172,6 +23215,26 @@ und %1 weitere</translation>
         <source>The runs that are seen on this film are listed here.</source>
         <translation>Hier stehen die Läufe, die auf diesem Film zu sehen sind.</translation>
     </message>
+    <message>
+        <source>the bow</source>
+        <translation>der Bug</translation>
+    </message>
+    <message>
+        <source>the body</source>
+        <translation>der Körper</translation>
+    </message>
+    <message>
+        <source>What is timed at the lines of this film: one point for a whole race. Proposals tell when it crosses.</source>
+        <translation>Was an den Linien dieses Films gemessen wird: ein Punkt für ein ganzes Rennen. Vorschläge sagen, wann er die Linie kreuzt.</translation>
+    </message>
+    <message>
+        <source>Ti&amp;med is</source>
+        <translation>Ge&amp;messen wird</translation>
+    </message>
+    <message>
+        <source>Look for boats (Ctrl+B): where they may have crossed is listed here.</source>
+        <translation>Suchen Sie nach Booten (Strg+B): Wo sie die Linie gekreuzt haben könnten, steht dann hier.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SlitRace</name>
@@ -23221,6 +23284,14 @@ und %1 weitere</translation>
     <message>
         <source>The picture could not be saved: %1</source>
         <translation>Das Bild konnte nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>There is no slit picture yet.</source>
+        <translation>Es gibt noch kein Schlitzbild.</translation>
+    </message>
+    <message>
+        <source>That part is not read yet.</source>
+        <translation>Dieser Teil ist noch nicht gelesen.</translation>
     </message>
 </context>
 <context>
@@ -23276,10 +23347,6 @@ und %1 weitere</translation>
         <translation>Den Film einer Kamera auf einem Stativ öffnen (Strg+O).</translation>
     </message>
     <message>
-        <source>Press N and draw a line across the water in the film above: what stands on it is shown here over time.</source>
-        <translation>N drücken und im Film oben eine Linie übers Wasser ziehen: hier erscheint, was über die Zeit auf ihr steht.</translation>
-    </message>
-    <message>
         <source>Reading the film…</source>
         <translation>Film wird gelesen…</translation>
     </message>
@@ -23316,16 +23383,12 @@ und %1 weitere</translation>
         <translation>Vorschläge werden einzeln angenommen</translation>
     </message>
     <message>
-        <source>There is no slit picture yet.</source>
-        <translation>Es gibt noch kein Schlitzbild.</translation>
-    </message>
-    <message>
-        <source>That part is not read yet.</source>
-        <translation>Dieser Teil ist noch nicht gelesen.</translation>
-    </message>
-    <message>
         <source>There is nothing to learn from yet: look for boats, then mark and refuse what was found.</source>
         <translation>Noch ist nichts zu lernen: Boote suchen, dann markieren und ablehnen, was gefunden wurde.</translation>
+    </message>
+    <message>
+        <source>The film is not read so far.</source>
+        <translation>Der Film ist noch nicht so weit gelesen.</translation>
     </message>
 </context>
 <context>

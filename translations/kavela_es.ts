@@ -962,6 +962,41 @@
         <source>On this frame stands the mark of %1.</source>
         <translation>En este fotograma está la marca de %1.</translation>
     </message>
+    <message>
+        <source>No other film of this folder has lines.</source>
+        <translation>Ningún otro vídeo de esta carpeta tiene líneas.</translation>
+    </message>
+    <message>
+        <source>The lines of “%1” were drawn over a picture of %2 × %3 pixels; this film has %4 × %5.</source>
+        <translation>Las líneas de «%1» se dibujaron sobre una imagen de %2 × %3 píxeles; este vídeo tiene %4 × %5.</translation>
+    </message>
+    <message>
+        <source>Press N and draw a line across the water in the film above: what stands on it is shown here over time.</source>
+        <translation>Pulsa N y dibuja una línea a través del agua en el vídeo de arriba: lo que hay en ella se muestra aquí a lo largo del tiempo.</translation>
+    </message>
+    <message>
+        <source>Or press L for the lines of “%1”.</source>
+        <translation>O pulse L para tomar las líneas de «%1».</translation>
+    </message>
+    <message>
+        <source>“%1” is timed at the bow: one race needs one point.</source>
+        <translation>«%1» se cronometra en la proa: una carrera necesita un solo punto.</translation>
+    </message>
+    <message>
+        <source>“%1” is timed at the body: one race needs one point.</source>
+        <translation>«%1» se cronometra en el cuerpo: una carrera necesita un solo punto.</translation>
+    </message>
+    <message>
+        <source>A mark of this line was made before: look at it again.</source>
+        <translation>Una marca de esta línea se hizo antes: revísela.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n marks of this line were made before: look at them again.</source>
+        <translation>
+            <numerusform>Una marca de esta línea se hizo antes: revísela.</numerusform>
+            <numerusform>%n marcas de esta línea se hicieron antes: revíselas.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>SplitStatistics</name>
@@ -9142,6 +9177,10 @@
     <message>
         <source>The four known points do not fit together: no view of flat water shows them so. Were two of them exchanged?</source>
         <translation>Los cuatro puntos conocidos no encajan: ninguna vista de agua plana los muestra así. ¿Se han intercambiado dos?</translation>
+    </message>
+    <message>
+        <source>“bow” or “body” was expected</source>
+        <translation>se esperaba “bow” o “body”</translation>
     </message>
 </context>
 <context>
@@ -22956,8 +22995,8 @@ y %1 más</translation>
         <translation>Guardar el agua en torno a las marcas</translation>
     </message>
     <message>
-        <source>Bands (*.bands)</source>
-        <translation>Bandas (*.bands)</translation>
+        <source>Bands (*.kvband)</source>
+        <translation>Bandas (*.kvband)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -23103,6 +23142,10 @@ y %1 más</translation>
         <source>&amp;Normal speed</source>
         <translation>Velocidad &amp;normal</translation>
     </message>
+    <message>
+        <source>Take &amp;over the lines of another film</source>
+        <translation>&amp;Tomar las líneas de otro vídeo</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SlitKeeping</name>
@@ -23172,6 +23215,26 @@ y %1 más</translation>
         <source>The runs that are seen on this film are listed here.</source>
         <translation>Aquí se enumeran las mangas que se ven en este vídeo.</translation>
     </message>
+    <message>
+        <source>the bow</source>
+        <translation>la proa</translation>
+    </message>
+    <message>
+        <source>the body</source>
+        <translation>el cuerpo</translation>
+    </message>
+    <message>
+        <source>What is timed at the lines of this film: one point for a whole race. Proposals tell when it crosses.</source>
+        <translation>Qué se cronometra en las líneas de este vídeo: un solo punto para toda la carrera. Las propuestas dicen cuándo cruza.</translation>
+    </message>
+    <message>
+        <source>Ti&amp;med is</source>
+        <translation>Se &amp;mide</translation>
+    </message>
+    <message>
+        <source>Look for boats (Ctrl+B): where they may have crossed is listed here.</source>
+        <translation>Busque barcos (Ctrl+B): aquí aparecerá dónde pueden haber cruzado.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SlitRace</name>
@@ -23221,6 +23284,14 @@ y %1 más</translation>
     <message>
         <source>The picture could not be saved: %1</source>
         <translation>No se pudo guardar la imagen: %1</translation>
+    </message>
+    <message>
+        <source>There is no slit picture yet.</source>
+        <translation>Aún no hay imagen de línea.</translation>
+    </message>
+    <message>
+        <source>That part is not read yet.</source>
+        <translation>Esa parte aún no se ha leído.</translation>
     </message>
 </context>
 <context>
@@ -23276,10 +23347,6 @@ y %1 más</translation>
         <translation>Abre el vídeo de una cámara en trípode (Ctrl+O).</translation>
     </message>
     <message>
-        <source>Press N and draw a line across the water in the film above: what stands on it is shown here over time.</source>
-        <translation>Pulsa N y dibuja una línea a través del agua en el vídeo de arriba: lo que hay en ella se muestra aquí a lo largo del tiempo.</translation>
-    </message>
-    <message>
         <source>Reading the film…</source>
         <translation>Leyendo el vídeo…</translation>
     </message>
@@ -23316,16 +23383,12 @@ y %1 más</translation>
         <translation>Las propuestas se aceptan una a una</translation>
     </message>
     <message>
-        <source>There is no slit picture yet.</source>
-        <translation>Aún no hay imagen de línea.</translation>
-    </message>
-    <message>
-        <source>That part is not read yet.</source>
-        <translation>Esa parte aún no se ha leído.</translation>
-    </message>
-    <message>
         <source>There is nothing to learn from yet: look for boats, then mark and refuse what was found.</source>
         <translation>Aún no hay nada de lo que aprender: busca barcos y después marca o rechaza lo encontrado.</translation>
+    </message>
+    <message>
+        <source>The film is not read so far.</source>
+        <translation>El vídeo aún no se ha leído.</translation>
     </message>
 </context>
 <context>

@@ -962,6 +962,41 @@
         <source>On this frame stands the mark of %1.</source>
         <translation>Sur cette image se trouve la marque de %1.</translation>
     </message>
+    <message>
+        <source>No other film of this folder has lines.</source>
+        <translation>Aucun autre film de ce dossier n’a de lignes.</translation>
+    </message>
+    <message>
+        <source>The lines of “%1” were drawn over a picture of %2 × %3 pixels; this film has %4 × %5.</source>
+        <translation>Les lignes de « %1 » ont été tracées sur une image de %2 × %3 pixels ; ce film en a %4 × %5.</translation>
+    </message>
+    <message>
+        <source>Press N and draw a line across the water in the film above: what stands on it is shown here over time.</source>
+        <translation>Appuyez sur N et dessinez une ligne en travers de l’eau dans le film ci-dessus&#x202f;: ce qui s’y trouve est montré ici au fil du temps.</translation>
+    </message>
+    <message>
+        <source>Or press L for the lines of “%1”.</source>
+        <translation>Ou appuyez sur L pour reprendre les lignes de « %1 ».</translation>
+    </message>
+    <message>
+        <source>“%1” is timed at the bow: one race needs one point.</source>
+        <translation>« %1 » est chronométré à la pointe avant : une course n’a qu’un point.</translation>
+    </message>
+    <message>
+        <source>“%1” is timed at the body: one race needs one point.</source>
+        <translation>« %1 » est chronométré au corps : une course n’a qu’un point.</translation>
+    </message>
+    <message>
+        <source>A mark of this line was made before: look at it again.</source>
+        <translation>Une marque de cette ligne a été posée avant : revoyez-la.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n marks of this line were made before: look at them again.</source>
+        <translation>
+            <numerusform>Une marque de cette ligne a été posée avant : revoyez-la.</numerusform>
+            <numerusform>%n marques de cette ligne ont été posées avant : revoyez-les.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>SplitStatistics</name>
@@ -9142,6 +9177,10 @@
     <message>
         <source>The four known points do not fit together: no view of flat water shows them so. Were two of them exchanged?</source>
         <translation>Les quatre points connus ne vont pas ensemble&#x202f;: aucune vue d’une eau plane ne les montre ainsi. Deux d’entre eux ont-ils été échangés&#x202f;?</translation>
+    </message>
+    <message>
+        <source>“bow” or “body” was expected</source>
+        <translation>“bow” ou “body” était attendu</translation>
     </message>
 </context>
 <context>
@@ -22956,8 +22995,8 @@ et %1 autres</translation>
         <translation>Enregistrer l’eau autour des marques</translation>
     </message>
     <message>
-        <source>Bands (*.bands)</source>
-        <translation>Bandes (*.bands)</translation>
+        <source>Bands (*.kvband)</source>
+        <translation>Bandes (*.kvband)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -23103,6 +23142,10 @@ et %1 autres</translation>
         <source>&amp;Normal speed</source>
         <translation>Vitesse &amp;normale</translation>
     </message>
+    <message>
+        <source>Take &amp;over the lines of another film</source>
+        <translation>&amp;Reprendre les lignes d’un autre film</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SlitKeeping</name>
@@ -23172,6 +23215,26 @@ et %1 autres</translation>
         <source>The runs that are seen on this film are listed here.</source>
         <translation>Les manches visibles sur ce film sont listées ici.</translation>
     </message>
+    <message>
+        <source>the bow</source>
+        <translation>la pointe avant</translation>
+    </message>
+    <message>
+        <source>the body</source>
+        <translation>le corps</translation>
+    </message>
+    <message>
+        <source>What is timed at the lines of this film: one point for a whole race. Proposals tell when it crosses.</source>
+        <translation>Ce qui est chronométré aux lignes de ce film : un seul point pour toute la course. Les propositions disent quand il passe.</translation>
+    </message>
+    <message>
+        <source>Ti&amp;med is</source>
+        <translation>On &amp;mesure</translation>
+    </message>
+    <message>
+        <source>Look for boats (Ctrl+B): where they may have crossed is listed here.</source>
+        <translation>Cherchez les bateaux (Ctrl+B) : les endroits où ils ont pu passer sont listés ici.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::SlitRace</name>
@@ -23221,6 +23284,14 @@ et %1 autres</translation>
     <message>
         <source>The picture could not be saved: %1</source>
         <translation>L’image n’a pas pu être enregistrée&#x202f;: %1</translation>
+    </message>
+    <message>
+        <source>There is no slit picture yet.</source>
+        <translation>Il n’y a pas encore d’image à fente.</translation>
+    </message>
+    <message>
+        <source>That part is not read yet.</source>
+        <translation>Cette partie n’est pas encore lue.</translation>
     </message>
 </context>
 <context>
@@ -23276,10 +23347,6 @@ et %1 autres</translation>
         <translation>Ouvrez le film d’une caméra sur trépied (Ctrl+O).</translation>
     </message>
     <message>
-        <source>Press N and draw a line across the water in the film above: what stands on it is shown here over time.</source>
-        <translation>Appuyez sur N et dessinez une ligne en travers de l’eau dans le film ci-dessus&#x202f;: ce qui s’y trouve est montré ici au fil du temps.</translation>
-    </message>
-    <message>
         <source>Reading the film…</source>
         <translation>Lecture du film…</translation>
     </message>
@@ -23316,16 +23383,12 @@ et %1 autres</translation>
         <translation>Les propositions s’acceptent une à une</translation>
     </message>
     <message>
-        <source>There is no slit picture yet.</source>
-        <translation>Il n’y a pas encore d’image à fente.</translation>
-    </message>
-    <message>
-        <source>That part is not read yet.</source>
-        <translation>Cette partie n’est pas encore lue.</translation>
-    </message>
-    <message>
         <source>There is nothing to learn from yet: look for boats, then mark and refuse what was found.</source>
         <translation>Il n’y a encore rien dont apprendre&#x202f;: cherchez des bateaux, puis marquez et refusez ce qui a été trouvé.</translation>
+    </message>
+    <message>
+        <source>The film is not read so far.</source>
+        <translation>Le film n’est pas encore lu.</translation>
     </message>
 </context>
 <context>

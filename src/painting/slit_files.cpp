@@ -28,8 +28,10 @@ struct slitproposal {
     std::int64_t frame = 0;
     double seconds = 0;
     double confidence = 0;
+    std::int64_t bodyFrame = 0;
+    double bodySeconds = 0;
 };
-BOOST_DESCRIBE_STRUCT(slitproposal, (), (frame, seconds, confidence))
+BOOST_DESCRIBE_STRUCT(slitproposal, (), (frame, seconds, confidence, bodyFrame, bodySeconds))
 
 struct slitprinted {
     std::string film;
@@ -129,7 +131,8 @@ void findBoats(const std::shared_ptr<const VideoIndex>& index, const cli::SlitCa
     if (!crossings)
         return;
     for (const Proposal& proposal : crossings->proposals)
-        printed.proposals.push_back({proposal.frame, proposal.seconds, proposal.confidence});
+        printed.proposals.push_back({proposal.frame, proposal.seconds, proposal.confidence,
+                                     proposal.bodyFrame, proposal.bodySeconds});
     printed.notes.insert(printed.notes.end(), crossings->notes.begin(), crossings->notes.end());
 }
 
@@ -144,7 +147,9 @@ int tell(const cli::SlitCall& call, const slitprinted& printed, FrameNumber colu
                cli::counted(columns, "column", "columns") + ".\n";
     for (const slitproposal& proposal : printed.proposals)
         text += hundredthsText(proposal.seconds) + " s, frame " + std::to_string(proposal.frame) +
-                ", confidence " + std::to_string(std::lround(proposal.confidence * 100)) + " %\n";
+                ", confidence " + std::to_string(std::lround(proposal.confidence * 100)) +
+                " %; body " + hundredthsText(proposal.bodySeconds) + " s, frame " +
+                std::to_string(proposal.bodyFrame) + "\n";
     if (call.hasProposals && printed.proposals.empty())
         text += "No boat was found that crosses the line.\n";
     return cli::print(text) ? cli::Done : cli::NotDone;

@@ -14,12 +14,17 @@
 
 namespace kavela {
 
+/// What is read first: later releases may have changed everything else.
+struct bandversionread {
+    std::int64_t bandversion = 0;
+};
+BOOST_DESCRIBE_STRUCT(bandversionread, (), (bandversion))
+
 namespace {
 
 namespace fs = std::filesystem;
 
 constexpr const char* SceneName = "scene.json";
-constexpr std::int64_t BandVersion = 1;
 constexpr std::int64_t BandChannelCount = 3;
 constexpr std::size_t MostBandBytes = std::size_t{1} << 30;
 
@@ -27,18 +32,20 @@ std::string bandName(std::size_t number) {
     return "bands/" + std::to_string(number) + ".raw";
 }
 
-std::size_t bytesPerBand(const bandscene001& scene) {
+std::size_t bytesPerBand(const bandscene002& scene) {
     return static_cast<std::size_t>(BandChannelCount * scene.rows * scene.columns);
 }
 
 /// Throws DecodeError with the place of what does not fit together.
-void checkBandScene(const bandscene001& scene) {
+void checkBandScene(const bandscene002& scene) {
     constexpr std::int64_t MostSide = 2'000;
     const auto refuse = [](const std::string& place, const std::string& text) {
         throw DecodeError({place, text});
     };
-    if (scene.bandversion != BandVersion)
+    if (scene.bandversion != bandscene002().bandversion)
         refuse("bandversion", say("it was written by a newer release"));
+    if (!timingPointFrom(scene.timedAt))
+        refuse("timedAt", say("“bow” or “body” was expected"));
     if (scene.rows < 1 || scene.rows > MostSide || scene.columns < 1 || scene.columns > MostSide)
         refuse("rows", say("rows and columns from 1 to 2000 were expected"));
     for (std::size_t i = 0; i < scene.moments.size(); ++i) {
@@ -131,6 +138,20 @@ private:
     zip_t* m_archive = nullptr;
 };
 
+bandscene002 sceneFrom(const JsonDocument& document) {
+    const auto version = decode<bandversionread>(document).bandversion;
+    if (version != bandscene001().bandversion)
+        return decode<bandscene002>(document);
+    auto old = decode<bandscene001>(document);
+    bandscene002 scene;
+    scene.rows = old.rows;
+    scene.columns = old.columns;
+    scene.boatLength = old.boatLength;
+    scene.boatHeight = old.boatHeight;
+    scene.moments = std::move(old.moments);
+    return scene;
+}
+
 std::string bytesOfFile(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
     if (!file)
@@ -141,7 +162,7 @@ std::string bytesOfFile(const fs::path& path) {
 } // namespace
 
 void writeBandRecording(const BandRecording& recording, const fs::path& path) {
-    const bandscene001& scene = recording.scene;
+    const bandscene002& scene = recording.scene;
     checkBandScene(scene);
     if (recording.bands.size() != scene.moments.size())
         throw EncodeError({"moments", say("each needs its bands")});
@@ -162,8 +183,7 @@ BandRecording readBandRecording(const fs::path& path) {
     BandArchive archive(path, &bytes);
     constexpr std::size_t MostSceneBytes = std::size_t{16} << 20;
     BandRecording recording;
-    recording.scene =
-        decode<bandscene001>(JsonDocument::fromText(archive.part(SceneName, MostSceneBytes)));
+    recording.scene = sceneFrom(JsonDocument::fromText(archive.part(SceneName, MostSceneBytes)));
     checkBandScene(recording.scene);
     std::size_t all = 0;
     for (std::size_t i = 0; i < recording.scene.moments.size(); ++i) {

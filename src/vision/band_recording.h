@@ -21,12 +21,13 @@ namespace kavela {
 struct bandmoment001 {
     double proposed = -1;        ///< seconds of the film; −1 where nothing was proposed
     double confidence = 0;       ///< of the proposal
-    double settled = -1;         ///< where the coach saw the bow on the line; −1 for no boat
+    double settled = -1;         ///< where the coach saw the boat on the line; −1 for none
     std::string judged;          ///< "accepted", "moved", "refused" or "missed"
     std::vector<double> seconds; ///< of each band, rising
 };
 BOOST_DESCRIBE_STRUCT(bandmoment001, (), (proposed, confidence, settled, judged, seconds))
 
+/// As recordings were written before the body could be timed.
 struct bandscene001 {
     std::int64_t bandversion = 1;
     std::int64_t rows = 0;    ///< along the line
@@ -38,9 +39,21 @@ struct bandscene001 {
 BOOST_DESCRIBE_STRUCT(bandscene001, (),
                       (bandversion, rows, columns, boatLength, boatHeight, moments))
 
+struct bandscene002 {
+    std::int64_t bandversion = 2;
+    std::string timedAt = "bow"; ///< what the moments are of: "bow" or "body"
+    std::int64_t rows = 0;       ///< along the line
+    std::int64_t columns = 0;    ///< along the way of the boats; the line's own is the middle one
+    double boatLength = 0;       ///< columns
+    double boatHeight = 0;       ///< rows
+    std::vector<bandmoment001> moments;
+};
+BOOST_DESCRIBE_STRUCT(bandscene002, (),
+                      (bandversion, timedAt, rows, columns, boatLength, boatHeight, moments))
+
 /// A scene with its bands.
 struct BandRecording {
-    bandscene001 scene;
+    bandscene002 scene;
     /// For each moment all its bands one after the other; each brightness, blue and red, column by
     /// column, row by row, a byte each.
     std::vector<std::vector<std::uint8_t>> bands;
@@ -49,7 +62,8 @@ struct BandRecording {
 /// What a coach made of one place.
 struct BandJudgement {
     std::optional<Proposal> proposal; ///< none: a boat was missed
-    std::optional<double> settled;    ///< seconds of the film; none: there is no boat
+    /// When the point that is timed is on the line, seconds of the film; none: there is no boat.
+    std::optional<double> settled;
 };
 
 /// Cuts the bands out of a film, for a second before and behind each place. No more than
@@ -58,7 +72,8 @@ struct BandJudgement {
 inline constexpr std::size_t MostBandMoments = 60;
 [[nodiscard]] std::optional<BandRecording>
 recordBands(const std::shared_ptr<const VideoIndex>& index, const BarrierRequest& request,
-            const std::vector<BandJudgement>& judgements, const std::stop_token& stop = {},
+            const std::vector<BandJudgement>& judgements, TimingPoint point,
+            const std::stop_token& stop = {},
             const std::function<void(const BarrierProgress&)>& onProgress = {});
 
 /// Writes a recording, safely. Throws FileError, and EncodeError for what does not fit together.

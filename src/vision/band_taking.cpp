@@ -15,23 +15,24 @@ namespace {
 
 constexpr double SecondsAroundPlace = 1;
 
-std::string wordFor(const BandJudgement& judged) {
+std::string wordFor(const BandJudgement& judged, TimingPoint point) {
     constexpr double Same = 1e-6;
     if (!judged.proposal)
         return "missed";
     if (!judged.settled)
         return "refused";
-    return std::abs(*judged.settled - judged.proposal->seconds) < Same ? "accepted" : "moved";
+    const double proposed = secondsOf(*judged.proposal, point);
+    return std::abs(*judged.settled - proposed) < Same ? "accepted" : "moved";
 }
 
-bandmoment001 momentOf(const BandJudgement& judged) {
+bandmoment001 momentOf(const BandJudgement& judged, TimingPoint point) {
     bandmoment001 moment;
     if (judged.proposal) {
-        moment.proposed = judged.proposal->seconds;
+        moment.proposed = secondsOf(*judged.proposal, point);
         moment.confidence = judged.proposal->confidence;
     }
     moment.settled = judged.settled.value_or(-1);
-    moment.judged = wordFor(judged);
+    moment.judged = wordFor(judged, point);
     return moment;
 }
 
@@ -39,7 +40,8 @@ bandmoment001 momentOf(const BandJudgement& judged) {
 
 std::optional<BandRecording>
 recordBands(const std::shared_ptr<const VideoIndex>& index, const BarrierRequest& request,
-            const std::vector<BandJudgement>& judgements, const std::stop_token& stop,
+            const std::vector<BandJudgement>& judgements, TimingPoint point,
+            const std::stop_token& stop,
             const std::function<void(const BarrierProgress&)>& onProgress) {
     const VideoFacts& facts = index->facts();
     checkBarrierRequest(request, facts);
@@ -50,12 +52,16 @@ recordBands(const std::shared_ptr<const VideoIndex>& index, const BarrierRequest
                    box.width, box.height);
     FilmStream film(index);
     BandRecording recording;
-    recording.scene = {1, band.shape.rows, BandColumns, band.boat.length, band.boat.height, {}};
+    recording.scene.timedAt = textOf(point);
+    recording.scene.rows = band.shape.rows;
+    recording.scene.columns = BandColumns;
+    recording.scene.boatLength = band.boat.length;
+    recording.scene.boatHeight = band.boat.height;
     const std::size_t count = std::min(judgements.size(), MostBandMoments);
     for (std::size_t i = 0; i < count; ++i) {
         if (!judgements[i].proposal && !judgements[i].settled)
             continue; // says nothing
-        bandmoment001 moment = momentOf(judgements[i]);
+        bandmoment001 moment = momentOf(judgements[i], point);
         const double middle = judgements[i].settled ? moment.settled : moment.proposed;
         std::vector<std::uint8_t> samples;
         FrameNumber number = index->frameAt(middle - SecondsAroundPlace).value_or(0);

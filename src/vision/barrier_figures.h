@@ -1,5 +1,7 @@
 #pragma once
 
+#include "vision/light_barrier.h"
+
 #include <string>
 
 namespace kavela {
@@ -26,7 +28,7 @@ struct BarrierTargets {
 };
 
 /// The figures of this release.
-[[nodiscard]] const BarrierFigures& measuredBarrierFigures();
+[[nodiscard]] const BarrierFigures& measuredBarrierFigures(TimingPoint point);
 
 /// Whether the figures reach every target: only then proposals may be accepted all at once.
 [[nodiscard]] bool reachesTargets(const BarrierFigures& figures,

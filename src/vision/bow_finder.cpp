@@ -270,6 +270,31 @@ BoatSeed seedAlong(const BandStretch& stretch, const BandBoat& boat, const BoatS
     return anew;
 }
 
+/// Where a boat is taller than its hull sits the paddler: where most of that lies within what his
+/// body takes of the boat's length. Arms and blades reach farther and weigh less. Nothing where no
+/// place is taller.
+std::optional<double> paddlerSlot(const BowPiece& piece, int first, int last, double length,
+                                  int hullRows) {
+    constexpr double BodyShare = 0.24; // of a boat's length, to either side together
+    const int half = std::max(static_cast<int>(std::lround(BodyShare / 2 * length)), 1);
+    const auto above = [&](int slot) { return std::max(piece.rowsAt(slot) - hullRows, 0); };
+    int most = 0;
+    double found = 0;
+    for (int slot = first; slot < last; ++slot) {
+        int rows = 0;
+        double moment = 0;
+        for (int at = slot - half; at <= slot + half; ++at) {
+            rows += above(at);
+            moment += double(above(at)) * at;
+        }
+        if (rows > most) {
+            most = rows;
+            found = moment / rows;
+        }
+    }
+    return most > 0 ? std::optional(found) : std::nullopt;
+}
+
 } // namespace
 
 std::optional<FoundBow> findBow(const BandStretch& stretch, const BandBoat& boat,
@@ -316,7 +341,13 @@ std::optional<FoundBow> findBow(const BandStretch& stretch, const BandBoat& boat
     // A hull like the water does not stand out, and what does is the paddler in its middle.
     if (lengthShare < PaddlerShare && places > 0)
         slot = moment / places - length / 2;
-    return FoundBow{slot, motion.speed, lengthShare, tallest / boat.height,
+    const double paddler = paddlerSlot(body, ground.first(), ground.last(), length, seed.rows)
+                               .value_or(slot + length / 2);
+    return FoundBow{slot,
+                    paddler,
+                    motion.speed,
+                    lengthShare,
+                    tallest / boat.height,
                     sharperThanOpposite(stretch, boat, found, motion)};
 }
 

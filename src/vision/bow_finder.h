@@ -18,6 +18,7 @@ struct BoatSeed {
 /// A boat seen closely.
 struct FoundBow {
     double slot = 0;        ///< when the foremost point is on the line
+    double bodySlot = 0;    ///< when the middle of the paddler is there
     double speed = 0;       ///< columns a slot
     double lengthShare = 0; ///< of the boat's length that hangs together behind it
     double heightShare = 0; ///< of the boat's height that stands out in its middle

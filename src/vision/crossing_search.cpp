@@ -186,7 +186,7 @@ std::vector<BandCrossing> BandSearch::crossings(const std::stop_token& stop) con
         if (!bow || bow->sharpness < OverOpposite || isOneBefore)
             continue;
         block(bow->slot - 0.5 * passage - smear, bow->slot + 1.1 * passage + smear);
-        found.push_back({bow->slot, bow->speed, confidenceOf(best, *bow)});
+        found.push_back({bow->slot, bow->bodySlot, bow->speed, confidenceOf(best, *bow)});
     }
     std::ranges::sort(found, {}, &BandCrossing::slot);
     return found;

@@ -10,6 +10,7 @@ namespace kavela {
 /// A boat that was found in a stretch.
 struct BandCrossing {
     double slot = 0;       ///< when its bow is on the line, in slots of the stretch
+    double bodySlot = 0;   ///< when the middle of its paddler is there
     double speed = 0;      ///< columns a slot
     double confidence = 0; ///< 0 to 1
 };

@@ -36,6 +36,22 @@ std::pair<FrameNumber, FrameNumber> framesBetween(const VideoIndex& index, doubl
 
 } // namespace
 
+std::string textOf(TimingPoint point) {
+    return point == TimingPoint::Body ? "body" : "bow";
+}
+
+std::optional<TimingPoint> timingPointFrom(std::string_view text) {
+    for (const TimingPoint point : {TimingPoint::Bow, TimingPoint::Body})
+        if (text == textOf(point))
+            return point;
+    return std::nullopt;
+}
+
+std::string handHeldNote() {
+    return say("The camera was held in the hand, or nothing in the picture stands still: the "
+               "search for boats needs a camera on a tripod.");
+}
+
 void checkBarrierRequest(const BarrierRequest& request, const VideoFacts& facts) {
     checkSlitLine(request.line, facts.shownSize, facts.path);
     checkBoatBox(request.boat, facts);

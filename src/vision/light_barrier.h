@@ -12,6 +12,7 @@
 #include <optional>
 #include <stop_token>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// Proposals of when boats crossed a line, from the film of a camera that stands still. They are
@@ -37,14 +38,30 @@ struct BarrierRequest {
     double toSeconds = std::numeric_limits<double>::infinity();
 };
 
-/// A moment at which the bow of a boat may have crossed the line.
+/// What of a boat is timed at a line.
+enum class TimingPoint { Bow, Body };
+
+/// As files have it: "bow" or "body".
+[[nodiscard]] std::string textOf(TimingPoint point);
+/// Nothing for any other text.
+[[nodiscard]] std::optional<TimingPoint> timingPointFrom(std::string_view text);
+
+/// A moment at which a boat may have crossed the line.
 struct Proposal {
     FrameNumber frame = 0; ///< the first frame with the bow on the line or beyond it
     double seconds = 0;    ///< as the film's stamps count, finer than a frame
     double confidence = 0; ///< 0 to 1; from 0.5 on the boat itself is hardly in doubt
+    /// The same for the middle of the paddler's body.
+    FrameNumber bodyFrame = 0;
+    double bodySeconds = 0;
 
     friend bool operator==(const Proposal&, const Proposal&) = default;
 };
+
+/// When what is timed of the boat crossed, in seconds of the film.
+[[nodiscard]] inline double secondsOf(const Proposal& proposal, TimingPoint point) {
+    return point == TimingPoint::Body ? proposal.bodySeconds : proposal.seconds;
+}
 
 /// How far the search has come, in frames.
 struct BarrierProgress {
@@ -63,6 +80,9 @@ struct Crossings {
     /// early.
     std::vector<std::string> notes;
 };
+
+/// The note of a camera that was held in the hand.
+[[nodiscard]] std::string handHeldNote();
 
 /// Throws VideoError for a line outside the picture or too short, and for a box without size or
 /// larger than the picture.

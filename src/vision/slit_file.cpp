@@ -13,6 +13,12 @@ namespace kavela {
 
 namespace fs = std::filesystem;
 
+/// What is read first: later releases may have changed everything else.
+struct slitversion {
+    std::int64_t kavelaSlit = 0;
+};
+BOOST_DESCRIBE_STRUCT(slitversion, (), (kavelaSlit))
+
 SlitLine lineOf(const slitline001& line) {
     return {
         {line.x1, line.y1}, {line.x2, line.y2}, line.fromLeft ? BoatsFrom::Left : BoatsFrom::Right};
@@ -28,18 +34,78 @@ fs::path slitFileOf(const fs::path& film) {
     return path;
 }
 
-std::optional<slitfile001> readSlitFile(const fs::path& path) {
+TimingPoint timingPointOf(const slitfile002& file) {
+    return timingPointFrom(file.timedAt).value_or(TimingPoint::Bow);
+}
+
+void setTimingPoint(slitfile002& file, TimingPoint point) {
+    file.timedAt = textOf(point);
+}
+
+std::optional<slitfile002> readSlitFile(const fs::path& path) {
     std::error_code error;
     if (!fs::exists(path, error))
         return std::nullopt;
-    auto file = decode<slitfile001>(JsonDocument::fromFile(path));
-    if (file.kavelaSlit != 1)
-        throw DecodeError({"kavelaSlit", say("version {} is of a later release", file.kavelaSlit)});
+    const JsonDocument document = JsonDocument::fromFile(path);
+    const auto version = decode<slitversion>(document).kavelaSlit;
+    if (version == slitfile001().kavelaSlit) {
+        auto old = decode<slitfile001>(document);
+        slitfile002 file;
+        file.width = old.width;
+        file.height = old.height;
+        file.lines = std::move(old.lines);
+        return file;
+    }
+    if (version != slitfile002().kavelaSlit)
+        throw DecodeError({"kavelaSlit", say("version {} is of a later release", version)});
+    auto file = decode<slitfile002>(document);
+    if (!timingPointFrom(file.timedAt))
+        throw DecodeError({"timedAt", say("“bow” or “body” was expected")});
     return file;
 }
 
-void writeSlitFile(const slitfile001& file, const fs::path& path) {
+void writeSlitFile(const slitfile002& file, const fs::path& path) {
     writeFileSafely(path, encode(file));
+}
+
+slitsearch001 searchRecord(const slitline001& line, const Crossings& crossings) {
+    slitsearch001 record{line.x1,
+                         line.y1,
+                         line.x2,
+                         line.y2,
+                         line.fromLeft,
+                         line.boatX,
+                         line.boatY,
+                         line.boatWidth,
+                         line.boatHeight,
+                         crossings.frames,
+                         crossings.isHandHeld};
+    for (const Proposal& found : crossings.proposals)
+        record.proposals.push_back(
+            {found.frame, found.seconds, found.confidence, found.bodyFrame, found.bodySeconds});
+    return record;
+}
+
+std::optional<Crossings> foundOn(const slitfile002& file, const slitline001& line,
+                                 FrameNumber frames) {
+    const auto isOfLine = [&](const slitsearch001& search) {
+        return search.frames == frames && search.x1 == line.x1 && search.y1 == line.y1 &&
+               search.x2 == line.x2 && search.y2 == line.y2 && search.fromLeft == line.fromLeft &&
+               search.boatX == line.boatX && search.boatY == line.boatY &&
+               search.boatWidth == line.boatWidth && search.boatHeight == line.boatHeight;
+    };
+    const auto search = std::ranges::find_if(file.searches, isOfLine);
+    if (search == file.searches.end())
+        return std::nullopt;
+    Crossings crossings;
+    crossings.frames = search->frames;
+    crossings.isHandHeld = search->isHandHeld;
+    if (search->isHandHeld)
+        crossings.notes.push_back(handHeldNote());
+    for (const slitproposal001& found : search->proposals)
+        crossings.proposals.push_back(
+            {found.frame, found.seconds, found.confidence, found.bodyFrame, found.bodySeconds});
+    return crossings;
 }
 
 bool isRefused(const slitline001& line, double seconds) {

@@ -142,16 +142,16 @@ void StreamSearch::search(double from, double to, const std::stop_token& stop) {
     }
     for (const BandCrossing& crossing : searchCrossings(stretch, m_boat, stop)) {
         const double seconds = start + crossing.slot * stretch.secondsPerSlot;
+        const double body = start + crossing.bodySlot * stretch.secondsPerSlot;
         if (seconds >= from && seconds < to)
-            m_found.proposals.push_back({frameAtOrBehind(seconds), seconds, crossing.confidence});
+            m_found.proposals.push_back({frameAtOrBehind(seconds), seconds, crossing.confidence,
+                                         frameAtOrBehind(body), body});
     }
 }
 
 void StreamSearch::tellHandHeld() {
     m_found.isHandHeld = true;
-    m_found.notes.emplace_back(
-        say("The camera was held in the hand, or nothing in the picture stands still: the search "
-            "for boats needs a camera on a tripod."));
+    m_found.notes.push_back(handHeldNote());
 }
 
 std::optional<Crossings>

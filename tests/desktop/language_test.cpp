@@ -119,8 +119,8 @@ std::string faultOfDoing(const std::function<void()>& what) {
 
 /// A sentence of every library that refuses what a coach gave it.
 std::array<std::string, 7> faultsOfLibraries() {
-    return {faultOfDoing([] { (void)decodeText<slitfile001>("{}"); }),
-            faultOfDoing([] { (void)decodeText<slitfile001>("[]"); }),
+    return {faultOfDoing([] { (void)decodeText<slitfile002>("{}"); }),
+            faultOfDoing([] { (void)decodeText<slitfile002>("[]"); }),
             faultOfDoing([] { (void)parsedQuery("gates time"); }),
             faultOfDoing([] { (void)WaterPlane(std::vector<PlanePoint>()); }),
             faultOf(CsvMapping()).value_or(""),

@@ -75,10 +75,16 @@ inline int numberInSlit(const SlitPicture& picture, FrameNumber column) {
     return number;
 }
 
+/// Seconds from a proposed bow to the paddler.
+inline constexpr double SlitBodyBehind = 0.1;
+
 inline Crossings crossingsAt(std::initializer_list<double> seconds) {
     Crossings crossings;
     for (const double each : seconds)
-        crossings.proposals.push_back({static_cast<FrameNumber>(each * NumberedRate), each, 0.8});
+        crossings.proposals.push_back(
+            {static_cast<FrameNumber>(each * NumberedRate), each, 0.8,
+             static_cast<FrameNumber>((each + SlitBodyBehind) * NumberedRate),
+             each + SlitBodyBehind});
     return crossings;
 }
 

@@ -15,7 +15,7 @@ using desktop::SlitKeeping;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
-void addLine(slitfile001& file) {
+void addLine(slitfile002& file) {
     file.lines.emplace_back();
 }
 
@@ -32,7 +32,7 @@ TEST(SlitKeepingTest, ReadsBesideTheWindowAndWritesOverNothingUntilThen) {
         other.edit(addLine);
         opened.open(film);
         EXPECT_THAT(opened.file().lines, IsEmpty()) << "nobody waits for the disk";
-        opened.edit([](slitfile001& file) { file.lines.clear(); });
+        opened.edit([](slitfile002& file) { file.lines.clear(); });
         EXPECT_THAT(failures, SizeIs(1));
     }
     EXPECT_TRUE(QTest::qWaitFor([&] { return opened.file().lines.size() == 2; }))

@@ -229,7 +229,7 @@ TEST_F(SlitWindowTest, SplitTakingShowsTheStripAndAClickSeeks) {
                                 SlitPatience));
 
     // With a line for each split it is that of the next one, though it was not drawn in that order.
-    slitfile001 file = readSlitFile(slitFileOf(film())).value();
+    slitfile002 file = readSlitFile(slitFileOf(film())).value();
     file.lines.insert(file.lines.begin(), file.lines.front());
     file.lines.front().split = 2;
     writeSlitFile(file, slitFileOf(film()));

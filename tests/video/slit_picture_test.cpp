@@ -163,7 +163,7 @@ TEST(SlitFile, KeepsLinesAndWhatWasRefused) {
     const auto path = slitFileOf(folder.path() / "Bridge 1.mp4");
     EXPECT_EQ(path.filename(), "Bridge 1.slit.json");
     EXPECT_FALSE(readSlitFile(path).has_value());
-    slitfile001 file{.width = 1920, .height = 1080, .lines = {{.split = 2, .x1 = 3.5, .x2 = 900}}};
+    slitfile002 file{.width = 1920, .height = 1080, .lines = {{.split = 2, .x1 = 3.5, .x2 = 900}}};
     file.lines.front().refused.push_back({500, 10.02});
     writeSlitFile(file, path);
     const auto read = readSlitFile(path);
@@ -172,8 +172,50 @@ TEST(SlitFile, KeepsLinesAndWhatWasRefused) {
     EXPECT_EQ(lineOf(read->lines.front()), lineOf(file.lines.front()));
     EXPECT_TRUE(isRefused(read->lines.front(), 10.1)) << "another search finds it a little beside";
     EXPECT_FALSE(isRefused(read->lines.front(), 11));
-    std::ofstream(path) << R"({"kavelaSlit":2,"width":1,"height":1,"lines":[]})";
+    std::ofstream(path) << R"({"kavelaSlit":3,"width":1,"height":1,"lines":[]})";
     EXPECT_THROW((void)readSlitFile(path), DecodeError) << "of a later release";
+}
+
+TEST(SlitFile, KeepsWhatWasFoundForTheLineBoatAndFilmOfTheSearch) {
+    const test::TempFolder folder;
+    const auto path = folder.path() / "bridge.slit.json";
+    slitfile002 file{.lines = {{.x2 = 900, .boatWidth = 60, .boatHeight = 20}}};
+    Crossings found;
+    found.frames = 3000;
+    found.isHandHeld = true;
+    found.proposals = {{500, 10.01, 0.7, 512, 10.25}};
+    file.searches = {searchRecord(file.lines[0], found)};
+    setTimingPoint(file, TimingPoint::Body);
+    writeSlitFile(file, path);
+    slitfile002 read = readSlitFile(path).value();
+    EXPECT_EQ(timingPointOf(read), TimingPoint::Body);
+    const auto again = foundOn(read, read.lines[0], 3000);
+    ASSERT_TRUE(again);
+    EXPECT_EQ(again->proposals, found.proposals);
+    EXPECT_EQ(again->notes.size(), 1U) << "of the camera";
+    EXPECT_FALSE(foundOn(read, read.lines[0], 2999)) << "another film took its name";
+    read.lines[0].boatWidth = 61;
+    EXPECT_FALSE(foundOn(read, read.lines[0], 3000));
+    file.timedAt = "stern";
+    writeSlitFile(file, path);
+    EXPECT_THROW((void)readSlitFile(path), DecodeError);
+}
+
+TEST(SlitFile, OfAnOlderReleaseIsTimedAtTheBow) {
+    const test::TempFolder folder;
+    const auto path = folder.add(
+        "bridge.slit.json",
+        R"({"kavelaSlit":1,"width":640,"height":360,"lines":[{"split":0,"x1":1,"y1":2,"x2":3,)"
+        R"("y2":40,"fromLeft":false,"boatX":0,"boatY":0,"boatWidth":0,"boatHeight":0,)"
+        R"("refused":[{"frame":7,"seconds":0.14}]}]})");
+    const slitfile002 read = readSlitFile(path).value();
+    EXPECT_EQ(read.kavelaSlit, 2);
+    EXPECT_EQ(timingPointOf(read), TimingPoint::Bow);
+    EXPECT_EQ(read.width, 640);
+    ASSERT_EQ(read.lines.size(), 1U);
+    EXPECT_EQ(read.lines[0].y2, 40);
+    EXPECT_TRUE(isRefused(read.lines[0], 0.2));
+    EXPECT_TRUE(read.searches.empty());
 }
 
 } // namespace

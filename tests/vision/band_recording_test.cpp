@@ -17,7 +17,7 @@ using testing::ElementsAre;
 
 BandRecording smallRecording() {
     BandRecording recording;
-    recording.scene = {1, 3, 5, 40, 12, {}};
+    recording.scene = {2, "body", 3, 5, 40, 12, {}};
     recording.scene.moments = {{2.5, 0.7, 2.52, "moved", {2.48, 2.5, 2.52}},
                                {-1, 0, 9.1, "missed", {}}};
     for (const bandmoment001& moment : recording.scene.moments) {
@@ -39,6 +39,7 @@ TEST(BandRecording, ComesBackAsItWasWritten) {
     ASSERT_EQ(read.scene.moments.size(), 2U);
     EXPECT_EQ(read.scene.moments[0].seconds, written.scene.moments[0].seconds);
     EXPECT_EQ(read.scene.moments[1].judged, "missed");
+    EXPECT_EQ(read.scene.timedAt, "body");
 }
 
 TEST(BandRecording, IsRefusedWhereItDoesNotFitTogether) {
@@ -50,6 +51,9 @@ TEST(BandRecording, IsRefusedWhereItDoesNotFitTogether) {
     EXPECT_FALSE(std::filesystem::exists(path));
     wrong = smallRecording();
     wrong.scene.moments[1].judged = "maybe";
+    EXPECT_THROW(writeBandRecording(wrong, path), DecodeError);
+    wrong = smallRecording();
+    wrong.scene.timedAt = "stern";
     EXPECT_THROW(writeBandRecording(wrong, path), DecodeError);
 
     writeBandRecording(smallRecording(), path);
@@ -72,14 +76,17 @@ TEST(BandRecording, HoldsASecondRoundEachJudgedPlace) {
     const auto path = folder.path() / "river.mp4";
     writeRiverFilm(scene, path);
     const auto index = readVideoIndex(path);
-    const auto taken =
-        recordBands(index, scene.request(),
-                    {{Proposal{100, 2.0, 0.6}, 2.02}, {Proposal{5, 0.1, 0.3}, {}}, {{}, 3.9}});
+    const auto taken = recordBands(index, scene.request(),
+                                   {{Proposal{88, 1.76, 0.6, 100, 2.0}, 2.02},
+                                    {Proposal{2, 0.04, 0.3, 5, 0.1}, {}},
+                                    {{}, 3.9}},
+                                   TimingPoint::Body);
     ASSERT_TRUE(taken);
     const auto& moments = taken->scene.moments;
     ASSERT_EQ(moments.size(), 3U);
     EXPECT_THAT((std::vector{moments[0].judged, moments[1].judged, moments[2].judged}),
                 ElementsAre("moved", "refused", "missed"));
+    EXPECT_EQ(moments[0].proposed, 2.0) << "of the point that is timed";
     EXPECT_NEAR(moments[0].seconds.front(), 1.02, 0.021);
     EXPECT_NEAR(moments[0].seconds.back(), 3.02, 0.021);
     EXPECT_EQ(moments[1].seconds.front(), 0);
@@ -87,7 +94,8 @@ TEST(BandRecording, HoldsASecondRoundEachJudgedPlace) {
     EXPECT_EQ(taken->bands[0].size(),
               moments[0].seconds.size() *
                   static_cast<std::size_t>(3 * taken->scene.rows * taken->scene.columns));
-    EXPECT_THROW(static_cast<void>(recordBands(index, scene.request(), {})), VideoError);
+    EXPECT_THROW(static_cast<void>(recordBands(index, scene.request(), {}, TimingPoint::Bow)),
+                 VideoError);
 }
 
 } // namespace

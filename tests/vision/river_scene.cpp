@@ -210,13 +210,20 @@ void RiverScene::settleTruth() {
             const double row = mover.row + mover.drift * (seconds - mover.crossing);
             return bowOf(mover, seconds) - lineAt(row);
         };
-        double low = mover.crossing - 1;
-        double high = mover.crossing + 1;
-        while (high - low > 1e-6) {
-            const double middle = (low + high) / 2;
-            (ahead(middle) < 0 ? low : high) = middle;
-        }
-        m_truth.push_back({high, (ahead(high + 0.01) - ahead(high - 0.01)) / 0.02});
+        /// When a place so far behind the bow crosses.
+        const auto crossing = [&](double behind) {
+            const double middle = mover.crossing + behind / mover.speed;
+            double low = middle - 1;
+            double high = middle + 1;
+            while (high - low > 1e-6) {
+                const double half = (low + high) / 2;
+                (ahead(half) < behind ? low : high) = half;
+            }
+            return high;
+        };
+        const double bow = crossing(0);
+        m_truth.push_back(
+            {bow, crossing(mover.length / 2), (ahead(bow + 0.01) - ahead(bow - 0.01)) / 0.02});
     }
     std::ranges::sort(m_truth, {}, &RiverTruth::seconds);
 }

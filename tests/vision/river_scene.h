@@ -43,8 +43,9 @@ struct RiverRecipe {
 
 /// A boat's passage as it was drawn.
 struct RiverTruth {
-    double seconds = 0; ///< when the bow's tip crosses the line, to 1/1000 frame
-    double speed = 0;   ///< there
+    double seconds = 0;     ///< when the bow's tip crosses the line, to 1/1000 frame
+    double bodySeconds = 0; ///< when the middle of the paddler does
+    double speed = 0;       ///< of the bow there
 };
 
 /// Draws the pictures of a recipe; each by itself, always the same.

@@ -34,19 +34,23 @@ double RiverScore::medianLean() const {
     return sorted[sorted.size() / 2];
 }
 
-RiverScore scoreOf(const RiverScene& scene, std::span<const Proposal> proposals) {
+RiverScore scoreOf(const RiverScene& scene, std::span<const Proposal> proposals,
+                   TimingPoint point) {
     constexpr double Near = 15;
     constexpr double Far = 40;
     constexpr double Confident = 0.5;
     const double rate = scene.recipe().rate;
+    const auto errorOf = [&](const Proposal& proposal, const RiverTruth& boat) {
+        const double crossed = point == TimingPoint::Body ? boat.bodySeconds : boat.seconds;
+        return (secondsOf(proposal, point) - crossed) * rate;
+    };
     RiverScore score;
     score.minutes = scene.recipe().seconds / 60;
     score.boats = static_cast<int>(scene.truth().size());
     for (const RiverTruth& boat : scene.truth()) {
         double nearest = 1e9;
         for (const Proposal& proposal : proposals)
-            if (const double error = (proposal.seconds - boat.seconds) * rate;
-                std::abs(error) < std::abs(nearest))
+            if (const double error = errorOf(proposal, boat); std::abs(error) < std::abs(nearest))
                 nearest = error;
         score.near += std::abs(nearest) <= Near ? 1 : 0;
         score.far += std::abs(nearest) <= Far ? 1 : 0;
@@ -58,7 +62,7 @@ RiverScore scoreOf(const RiverScene& scene, std::span<const Proposal> proposals)
             continue;
         ++score.confident;
         const bool isTrue = std::ranges::any_of(scene.truth(), [&](const RiverTruth& boat) {
-            return std::abs(proposal.seconds - boat.seconds) * rate <= Far;
+            return std::abs(errorOf(proposal, boat)) <= Far;
         });
         score.falseOnes += isTrue ? 0 : 1;
     }

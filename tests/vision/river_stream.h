@@ -41,7 +41,8 @@ struct RiverScore {
     [[nodiscard]] double medianLean() const; ///< the median error with its sign, frames
 };
 
-[[nodiscard]] RiverScore scoreOf(const RiverScene& scene, std::span<const Proposal> proposals);
+[[nodiscard]] RiverScore scoreOf(const RiverScene& scene, std::span<const Proposal> proposals,
+                                 TimingPoint point = TimingPoint::Bow);
 
 /// Searches a scene as a film is searched.
 [[nodiscard]] Crossings crossingsOf(const RiverScene& scene);

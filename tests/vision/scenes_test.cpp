@@ -48,14 +48,19 @@ TEST(Scenes, ShowTheirBoats) {
     recipes[5].slant = 20;
     recipes[5].logs = 1;
     RiverScore score;
+    RiverScore bodies;
     for (const RiverRecipe& recipe : recipes) {
         const RiverScene scene(recipe);
-        score.add(scoreOf(scene, crossingsOf(scene).proposals));
+        const Crossings found = crossingsOf(scene);
+        score.add(scoreOf(scene, found.proposals));
+        bodies.add(scoreOf(scene, found.proposals, TimingPoint::Body));
     }
     EXPECT_EQ(score.boats, 6);
     EXPECT_GE(score.near, 4);
     EXPECT_LE(score.falseOnes, 1);
     EXPECT_LE(score.errorAt(0.5), 4);
+    EXPECT_GE(bodies.near, 4);
+    EXPECT_LE(bodies.errorAt(0.5), 2) << "a paddler does not go under";
 }
 
 /// What stands out of such a boat is its paddler, and the bow is half a boat's length ahead.

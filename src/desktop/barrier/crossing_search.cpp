@@ -59,8 +59,10 @@ void CrossingSearch::search(const slitline001& line) {
         },
         [this, request](std::optional<Crossings> crossings) {
             stop();
-            if (crossings)
+            if (crossings) {
                 keep(request.line, request.boat, std::move(*crossings));
+                emit found();
+            }
         },
         {.failed = [this](const std::exception_ptr& fault) {
             stop();
@@ -81,6 +83,11 @@ const CrossingSearch::Found* CrossingSearch::find(const slitline001& line) const
         return each.line == lineOf(line) && each.boat == boatOf(line);
     });
     return found == m_found.end() ? nullptr : &*found;
+}
+
+const Crossings* CrossingSearch::crossings(const slitline001& line) const {
+    const Found* const found = find(line);
+    return found ? &found->crossings : nullptr;
 }
 
 std::vector<Proposal> CrossingSearch::proposals(const slitline001& line) const {

@@ -37,13 +37,15 @@ public:
     [[nodiscard]] std::vector<Proposal> proposals(const slitline001& line) const;
     /// The same with what was refused.
     [[nodiscard]] std::vector<Proposal> allProposals(const slitline001& line) const;
-    /// Whether it was looked for there.
+    /// All that was found there; null where it was not looked for.
+    [[nodiscard]] const Crossings* crossings(const slitline001& line) const;
     [[nodiscard]] bool isSearched(const slitline001& line) const { return find(line) != nullptr; }
     /// What there is to say of it, a sentence each.
     [[nodiscard]] QStringList notes(const slitline001& line) const;
 
 signals:
     void changed();
+    void found(); ///< a search came to its end
     void failed(const QString& why);
 
 private:

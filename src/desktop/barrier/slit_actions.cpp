@@ -77,8 +77,8 @@ void SlitActions::exportPicture() {
 }
 
 void SlitActions::saveBands() {
-    const QString file = askForFile(tr("Save the water round the marks"), QStringLiteral(".bands"),
-                                    tr("Bands (*.bands)"));
+    const QString file = askForFile(tr("Save the water round the marks"), QStringLiteral(".kvband"),
+                                    tr("Bands (*.kvband)"));
     if (file.isEmpty())
         return;
     if (const QString why = m_window.saveBandsTo(file); !why.isEmpty())
@@ -103,6 +103,10 @@ void SlitActions::makeLineMenu() {
     add(
         *menu, tr("Draw a &new line"), {Qt::Key_N}, [window] { window->drawLine(); },
         [window] { return !window->film().isEmpty(); });
+    add(
+        *menu, tr("Take &over the lines of another film"), {Qt::Key_L},
+        [window] { window->takeLinesOver(); },
+        [window] { return window->keeping().neighbour() && !window->line(); });
     add(
         *menu, tr("Ne&xt line"), {Qt::CTRL | Qt::Key_PageDown}, [window] { window->stepLine(1); },
         hasLine);

@@ -7,22 +7,56 @@
 #include "desktop/shell/disk_worker.h"
 #include "desktop/shell/qt_text.h"
 
+#include <QDir>
+
 #include <memory>
+#include <stdexcept>
 #include <utility>
 
 namespace kavela::desktop {
 
+namespace {
+
+/// The lines that were changed last in the folder of a film, but for its own. Those that cannot be
+/// read are told where they are opened.
+std::optional<SlitNeighbour> neighbourOf(const std::filesystem::path& own) {
+    const QString folder = qtText(own.parent_path().string());
+    const QFileInfoList files =
+        QDir(folder).entryInfoList({QStringLiteral("*.slit.json")}, QDir::Files, QDir::Time);
+    for (const QFileInfo& file : files) {
+        const std::filesystem::path path = file.filePath().toStdString();
+        if (path.filename() == own.filename())
+            continue;
+        try {
+            auto read = readSlitFile(path);
+            if (read && !read->lines.empty())
+                return SlitNeighbour{file.fileName().chopped(QStringView(u".slit.json").size()),
+                                     std::move(*read)};
+        } catch (const std::runtime_error&) {
+            continue;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
 void SlitKeeping::open(const QString& film) {
     m_film = film;
     m_file = {};
+    m_neighbour.reset();
     m_isUnreadable = false;
     m_isReading = true;
     emit opened();
     const auto path = slitFileOf(film.toStdString());
-    const auto read = std::make_shared<slitfile001>();
+    const auto read = std::make_shared<Read>();
     // Behind what another window of this film still has to write.
     disk::runAwaited(
-        *this, [path, read] { *read = readSlitFile(path).value_or(slitfile001()); },
+        *this,
+        [path, read] {
+            read->neighbour = neighbourOf(path);
+            read->file = readSlitFile(path);
+        },
         [this, read, number = ++m_readings,
          name = qtText(path.filename().string())](const std::exception_ptr& fault) {
             if (number == m_readings) // else another film was opened meanwhile
@@ -32,25 +66,28 @@ void SlitKeeping::open(const QString& film) {
         emit changed();
 }
 
-void SlitKeeping::takeRead(slitfile001 file, const QString& name, const std::exception_ptr& fault) {
+void SlitKeeping::takeRead(Read read, const QString& name, const std::exception_ptr& fault) {
     m_isReading = false;
+    m_neighbour = std::move(read.neighbour);
     m_isUnreadable = fault != nullptr;
     if (fault)
         emit failed(tr("The lines in %1 cannot be read: %2. The file is put aside before new lines "
                        "take its name.")
                         .arg(name, qtText(messageOf(fault))));
-    else
-        m_file = std::move(file);
+    else if (read.file)
+        m_file = std::move(*read.file);
+    else if (m_neighbour) // one race is timed at one point
+        m_file.timedAt = m_neighbour->file.timedAt;
     emit changed();
 }
 
-void SlitKeeping::edit(const std::function<void(slitfile001&)>& change) {
+void SlitKeeping::edit(const std::function<void(slitfile002&)>& change) {
     if (m_isReading) { // nothing is written over lines that are not known yet
         emit failed(tr("The lines of this film are still being read. Try again in a moment."));
         emit changed();
         return;
     }
-    const slitfile001 before = m_file;
+    const slitfile002 before = m_file;
     change(m_file);
     if (encode(m_file) != encode(before)) // a click on a line moves it nowhere
         emit edited(before);
@@ -58,12 +95,20 @@ void SlitKeeping::edit(const std::function<void(slitfile001&)>& change) {
     emit changed();
 }
 
-void SlitKeeping::putBack(slitfile001 file) {
+void SlitKeeping::putBack(slitfile002 file) {
     if (m_isReading)
         return;
+    file.searches = std::move(m_file.searches);
     m_file = std::move(file);
     write();
     emit changed();
+}
+
+void SlitKeeping::keepSearches(std::vector<slitsearch001> searches) {
+    if (m_isReading)
+        return;
+    m_file.searches = std::move(searches);
+    write();
 }
 
 void SlitKeeping::write() {

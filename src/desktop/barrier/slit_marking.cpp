@@ -19,6 +19,15 @@ namespace {
 constexpr double ProposalReach = 0.5;
 constexpr double SureProposal = 0.5; ///< confidence
 
+/// A proposal whose frame and seconds are those of the point that is timed.
+Proposal timedAt(Proposal proposal, TimingPoint point) {
+    if (point == TimingPoint::Body) {
+        proposal.frame = proposal.bodyFrame;
+        proposal.seconds = proposal.bodySeconds;
+    }
+    return proposal;
+}
+
 } // namespace
 
 const slitline001* SlitMarking::line() const {
@@ -32,7 +41,7 @@ std::size_t SlitMarking::split() const {
 
 void SlitMarking::edit(const std::function<void(slitline001&)>& change) {
     if (line())
-        m_keeping.edit([&](slitfile001& file) { change(file.lines[m_number]); });
+        m_keeping.edit([&](slitfile002& file) { change(file.lines[m_number]); });
 }
 
 void SlitMarking::setBoat(const QRectF& box) {
@@ -51,7 +60,7 @@ QString SlitMarking::draw(std::size_t number, const SlitLine& ends, const VideoF
         return qtText(error.reason());
     }
     m_number = std::min(number, m_keeping.file().lines.size());
-    m_keeping.edit([&](slitfile001& file) {
+    m_keeping.edit([&](slitfile002& file) {
         file.width = film.shownSize.width;
         file.height = film.shownSize.height;
         if (m_number == file.lines.size()) {
@@ -70,9 +79,86 @@ QString SlitMarking::draw(std::size_t number, const SlitLine& ends, const VideoF
     return {};
 }
 
+void SlitMarking::setPoint(TimingPoint point) {
+    m_keeping.edit([point](slitfile002& file) { setTimingPoint(file, point); });
+}
+
+QString SlitMarking::takeLinesOver(VideoSize shown) {
+    const SlitNeighbour* const other = m_keeping.neighbour();
+    if (!other)
+        return tr("No other film of this folder has lines.");
+    const slitfile002& lines = other->file;
+    if (lines.width != shown.width || lines.height != shown.height)
+        return tr("The lines of “%1” were drawn over a picture of %2 × %3 pixels; this film has "
+                  "%4 × %5.")
+            .arg(other->film)
+            .arg(lines.width)
+            .arg(lines.height)
+            .arg(shown.width)
+            .arg(shown.height);
+    m_number = m_keeping.file().lines.size();
+    m_keeping.edit([&](slitfile002& file) {
+        file.width = shown.width;
+        file.height = shown.height;
+        for (slitline001 line : lines.lines) {
+            line.refused.clear();
+            file.lines.push_back(std::move(line));
+        }
+    });
+    return {};
+}
+
+QString SlitMarking::drawingHint() const {
+    const QString draw = tr("Press N and draw a line across the water in the film above: what "
+                            "stands on it is shown here over time.");
+    const SlitNeighbour* const other = m_keeping.neighbour();
+    return other ? draw + '\n' + tr("Or press L for the lines of “%1”.").arg(other->film) : draw;
+}
+
+QStringList SlitMarking::notes() const {
+    if (!line())
+        return {};
+    QStringList notes;
+    const SlitNeighbour* const other = m_keeping.neighbour();
+    if (other && timingPointOf(other->file) != point())
+        notes.append(
+            point() == TimingPoint::Body
+                ? tr("“%1” is timed at the bow: one race needs one point.").arg(other->film)
+                : tr("“%1” is timed at the body: one race needs one point.").arg(other->film));
+    return notes + m_search.notes(*line());
+}
+
+QString SlitMarking::tellMarkedOtherwise() const {
+    const auto runs = m_race.runs(split());
+    const auto marked =
+        std::ranges::count_if(runs, [](const SlitRun& run) { return run.seconds.has_value(); });
+    if (marked == 0)
+        return {};
+    return marked == 1 ? tr("A mark of this line was made before: look at it again.")
+                       : tr("%n marks of this line were made before: look at them again.", nullptr,
+                            static_cast<int>(marked));
+}
+
+void SlitMarking::keepSearches() {
+    std::vector<slitsearch001> searches;
+    for (const slitline001& each : m_keeping.file().lines)
+        if (const Crossings* const found = m_search.crossings(each))
+            searches.push_back(searchRecord(each, *found));
+    m_keeping.keepSearches(std::move(searches));
+}
+
+void SlitMarking::restoreSearches() {
+    if (!m_index)
+        return;
+    for (const slitline001& each : m_keeping.file().lines)
+        if (!m_search.isSearched(each))
+            if (auto found = foundOn(m_keeping.file(), each, m_index->frameCount()))
+                m_search.keep(lineOf(each), boatOf(each), std::move(*found));
+}
+
 void SlitMarking::remove() {
     if (line())
-        m_keeping.edit([this](slitfile001& file) {
+        m_keeping.edit([this](slitfile002& file) {
             file.lines.erase(file.lines.begin() + static_cast<std::ptrdiff_t>(m_number));
         });
 }
@@ -86,7 +172,12 @@ std::optional<double> SlitMarking::columnAt(double seconds) const {
 }
 
 std::vector<Proposal> SlitMarking::proposals() const {
-    return line() ? m_search.proposals(*line()) : std::vector<Proposal>();
+    std::vector<Proposal> proposals;
+    if (line())
+        for (const Proposal& found : m_search.proposals(*line()))
+            proposals.push_back(timedAt(found, point()));
+    std::ranges::stable_sort(proposals, {}, &Proposal::seconds); // a fast boat beside a slow one
+    return proposals;
 }
 
 std::optional<Proposal> SlitMarking::proposalAt(double column) const {
@@ -187,12 +278,16 @@ QString SlitMarking::refuse(double column) {
     const auto proposal = proposalAt(column);
     if (!proposal)
         return tr("There is no proposal at the hair line.");
-    edit([&](slitline001& line) { line.refused.push_back({proposal->frame, proposal->seconds}); });
+    const std::vector<Proposal> found = m_search.proposals(*line());
+    const auto refused = std::ranges::find_if(
+        found, [&](const Proposal& each) { return timedAt(each, point()) == *proposal; });
+    // Refusals are known by the bow, whichever point is timed.
+    edit([&](slitline001& line) { line.refused.push_back({refused->frame, refused->seconds}); });
     return {};
 }
 
-QString SlitMarking::lock() {
-    const BarrierFigures& figures = measuredBarrierFigures();
+QString SlitMarking::lock() const {
+    const BarrierFigures& figures = measuredBarrierFigures(point());
     return reachesTargets(figures) ? QString() : qtText(tellFigures(figures));
 }
 
@@ -224,7 +319,7 @@ std::vector<BandJudgement> SlitMarking::judgements() const {
             marked.push_back(*run.seconds);
     for (const Proposal& proposal : m_search.allProposals(*line())) {
         const auto own = std::ranges::find_if(marked, [&](double seconds) {
-            return std::abs(seconds - proposal.seconds) <= ProposalReach;
+            return std::abs(seconds - secondsOf(proposal, point())) <= ProposalReach;
         });
         if (own != marked.end()) {
             judgements.push_back({proposal, *own});

@@ -45,7 +45,24 @@ public:
     /// Where a moment of the film stands; nothing as long as not all of it is known.
     [[nodiscard]] std::optional<double> columnAt(double seconds) const;
 
-    /// What is proposed, without what was refused, in the order of time.
+    /// What is timed on this film.
+    [[nodiscard]] TimingPoint point() const { return timingPointOf(m_keeping.file()); }
+    void setPoint(TimingPoint point);
+    /// Adds the lines of the film beside it, without its refusals. Returns why not.
+    [[nodiscard]] QString takeLinesOver(VideoSize shown);
+    /// How to come to a line where there is none.
+    [[nodiscard]] QString drawingHint() const;
+    /// What there is to say of the point that is timed and of what was found, a sentence each.
+    [[nodiscard]] QStringList notes() const;
+    /// Marks of this line that were made before another point was chosen; empty without any.
+    [[nodiscard]] QString tellMarkedOtherwise() const;
+    /// Keeps what was found for the next time that the film is opened.
+    void keepSearches();
+    /// Brings back what was found before, once film and lines are known.
+    void restoreSearches();
+
+    /// What is proposed, its frame and seconds those of the point that is timed, without what was
+    /// refused, in the order of time.
     [[nodiscard]] std::vector<Proposal> proposals() const;
     /// The one at a place, within half a second.
     [[nodiscard]] std::optional<Proposal> proposalAt(double column) const;
@@ -70,7 +87,7 @@ public:
     [[nodiscard]] QString unmark(int run);
     [[nodiscard]] QString refuse(double column);
     /// Why proposals cannot be accepted all at once.
-    [[nodiscard]] static QString lock();
+    [[nodiscard]] QString lock() const;
     /// Marks every run that has a sure proposal, in one step.
     [[nodiscard]] QString acceptAll(bool isFiner);
 

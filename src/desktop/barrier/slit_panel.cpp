@@ -24,6 +24,7 @@ SlitPanel::SlitPanel()
       m_proposals(proposalColumns(), RowsKnownBy::Number),
       m_line(new QComboBox),
       m_split(new QComboBox),
+      m_point(new QComboBox),
       m_race(new QLabel),
       m_openRace(new QPushButton(tr("Open the &race…"))),
       m_runTable(new ColumnTable(m_runs, "slitRuns")),
@@ -36,16 +37,19 @@ SlitPanel::SlitPanel()
     m_runTable->keepOrder();
     m_runTable->stretch({0});
     m_proposalTable->stretch({2});
-    m_proposalTable->setEmptyText(
-        tr("Draw a box round one boat (B), then look for boats (Ctrl+B): where they may have "
-           "crossed is listed here."));
     m_finer->setToolTip(tr("The time of the split follows the hair line between two frames; the "
                            "mark itself stays on the frame."));
+    m_point->addItem(tr("the bow"), static_cast<int>(TimingPoint::Bow));
+    m_point->addItem(tr("the body"), static_cast<int>(TimingPoint::Body));
+    m_point->setToolTip(tr("What is timed at the lines of this film: one point for a whole race. "
+                           "Proposals tell when it crosses."));
     makeLayout();
     connect(m_line, &QComboBox::activated, this,
             [this](int line) { emit lineChosen(static_cast<std::size_t>(line)); });
     connect(m_split, &QComboBox::activated, this,
             [this](int split) { emit splitChosen(static_cast<std::size_t>(split)); });
+    connect(m_point, &QComboBox::activated, this,
+            [this] { emit pointChosen(static_cast<TimingPoint>(m_point->currentData().toInt())); });
     connect(m_openRace, &QPushButton::clicked, this, &SlitPanel::raceWanted);
     connect(m_finer, &QCheckBox::toggled, this, &SlitPanel::finerChosen);
     connect(m_runTable, &ColumnTable::chosen, this, &SlitPanel::runChosen);
@@ -66,9 +70,15 @@ void SlitPanel::makeLayout() {
     lines->addWidget(m_line, 1);
     lines->addWidget(new QLabel(tr("marks")));
     lines->addWidget(m_split, 1);
+    auto* const timed = new QLabel(tr("Ti&med is"));
+    timed->setBuddy(m_point);
+    auto* const points = new QHBoxLayout;
+    points->addWidget(timed);
+    points->addWidget(m_point, 1);
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(theme::Spacing, 0, 0, 0);
     column->addLayout(lines);
+    column->addLayout(points);
     column->addWidget(m_race);
     column->addWidget(m_openRace);
     column->addWidget(m_runTable, 3);
@@ -91,6 +101,13 @@ void SlitPanel::showLines(const SlitMarking& marking, std::size_t lines, const S
         m_split->addItem(race.titleOf(split));
     m_split->setCurrentIndex(marking.line() ? static_cast<int>(marking.split()) : -1);
     m_split->setEnabled(marking.line() != nullptr);
+    m_point->setCurrentIndex(m_point->findData(static_cast<int>(marking.point())));
+    m_point->setEnabled(marking.line() != nullptr);
+    const bool hasBoat = marking.line() && marking.line()->boatWidth > 0;
+    m_proposalTable->setEmptyText(
+        hasBoat ? tr("Look for boats (Ctrl+B): where they may have crossed is listed here.")
+                : tr("Draw a box round one boat (B), then look for boats (Ctrl+B): where they may "
+                     "have crossed is listed here."));
 }
 
 void SlitPanel::showRows(SlitMarking::Rows rows) {

@@ -41,6 +41,7 @@ public:
 signals:
     void lineChosen(std::size_t line);
     void splitChosen(std::size_t split);
+    void pointChosen(TimingPoint point);
     void raceWanted();
     void finerChosen(bool isFiner);
     void runChosen();  ///< another one is the current row
@@ -55,6 +56,7 @@ private:
     ColumnModel<ProposalRow> m_proposals;
     QComboBox* m_line;
     QComboBox* m_split;
+    QComboBox* m_point; ///< its data are those of TimingPoint
     QLabel* m_race;
     QPushButton* m_openRace;
     ColumnTable* m_runTable;

@@ -9,19 +9,20 @@
 
 namespace kavela::desktop {
 
-SlitSheet sheetOf(const SlitPicture& picture, FrameNumber first, FrameNumber last,
-                  const std::vector<SlitRunRow>& runs) {
-    SlitSheet sheet{first, std::min(last, picture.columns - 1), {}};
+/// The picture shares its tiles, which never change: reading on adds to the window's own one.
+void SlitSaving::writePicture(const QString& file, const SlitPicture& picture,
+                              const std::shared_ptr<const VideoIndex>& index, const SlitPart& part,
+                              const std::vector<SlitRunRow>& runs) {
+    if (!index || picture.tiles.empty())
+        return tellNotSaved(tr("There is no slit picture yet."));
+    SlitSheet sheet{slitFrameAt(*index, 0, part.from),
+                    std::min(slitFrameAt(*index, 0, part.to), picture.columns - 1),
+                    {}};
+    if (sheet.last < sheet.first)
+        return tellNotSaved(tr("That part is not read yet."));
     for (const SlitRunRow& row : runs)
         if (row.run.seconds)
             sheet.marks.push_back({*row.run.seconds, row.run.crew});
-    return sheet;
-}
-
-/// The picture shares its tiles, which never change: reading on adds to the window's own one.
-void SlitSaving::writePicture(const QString& file, const SlitPicture& picture,
-                              const std::shared_ptr<const VideoIndex>& index,
-                              const SlitSheet& sheet) {
     disk::run(
         *this,
         [path = file.toStdString(), picture, index, sheet] {
@@ -29,22 +30,24 @@ void SlitSaving::writePicture(const QString& file, const SlitPicture& picture,
         },
         [this](const std::exception_ptr& fault) {
             if (fault)
-                emit told(pictureNotSaved(qtText(causeOf(fault))));
+                tellNotSaved(qtText(causeOf(fault)));
         });
 }
 
-QString SlitSaving::pictureNotSaved(const QString& why) {
-    return tr("The picture could not be saved: %1").arg(why);
+void SlitSaving::tellNotSaved(const QString& why) {
+    emit told(tr("The picture could not be saved: %1").arg(why));
 }
 
 void SlitSaving::writeBands(const QString& file, const std::shared_ptr<const VideoIndex>& index,
-                            const slitline001& line, const std::vector<BandJudgement>& judgements) {
+                            const slitline001& line, const std::vector<BandJudgement>& judgements,
+                            TimingPoint point) {
     BarrierRequest request;
     request.line = lineOf(line);
     request.boat = boatOf(line);
     m_work.run(
-        [path = file.toStdString(), index, request, judgements](const WorkSteps& steps) {
-            if (const auto recording = recordBands(index, request, judgements, steps.stopToken()))
+        [path = file.toStdString(), index, request, judgements, point](const WorkSteps& steps) {
+            if (const auto recording =
+                    recordBands(index, request, judgements, point, steps.stopToken()))
                 writeBandRecording(*recording, path);
         },
         [this, name = QFileInfo(file).fileName()] {

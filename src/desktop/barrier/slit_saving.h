@@ -14,10 +14,11 @@
 
 namespace kavela::desktop {
 
-/// From one frame to another, as far as the picture is read, with the marks of runs; its last frame
-/// is before its first where nothing of it is read.
-[[nodiscard]] SlitSheet sheetOf(const SlitPicture& picture, FrameNumber first, FrameNumber last,
-                                const std::vector<SlitRunRow>& runs);
+/// A part of a slit picture, in columns.
+struct SlitPart {
+    double from = 0;
+    double to = 0;
+};
 
 /// What is written of a slit picture for others.
 class SlitSaving : public QObject {
@@ -26,20 +27,23 @@ class SlitSaving : public QObject {
 public:
     using QObject::QObject;
 
-    /// Writes a part of a picture as PNG with its time scale, beside the window and also when that
-    /// is closed meanwhile. Only what goes wrong is told; what stood there then stays.
+    /// Writes a part of a picture, as far as it is read, as PNG with its time scale and the marks
+    /// of runs, beside the window and also when that is closed meanwhile. Only what goes wrong is
+    /// told; what stood there then stays.
     void writePicture(const QString& file, const SlitPicture& picture,
-                      const std::shared_ptr<const VideoIndex>& index, const SlitSheet& sheet);
-    /// That there is no picture in a file, and why.
-    [[nodiscard]] static QString pictureNotSaved(const QString& why);
+                      const std::shared_ptr<const VideoIndex>& index, const SlitPart& part,
+                      const std::vector<SlitRunRow>& runs);
     /// Writes the water beside a line round each place that was judged, beside the window.
     void writeBands(const QString& file, const std::shared_ptr<const VideoIndex>& index,
-                    const slitline001& line, const std::vector<BandJudgement>& judgements);
+                    const slitline001& line, const std::vector<BandJudgement>& judgements,
+                    TimingPoint point);
 
 signals:
     void told(const QString& text); ///< how writing ended
 
 private:
+    void tellNotSaved(const QString& why);
+
     BackgroundWork m_work;
 };
 

@@ -43,7 +43,7 @@ int SlitSteps::raceSteps() const {
     return m_race.isThere() ? m_race.document()->undoStack().index() : 0;
 }
 
-void SlitSteps::remember(const slitfile001& before) {
+void SlitSteps::remember(const slitfile002& before) {
     m_done.push_back({before, raceSteps()});
     m_undone.clear();
 }

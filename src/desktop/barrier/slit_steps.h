@@ -30,12 +30,12 @@ public:
 private:
     /// The lines as they were, and how many steps of the race were taken then.
     struct LineStep {
-        slitfile001 file;
+        slitfile002 file;
         int raceSteps = 0;
     };
 
     [[nodiscard]] int raceSteps() const;
-    void remember(const slitfile001& before);
+    void remember(const slitfile002& before);
     void forget();
     void followSteps(int raceSteps);
     void followRace();

@@ -21,14 +21,6 @@
 
 namespace kavela::desktop {
 
-namespace {
-
-QString slitFilmFilter() {
-    return SlitWindow::tr("Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;All files (*)");
-}
-
-} // namespace
-
 SlitWindow::SlitWindow(Workspace& workspace)
     : ToolWindow(workspace, nullptr, {"slit", tr("Slit picture"), "mp4"}),
       m_marking(m_keeping, m_race, m_search),
@@ -74,6 +66,7 @@ void SlitWindow::connectParts() {
     connect(&m_loader, &SlitLoader::ended, this, &SlitWindow::showPicture);
     connect(&m_race, &SlitRace::changed, this, &SlitWindow::showLines);
     connect(&m_search, &CrossingSearch::changed, this, &SlitWindow::showRuns);
+    connect(&m_search, &CrossingSearch::found, this, [this] { m_marking.keepSearches(); });
     connect(&m_search, &CrossingSearch::failed, this, &SlitWindow::tell);
     connect(&m_saving, &SlitSaving::told, this, &SlitWindow::tell);
     connect(m_panel, &SlitPanel::runChosen, this, [this] { m_front->follow(); });
@@ -95,6 +88,10 @@ void SlitWindow::connectLines() {
     });
     connect(m_panel, &SlitPanel::lineChosen, this, [this](std::size_t line) {
         chooseLine(line);
+        view().setFocus();
+    });
+    connect(m_panel, &SlitPanel::pointChosen, this, [this](TimingPoint point) {
+        setTimingPoint(point);
         view().setFocus();
     });
     connect(m_panel, &SlitPanel::splitChosen, this, [this](std::size_t split) {
@@ -152,8 +149,9 @@ bool SlitWindow::open(const QString& path) {
 }
 
 void SlitWindow::chooseFilm() {
-    const QString film = QFileDialog::getOpenFileName(this, tr("Open the film of a fixed camera"),
-                                                      QFileInfo(m_film).path(), slitFilmFilter());
+    const QString film = QFileDialog::getOpenFileName(
+        this, tr("Open the film of a fixed camera"), QFileInfo(m_film).path(),
+        tr("Films (*.mp4 *.mov *.m4v *.avi *.mkv *.mts *.m2ts);;All files (*)"));
     if (!film.isEmpty())
         (void)open(film);
 }
@@ -183,6 +181,7 @@ void SlitWindow::followFilm() {
     m_marking.setIndex(index);
     m_loader.setFilm(index);
     m_search.setFilm(index);
+    m_marking.restoreSearches();
     showPicture();
     showRuns();
 }
@@ -197,16 +196,15 @@ void SlitWindow::showLines() {
     m_panel->showLines(m_marking, lines.size(), m_race);
     overlay().setLines(lines, m_marking.number());
     m_loader.setLines(drawn);
+    m_marking.restoreSearches();
     showPicture();
     showRuns();
 }
 
 void SlitWindow::showPicture() {
     if (!line())
-        view().setMessage(m_film.isEmpty()
-                              ? tr("Open the film of a camera on a tripod (Ctrl+O).")
-                              : tr("Press N and draw a line across the water in the film above: "
-                                   "what stands on it is shown here over time."));
+        view().setMessage(m_film.isEmpty() ? tr("Open the film of a camera on a tripod (Ctrl+O).")
+                                           : m_marking.drawingHint());
     else
         view().setMessage(m_loader.told().isEmpty() ? tr("Reading the film…") : m_loader.told());
     view().setPicture(line() ? &m_loader.picture(lineNumber()) : nullptr, m_loader.index());
@@ -237,8 +235,7 @@ QString SlitWindow::told() const {
         notes.append(m_told);
     if (line() && !m_loader.picture(lineNumber()).tiles.empty() && !m_loader.told().isEmpty())
         notes.append(m_loader.told());
-    if (line())
-        notes.append(m_search.notes(*line()));
+    notes.append(m_marking.notes());
     return notes.join(' ');
 }
 
@@ -283,6 +280,24 @@ void SlitWindow::drawn(std::size_t number, const QPointF& first, const QPointF& 
         showLines();
         refuse(why);
     }
+}
+
+void SlitWindow::takeLinesOver() {
+    const auto index = m_stage->index();
+    if (!index)
+        return refuse(tr("The film is not read so far."));
+    m_front->leave();
+    m_told.clear();
+    if (const QString why = m_marking.takeLinesOver(index->facts().shownSize); !why.isEmpty())
+        refuse(why);
+    view().setFocus();
+}
+
+void SlitWindow::setTimingPoint(TimingPoint point) {
+    if (point == m_marking.point())
+        return;
+    m_marking.setPoint(point);
+    tell(m_marking.tellMarkedOtherwise());
 }
 
 void SlitWindow::chooseLine(std::size_t number) {
@@ -381,19 +396,17 @@ void SlitWindow::forgetRefusals() {
 }
 
 void SlitWindow::undoStep() {
-    const std::size_t lines = m_keeping.file().lines.size();
-    m_steps.undo();
-    followSteps(lines);
+    takeStep(&SlitSteps::undo);
 }
 
 void SlitWindow::redoStep() {
-    const std::size_t lines = m_keeping.file().lines.size();
-    m_steps.redo();
-    followSteps(lines);
+    takeStep(&SlitSteps::redo);
 }
 
 /// With a line that comes or goes, as with one that is drawn, the list of runs begins anew.
-void SlitWindow::followSteps(std::size_t lines) {
+void SlitWindow::takeStep(void (SlitSteps::*step)()) {
+    const std::size_t lines = m_keeping.file().lines.size();
+    (m_steps.*step)();
     if (m_keeping.file().lines.size() == lines)
         return;
     m_front->leave();
@@ -418,17 +431,9 @@ void SlitWindow::acceptAll() {
 }
 
 void SlitWindow::exportTo(const QString& file) {
-    const SlitPicture& picture = m_loader.picture(lineNumber());
-    const auto index = m_loader.index();
-    if (!index || picture.tiles.empty())
-        return tell(SlitSaving::pictureNotSaved(tr("There is no slit picture yet.")));
-    const SlitSheet sheet =
-        sheetOf(picture, slitFrameAt(*index, 0, view().columnAt(0)),
-                slitFrameAt(*index, 0, view().columnAt(view().width())), m_panel->runs());
-    if (sheet.last < sheet.first)
-        return tell(SlitSaving::pictureNotSaved(tr("That part is not read yet.")));
     tell(QString()); // what was told is of an earlier one
-    m_saving.writePicture(file, picture, index, sheet);
+    m_saving.writePicture(file, m_loader.picture(lineNumber()), m_loader.index(),
+                          {view().columnAt(0), view().columnAt(view().width())}, m_panel->runs());
 }
 
 QString SlitWindow::saveBandsTo(const QString& file) {
@@ -436,7 +441,7 @@ QString SlitWindow::saveBandsTo(const QString& file) {
     if (!line() || line()->boatWidth <= 0 || judgements.empty())
         return tr("There is nothing to learn from yet: look for boats, then mark and refuse what "
                   "was found.");
-    m_saving.writeBands(file, m_loader.index(), *line(), judgements);
+    m_saving.writeBands(file, m_loader.index(), *line(), judgements, m_marking.point());
     return {};
 }
 

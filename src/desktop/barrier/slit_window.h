@@ -41,6 +41,7 @@ public:
     [[nodiscard]] QString raceOfFilm() const { return raceFileOf(m_film); }
 
     [[nodiscard]] SlitKeeping& keeping() { return m_keeping; }
+    [[nodiscard]] const SlitMarking& marking() const { return m_marking; }
     [[nodiscard]] SlitLoader& loader() { return m_loader; }
     [[nodiscard]] SlitRace& race() { return m_race; }
     [[nodiscard]] const SlitSteps& steps() const { return m_steps; }
@@ -62,6 +63,9 @@ public:
     // Lines.
     void drawLine();
     void drawBoat();
+    /// Those of another film of the folder, drawn over as large a picture; why not is told.
+    void takeLinesOver();
+    void setTimingPoint(TimingPoint point);
     void chooseLine(std::size_t line); ///< a number beyond the lines changes nothing
     void stepLine(int step);
     void removeLine();
@@ -85,7 +89,7 @@ public:
     void redoStep();
     void searchBoats();
     /// Why proposals cannot be accepted all at once; empty where they can.
-    [[nodiscard]] QString lockOfAcceptAll() const { return SlitMarking::lock(); }
+    [[nodiscard]] QString lockOfAcceptAll() const { return m_marking.lock(); }
     void acceptAll();
 
     /// Saves the part of the picture that is seen as PNG, with a time scale; why not is told.
@@ -117,7 +121,7 @@ private:
     void showRuns();
     void showState();
     void drawn(std::size_t line, const QPointF& first, const QPointF& second);
-    void followSteps(std::size_t lines);
+    void takeStep(void (SlitSteps::*step)());
     void moveMark(int run, double column);
 
     QString m_film;
