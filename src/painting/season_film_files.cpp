@@ -6,6 +6,7 @@
 #include "common/parallel.h"
 #include "common/safe_file.h"
 #include "films/season_films.h"
+#include "films/sprint_lines.h"
 #include "painting/offscreen_application.h"
 #include "video/writing/film_sink.h"
 
@@ -38,12 +39,20 @@ void makeFilms(const std::vector<films::PlannedFilm>& plans, const fs::path& fol
     });
 }
 
+/// Lines that somebody has drawn since then stay.
+void drawLines(const fs::path& folder) {
+    const fs::path lines = slitFileOf(folder / "camera" / sample::SprintFilm);
+    if (!fs::exists(lines))
+        writeSlitFile(films::sprintLines(), lines);
+}
+
 } // namespace
 
 int writeSeasonFilms(const fs::path& folder) {
     try {
         const std::vector<films::PlannedFilm> plans = missingFilms(folder);
         makeFilms(plans, folder);
+        drawLines(folder);
         const std::string count =
             cli::counted(static_cast<std::int64_t>(plans.size()), "film", "films");
         return cli::print("Made " + count + ".\n") ? cli::Done : cli::NotDone;

@@ -1,5 +1,6 @@
 #include "cli/program.h"
 #include "films/season_films.h"
+#include "vision/slit_file.h"
 
 #include <gmock/gmock.h>
 
@@ -37,6 +38,9 @@ TEST(DemoVideos, MakesTheFilmsThatAreMissingAndKeepsTheOthers) {
     const fs::path season = kavela.folder().path() / "season";
     EXPECT_GT(fs::file_size(season / *missing), 100'000U);
     EXPECT_EQ(test::contentOf(season / names.front()), "kept");
+    const auto lines = readSlitFile(season / "camera" / "sprint finish.slit.json");
+    ASSERT_TRUE(lines) << "a newcomer sees at once what a line is";
+    EXPECT_THAT(lines->lines, testing::SizeIs(2));
     for (const auto& entry : fs::recursive_directory_iterator(season))
         EXPECT_NE(entry.path().extension(), ".tmp") << entry.path();
 }

@@ -1,4 +1,5 @@
 #include "films/season_films.h"
+#include "films/sprint_lines.h"
 
 #include "common/safe_file.h"
 #include "common/temp_folder.h"
@@ -179,20 +180,27 @@ TEST_P(MadeFilm, GivesTheTimesOfItsSplitFile) {
 }
 
 /// Its water is calm, and a coach draws the box round hull, paddler and blades.
-TEST(SprintFilm, HasItsCrossingsFoundByBoxesOfAnyHeight) {
+TEST(SprintFilm, HasItsCrossingsFoundAtItsLinesByBoxesOfAnyHeight) {
     const test::TempFolder folder;
     const auto passages = sample::sprintPassages();
     const fs::path film = folder.add("sprint.mov", makeFilm(FixedScene(passages)));
-    const SlitLine line{
-        {FixedScene::FinishColumn, 46}, {FixedScene::FinishColumn, 235}, BoatsFrom::Right};
-    for (const double height : {14.0, 33.0}) {
-        SCOPED_TRACE(height);
-        const auto crossings = findCrossings(film, {line, {0, 0, 56, height}});
+    const slitfile002 lines = sprintLines();
+    ASSERT_EQ(lines.lines.size(), 2U);
+    BoatBox low = boatOf(lines.lines[1]);
+    low.height = 14; // the hull alone
+    for (const auto& [line, boat] :
+         {std::pair(lines.lines[0], boatOf(lines.lines[0])),
+          std::pair(lines.lines[1], boatOf(lines.lines[1])), std::pair(lines.lines[1], low)}) {
+        SCOPED_TRACE(fmt::format("split {}, {} high", line.split, boat.height));
+        const auto crossings = findCrossings(film, {lineOf(line), boat});
         ASSERT_TRUE(crossings);
         ASSERT_EQ(crossings->proposals.size(), passages.size());
         for (std::size_t i = 0; i < passages.size(); ++i) {
-            EXPECT_LE(std::abs(crossings->proposals[i].frame - passages[i].finish), 3) << i;
-            EXPECT_GE(crossings->proposals[i].confidence, 0.5) << i;
+            const Proposal& proposal = crossings->proposals[i];
+            const Frames crossed = line.split == 0 ? passages[i].start : passages[i].finish;
+            EXPECT_LE(std::abs(proposal.frame - crossed), 3) << i;
+            EXPECT_GE(proposal.confidence, 0.5) << i;
+            EXPECT_GT(proposal.bodyFrame, proposal.frame) << i;
         }
     }
 }
