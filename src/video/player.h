@@ -23,7 +23,8 @@ struct ShownFrame {
 /// soon, and must not destroy the player.
 struct PlayerEvents {
     std::function<void(const ShownFrame&)> onFrame;
-    /// The film's index, so far or complete, and the fraction of the file that was read.
+    /// The film's index, so far or complete, and the fraction of the file that was read; before the
+    /// first frame.
     std::function<void(const std::shared_ptr<const VideoIndex>&, double fraction)> onIndex;
     /// The film cannot be opened or read, or no frame of it can be decoded. The next request tries
     /// again.

@@ -116,6 +116,8 @@ bool ThreadedPlayer::waitForRequestAfter(std::uint64_t before, const std::stop_t
 }
 
 void ThreadedPlayer::takeIndex(std::shared_ptr<const VideoIndex> index, double fraction) {
+    // From before the other thread knows it: a frame of it would else be told first.
+    const std::lock_guard events(m_eventGuard);
     std::shared_ptr<const VideoIndex> known;
     {
         const std::lock_guard lock(m_guard);
@@ -124,7 +126,6 @@ void ThreadedPlayer::takeIndex(std::shared_ptr<const VideoIndex> index, double f
         known = m_index;
     }
     m_changed.notify_all();
-    const std::lock_guard lock(m_eventGuard);
     if (m_events.onIndex)
         m_events.onIndex(known, fraction);
 }

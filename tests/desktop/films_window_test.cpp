@@ -225,6 +225,17 @@ TEST_F(FilmsWindowTest, PlaysOneAfterTheOtherAndNotesThemAsWatched) {
                 ElementsAre(pathOf("a.mp4").toStdString(), pathOf("b.mp4").toStdString()));
 }
 
+TEST_F(FilmsWindowTest, ShowsAFilmWhosePictureCameLongBeforeItWasShown) {
+    addFilm("a.mp4");
+    addFilm("b.mp4");
+    FilmDeck& deck = open().stage().deck();
+    ASSERT_TRUE(comesTo(pathOf("a.mp4"), 0));
+    deck.openAhead(pathOf("b.mp4"));
+    QTest::qWait(500);
+    deck.open({pathOf("b.mp4")});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return deck.stamp(0).has_value(); }, 3000));
+}
+
 TEST_F(FilmsWindowTest, StaysAtTheEndWithoutThePreferenceAndAJumpIsNotWatched) {
     addFilm("a.mp4");
     addFilm("b.mp4");

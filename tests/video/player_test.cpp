@@ -7,9 +7,11 @@
 
 #include <unistd.h>
 
+#include <atomic>
 #include <condition_variable>
 #include <filesystem>
 #include <fstream>
+#include <future>
 #include <mutex>
 
 namespace kavela {
@@ -154,6 +156,28 @@ TEST(ThreadedPlayer, StepsAcrossWhatCannotBeDecoded) {
     watched.player->showFrame(first.number + 1);
     ASSERT_TRUE(watched.waitForFrame(first.number + 1));
     EXPECT_EQ(numberIn(*watched.player->shown()->samples), numberIn(*first.samples) + 1);
+}
+
+/// Who paints a frame needs the facts of its film, and would drop one that came too early.
+TEST(ThreadedPlayer, TellsOfTheFilmBeforeItsFirstFrame) {
+    const auto cache = std::make_shared<FrameCache>(4 << 20); // the frame is there at once
+    for (int opened = 0; opened < 60; ++opened) {
+        std::atomic<bool> isKnown = false;
+        std::promise<bool> wasKnown;
+        std::once_flag first;
+        PlayerEvents events;
+        events.onFrame = [&](const ShownFrame&) {
+            std::call_once(first, [&] { wasKnown.set_value(isKnown); });
+        };
+        events.onIndex = [&](const std::shared_ptr<const VideoIndex>& index, double) {
+            isKnown = isKnown || index;
+        };
+        ThreadedPlayer player(clip("h264_240.mp4"), cache, std::move(events));
+        player.showFrame(0);
+        auto told = wasKnown.get_future();
+        ASSERT_EQ(told.wait_for(Patience), std::future_status::ready);
+        ASSERT_TRUE(told.get()) << "opened for the " << opened << "th time";
+    }
 }
 
 TEST(ThreadedPlayer, TellsWhatWasAskedBeforeTheFilmIsRead) {

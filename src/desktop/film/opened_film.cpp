@@ -65,6 +65,7 @@ void OpenedFilm::showAs(std::size_t camera) {
     *m_camera = camera;
     if (m_player->index())
         tellShown(m_context, m_camera, m_listener.index);
+    tellShown(m_context, m_camera, m_listener.picture); // one that came before waits untold
 }
 
 } // namespace kavela::desktop
