@@ -104,8 +104,10 @@ protected:
 TEST_F(FetchWindowTest, ShowsWhatWouldBeFetchedAndThenFetchesIt) {
     server.add("/014.mp4", {served(body, "\"a\"")});
     setSource("/{bib:3}.mp4");
-    ASSERT_TRUE(showPlan());
-    ASSERT_THAT(m_window->rows(), SizeIs(2));
+    auto* const address = m_window->findChild<QLineEdit*>("address");
+    address->setFocus();
+    QTest::keyClick(address, Qt::Key_Return);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_window->rows().size() == 2; }, 20'000));
     EXPECT_THAT(server.asked, IsEmpty());
     EXPECT_FALSE(fs::exists(films()));
     ASSERT_TRUE(fetchTicked());

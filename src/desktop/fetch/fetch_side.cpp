@@ -6,6 +6,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -81,6 +82,8 @@ void FetchSide::makeForm(Edit edit) {
          .label = FetchWindow::tr("&Names"),
          .tip = FetchWindow::tr("Of the files: {name}, {category}, {phase}, {bib} and {number}")},
         &filmsource001::names);
+    for (const QLineEdit* const field : m_form->findChildren<QLineEdit*>()) // once it is taken
+        connect(field, &QLineEdit::returnPressed, this, &FetchSide::entered, Qt::QueuedConnection);
 }
 
 } // namespace kavela::desktop

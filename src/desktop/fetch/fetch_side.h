@@ -28,6 +28,7 @@ public:
 signals:
     void bibsWanted();
     void folderWanted();
+    void entered(); ///< Enter in a field
     /// Told later than the click: the list may be shown anew.
     void siteTicked(const std::string& site, bool isTicked);
 

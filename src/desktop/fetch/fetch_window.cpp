@@ -96,6 +96,7 @@ QWidget* FetchWindow::makeSide() {
     m_sites = &page->sites();
     connect(page, &FetchSide::bibsWanted, this, &FetchWindow::chooseBibs);
     connect(page, &FetchSide::folderWanted, this, &FetchWindow::chooseFolder);
+    connect(page, &FetchSide::entered, this, &FetchWindow::showPlan);
     connect(page, &FetchSide::siteTicked, this, &FetchWindow::tickSite);
     auto* const side = new ScrollPage(page);
     side->setMinimumWidth(grown(*this, 280));

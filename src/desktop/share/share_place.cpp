@@ -9,6 +9,7 @@
 
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QPushButton>
 
 namespace kavela::desktop {
@@ -54,6 +55,8 @@ void SharePlace::makeForm() {
                   .tip = tr("Of a folder on a WebDAV server: Nextcloud, ownCloud, a NAS, Apache…"),
                   .placeholder = "https://cloud.example.org/dav/team/"},
                  &Typed::address);
+    for (const QLineEdit* const field : m_form->findChildren<QLineEdit*>()) // once it is taken
+        connect(field, &QLineEdit::returnPressed, this, &SharePlace::entered, Qt::QueuedConnection);
 }
 
 /// One that was never shared stays with the address that is there.

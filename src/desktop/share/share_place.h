@@ -44,6 +44,7 @@ public:
 signals:
     void changed();
     void folderWanted(); ///< the coach wants to choose one
+    void entered();      ///< Enter in a field
 
 private:
     void makeForm();

@@ -87,6 +87,7 @@ void ShareWindow::makeParts() {
     m_place = new SharePlace(workspace());
     connect(m_place, &SharePlace::changed, this, &ShareWindow::noteOtherPlace);
     connect(m_place, &SharePlace::folderWanted, this, &ShareWindow::chooseFolder);
+    connect(m_place, &SharePlace::entered, this, &ShareWindow::compare);
     m_fault = new FaultLabel;
     m_table = new ColumnTable(m_files, "files", this);
     m_table->setEmptyText(tr("Nothing is shared before it is shown here"));
