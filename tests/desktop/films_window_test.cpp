@@ -387,6 +387,30 @@ TEST_F(FilmsWindowTest, AFrameTakesATagOfOneNameOnce) {
     EXPECT_THAT(window.shelf().film(pathOf("a.mp4"))->tags, SizeIs(1));
 }
 
+TEST_F(FilmsWindowTest, TheFirstKeysAreTheFilmsAndFromTheFilterTheWayDownLeadsToThem) {
+    addFilm("a.mp4");
+    addFilm("b.mp4");
+    FilmsWindow& window = open();
+    QApplication::setActiveWindow(&window);
+    FilmBrowser& browser = window.browser();
+    ASSERT_TRUE(comesTo(pathOf("a.mp4"), 0));
+    EXPECT_EQ(QApplication::focusWidget(), &browser.list());
+    for (const auto page : {FilmBrowser::List, FilmBrowser::Tiles}) {
+        browser.setPage(page);
+        QWidget* const front =
+            page == FilmBrowser::List ? static_cast<QWidget*>(&browser.list()) : &browser.tiles();
+        for (const auto key : {Qt::Key_Down, Qt::Key_Escape}) {
+            window.typeFilter();
+            ASSERT_EQ(QApplication::focusWidget(), &browser.filterLine());
+            QTest::keyClick(&browser.filterLine(), key);
+            EXPECT_EQ(QApplication::focusWidget(), front);
+        }
+    }
+    browser.filterLine().setText("nobody");
+    EXPECT_THAT(browser.list().accessibleDescription().toStdString(), HasSubstr("filter"))
+        << "a folder that has films is not called empty";
+}
+
 TEST_F(FilmsWindowTest, OffersToUndoARenamingThatWasCutOff) {
     addFilm("now.mp4");
     std::ofstream(films() / ".kavela-renaming.json")
