@@ -216,7 +216,9 @@ void ScreenFit::fitPlace(QWidget& window) {
     // A place that nobody chose is the system's to choose; a dialog stands over its window.
     const bool isPlaced = window.testAttribute(Qt::WA_Moved);
     if ((isPlaced || qobject_cast<QDialog*>(&window)) && inside.topLeft() != now.topLeft()) {
-        window.move(inside.topLeft() - QPoint(frameOf(window).left(), frameOf(window).top()));
+        // Told without the frame: one that is only guessed yet would be left out by move(), and the
+        // title bar would be above the screen.
+        window.setGeometry(inside);
         window.setAttribute(Qt::WA_Moved, isPlaced);
     }
 }
