@@ -2,6 +2,7 @@
 #include "desktop/one_program.h"
 #include "desktop/shell/autosave_place.h"
 #include "desktop/shell/diagnostic_log.h"
+#include "desktop/shell/edged_style.h"
 #include "desktop/shell/language.h"
 #include "desktop/shell/scheme.h"
 #include "desktop/shell/screen_fit.h"
@@ -11,7 +12,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QStandardPaths>
-#include <QStyleFactory>
 #include <QTimer>
 
 #include <cstdio>
@@ -95,7 +95,7 @@ int main(int argc, char** argv) {
     const OneProgram::Start start = begin(one, {files, activation}, options.isNew);
     if (start == OneProgram::Start::HandedOver)
         return EXIT_SUCCESS;
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new EdgedStyle);
     const ScreenFit screenFit(nullptr);
 
     Workspace workspace(Preferences(), rotatingLog(logFile()), systemNow);

@@ -238,6 +238,17 @@ TEST_F(CompareWindowTest, AlignsByPointsThatAreClickedSideBySide) {
     EXPECT_NEAR(job.films[1].points[1].y, 0.75, 0.03);
 }
 
+TEST_F(CompareWindowTest, EscapeGivesAligningUp) {
+    CompareWindow& window = compareTwo();
+    QApplication::setActiveWindow(&window);
+    window.view().setFocus();
+    window.alignByPoints();
+    ASSERT_TRUE(window.isAligning());
+    QTest::keyClick(&window.view(), Qt::Key_Escape);
+    EXPECT_FALSE(window.isAligning());
+    EXPECT_TRUE(window.document().value().films[1].points.empty());
+}
+
 TEST_F(CompareWindowTest, ComposesOneAfterTheOtherWhileTheWindowIsGone) {
     CompareWindow& window = compareTwo();
     window.document().edit("part", [](composejob002& job) { job.range.to = 0.5; });

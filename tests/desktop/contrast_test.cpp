@@ -1,8 +1,12 @@
+#include "desktop/shell/edged_style.h"
 #include "desktop/shell/theme.h"
 
 #include <gtest/gtest.h>
 
+#include <QImage>
+#include <QPainter>
 #include <QPalette>
+#include <QStyleOption>
 
 #include <algorithm>
 #include <cmath>
@@ -63,6 +67,27 @@ TEST_P(ContrastTest, OfWhatMarksTheFocusIsEnoughToSeeIt) {
     for (const auto ground : {QPalette::Window, QPalette::Base})
         EXPECT_GE(contrast(m_palette.color(QPalette::Highlight), m_palette.color(ground)),
                   LeastOfEdges);
+}
+
+TEST_P(ContrastTest, OfABoxToTickIsEnoughToSeeIt) {
+    const desktop::EdgedStyle style;
+    QImage picture(20, 20, QImage::Format_RGB32);
+    for (const auto element : {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorItemViewItemCheck,
+                               QStyle::PE_IndicatorRadioButton})
+        for (const auto ground : {QPalette::Window, QPalette::Base}) {
+            picture.fill(m_palette.color(ground));
+            QStyleOptionButton option;
+            option.palette = m_palette;
+            option.rect = picture.rect().adjusted(3, 3, -3, -3);
+            option.state = QStyle::State_Enabled | QStyle::State_Off;
+            QPainter painter(&picture);
+            style.drawPrimitive(element, &option, &painter, nullptr);
+            painter.end();
+            double seen = 0; // across the left edge
+            for (int x = 0; x < picture.width() / 2; ++x)
+                seen = std::max(seen, contrast(picture.pixelColor(x, 10), m_palette.color(ground)));
+            EXPECT_GE(seen, LeastOfEdges) << element;
+        }
 }
 
 INSTANTIATE_TEST_SUITE_P(Schemes, ContrastTest, ::testing::Bool(),

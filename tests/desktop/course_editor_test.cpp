@@ -8,11 +8,13 @@
 
 #include <gmock/gmock.h>
 
+#include <QAction>
 #include <QBuffer>
 #include <QCheckBox>
 #include <QImage>
 #include <QLabel>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 #include <QWheelEvent>
@@ -304,6 +306,50 @@ TEST_F(RaceWindowTest, ItsCourseIsDrawnIntoSplitTakingAsOneStep) {
     EXPECT_THAT(stored->design.gates, SizeIs(1));
     EXPECT_EQ(document.undoStack().count(), 1);
     document.undoStack().undo();
+    EXPECT_TRUE(document.info().coursedesign.bytes.empty());
+}
+
+TEST_F(RaceWindowTest, ADrawingIsUnsavedWorkWhileItIsDrawnAndOneStepInTheEnd) {
+    RaceWindow* const race = open(copyOf(Examples / "races" / "spring_opener.kvx"));
+    ASSERT_TRUE(race);
+    std::vector<std::size_t> gates; // as the document had them after each stroke of the hand
+    bool isAccepted = true;
+    QTimer waiting;
+    QObject::connect(&waiting, &QTimer::timeout, &waiting, [&] {
+        auto* const editor = qobject_cast<CourseEditor*>(QApplication::activeModalWidget());
+        if (!editor)
+            return;
+        waiting.stop();
+        desktop::TakingDocument& document =
+            m_desktop.windowsOf<desktop::TakingWindow>().front()->document();
+        for (const double x : {0.3, 0.6}) {
+            QSignalSpy drawn(editor, &CourseEditor::drawn);
+            QTest::mouseClick(&editor->canvas(), Qt::LeftButton, {},
+                              editor->canvas().placeOf({x, 0.3}).toPoint());
+            EXPECT_TRUE(drawn.wait(4 * CourseEditor::KeepPause));
+            EXPECT_TRUE(document.isDirty());
+            const auto course = courseIn(document.info().coursedesign);
+            gates.push_back(course ? course->design.gates.size() : 0);
+        }
+        isAccepted ? editor->accept() : editor->reject();
+    });
+    waiting.start(10);
+    trigger(*race, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G));
+    ASSERT_THAT(m_desktop.windowsOf<desktop::TakingWindow>(), SizeIs(1));
+    desktop::TakingWindow& taking = *m_desktop.windowsOf<desktop::TakingWindow>().front();
+    desktop::TakingDocument& document = taking.document();
+    EXPECT_THAT(gates, ElementsAre(1, 2));
+    EXPECT_EQ(document.undoStack().count(), 1);
+    document.undoStack().undo();
+
+    isAccepted = false;
+    m_workspace.setAnswer([](const Alert&) { return true; });
+    waiting.start(10);
+    for (QAction* const action : taking.findChildren<QAction*>())
+        if (action->shortcuts().contains(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_G)))
+            action->trigger();
+    EXPECT_THAT(gates, ElementsAre(1, 2, 1, 2));
+    EXPECT_FALSE(document.isDirty()) << "given up as asked";
     EXPECT_TRUE(document.info().coursedesign.bytes.empty());
 }
 

@@ -46,6 +46,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::SizeIs;
+using ::testing::UnorderedElementsAre;
 
 constexpr int FilmPatience = 20000; // milliseconds
 
@@ -334,6 +335,80 @@ TEST_F(FilmsWindowTest, RenamesInOneStepThatIsUndoneWithSplitFileAndWatchedDot) 
     EXPECT_FALSE(window.shelf().canUndo());
     EXPECT_TRUE(window.shelf().canRedo());
     EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+TEST_F(FilmsWindowTest, UndoesTagsAndRenamingsInTheOrderInWhichTheyWereMade) {
+    addFilm("Lee one.mp4");
+    FilmsWindow& window = open();
+    ASSERT_TRUE(comesTo(pathOf("Lee one.mp4"), 0));
+    FilmShelf& shelf = window.shelf();
+    const auto moments = [&](const char* name) {
+        disk::waitForAll();
+        std::vector<std::int64_t> found;
+        for (const taggedfilm001& film : readFilmTags(films()).films)
+            for (const filmtag001& tag : film.tags)
+                found.push_back(film.film == name ? tag.moment.value : -1);
+        return found;
+    };
+    const FilmTag early{"Boof", {10, 50, 1, 0}, false};
+    const FilmTag late{"Late", {60, 50, 1, 0}, false};
+    shelf.addTag(pathOf("Lee one.mp4"), early);
+    shelf.rename({{"Lee one.mp4", "Lee 1.mp4"}});
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return shelf.film(pathOf("Lee 1.mp4")) && !shelf.isReading(); }, FilmPatience));
+    shelf.addTag(pathOf("Lee 1.mp4"), late);
+    shelf.moveTag(pathOf("Lee 1.mp4"), early, {20, 50, 1, 0});
+    shelf.removeTag(pathOf("Lee 1.mp4"), late);
+    EXPECT_THAT(moments("Lee 1.mp4"), ElementsAre(20));
+    shelf.undo();
+    EXPECT_THAT(moments("Lee 1.mp4"), UnorderedElementsAre(20, 60)) << "what was removed is back";
+    shelf.undo();
+    EXPECT_THAT(moments("Lee 1.mp4"), UnorderedElementsAre(10, 60)) << "a move is one step";
+    shelf.undo();
+    EXPECT_TRUE(fs::exists(films() / "Lee 1.mp4")) << "the name is older than the tag";
+    EXPECT_THAT(moments("Lee 1.mp4"), ElementsAre(10));
+    shelf.undo();
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return shelf.film(pathOf("Lee one.mp4")) && !shelf.isReading(); }, FilmPatience));
+    shelf.undo();
+    EXPECT_THAT(moments("Lee one.mp4"), IsEmpty());
+    EXPECT_FALSE(shelf.canUndo());
+    shelf.redo();
+    EXPECT_THAT(moments("Lee one.mp4"), ElementsAre(10));
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+TEST_F(FilmsWindowTest, AFrameTakesATagOfOneNameOnce) {
+    addFilm("a.mp4");
+    FilmsWindow& window = open();
+    ASSERT_TRUE(comesTo(pathOf("a.mp4"), 0));
+    for (int press = 0; press < 3; ++press)
+        window.tags().markHere();
+    EXPECT_THAT(window.shelf().film(pathOf("a.mp4"))->tags, SizeIs(1));
+}
+
+TEST_F(FilmsWindowTest, TheFirstKeysAreTheFilmsAndFromTheFilterTheWayDownLeadsToThem) {
+    addFilm("a.mp4");
+    addFilm("b.mp4");
+    FilmsWindow& window = open();
+    QApplication::setActiveWindow(&window);
+    FilmBrowser& browser = window.browser();
+    ASSERT_TRUE(comesTo(pathOf("a.mp4"), 0));
+    EXPECT_EQ(QApplication::focusWidget(), &browser.list());
+    for (const auto page : {FilmBrowser::List, FilmBrowser::Tiles}) {
+        browser.setPage(page);
+        QWidget* const front =
+            page == FilmBrowser::List ? static_cast<QWidget*>(&browser.list()) : &browser.tiles();
+        for (const auto key : {Qt::Key_Down, Qt::Key_Escape}) {
+            window.typeFilter();
+            ASSERT_EQ(QApplication::focusWidget(), &browser.filterLine());
+            QTest::keyClick(&browser.filterLine(), key);
+            EXPECT_EQ(QApplication::focusWidget(), front);
+        }
+    }
+    browser.filterLine().setText("nobody");
+    EXPECT_THAT(browser.list().accessibleDescription().toStdString(), HasSubstr("filter"))
+        << "a folder that has films is not called empty";
 }
 
 TEST_F(FilmsWindowTest, OffersToUndoARenamingThatWasCutOff) {

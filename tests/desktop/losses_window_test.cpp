@@ -101,6 +101,13 @@ TEST_F(LossesWindowTest, ShowsASumThatAddsUpToTheHundredth) {
                 HasSubstr("Most was lost in S2: 2.22 s of +3.62."));
 }
 
+TEST_F(LossesWindowTest, TheFirstKeysAreNotTypedIntoTheRun) {
+    ASSERT_TRUE(open({add("race.kvx", threeRuns())}, 2));
+    EXPECT_EQ(m_window.focusWidget(), m_window.tables().currentWidget());
+    m_window.header().findRun();
+    EXPECT_EQ(m_window.focusWidget(), &m_window.header().picker());
+}
+
 TEST_F(LossesWindowTest, ComesBackWithEachWindowsRunAndReference) {
     const Autosave autosave(QString::fromStdString((m_folder.path() / "kept").string()));
     const QString first = add("first.kvx", threeRuns());

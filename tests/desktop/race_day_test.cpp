@@ -283,6 +283,22 @@ TEST_F(RaceDayTest, MatchesBesideTheWindowAndActsOnWhatIsThere) {
     m_window->document().discard();
 }
 
+TEST_F(RaceDayTest, SaysNothingOfClocksOnceTheListIsTakenBack) {
+    addFilm(folder() / "a.mp4", 3600);
+    addFilm(folder() / "b.mp4", 3690);
+    ASSERT_NO_FATAL_FAILURE(openRace(2, ThreeBoats));
+    auto* const note = m_window->findChild<QLabel*>("dayNote");
+    auto* const agree = m_window->findChild<QWidget*>("dayOffset");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !agree->isHidden(); }, Patience))
+        << note->text().toStdString();
+    m_window->undo();
+    ASSERT_THAT(lines(), IsEmpty());
+    QApplication::processEvents();
+    EXPECT_TRUE(agree->isHidden());
+    EXPECT_EQ(note->text().toStdString(), "");
+    m_window->document().discard();
+}
+
 TEST_F(RaceDayTest, KeepsTheDayWithoutSavingTheRace) {
     ASSERT_NO_FATAL_FAILURE(openRace(2, ThreeBoats));
     press(Qt::CTRL | Qt::Key_Down);

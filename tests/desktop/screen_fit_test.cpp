@@ -27,6 +27,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabWidget>
+#include <QTableView>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -115,6 +116,24 @@ TEST_F(ScreenFitTest, ScrollsADialogThatIsTooHighAndKeepsItsButtonsAndItsFocus) 
     };
     QTest::keyClick(last, Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_TRUE(isSeen(QApplication::focusWidget())) << "it scrolls to where one types";
+}
+
+TEST_F(ScreenFitTest, AWindowThatIsMadeToScrollKeepsItsFocus) {
+    QMainWindow window;
+    auto* const page = new QWidget;
+    auto* const column = new QVBoxLayout(page);
+    auto* const name = new QLineEdit;
+    auto* const table = new QTableView;
+    table->setMinimumHeight(2 * SmallScreen.height());
+    column->addWidget(name);
+    column->addWidget(table);
+    window.setCentralWidget(page);
+    table->setFocus();
+    window.show();
+    QApplication::setActiveWindow(&window);
+    ASSERT_TRUE(window.property("contentScrolls").toBool());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return table->hasFocus(); }))
+        << "keys would be typed into the first field";
 }
 
 /// Every window with a document in it, and whatever panels it shows by itself.

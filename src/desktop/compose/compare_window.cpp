@@ -26,6 +26,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QSplitter>
@@ -365,9 +366,15 @@ void CompareWindow::alignByPoints() {
     m_player->pause();
     tell(m_aligning.isOn()
              ? tr("Click the same two things in both films, such as the poles of a gate. "
-                  "A gives it up.")
+                  "Escape gives it up.")
              : QString());
     showPreview();
+}
+
+void CompareWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape || !m_aligning.isOn())
+        return ToolWindow::keyPressEvent(event);
+    alignByPoints();
 }
 
 void CompareWindow::forgetPoints() {

@@ -78,6 +78,7 @@ protected:
     void takeFiles(const QStringList& paths) override;
     /// Asks what becomes of films that are still being composed.
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void addFilesOfFilms();

@@ -7,6 +7,7 @@
 #include "desktop/shell/workspace.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QButtonGroup>
 #include <QDialogButtonBox>
 #include <QFile>
@@ -119,6 +120,13 @@ void CourseEditor::makeParts() {
     connect(m_canvas, &CourseCanvas::textWanted, this, &CourseEditor::putText);
     connect(m_form, &CoursePartForm::edited, this, &CourseEditor::put);
     connect(m_form, &CoursePartForm::told, this, &CourseEditor::tell);
+    m_keep.setSingleShot(true);
+    m_keep.setInterval(KeepPause);
+    connect(&m_keep, &QTimer::timeout, this, &CourseEditor::tellDrawn);
+    connect(&m_steps, &QUndoStack::indexChanged, this, [this] {
+        if (!m_keep.isActive())
+            m_keep.start();
+    });
     makeKeys();
 }
 
@@ -246,6 +254,17 @@ void CourseEditor::tell(const QString& hint) {
     m_hint->setText(hint);
 }
 
+/// Making the picture takes a moment, which a hand that is drawing would feel.
+void CourseEditor::tellDrawn() {
+    if (QApplication::mouseButtons() != Qt::NoButton)
+        return m_keep.start();
+    try {
+        emit drawn(isChanged() ? withDraft(m_info, m_canvas->draft()) : m_info);
+    } catch (const CourseError&) {
+        // What is wrong is told when the coach agrees to the drawing.
+    }
+}
+
 void CourseEditor::accept() {
     if (!takeTyping(*this))
         return;
@@ -256,6 +275,7 @@ void CourseEditor::accept() {
             m_workspace.showAlert({"", error.what()}, this);
             return;
         }
+    m_keep.stop();
     EntryDialog::accept();
 }
 
@@ -263,8 +283,10 @@ void CourseEditor::reject() {
     if (!isChanged() ||
         m_workspace.askBeforeLoss(
             {"", tr("Leave the course as it was? What was drawn is lost.").toStdString()},
-            tr("Leave it"), this))
+            tr("Leave it"), this)) {
+        m_keep.stop();
         EntryDialog::reject();
+    }
 }
 
 } // namespace kavela::desktop

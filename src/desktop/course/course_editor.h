@@ -4,6 +4,7 @@
 #include "desktop/shell/entry_dialog.h"
 
 #include <QString>
+#include <QTimer>
 #include <QUndoStack>
 
 #include <functional>
@@ -45,10 +46,18 @@ public:
     using AskText = std::function<QString()>;
     void setAskText(AskText ask) { m_askText = std::move(ask); }
 
+    /// So long after a step the race with the drawing is told, in milliseconds.
+    static constexpr int KeepPause = 3000;
+
     /// Makes the picture, or says why it cannot.
     void accept() override;
     /// Asks before what was drawn is lost.
     void reject() override;
+
+signals:
+    /// The race as it would be with what is drawn so far, soon after every step: an hour's drawing
+    /// is not to be lost with the program.
+    void drawn(const kavela::infodata031& info);
 
 private:
     void makeParts();
@@ -59,9 +68,11 @@ private:
     void putText(const coursepoint001& at);
     void showSelected();
     void tell(const QString& hint);
+    void tellDrawn();
 
     Workspace& m_workspace;
     infodata031 m_info;
+    QTimer m_keep; ///< outlives the steps, which are told to be none while they are taken apart
     QUndoStack m_steps;
     CourseCanvas* m_canvas;
     CoursePartForm* m_form;

@@ -12,6 +12,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPixmap>
@@ -54,6 +55,7 @@ FilmBrowser::FilmBrowser(FilmShelf& shelf, ThumbnailStore& looks, QWidget* paren
 /// The pages report to this while they are taken apart.
 FilmBrowser::~FilmBrowser() {
     m_filter->disconnect(this);
+    m_filter->removeEventFilter(this);
     m_pages->disconnect(this);
     m_list->disconnect(this);
     m_list->selectionModel()->disconnect(this);
@@ -68,7 +70,6 @@ void FilmBrowser::makePages(ThumbnailStore& looks) {
     m_list->keepOneChosen();
     m_list->setIconSize(RowLook);
     m_list->verticalHeader()->setDefaultSectionSize(RowLook.height() + theme::SmallSpacing);
-    m_list->setEmptyText(tr("No film here. Open a folder of films with Ctrl+O, or drop one."));
     m_tiles = new FilmTiles(looks);
     m_tagList = new ColumnTable(m_tagRows, "filmTags");
     m_tagList->setEmptyText(tr("No tag yet: M sets one where a film stands."));
@@ -80,6 +81,7 @@ void FilmBrowser::makePages(ThumbnailStore& looks) {
 }
 
 void FilmBrowser::connectPages() {
+    m_filter->installEventFilter(this);
     connect(m_filter, &QLineEdit::textChanged, this, &FilmBrowser::filter);
     connect(&m_shelf, &FilmShelf::changed, this, &FilmBrowser::showFilms);
     connect(&m_shelf, &FilmShelf::watchedChanged, this, &FilmBrowser::showFilms);
@@ -186,6 +188,9 @@ void FilmBrowser::showTiles() {
         shown.push_back(&m_films.row(place));
     const auto all = static_cast<qsizetype>(m_films.rows().size());
     const auto count = static_cast<qsizetype>(shown.size());
+    m_list->setEmptyText(
+        all > 0 ? tr("No film fits the filter. Empty it to see all again.")
+                : tr("No film here. Open a folder of films with Ctrl+O, or drop one."));
     m_count->setText(count == all ? tr("%1 films").arg(all)
                                   : tr("%1 of %2 films").arg(count).arg(all));
     m_tiles->setFilms(shown);
@@ -210,8 +215,18 @@ QStringList FilmBrowser::rowsBySight() const {
     return seen + others;
 }
 
-/// Other rows come into sight where the list grows or is first seen.
+void FilmBrowser::takeFocus() {
+    m_pages->currentWidget()->setFocus();
+}
+
+/// Other rows come into sight where the list grows or is first seen. From the filter the way down
+/// leads to what it left.
 bool FilmBrowser::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_filter && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down) {
+        takeFocus();
+        return true;
+    }
     if (watched == m_list->viewport() &&
         (event->type() == QEvent::Resize || event->type() == QEvent::Show))
         askForLooks();

@@ -31,6 +31,8 @@ public:
     [[nodiscard]] Page page() const;
     void setPage(Page page);
     [[nodiscard]] QLineEdit& filterLine() const { return *m_filter; }
+    /// The keyboard goes to the page in front.
+    void takeFocus();
 
     /// The film with the cursor on the page in front, or whose tag has it; empty for none.
     [[nodiscard]] QString currentFilm() const;

@@ -34,6 +34,11 @@ QString toldFault(const std::exception_ptr& fault) {
     return qtText(messageOf(fault));
 }
 
+/// The way back.
+ShelfStep wayBack(const ShelfStep& step) {
+    return {.names = reversed(step.names), .film = step.film, .off = step.on, .on = step.off};
+}
+
 } // namespace
 
 FilmShelf::FilmShelf(Workspace& workspace, QWidget& over) : m_workspace(workspace), m_over(&over) {
@@ -155,10 +160,13 @@ void FilmShelf::setWatched(const QStringList& paths, bool isWatched) {
 }
 
 void FilmShelf::rename(const FilmRenames& names) {
-    if (names.empty())
-        return;
-    startRenaming(names, [this, names] {
-        m_done.push_back(names);
+    if (!names.empty())
+        take({.names = names});
+}
+
+void FilmShelf::take(ShelfStep step) {
+    carryOut(step, [this, step] {
+        m_done.push_back(step);
         m_undone.clear();
     });
 }
@@ -166,7 +174,7 @@ void FilmShelf::rename(const FilmRenames& names) {
 void FilmShelf::undo() {
     if (m_done.empty())
         return;
-    startRenaming(reversed(m_done.back()), [this] {
+    carryOut(wayBack(m_done.back()), [this] {
         m_undone.push_back(std::move(m_done.back()));
         m_done.pop_back();
     });
@@ -175,10 +183,21 @@ void FilmShelf::undo() {
 void FilmShelf::redo() {
     if (m_undone.empty())
         return;
-    startRenaming(m_undone.back(), [this] {
+    carryOut(m_undone.back(), [this] {
         m_done.push_back(std::move(m_undone.back()));
         m_undone.pop_back();
     });
+}
+
+/// `done` notes the step once it is certain, which renaming is not before it ends. By then the one
+/// that was handed in may have moved.
+void FilmShelf::carryOut(const ShelfStep& step, const std::function<void()>& done) {
+    if (!step.names.empty())
+        return startRenaming(step.names, done);
+    const ShelfStep tags = step;
+    done();
+    emit stepsChanged();
+    changeTags(tags);
 }
 
 /// A split file that a window edits is not written behind its back: what is there is not in the
@@ -263,7 +282,7 @@ void FilmShelf::finishInterrupted(const FilmRenames& names, bool isUndone) {
         },
         [this, names, isUndone] {
             if (!isUndone)
-                m_done.push_back(names);
+                m_done.push_back({.names = names});
             emit stepsChanged();
             takeNames(isUndone ? reversed(names) : names);
         },
@@ -271,28 +290,50 @@ void FilmShelf::finishInterrupted(const FilmRenames& names, bool isUndone) {
 }
 
 void FilmShelf::addTag(const QString& path, const FilmTag& tag) {
-    ListedFilm* const film = listed(path);
-    if (!film)
-        return;
-    const auto place = std::ranges::find_if(
-        film->tags, [&](const FilmTag& other) { return orderOf(other.moment, tag.moment) > 0; });
-    film->tags.insert(place, tag);
-    emit changed();
-    writeTags([film = film->path, tag] { addFilmTag(film, {tag.name, tag.moment}); });
+    if (listed(path))
+        take({.film = path, .on = {tag}});
 }
 
 void FilmShelf::removeTag(const QString& path, const FilmTag& tag) {
-    ListedFilm* const film = listed(path);
-    const auto found = film ? std::ranges::find(film->tags, tag) : std::vector<FilmTag>::iterator();
-    if (!film || found == film->tags.end())
+    const ListedFilm* const film = listed(path);
+    if (!film || std::ranges::find(film->tags, tag) == film->tags.end())
         return;
     if (tag.isOfSplitFile) {
         emit failed(tr("This tag is of the split file: split taking edits it."));
         return;
     }
-    film->tags.erase(found);
+    take({.film = path, .off = {tag}});
+}
+
+void FilmShelf::moveTag(const QString& path, const FilmTag& tag, const CMTime& moment) {
+    const ListedFilm* const film = listed(path);
+    const FilmTag moved{tag.name, moment, false};
+    if (film && !tag.isOfSplitFile && moved != tag &&
+        std::ranges::find(film->tags, tag) != film->tags.end())
+        take({.film = path, .off = {tag}, .on = {moved}});
+}
+
+/// A film that is gone meanwhile, and tags that are as they are to be, stay as they are.
+void FilmShelf::changeTags(const ShelfStep& step) {
+    ListedFilm* const film = listed(step.film);
+    if (!film)
+        return;
+    for (const FilmTag& tag : step.off)
+        if (const auto found = std::ranges::find(film->tags, tag); found != film->tags.end())
+            film->tags.erase(found);
+    for (const FilmTag& tag : step.on) {
+        const auto place = std::ranges::find_if(film->tags, [&](const FilmTag& other) {
+            return orderOf(other.moment, tag.moment) > 0;
+        });
+        film->tags.insert(place, tag);
+    }
     emit changed();
-    writeTags([film = film->path, tag] { (void)removeFilmTag(film, {tag.name, tag.moment}); });
+    writeTags([path = film->path, off = step.off, on = step.on] {
+        for (const FilmTag& tag : off)
+            (void)removeFilmTag(path, {tag.name, tag.moment});
+        for (const FilmTag& tag : on)
+            addFilmTag(path, {tag.name, tag.moment});
+    });
 }
 
 /// What is shown goes back to what is in the files where they cannot be written.

@@ -20,7 +20,15 @@ namespace kavela::desktop {
 
 class Workspace;
 
-/// The films of one folder: read beside the window, renamed in steps that can be undone, tagged,
+/// What was done to the films of a folder at once: they were renamed, or the tags of one changed.
+struct ShelfStep {
+    FilmRenames names = {};
+    QString film = {}; ///< the path it had then; later renamings are undone before this step is
+    std::vector<FilmTag> off = {};
+    std::vector<FilmTag> on = {};
+};
+
+/// The films of one folder: read beside the window, renamed and tagged in steps that can be undone,
 /// and noted as watched.
 class FilmShelf : public QObject {
     Q_OBJECT
@@ -30,7 +38,7 @@ public:
     FilmShelf(Workspace& workspace, QWidget& over);
     ~FilmShelf() override;
 
-    /// Reads a folder; the steps of renaming in another one are forgotten.
+    /// Reads a folder; the steps in another one are forgotten.
     void openFolder(const QString& folder);
     void readAgain();
     [[nodiscard]] const QString& folder() const { return m_folder; }
@@ -50,14 +58,17 @@ public:
 
     /// Films with other names, in one step; a fault is told, and nothing is renamed then.
     void rename(const FilmRenames& names);
+
+    // Each is one step, and there at once; what cannot be written is told and taken back. A tag of
+    // a split file is edited by split taking: that is told.
+    void addTag(const QString& path, const FilmTag& tag);
+    void removeTag(const QString& path, const FilmTag& tag);
+    void moveTag(const QString& path, const FilmTag& tag, const CMTime& moment);
+
     [[nodiscard]] bool canUndo() const { return !m_done.empty(); }
     [[nodiscard]] bool canRedo() const { return !m_undone.empty(); }
     void undo();
     void redo();
-
-    /// The tag is there at once; one that cannot be written is told and taken off.
-    void addTag(const QString& path, const FilmTag& tag);
-    void removeTag(const QString& path, const FilmTag& tag);
 
 signals:
     void changed(); ///< the films, or what is known of them
@@ -78,6 +89,9 @@ private:
     void carryOutRenaming(const FilmRenames& names, const std::function<void()>& done);
     void takeNames(const FilmRenames& names);
     void takeWatched();
+    void carryOut(const ShelfStep& step, const std::function<void()>& done);
+    void take(ShelfStep step);
+    void changeTags(const ShelfStep& step);
     void writeTags(const std::function<void()>& write);
     [[nodiscard]] OtherEnds tellingFault();
     [[nodiscard]] ListedFilm* listed(const QString& path);
@@ -89,8 +103,8 @@ private:
     QSet<QString> m_watched;
     bool m_isReading = false;
     bool m_isAsked = false; ///< about a renaming that was cut off, in this folder
-    std::vector<FilmRenames> m_done;
-    std::vector<FilmRenames> m_undone;
+    std::vector<ShelfStep> m_done;
+    std::vector<ShelfStep> m_undone;
     BackgroundWork m_reading;
     BackgroundWork m_renaming;
 };

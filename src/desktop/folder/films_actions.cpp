@@ -74,10 +74,10 @@ void FilmsActions::makeEditMenu() {
     FilmsWindow* const window = &m_window;
     QMenu* const menu = window->menuBar()->addMenu(tr("&Edit"));
     add(
-        *menu, tr("&Undo the renaming"), QKeySequence::Undo, [window] { window->shelf().undo(); },
+        *menu, ToolWindow::tr("&Undo"), QKeySequence::Undo, [window] { window->shelf().undo(); },
         [window] { return window->shelf().canUndo(); });
     add(
-        *menu, tr("&Rename them again"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
+        *menu, ToolWindow::tr("&Redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
         [window] { window->shelf().redo(); }, [window] { return window->shelf().canRedo(); });
     menu->addSeparator();
     add(*menu, tr("&Filter the films"), QKeySequence::Find, [window] { window->typeFilter(); });

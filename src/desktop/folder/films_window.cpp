@@ -67,7 +67,7 @@ void FilmsWindow::makeParts() {
     m_tags = new TagMode(workspace(), m_shelf, *m_stage);
     m_stage->setModes({m_tags});
     m_stage->addBelow(*makeTagBar());
-    m_stage->keepKeys(*this, [this] { m_browser->list().setFocus(); });
+    m_stage->keepKeys(*this, [this] { m_browser->takeFocus(); });
     m_playing = new FilmPlaying({workspace(), m_shelf, *m_browser, *m_stage, *m_tags});
     m_cutting = new FilmCutting(workspace(), *m_tags, *this);
     auto* const parts = new QSplitter;
@@ -78,6 +78,7 @@ void FilmsWindow::makeParts() {
     shareSizes(*parts, {560, 720});
     rememberSizes(*parts, workspace(), "films/parts");
     setCentralWidget(parts);
+    m_browser->takeFocus(); // the first keys are the films', not letters for the filter
     m_status = new QLabel;
     m_status->setTextFormat(Qt::PlainText);
     statusBar()->addWidget(m_status, 1);

@@ -88,9 +88,13 @@ void TagMode::setTag(const QString& name) {
     if (m_film.isEmpty())
         return m_stage.refuse(tr("There is no film to tag."));
     m_stage.whenMeant([this, film = m_film, name](const PressQueue::Stamps& stamps) {
-        if (stamps.empty())
+        const ListedFilm* const shown = m_shelf.film(film);
+        if (stamps.empty() || !shown)
             return;
-        m_shelf.addTag(film, {name.toStdString(), stamps.front(), false});
+        const FilmTag tag{name.toStdString(), stamps.front(), false};
+        if (std::ranges::find(shown->tags, tag) != shown->tags.end())
+            return m_stage.refuse(tr("This frame has the tag “%1” already.").arg(name));
+        m_shelf.addTag(film, tag);
         m_stage.flash(name);
     });
 }
@@ -102,7 +106,8 @@ void TagMode::markHere() {
 void TagMode::pressNumber(int number) {
     const QStringList all = names();
     if (number < 1 || number > all.size())
-        return m_stage.refuse(tr("There is no tag %1 yet: type its name above.").arg(number));
+        return m_stage.refuse(
+            tr("There is no tag %1 yet: type its name below the film.").arg(number));
     m_name = all[number - 1];
     setTag(m_name);
 }
@@ -110,9 +115,8 @@ void TagMode::pressNumber(int number) {
 void TagMode::moveTag(const FilmTag& tag, const CMTime& moment) {
     if (tag.isOfSplitFile)
         return m_stage.refuse(tr("This tag is of the split file: split taking moves it."));
-    m_shelf.removeTag(m_film, tag);
+    m_shelf.moveTag(m_film, tag, moment);
     const FilmTag moved{tag.name, moment, false};
-    m_shelf.addTag(m_film, moved);
     const std::vector<FilmTag> all = tags();
     const auto place = std::ranges::find(all, moved);
     if (place != all.end())

@@ -87,6 +87,7 @@ void LossesWindow::makeParts() {
     column->addWidget(m_header);
     column->addWidget(m_films, 1);
     setCentralWidget(page);
+    m_tables->currentWidget()->setFocus(); // keys are no letters of a name, before it is asked for
 }
 
 QWidget* LossesWindow::makeRunPage() {

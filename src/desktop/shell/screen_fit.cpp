@@ -71,6 +71,13 @@ bool holdsButtons(const QLayoutItem& item) {
     return false;
 }
 
+/// What had the focus loses it with its parent, and takes it again once it is seen: otherwise the
+/// first keys would go to whatever field comes first.
+void giveBackFocus(QWidget* focus) {
+    if (focus)
+        QTimer::singleShot(0, focus, [focus] { focus->setFocus(); });
+}
+
 /// What a dialog holds scrolls; its buttons at the bottom stay in view.
 void makeScroll(QDialog& dialog) {
     QLayout* const content = dialog.layout();
@@ -95,15 +102,16 @@ void makeScroll(QDialog& dialog) {
             row->addItem(buttons);
         whole->addLayout(row);
     }
-    if (focus) // lost it with its parent, and takes it again once it is seen
-        QTimer::singleShot(0, focus, [focus] { focus->setFocus(); });
+    giveBackFocus(focus);
 }
 
 /// Only where a window cannot be made small enough by its own parts.
 void makeScroll(QMainWindow& window) {
+    QWidget* const focus = window.focusWidget();
     QWidget* const central = window.takeCentralWidget();
     if (central)
         window.setCentralWidget(scrolling(central));
+    giveBackFocus(focus);
 }
 
 } // namespace
@@ -208,7 +216,9 @@ void ScreenFit::fitPlace(QWidget& window) {
     // A place that nobody chose is the system's to choose; a dialog stands over its window.
     const bool isPlaced = window.testAttribute(Qt::WA_Moved);
     if ((isPlaced || qobject_cast<QDialog*>(&window)) && inside.topLeft() != now.topLeft()) {
-        window.move(inside.topLeft() - QPoint(frameOf(window).left(), frameOf(window).top()));
+        // Told without the frame: one that is only guessed yet would be left out by move(), and the
+        // title bar would be above the screen.
+        window.setGeometry(inside);
         window.setAttribute(Qt::WA_Moved, isPlaced);
     }
 }

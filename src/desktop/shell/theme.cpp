@@ -77,6 +77,10 @@ QColor hairline(const QPalette& palette) {
     return mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window), 0.82);
 }
 
+QColor boxEdge(const QPalette& palette) {
+    return mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window), 0.42);
+}
+
 QColor surface(const QPalette& palette) {
     return palette.color(QPalette::Base);
 }

@@ -31,6 +31,9 @@ inline constexpr QColor Accent{0x0E, 0x7C, 0x86};
 /// A hairline or the edge of a tile.
 [[nodiscard]] QColor hairline(const QPalette& palette);
 
+/// The edge of a box to tick, seen on a window and on a list alike.
+[[nodiscard]] QColor boxEdge(const QPalette& palette);
+
 /// A surface that stands out a little from the window.
 [[nodiscard]] QColor surface(const QPalette& palette);
 

@@ -42,16 +42,35 @@ void RaceExchange::setUpCourse() {
         m_document.editInfo(tr("course"), [&](infodata031& info) { info = dialog.info(); });
 }
 
+/// What there is of a drawing is a step of the document while it is still drawn, so that it is kept
+/// apart as all unsaved work is. The next one takes its place, and with it goes a drawing that is
+/// given up.
 void RaceExchange::drawCourse() {
     if (!m_commit())
         return;
     CourseEditor editor(m_document.info(), m_workspace, &m_window);
-    if (editor.exec() == QDialog::Accepted && editor.isChanged())
+    QUndoStack& steps = m_document.undoStack();
+    int behind = -1; // the place behind that step; none as long as there is none
+    const auto takeBack = [&] {
+        if (std::exchange(behind, -1) == steps.index())
+            steps.undo();
+    };
+    const auto put = [&](const infodata031& drawn) {
+        takeBack();
         m_document.editInfo(tr("drawing of the course"), [&](infodata031& info) {
-            info.coursedesign = editor.info().coursedesign;
-            info.upGates = editor.info().upGates;
-            info.gates = editor.info().gates;
+            info.coursedesign = drawn.coursedesign;
+            info.upGates = drawn.upGates;
+            info.gates = drawn.gates;
         });
+        behind = steps.index();
+    };
+    QObject::connect(&editor, &CourseEditor::drawn, &editor, [&](const infodata031& drawn) {
+        editor.isChanged() ? put(drawn) : takeBack();
+    });
+    if (editor.exec() == QDialog::Accepted && editor.isChanged())
+        put(editor.info());
+    else
+        takeBack();
 }
 
 void RaceExchange::readFilmNames() {

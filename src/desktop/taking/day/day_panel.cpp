@@ -213,7 +213,8 @@ void DayPanel::showFront() {
 
 /// What the coach has to know of the films that stand in no row.
 void DayPanel::showNote() {
-    const DayMatching& matching = m_desk.matching();
+    const bool isEmpty = m_desk.lines().empty(); // of a list that was taken back nothing is said
+    const DayMatching matching = isEmpty ? DayMatching() : m_desk.matching();
     const WatchedFilms& watched = m_desk.films().watched();
     QStringList notes;
     if (const auto offset = matching.offeredOffset)
