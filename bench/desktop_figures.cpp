@@ -2,37 +2,27 @@
 #include "desktop/race/frozen_table.h"
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
-#include "desktop/shell/home_window.h"
 #include "sample/season.h"
 #include "splitdata/loader.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QLabel>
-#include <QProcess>
 #include <QScrollBar>
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <fstream>
 #include <string_view>
 
-/// What a coach waits for in the desktop program: the home screen, a race opened and painted,
-/// scrolling and sorting a long table. Beside the home screen, a bare window of the same toolkit.
+/// What a coach waits for in the desktop program: a race opened and painted, scrolling and sorting
+/// a long table.
 namespace {
 
 using namespace kavela;
 using namespace kavela::desktop;
 
 constexpr int Repetitions = 9;
-
-qint64 now() {
-    return std::chrono::duration_cast<std::chrono::microseconds>(
-               std::chrono::steady_clock::now().time_since_epoch())
-        .count();
-}
 
 double median(std::vector<double> values) {
     std::ranges::sort(values);
@@ -58,44 +48,11 @@ double residentMegabytes() {
     return pages * 4096 / 1e6;
 }
 
-/// In a process of its own: what was started at `start` is on the screen after this many
-/// milliseconds.
-int measureStart(QApplication&, std::string_view what, qint64 start) {
-    const QTemporaryDir folder;
-    Workspace workspace(
-        Preferences(folder.path().toStdString() + "/preferences.ini"), [](std::string_view) {},
-        systemNow);
-    Desktop program(workspace);
-    QLabel bare("Kavela");
-    (void)painted([&] {
-        if (what == "home") {
-            workspace.startUp(folder.path().toStdString());
-            program.showHome();
-        } else {
-            bare.resize(1000, 680);
-            bare.show();
-        }
-    });
-    std::printf("%.1f\n", static_cast<double>(now() - start) / 1e3);
-    return 0;
-}
-
 /// A large file is read beside the windows.
 void openAndWait(Desktop& program, const QString& path) {
     program.open(path);
     while (program.isOpening())
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-}
-
-double startOf(const char* what) {
-    std::vector<double> times;
-    for (int i = 0; i < Repetitions; ++i) {
-        QProcess child;
-        child.start(QApplication::applicationFilePath(), {what, QString::number(now())});
-        child.waitForFinished();
-        times.push_back(child.readAllStandardOutput().trimmed().toDouble());
-    }
-    return median(times);
 }
 
 /// The largest race of the sample season with its runs repeated up to a number.
@@ -152,13 +109,7 @@ void measureRace(std::size_t runs) {
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    if (argc == 3)
-        return measureStart(application, argv[1], QByteArray(argv[2]).toLongLong());
-    const double home = startOf("home");
-    const double bare = startOf("bare");
-    std::printf("home screen from start %.0f ms, a bare window %.0f ms: %.2f times\n", home, bare,
-                home / bare);
+    const QApplication application(argc, argv);
     for (const std::size_t runs : {std::size_t{60}, std::size_t{2000}})
         measureRace(runs);
 }

@@ -5,6 +5,16 @@
 
 #include <cstring>
 
+namespace {
+
+std::string encodedCache(const kavela::FactCache& cache) {
+    std::string text;
+    putCache(cache, [&text](std::string_view piece) { text += piece; });
+    return text;
+}
+
+} // namespace
+
 /// Cache files with any content behind a checksum that is right. One that is taken can be used to
 /// its last row, and writes the same bytes again.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {

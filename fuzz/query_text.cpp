@@ -19,7 +19,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         splittakerdata031 race;
         race.info.gates = 1;
         race.athletes.resize(2);
-        race.athletes[0].sectioninfo = {.times = {9}, .pens = {2}};
+        race.athletes[0].sectioninfo.times = {9};
+        race.athletes[0].sectioninfo.pens = {2};
         FactStore store;
         store.add(race, "race.kvx");
         return store;

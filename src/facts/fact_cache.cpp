@@ -109,6 +109,14 @@ void putBody(const FactCache& cache, const PieceWriter& write) {
     bytes.finish();
 }
 
+/// Makes the folder of the caches, which say who paddles where: for nobody else to read.
+void makePrivateFolder(const fs::path& folder) {
+    if (fs::create_directories(folder))
+        fs::permissions(folder, fs::perms::owner_all);
+}
+
+} // namespace
+
 /// Twice through the tables, since the head tells the checksum of what follows: a second copy of
 /// them in memory would cost as much as they do.
 void putCache(const FactCache& cache, const PieceWriter& write) {
@@ -119,14 +127,6 @@ void putCache(const FactCache& cache, const PieceWriter& write) {
     write({reinterpret_cast<const char*>(&head), sizeof head});
     putBody(cache, write);
 }
-
-/// Makes the folder of the caches, which say who paddles where: for nobody else to read.
-void makePrivateFolder(const fs::path& folder) {
-    if (fs::create_directories(folder))
-        fs::permissions(folder, fs::perms::owner_all);
-}
-
-} // namespace
 
 std::optional<FactCache> decodedCache(std::string_view text) {
     ByteReader bytes(text);

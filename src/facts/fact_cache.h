@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/safe_file.h"
 #include "facts/fact_store.h"
 
 #include <cstdint>
@@ -47,8 +48,11 @@ struct FactCache {
     FactStore facts;
 };
 
-/// What the bytes of a cache file say; nothing when they are not, to the last bit, what writeCache
-/// wrote.
+/// Hands on what a cache file holds, piece by piece.
+void putCache(const FactCache& cache, const PieceWriter& write);
+
+/// What the bytes of a cache file say; nothing when they are not, to the last bit, what putCache()
+/// handed on.
 [[nodiscard]] std::optional<FactCache> decodedCache(std::string_view bytes);
 
 /// Whose caches are to be found in the user's cache folder: XDG_CACHE_HOME, else ~/.cache. Empty

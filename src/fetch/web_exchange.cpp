@@ -199,13 +199,13 @@ void WebExchange::finish(const WebEnd& end) {
     emit ended(end);
 }
 
-/// Aborting tells of an end that is none to whom it still tells.
+/// Deleting it breaks the connection off. Aborting would too, but a reply may have an error of the
+/// server on its way to itself, and complains on the error output of one that comes after that.
 void WebExchange::drop() {
     QNetworkReply* const reply = std::exchange(m_reply, nullptr);
     if (!reply)
         return;
     reply->disconnect(this);
-    reply->abort();
     reply->deleteLater();
 }
 

@@ -113,7 +113,8 @@ private:
             return false;
         const std::int64_t last =
             std::ranges::max_element(m_packets, {}, &PacketRecord::stamp)->stamp;
-        const std::int64_t end = av_rescale_q(last, m_demuxer.stream().time_base, AV_TIME_BASE_Q);
+        const std::int64_t end =
+            av_rescale_q(last, m_demuxer.stream().time_base, av_get_time_base_q());
         return end + Slack < container.duration;
     }
 

@@ -29,7 +29,7 @@ std::optional<std::int64_t> ticksLong(const Demuxer& demuxer) {
     const std::int64_t length = demuxer.container().duration; // of the longest stream
     if (length == AV_NOPTS_VALUE || length <= 0)
         return std::nullopt;
-    return av_rescale_q(length, AV_TIME_BASE_Q, stream.time_base);
+    return av_rescale_q(length, av_get_time_base_q(), stream.time_base);
 }
 
 /// The key frame nearest to a stamp, by the file's own list of its packets where it has one.

@@ -171,4 +171,33 @@ TEST_F(ReleaseTest, IsMadeOfTheCommitThatItsTagNamesAlone) {
     EXPECT_EQ(release().status, 0);
 }
 
+TEST_F(ReleaseTest, IsBuiltOfTheSourcesAsTheyStand) {
+    const auto become = [&](const std::string& version) {
+        (void)sources.folder.add("CMakeLists.txt",
+                                 "cmake_minimum_required(VERSION 3.25)\nproject(kavela VERSION " +
+                                     version +
+                                     " LANGUAGES NONE)\nadd_custom_target(programs ALL COMMAND "
+                                     "${CMAKE_COMMAND} -E touch programs)\n");
+        sources.git({"add", "."});
+        sources.commit();
+    };
+    become("0.32.0");
+    const fs::path build = folder.path() / "build";
+    ASSERT_EQ(
+        runProgram("cmake", {"-G", "Ninja", "-S", sources.path(), "-B", build.string()}).status, 0);
+    become("0.33.0");
+    const auto releaseBuild = [&] {
+        return runProgram(KAVELA_RELEASE_SCRIPT, {build.string(), "--key", key.string(), "--base",
+                                                  server.address("/kavela"), "--notes",
+                                                  (folder.path() / "notes.txt").string(), "--sign",
+                                                  KAVELA_SIGN_PROGRAM, "--out", out.string()});
+    };
+    EXPECT_THAT(releaseBuild().errors, HasSubstr("There is no tag v0.33.0"));
+    EXPECT_FALSE(fs::exists(build / "programs"));
+    sources.git({"tag", "v0.33.0"});
+    // Nothing of it can be packed.
+    EXPECT_NE(releaseBuild().status, 0);
+    EXPECT_TRUE(fs::exists(build / "programs"));
+}
+
 } // namespace kavela::test
