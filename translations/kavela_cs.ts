@@ -12521,10 +12521,6 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
         <translation>Srovnávají se dva filmy: vyberte dva.</translation>
     </message>
     <message>
-        <source>Click the same two things in both films, such as the poles of a gate. A gives it up.</source>
-        <translation>Klikněte v obou filmech na tytéž dvě věci, třeba na tyče branky. A to zruší.</translation>
-    </message>
-    <message>
         <source>points that were forgotten</source>
         <translation>zapomenuté body</translation>
     </message>
@@ -12555,6 +12551,10 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     <message>
         <source>Film %1</source>
         <translation>Film %1</translation>
+    </message>
+    <message>
+        <source>Click the same two things in both films, such as the poles of a gate. Escape gives it up.</source>
+        <translation>Klikněte v obou filmech na tytéž dvě věci, třeba na tyče branky. Escape to zruší.</translation>
     </message>
 </context>
 <context>
@@ -14762,6 +14762,10 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
         <source>%1 of %2 films</source>
         <translation>filmy: %1 z %2</translation>
     </message>
+    <message>
+        <source>No film fits the filter. Empty it to see all again.</source>
+        <translation>Filtru neodpovídá žádný film. Vyprázdněte ho a uvidíte zase všechny.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::FilmCutting</name>
@@ -14927,14 +14931,6 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     <message>
         <source>&amp;Edit</source>
         <translation>Úprav&amp;y</translation>
-    </message>
-    <message>
-        <source>&amp;Undo the renaming</source>
-        <translation>&amp;Vrátit přejmenování</translation>
-    </message>
-    <message>
-        <source>&amp;Rename them again</source>
-        <translation>Přejmenovat o&amp;pět</translation>
     </message>
     <message>
         <source>&amp;Filter the films</source>
@@ -24332,10 +24328,6 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
         <translation>Není film, na který dát štítek.</translation>
     </message>
     <message>
-        <source>There is no tag %1 yet: type its name above.</source>
-        <translation>Štítek %1 zatím není: napište jeho jméno nahoru.</translation>
-    </message>
-    <message>
         <source>This tag is of the split file: split taking moves it.</source>
         <translation>Tento štítek je ze souboru mezičasů: posouvá se v měření mezičasů.</translation>
     </message>
@@ -24346,6 +24338,14 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
     <message>
         <source>There is no film to cut.</source>
         <translation>Není film ke střihu.</translation>
+    </message>
+    <message>
+        <source>This frame has the tag “%1” already.</source>
+        <translation>Tento snímek už štítek „%1“ má.</translation>
+    </message>
+    <message>
+        <source>There is no tag %1 yet: type its name below the film.</source>
+        <translation>Štítek %1 zatím není: napište jeho jméno pod filmem.</translation>
     </message>
 </context>
 <context>

@@ -12461,10 +12461,6 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
         <translation>Zwei Filme werden ausgerichtet: zwei wählen.</translation>
     </message>
     <message>
-        <source>Click the same two things in both films, such as the poles of a gate. A gives it up.</source>
-        <translation>In beiden Filmen auf dieselben zwei Dinge klicken, etwa die Torstäbe. A bricht ab.</translation>
-    </message>
-    <message>
         <source>points that were forgotten</source>
         <translation>vergessene Punkte</translation>
     </message>
@@ -12495,6 +12491,10 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     <message>
         <source>Film %1</source>
         <translation>Film %1</translation>
+    </message>
+    <message>
+        <source>Click the same two things in both films, such as the poles of a gate. Escape gives it up.</source>
+        <translation>In beiden Filmen auf dieselben zwei Dinge klicken, etwa die Torstäbe. Escape bricht ab.</translation>
     </message>
 </context>
 <context>
@@ -14696,6 +14696,10 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
         <source>%1 of %2 films</source>
         <translation>%1 von %2 Filmen</translation>
     </message>
+    <message>
+        <source>No film fits the filter. Empty it to see all again.</source>
+        <translation>Kein Film passt zum Filter. Leeren Sie ihn, um wieder alle zu sehen.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::FilmCutting</name>
@@ -14860,14 +14864,6 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     <message>
         <source>&amp;Edit</source>
         <translation>&amp;Bearbeiten</translation>
-    </message>
-    <message>
-        <source>&amp;Undo the renaming</source>
-        <translation>&amp;Umbenennen zurücknehmen</translation>
-    </message>
-    <message>
-        <source>&amp;Rename them again</source>
-        <translation>&amp;Erneut umbenennen</translation>
     </message>
     <message>
         <source>&amp;Filter the films</source>
@@ -24244,10 +24240,6 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
         <translation>Kein Film zum Markieren da.</translation>
     </message>
     <message>
-        <source>There is no tag %1 yet: type its name above.</source>
-        <translation>Markierung %1 gibt es noch nicht: ihren Namen oben tippen.</translation>
-    </message>
-    <message>
         <source>This tag is of the split file: split taking moves it.</source>
         <translation>Diese Markierung gehört zur Zwischenzeitdatei: die Zwischenzeitnahme verschiebt sie.</translation>
     </message>
@@ -24258,6 +24250,14 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
     <message>
         <source>There is no film to cut.</source>
         <translation>Kein Film zum Schneiden da.</translation>
+    </message>
+    <message>
+        <source>This frame has the tag “%1” already.</source>
+        <translation>Dieses Bild hat die Markierung „%1“ schon.</translation>
+    </message>
+    <message>
+        <source>There is no tag %1 yet: type its name below the film.</source>
+        <translation>Markierung %1 gibt es noch nicht: ihren Namen unter dem Film tippen.</translation>
     </message>
 </context>
 <context>

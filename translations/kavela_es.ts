@@ -12461,10 +12461,6 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
         <translation>Se alinean dos vídeos: elige dos.</translation>
     </message>
     <message>
-        <source>Click the same two things in both films, such as the poles of a gate. A gives it up.</source>
-        <translation>Haz clic en las mismas dos cosas en ambos vídeos, como los palos de una puerta. A lo cancela.</translation>
-    </message>
-    <message>
         <source>points that were forgotten</source>
         <translation>puntos olvidados</translation>
     </message>
@@ -12495,6 +12491,10 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     <message>
         <source>Film %1</source>
         <translation>Vídeo %1</translation>
+    </message>
+    <message>
+        <source>Click the same two things in both films, such as the poles of a gate. Escape gives it up.</source>
+        <translation>Haga clic en las mismas dos cosas en ambos vídeos, como los palos de una puerta. Escape lo cancela.</translation>
     </message>
 </context>
 <context>
@@ -14696,6 +14696,10 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
         <source>%1 of %2 films</source>
         <translation>%1 de %2 vídeos</translation>
     </message>
+    <message>
+        <source>No film fits the filter. Empty it to see all again.</source>
+        <translation>Ningún vídeo cumple el filtro. Vacíelo para volver a verlos todos.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::FilmCutting</name>
@@ -14860,14 +14864,6 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     <message>
         <source>&amp;Edit</source>
         <translation>&amp;Editar</translation>
-    </message>
-    <message>
-        <source>&amp;Undo the renaming</source>
-        <translation>&amp;Deshacer el cambio de nombres</translation>
-    </message>
-    <message>
-        <source>&amp;Rename them again</source>
-        <translation>&amp;Volver a cambiar los nombres</translation>
     </message>
     <message>
         <source>&amp;Filter the films</source>
@@ -24244,10 +24240,6 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
         <translation>No hay ningún vídeo que etiquetar.</translation>
     </message>
     <message>
-        <source>There is no tag %1 yet: type its name above.</source>
-        <translation>Aún no hay etiqueta %1: escribe su nombre arriba.</translation>
-    </message>
-    <message>
         <source>This tag is of the split file: split taking moves it.</source>
         <translation>Esta etiqueta es del archivo de parciales: se mueve en la toma de parciales.</translation>
     </message>
@@ -24258,6 +24250,14 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
     <message>
         <source>There is no film to cut.</source>
         <translation>No hay ningún vídeo que cortar.</translation>
+    </message>
+    <message>
+        <source>This frame has the tag “%1” already.</source>
+        <translation>Este fotograma ya tiene la etiqueta «%1».</translation>
+    </message>
+    <message>
+        <source>There is no tag %1 yet: type its name below the film.</source>
+        <translation>Aún no hay etiqueta %1: escriba su nombre debajo del vídeo.</translation>
     </message>
 </context>
 <context>

@@ -12461,10 +12461,6 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
         <translation>On aligne deux films&#x202f;: choisissez-en deux.</translation>
     </message>
     <message>
-        <source>Click the same two things in both films, such as the poles of a gate. A gives it up.</source>
-        <translation>Cliquez les deux mêmes choses dans les deux films, par exemple les fiches d’une porte. A abandonne.</translation>
-    </message>
-    <message>
         <source>points that were forgotten</source>
         <translation>points oubliés</translation>
     </message>
@@ -12495,6 +12491,10 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     <message>
         <source>Film %1</source>
         <translation>Film %1</translation>
+    </message>
+    <message>
+        <source>Click the same two things in both films, such as the poles of a gate. Escape gives it up.</source>
+        <translation>Cliquez les deux mêmes choses dans les deux films, par exemple les fiches d’une porte. Échap abandonne.</translation>
     </message>
 </context>
 <context>
@@ -14696,6 +14696,10 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
         <source>%1 of %2 films</source>
         <translation>%1 films sur %2</translation>
     </message>
+    <message>
+        <source>No film fits the filter. Empty it to see all again.</source>
+        <translation>Aucun film ne correspond au filtre. Videz-le pour les revoir tous.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::FilmCutting</name>
@@ -14860,14 +14864,6 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     <message>
         <source>&amp;Edit</source>
         <translation>É&amp;dition</translation>
-    </message>
-    <message>
-        <source>&amp;Undo the renaming</source>
-        <translation>Annuler le changement &amp;de noms</translation>
-    </message>
-    <message>
-        <source>&amp;Rename them again</source>
-        <translation>Les renommer à &amp;nouveau</translation>
     </message>
     <message>
         <source>&amp;Filter the films</source>
@@ -24244,10 +24240,6 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
         <translation>Il n’y a pas de film à étiqueter.</translation>
     </message>
     <message>
-        <source>There is no tag %1 yet: type its name above.</source>
-        <translation>Il n’y a pas encore d’étiquette %1&#x202f;: tapez son nom ci-dessus.</translation>
-    </message>
-    <message>
         <source>This tag is of the split file: split taking moves it.</source>
         <translation>Cette étiquette est du fichier d’intermédiaires&#x202f;: la prise de temps intermédiaires la déplace.</translation>
     </message>
@@ -24258,6 +24250,14 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
     <message>
         <source>There is no film to cut.</source>
         <translation>Il n’y a pas de film à couper.</translation>
+    </message>
+    <message>
+        <source>This frame has the tag “%1” already.</source>
+        <translation>Cette image a déjà l’étiquette « %1 ».</translation>
+    </message>
+    <message>
+        <source>There is no tag %1 yet: type its name below the film.</source>
+        <translation>Il n’y a pas encore d’étiquette %1 : tapez son nom sous le film.</translation>
     </message>
 </context>
 <context>
