@@ -10563,7 +10563,7 @@
     </message>
     <message>
         <source>Split taking</source>
-        <translation>Prise de temps intermédiaires</translation>
+        <translation>Temps intermédiaires</translation>
     </message>
     <message>
         <source>Time every run from its video, exact to the frame.</source>
@@ -22695,7 +22695,7 @@ Choisissez un fichier.</translation>
     </message>
     <message>
         <source>Split taking</source>
-        <translation>Prise de temps intermédiaires</translation>
+        <translation>Temps intermédiaires</translation>
     </message>
     <message>
         <source>Boat motion</source>
