@@ -236,39 +236,41 @@ bool Desktop::openIn(const ToolKind& tool, const QString& path) {
 bool Desktop::openIn(const ToolKind& tool, const QString& path,
                      const std::shared_ptr<const HeldDocuments>& held) {
     if (tool.opens == OpensAs::FolderOfFilms)
-        return openTaking(path) != nullptr;
+        return openTaking(path) || isOpening();
     if (tool.opens == OpensAs::Cross)
-        return openCross(path) != nullptr;
+        return openCross(path) || isOpening();
     if (openInOneOf(tool.opens, path))
         return true;
     const QString file = canonicalPath(path);
     if (m_opening.contains(file) || raiseEditorOf(path))
         return true;
-    m_opening.insert(file, {tool.kind, path});
-    ToolWindow* const window = make(tool);
-    m_windows.append(window);
-    const auto isOpen = std::make_shared<std::optional<bool>>();
-    const auto isLater = std::make_shared<bool>(false);
-    window->openBeside(path, [this, window, path, file, isOpen, isLater, held,
-                              running = std::make_shared<QEventLoopLocker>()](bool answer) {
+    const auto isOpen = std::make_shared<bool>(true);
+    readInto(*make(tool), file, {tool.kind, path}, [this, path, isOpen, held](bool answer) {
         *isOpen = answer;
+        if (!answer)
+            m_workspace.forgetRecentFile(path);
+    });
+    return *isOpen;
+}
+
+void Desktop::readInto(ToolWindow& window, const QString& file, const OpenFile& asked,
+                       const std::function<void(bool isOpen)>& opened) {
+    m_opening.insert(file, asked);
+    m_windows.append(&window);
+    const auto isLater = std::make_shared<bool>(false);
+    window.openBeside(asked.path, [this, &window, file, opened, isLater,
+                                   running = std::make_shared<QEventLoopLocker>()](bool isOpen) {
         m_opening.remove(file);
         const QList<ToolWindow*> before = windows();
-        endOpening(window, path, answer);
+        if (isOpen)
+            show(&window);
+        else
+            window.deleteLater(); // it is telling this
+        opened(isOpen);
         if (*isLater)
             noteOpened(before);
     });
     *isLater = true;
-    return isOpen->value_or(true);
-}
-
-void Desktop::endOpening(ToolWindow* window, const QString& path, bool isOpen) {
-    if (isOpen) {
-        show(window);
-        return;
-    }
-    window->deleteLater(); // it is telling this
-    m_workspace.forgetRecentFile(path);
 }
 
 /// Who asked for a window has gone on: it comes to the front by itself. A program without any

@@ -143,6 +143,13 @@ public:
 
     /// Shows a window that was made, and follows what it asks for.
     void show(ToolWindow* window);
+    /// Reads a file beside the windows, into a window that was made for it. That is shown once it
+    /// is open, and goes where it cannot be; `opened` hears which, maybe at once, and before it
+    /// goes. Until then the session remembers `asked`, and isReading() tells of the canonical path
+    /// `file`.
+    void readInto(ToolWindow& window, const QString& file, const OpenFile& asked,
+                  const std::function<void(bool isOpen)>& opened);
+    [[nodiscard]] bool isReading(const QString& file) const { return m_opening.contains(file); }
     /// The moment behind a time of the analyzer, in the film it was taken from.
     void showMoment(const QString& path, int run, std::size_t split) {
         m_splitFiles.showMoment(path, run, split);
@@ -187,8 +194,6 @@ private:
     /// What is parsed of the file is `held` until its window has it.
     bool openIn(const ToolKind& tool, const QString& path,
                 const std::shared_ptr<const HeldDocuments>& held);
-    /// A file was read for a window that is shown now, or goes.
-    void endOpening(ToolWindow* window, const QString& path, bool isOpen);
     void connectTool(ToolWindow& window);
     /// The windows of the same tool that are on the screen.
     [[nodiscard]] QList<QWidget*> othersLike(const ToolWindow& window) const;

@@ -16,6 +16,7 @@
 #include <QEventLoopLocker>
 #include <QFileInfo>
 #include <QMetaObject>
+#include <QPointer>
 
 #include <algorithm>
 #include <memory>
@@ -86,6 +87,21 @@ SplitFileWindows::SplitFileWindows(Desktop& program, Workspace& workspace, const
                                    AnalysisWindows& analysis)
     : m_program(program), m_workspace(workspace), m_autosave(autosave), m_analysis(analysis) {}
 
+template <class Window>
+void SplitFileWindows::read(Window& window, const QString& path, const Shown<Window>& shown) {
+    const QString file = splitFileOf(path);
+    m_program.readInto(window, file, {window.kind(), path},
+                       [this, &window, file, shown](bool isOpen) {
+                           QList<std::function<void()>> asked = m_askedLater.values(file);
+                           m_askedLater.remove(file);
+                           shown(isOpen ? &window : nullptr);
+                           std::ranges::reverse(asked); // the first one comes last there
+                           for (const auto& ask : asked)
+                               if (isOpen)
+                                   ask();
+                       });
+}
+
 /// A film alone stands for the run that it shows: in the split file that has it, else among the
 /// films of its folder.
 void SplitFileWindows::openFilm(const QString& path, const QString& splitFile) {
@@ -102,33 +118,56 @@ void SplitFileWindows::openFilm(const QString& path, const QString& splitFile) {
 }
 
 TakingWindow* SplitFileWindows::openTaking(const QString& path, const Then& then) {
-    TakingWindow* const open = windowOf(m_program.windowsOf<TakingWindow>(), path);
-    CrossWindow* const cross = windowOf(m_program.windowsOf<CrossWindow>(), path);
-    if (open)
-        bringToFront(*open);
-    if (open || !cross)
-        return done(open ? open : showTaking(path), then);
-    const QEventLoopLocker running; // also between the two windows
-    const auto instead = [this, path, left = cross->document().path(), then] {
-        return done(showTakingInstead(path, left), then);
+    if (isAskedLater(path, [this, path, then] { (void)openTaking(path, then); }))
+        return nullptr;
+    const auto there = std::make_shared<QPointer<TakingWindow>>();
+    const auto shown = [there, then](TakingWindow* window) {
+        *there = window;
+        if (window && then)
+            then(*window);
     };
-    return givesWay(*cross, [instead] { (void)instead(); }) ? instead() : nullptr;
-}
-
-TakingWindow* SplitFileWindows::done(TakingWindow* window, const Then& then) {
-    if (window && then)
-        then(*window);
-    return window;
+    CrossWindow* const cross = windowOf(m_program.windowsOf<CrossWindow>(), path);
+    if (TakingWindow* const open = windowOf(m_program.windowsOf<TakingWindow>(), path)) {
+        bringToFront(*open);
+        shown(open);
+    } else if (!cross) {
+        showTaking(path, shown);
+    } else {
+        const QEventLoopLocker running; // also between the two windows
+        const auto instead = [this, path, left = cross->document().path(), shown] {
+            showTakingInstead(path, left, shown);
+        };
+        if (givesWay(*cross, instead))
+            instead();
+    }
+    return *there;
 }
 
 /// It may have been asked for twice while the other window was saving.
-TakingWindow* SplitFileWindows::showTakingInstead(const QString& path, const QString& left) {
-    if (TakingWindow* const open = windowOf(m_program.windowsOf<TakingWindow>(), path))
-        return open;
-    TakingWindow* const window = showTaking(openable(path));
-    if (!window && !showCross(openable(left)))
-        m_program.showHome();
-    return window;
+void SplitFileWindows::showTakingInstead(const QString& path, const QString& left,
+                                         const Shown<TakingWindow>& shown) {
+    if (isAskedLater(path, [this, path, left, shown] { showTakingInstead(path, left, shown); }))
+        return;
+    if (TakingWindow* const open = windowOf(m_program.windowsOf<TakingWindow>(), path)) {
+        shown(open);
+        return;
+    }
+    showTaking(openable(path), [this, left, shown](TakingWindow* window) {
+        if (!window)
+            showCross(openable(left), [this](CrossWindow* back) {
+                if (!back)
+                    m_program.showHome();
+            });
+        shown(window);
+    });
+}
+
+bool SplitFileWindows::isAskedLater(const QString& path, std::function<void()> ask) {
+    const QString file = splitFileOf(path);
+    if (!m_program.isReading(file))
+        return false;
+    m_askedLater.insert(file, std::move(ask));
+    return true;
 }
 
 bool SplitFileWindows::givesWay(ToolWindow& window, std::function<void()> then) {
@@ -153,12 +192,8 @@ bool SplitFileWindows::givesWay(ToolWindow& window, std::function<void()> then) 
     return false;
 }
 
-TakingWindow* SplitFileWindows::showTaking(const QString& path) {
+void SplitFileWindows::showTaking(const QString& path, const Shown<TakingWindow>& shown) {
     auto* window = new TakingWindow(m_workspace, m_autosave);
-    if (!window->open(path)) {
-        delete window;
-        return nullptr;
-    }
     QObject::connect(window, &TakingWindow::analysisRequested, &m_program,
                      [this, window] { m_analysis.showEdited(window->document()); });
     QObject::connect(window, &TakingWindow::crossRequested, &m_program, &Desktop::openCross);
@@ -169,40 +204,53 @@ TakingWindow* SplitFileWindows::showTaking(const QString& path) {
                          for (const QString& file : files)
                              (void)openTaking(file);
                      });
-    m_program.show(window);
-    return window;
+    read(*window, path, shown);
 }
 
 CrossWindow* SplitFileWindows::openCross(const QString& path) {
+    if (isAskedLater(path, [this, path] { (void)openCross(path); }))
+        return nullptr;
     if (CrossWindow* const open = windowOf(m_program.windowsOf<CrossWindow>(), path)) {
         bringToFront(*open);
         return open;
     }
+    // The path may be that of a window that goes meanwhile.
+    const auto there = std::make_shared<QPointer<CrossWindow>>();
+    const auto shown = [there](CrossWindow* window) { *there = window; };
     TakingWindow* const taking = windowOf(m_program.windowsOf<TakingWindow>(), path);
-    if (!taking)
-        return showCross(path);
-    const QEventLoopLocker running; // also between the two windows
-    const QString left = taking->document().path();
-    return givesWay(*taking, [this, path, left] { (void)showCrossInstead(path, left); })
-               ? showCrossInstead(path, left)
-               : nullptr;
-}
-
-CrossWindow* SplitFileWindows::showCrossInstead(const QString& path, const QString& left) {
-    if (CrossWindow* const open = windowOf(m_program.windowsOf<CrossWindow>(), path))
-        return open;
-    CrossWindow* const window = showCross(openable(path));
-    if (!window && !showTaking(openable(left)))
-        m_program.showHome();
-    return window;
-}
-
-CrossWindow* SplitFileWindows::showCross(const QString& path) {
-    auto* window = new CrossWindow(m_workspace, m_autosave);
-    if (!window->open(path)) {
-        delete window;
-        return nullptr;
+    if (taking) {
+        const QEventLoopLocker running; // also between the two windows
+        const auto instead = [this, path, left = taking->document().path(), shown] {
+            showCrossInstead(path, left, shown);
+        };
+        if (givesWay(*taking, instead))
+            instead();
+    } else {
+        showCross(path, shown);
     }
+    return *there;
+}
+
+void SplitFileWindows::showCrossInstead(const QString& path, const QString& left,
+                                        const Shown<CrossWindow>& shown) {
+    if (isAskedLater(path, [this, path, left, shown] { showCrossInstead(path, left, shown); }))
+        return;
+    if (CrossWindow* const open = windowOf(m_program.windowsOf<CrossWindow>(), path)) {
+        shown(open);
+        return;
+    }
+    showCross(openable(path), [this, left, shown](CrossWindow* window) {
+        if (!window)
+            showTaking(openable(left), [this](TakingWindow* back) {
+                if (!back)
+                    m_program.showHome();
+            });
+        shown(window);
+    });
+}
+
+void SplitFileWindows::showCross(const QString& path, const Shown<CrossWindow>& shown) {
+    auto* window = new CrossWindow(m_workspace, m_autosave);
     QObject::connect(window, &CrossWindow::analysisRequested, &m_program,
                      [this, window] { m_analysis.showEdited(window->document()); });
     QObject::connect(window, &CrossWindow::takingRequested, &m_program, &Desktop::openTaking);
@@ -212,8 +260,7 @@ CrossWindow* SplitFileWindows::showCross(const QString& path) {
                 QFileInfo(file).isDir() || QFileInfo(file).suffix() == "kvx" ? (void)openCross(file)
                                                                              : m_program.open(file);
         });
-    m_program.show(window);
-    return window;
+    read(*window, path, shown);
 }
 
 void SplitFileWindows::showRun(const QString& path, std::size_t run, const Then& then) {

@@ -80,7 +80,7 @@ protected:
         race.athletes.resize(1);
         race.crossracedata = cross;
         ASSERT_TRUE(saveSplitFile(race, file(), m_recorder.log()));
-        ASSERT_TRUE(m_document.openFile(QString::fromStdString(file().string()), nullptr));
+        ASSERT_TRUE(m_document.reading(QString::fromStdString(file().string()), nullptr)()());
         for (desktop::CrossPage* const page : {static_cast<desktop::CrossPage*>(&m_heats),
                                                static_cast<desktop::CrossPage*>(&m_results)}) {
             QObject::connect(&m_document, &TakingDocument::changed, page,

@@ -164,7 +164,7 @@ TEST_F(CrossPagesTest, SavesAndReadsBackWhatWasTaken) {
     const rounddata030 taken = heat();
     ASSERT_TRUE(saved(m_document));
     m_heats.mark(at(40));
-    ASSERT_TRUE(m_document.openFile(QString::fromStdString(file().string()), nullptr));
+    ASSERT_TRUE(m_document.reading(QString::fromStdString(file().string()), nullptr)()());
     EXPECT_EQ(heat().videoname, "other.MOV");
     EXPECT_EQ(m_heats.film(), "other.MOV");
     ASSERT_THAT(heat().generals, SizeIs(1));

@@ -65,7 +65,7 @@ TEST_F(OwnFileTest, ImportsThatTookNothingAreNoEdit) {
     empty.athletes.clear();
     const fs::path other = m_folder.path() / "empty.kvx";
     ASSERT_TRUE(saveSplitFile(empty, other, m_recorder.log()));
-    m_window->document().importSplitFile(QString::fromStdString(other.string()), nullptr);
+    m_window->document().importSplitFiles({QString::fromStdString(other.string())}, nullptr);
     EXPECT_FALSE(m_window->document().isDirty());
     ASSERT_THAT(m_recorder.alerts, SizeIs(1));
     EXPECT_THAT(m_recorder.alerts[0], ::testing::HasSubstr("empty.kvx"));

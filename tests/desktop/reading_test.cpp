@@ -7,6 +7,7 @@
 #include "desktop/race/race_view.h"
 #include "desktop/race/race_window.h"
 #include "desktop/slow_disk.h"
+#include "desktop/taking/taking_window.h"
 #include "desktop/team/team_window.h"
 #include "desktop/tools.h"
 
@@ -176,6 +177,48 @@ TEST_F(ReadingTest, AFilmOpensThoughASplitFileBesideItIsDamaged) {
                 ::testing::EndsWith("harbour_night.kvx"));
 }
 
+/// It would be edited in two windows, or what was asked for would come to nothing.
+TEST_F(ReadingTest, WhatIsAskedOfARaceThatIsBeingReadIsDoneOnceItIsThere) {
+    const QString race = copied("races/spring_opener.kvx");
+    const QString folder = QFileInfo(race).absolutePath();
+    Desktop program(m_workspace, autosave());
+    {
+        const SlowReading slow;
+        EXPECT_FALSE(program.openTaking(folder));
+        program.showMoment(race, 3, 1);
+        EXPECT_TRUE(program.openIn(*desktop::toolOfKind("taking"), race));
+        EXPECT_THAT(program.windows(), IsEmpty());
+    }
+    ASSERT_TRUE(isDone(program));
+    ASSERT_THAT(kindsOf(program), ElementsAre("taking"));
+    EXPECT_EQ(program.windowsOf<desktop::TakingWindow>().front()->currentRun(), 3);
+    {
+        const SlowReading slow;
+        EXPECT_FALSE(program.openCross(race));
+        EXPECT_FALSE(program.openCross(folder));
+        EXPECT_FALSE(program.openTaking(race)) << "the cross has it first";
+        EXPECT_THAT(program.windows(), IsEmpty());
+        EXPECT_TRUE(program.hasWindows());
+    }
+    QTRY_VERIFY(!program.windowsOf<desktop::TakingWindow>().isEmpty());
+    EXPECT_THAT(kindsOf(program), ElementsAre("taking"));
+    EXPECT_THAT(m_recorder.alerts, IsEmpty());
+}
+
+TEST_F(ReadingTest, TheOtherWindowOfARaceComesBackWhereItsFileHasGoneMeanwhile) {
+    const QString race = copied("races/spring_opener.kvx");
+    Desktop program(m_workspace, autosave());
+    ASSERT_TRUE(program.openCross(race));
+    {
+        const SlowReading slow;
+        EXPECT_FALSE(program.openTaking(race));
+        ASSERT_TRUE(QFile::remove(race));
+    }
+    QTRY_VERIFY(!program.isOpening());
+    EXPECT_TRUE(program.isHomeShown() || !program.windows().isEmpty()) << "it could not be left";
+    EXPECT_FALSE(m_recorder.alerts.empty());
+}
+
 /// What is edited in it meanwhile would be lost.
 TEST_F(ReadingTest, AWindowThatIsShownIsLockedWhileItsFileIsReadAgain) {
     const QString path = copied("team/kavela_team.kvteam");
@@ -201,7 +244,8 @@ TEST_F(ReadingTest, WhatIsWrongWithAFileIsToldInTheSameWordsHoweverLongItTook) {
         const char* name;
         const char* tool;
     } files[] = {{"a.kvteam", "team"},       {"a.kvsr", "selection"}, {"a.planning", "planning"},
-                 {"a.kvtest", "watertests"}, {"a.json", "compare"},   {"a.track.json", "tracking"}};
+                 {"a.kvtest", "watertests"}, {"a.json", "compare"},   {"a.track.json", "tracking"},
+                 {"a.kvx", "taking"},        {"b.kvx", "cross"}};
     for (const auto& [name, kind] : files) {
         SCOPED_TRACE(name);
         const QString path = pathText(m_folder.add(name, R"({"races": [)"));

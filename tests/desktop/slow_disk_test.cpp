@@ -181,7 +181,7 @@ TEST_F(SlowDiskTest, AnOlderSplitFileIsOpenBeforeItsCopyIsWritten) {
     document.setChooseCopy([this](const QString&) { return path("copy.kvx"); });
     {
         const SlowDisk slow;
-        ASSERT_TRUE(document.openFile(path("race.kvx"), nullptr));
+        ASSERT_TRUE(document.reading(path("race.kvx"), nullptr)()());
         EXPECT_EQ(document.path(), path("copy.kvx"));
         EXPECT_GT(document.runCount(), 0);
         EXPECT_TRUE(document.isDirty()) << "it is in no file yet";
@@ -200,7 +200,7 @@ TEST_F(SlowDiskTest, AnOlderSplitFileIsKeptWhereItsCopyTakesItsName) {
     const std::string before = readTextFile(file("race.kvx"));
     desktop::TakingDocument document(m_workspace, autosave());
     document.setChooseCopy([this](const QString&) { return path("race.kvx"); });
-    ASSERT_TRUE(document.openFile(path("race.kvx"), nullptr));
+    ASSERT_TRUE(document.reading(path("race.kvx"), nullptr)()());
     QTRY_VERIFY(!document.isDirty());
     EXPECT_EQ(readTextFile(file("race_old.kvb")), before);
     EXPECT_NE(readTextFile(file("race.kvx")), before);
@@ -210,7 +210,7 @@ TEST_F(SlowDiskTest, AnOlderSplitFileIsKeptWhereItsCopyTakesItsName) {
 TEST_F(SlowDiskTest, ARaceDayIsReadAsItWasEditedLast) {
     const auto open = [this] {
         auto document = std::make_unique<desktop::TakingDocument>(m_workspace, autosave());
-        EXPECT_TRUE(document->openFolder(path("day"), nullptr));
+        EXPECT_TRUE(document->reading(path("day"), nullptr)()());
         return document;
     };
     fs::create_directory(file("day"));

@@ -292,7 +292,7 @@ TEST_F(TakingWindowTest, RefusesAnOlderFileAndAsksBeforeDeletingEverything) {
     desktop::TakingDocument document(m_workspace, autosave());
     const QString copy = QString::fromStdString((m_folder.path() / "copy.kvx").string());
     document.setChooseCopy([&](const QString&) { return copy; });
-    EXPECT_TRUE(document.openFile(QString::fromStdString(splitFile().string()), nullptr));
+    EXPECT_TRUE(document.reading(QString::fromStdString(splitFile().string()), nullptr)()());
     EXPECT_EQ(document.path(), copy);
     EXPECT_GT(document.runCount(), 0);
     EXPECT_EQ(contentOf(splitFile()), older);

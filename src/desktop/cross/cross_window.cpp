@@ -121,10 +121,12 @@ void CrossWindow::connectParts() {
     });
 }
 
-bool CrossWindow::open(const QString& path) {
-    const bool isFolder = QFileInfo(path).isDir();
-    if (isFolder ? !m_document.openFolder(path, this) : !m_document.openFile(path, this))
-        return false;
+FileReading CrossWindow::readingOf(const QString& path) {
+    return followedBy(m_document.reading(path, this),
+                      [this, isFolder = QFileInfo(path).isDir()] { beginWork(isFolder); });
+}
+
+void CrossWindow::beginWork(bool isFolder) {
     if (isFolder && !QFile::exists(m_document.path()))
         takeFolder();
     const auto& cross = m_document.cross();
@@ -134,7 +136,6 @@ bool CrossWindow::open(const QString& path) {
         m_course->setFocus();
     else
         page().setFocus();
-    return true;
 }
 
 /// A new race on a folder of films: they are time trials and no runs.

@@ -30,10 +30,6 @@ public:
     CrossWindow(Workspace& workspace, Autosave autosave);
     ~CrossWindow() override;
 
-    /// Opens a split file, or a folder of films: one without a split file begins a new race with a
-    /// time trial for each film. False, after a message, when that failed.
-    [[nodiscard]] bool open(const QString& path) override;
-
     [[nodiscard]] TakingDocument& document() { return m_document; }
     /// The film, and the keys of marking, which are the page's in front.
     [[nodiscard]] FilmStage& stage() const { return *m_stage; }
@@ -67,6 +63,9 @@ signals:
     void takingRequested(const QString& path);
 
 protected:
+    /// A split file, or a folder of films: one without a split file begins a new race with a time
+    /// trial for each film.
+    [[nodiscard]] FileReading readingOf(const QString& path) override;
     /// Films become trials, or the film of the heat in front.
     void takeFiles(const QStringList& paths) override;
     [[nodiscard]] bool takePending() override;
@@ -75,6 +74,7 @@ private:
     [[nodiscard]] QWidget* makePages();
     void addPage(CrossPage& page, const QString& title);
     void connectParts();
+    void beginWork(bool isFolder);
     void takeFolder();
     void showDocument();
     void showPageInFront();

@@ -58,24 +58,26 @@ void writeDay(const RaceDay& day, const std::filesystem::path& path, bool isPutA
 } // namespace
 
 /// What another document of this file still has to write is not waited for.
-DayKeeping::Day DayKeeping::read(const QString& splitFile, QWidget* over) {
-    const auto path = raceDayPath(splitFile.toStdString());
-    m_isUnreadable = false;
+DayKeeping::Found DayKeeping::find(const QString& splitFile) {
     if (Day day = daysUnderWay().find(canonicalPath(splitFile)))
-        return m_kept = std::move(day);
-    m_kept = std::make_shared<RaceDay>();
+        return {std::move(day), {}};
+    const auto path = raceDayPath(splitFile.toStdString());
     try {
-        if (auto day = readRaceDay(path))
-            m_kept = std::make_shared<RaceDay>(std::move(*day));
+        auto day = readRaceDay(path);
+        return {std::make_shared<RaceDay>(day ? std::move(*day) : RaceDay()), {}};
     } catch (const std::runtime_error& error) {
-        m_isUnreadable = true;
-        m_workspace.showAlert(
-            {"", tr("The race day %1 cannot be read: %2. It stays as it is; a new one takes its "
-                    "name only after it was put aside.")
-                     .arg(qtText(path.filename().string()), qtText(error.what()))
-                     .toStdString()},
-            over);
+        return {std::make_shared<RaceDay>(),
+                tr("The race day %1 cannot be read: %2. It stays as it is; a new one takes its "
+                   "name only after it was put aside.")
+                    .arg(qtText(path.filename().string()), qtText(error.what()))};
     }
+}
+
+DayKeeping::Day DayKeeping::take(const Found& found, QWidget* over) {
+    m_kept = found.day;
+    m_isUnreadable = !found.fault.isEmpty();
+    if (m_isUnreadable)
+        m_workspace.showAlert({"", found.fault.toStdString()}, over);
     return m_kept;
 }
 

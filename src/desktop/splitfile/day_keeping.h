@@ -24,9 +24,17 @@ public:
 
     using Day = std::shared_ptr<const RaceDay>;
 
-    /// The day that belongs to a split file, one without starts where there is none. What cannot be
-    /// read is told; it stays, and is put aside under another name before a day is written there.
-    [[nodiscard]] Day read(const QString& splitFile, QWidget* over);
+    /// A day as it was found, or why what stands there cannot be read.
+    struct Found {
+        Day day; ///< never null
+        QString fault;
+    };
+    /// The day that belongs to a split file, one without starts where there is none. For any
+    /// thread.
+    [[nodiscard]] static Found find(const QString& splitFile);
+    /// The day to go on with. What cannot be read is told; it stays, and is put aside under another
+    /// name before a day is written there.
+    [[nodiscard]] Day take(const Found& found, QWidget* over);
     /// Writes a day that is another one than that read or kept last.
     void keep(const Day& day, const QString& splitFile);
 

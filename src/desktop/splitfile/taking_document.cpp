@@ -12,14 +12,12 @@
 #include "desktop/splitfile/taking_edits.h"
 #include "desktop/splitfile/taking_files.h"
 #include "desktop/splitfile/taking_reading.h"
-#include "splitdata/loader.h"
 #include "splitdata/run_timing.h"
 #include "splittaking/messages.h"
 #include "splittaking/perfect_time.h"
 #include "splittaking/training_collection.h"
 #include "splittaking/video_names.h"
 
-#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPointer>
@@ -47,30 +45,31 @@ TakingDocument::TakingDocument(Workspace& workspace, Autosave autosave, QObject*
     connect(&m_days, &DayKeeping::notKept, this, &TakingDocument::dayNotKept);
 }
 
-bool TakingDocument::openFolder(const QString& folder, QWidget* over) {
-    const QString absolute = QDir(folder).absolutePath();
-    if (const QString file = splitFileIn(absolute); !file.isEmpty())
-        return openFile(file, over);
-    splittakerdata031 document = newRaceIn(absolute, workspace());
-    document.athletes =
-        runsOfFilms(filmsIn(absolute), filmPattern().toStdString(), document.info.gates);
-    const QString file = absolute + '/' + QFileInfo(absolute).fileName() + ".kvx";
-    TakingState state = stateOf(std::move(document));
-    state.day = m_days.read(file, over);
-    start(std::move(state), file, over);
-    setNamed(); // after its folder
-    return true;
+FileReading TakingDocument::reading(const QString& path, QWidget* over) {
+    return [this, path, over, clock = workspace().clock()]() -> TakeIn {
+        const auto found = std::make_shared<TakingRead>(readTaking(path, clock));
+        return [this, over, found] { return take(std::move(*found), over); };
+    };
 }
 
-bool TakingDocument::openFile(const QString& file, QWidget* over) {
-    RecognisedSplitFile read =
-        recogniseSplitFile(file.toStdString(), workspace().log(), workspace().clock());
-    if (!read.isCurrent())
-        return openCopy(read, file, over);
-    TakingState state = stateOf(std::move(read.document));
-    state.day = m_days.read(file, over);
-    setOlderLayout({});
-    start(std::move(state), file, over);
+bool TakingDocument::take(TakingRead found, QWidget* over) {
+    found.notes.tell(workspace(), over);
+    if (found.read && !found.read->isCurrent())
+        return openCopy(*found.read, found.file, over);
+    splittakerdata031 document;
+    if (found.read) {
+        document = std::move(found.read->document);
+        setOlderLayout({});
+    } else {
+        document = newRaceIn(QFileInfo(found.file).absolutePath(), workspace());
+        document.athletes =
+            runsOfFilms(found.films, filmPattern().toStdString(), document.info.gates);
+    }
+    TakingState state = stateOf(std::move(document));
+    state.day = m_days.take(found.day, over);
+    start(std::move(state), found.file, over);
+    if (!found.read)
+        setNamed(); // after its folder
     return true;
 }
 
@@ -102,7 +101,7 @@ bool TakingDocument::openCopy(const RecognisedSplitFile& older, const QString& f
 /// It is unsaved work until it is written, which the window does not wait for.
 void TakingDocument::startCopy(splittakerdata031 document, const QString& copy, QWidget* over) {
     TakingState state = stateOf(std::move(document));
-    state.day = m_days.read(copy, over);
+    state.day = m_days.take(DayKeeping::find(copy), over);
     start(std::move(state), copy, over);
     setNamed();
     undoStack().resetClean();
@@ -281,19 +280,18 @@ int TakingDocument::addFilms(const QStringList& names) {
     return static_cast<int>(fresh.size());
 }
 
-void TakingDocument::importSplitFile(const QString& file, QWidget* over) {
-    auto document = readCurrent(file, workspace(), over);
-    if (!document)
-        return;
-    TakingState imported = stateOf(std::move(*document));
-    if (imported.runs.empty() && !value().runs.empty()) {
-        workspace().showAlert({"", tr("“%1” holds no runs. Nothing was imported.")
-                                       .arg(QFileInfo(file).fileName())
-                                       .toStdString()},
-                              over);
-        return;
-    }
-    put(tr("split file imported"), withRace(value(), std::move(imported)));
+void TakingDocument::importSplitFiles(const QStringList& files, QWidget* over) {
+    m_imports.runAwaited(
+        [files, clock = workspace().clock()] {
+            return std::make_shared<ImportsRead>(readImports(files, clock));
+        },
+        [this, over = QPointer(over)](const std::shared_ptr<ImportsRead>& found) {
+            found->notes.tell(workspace(), over);
+            for (RecognisedSplitFile& file : found->files)
+                if (auto race = importedRace(std::move(file), value(), workspace(), over))
+                    put(tr("split file imported"), withRace(value(), std::move(*race)));
+        },
+        {}, {over, tr("Reading %1…").arg(QFileInfo(files.value(0)).fileName())});
 }
 
 void TakingDocument::takeResults(const ResultsList& list, const std::vector<ResultOfRun>& runs) {

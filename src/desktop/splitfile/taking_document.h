@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/why.h"
+#include "desktop/shell/background_work.h"
 #include "desktop/shell/document.h"
 #include "desktop/splitfile/day_keeping.h"
 #include "desktop/splitfile/taking_lists.h"
@@ -19,6 +20,8 @@ struct RecognisedSplitFile;
 
 namespace kavela::desktop {
 
+struct TakingRead;
+
 /// The split file that is being taken: its course, its runs, their marks and penalties.
 class TakingDocument : public Document<TakingState> {
     Q_OBJECT
@@ -27,11 +30,10 @@ public:
     TakingDocument(Workspace& workspace, Autosave autosave, QObject* parent = nullptr);
     ~TakingDocument() override { keepPending(); }
 
-    /// Opens a folder of films: its split file where it has one, otherwise a new document with a
-    /// run for each film. Unsaved work of an earlier session is offered. False, after a message,
-    /// when its split file is of an older release or none at all; the document is then as it was.
-    [[nodiscard]] bool openFolder(const QString& folder, QWidget* over);
-    [[nodiscard]] bool openFile(const QString& file, QWidget* over);
+    /// How a split file is read, or a folder of films: its split file where it has one, otherwise a
+    /// new document with a run for each film. Unsaved work of an earlier session is offered. One of
+    /// an older release, or none at all, is told; the document stays as it is then, or is a copy.
+    [[nodiscard]] FileReading reading(const QString& path, QWidget* over);
     /// Where a copy of an older file is written to, proposed a path, empty for nowhere; in place of
     /// the platform's dialog, as in tests.
     using ChooseCopy = std::function<QString(const QString& proposed)>;
@@ -98,8 +100,9 @@ public:
     [[nodiscard]] QString filmPattern() const;
     void readFilmNames(const QString& pattern);
 
-    /// Takes over the runs of another split file of the current version.
-    void importSplitFile(const QString& file, QWidget* over);
+    /// Takes over the runs of other split files of the current version, which are read beside the
+    /// window.
+    void importSplitFiles(const QStringList& files, QWidget* over);
     /// Adds the lines of an official list to the race, and real time and penalty to the runs that
     /// have one of them, in one step.
     void takeResults(const ResultsList& list, const std::vector<ResultOfRun>& runs);
@@ -132,6 +135,7 @@ protected:
     void follow() override;
 
 private:
+    [[nodiscard]] bool take(TakingRead found, QWidget* over);
     [[nodiscard]] bool openCopy(const RecognisedSplitFile& older, const QString& file,
                                 QWidget* over);
     void startCopy(splittakerdata031 document, const QString& copy, QWidget* over);
@@ -148,6 +152,7 @@ private:
     ChooseCopy m_chooseCopy;
     std::optional<int> m_workedOn;
     std::optional<BesideFile> m_lists; ///< to be written now, in place of what the settings want
+    BackgroundWork m_imports;
 };
 
 } // namespace kavela::desktop

@@ -1,12 +1,14 @@
 #include "desktop/splitfile/taking_reading.h"
 
 #include "common/json_decode.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/kept_work.h"
-#include "splitdata/loader.h"
+#include "desktop/splitfile/taking_files.h"
 #include "splittaking/messages.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 
 #include <utility>
@@ -21,6 +23,31 @@ QString tr(const char* text) {
 
 } // namespace
 
+TakingRead readTaking(const QString& path, const Clock& clock) {
+    TakingRead found;
+    found.file = path;
+    if (QFileInfo(path).isDir()) {
+        const QString folder = QDir(path).absolutePath();
+        found.file = splitFileIn(folder);
+        if (found.file.isEmpty()) {
+            found.file = folder + '/' + QFileInfo(folder).fileName() + ".kvx";
+            found.films = filmsIn(folder);
+            found.day = DayKeeping::find(found.file);
+            return found;
+        }
+    }
+    found.read = recogniseSplitFile(found.file.toStdString(), found.notes.log(), clock);
+    found.day = DayKeeping::find(found.file);
+    return found;
+}
+
+ImportsRead readImports(const QStringList& files, const Clock& clock) {
+    ImportsRead found;
+    for (const QString& file : files)
+        found.files.push_back(recogniseSplitFile(file.toStdString(), found.notes.log(), clock));
+    return found;
+}
+
 void tellNotCurrent(const RecognisedSplitFile& read, const Workspace& workspace, QWidget* over) {
     if (read.version) {
         workspace.showAlert({"", messages::OlderVersion}, over);
@@ -30,13 +57,19 @@ void tellNotCurrent(const RecognisedSplitFile& read, const Workspace& workspace,
     reportIncompatible(read, workspace.log(), alerts);
 }
 
-std::optional<splittakerdata031> readCurrent(const QString& file, const Workspace& workspace,
-                                             QWidget* over) {
-    RecognisedSplitFile read =
-        recogniseSplitFile(file.toStdString(), workspace.log(), workspace.clock());
-    if (read.isCurrent())
-        return std::move(read.document);
-    tellNotCurrent(read, workspace, over);
+std::optional<TakingState> importedRace(RecognisedSplitFile read, const TakingState& into,
+                                        const Workspace& workspace, QWidget* over) {
+    if (!read.isCurrent()) {
+        tellNotCurrent(read, workspace, over);
+        return std::nullopt;
+    }
+    TakingState race = stateOf(std::move(read.document));
+    if (!race.runs.empty() || into.runs.empty())
+        return race;
+    workspace.showAlert({"", tr("“%1” holds no runs. Nothing was imported.")
+                                 .arg(qtText(read.path.filename().string()))
+                                 .toStdString()},
+                        over);
     return std::nullopt;
 }
 

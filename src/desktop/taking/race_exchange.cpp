@@ -94,9 +94,10 @@ void RaceExchange::readFilmNames() {
 void RaceExchange::importSplitFile() {
     if (!m_commit())
         return;
-    for (const QString& file :
-         m_files.choose(tr("Import split file"), tr("Split files (*.kvx);;All files (*)")))
-        m_document.importSplitFile(file, &m_window);
+    const QStringList files =
+        m_files.choose(tr("Import split file"), tr("Split files (*.kvx);;All files (*)"));
+    if (!files.isEmpty())
+        m_document.importSplitFiles(files, &m_window);
 }
 
 void RaceExchange::importResults() {

@@ -235,17 +235,16 @@ void TakingWindow::connectNotes() {
     connect(m_notes, &NotesPanel::flashed, m_stage, &FilmStage::flash);
 }
 
-bool TakingWindow::open(const QString& path) {
-    const bool isOpen = QFileInfo(path).isDir() ? m_document.openFolder(path, this)
-                                                : m_document.openFile(path, this);
-    if (!isOpen)
-        return false;
+FileReading TakingWindow::readingOf(const QString& path) {
+    return followedBy(m_document.reading(path, this), [this] { beginWork(); });
+}
+
+void TakingWindow::beginWork() {
     if (m_run < 0)
         m_films->show(); // says how films come here
     if (const auto run = m_document.workedOn())
         selectRun(*run);
     m_runTable->setFocus();
-    return true;
 }
 
 void TakingWindow::makeFilmLarger() {

@@ -43,10 +43,6 @@ public:
     TakingWindow(Workspace& workspace, Autosave autosave);
     ~TakingWindow() override;
 
-    /// Opens a folder of films, or a split file in its folder; false, after a message, when that
-    /// failed.
-    [[nodiscard]] bool open(const QString& path) override;
-
     [[nodiscard]] TakingDocument& document() { return m_document; }
     /// The films, and the keys of marking, which are those of the mode in front.
     [[nodiscard]] FilmStage& stage() const { return *m_stage; }
@@ -93,6 +89,8 @@ signals:
     void slitRequested(const QString& film); ///< marks made there go into the document
 
 protected:
+    /// A folder of films, or a split file in its folder.
+    [[nodiscard]] FileReading readingOf(const QString& path) override;
     /// Films become runs, a recording belongs to the run in front.
     void takeFiles(const QStringList& paths) override;
     /// Ends a recording of the team radio too.
@@ -108,6 +106,7 @@ private:
     void chooseDayFolder();
     void connectParts();
     void connectNotes();
+    void beginWork();
     void showRun(int run);
     void followRun();
     void showRuns();
