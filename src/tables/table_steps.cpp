@@ -2,6 +2,7 @@
 
 #include "common/folded_text.h"
 #include "common/text.h"
+#include "tables/table_error.h"
 #include "tables/table_order.h"
 
 #include <algorithm>
@@ -159,6 +160,13 @@ std::vector<ListTable> TableSteps::tables() const {
 }
 
 TableSteps TableSteps::with(TableStep step) const {
+    if (const auto* const kind = std::get_if<KindStep>(&step))
+        if (const GridColumn& column = m_table->columns[columnPlace(*m_table, kind->column)];
+            column.isDerived)
+            throw TableError(
+                say("The column \"{}\" is reckoned here: how the columns of the list are "
+                    "read decides what it holds.",
+                    column.name));
     TableSteps more = *this;
     more.m_steps.push_back(std::move(step));
     if (isAboutReading(more.m_steps.back())) {

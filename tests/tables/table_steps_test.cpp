@@ -12,7 +12,9 @@ namespace kavela::test {
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::SizeIs;
+using testing::ThrowsMessage;
 
 TableSteps listSteps() {
     return TableSteps(readList("Name;Cat;Time\nrun 10;b;93\nrun 9;a;DNF\nRun 2;b;92\nrun 1;a;\n"));
@@ -57,6 +59,11 @@ TEST(TableSteps, ReadColumnsAsTheyAreTold) {
 TEST(TableSteps, RefuseWhatCannotBeDone) {
     const TableSteps gap = listSteps().with(parsedDerivedColumn("gap:Time"));
     EXPECT_THROW((void)gap.with(KindStep{"Time", ListColumnKind::Text}), TableError);
+    EXPECT_THAT(
+        [&] {
+            (void)gap.with(KindStep{"gap", ListColumnKind::Text});
+        },
+        ThrowsMessage<TableError>(HasSubstr("\"gap\" is reckoned here")));
     EXPECT_THROW((void)gap.with(SortStep{"Bib"}), TableError);
     EXPECT_THROW((void)gap.with(TintStep{"Name"}), TableError);
     EXPECT_THAT(gap.with(TintStep{"gap"}).table().coloured, ElementsAre("gap"));

@@ -4,6 +4,7 @@
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/shown_number.h"
 #include "performance/table_join.h"
+#include "tables/shown_decimals.h"
 
 #include <QCoreApplication>
 
@@ -32,7 +33,7 @@ std::vector<QString> rowLabels(const ListTable& table) {
 
 /// As the table shows it, so that both say the same to the digit.
 QString tableValueText(const GridColumn& column, std::size_t row) {
-    const QString text = qtText(column.cells[row].text);
+    const QString text = qtText(ShownDecimals(column).textOf(column.cells[row]));
     return column.isDerived ? shownNumbers(text) : text;
 }
 
