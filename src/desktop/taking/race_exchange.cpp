@@ -4,6 +4,7 @@
 #include "common/error.h"
 #include "common/text_file.h"
 #include "desktop/course/course_editor.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/film_files.h"
 #include "desktop/splitfile/taking_document.h"
@@ -21,8 +22,32 @@
 #include <QLineEdit>
 
 #include <utility>
+#include <vector>
 
 namespace kavela::desktop {
+
+namespace {
+
+using OfficialList = RaceExchange::OfficialList;
+
+/// On any thread.
+std::vector<OfficialList> officialLists(const QStringList& files) {
+    std::vector<OfficialList> lists;
+    for (const QString& file : files) {
+        OfficialList& read = lists.emplace_back();
+        read.name = QFileInfo(file).fileName();
+        try {
+            read.list = parseResults(readTextFile(file.toStdString()));
+        } catch (const FileError& error) {
+            read.fault = error.reason();
+        } catch (const DecodeError& error) {
+            read.fault = error.what();
+        }
+    }
+    return lists;
+}
+
+} // namespace
 
 RaceExchange::RaceExchange(TakingDocument& document, const FilmFiles& files, Workspace& workspace,
                            QWidget& window, std::function<bool()> commit)
@@ -103,29 +128,35 @@ void RaceExchange::importSplitFile() {
 void RaceExchange::importResults() {
     if (!m_commit())
         return;
-    for (const QString& file :
-         m_files.choose(tr("Import official results"), tr("Lists (*.csv *.txt);;All files (*)")))
-        try {
-            importResults(QFileInfo(file).fileName(),
-                          parseResults(readTextFile(file.toStdString())));
-        } catch (const FileError& error) {
-            tell(error.reason());
-        } catch (const DecodeError& error) {
-            tell(error.what());
-        }
+    const QStringList files =
+        m_files.choose(tr("Import official results"), tr("Lists (*.csv *.txt);;All files (*)"));
+    if (files.isEmpty())
+        return;
+    m_reading.runAwaited([files] { return officialLists(files); },
+                         [this](const std::vector<OfficialList>& lists) {
+                             for (const OfficialList& list : lists)
+                                 importResults(list);
+                         },
+                         {},
+                         {&m_window, tr("Reading %1…").arg(QFileInfo(files.front()).fileName())});
 }
 
 /// Nothing is taken before the coach has seen what there is for whom.
-void RaceExchange::importResults(const QString& name, const ResultsList& list) {
+void RaceExchange::importResults(const OfficialList& read) {
+    const ResultsList& list = read.list;
+    if (!read.fault.empty()) {
+        tell(read.fault);
+        return;
+    }
     if (list.results.empty()) {
-        std::string why = tr("There are no results in %1.").arg(name).toStdString();
+        QStringList why{tr("There are no results in %1.").arg(read.name)};
         for (const SkippedLine& line : list.skipped)
-            why += "\nLine " + std::to_string(line.line) + ": " + line.reason;
-        tell(why);
+            why += tr("Line %1: %2").arg(QString::number(line.line), qtText(line.reason));
+        tell(why.join('\n').toStdString());
         return;
     }
     const splittakerdata031 race = timesOf(m_document.value());
-    ResultsDialog dialog(race.athletes, list, name, &m_window);
+    ResultsDialog dialog(race.athletes, list, read.name, &m_window);
     if (dialog.exec() == QDialog::Accepted)
         m_document.takeResults(list, dialog.taken());
 }

@@ -1,15 +1,15 @@
 #pragma once
 
+#include "desktop/shell/background_work.h"
+#include "splittaking/results_import.h"
+
 #include <QCoreApplication>
+#include <QString>
 
 #include <functional>
 #include <string>
 
 class QWidget;
-
-namespace kavela {
-struct ResultsList;
-}
 
 namespace kavela::desktop {
 
@@ -28,6 +28,13 @@ public:
     RaceExchange(TakingDocument& document, const FilmFiles& files, Workspace& workspace,
                  QWidget& window, std::function<bool()> commit);
 
+    /// A list that was read to be imported.
+    struct OfficialList {
+        QString name;
+        ResultsList list;
+        std::string fault; ///< why it could not be read; empty where it was
+    };
+
     void setUpCourse();
     /// Shows the drawing of the course, to be drawn on.
     void drawCourse();
@@ -40,7 +47,7 @@ public:
     void collectTraining(const QString& athlete);
 
 private:
-    void importResults(const QString& name, const ResultsList& list);
+    void importResults(const OfficialList& read);
     void tell(const std::string& message);
 
     TakingDocument& m_document;
@@ -48,6 +55,7 @@ private:
     Workspace& m_workspace;
     QWidget& m_window;
     std::function<bool()> m_commit;
+    BackgroundWork m_reading;
 };
 
 } // namespace kavela::desktop
