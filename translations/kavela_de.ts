@@ -520,6 +520,14 @@
         <source>drawing of the course</source>
         <translation>Zeichnung der Strecke</translation>
     </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>%1 wird gelesen…</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>RankingCharts</name>
@@ -9182,6 +9190,10 @@
         <source>“bow” or “body” was expected</source>
         <translation>“bow” oder “body” wurde erwartet</translation>
     </message>
+    <message>
+        <source>The column &quot;{}&quot; is reckoned here: how the columns of the list are read decides what it holds.</source>
+        <translation>Die Spalte „{}“ wird hier berechnet: Was sie enthält, hängt davon ab, wie die Spalten der Liste gelesen werden.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -11096,6 +11108,10 @@
     <message>
         <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;All files (*)</source>
         <translation>Listen (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>“%1” holds no runs. Nothing was imported.</source>
+        <translation>„%1“ enthält keine Läufe. Nichts wurde importiert.</translation>
     </message>
 </context>
 <context>
@@ -24833,10 +24849,6 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
         <translation>Videos importiert</translation>
     </message>
     <message>
-        <source>“%1” holds no runs. Nothing was imported.</source>
-        <translation>„%1“ enthält keine Läufe. Nichts wurde importiert.</translation>
-    </message>
-    <message>
         <source>split file imported</source>
         <translation>Zwischenzeitdatei importiert</translation>
     </message>
@@ -24885,6 +24897,10 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
             <numerusform>%n Start ohne Zwischenzeit steht nicht in der Datei. Dieser Rechner bewahrt ihn und bietet ihn an, wenn die Datei hier wieder geöffnet wird.</numerusform>
             <numerusform>%n Starts ohne Zwischenzeit stehen nicht in der Datei. Dieser Rechner bewahrt sie und bietet sie an, wenn die Datei hier wieder geöffnet wird.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>%1 wird gelesen…</translation>
     </message>
 </context>
 <context>

@@ -520,6 +520,14 @@
         <source>drawing of the course</source>
         <translation>dibujo del recorrido</translation>
     </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Leyendo %1…</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Línea %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>RankingCharts</name>
@@ -9182,6 +9190,10 @@
         <source>“bow” or “body” was expected</source>
         <translation>se esperaba “bow” o “body”</translation>
     </message>
+    <message>
+        <source>The column &quot;{}&quot; is reckoned here: how the columns of the list are read decides what it holds.</source>
+        <translation>La columna «{}» se calcula aquí: lo que contiene depende de cómo se leen las columnas de la lista.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -11096,6 +11108,10 @@
     <message>
         <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;All files (*)</source>
         <translation>Listas (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>“%1” holds no runs. Nothing was imported.</source>
+        <translation>«%1» no contiene ninguna manga. No se ha importado nada.</translation>
     </message>
 </context>
 <context>
@@ -24833,10 +24849,6 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
         <translation>vídeos importados</translation>
     </message>
     <message>
-        <source>“%1” holds no runs. Nothing was imported.</source>
-        <translation>«%1» no contiene ninguna manga. No se ha importado nada.</translation>
-    </message>
-    <message>
         <source>split file imported</source>
         <translation>archivo de parciales importado</translation>
     </message>
@@ -24885,6 +24897,10 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
             <numerusform>%n salida sin parcial no se guarda en el archivo. Este ordenador la conserva y la ofrece cuando el archivo se vuelve a abrir aquí.</numerusform>
             <numerusform>%n salidas sin parcial no se guardan en el archivo. Este ordenador las conserva y las ofrece cuando el archivo se vuelve a abrir aquí.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Leyendo %1…</translation>
     </message>
 </context>
 <context>

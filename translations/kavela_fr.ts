@@ -520,6 +520,14 @@
         <source>drawing of the course</source>
         <translation>dessin du parcours</translation>
     </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Lecture de %1…</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Ligne %1&#x202f;: %2</translation>
+    </message>
 </context>
 <context>
     <name>RankingCharts</name>
@@ -9182,6 +9190,10 @@
         <source>“bow” or “body” was expected</source>
         <translation>“bow” ou “body” était attendu</translation>
     </message>
+    <message>
+        <source>The column &quot;{}&quot; is reckoned here: how the columns of the list are read decides what it holds.</source>
+        <translation>La colonne « {} » est calculée ici : ce qu’elle contient dépend de la façon dont les colonnes de la liste sont lues.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop</name>
@@ -11096,6 +11108,10 @@
     <message>
         <source>Lists (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;All files (*)</source>
         <translation>Listes (*.csv *.tsv *.txt *.xlsx *.ods *.kvx *.kvtable);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>“%1” holds no runs. Nothing was imported.</source>
+        <translation>«&#xa0;%1&#xa0;» ne contient aucune manche. Rien n’a été importé.</translation>
     </message>
 </context>
 <context>
@@ -24833,10 +24849,6 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
         <translation>vidéos importées</translation>
     </message>
     <message>
-        <source>“%1” holds no runs. Nothing was imported.</source>
-        <translation>«&#xa0;%1&#xa0;» ne contient aucune manche. Rien n’a été importé.</translation>
-    </message>
-    <message>
         <source>split file imported</source>
         <translation>fichier d’intermédiaires importé</translation>
     </message>
@@ -24885,6 +24897,10 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
             <numerusform>%n départ sans intermédiaire n’est pas écrit dans le fichier. Cet ordinateur le conserve et le propose à la réouverture du fichier ici.</numerusform>
             <numerusform>%n départs sans intermédiaire ne sont pas écrits dans le fichier. Cet ordinateur les conserve et les propose à la réouverture du fichier ici.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Lecture de %1…</translation>
     </message>
 </context>
 <context>
