@@ -10,6 +10,7 @@
 #include "desktop/taking/taking_window.h"
 #include "desktop/team/team_window.h"
 #include "desktop/tools.h"
+#include "desktop/watertests/tests_window.h"
 
 #include <gmock/gmock.h>
 
@@ -266,6 +267,29 @@ TEST_F(ReadingTest, WhatIsWrongWithAFileIsToldInTheSameWordsHoweverLongItTook) {
         EXPECT_EQ(m_recorder.alerts, atOnce);
         EXPECT_THAT(program.windows(), IsEmpty());
     }
+}
+
+TEST_F(ReadingTest, WhatIsTakenOverFromAFileIsReadBesideTheWindow) {
+    const QString race = pathText(m_folder.add("race.kvx", R"({"info": )"));
+    const QString recording = pathText(m_folder.add("recording.kvb", R"({"races": )"));
+    desktop::TeamWindow team(m_workspace, autosave());
+    desktop::TestsWindow tests(m_workspace, autosave());
+    team.startNew(pathText(m_folder.path() / "new.kvteam"));
+    tests.startNew(pathText(m_folder.path() / "new.kvtest"));
+    for (desktop::ToolWindow* const window :
+         {static_cast<desktop::ToolWindow*>(&team), static_cast<desktop::ToolWindow*>(&tests)}) {
+        window->setAttribute(Qt::WA_DeleteOnClose, false);
+        window->show();
+    }
+    {
+        const SlowReading slow;
+        team.takeOverFrom({race});
+        tests.takeIn({race, recording});
+        EXPECT_FALSE(team.isEnabled()) << "what it is taken over into would change meanwhile";
+        EXPECT_THAT(m_recorder.alerts, IsEmpty());
+    }
+    QTRY_COMPARE(m_recorder.alerts.size(), 3UL);
+    EXPECT_TRUE(team.isEnabled());
 }
 
 TEST_F(ReadingTest, RacesJoinTheWindowThatAskedForThemUnlessItHasClosed) {

@@ -8,10 +8,10 @@
 #include "desktop/selection/take_over_dialog.h"
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/splitfile/split_files_read.h"
 #include "results/messages.h"
 #include "results/selection_attach.h"
 #include "results/selection_import.h"
-#include "splitdata/loader.h"
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -159,20 +159,18 @@ void SelectionTakeOver::attachFiles(const QStringList& paths) {
         attachFiles(*race, paths);
 }
 
-/// The split files are read as they are: one of an older release is not rewritten from here.
 void SelectionTakeOver::attachFiles(std::size_t race, const QStringList& paths) {
-    std::vector<splittakerdata031> files;
-    for (const QString& path : paths) {
-        RecognisedSplitFile file =
-            recogniseSplitFile(path.toStdString(), m_workspace.log(), m_workspace.clock());
-        if (!file.version) {
-            WorkspaceAlerts alerts(m_workspace, &m_window);
-            reportIncompatible(file, m_workspace.log(), alerts);
-            return;
-        }
-        files.push_back(std::move(file.document));
-    }
-    lookAndEnter(paths.value(0), race, foundInSplitFiles(m_document.shown(), files));
+    readSplitFiles(m_reading, m_workspace, paths, &m_window,
+                   [this, race](std::vector<RecognisedSplitFile> read) {
+                       std::vector<splittakerdata031> files;
+                       for (RecognisedSplitFile& file : read) {
+                           if (!isSplitFile(file, m_workspace, &m_window))
+                               return;
+                           files.push_back(std::move(file.document));
+                       }
+                       lookAndEnter(qtText(read.front().path.string()), race,
+                                    foundInSplitFiles(m_document.shown(), files));
+                   });
 }
 
 /// Nothing is entered before it was seen, with what it replaces.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/shell/background_work.h"
 #include "results/selection_import.h"
 #include "results/selection_takeover.h"
 
@@ -55,6 +56,7 @@ private:
     SelectionEdits& m_edits;
     Workspace& m_workspace;
     QWidget& m_window;
+    BackgroundWork m_reading;
 };
 
 } // namespace kavela::desktop

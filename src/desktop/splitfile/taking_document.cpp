@@ -9,6 +9,7 @@
 #include "desktop/splitfile/film_places.h"
 #include "desktop/splitfile/film_runs.h"
 #include "desktop/splitfile/kept_work.h"
+#include "desktop/splitfile/split_files_read.h"
 #include "desktop/splitfile/taking_edits.h"
 #include "desktop/splitfile/taking_files.h"
 #include "desktop/splitfile/taking_reading.h"
@@ -281,17 +282,13 @@ int TakingDocument::addFilms(const QStringList& names) {
 }
 
 void TakingDocument::importSplitFiles(const QStringList& files, QWidget* over) {
-    m_imports.runAwaited(
-        [files, clock = workspace().clock()] {
-            return std::make_shared<ImportsRead>(readImports(files, clock));
-        },
-        [this, over = QPointer(over)](const std::shared_ptr<ImportsRead>& found) {
-            found->notes.tell(workspace(), over);
-            for (RecognisedSplitFile& file : found->files)
-                if (auto race = importedRace(std::move(file), value(), workspace(), over))
-                    put(tr("split file imported"), withRace(value(), std::move(*race)));
-        },
-        {}, {over, tr("Reading %1…").arg(QFileInfo(files.value(0)).fileName())});
+    readSplitFiles(m_imports, workspace(), files, over,
+                   [this, over = QPointer(over)](std::vector<RecognisedSplitFile> read) {
+                       for (RecognisedSplitFile& file : read)
+                           if (auto race =
+                                   importedRace(std::move(file), value(), workspace(), over))
+                               put(tr("split file imported"), withRace(value(), std::move(*race)));
+                   });
 }
 
 void TakingDocument::takeResults(const ResultsList& list, const std::vector<ResultOfRun>& runs) {

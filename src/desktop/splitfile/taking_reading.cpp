@@ -4,6 +4,7 @@
 #include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/splitfile/kept_work.h"
+#include "desktop/splitfile/split_files_read.h"
 #include "desktop/splitfile/taking_files.h"
 #include "splittaking/messages.h"
 
@@ -41,20 +42,12 @@ TakingRead readTaking(const QString& path, const Clock& clock) {
     return found;
 }
 
-ImportsRead readImports(const QStringList& files, const Clock& clock) {
-    ImportsRead found;
-    for (const QString& file : files)
-        found.files.push_back(recogniseSplitFile(file.toStdString(), found.notes.log(), clock));
-    return found;
-}
-
 void tellNotCurrent(const RecognisedSplitFile& read, const Workspace& workspace, QWidget* over) {
     if (read.version) {
         workspace.showAlert({"", messages::OlderVersion}, over);
         return;
     }
-    WorkspaceAlerts alerts(workspace, over);
-    reportIncompatible(read, workspace.log(), alerts);
+    (void)isSplitFile(read, workspace, over);
 }
 
 std::optional<TakingState> importedRace(RecognisedSplitFile read, const TakingState& into,

@@ -10,7 +10,6 @@
 
 #include <optional>
 #include <string>
-#include <vector>
 
 class QWidget;
 
@@ -34,17 +33,8 @@ struct TakingRead {
 /// Tells that a file is of an older release, or none of ours.
 void tellNotCurrent(const RecognisedSplitFile& read, const Workspace& workspace, QWidget* over);
 
-/// Split files whose runs are to be taken over.
-struct ImportsRead {
-    std::vector<RecognisedSplitFile> files; ///< in the order in which they were asked for
-    ReadingNotes notes;
-};
-
-/// Reads them; none is rewritten. For any thread.
-[[nodiscard]] ImportsRead readImports(const QStringList& files, const Clock& clock);
-
-/// What one of them has for a race; nothing, after a message, where it is of an older release, or
-/// has no runs for a race that has some.
+/// What another split file has for a race; nothing, after a message, where it is of an older
+/// release, or has no runs for a race that has some.
 [[nodiscard]] std::optional<TakingState> importedRace(RecognisedSplitFile read,
                                                       const TakingState& into,
                                                       const Workspace& workspace, QWidget* over);

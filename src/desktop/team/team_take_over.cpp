@@ -1,11 +1,12 @@
 #include "common/error.h"
 #include "common/text_file.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/splitfile/split_files_read.h"
 #include "desktop/team/athlete_panel.h"
 #include "desktop/team/results_view.h"
 #include "desktop/team/takeover/take_over_dialog.h"
 #include "desktop/team/team_window.h"
-#include "splitdata/loader.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -45,12 +46,18 @@ void TeamWindow::takeFiles(const QStringList& paths) {
 }
 
 void TeamWindow::takeOverFrom(const QStringList& paths) {
+    QStringList splitFiles;
     for (const QString& path : paths) {
         if (isList(path))
             takeOverList(path);
         else
-            takeOverSplitFile(path);
+            splitFiles.append(path);
     }
+    readSplitFiles(m_work, workspace(), splitFiles, this,
+                   [this](const std::vector<RecognisedSplitFile>& files) {
+                       for (const RecognisedSplitFile& file : files)
+                           takeOver(file);
+                   });
 }
 
 /// The list is one of the coach's own files, and may be anything.
@@ -80,21 +87,16 @@ void TeamWindow::takeOverList(const QString& path) {
     }
 }
 
-/// A file of an older release is read as it is and stays so.
-void TeamWindow::takeOverSplitFile(const QString& path) {
-    const RecognisedSplitFile file =
-        recogniseSplitFile(path.toStdString(), workspace().log(), workspace().clock());
-    if (!file.version) {
-        WorkspaceAlerts alerts(workspace(), this);
-        reportIncompatible(file, workspace().log(), alerts);
+void TeamWindow::takeOver(const RecognisedSplitFile& file) {
+    if (!isSplitFile(file, workspace(), this))
         return;
-    }
     FoundRace race = foundInSplitFile(file.document);
     if (race.results.empty()) {
-        workspace().showAlert(
-            {tr("“%1” cannot be taken over").arg(QFileInfo(path).fileName()).toStdString(),
-             tr("There are no runs in it.").toStdString()},
-            this);
+        workspace().showAlert({tr("“%1” cannot be taken over")
+                                   .arg(qtText(file.path.filename().string()))
+                                   .toStdString(),
+                               tr("There are no runs in it.").toStdString()},
+                              this);
         return;
     }
     TakeOverDialog dialog(m_document->value(), std::move(race), this);
@@ -106,7 +108,7 @@ void TeamWindow::apply(TakeOverDialog& dialog) {
         return;
     std::optional<TakenPlace> first;
     m_document->edit(tr("results taken over"), [&](myTeamToSaveStruct& team) {
-        first = takeOver(team, dialog.planned(), dialog.name());
+        first = desktop::takeOver(team, dialog.planned(), dialog.name());
     });
     if (!first)
         return;

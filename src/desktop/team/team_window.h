@@ -7,6 +7,10 @@
 #include <memory>
 #include <string>
 
+namespace kavela {
+struct RecognisedSplitFile;
+}
+
 namespace kavela::desktop {
 
 class AthletePanel;
@@ -75,7 +79,7 @@ private:
     void tell(const std::string& text);
     void tellChartNotSaved(const QString& path, const QString& reason);
     void takeOverList(const QString& path);
-    void takeOverSplitFile(const QString& path);
+    void takeOver(const RecognisedSplitFile& file);
     void apply(TakeOverDialog& dialog);
 
     /// Whose season, from which team.

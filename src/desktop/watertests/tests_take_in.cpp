@@ -1,10 +1,11 @@
 #include "boatmotion/session_files.h"
 #include "common/json_decode.h"
+#include "desktop/shell/qt_text.h"
 #include "desktop/shell/workspace.h"
+#include "desktop/splitfile/split_files_read.h"
 #include "desktop/watertests/take_recording_dialog.h"
 #include "desktop/watertests/take_run_dialog.h"
 #include "desktop/watertests/tests_window.h"
-#include "splitdata/loader.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -20,7 +21,7 @@ bool hasSuffix(const QString& path, const char* suffix) {
 
 /// A recording of version 4 is brought to the present one in memory. Throws FileError and
 /// DecodeError.
-bmrawdata_v5 readRecording(const QString& path) {
+bmrawdata_v5 rawRecording(const QString& path) {
     const JsonDocument json = JsonDocument::fromFile(path.toStdString());
     bmrawdata_v4 old;
     Fault fault;
@@ -56,40 +57,53 @@ void TestsWindow::takeFiles(const QStringList& paths) {
 void TestsWindow::takeIn(const QStringList& paths) {
     if (!commit())
         return;
+    QStringList splitFiles;
     for (const QString& path : paths) {
         if (hasSuffix(path, "kvb"))
-            takeInRecording(path);
+            readRecording(path);
         else
-            takeInSplitFile(path);
+            splitFiles.append(path);
     }
+    readSplitFiles(m_takingIn, workspace(), splitFiles, this,
+                   [this](std::vector<RecognisedSplitFile> files) {
+                       for (RecognisedSplitFile& file : files)
+                           takeIn(std::move(file));
+                   });
 }
 
-/// A file of an older release is read as it is and stays so.
-void TestsWindow::takeInSplitFile(const QString& path) {
-    RecognisedSplitFile file =
-        recogniseSplitFile(path.toStdString(), workspace().log(), workspace().clock());
-    if (!file.version) {
-        WorkspaceAlerts alerts(workspace(), this);
-        reportIncompatible(file, workspace().log(), alerts);
+void TestsWindow::takeIn(RecognisedSplitFile file) {
+    if (!isSplitFile(file, workspace(), this))
         return;
-    }
+    const QFileInfo info(qtText(file.path.string()));
     if (file.document.athletes.empty()) {
-        tell(tr("“%1” cannot be taken in").arg(QFileInfo(path).fileName()),
-             tr("There are no runs in it."));
+        tell(tr("“%1” cannot be taken in").arg(info.fileName()), tr("There are no runs in it."));
         return;
     }
-    TakeRunDialog dialog(std::move(file.document), QFileInfo(path).absolutePath().toStdString(),
-                         this);
+    TakeRunDialog dialog(std::move(file.document), info.absolutePath().toStdString(), this);
     if (dialog.exec() == QDialog::Accepted)
         addAndChoose(tr("tests taken in"), dialog.tests());
 }
 
-void TestsWindow::takeInRecording(const QString& path) {
+/// A recording may be large.
+void TestsWindow::readRecording(const QString& path) {
+    OtherEnds otherwise;
+    otherwise.failed = [this, path](const std::exception_ptr& fault) { tellNotTaken(path, fault); };
+    const QString name = QFileInfo(path).fileName();
+    m_takingIn.runAwaited([path] { return rawRecording(path); },
+                          [this](bmrawdata_v5 recording) { takeIn(std::move(recording)); },
+                          std::move(otherwise), {this, ToolWindow::tr("Reading %1…").arg(name)});
+}
+
+void TestsWindow::takeIn(bmrawdata_v5 recording) {
+    TakeRecordingDialog dialog(std::move(recording), chosenAthlete(), this);
+    if (dialog.exec() == QDialog::Accepted)
+        addAndChoose(tr("test taken in"), {dialog.test()});
+}
+
+void TestsWindow::tellNotTaken(const QString& path, const std::exception_ptr& fault) {
     const QString title = tr("“%1” cannot be taken in").arg(QFileInfo(path).fileName());
     try {
-        TakeRecordingDialog dialog(readRecording(path), chosenAthlete(), this);
-        if (dialog.exec() == QDialog::Accepted)
-            addAndChoose(tr("test taken in"), {dialog.test()});
+        std::rethrow_exception(fault);
     } catch (const FileError& error) {
         tell(title, QString::fromStdString(error.reason()));
     } catch (const DecodeError& error) {

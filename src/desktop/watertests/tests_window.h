@@ -1,12 +1,19 @@
 #pragma once
 
+#include "boatmotion/sessions.h"
+#include "desktop/shell/background_work.h"
 #include "desktop/shell/tool_window.h"
 #include "desktop/watertests/result_columns.h"
 #include "desktop/watertests/tests_document.h"
 
+#include <exception>
 #include <memory>
 
 class QTabWidget;
+
+namespace kavela {
+struct RecognisedSplitFile;
+}
 
 namespace kavela::desktop {
 
@@ -64,13 +71,16 @@ private:
     void showTests();
     void showTable();
     void tell(const QString& title, const QString& text);
-    void takeInSplitFile(const QString& path);
-    void takeInRecording(const QString& path);
+    void takeIn(RecognisedSplitFile file);
+    void readRecording(const QString& path);
+    void takeIn(bmrawdata_v5 recording);
+    void tellNotTaken(const QString& path, const std::exception_ptr& fault);
     void addAndChoose(const QString& what, std::vector<TestsDocument::Content> tests);
     [[nodiscard]] std::string chosenAthlete() const;
     [[nodiscard]] QString ownFolder() const;
 
     std::unique_ptr<TestsDocument> m_document;
+    BackgroundWork m_takingIn;
     TestListPanel* m_list = nullptr;
     QTabWidget* m_pages = nullptr;
     ChartView* m_charts = nullptr;
