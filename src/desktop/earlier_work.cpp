@@ -167,6 +167,27 @@ void EarlierWork::recover(const Autosave::Label& found) const {
         m_program.openAll({found.path});
     } else if (!m_program.raiseEditorOf(found.path)) {
         m_program.openNew(*tool, found.path);
+        closeWherePutOff(found.path);
+    }
+}
+
+/// What was never saved has no file to show: without the work its window would stand there empty.
+/// On a slow disk the answer comes after the window.
+void EarlierWork::closeWherePutOff(const QString& path) const {
+    for (ToolWindow* const window : m_program.windows()) {
+        EditedFile* const file = window->file();
+        if (!file || !isSameFile(file->path(), path))
+            continue;
+        const auto close = [this, window, file, path] {
+            if (!m_workspace.isPutOff(path) || file->isDirty())
+                return;
+            if (m_program.windows().size() == 1)
+                m_program.showHome(); // which lists it; the last window's closing leaves the program
+            window->close();
+        };
+        QObject::connect(file, &EditedFile::changed, window, close);
+        close();
+        return;
     }
 }
 

@@ -35,6 +35,7 @@ public:
 
 private:
     void recover(const Autosave::Label& found) const;
+    void closeWherePutOff(const QString& path) const;
 
     Desktop& m_program;
     Workspace& m_workspace;

@@ -91,7 +91,9 @@ TEST_F(ChangedElsewhereTest, IsToldAtOnceAndOpenedAgain) {
     for (const char* there : {"Harbour", "Lake"}) { // also the file that took its place is watched
         writeElsewhere(there);
         ASSERT_TRUE(QTest::qWaitFor([this] { return isTold(); }));
-        EXPECT_THAT(m_note->findChild<QLabel*>()->text().toStdString(), HasSubstr("trials.kvsr"));
+        const auto* const words = m_note->findChild<QLabel*>();
+        EXPECT_THAT(words->text().toStdString(), HasSubstr("trials.kvsr"));
+        EXPECT_GT(words->width(), m_note->width() / 3) << "in sight, not only told";
         EXPECT_EQ(race(), there == std::string("Lake") ? "Harbour" : "Riverside");
         openAgain();
         EXPECT_EQ(race(), there);

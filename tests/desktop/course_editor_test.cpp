@@ -3,6 +3,7 @@
 #include "common/recorders.h"
 #include "common/temp_folder.h"
 #include "desktop/race_fixture.h"
+#include "desktop/shell/key_overlay.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/taking/taking_window.h"
 
@@ -97,6 +98,18 @@ protected:
                           [] { return ReferenceDate{7e8}; }};
     std::unique_ptr<CourseEditor> m_editor;
 };
+
+TEST_F(CourseEditorTest, ShowsItsKeysLikeEveryWindow) {
+    const CourseEditor& editor = edit(fourGates());
+    press(Qt::Key_Question);
+    QStringList told;
+    for (const auto* const overlay : editor.findChildren<desktop::KeyOverlay*>())
+        for (const QLabel* const label : overlay->findChildren<QLabel*>())
+            if (label->isVisible())
+                told << label->text();
+    for (const char* const key : {"Tab", "PgDown", "Ins", "Ctrl+Z", "?"})
+        EXPECT_TRUE(told.contains(key)) << key;
+}
 
 TEST_F(CourseEditorTest, GatesCountUpFillGapsAndEndWithTheRace) {
     edit(fourGates());

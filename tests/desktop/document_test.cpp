@@ -105,6 +105,7 @@ TEST_F(DocumentTest, LeavesAWayOutWhereItCannotBeSaved) {
     EXPECT_EQ(readTextFile(file("elsewhere.txt")), "1\n");
     EXPECT_THAT(told, HasSubstr("a.txt: "));
     EXPECT_THAT(told, HasSubstr("kept apart, and offered"));
+    EXPECT_THAT(told, HasSubstr('\n' + file("gone").string() + '\n'));
     EXPECT_EQ(ways, (QStringList{"Try again", "Save as…", "Later"}));
 
     document.startAt(pathText(file("gone") / "b.txt"));

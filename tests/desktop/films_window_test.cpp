@@ -28,6 +28,7 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <unistd.h>
@@ -443,9 +444,16 @@ TEST_F(FilmsWindowTest, CutsBetweenTheEndsThatWereSetInEitherOrder) {
     FilmsWindow& window = open();
     ASSERT_TRUE(comesTo(pathOf("a.mp4"), 0));
     EXPECT_FALSE(window.cutting().canCut());
+    QSignalSpy refused(&window.cutting(), &FilmCutting::refused);
+    QTest::keyClick(&window, Qt::Key_X);
+    ASSERT_EQ(refused.size(), 1);
+    EXPECT_THAT(refused.back().front().toString().toStdString(), HasSubstr("the ends of the cut"));
     window.stage().deck().seek(1.2);
     ASSERT_TRUE(comesTo(pathOf("a.mp4"), 60));
     window.tags().setCutFirst();
+    QTest::keyClick(&window, Qt::Key_X, Qt::ShiftModifier);
+    ASSERT_EQ(refused.size(), 2);
+    EXPECT_THAT(refused.back().front().toString().toStdString(), HasSubstr("no end yet"));
     window.stage().deck().seek(0.4);
     ASSERT_TRUE(comesTo(pathOf("a.mp4"), 20));
     window.tags().setCutLast();

@@ -6,6 +6,8 @@
 #include "desktop/cross/heats/place_grid.h"
 #include "desktop/desktop.h"
 #include "desktop/shell/theme.h"
+#include "desktop/shell/tile.h"
+#include "desktop/shell/tile_columns.h"
 #include "desktop/shell/tool_window.h"
 #include "desktop/taking/gate_strip.h"
 #include "desktop/taking/split_bar.h"
@@ -20,6 +22,9 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTest>
@@ -149,6 +154,31 @@ TEST_P(FontSizesTest, CutNoTextOfAToolThatBegins) {
         EXPECT_EQ(cutPartsOf(*window).join('\n'), "") << tool.kind.toStdString();
         window->hide();
     }
+}
+
+/// A page that scrolls sideways hides what nobody looks for.
+TEST_P(FontSizesTest, FoldTheColumnsOfTheHomeScreenWhereTheWindowIsNarrow) {
+    desktop::Desktop program(m_workspace, m_kept);
+    program.showHome();
+    auto* const home = qobject_cast<QMainWindow*>(program.front());
+    ASSERT_TRUE(home);
+    const auto* const area = qobject_cast<QScrollArea*>(home->centralWidget());
+    const auto* const tiles = home->findChild<desktop::TileColumns*>();
+    ASSERT_TRUE(area && tiles);
+    int before = 5;
+    for (const int width : {1280, 800, 500}) {
+        if (width == 500 && GetParam() > 10)
+            break; // less than the buttons of its header
+        home->resize(width, 800);
+        QApplication::processEvents();
+        QApplication::processEvents(); // the bar that scrolls down has come or gone
+        EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << width;
+        EXPECT_LE(tiles->columns(), before) << width;
+        before = tiles->columns();
+        for (const QAbstractButton* const tile : tiles->findChildren<desktop::Tile*>())
+            EXPECT_TRUE(tiles->rect().contains(tile->geometry())) << width;
+    }
+    EXPECT_LT(before, 3);
 }
 
 /// What is painted: no layout asks how much room its letters need.

@@ -121,5 +121,30 @@ TEST_F(SlitWindowTest, UndoTakesBackLinesRefusalsAndMarksInTheirOrder) {
     EXPECT_EQ(window.line()->fromLeft, !isTurned);
 }
 
+TEST_F(SlitWindowTest, UndoTakesNudgesOfALineBackAtOnceAndNothingElseWithThem) {
+    SlitWindow& window = openWithRace();
+    auto& overlay = window.stage().overlay();
+    const double drawn = window.line()->x1;
+    const auto nudge = [&](int times) {
+        for (int i = 0; i < times; ++i)
+            QTest::keyClick(&overlay, Qt::Key_Right);
+    };
+    nudge(3);
+    ASSERT_EQ(window.line()->x1, drawn + 3);
+    window.turnArrow();
+    nudge(2);
+    window.undoStep();
+    EXPECT_EQ(window.line()->x1, drawn + 3);
+    nudge(2);
+    window.undoStep();
+    EXPECT_EQ(window.line()->x1, drawn + 3) << "what was nudged after a step back";
+    window.undoStep();
+    window.undoStep();
+    ASSERT_TRUE(window.line());
+    EXPECT_EQ(window.line()->x1, drawn);
+    window.redoStep();
+    EXPECT_EQ(window.line()->x1, drawn + 3);
+}
+
 } // namespace
 } // namespace kavela::test

@@ -1,6 +1,7 @@
 #include "common/json_encode.h"
 #include "desktop/film/film_stage.h"
 #include "desktop/notes_fixture.h"
+#include "desktop/refusals.h"
 #include "desktop/saving.h"
 #include "desktop/taking/split_mode.h"
 #include "splittaking/annotations/time_losses.h"
@@ -12,6 +13,8 @@
 namespace kavela::test {
 namespace {
 
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
 /// What a coach types and selects stays with the run it was meant for.
@@ -65,6 +68,18 @@ TEST_F(TakingCareTest, TakesWhatIsTypedBeforeTheRunsChangePlaces) {
     m_window->undo();
     EXPECT_EQ(crew(1), "Nova");
     EXPECT_EQ(m_window->currentRun(), 0);
+}
+
+TEST_F(TakingCareTest, StaysAtTheRunWhoseTimeIsRefusedInEveryPart) {
+    ASSERT_NO_FATAL_FAILURE(open(timedRace(), false));
+    auto& runs = table("runs");
+    type("realTime", "9x");
+    QTest::mouseClick(runs.viewport(), Qt::LeftButton, {},
+                      runs.visualRect(runs.cellAt(1, 0)).center());
+    EXPECT_THAT(refusalIn(*m_window), HasSubstr("9x"));
+    EXPECT_EQ(m_window->currentRun(), 0);
+    EXPECT_EQ(runs.currentPlace(), 0);
+    EXPECT_THAT(runs.selectedPlaces(), ElementsAre(0)) << "what is marked is what is shown";
 }
 
 TEST_F(TakingCareTest, KeepsTheRunInFrontThatWasCorrectedInTheList) {

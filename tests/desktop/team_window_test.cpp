@@ -214,6 +214,23 @@ TEST_F(TeamWindowTest, RefusesWhatIsNoResult) {
     EXPECT_FALSE(window->document().isDirty());
 }
 
+TEST_F(TeamWindowTest, LeavesNoAthleteWithACellThatIsRefused) {
+    const auto window = openWindow();
+    ASSERT_TRUE(window);
+    auto& view = window->results();
+    auto& athletes = window->findChild<desktop::AthletePanel*>()->table();
+    const int before = athletes.currentPlace();
+    view.choose({0, 0}, 0);
+    view.runs().setCurrentIndex(view.runs().model()->index(0, desktop::PhaseModel::TimeColumn));
+    view.runs().setFocus();
+    keys(*window, "92x");
+    QTest::mouseClick(athletes.viewport(), Qt::LeftButton, {},
+                      athletes.visualRect(athletes.cellAt(1 - before, 0)).center());
+    EXPECT_THAT(refusalIn(*window), HasSubstr("“92x”"));
+    EXPECT_EQ(athletes.currentPlace(), before);
+    EXPECT_THAT(athletes.selectedPlaces(), ElementsAre(before));
+}
+
 TEST(TypedValues, AreReadAsCoachesWriteThem) {
     using namespace desktop;
     EXPECT_EQ(typedTime(" 92,34 "), 92.34);

@@ -78,6 +78,18 @@ protected:
     QString m_film;
 };
 
+TEST_F(TrackingWindowTest, JumpsThroughTheFilmByTheKeysOfEveryFilm) {
+    TrackingWindow& window = openFilm();
+    QTest::keyClick(&window, Qt::Key_PageDown); // the film is shorter
+    EXPECT_TRUE(isAt(window, SceneFrames - 1));
+    QTest::keyClick(&window, Qt::Key_PageUp);
+    EXPECT_TRUE(isAt(window, 0));
+    QTest::keyClick(&window, Qt::Key_End);
+    EXPECT_TRUE(isAt(window, SceneFrames - 1));
+    QTest::keyClick(&window, Qt::Key_Home);
+    EXPECT_TRUE(isAt(window, 0));
+}
+
 TEST_F(TrackingWindowTest, FollowsADrawnBoxUntilItIsLostAndUndoesIt) {
     TrackingWindow& window = openFilm();
     drawBoat(window, 0);

@@ -18,6 +18,7 @@
 #include <QMenuBar>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QTableView>
 #include <QTest>
 #include <QVBoxLayout>
@@ -277,6 +278,27 @@ TEST_F(CellsTest, KeepWhatTheyCannotTakeWithTheCursorInIt) {
     press(Qt::Key_Return);
     EXPECT_EQ(timeOf(0), 825);
     EXPECT_EQ(m_window.document().undoStack().count(), before + 1) << "one step, not two";
+}
+
+TEST_F(CellsTest, AreTakenBeforeATabShowsOthersAndHoldItWhereTheyCannotBe) {
+    m_window.addCategory("WK1");
+    auto& tabs = *m_window.findChild<QTabBar*>("categories");
+    tabs.setCurrentIndex(0);
+    m_table->setFocus();
+    m_table->setCurrentIndex(cell(0));
+    press("82x5");
+    const auto clickTab = [&](int tab) {
+        QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(tab).center());
+    };
+    clickTab(1);
+    EXPECT_THAT(refusalIn(m_window), HasSubstr("“82x5”"));
+    EXPECT_EQ(tabs.currentIndex(), 0);
+    ASSERT_TRUE(editor());
+    EXPECT_EQ(editor()->text(), "82x5");
+    editor()->setText("82.5");
+    clickTab(1);
+    EXPECT_EQ(tabs.currentIndex(), 1);
+    EXPECT_EQ(timeOf(0), 82.5);
 }
 
 TEST_F(CellsTest, AreNotSavedOverAndEscBringsTheOldValueBack) {

@@ -240,7 +240,7 @@ void LineOverlay::keyPressEvent(QKeyEvent* event) {
     moveEnd(way);
     if (m_current < m_lines.size()) {
         const slitline001 line = m_lines[m_current];
-        emit lineDrawn(m_current, {line.x1, line.y1}, {line.x2, line.y2});
+        emit lineNudged(m_current, {line.x1, line.y1}, {line.x2, line.y2});
     }
 }
 

@@ -32,8 +32,9 @@ public:
 
 signals:
     void lineChosen(std::size_t line);
-    /// Ends were dragged or moved by keys; behind the last line for a new one.
+    /// Ends were dragged; behind the last line for a new one.
     void lineDrawn(std::size_t line, const QPointF& first, const QPointF& second);
+    void lineNudged(std::size_t line, const QPointF& first, const QPointF& second); ///< by a key
     void boatDrawn(const QRectF& box); ///< in pixels of the film
     void left();                       ///< Esc: the keys are the window's again
 

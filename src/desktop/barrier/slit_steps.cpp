@@ -3,12 +3,19 @@
 #include "desktop/barrier/slit_keeping.h"
 #include "desktop/barrier/slit_race.h"
 
+#include <QScopedValueRollback>
 #include <QUndoStack>
 
 #include <algorithm>
 #include <utility>
 
 namespace kavela::desktop {
+
+namespace {
+
+constexpr qint64 NudgePause = 1000; ///< milliseconds, after which a nudge is a step of its own
+
+} // namespace
 
 SlitSteps::SlitSteps(SlitKeeping& keeping, SlitRace& race) : m_keeping(keeping), m_race(race) {
     connect(&keeping, &SlitKeeping::edited, this, &SlitSteps::remember);
@@ -43,9 +50,23 @@ int SlitSteps::raceSteps() const {
     return m_race.isThere() ? m_race.document()->undoStack().index() : 0;
 }
 
+void SlitSteps::nudging(std::size_t line, const std::function<void()>& edit) {
+    const QScopedValueRollback<std::optional<std::size_t>> nudging(m_nudging, line);
+    edit();
+}
+
+bool SlitSteps::goesOnNudging() const {
+    return m_nudging && m_nudgedLast.isValid() && m_nudgedLast.elapsed() < NudgePause &&
+           !m_done.empty() && m_done.back().nudged == m_nudging &&
+           m_done.back().raceSteps == raceSteps();
+}
+
 void SlitSteps::remember(const slitfile002& before) {
-    m_done.push_back({before, raceSteps()});
+    if (!goesOnNudging())
+        m_done.push_back({before, raceSteps(), m_nudging});
     m_undone.clear();
+    if (m_nudging)
+        m_nudgedLast.start();
 }
 
 void SlitSteps::forget() {
@@ -70,9 +91,10 @@ void SlitSteps::followRace() {
 }
 
 void SlitSteps::exchange(std::vector<LineStep>& from, std::vector<LineStep>& to) {
+    m_nudgedLast.invalidate(); // what is nudged now is nudged from here
     LineStep step = std::move(from.back());
     from.pop_back();
-    to.push_back({m_keeping.file(), raceSteps()});
+    to.push_back({m_keeping.file(), raceSteps(), step.nudged});
     m_keeping.putBack(std::move(step.file));
 }
 

@@ -2,8 +2,12 @@
 
 #include "vision/slit_file.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 
+#include <cstddef>
+#include <functional>
+#include <optional>
 #include <vector>
 
 namespace kavela::desktop {
@@ -27,11 +31,16 @@ public:
     void undo();
     void redo();
 
+    /// While `edit` runs, what is edited is a nudge of that line. Nudges of one line without a pause
+    /// between them, as of a key that is held, are taken back at once.
+    void nudging(std::size_t line, const std::function<void()>& edit);
+
 private:
     /// The lines as they were, and how many steps of the race were taken then.
     struct LineStep {
         slitfile002 file;
         int raceSteps = 0;
+        std::optional<std::size_t> nudged = {}; ///< the line that was nudged; null for another edit
     };
 
     [[nodiscard]] int raceSteps() const;
@@ -39,10 +48,13 @@ private:
     void forget();
     void followSteps(int raceSteps);
     void followRace();
+    [[nodiscard]] bool goesOnNudging() const;
     void exchange(std::vector<LineStep>& from, std::vector<LineStep>& to);
 
     SlitKeeping& m_keeping;
     SlitRace& m_race;
+    std::optional<std::size_t> m_nudging;
+    QElapsedTimer m_nudgedLast; ///< not valid after a step back
     std::vector<LineStep> m_done;   ///< the latest last
     std::vector<LineStep> m_undone; ///< the one to be done again first last
 };

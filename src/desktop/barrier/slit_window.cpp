@@ -82,6 +82,10 @@ void SlitWindow::connectLines() {
     connect(&m_keeping, &SlitKeeping::failed, this, &SlitWindow::tell);
     connect(&overlay(), &LineOverlay::lineChosen, this, &SlitWindow::chooseLine);
     connect(&overlay(), &LineOverlay::lineDrawn, this, &SlitWindow::drawn);
+    connect(&overlay(), &LineOverlay::lineNudged, this,
+            [this](std::size_t line, const QPointF& first, const QPointF& second) {
+                m_steps.nudging(line, [&] { drawn(line, first, second); });
+            });
     connect(&overlay(), &LineOverlay::boatDrawn, this, [this](const QRectF& box) {
         overlay().setTool(LineOverlay::Tool::None);
         m_marking.setBoat(box);

@@ -409,8 +409,11 @@ QString CompareWindow::proposedTarget() const {
 }
 
 void CompareWindow::askAndCompose() {
-    if (!commit() || m_document->value().films.size() < 2)
+    if (!commit())
         return;
+    if (m_document->value().films.size() < 2)
+        return tell(tr("Two runs or films make a comparison: drop them here, or add them with "
+                       "Ctrl+Shift+O and Ctrl+I."));
     QFileDialog dialog(this, tr("Compose the film"), ownFolder(), tr("Films (*.mp4)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix("mp4");

@@ -2,6 +2,7 @@
 
 #include "desktop/course/course_part_form.h"
 #include "desktop/shell/growth.h"
+#include "desktop/shell/key_overlay.h"
 #include "desktop/shell/theme.h"
 #include "desktop/shell/typing.h"
 #include "desktop/shell/workspace.h"
@@ -184,7 +185,39 @@ void CourseEditor::makeKeys() {
     undo->setShortcuts(QKeySequence::Undo);
     auto* const redo = m_steps.createRedoAction(this);
     redo->setShortcuts(QKeySequence::Redo);
-    addActions({undo, redo});
+    auto* const keys = new QAction(tr("All keys"), this);
+    keys->setShortcut(Qt::Key_Question);
+    connect(keys, &QAction::triggered, this, &CourseEditor::showKeys);
+    addActions({undo, redo, keys});
+}
+
+void CourseEditor::showKeys() {
+    const auto named = [](QKeyCombination key) {
+        return QKeySequence(key).toString(QKeySequence::NativeText);
+    };
+    const ShownKeys parts{
+        tr("Parts of the course"),
+        {{named(Qt::Key_Tab), tr("Next part")},
+         {QString::fromUtf8("← → ↑ ↓"), tr("Move the part")},
+         {QString::fromUtf8("Shift+← → ↑ ↓"), tr("Move it far")},
+         {QString::fromUtf8("Alt+← →"), tr("Turn it")},
+         {named(Qt::Key_PageDown), tr("Its next point")},
+         {named(Qt::Key_PageUp), tr("Its previous point")},
+         {named(Qt::Key_Insert), tr("A new part in the middle")},
+         {named(Qt::Key_Delete), tr("Remove the part")},
+         {named(Qt::Key_Escape), tr("Leave the part alone")}}};
+    const ShownKeys rest{
+        tr("View and steps"),
+        {{QStringLiteral("+"), tr("Closer")},
+         {QString::fromUtf8("−"), tr("Further away")},
+         {QStringLiteral("0"), tr("The whole course")},
+         {named(Qt::Key_Space), tr("Held, dragging moves the view")},
+         {QKeySequence(QKeySequence::Undo).toString(QKeySequence::NativeText), tr("Undo")},
+         {QKeySequence(QKeySequence::Redo).toString(QKeySequence::NativeText), tr("Redo")},
+         {QStringLiteral("?"), tr("All keys")}}};
+    auto* const overlay = new KeyOverlay(*this, {parts, rest}, this);
+    overlay->setAttribute(Qt::WA_DeleteOnClose);
+    overlay->open();
 }
 
 void CourseEditor::setTool(CourseTool tool) {

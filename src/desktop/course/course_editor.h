@@ -64,6 +64,7 @@ private:
     [[nodiscard]] QWidget* makeTools();
     [[nodiscard]] QWidget* makeGround();
     void makeKeys();
+    void showKeys();
     void put(const QString& what, const CourseDraft& draft, bool byKey);
     void putText(const coursepoint001& at);
     void showSelected();

@@ -90,20 +90,18 @@ void PlayMenu::addSteps(QMenu& menu) {
         [this] { m_deck.step(-1); });
     add(m_window, menu, tr("One frame forward"), {Qt::Key_Right, Qt::Key_Period},
         [this] { m_deck.step(1); });
-    struct Jump {
-        QString text;
-        QKeyCombination key;
-        double seconds;
-    };
-    for (const Jump& jump : {Jump{tr("One second back"), Qt::SHIFT | Qt::Key_Left, -1},
-                             Jump{tr("One second forward"), Qt::SHIFT | Qt::Key_Right, 1},
-                             Jump{tr("Ten seconds back"), Qt::Key_PageUp, -10},
-                             Jump{tr("Ten seconds forward"), Qt::Key_PageDown, 10}})
-        add(m_window, menu, jump.text, {jump.key},
-            [this, seconds = jump.seconds] { m_deck.jump(seconds); });
-    add(m_window, menu, tr("To the beginning"), {Qt::Key_Home},
-        [this] { m_deck.seek(m_deck.start()); });
-    add(m_window, menu, tr("To the end"), {Qt::Key_End}, [this] { m_deck.seek(m_deck.end()); });
+    add(m_window, menu, tr("One second back"), {Qt::SHIFT | Qt::Key_Left},
+        [this] { m_deck.jump(-1); });
+    add(m_window, menu, tr("One second forward"), {Qt::SHIFT | Qt::Key_Right},
+        [this] { m_deck.jump(1); });
+    addJumps(m_window, menu, m_deck);
+}
+
+void PlayMenu::addJumps(QMainWindow& window, QMenu& menu, FilmDeck& deck) {
+    add(window, menu, tr("Ten seconds back"), {Qt::Key_PageUp}, [&deck] { deck.jump(-10); });
+    add(window, menu, tr("Ten seconds forward"), {Qt::Key_PageDown}, [&deck] { deck.jump(10); });
+    add(window, menu, tr("To the beginning"), {Qt::Key_Home}, [&deck] { deck.seek(deck.start()); });
+    add(window, menu, tr("To the end"), {Qt::Key_End}, [&deck] { deck.seek(deck.end()); });
 }
 
 } // namespace kavela::desktop

@@ -49,9 +49,22 @@ QString FilmCutting::proposedTarget() const {
     return target;
 }
 
+/// What is to be done before anything can be cut; empty where nothing is.
+QString FilmCutting::missingEnds() const {
+    if (m_ends.cutFirst() && m_ends.cutLast())
+        return {};
+    if (m_ends.cutFirst())
+        return tr("The cut has no end yet: O sets it at this frame.");
+    if (m_ends.cutLast())
+        return tr("The cut has no beginning yet: I sets it at this frame.");
+    return tr("Set the ends of the cut first: I where it begins, O where it ends.");
+}
+
 void FilmCutting::askAndCut(Way way) {
-    if (!canCut())
+    if (const QString missing = missingEnds(); !missing.isEmpty()) {
+        emit refused(missing);
         return;
+    }
     // No file is ever replaced: the dialog does not have to ask.
     const QString target = QFileDialog::getSaveFileName(
         &m_window, tr("Cut into a new film"), proposedTarget(), tr("Films (*.mp4 *.mov *.m4v)"),

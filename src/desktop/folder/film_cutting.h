@@ -28,7 +28,7 @@ public:
     [[nodiscard]] bool canCut() const;
     /// A name beside the film that is free: "Ann Heats cut.mp4".
     [[nodiscard]] QString proposedTarget() const;
-    /// Asks for a name and cuts.
+    /// Asks for a name and cuts; what is missing for that is told by refused().
     void askAndCut(Way way);
     /// Cuts into a file; where its name is taken into "NAME 2". Faults are told.
     void cut(Way way, const QString& target);
@@ -36,8 +36,11 @@ public:
 signals:
     /// The name that the piece got.
     void done(const QString& target);
+    void refused(const QString& why);
 
 private:
+    [[nodiscard]] QString missingEnds() const;
+
     Workspace& m_workspace;
     TagMode& m_ends;
     QWidget& m_window;

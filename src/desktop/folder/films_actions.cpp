@@ -161,14 +161,11 @@ void FilmsActions::makeCutMenu() {
         [window] { window->tags().clearCut(); },
         [window] { return window->tags().cutFirst() || window->tags().cutLast(); });
     menu->addSeparator();
-    add(
-        *menu, tr("Cut by &copying…"), Qt::Key_X,
-        [window] { window->cutting().askAndCut(Way::Copy); },
-        [window] { return window->cutting().canCut(); });
-    add(
-        *menu, tr("Cut e&xactly…"), QKeySequence(Qt::SHIFT | Qt::Key_X),
-        [window] { window->cutting().askAndCut(Way::Exact); },
-        [window] { return window->cutting().canCut(); });
+    // Also without ends, to say that they are missing.
+    add(*menu, tr("Cut by &copying…"), Qt::Key_X,
+        [window] { window->cutting().askAndCut(Way::Copy); });
+    add(*menu, tr("Cut e&xactly…"), QKeySequence(Qt::SHIFT | Qt::Key_X),
+        [window] { window->cutting().askAndCut(Way::Exact); });
 }
 
 /// Every film, to be found by a few letters among the commands.

@@ -120,6 +120,7 @@ void FilmsWindow::connectParts() {
     connect(&m_shelf, &FilmShelf::failed, this, [this](const QString& message) {
         workspace().showAlert({"", message.toStdString()}, this);
     });
+    connect(m_cutting, &FilmCutting::refused, m_stage, &FilmStage::refuse);
     connect(m_cutting, &FilmCutting::done, this, [this](const QString& target) {
         m_stage->flash(tr("Cut"));
         statusBar()->showMessage(tr("Cut into %1").arg(QDir::toNativeSeparators(target)));

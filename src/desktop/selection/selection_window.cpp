@@ -7,6 +7,7 @@
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/tables/table_text.h"
 #include "desktop/shell/theme.h"
+#include "desktop/shell/typing.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 #include "desktop/why/why_popup.h"
@@ -162,6 +163,7 @@ QWidget* SelectionWindow::makeBar() {
     m_categories->setDocumentMode(true);
     m_categories->setDrawBase(false); // white on dark
     m_categories->setExpanding(false);
+    takeTypingBeforePresses(*m_categories);
     m_categories->setAccessibleName(tr("Categories"));
     m_bonus = new QComboBox;
     m_bonus->setObjectName("bonus");

@@ -4,7 +4,7 @@
 #include "desktop/shell/growth.h"
 #include "desktop/shell/help_menu.h"
 #include "desktop/shell/theme.h"
-#include "desktop/shell/tile.h"
+#include "desktop/shell/tile_columns.h"
 #include "desktop/shell/window_place.h"
 #include "desktop/shell/workspace.h"
 
@@ -12,7 +12,6 @@
 #include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -21,16 +20,10 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
-#include <algorithm>
-#include <cstddef>
-#include <span>
-
 namespace kavela::desktop {
 
 namespace {
 
-constexpr std::size_t ColumnsOfRecent = 2;
-constexpr int RowsOfRecent = 2;
 constexpr int LeastRecentHeight = 96; ///< some lines, also where the page scrolls
 
 QLabel* label(const QString& text, const QFont& font) {
@@ -53,7 +46,7 @@ HomeWindow::HomeWindow(Workspace& workspace, const Tools& tools) : m_workspace(w
     m_column->setSpacing(theme::LargeSpacing);
     m_column->addWidget(header());
     m_column->addWidget(keptWork());
-    m_column->addWidget(tiles(tools));
+    m_column->addWidget(new TileColumns(tools, recentFiles()));
     m_column->addStretch(1);
     auto* area = new QScrollArea;
     area->setWidgetResizable(true);
@@ -92,6 +85,7 @@ QWidget* HomeWindow::header() {
     words->addWidget(label("Kavela", theme::headlineFont(*this)));
     auto* line = label(tr("Where was the time won and lost, and why?"), theme::titleFont(*this));
     line->setForegroundRole(QPalette::PlaceholderText);
+    line->setWordWrap(true); // beside the buttons, whatever the letters
     words->addWidget(line);
     row->addLayout(words, 1);
 
@@ -103,44 +97,6 @@ QWidget* HomeWindow::header() {
     connect(open, &QPushButton::clicked, this, &HomeWindow::chooseFile);
     row->addWidget(sample, 0, Qt::AlignTop);
     row->addWidget(open, 0, Qt::AlignTop);
-    return box;
-}
-
-/// A column for each group, and the recent files below the last two of them, which have room.
-QWidget* HomeWindow::tiles(const Tools& tools) {
-    auto* box = new QWidget;
-    auto* grid = new QGridLayout(box);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(theme::LargeSpacing);
-    grid->setVerticalSpacing(theme::Spacing);
-    const int columns = static_cast<int>(tools.size());
-    std::size_t below = 0; ///< the tools of the longer one of these columns
-    for (const ToolGroup& group : std::span(tools).last(std::min(tools.size(), ColumnsOfRecent)))
-        below = std::max(below, group.tools.size());
-    std::size_t rows = 0;
-    for (const ToolGroup& group : tools)
-        rows = std::max(rows, group.tools.size());
-    const int free = static_cast<int>(below) + 1;
-    // First, so that Tab comes to them before it goes through all tools.
-    grid->addWidget(recentFiles(), free, std::max(0, columns - static_cast<int>(ColumnsOfRecent)),
-                    std::max(RowsOfRecent, static_cast<int>(rows) + 1 - free),
-                    static_cast<int>(ColumnsOfRecent));
-    QStringList purposes;
-    for (const ToolGroup& group : tools)
-        for (const Tool& tool : group.tools)
-            purposes.append(tool.purpose);
-    const int lines = Tile::linesFor(purposes, *this);
-    int column = 0;
-    for (const ToolGroup& group : tools) {
-        auto* const heading = label(group.title, theme::titleFont(*this));
-        heading->setForegroundRole(QPalette::PlaceholderText);
-        grid->addWidget(heading, 0, column);
-        int row = 1;
-        for (const Tool& tool : group.tools)
-            grid->addWidget(new Tile(tool, lines), row++, column);
-        ++column;
-    }
-    grid->setColumnStretch(column, 1);
     return box;
 }
 

@@ -48,7 +48,6 @@ protected:
 private:
     void makeMenus();
     [[nodiscard]] QWidget* header();
-    [[nodiscard]] QWidget* tiles(const Tools& tools);
     [[nodiscard]] QWidget* recentFiles();
     [[nodiscard]] QWidget* keptWork();
     void showRecentFiles();

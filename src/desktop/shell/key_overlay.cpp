@@ -21,18 +21,6 @@ namespace kavela::desktop {
 
 namespace {
 
-/// A key and what it does.
-struct Line {
-    QString key;
-    QString title;
-};
-
-/// Lines under a title.
-struct Group {
-    QString title;
-    QList<Line> lines;
-};
-
 /// A text and the number at its end; none where it ends with none.
 std::pair<QString, std::optional<int>> numbered(const QString& text) {
     qsizetype end = text.size();
@@ -51,9 +39,9 @@ bool isCountedOn(const QString& text, const QString& from, qsizetype steps) {
 }
 
 /// Keys that differ in nothing but a number are one line: "1 … 9", "To split 1 … 9".
-QList<Line> gathered(const QList<Line>& lines) {
+QList<ShownKey> gathered(const QList<ShownKey>& lines) {
     constexpr qsizetype Fewest = 3;
-    QList<Line> gathered;
+    QList<ShownKey> gathered;
     for (qsizetype i = 0; i < lines.size();) {
         qsizetype end = i + 1;
         while (end < lines.size() && isCountedOn(lines[end].key, lines[i].key, end - i) &&
@@ -61,7 +49,7 @@ QList<Line> gathered(const QList<Line>& lines) {
             ++end;
         if (end - i < Fewest)
             end = i + 1;
-        Line line = lines[i];
+        ShownKey line = lines[i];
         if (end - i > 1) {
             line.key += QStringLiteral(" … ") + lines[end - 1].key;
             line.title += QStringLiteral(" … %1").arg(*numbered(lines[end - 1].title).second);
@@ -72,10 +60,10 @@ QList<Line> gathered(const QList<Line>& lines) {
     return gathered;
 }
 
-QList<Group> groupsOf(const QMainWindow& window) {
-    QList<Group> groups;
+QList<ShownKeys> groupsOf(const QMainWindow& window) {
+    QList<ShownKeys> groups;
     for (const KeyGroup& group : keyGroups(window)) {
-        QList<Line> lines;
+        QList<ShownKey> lines;
         for (const ListedKey& listed : group.keys)
             lines.append({listed.action->shortcut().toString(QKeySequence::NativeText),
                           plainTitle(listed.action->text())});
@@ -85,15 +73,15 @@ QList<Group> groupsOf(const QMainWindow& window) {
 }
 
 /// The groups of each column, in their order, in as low columns as so many of them allow.
-QList<QList<Group>> packed(const QList<Group>& groups, qsizetype columns) {
+QList<QList<ShownKeys>> packed(const QList<ShownKeys>& groups, qsizetype columns) {
     constexpr qsizetype TitleLines = 2; // with the gap above it
     for (qsizetype height = 1;; ++height) {
-        QList<QList<Group>> tried;
+        QList<QList<ShownKeys>> tried;
         qsizetype used = height;
-        for (const Group& group : groups) {
-            const qsizetype lines = group.lines.size() + TitleLines;
+        for (const ShownKeys& group : groups) {
+            const qsizetype lines = group.keys.size() + TitleLines;
             if (tried.isEmpty() || used + lines > height) {
-                tried.append(QList<Group>());
+                tried.append(QList<ShownKeys>());
                 used = 0;
             }
             tried.back().append(group);
@@ -104,7 +92,7 @@ QList<QList<Group>> packed(const QList<Group>& groups, qsizetype columns) {
     }
 }
 
-QWidget* boxOf(const Group& group, const QWidget& like) {
+QWidget* boxOf(const ShownKeys& group, const QWidget& like) {
     auto* box = new QWidget;
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -114,7 +102,7 @@ QWidget* boxOf(const Group& group, const QWidget& like) {
     title->setFont(theme::titleFont(like));
     grid->addWidget(title, 0, 0, 1, 2);
     int row = 1;
-    for (const Line& line : group.lines) {
+    for (const ShownKey& line : group.keys) {
         auto* key = new QLabel(line.key);
         QFont bold = key->font();
         bold.setBold(true);
@@ -127,16 +115,16 @@ QWidget* boxOf(const Group& group, const QWidget& like) {
 }
 
 /// As many columns as fit beside each other on the screen.
-QWidget* columnsOf(const QList<Group>& groups, const QWidget& like, int width) {
+QWidget* columnsOf(const QList<ShownKeys>& groups, const QWidget& like, int width) {
     for (qsizetype count = groups.size();; --count) {
         auto whole = std::make_unique<QWidget>();
         auto* row = new QHBoxLayout(whole.get());
         row->setContentsMargins(0, 0, 0, 0);
         row->setSpacing(theme::PageMargin);
-        for (const QList<Group>& column : packed(groups, count)) {
+        for (const QList<ShownKeys>& column : packed(groups, count)) {
             auto* stack = new QVBoxLayout;
             stack->setSpacing(theme::LargeSpacing);
-            for (const Group& group : column)
+            for (const ShownKeys& group : column)
                 stack->addWidget(boxOf(group, like));
             stack->addStretch(1);
             row->addLayout(stack);
@@ -149,11 +137,14 @@ QWidget* columnsOf(const QList<Group>& groups, const QWidget& like, int width) {
 } // namespace
 
 KeyOverlay::KeyOverlay(const QMainWindow& window, QWidget* parent)
+    : KeyOverlay(window, groupsOf(window), parent) {}
+
+KeyOverlay::KeyOverlay(const QWidget& window, const QList<ShownKeys>& groups, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), m_area(new QScrollArea) {
     setWindowTitle(tr("All keys"));
     const QSize free = freeArea(window).size();
     const int margins = 2 * theme::PageMargin + 2 * theme::Spacing;
-    QWidget* const keys = columnsOf(groupsOf(window), *this, free.width() - margins);
+    QWidget* const keys = columnsOf(groups, *this, free.width() - margins);
     keys->layout()->setContentsMargins(theme::PageMargin, theme::PageMargin, theme::PageMargin,
                                        theme::PageMargin);
     m_area->setFrameShape(QFrame::NoFrame);

@@ -223,9 +223,10 @@ bool isRefused(const QWidget& field) {
     return mark && mark->stands();
 }
 
-bool showRefusedEntry(const QWidget& window) {
+bool showRefusedEntry(const QWidget& window, const QWidget* besides) {
     for (QWidget* const child : window.findChildren<QWidget*>())
-        if (auto* const mark = dynamic_cast<RefusalMark*>(child); mark && mark->stands()) {
+        if (auto* const mark = dynamic_cast<RefusalMark*>(child);
+            mark && mark->stands() && !(besides && besides->isAncestorOf(mark))) {
             uncover(mark->field());
             mark->bringBack();
             return true;

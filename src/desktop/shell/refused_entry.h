@@ -21,7 +21,8 @@ void acceptEntry(QWidget& field);
 [[nodiscard]] bool isRefused(const QWidget& field);
 
 /// Brings the cursor back into the field of `window` that holds something refused, and says why
-/// once more. False where there is none, so that what was asked for may go on.
-bool showRefusedEntry(const QWidget& window);
+/// once more. False where there is none, so that what was asked for may go on; a field inside
+/// `besides` does not count.
+bool showRefusedEntry(const QWidget& window, const QWidget* besides = nullptr);
 
 } // namespace kavela::desktop

@@ -62,9 +62,11 @@ FailureAnswer askAboutFailure(const FileWriting& writing, bool isKept, const Wor
             ? EditedFile::tr("Your work is kept apart, and offered when the file is opened again.")
             : EditedFile::tr("Your work is in this window alone: it could not be kept apart "
                              "either.");
-    const QString text =
-        QStringLiteral("%1: %2.\n\n%3")
-            .arg(QFileInfo(writing.path).fileName(), QString::fromStdString(reason), comfort);
+    // The folder tells which of several disks it is.
+    const QFileInfo file(writing.path);
+    const QString text = QStringLiteral("%1: %2.\n%3\n\n%4")
+                             .arg(file.fileName(), QString::fromStdString(reason),
+                                  QDir::toNativeSeparators(file.absolutePath()), comfort);
     enum Way { TryAgain, SaveAs, Later };
     const int way =
         workspace.chooseWay({writing.failure, text.toStdString()},

@@ -116,7 +116,9 @@ void ToolWindow::makeNote() {
     m_noteText = new QLabel;
     m_noteText->setTextFormat(Qt::PlainText);
     m_noteText->setMargin(theme::SmallSpacing);
-    m_noteText->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // as wide as it is
+    // As wide as the bar leaves it, however long: the window does not grow by what is said in it.
+    m_noteText->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    m_noteText->setMinimumWidth(1);
     m_note = new QToolBar;
     m_note->setObjectName("fileNote");
     m_note->setMovable(false);

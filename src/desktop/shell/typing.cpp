@@ -53,6 +53,29 @@ void takeLine(QLineEdit& line) {
         field->selectAll();
 }
 
+/// A part that takes the focus has it by the time of the press, and the field has lost it.
+class PressGuard : public QObject {
+public:
+    explicit PressGuard(QWidget& part) : QObject(&part), m_part(part) {
+        part.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* /*object*/, QEvent* event) override {
+        const bool isPress = event->type() == QEvent::MouseButtonPress ||
+                             event->type() == QEvent::MouseButtonDblClick;
+        if (!isPress)
+            return false;
+        const QWidget* const window = m_part.window();
+        const QWidget* const focus = QApplication::focusWidget();
+        const bool isTypedElsewhere = focus && qobject_cast<const QLineEdit*>(focus) &&
+                                      window->isAncestorOf(focus) && !m_part.isAncestorOf(focus);
+        return (isTypedElsewhere && !takeTyping(*window)) || showRefusedEntry(*window, &m_part);
+    }
+
+private:
+    QWidget& m_part;
+};
+
 } // namespace
 
 bool endTyping() {
@@ -92,6 +115,10 @@ bool takeTyping(const QWidget& window) {
     if (place)
         place->setFocus();
     return true;
+}
+
+void takeTypingBeforePresses(QWidget& part) {
+    new PressGuard(part);
 }
 
 bool stepNumber(int step) {

@@ -17,6 +17,11 @@ void endTypingIn(const QWidget& part);
 /// table. False, with the cursor in the field, where one holds what cannot be taken.
 [[nodiscard]] bool takeTyping(const QWidget& window);
 
+/// For a part that shows something else in the fields of its window: a press on it takes what is
+/// typed in them first, and does not reach the part where that is refused. The text would else be
+/// gone with what it was typed for. Fields inside the part do not count.
+void takeTypingBeforePresses(QWidget& part);
+
 /// Steps the number that is being edited; false where none is.
 bool stepNumber(int step);
 

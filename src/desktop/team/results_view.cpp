@@ -3,6 +3,7 @@
 #include "desktop/shell/growth.h"
 #include "desktop/shell/tables/column_table.h"
 #include "desktop/shell/theme.h"
+#include "desktop/shell/typing.h"
 #include "desktop/team/event_delegate.h"
 #include "desktop/team/season_tree.h"
 #include "desktop/team/team_document.h"
@@ -64,6 +65,7 @@ QWidget* ResultsView::makeHeading() {
     m_categories->setDrawBase(false);
     m_categories->setExpanding(false);
     m_categories->setFocusPolicy(Qt::TabFocus);
+    takeTypingBeforePresses(*m_categories);
     connect(m_categories, &QTabBar::currentChanged, this, [this](int tab) {
         if (!m_isFilling && tab >= 0)
             showCategory(m_categories->tabText(tab).toStdString());
@@ -80,6 +82,7 @@ void ResultsView::makeTree() {
     m_tree = new SeasonTree;
     m_tree->setObjectName("seasons");
     m_tree->setModel(&m_seasons);
+    takeTypingBeforePresses(*m_tree->viewport());
     connect(&m_seasons, &SeasonModel::refused, new EventDelegate(*m_tree), &CellDelegate::refuse);
     m_tree->setEditTriggers(EditKeys);
     m_tree->setUniformRowHeights(true);

@@ -5,6 +5,7 @@
 #include "desktop/film/film_deck.h"
 #include "desktop/film/film_memory.h"
 #include "desktop/film/film_view.h"
+#include "desktop/film/play_menu.h"
 #include "desktop/shell/background_work.h"
 #include "desktop/shell/disk_worker.h"
 #include "desktop/shell/shown_number.h"
@@ -114,6 +115,7 @@ void TrackingWindow::makeMenus() {
                     [this] { m_deck->step(-1); });
     play->addAction(tr("One frame &on"), QKeySequence(Qt::Key_Period), this,
                     [this] { m_deck->step(1); });
+    PlayMenu::addJumps(*this, *play, *m_deck);
     QMenu* const path = menuBar()->addMenu(tr("P&ath"));
     path->addAction(tr("Propose a &box"), QKeySequence(Qt::Key_B), this,
                     [this] { m_overlay->proposeBox(); });

@@ -10,6 +10,7 @@
 #include "desktop/shell/tables/sorted_rows.h"
 #include "desktop/shell/tables/table_text.h"
 #include "desktop/shell/theme.h"
+#include "desktop/shell/typing.h"
 #include "desktop/shell/workspace.h"
 
 #include <QAction>
@@ -93,6 +94,7 @@ ColumnTable::ColumnTable(RowModel& rows, const char* name, QWidget* parent)
     verticalHeader()->setVisible(rows.hasRowTitles());
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + theme::Spacing);
     makeHeader();
+    takeTypingBeforePresses(*viewport());
     connect(&rows, &RowModel::refused, this, &ColumnTable::refuse);
     connect(&rows, &RowModel::followed, this, &ColumnTable::followRows);
     connect(&rows, &RowModel::columnsChanged, m_columns, &KeptColumns::follow);
