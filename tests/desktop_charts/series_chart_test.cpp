@@ -79,6 +79,26 @@ TEST_F(SeriesChartTest, GivesTheVisibleRangeOfTheVisibleSeries) {
     EXPECT_EQ(m_chart.csv(), "Date;Daily;Sleep\n2026-03-12;54;8\n");
 }
 
+TEST_F(SeriesChartTest, LeavesNamesOutThatHaveNoRoomAtAll) {
+    static QStringList warnings;
+    warnings.clear();
+    ChartContent races = heartContent();
+    races.across = ChartContent::Across::Category;
+    races.categories = {"WC1\nTacen", "WC2\nPraha", "WC3\nPau"};
+    races.series = {{"Final", {{0, 1}, {1, 3}, {2, 2}}}};
+    m_chart.show(races);
+    const QtMessageHandler before =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
+            warnings.append(text);
+        });
+    for (const int width : {20, 60, 80, 100, 140}) {
+        m_chart.plot().resize(width, 200);
+        m_chart.plot().replot();
+    }
+    qInstallMessageHandler(before);
+    EXPECT_EQ(warnings.join('\n').toStdString(), "");
+}
+
 TEST_F(SeriesChartTest, TellsWhatStandsAtTheCursorAndLinksCharts) {
     QSignalSpy hovered(&m_chart, &SeriesChart::hoveredAt);
     QSignalSpy ended(&m_chart, &SeriesChart::hoverEnded);

@@ -91,6 +91,7 @@ private:
         QStringList lines = m_names.value(static_cast<qsizetype>(tick)).split('\n');
         for (QString& line : lines)
             line = metrics.elidedText(line, Qt::ElideRight, static_cast<int>(room));
+        lines.removeAll(QString()); // the plot paints nothing but lines into a picture of no width
         return lines.join('\n');
     }
 
