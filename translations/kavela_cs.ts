@@ -1202,6 +1202,13 @@
     </message>
 </context>
 <context>
+    <name>ToolWindow</name>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Čte se %1…</translation>
+    </message>
+</context>
+<context>
     <name>TrialMarking</name>
     <message>
         <source>Add the first athlete above</source>
@@ -12572,6 +12579,10 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
         <source>Click the same two things in both films, such as the poles of a gate. Escape gives it up.</source>
         <translation>Klikněte v obou filmech na tytéž dvě věci, třeba na tyče branky. Escape to zruší.</translation>
     </message>
+    <message>
+        <source>Two runs or films make a comparison: drop them here, or add them with Ctrl+Shift+O and Ctrl+I.</source>
+        <translation>K porovnání jsou třeba dvě jízdy nebo filmy: přetáhněte je sem, nebo je přidejte pomocí Ctrl+Shift+O a Ctrl+I.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::ComparisonPanel</name>
@@ -12950,6 +12961,78 @@ Stiskněte Insert a přidejte ho, nebo importujte seznam.</translation>
     <message>
         <source>It has %1 MB. Up to 40 MB can be read; save it smaller first.</source>
         <translation>Má %1 MB. Přečíst lze nejvýše 40 MB; uložte jej nejdřív menší.</translation>
+    </message>
+    <message>
+        <source>All keys</source>
+        <translation>Všechny klávesy</translation>
+    </message>
+    <message>
+        <source>Parts of the course</source>
+        <translation>Části trati</translation>
+    </message>
+    <message>
+        <source>Next part</source>
+        <translation>Další část</translation>
+    </message>
+    <message>
+        <source>Move the part</source>
+        <translation>Posunout část</translation>
+    </message>
+    <message>
+        <source>Move it far</source>
+        <translation>Posunout ji daleko</translation>
+    </message>
+    <message>
+        <source>Turn it</source>
+        <translation>Otočit ji</translation>
+    </message>
+    <message>
+        <source>Its next point</source>
+        <translation>Její další bod</translation>
+    </message>
+    <message>
+        <source>Its previous point</source>
+        <translation>Její předchozí bod</translation>
+    </message>
+    <message>
+        <source>A new part in the middle</source>
+        <translation>Nová část doprostřed</translation>
+    </message>
+    <message>
+        <source>Remove the part</source>
+        <translation>Odebrat část</translation>
+    </message>
+    <message>
+        <source>Leave the part alone</source>
+        <translation>Nechat část být</translation>
+    </message>
+    <message>
+        <source>View and steps</source>
+        <translation>Pohled a kroky</translation>
+    </message>
+    <message>
+        <source>Closer</source>
+        <translation>Blíž</translation>
+    </message>
+    <message>
+        <source>Further away</source>
+        <translation>Dál</translation>
+    </message>
+    <message>
+        <source>The whole course</source>
+        <translation>Celá trať</translation>
+    </message>
+    <message>
+        <source>Held, dragging moves the view</source>
+        <translation>Při držení se tažením posouvá pohled</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Zpět</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Znovu</translation>
     </message>
 </context>
 <context>
@@ -14804,6 +14887,18 @@ Klonění %8° (+ dovnitř), kolébání %9° (+ špička nahoru)</translation>
     <message>
         <source>The film could not be cut</source>
         <translation>Film nelze vystřihnout</translation>
+    </message>
+    <message>
+        <source>The cut has no end yet: O sets it at this frame.</source>
+        <translation>Výřez ještě nemá konec: O ho nastaví na tento snímek.</translation>
+    </message>
+    <message>
+        <source>The cut has no beginning yet: I sets it at this frame.</source>
+        <translation>Výřez ještě nemá začátek: I ho nastaví na tento snímek.</translation>
+    </message>
+    <message>
+        <source>Set the ends of the cut first: I where it begins, O where it ends.</source>
+        <translation>Nejdřív nastavte konce výřezu: I, kde začíná, O, kde končí.</translation>
     </message>
 </context>
 <context>
@@ -19735,6 +19830,10 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
     <message>
         <source>%1 gates, %2 upstream</source>
         <translation>branek: %1, protivodných: %2</translation>
+    </message>
+    <message>
+        <source>“%1” is not there. It was looked for in %2, and may have been moved or renamed.</source>
+        <translation>„%1“ tam není. Hledal se v %2 a mohl být přesunut nebo přejmenován.</translation>
     </message>
 </context>
 <context>
@@ -24988,10 +25087,6 @@ Místo, odstup a procenta jsou i zde jako jinde.</translation>
             <numerusform>%n starty bez mezičasu se do souboru neukládají. Uchová je tento počítač a nabídne je, až se zde soubor znovu otevře.</numerusform>
             <numerusform>%n startů bez mezičasu se do souboru neukládá. Uchová je tento počítač a nabídne je, až se zde soubor znovu otevře.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Reading %1…</source>
-        <translation>Čte se %1…</translation>
     </message>
 </context>
 <context>

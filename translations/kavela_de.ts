@@ -1200,6 +1200,13 @@
     </message>
 </context>
 <context>
+    <name>ToolWindow</name>
+    <message>
+        <source>Reading %1…</source>
+        <translation>%1 wird gelesen…</translation>
+    </message>
+</context>
+<context>
     <name>TrialMarking</name>
     <message>
         <source>Add the first athlete above</source>
@@ -12512,6 +12519,10 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
         <source>Click the same two things in both films, such as the poles of a gate. Escape gives it up.</source>
         <translation>In beiden Filmen auf dieselben zwei Dinge klicken, etwa die Torstäbe. Escape bricht ab.</translation>
     </message>
+    <message>
+        <source>Two runs or films make a comparison: drop them here, or add them with Ctrl+Shift+O and Ctrl+I.</source>
+        <translation>Zum Vergleichen braucht es zwei Läufe oder Filme: hier ablegen oder mit Strg+Umschalt+O und Strg+I hinzufügen.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::ComparisonPanel</name>
@@ -12890,6 +12901,78 @@ Einfg fügt eine hinzu, oder eine Liste importieren.</translation>
     <message>
         <source>It has %1 MB. Up to 40 MB can be read; save it smaller first.</source>
         <translation>Es hat %1 MB. Bis zu 40 MB können gelesen werden; speichern Sie es zuerst kleiner.</translation>
+    </message>
+    <message>
+        <source>All keys</source>
+        <translation>Alle Tasten</translation>
+    </message>
+    <message>
+        <source>Parts of the course</source>
+        <translation>Teile der Strecke</translation>
+    </message>
+    <message>
+        <source>Next part</source>
+        <translation>Nächster Teil</translation>
+    </message>
+    <message>
+        <source>Move the part</source>
+        <translation>Den Teil verschieben</translation>
+    </message>
+    <message>
+        <source>Move it far</source>
+        <translation>Ihn weit verschieben</translation>
+    </message>
+    <message>
+        <source>Turn it</source>
+        <translation>Ihn drehen</translation>
+    </message>
+    <message>
+        <source>Its next point</source>
+        <translation>Sein nächster Punkt</translation>
+    </message>
+    <message>
+        <source>Its previous point</source>
+        <translation>Sein voriger Punkt</translation>
+    </message>
+    <message>
+        <source>A new part in the middle</source>
+        <translation>Ein neuer Teil in der Mitte</translation>
+    </message>
+    <message>
+        <source>Remove the part</source>
+        <translation>Den Teil entfernen</translation>
+    </message>
+    <message>
+        <source>Leave the part alone</source>
+        <translation>Den Teil lassen</translation>
+    </message>
+    <message>
+        <source>View and steps</source>
+        <translation>Ansicht und Schritte</translation>
+    </message>
+    <message>
+        <source>Closer</source>
+        <translation>Näher</translation>
+    </message>
+    <message>
+        <source>Further away</source>
+        <translation>Weiter weg</translation>
+    </message>
+    <message>
+        <source>The whole course</source>
+        <translation>Die ganze Strecke</translation>
+    </message>
+    <message>
+        <source>Held, dragging moves the view</source>
+        <translation>Gehalten verschiebt Ziehen die Ansicht</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederherstellen</translation>
     </message>
 </context>
 <context>
@@ -14738,6 +14821,18 @@ Rollen %8° (+ innen), Stampfen %9° (+ Bug hoch)</translation>
     <message>
         <source>The film could not be cut</source>
         <translation>Der Film ließ sich nicht schneiden</translation>
+    </message>
+    <message>
+        <source>The cut has no end yet: O sets it at this frame.</source>
+        <translation>Der Schnitt hat noch kein Ende: O setzt es auf dieses Bild.</translation>
+    </message>
+    <message>
+        <source>The cut has no beginning yet: I sets it at this frame.</source>
+        <translation>Der Schnitt hat noch keinen Anfang: I setzt ihn auf dieses Bild.</translation>
+    </message>
+    <message>
+        <source>Set the ends of the cut first: I where it begins, O where it ends.</source>
+        <translation>Zuerst die Enden des Schnitts setzen: I, wo er beginnt, O, wo er endet.</translation>
     </message>
 </context>
 <context>
@@ -19660,6 +19755,10 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
     <message>
         <source>%1 gates, %2 upstream</source>
         <translation>%1 Tore, davon %2 aufwärts</translation>
+    </message>
+    <message>
+        <source>“%1” is not there. It was looked for in %2, and may have been moved or renamed.</source>
+        <translation>„%1“ ist nicht da. Gesucht wurde in %2; vielleicht wurde die Datei verschoben oder umbenannt.</translation>
     </message>
 </context>
 <context>
@@ -24897,10 +24996,6 @@ Platz, Rückstand und Prozent stehen da wie bei jedem anderen.</translation>
             <numerusform>%n Start ohne Zwischenzeit steht nicht in der Datei. Dieser Rechner bewahrt ihn und bietet ihn an, wenn die Datei hier wieder geöffnet wird.</numerusform>
             <numerusform>%n Starts ohne Zwischenzeit stehen nicht in der Datei. Dieser Rechner bewahrt sie und bietet sie an, wenn die Datei hier wieder geöffnet wird.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Reading %1…</source>
-        <translation>%1 wird gelesen…</translation>
     </message>
 </context>
 <context>

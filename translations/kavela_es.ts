@@ -1200,6 +1200,13 @@
     </message>
 </context>
 <context>
+    <name>ToolWindow</name>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Leyendo %1…</translation>
+    </message>
+</context>
+<context>
     <name>TrialMarking</name>
     <message>
         <source>Add the first athlete above</source>
@@ -12512,6 +12519,10 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
         <source>Click the same two things in both films, such as the poles of a gate. Escape gives it up.</source>
         <translation>Haga clic en las mismas dos cosas en ambos vídeos, como los palos de una puerta. Escape lo cancela.</translation>
     </message>
+    <message>
+        <source>Two runs or films make a comparison: drop them here, or add them with Ctrl+Shift+O and Ctrl+I.</source>
+        <translation>Para comparar hacen falta dos mangas o vídeos: suéltalos aquí o añádelos con Ctrl+Mayús+O y Ctrl+I.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::ComparisonPanel</name>
@@ -12890,6 +12901,78 @@ Pulsa Insert para añadir una, o importa una lista.</translation>
     <message>
         <source>It has %1 MB. Up to 40 MB can be read; save it smaller first.</source>
         <translation>Tiene %1 MB. Se pueden leer hasta 40 MB; guárdala antes más pequeña.</translation>
+    </message>
+    <message>
+        <source>All keys</source>
+        <translation>Todas las teclas</translation>
+    </message>
+    <message>
+        <source>Parts of the course</source>
+        <translation>Partes del recorrido</translation>
+    </message>
+    <message>
+        <source>Next part</source>
+        <translation>Parte siguiente</translation>
+    </message>
+    <message>
+        <source>Move the part</source>
+        <translation>Mover la parte</translation>
+    </message>
+    <message>
+        <source>Move it far</source>
+        <translation>Moverla lejos</translation>
+    </message>
+    <message>
+        <source>Turn it</source>
+        <translation>Girarla</translation>
+    </message>
+    <message>
+        <source>Its next point</source>
+        <translation>Su punto siguiente</translation>
+    </message>
+    <message>
+        <source>Its previous point</source>
+        <translation>Su punto anterior</translation>
+    </message>
+    <message>
+        <source>A new part in the middle</source>
+        <translation>Una parte nueva en el medio</translation>
+    </message>
+    <message>
+        <source>Remove the part</source>
+        <translation>Quitar la parte</translation>
+    </message>
+    <message>
+        <source>Leave the part alone</source>
+        <translation>Dejar la parte</translation>
+    </message>
+    <message>
+        <source>View and steps</source>
+        <translation>Vista y pasos</translation>
+    </message>
+    <message>
+        <source>Closer</source>
+        <translation>Más cerca</translation>
+    </message>
+    <message>
+        <source>Further away</source>
+        <translation>Más lejos</translation>
+    </message>
+    <message>
+        <source>The whole course</source>
+        <translation>El recorrido entero</translation>
+    </message>
+    <message>
+        <source>Held, dragging moves the view</source>
+        <translation>Pulsada, arrastrar mueve la vista</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
     </message>
 </context>
 <context>
@@ -14738,6 +14821,18 @@ Balanceo %8° (+ hacia dentro), cabeceo %9° (+ proa arriba)</translation>
     <message>
         <source>The film could not be cut</source>
         <translation>No se pudo cortar el vídeo</translation>
+    </message>
+    <message>
+        <source>The cut has no end yet: O sets it at this frame.</source>
+        <translation>El corte aún no tiene final: O lo pone en este fotograma.</translation>
+    </message>
+    <message>
+        <source>The cut has no beginning yet: I sets it at this frame.</source>
+        <translation>El corte aún no tiene principio: I lo pone en este fotograma.</translation>
+    </message>
+    <message>
+        <source>Set the ends of the cut first: I where it begins, O where it ends.</source>
+        <translation>Marca primero los extremos del corte: I donde empieza, O donde termina.</translation>
     </message>
 </context>
 <context>
@@ -19660,6 +19755,10 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
     <message>
         <source>%1 gates, %2 upstream</source>
         <translation>%1 puertas, %2 remontes</translation>
+    </message>
+    <message>
+        <source>“%1” is not there. It was looked for in %2, and may have been moved or renamed.</source>
+        <translation>«%1» no está. Se buscó en %2; puede que se haya movido o cambiado de nombre.</translation>
     </message>
 </context>
 <context>
@@ -24897,10 +24996,6 @@ El puesto, la diferencia y el porcentaje están como en cualquier otro.</transla
             <numerusform>%n salida sin parcial no se guarda en el archivo. Este ordenador la conserva y la ofrece cuando el archivo se vuelve a abrir aquí.</numerusform>
             <numerusform>%n salidas sin parcial no se guardan en el archivo. Este ordenador las conserva y las ofrece cuando el archivo se vuelve a abrir aquí.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Reading %1…</source>
-        <translation>Leyendo %1…</translation>
     </message>
 </context>
 <context>

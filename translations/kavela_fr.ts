@@ -1200,6 +1200,13 @@
     </message>
 </context>
 <context>
+    <name>ToolWindow</name>
+    <message>
+        <source>Reading %1…</source>
+        <translation>Lecture de %1…</translation>
+    </message>
+</context>
+<context>
     <name>TrialMarking</name>
     <message>
         <source>Add the first athlete above</source>
@@ -12512,6 +12519,10 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
         <source>Click the same two things in both films, such as the poles of a gate. Escape gives it up.</source>
         <translation>Cliquez les deux mêmes choses dans les deux films, par exemple les fiches d’une porte. Échap abandonne.</translation>
     </message>
+    <message>
+        <source>Two runs or films make a comparison: drop them here, or add them with Ctrl+Shift+O and Ctrl+I.</source>
+        <translation>Il faut deux manches ou films pour comparer : déposez-les ici, ou ajoutez-les avec Ctrl+Maj+O et Ctrl+I.</translation>
+    </message>
 </context>
 <context>
     <name>kavela::desktop::ComparisonPanel</name>
@@ -12890,6 +12901,78 @@ Appuyez sur Inser pour en ajouter une, ou importez une liste.</translation>
     <message>
         <source>It has %1 MB. Up to 40 MB can be read; save it smaller first.</source>
         <translation>Elle fait %1 Mo. On peut en lire jusqu’à 40 Mo&#x202f;; enregistrez-la d’abord plus petite.</translation>
+    </message>
+    <message>
+        <source>All keys</source>
+        <translation>Toutes les touches</translation>
+    </message>
+    <message>
+        <source>Parts of the course</source>
+        <translation>Parties du parcours</translation>
+    </message>
+    <message>
+        <source>Next part</source>
+        <translation>Partie suivante</translation>
+    </message>
+    <message>
+        <source>Move the part</source>
+        <translation>Déplacer la partie</translation>
+    </message>
+    <message>
+        <source>Move it far</source>
+        <translation>La déplacer loin</translation>
+    </message>
+    <message>
+        <source>Turn it</source>
+        <translation>La tourner</translation>
+    </message>
+    <message>
+        <source>Its next point</source>
+        <translation>Son point suivant</translation>
+    </message>
+    <message>
+        <source>Its previous point</source>
+        <translation>Son point précédent</translation>
+    </message>
+    <message>
+        <source>A new part in the middle</source>
+        <translation>Une nouvelle partie au milieu</translation>
+    </message>
+    <message>
+        <source>Remove the part</source>
+        <translation>Supprimer la partie</translation>
+    </message>
+    <message>
+        <source>Leave the part alone</source>
+        <translation>Laisser la partie</translation>
+    </message>
+    <message>
+        <source>View and steps</source>
+        <translation>Vue et étapes</translation>
+    </message>
+    <message>
+        <source>Closer</source>
+        <translation>Plus près</translation>
+    </message>
+    <message>
+        <source>Further away</source>
+        <translation>Plus loin</translation>
+    </message>
+    <message>
+        <source>The whole course</source>
+        <translation>Tout le parcours</translation>
+    </message>
+    <message>
+        <source>Held, dragging moves the view</source>
+        <translation>Maintenue, glisser déplace la vue</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
     </message>
 </context>
 <context>
@@ -14738,6 +14821,18 @@ Roulis %8° (+ intérieur), tangage %9° (+ pointe avant en haut)</translation>
     <message>
         <source>The film could not be cut</source>
         <translation>Le film n’a pas pu être coupé</translation>
+    </message>
+    <message>
+        <source>The cut has no end yet: O sets it at this frame.</source>
+        <translation>La coupe n’a pas encore de fin : O la met à cette image.</translation>
+    </message>
+    <message>
+        <source>The cut has no beginning yet: I sets it at this frame.</source>
+        <translation>La coupe n’a pas encore de début : I le met à cette image.</translation>
+    </message>
+    <message>
+        <source>Set the ends of the cut first: I where it begins, O where it ends.</source>
+        <translation>Marque d’abord les bouts de la coupe : I où elle commence, O où elle finit.</translation>
     </message>
 </context>
 <context>
@@ -19660,6 +19755,10 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
     <message>
         <source>%1 gates, %2 upstream</source>
         <translation>%1 portes, dont %2 en remontée</translation>
+    </message>
+    <message>
+        <source>“%1” is not there. It was looked for in %2, and may have been moved or renamed.</source>
+        <translation>« %1 » n’est pas là. Il a été cherché dans %2 ; il a peut-être été déplacé ou renommé.</translation>
     </message>
 </context>
 <context>
@@ -24897,10 +24996,6 @@ Place, écart et pourcentage y sont comme dans tout autre.</translation>
             <numerusform>%n départ sans intermédiaire n’est pas écrit dans le fichier. Cet ordinateur le conserve et le propose à la réouverture du fichier ici.</numerusform>
             <numerusform>%n départs sans intermédiaire ne sont pas écrits dans le fichier. Cet ordinateur les conserve et les propose à la réouverture du fichier ici.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Reading %1…</source>
-        <translation>Lecture de %1…</translation>
     </message>
 </context>
 <context>
