@@ -89,15 +89,21 @@ void TestsWindow::readRecording(const QString& path) {
     OtherEnds otherwise;
     otherwise.failed = [this, path](const std::exception_ptr& fault) { tellNotTaken(path, fault); };
     const QString name = QFileInfo(path).fileName();
-    m_takingIn.runAwaited([path] { return rawRecording(path); },
-                          [this](bmrawdata_v5 recording) { takeIn(std::move(recording)); },
-                          std::move(otherwise), {this, ToolWindow::tr("Reading %1…").arg(name)});
+    m_takingIn.runAwaited(
+        [path] { return rawRecording(path); },
+        [this, path](bmrawdata_v5 recording) { takeIn(path, std::move(recording)); },
+        std::move(otherwise), {this, ToolWindow::tr("Reading %1…").arg(name)});
 }
 
-void TestsWindow::takeIn(bmrawdata_v5 recording) {
-    TakeRecordingDialog dialog(std::move(recording), chosenAthlete(), this);
-    if (dialog.exec() == QDialog::Accepted)
-        addAndChoose(tr("test taken in"), {dialog.test()});
+/// What is in it may tell nothing.
+void TestsWindow::takeIn(const QString& path, bmrawdata_v5 recording) {
+    const std::exception_ptr fault = faultOf([&] {
+        TakeRecordingDialog dialog(std::move(recording), chosenAthlete(), this);
+        if (dialog.exec() == QDialog::Accepted)
+            addAndChoose(tr("test taken in"), {dialog.test()});
+    });
+    if (fault)
+        tellNotTaken(path, fault);
 }
 
 void TestsWindow::tellNotTaken(const QString& path, const std::exception_ptr& fault) {

@@ -73,7 +73,7 @@ private:
     void tell(const QString& title, const QString& text);
     void takeIn(RecognisedSplitFile file);
     void readRecording(const QString& path);
-    void takeIn(bmrawdata_v5 recording);
+    void takeIn(const QString& path, bmrawdata_v5 recording);
     void tellNotTaken(const QString& path, const std::exception_ptr& fault);
     void addAndChoose(const QString& what, std::vector<TestsDocument::Content> tests);
     [[nodiscard]] std::string chosenAthlete() const;
