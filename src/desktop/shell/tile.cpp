@@ -46,7 +46,7 @@ QStringList linesOf(const QString& text, const QFont& font, int width, int most)
 } // namespace
 
 int Tile::linesFor(const QStringList& purposes, const QWidget& over) {
-    constexpr int UsualWidth = 250; // four beside each other on 1280 pixels
+    constexpr int UsualWidth = 252; // four beside each other in the window as it opens
     const QFont small = theme::captionFont(over);
     const int width = wordsWidth(grown(over, UsualWidth));
     qsizetype lines = FewestLines;
