@@ -181,8 +181,9 @@ void EarlierWork::closeWherePutOff(const QString& path) const {
         const auto close = [this, window, file, path] {
             if (!m_workspace.isPutOff(path) || file->isDirty())
                 return;
+            // Home lists it, and the last window's closing would leave the program.
             if (m_program.windows().size() == 1)
-                m_program.showHome(); // which lists it; the last window's closing leaves the program
+                m_program.showHome();
             window->close();
         };
         QObject::connect(file, &EditedFile::changed, window, close);

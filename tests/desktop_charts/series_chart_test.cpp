@@ -87,10 +87,8 @@ TEST_F(SeriesChartTest, LeavesNamesOutThatHaveNoRoomAtAll) {
     races.categories = {"WC1\nTacen", "WC2\nPraha", "WC3\nPau"};
     races.series = {{"Final", {{0, 1}, {1, 3}, {2, 2}}}};
     m_chart.show(races);
-    const QtMessageHandler before =
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
-            warnings.append(text);
-        });
+    const QtMessageHandler before = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& text) { warnings.append(text); });
     for (const int width : {20, 60, 80, 100, 140}) {
         m_chart.plot().resize(width, 200);
         m_chart.plot().replot();

@@ -31,8 +31,8 @@ public:
     void undo();
     void redo();
 
-    /// While `edit` runs, what is edited is a nudge of that line. Nudges of one line without a pause
-    /// between them, as of a key that is held, are taken back at once.
+    /// While `edit` runs, what is edited is a nudge of that line. Nudges of one line without a
+    /// pause between them, as of a key that is held, are taken back at once.
     void nudging(std::size_t line, const std::function<void()>& edit);
 
 private:
@@ -54,7 +54,7 @@ private:
     SlitKeeping& m_keeping;
     SlitRace& m_race;
     std::optional<std::size_t> m_nudging;
-    QElapsedTimer m_nudgedLast; ///< not valid after a step back
+    QElapsedTimer m_nudgedLast;     ///< not valid after a step back
     std::vector<LineStep> m_done;   ///< the latest last
     std::vector<LineStep> m_undone; ///< the one to be done again first last
 };

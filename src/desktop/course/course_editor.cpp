@@ -195,17 +195,16 @@ void CourseEditor::showKeys() {
     const auto named = [](QKeyCombination key) {
         return QKeySequence(key).toString(QKeySequence::NativeText);
     };
-    const ShownKeys parts{
-        tr("Parts of the course"),
-        {{named(Qt::Key_Tab), tr("Next part")},
-         {QString::fromUtf8("← → ↑ ↓"), tr("Move the part")},
-         {QString::fromUtf8("Shift+← → ↑ ↓"), tr("Move it far")},
-         {QString::fromUtf8("Alt+← →"), tr("Turn it")},
-         {named(Qt::Key_PageDown), tr("Its next point")},
-         {named(Qt::Key_PageUp), tr("Its previous point")},
-         {named(Qt::Key_Insert), tr("A new part in the middle")},
-         {named(Qt::Key_Delete), tr("Remove the part")},
-         {named(Qt::Key_Escape), tr("Leave the part alone")}}};
+    const ShownKeys parts{tr("Parts of the course"),
+                          {{named(Qt::Key_Tab), tr("Next part")},
+                           {QString::fromUtf8("← → ↑ ↓"), tr("Move the part")},
+                           {QString::fromUtf8("Shift+← → ↑ ↓"), tr("Move it far")},
+                           {QString::fromUtf8("Alt+← →"), tr("Turn it")},
+                           {named(Qt::Key_PageDown), tr("Its next point")},
+                           {named(Qt::Key_PageUp), tr("Its previous point")},
+                           {named(Qt::Key_Insert), tr("A new part in the middle")},
+                           {named(Qt::Key_Delete), tr("Remove the part")},
+                           {named(Qt::Key_Escape), tr("Leave the part alone")}}};
     const ShownKeys rest{
         tr("View and steps"),
         {{QStringLiteral("+"), tr("Closer")},

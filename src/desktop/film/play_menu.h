@@ -21,8 +21,8 @@ public:
     /// windows. Deck and sound must live as long as the window's actions.
     PlayMenu(QMainWindow& window, FilmDeck& deck, FilmSound& sound, Workspace& workspace);
 
-    /// Only the steps of ten seconds, and those to the ends of a film, for a window that plays in its
-    /// own way and has other uses for the arrows. The deck must live as long as its actions.
+    /// Only the steps of ten seconds, and those to the ends of a film, for a window that plays in
+    /// its own way and has other uses for the arrows. The deck must live as long as its actions.
     static void addJumps(QMainWindow& window, QMenu& menu, FilmDeck& deck);
 
 protected:
