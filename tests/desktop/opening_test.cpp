@@ -175,7 +175,7 @@ TEST_F(OpeningTest, NamesTheFileThatCannotBeReadAndTheReason) {
     EXPECT_THAT(
         m_recorder.alerts,
         ElementsAre(::testing::AllOf(HasSubstr(IncompatibleFileText), HasSubstr("heat1.kvx: ")),
-                    HasSubstr("cup.kvx: "), HasSubstr("“gone.kvx” is not there")));
+                    HasSubstr("cup.kvx: "), HasSubstr("gone.kvx: there is no such file")));
     EXPECT_TRUE(m_program.windows().isEmpty());
 }
 

@@ -4,7 +4,6 @@
 #include "desktop/race/race_document.h"
 #include "desktop/shell/qt_text.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include <exception>
@@ -29,19 +28,7 @@ QString upgradeNoteOf(const OpenedRace& race) {
         .arg(version, qtText(race.backup.filename().string()));
 }
 
-/// A recent file that was moved is nothing that a newer release would read.
-void tellMissing(ReadRace& race) {
-    const QFileInfo file(race.path);
-    race.notes.log()(race.path.toStdString() + ": there is no such file");
-    race.notes.show({"", RaceDocument::tr("“%1” is not there. It was looked for in %2, and may have "
-                                          "been moved or renamed.")
-                             .arg(file.fileName(), QDir::toNativeSeparators(file.absolutePath()))
-                             .toStdString()});
-}
-
 void readUpgraded(ReadRace& race, const Clock& clock) {
-    if (!QFileInfo::exists(race.path))
-        return tellMissing(race);
     const std::filesystem::path file = race.path.toStdString();
     auto opened = openRace(file, race.notes.log(), race.notes, clock);
     if (!opened)
