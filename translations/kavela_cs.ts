@@ -19831,10 +19831,6 @@ Jednotky, součty, zatížení, cykly, místo, testy a cíle dalších týdnů s
         <source>%1 gates, %2 upstream</source>
         <translation>branek: %1, protivodných: %2</translation>
     </message>
-    <message>
-        <source>“%1” is not there. It was looked for in %2, and may have been moved or renamed.</source>
-        <translation>„%1“ tam není. Hledal se v %2 a mohl být přesunut nebo přejmenován.</translation>
-    </message>
 </context>
 <context>
     <name>kavela::desktop::RaceHeader</name>

@@ -19756,10 +19756,6 @@ Einheiten, Summen, Belastung, Zyklen, Ort, Tests und Ziele der Wochen dahinter w
         <source>%1 gates, %2 upstream</source>
         <translation>%1 Tore, davon %2 aufwärts</translation>
     </message>
-    <message>
-        <source>“%1” is not there. It was looked for in %2, and may have been moved or renamed.</source>
-        <translation>„%1“ ist nicht da. Gesucht wurde in %2; vielleicht wurde die Datei verschoben oder umbenannt.</translation>
-    </message>
 </context>
 <context>
     <name>kavela::desktop::RaceHeader</name>

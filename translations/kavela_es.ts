@@ -19756,10 +19756,6 @@ Se sustituyen sesiones, totales, carga, ciclos, lugar, pruebas y objetivos de la
         <source>%1 gates, %2 upstream</source>
         <translation>%1 puertas, %2 remontes</translation>
     </message>
-    <message>
-        <source>“%1” is not there. It was looked for in %2, and may have been moved or renamed.</source>
-        <translation>«%1» no está. Se buscó en %2; puede que se haya movido o cambiado de nombre.</translation>
-    </message>
 </context>
 <context>
     <name>kavela::desktop::RaceHeader</name>

@@ -19756,10 +19756,6 @@ Séances, totaux, charge, cycles, lieu, tests et objectifs des semaines suivante
         <source>%1 gates, %2 upstream</source>
         <translation>%1 portes, dont %2 en remontée</translation>
     </message>
-    <message>
-        <source>“%1” is not there. It was looked for in %2, and may have been moved or renamed.</source>
-        <translation>« %1 » n’est pas là. Il a été cherché dans %2 ; il a peut-être été déplacé ou renommé.</translation>
-    </message>
 </context>
 <context>
     <name>kavela::desktop::RaceHeader</name>
